@@ -1,0 +1,34 @@
+// A callback of two words: a function and the object it works on. Binding allocates nothing and cannot fail.
+#pragma once
+
+namespace qdix::base {
+
+template <class Signature>
+class Callback;
+
+/// Unbound callbacks test false and must not be called. The bound object must outlive the callback.
+template <class R, class... Args>
+class Callback<R(Args...)> {
+ public:
+  constexpr Callback() = default;
+
+  /// Binds a member function: `Callback<Status()>::To<&Form1::Command1_Click>(form)`.
+  template <auto Method, class Object>
+  [[nodiscard]] static constexpr Callback To(Object& object) {
+    return Callback(&object, [](void* bound, Args... args) -> R {
+      return (static_cast<Object*>(bound)->*Method)(args...);
+    });
+  }
+
+  constexpr explicit operator bool() const { return function_ != nullptr; }
+  R operator()(Args... args) const { return function_(object_, args...); }
+
+ private:
+  using Function = R (*)(void*, Args...);
+  constexpr Callback(void* object, Function function) : object_(object), function_(function) {}
+
+  void* object_ = nullptr;
+  Function function_ = nullptr;
+};
+
+}  // namespace qdix::base
