@@ -1,0 +1,29 @@
+// Message boxes. They belong to the main window and let timers and other handlers run while they are open.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace qdix::os {
+
+inline constexpr std::uint32_t kMbOk = 0x0000U;
+inline constexpr std::uint32_t kMbYesNo = 0x0004U;
+inline constexpr std::uint32_t kMbIconStop = 0x0010U;
+inline constexpr std::uint32_t kMbIconInformation = 0x0040U;
+inline constexpr std::uint32_t kMbDefaultButton2 = 0x0100U;
+
+inline constexpr int kIdNone = 0;
+inline constexpr int kIdOk = 1;
+inline constexpr int kIdYes = 6;
+inline constexpr int kIdNo = 7;
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+
+  /// Shows a box and waits for the answer: kIdOk, kIdYes or kIdNo. kIdNone when the box could not be shown or
+  /// was dismissed because the program ends; that answer means "nothing was agreed".
+  virtual int MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) = 0;
+};
+
+}  // namespace qdix::os

@@ -1,0 +1,60 @@
+// The registry as the system offers it. Methods are named as the calls they stand for and return the system's
+// code: 0 is success.
+#pragma once
+
+#include <cstdint>
+
+namespace qdix::os {
+
+/// An open key or one of the predefined roots.
+using KeyHandle = std::uint32_t;
+
+inline constexpr KeyHandle kHkeyClassesRoot = 0x80000000U;
+inline constexpr KeyHandle kHkeyCurrentUser = 0x80000001U;
+inline constexpr KeyHandle kHkeyLocalMachine = 0x80000002U;
+inline constexpr KeyHandle kHkeyUsers = 0x80000003U;
+
+inline constexpr std::int32_t kErrorSuccess = 0;
+inline constexpr std::int32_t kErrorFileNotFound = 2;
+inline constexpr std::int32_t kErrorAccessDenied = 5;
+inline constexpr std::int32_t kErrorInvalidHandle = 6;
+inline constexpr std::int32_t kErrorMoreData = 234;
+
+inline constexpr std::uint32_t kRegSz = 1;
+inline constexpr std::uint32_t kRegBinary = 3;
+inline constexpr std::uint32_t kRegDword = 4;
+
+inline constexpr std::uint32_t kKeyQueryValue = 0x0001U;
+inline constexpr std::uint32_t kKeySetValue = 0x0002U;
+inline constexpr std::uint32_t kKeyAllAccess = 0xF003FU;
+
+class Registry {
+ public:
+  virtual ~Registry() = default;
+
+  /// Opens an existing key. `opened` is written on success only.
+  [[nodiscard]] virtual std::int32_t RegOpenKeyExA(KeyHandle parent, const char* subkey, std::uint32_t access,
+                                                   KeyHandle& opened) = 0;
+
+  /// Opens a key and creates it, with every missing key above it, when it does not exist. `opened` is written
+  /// on success only.
+  [[nodiscard]] virtual std::int32_t RegCreateKeyExA(KeyHandle parent, const char* subkey,
+                                                     std::uint32_t access, KeyHandle& opened) = 0;
+
+  /// Reads a value. `value_name` may be empty for the unnamed value. `data` may be null to ask for type and
+  /// size only. `size_bytes` holds the room on entry and the size of the value on return; too little room is
+  /// kErrorMoreData.
+  [[nodiscard]] virtual std::int32_t RegQueryValueExA(KeyHandle key, const char* value_name,
+                                                      std::uint32_t& type, std::uint8_t* data,
+                                                      std::uint32_t& size_bytes) = 0;
+
+  /// Writes a value of any type; the size of a text counts its closing NUL.
+  [[nodiscard]] virtual std::int32_t RegSetValueExA(KeyHandle key, const char* value_name, std::uint32_t type,
+                                                    const std::uint8_t* data, std::uint32_t size_bytes) = 0;
+
+  [[nodiscard]] virtual std::int32_t RegDeleteValueA(KeyHandle key, const char* value_name) = 0;
+
+  virtual std::int32_t RegCloseKey(KeyHandle key) = 0;
+};
+
+}  // namespace qdix::os

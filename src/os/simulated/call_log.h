@@ -1,0 +1,47 @@
+// The record of what was asked of the simulated machine, and the plan of which calls fail.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace qdix::os::simulated {
+
+class CallLog {
+ public:
+  /// Records a call that cannot fail.
+  void Record(const std::string& name, const std::string& arguments = {}) {
+    calls_.push_back(name + "(" + arguments + ")");
+  }
+
+  /// Records a call that can fail; true where the plan says that this one does.
+  [[nodiscard]] bool RecordAndFail(const std::string& name, const std::string& arguments = {}) {
+    Record(name, arguments);
+    ++faultable_calls_;
+    if (name == fail_next_name_) {
+      fail_next_name_.clear();
+      return true;
+    }
+    return faultable_calls_ == fail_number_ || (fail_from_ != 0 && faultable_calls_ >= fail_from_);
+  }
+
+  void FailNext(const std::string& name) { fail_next_name_ = name; }
+  void FailNumber(int number) { fail_number_ = number; }
+  void FailFrom(int number) { fail_from_ = number; }
+
+  /// Something that a correct program never does.
+  void Misuse(const std::string& what) { misuses_.push_back(what); }
+
+  [[nodiscard]] const std::vector<std::string>& Calls() const { return calls_; }
+  [[nodiscard]] const std::vector<std::string>& Misuses() const { return misuses_; }
+  [[nodiscard]] int FaultableCalls() const { return faultable_calls_; }
+
+ private:
+  std::vector<std::string> calls_;
+  std::vector<std::string> misuses_;
+  std::string fail_next_name_;
+  int faultable_calls_ = 0;
+  int fail_number_ = 0;
+  int fail_from_ = 0;
+};
+
+}  // namespace qdix::os::simulated

@@ -1,0 +1,103 @@
+#include "os/simulated/simulated_desktop.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+
+namespace qdix::os::simulated {
+
+namespace {
+
+std::string Shown(const char* text) { return text == nullptr ? "any" : text; }
+
+bool Matches(const char* wanted, const std::string& actual) {
+  return wanted == nullptr || base::EqualsIgnoringCase(wanted, actual);
+}
+
+}  // namespace
+
+std::vector<SimulatedWindows::Window>::iterator SimulatedWindows::Find(WindowHandle window) {
+  return std::find_if(windows_.begin(), windows_.end(),
+                      [window](const Window& entry) { return entry.handle == window; });
+}
+
+WindowHandle SimulatedWindows::FindWindowA(const char* window_class, const char* title) {
+  if (log_.RecordAndFail("FindWindowA", Shown(window_class) + ", " + Shown(title))) return 0;
+  for (const Window& window : windows_) {
+    if (Matches(window_class, window.window_class) && Matches(title, window.title)) return window.handle;
+  }
+  return 0;
+}
+
+WindowHandle SimulatedWindows::GetWindow(WindowHandle window, std::uint32_t relation) {
+  if (log_.RecordAndFail("GetWindow", std::to_string(relation))) return 0;
+  const auto found = Find(window);
+  if (relation != kGwHwndPrev || found == windows_.end() || found == windows_.begin()) return 0;
+  return std::prev(found)->handle;
+}
+
+bool SimulatedWindows::OpenIcon(WindowHandle window) {
+  if (log_.RecordAndFail("OpenIcon")) return false;
+  const auto found = Find(window);
+  if (found == windows_.end()) return false;
+  found->is_minimised = false;
+  return true;
+}
+
+bool SimulatedWindows::SetForegroundWindow(WindowHandle window) {
+  if (log_.RecordAndFail("SetForegroundWindow") || Find(window) == windows_.end()) return false;
+  foreground_ = window;
+  return true;
+}
+
+WindowHandle SimulatedWindows::Open(const std::string& window_class, const std::string& title) {
+  windows_.insert(windows_.begin(), {next_handle_, window_class, title, false});
+  return next_handle_++;
+}
+
+void SimulatedWindows::Close(WindowHandle window) { windows_.erase(Find(window)); }
+
+void SimulatedWindows::SetTitle(WindowHandle window, const std::string& title) {
+  Find(window)->title = title;
+}
+
+void SimulatedWindows::Minimise(WindowHandle window) { Find(window)->is_minimised = true; }
+
+bool SimulatedWindows::IsMinimised(WindowHandle window) const {
+  return std::any_of(windows_.begin(), windows_.end(),
+                     [window](const Window& entry) { return entry.handle == window && entry.is_minimised; });
+}
+
+void SimulatedWindows::PlaceDirectlyBehind(WindowHandle window, WindowHandle front) {
+  const Window moved = *Find(window);
+  windows_.erase(Find(window));
+  windows_.insert(std::next(Find(front)), moved);
+}
+
+int SimulatedDialogs::MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) {
+  if (log_.RecordAndFail("MessageBoxA", text)) return kIdNone;
+  boxes_.push_back({text, title, flags});
+  if (while_open_) while_open_();
+  if (!answers_.empty()) {
+    const int answer = answers_.front();
+    answers_.erase(answers_.begin());
+    return answer;
+  }
+  if ((flags & kMbYesNo) == 0) return kIdOk;
+  return (flags & kMbDefaultButton2) != 0 ? kIdNo : kIdYes;
+}
+
+bool SimulatedShell::Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& data) {
+  const std::string tip(base::CutAtNul({data.tip.data(), data.tip.size()}));
+  if (log_.RecordAndFail("Shell_NotifyIconA", std::to_string(request) + ", " + tip)) return false;
+  requests_.push_back({request, data, tip});
+  if (request == kNimAdd) {
+    ++icons_;
+    return true;
+  }
+  if (icons_ == 0) return false;
+  if (request == kNimDelete) --icons_;
+  return true;
+}
+
+}  // namespace qdix::os::simulated

@@ -1,0 +1,95 @@
+// What a user of the simulated machine sees: windows of other programs, message boxes, the notification area.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "os/dialogs.h"
+#include "os/shell.h"
+#include "os/simulated/call_log.h"
+#include "os/windows.h"
+
+namespace qdix::os::simulated {
+
+class SimulatedWindows final : public Windows {
+ public:
+  explicit SimulatedWindows(CallLog& log) : log_(log) {}
+
+  WindowHandle FindWindowA(const char* window_class, const char* title) override;
+  WindowHandle GetWindow(WindowHandle window, std::uint32_t relation) override;
+  bool OpenIcon(WindowHandle window) override;
+  bool SetForegroundWindow(WindowHandle window) override;
+
+  /// Opens a window in front of all others.
+  WindowHandle Open(const std::string& window_class, const std::string& title);
+  void Close(WindowHandle window);
+  void SetTitle(WindowHandle window, const std::string& title);
+  void Minimise(WindowHandle window);
+  void PlaceDirectlyBehind(WindowHandle window, WindowHandle front);
+  [[nodiscard]] bool IsMinimised(WindowHandle window) const;
+  [[nodiscard]] WindowHandle Foreground() const { return foreground_; }
+
+ private:
+  struct Window {
+    WindowHandle handle;
+    std::string window_class;
+    std::string title;
+    bool is_minimised;
+  };
+  [[nodiscard]] std::vector<Window>::iterator Find(WindowHandle window);
+
+  CallLog& log_;
+  /// The nearest to the user first.
+  std::vector<Window> windows_;
+  WindowHandle next_handle_ = 0x1000;
+  WindowHandle foreground_ = 0;
+};
+
+struct Box {
+  std::string text;
+  std::string title;
+  std::uint32_t flags;
+};
+
+class SimulatedDialogs final : public Dialogs {
+ public:
+  explicit SimulatedDialogs(CallLog& log) : log_(log) {}
+
+  int MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) override;
+
+  /// Answers of the next boxes, in order; after them each box gets its default button.
+  void AnswerNext(int answer) { answers_.push_back(answer); }
+  void WhileOpen(std::function<void()> action) { while_open_ = std::move(action); }
+  [[nodiscard]] const std::vector<Box>& Boxes() const { return boxes_; }
+
+ private:
+  CallLog& log_;
+  std::vector<Box> boxes_;
+  std::vector<int> answers_;
+  std::function<void()> while_open_;
+};
+
+struct TrayRequest {
+  std::uint32_t request;
+  NotifyIconData data;
+  /// The tip up to its NUL.
+  std::string tip;
+};
+
+class SimulatedShell final : public Shell {
+ public:
+  explicit SimulatedShell(CallLog& log) : log_(log) {}
+
+  bool Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& data) override;
+
+  [[nodiscard]] const std::vector<TrayRequest>& Requests() const { return requests_; }
+  [[nodiscard]] int IconCount() const { return icons_; }
+
+ private:
+  CallLog& log_;
+  std::vector<TrayRequest> requests_;
+  int icons_ = 0;
+};
+
+}  // namespace qdix::os::simulated

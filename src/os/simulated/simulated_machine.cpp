@@ -1,0 +1,116 @@
+#include "os/simulated/simulated_machine.h"
+
+#include <array>
+
+#include "base/date.h"
+#include "base/text.h"
+
+namespace qdix::os {
+
+namespace {
+
+constexpr double kMsPerDay = 24.0 * 60 * 60 * 1000;
+
+template <class Accesses>
+std::vector<std::string> NamesFrom(const Accesses& accesses, std::size_t first_call) {
+  std::vector<std::string> names;
+  for (const auto& access : accesses) {
+    if (access.call > first_call) names.push_back(access.name);
+  }
+  return names;
+}
+
+}  // namespace
+
+SimulatedMachine::SimulatedMachine()
+    : system_{memory_, registry_, *this, windows_, dialogs_, *this, *this, shell_} {}
+
+void SimulatedMachine::SetMemory(std::uint32_t total_physical, std::uint32_t available_physical,
+                                 std::uint32_t total_page_file, std::uint32_t available_page_file) {
+  MemoryStatus status;
+  status.total_physical = total_physical;
+  status.available_physical = available_physical;
+  status.total_page_file = total_page_file;
+  status.available_page_file = available_page_file;
+  memory_.SetStatus(status);
+}
+
+void SimulatedMachine::SetRegistryValue(KeyHandle root, const std::string& path, const std::string& name,
+                                        const std::string& text) {
+  SetRegistryBytes(root, path, name, kRegSz, text + '\0');
+}
+
+void SimulatedMachine::SetRegistryBytes(KeyHandle root, const std::string& path, const std::string& name,
+                                        std::uint32_t type, const std::string& bytes) {
+  registry_.SetValue(root, path, name, {type, bytes});
+}
+
+std::optional<std::string> SimulatedMachine::RegistryText(KeyHandle root, const std::string& path,
+                                                          const std::string& name) const {
+  const auto value = registry_.Value(root, path, name);
+  if (!value || value->type != kRegSz) return std::nullopt;
+  return std::string(base::CutAtNul(value->bytes));
+}
+
+std::map<std::string, std::string> SimulatedMachine::RegistryTexts(KeyHandle root,
+                                                                   const std::string& path) const {
+  std::map<std::string, std::string> texts;
+  for (const auto& [name, value] : registry_.Values(root, path)) {
+    if (value.type == kRegSz) texts[name] = std::string(base::CutAtNul(value.bytes));
+  }
+  return texts;
+}
+
+std::vector<std::string> SimulatedMachine::WrittenValueNames(std::size_t first_call) const {
+  return NamesFrom(registry_.WrittenValues(), first_call);
+}
+
+std::vector<std::string> SimulatedMachine::QueriedValueNames() const {
+  return NamesFrom(registry_.QueriedValues(), 0);
+}
+
+void SimulatedMachine::AdvanceMs(std::int64_t ms) {
+  now_days_ += static_cast<double>(ms) / kMsPerDay;
+  tick_count_ms_ += static_cast<std::uint32_t>(ms);
+}
+
+void SimulatedMachine::PumpEvents() {
+  ++pumps_;
+  if (on_pump_) on_pump_(pumps_);
+}
+
+double SimulatedMachine::Now() {
+  log_.Record("Now");
+  return now_days_;
+}
+
+std::uint32_t SimulatedMachine::GetTickCount() {
+  log_.Record("GetTickCount");
+  return tick_count_ms_;
+}
+
+/// The picture "dddd, MMMM d, yyyy" of an English Windows.
+std::string SimulatedMachine::LongDate(double days) {
+  constexpr std::array<const char*, 7> kWeekdays{"Saturday",  "Sunday",   "Monday", "Tuesday",
+                                                 "Wednesday", "Thursday", "Friday"};
+  constexpr std::array<const char*, 12> kMonths{"January",   "February", "March",    "April",
+                                                "May",       "June",     "July",     "August",
+                                                "September", "October",  "November", "December"};
+  log_.Record("LongDate");
+  const auto date = base::DateOfDays(days);
+  if (!date) return {};
+  return std::string(kWeekdays[static_cast<std::size_t>(date->weekday)]) + ", " +
+         kMonths[static_cast<std::size_t>(date->month - 1)] + " " + std::to_string(date->day) + ", " +
+         std::to_string(date->year);
+}
+
+bool SimulatedMachine::MutexExistedBefore(const char* name) {
+  if (log_.RecordAndFail("MutexExistedBefore", name)) return false;
+  return !mutexes_.insert(name).second || other_copy_;
+}
+
+std::string SimulatedMachine::ModuleFileName() {
+  return log_.RecordAndFail("ModuleFileName") ? std::string() : module_file_name_;
+}
+
+}  // namespace qdix::os

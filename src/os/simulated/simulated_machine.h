@@ -1,0 +1,117 @@
+// A Windows 98 machine that a test sets up as it likes. Records what was asked of it, in order, and fails the
+// calls that a test names.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "os/simulated/call_log.h"
+#include "os/simulated/simulated_desktop.h"
+#include "os/simulated/simulated_memory.h"
+#include "os/simulated/simulated_registry.h"
+#include "os/system.h"
+
+namespace qdix::os {
+
+class SimulatedMachine final : private EventPump, private Clock, private Processes {
+ public:
+  SimulatedMachine();
+  SimulatedMachine(const SimulatedMachine&) = delete;
+  SimulatedMachine& operator=(const SimulatedMachine&) = delete;
+
+  [[nodiscard]] const System& GetSystem() const { return system_; }
+
+  // Memory, in bytes.
+  void SetMemory(std::uint32_t total_physical, std::uint32_t available_physical,
+                 std::uint32_t total_page_file, std::uint32_t available_page_file);
+  /// Blocks that would take more than this together are refused.
+  void LimitAllocatableBytes(std::uint64_t bytes) { memory_.LimitAllocatableBytes(bytes); }
+  [[nodiscard]] const std::vector<std::uint32_t>& AllAllocations() const { return memory_.AllAllocations(); }
+  [[nodiscard]] std::vector<std::uint32_t> OutstandingBlocks() const { return memory_.OutstandingBlocks(); }
+  [[nodiscard]] std::vector<std::uint32_t> TouchedPages() const { return memory_.TouchedPages(); }
+
+  // Registry.
+  void CreateRegistryKey(KeyHandle root, const std::string& path) { registry_.CreateKey(root, path); }
+  /// Stores a text with its closing NUL.
+  void SetRegistryValue(KeyHandle root, const std::string& path, const std::string& name,
+                        const std::string& text);
+  void SetRegistryBytes(KeyHandle root, const std::string& path, const std::string& name, std::uint32_t type,
+                        const std::string& bytes);
+  [[nodiscard]] std::optional<std::string> RegistryText(KeyHandle root, const std::string& path,
+                                                        const std::string& name) const;
+  [[nodiscard]] std::map<std::string, std::string> RegistryTexts(KeyHandle root,
+                                                                 const std::string& path) const;
+  [[nodiscard]] bool KeyExists(KeyHandle root, const std::string& path) const {
+    return registry_.KeyExists(root, path);
+  }
+  void DenyWrites(KeyHandle root, const std::string& path) { registry_.DenyWrites(root, path); }
+  [[nodiscard]] int OpenKeyCount() const { return registry_.OpenKeyCount(); }
+  /// Names of the values written, in order, from the given number of recorded calls on.
+  [[nodiscard]] std::vector<std::string> WrittenValueNames(std::size_t first_call = 0) const;
+  [[nodiscard]] std::vector<std::string> QueriedValueNames() const;
+
+  // Event pump: the action runs inside each pump, with the number of the pump, the first being 1.
+  void OnPump(std::function<void(int)> action) { on_pump_ = std::move(action); }
+  [[nodiscard]] int PumpCount() const { return pumps_; }
+
+  // Windows of other programs.
+  WindowHandle OpenWindow(const std::string& window_class, const std::string& title) {
+    return windows_.Open(window_class, title);
+  }
+  void CloseWindow(WindowHandle window) { windows_.Close(window); }
+  void SetWindowTitle(WindowHandle window, const std::string& title) { windows_.SetTitle(window, title); }
+  void Minimise(WindowHandle window) { windows_.Minimise(window); }
+  void PlaceDirectlyBehind(WindowHandle window, WindowHandle front) {
+    windows_.PlaceDirectlyBehind(window, front);
+  }
+  [[nodiscard]] bool IsMinimised(WindowHandle window) const { return windows_.IsMinimised(window); }
+  [[nodiscard]] WindowHandle ForegroundWindow() const { return windows_.Foreground(); }
+
+  // Message boxes.
+  void AnswerNextBox(int answer) { dialogs_.AnswerNext(answer); }
+  void WhileBoxIsOpen(std::function<void()> action) { dialogs_.WhileOpen(std::move(action)); }
+  [[nodiscard]] const std::vector<simulated::Box>& Boxes() const { return dialogs_.Boxes(); }
+
+  // Notification area.
+  [[nodiscard]] const std::vector<simulated::TrayRequest>& TrayRequests() const { return shell_.Requests(); }
+  [[nodiscard]] int TrayIconCount() const { return shell_.IconCount(); }
+
+  // Time and this process.
+  void SetNow(double days) { now_days_ = days; }
+  void AdvanceMs(std::int64_t ms);
+  void SetOtherCopyRunning(bool is_running) { other_copy_ = is_running; }
+  void SetModuleFileName(const std::string& path) { module_file_name_ = path; }
+
+  // Faults and records. A number counts the calls that can fail, the first being 1.
+  void FailNextCall(const std::string& name) { log_.FailNext(name); }
+  void FailCallNumber(int number) { log_.FailNumber(number); }
+  void FailFromCallNumber(int number) { log_.FailFrom(number); }
+  [[nodiscard]] int FaultableCallCount() const { return log_.FaultableCalls(); }
+  [[nodiscard]] const std::vector<std::string>& Calls() const { return log_.Calls(); }
+  [[nodiscard]] const std::vector<std::string>& Misuses() const { return log_.Misuses(); }
+
+ private:
+  void PumpEvents() override;
+  double Now() override;
+  std::uint32_t GetTickCount() override;
+  std::string LongDate(double days) override;
+  bool MutexExistedBefore(const char* name) override;
+  std::string ModuleFileName() override;
+
+  simulated::CallLog log_;
+  simulated::SimulatedMemory memory_{log_};
+  simulated::SimulatedRegistry registry_{log_};
+  simulated::SimulatedWindows windows_{log_};
+  simulated::SimulatedDialogs dialogs_{log_};
+  simulated::SimulatedShell shell_{log_};
+  System system_;
+  std::function<void(int)> on_pump_;
+  int pumps_ = 0;
+  double now_days_ = 0;
+  std::uint32_t tick_count_ms_ = 0;
+  bool other_copy_ = false;
+  std::set<std::string> mutexes_;
+  std::string module_file_name_ = "C:\\Program Files\\QDIX\\QDIX.exe";
+};
+
+}  // namespace qdix::os

@@ -1,0 +1,27 @@
+// Everything that the program asks of the machine, by subject. A plain bundle of references: whoever makes it
+// keeps the implementations.
+#pragma once
+
+#include "os/clock.h"
+#include "os/dialogs.h"
+#include "os/event_pump.h"
+#include "os/memory.h"
+#include "os/processes.h"
+#include "os/registry.h"
+#include "os/shell.h"
+#include "os/windows.h"
+
+namespace qdix::os {
+
+struct System {
+  Memory& memory;
+  Registry& registry;
+  EventPump& event_pump;
+  Windows& windows;
+  Dialogs& dialogs;
+  Clock& clock;
+  Processes& processes;
+  Shell& shell;
+};
+
+}  // namespace qdix::os
