@@ -1,0 +1,92 @@
+#include "controls/meter3.h"
+
+namespace qdix::controls {
+
+namespace {
+
+constexpr int kTwipsPerPixel = 15;
+
+// Segment 0 stands here; each further one begins 20 twips before its neighbour ends, so that their borders
+// merge into one line.
+constexpr int kSegmentLeftTwips = 30;
+constexpr int kSegmentTopTwips = 25;
+constexpr int kSegmentWidthTwips = 65;
+constexpr int kSegmentHeightTwips = 180;
+constexpr int kSegmentOverlapTwips = 20;
+
+constexpr const char* kValueName = "Value";
+constexpr const char* kBorderName = "Border";
+
+constexpr int ToPixels(int twips) { return (twips + kTwipsPerPixel / 2) / kTwipsPerPixel; }
+
+constexpr int SegmentLeft(int segment) {
+  return ToPixels(kSegmentLeftTwips + segment * (kSegmentWidthTwips - kSegmentOverlapTwips));
+}
+
+constexpr int kSegmentTop = ToPixels(kSegmentTopTwips);
+constexpr int kSegmentWidth = ToPixels(kSegmentWidthTwips);
+constexpr int kSegmentHeight = ToPixels(kSegmentHeightTwips);
+
+ui::BorderStyle StyleOf(std::int16_t border) {
+  return border == 0 ? ui::BorderStyle::kNone : ui::BorderStyle::kThreeD;
+}
+
+}  // namespace
+
+Meter3::Meter3(ui::Container& parent, const ui::Design& design)
+    : DrawingControl(parent, design, ui::BorderStyle::kThreeD) {}
+
+base::Status Meter3::SetValue(std::int16_t value) {
+  if (value < 0 || value > kHighestValue) return base::kInvalidPropertyValue;
+  if (value_ == value) return base::kDone;
+  value_ = value;
+  SetLevelValue();
+  ShowLevel();
+  return base::kDone;
+}
+
+base::Status Meter3::SetBorder(std::int16_t border) {
+  if (border != 0 && border != 1) return base::kInvalidPropertyValue;
+  border_ = border;
+  SetBorderStyle(StyleOf(border));
+  return base::kDone;
+}
+
+void Meter3::Resize(int /*width_twips*/, int /*height_twips*/) {
+  width_twips_ = kWidthTwips;
+  height_twips_ = kHeightTwips;
+}
+
+ui::DrawingControl::PixelSize Meter3::InnerSize() const {
+  const int border_pixels = border_ == 0 ? 0 : ui::kThreeDBorderPixels;
+  return {ToPixels(width_twips_) - 2 * border_pixels, ToPixels(height_twips_) - 2 * border_pixels};
+}
+
+void Meter3::ShowLevel() {
+  ui::Canvas* const canvas = Surface();
+  if (canvas == nullptr) return;
+  for (int segment = 0; segment < kSegments; ++segment) {
+    const int left = SegmentLeft(segment);
+    canvas->FillBorderedBox(left, kSegmentTop, left + kSegmentWidth - 1, kSegmentTop + kSegmentHeight - 1,
+                            segment < level_ ? kLit : kUnlit, kSegmentBorder);
+  }
+  PixelsChanged();
+}
+
+void Meter3::DrawAll() {
+  Surface()->FillBox(0, 0, Surface()->Width() - 1, Surface()->Height() - 1, BackColour());
+  ShowLevel();
+}
+
+void Meter3::ReadProperties(const ui::PropertyBag& bag) {
+  // What a bag holds outside the ranges leaves the property as it is.
+  base::Ignore(SetValue(static_cast<std::int16_t>(bag.ReadProperty(kValueName, 0))));
+  base::Ignore(SetBorder(static_cast<std::int16_t>(bag.ReadProperty(kBorderName, 1))));
+}
+
+void Meter3::WriteProperties(ui::PropertyBag& bag) const {
+  bag.WriteProperty(kValueName, value_, 0);
+  bag.WriteProperty(kBorderName, border_, 1);
+}
+
+}  // namespace qdix::controls

@@ -1,0 +1,89 @@
+#include "ui/form.h"
+
+namespace qdix::ui {
+
+Form::Form(EventDispatcher& events, const Design& design)
+    : Container(nullptr, Kind::kForm, design), events_(events) {
+  SetVisible(false);
+}
+
+void Form::Show() {
+  if (Shown() || unloaded_) return;
+  SetVisible(true);
+  events_.Run(OnActivate);
+}
+
+void Form::Hide() { SetVisible(false); }
+
+void Form::SetState(WindowState state) {
+  if (state_ == state || unloaded_) return;
+  state_ = state;
+  Notify(Change::kWindowState);
+}
+
+bool Form::MoveFocus(Control* to) {
+  if (to != nullptr && !to->Reachable()) return false;
+  if (focused_ == to) {
+    focus_set_by_handler_ = true;
+    return true;
+  }
+  if (focused_ != nullptr && !LeaveFocused()) return false;
+  focused_ = to;
+  if (to == nullptr) return true;
+  to->Notify(Change::kFocus);
+  events_.Run(to->OnGotFocus);
+  return true;
+}
+
+/// Asks the control with the focus whether it lets go. It keeps the focus when it refuses, and when its
+/// handler put the focus back on it.
+bool Form::LeaveFocused() {
+  if (moving_focus_) return false;
+  Control* const left = focused_;
+  moving_focus_ = true;
+  focus_set_by_handler_ = false;
+  const bool accepted = Validates(*left);
+  const bool kept = focus_set_by_handler_;
+  moving_focus_ = false;
+  if (!accepted || kept) {
+    left->Notify(Change::kFocus);  // a window that has already let go takes the keyboard back
+    return false;
+  }
+  focused_ = nullptr;
+  events_.Run(left->OnLostFocus);
+  return true;
+}
+
+bool Form::Validates(Control& control) {
+  if (!control.OnValidate || events_.Stopped()) return true;
+  const base::Result<bool> answer = control.OnValidate();
+  if (answer.Ok()) return answer.Value();
+  events_.Report(answer.Error());
+  return true;
+}
+
+void Form::DropUnreachableFocus() {
+  if (focused_ == nullptr || focused_->Reachable()) return;
+  Control* const left = focused_;
+  focused_ = nullptr;
+  events_.Run(left->OnLostFocus);
+}
+
+void Form::PopUpMenu(MenuItem& menu) {
+  if (form_peer_ != nullptr && !unloaded_) form_peer_->PopUp(menu);
+}
+
+void Form::Unload() {
+  if (unloading_) return;
+  unloading_ = true;
+  events_.Run(OnUnload);
+  unloaded_ = true;
+  events_.Stop();
+  if (form_peer_ != nullptr) form_peer_->FormUnloaded();
+}
+
+void Form::PointerMoved(int button, int shift, double x_twips, double y_twips) {
+  events_.Run(OnMouseMove, button, shift, x_twips, y_twips);
+}
+
+}  // namespace qdix::ui

@@ -1,0 +1,58 @@
+// Menus and their entries. A menu is a tree; a pop-up menu is shown by the form.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/event.h"
+
+namespace qdix::ui {
+
+/// An entry, a separator or a submenu. An "&" in a caption shows as itself.
+class MenuItem {
+ public:
+  /// A root menu; its entries are made with it as parent, in order.
+  MenuItem(EventDispatcher& events, std::string_view name, std::string_view caption);
+  MenuItem(MenuItem& parent, std::string_view name, std::string_view caption);
+  static constexpr std::string_view kSeparatorCaption = "-";
+
+  MenuItem(const MenuItem&) = delete;
+  MenuItem& operator=(const MenuItem&) = delete;
+  ~MenuItem() = default;
+
+  [[nodiscard]] std::string_view Name() const { return name_; }
+  [[nodiscard]] const std::string& Caption() const { return caption_; }
+  [[nodiscard]] bool IsSeparator() const { return caption_ == kSeparatorCaption; }
+  [[nodiscard]] bool Enabled() const { return enabled_; }
+  [[nodiscard]] bool Visible() const { return visible_; }
+  [[nodiscard]] bool IsDefault() const { return is_default_; }
+  [[nodiscard]] const std::vector<MenuItem*>& Children() const { return children_; }
+
+  void SetCaption(std::string_view caption) { caption_ = caption; }
+  void SetEnabled(bool enabled) { enabled_ = enabled; }
+  /// The last visible entry of a submenu cannot be hidden: error 387, and nothing changes.
+  base::Status SetVisible(bool visible);
+  /// Marks the entry that a double click on the tray icon stands for (shown bold).
+  void SetDefault(bool is_default) { is_default_ = is_default; }
+
+  /// The user chooses the entry; nothing for a separator, a submenu, or where it or a menu above is disabled
+  /// or hidden.
+  void Choose();
+
+  Handler OnClick;
+
+ private:
+  [[nodiscard]] bool Reachable() const;
+
+  EventDispatcher& events_;
+  MenuItem* parent_;
+  std::string_view name_;
+  std::string caption_;
+  std::vector<MenuItem*> children_;
+  bool enabled_ = true;
+  bool visible_ = true;
+  bool is_default_ = false;
+};
+
+}  // namespace qdix::ui

@@ -1,0 +1,37 @@
+#include "ui/tab_strip.h"
+
+#include "ui/form.h"
+
+namespace qdix::ui {
+
+TabPage::TabPage(TabStrip& strip, const Design& design)
+    : Container(&strip, Kind::kTabPage, design), strip_(strip), index_(strip.Count()) {}
+
+bool TabPage::Open() const { return strip_.Tab() == index_; }
+
+TabStrip::TabStrip(Container& parent, const Design& design, std::span<const Design> pages)
+    : Container(&parent, Kind::kTabStrip, design) {
+  for (const Design& page : pages) pages_.push_back(std::make_unique<TabPage>(*this, page));
+}
+
+base::Status TabStrip::SetTab(int index) {
+  if (index < 0 || index >= Count()) return base::kInvalidPropertyValue;
+  if (tab_ == index) return base::kDone;
+  const int left = tab_;
+  tab_ = index;
+  Notify(Change::kValue);
+  GetForm().DropUnreachableFocus();
+  Events().Run(OnClick, left);
+  return base::kDone;
+}
+
+void TabStrip::ChooseTab(int index) {
+  if (!Reachable() || index == tab_) return;
+  if (!GetForm().MoveFocus(this)) {
+    Notify(Change::kValue);  // a window that has already switched goes back
+    return;
+  }
+  base::Ignore(SetTab(index));  // a page that does not exist is not opened
+}
+
+}  // namespace qdix::ui
