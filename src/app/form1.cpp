@@ -1,0 +1,101 @@
+#include "app/form1.h"
+
+#include "base/numbers.h"
+
+namespace qdix::app {
+
+Form1::Form1(const os::System& system)
+    : system_(system),
+      settings_(system.registry),
+      single_instance_(system, application_, window_.Form1),
+      machine_record_(system.registry),
+      monitor_(system, application_, window_.Form1, quondix_),
+      release_(system, application_, window_.Form1),
+      manual_release_(release_, settings_, quondix_),
+      automatic_release_(system, settings_, automatic_, window_.SSTab1, window_.Timer2, application_),
+      timed_release_(system, settings_, time_intervals_, window_.SSTab1, window_.Timer4, application_),
+      startup_release_(settings_, startup_, window_.Timer3),
+      startup_registration_(system, startup_),
+      window_modes_(settings_, {window_, quondix_, automatic_, time_intervals_, startup_}),
+      tray_icon_(system, window_.Form1, tray_menu_, monitor_, manual_release_) {
+  BindEvents();
+}
+
+void Form1::BindEvents() {
+  using ui::Handler;
+  events_.ReportErrorsTo(ui::EventDispatcher::ErrorReporter::To<&Form1::ReportUntrapped>(*this));
+  window_.Form1.OnActivate = Handler::To<&Form1::Form_Activate>(*this);
+  window_.Form1.OnUnload = Handler::To<&Form1::Form_Unload>(*this);
+  window_.SSTab1.OnClick = base::Callback<base::Status(int)>::To<&Form1::SSTab1_Click>(*this);
+  window_.Timer1.OnTimer = Handler::To<&Form1::Timer1_Timer>(*this);
+}
+
+void Form1::Start() {
+  events_.Run(ui::Handler::To<&Form1::Form_Load>(*this));
+  if (!window_.Form1.Unloaded() && !window_modes_.StartsHidden()) window_.Form1.Show();
+}
+
+void Form1::EndSession() {
+  application_.SetSessionIsEnding();
+  window_.Form1.Unload();
+}
+
+base::Status Form1::Form_Activate() {
+  window_.Timer1.SetEnabled(true);
+  return base::kDone;
+}
+
+base::Status Form1::Timer1_Timer() { return monitor_.RefreshMemoryDisplay(); }
+
+base::Status Form1::SSTab1_Click(int tab_left) {
+  const bool refused_limit_opens_tab = automatic_release_.OpeningTab() || timed_release_.OpeningTab();
+  if (!refused_limit_opens_tab && tab_left == screens::kAutomaticTab) {
+    const base::Result<bool> accepted = automatic_release_.Text9_Validate();
+    if (!accepted.Ok()) return accepted.Error();
+  }
+  if (!refused_limit_opens_tab && tab_left == screens::kTimeIntervalsTab) {
+    const base::Result<bool> accepted = timed_release_.Text10_Validate();
+    if (!accepted.Ok()) return accepted.Error();
+  }
+  if (window_.SSTab1.Tab() == screens::kAutomaticTab && tip_pending_) ShowTip();
+  return base::kDone;
+}
+
+void Form1::ShowTip() {
+  tip_pending_ = false;
+  system_.dialogs.MessageBoxA(
+      "The Automatic free up function has been disabled on purpose to show you how inefficient Windows "
+      "really is.\r\n"
+      "You can see how much RAM is available in realtime in the title bar as it is constantly updated.  "
+      "On machines running 64 MB or less it is very common to almost run out of RAM after just starting "
+      "Windows.\r\n\r\n"
+      "To activate the automatic feature simply ensure the 'Auto Detection Active' checkbox is checked.",
+      "Quondix Tip", os::kMbOk | os::kMbIconInformation);
+}
+
+/// A load that did not reach its end has not brought the settings into the controls, so nothing of them may
+/// be stored.
+base::Status Form1::Form_Unload() {
+  const base::Status saved = load_finished_ ? SaveAtExit() : base::kDone;
+  tray_icon_.Remove();
+  return saved;
+}
+
+base::Status Form1::SaveAtExit() {
+  const base::Status amount = startup_release_.Combo1_LostFocus();
+  if (!amount.Ok()) return amount;
+  const base::Result<bool> auto_limit = automatic_release_.Text9_Validate();
+  if (!auto_limit.Ok()) return auto_limit.Error();
+  const base::Result<bool> time_limit = timed_release_.Text10_Validate();
+  if (!time_limit.Ok()) return time_limit.Error();
+  settings_.SaveNumber(shell::kSettingsSection, "LastTab", window_.SSTab1.Tab());
+  return base::kDone;
+}
+
+void Form1::ReportUntrapped(const base::RuntimeError& error) {
+  system_.dialogs.MessageBoxA(base::UntrappedErrorText(error), application_.Title(),
+                              os::kMbOk | os::kMbIconStop);
+  window_.Form1.Unload();
+}
+
+}  // namespace qdix::app

@@ -1,0 +1,110 @@
+// The main window: owns the screens and the subsystems, wires them, loads the program in its fixed order and
+// unloads it. The work itself is done by the subsystems.
+#pragma once
+
+#include <array>
+
+#include "app/machine_record.h"
+#include "app/single_instance.h"
+#include "app/tray_icon.h"
+#include "app/window_modes.h"
+#include "memory/automatic_release.h"
+#include "memory/manual_release.h"
+#include "memory/memory_monitor.h"
+#include "memory/memory_release.h"
+#include "memory/startup_release.h"
+#include "memory/timed_release.h"
+#include "os/system.h"
+#include "screens/about_screen.h"
+#include "screens/automatic_screen.h"
+#include "screens/main_window.h"
+#include "screens/quondix_screen.h"
+#include "screens/startup_screen.h"
+#include "screens/time_intervals_screen.h"
+#include "screens/tray_menu.h"
+#include "shell/settings_store.h"
+#include "shell/startup_registration.h"
+#include "ui/application.h"
+
+namespace qdix::app {
+
+class Form1 {
+ public:
+  explicit Form1(const os::System& system);
+  Form1(const Form1&) = delete;
+  Form1& operator=(const Form1&) = delete;
+  ~Form1() = default;
+
+  /// Loads, then shows the window unless the stored display mode hides it. A second copy, or an error in the
+  /// load, leaves the window unloaded.
+  void Start();
+
+  /// The Windows session ends: from now on nothing is asked, and the window unloads.
+  void EndSession();
+
+  [[nodiscard]] ui::Application& TheApplication() { return application_; }
+  [[nodiscard]] ui::Form& Window() { return window_.Form1; }
+  [[nodiscard]] std::array<ui::Timer*, 4> Timers() { return window_.Timers(); }
+
+  base::Status Form_Load();
+  base::Status Form_Activate();
+  base::Status Form_Unload();
+  base::Status SSTab1_Click(int tab_left);
+  base::Status Timer1_Timer();
+
+  // The screens, for whoever looks at the window or acts on it.
+  [[nodiscard]] screens::MainWindow& MainWindow() { return window_; }
+  [[nodiscard]] screens::QuondixScreen& Quondix() { return quondix_; }
+  [[nodiscard]] screens::AutomaticScreen& Automatic() { return automatic_; }
+  [[nodiscard]] screens::TimeIntervalsScreen& TimeIntervals() { return time_intervals_; }
+  [[nodiscard]] screens::StartupScreen& Startup() { return startup_; }
+  [[nodiscard]] screens::AboutScreen& About() { return about_; }
+
+  [[nodiscard]] screens::TrayMenu& TheTrayMenu() { return tray_menu_; }
+  [[nodiscard]] TrayIcon& Tray() { return tray_icon_; }
+
+  [[nodiscard]] memory::MemoryMonitor& Monitor() { return monitor_; }
+  [[nodiscard]] memory::MemoryRelease& Release() { return release_; }
+  [[nodiscard]] memory::AutomaticRelease& AutomaticSettings() { return automatic_release_; }
+  [[nodiscard]] memory::StartupRelease& StartupSettings() { return startup_release_; }
+
+ private:
+  void BindEvents();
+  void ShowVersion();
+  void RunFirstTimeSteps();
+  void SelectStoredTab();
+  void LoadReleaseSettings(double total_ram_mb);
+  base::Status SaveAtExit();
+  void ShowTip();
+  void ReportUntrapped(const base::RuntimeError& error);
+
+  const os::System system_;
+  ui::EventDispatcher events_;
+  ui::Application application_{"Q-DIX"};
+  shell::SettingsStore settings_;
+
+  screens::MainWindow window_{events_};
+  screens::QuondixScreen quondix_{window_.SSTab1.Page(screens::kQuondixTab)};
+  screens::AutomaticScreen automatic_{window_.SSTab1.Page(screens::kAutomaticTab)};
+  screens::TimeIntervalsScreen time_intervals_{window_.SSTab1.Page(screens::kTimeIntervalsTab)};
+  screens::StartupScreen startup_{window_.SSTab1.Page(screens::kStartupTab)};
+  screens::AboutScreen about_{window_.SSTab1.Page(screens::kAboutTab)};
+  screens::TrayMenu tray_menu_{events_};
+
+  SingleInstance single_instance_;
+  MachineRecord machine_record_;
+  memory::MemoryMonitor monitor_;
+  memory::MemoryRelease release_;
+  memory::ManualRelease manual_release_;
+  memory::AutomaticRelease automatic_release_;
+  memory::TimedRelease timed_release_;
+  memory::StartupRelease startup_release_;
+  shell::StartupRegistration startup_registration_;
+  WindowModes window_modes_;
+  TrayIcon tray_icon_;
+
+  bool tip_pending_ = false;
+  bool load_finished_ = false;
+};
+
+}  // namespace qdix::app

@@ -1,0 +1,90 @@
+#include "app/tray_icon.h"
+
+#include <algorithm>
+
+#include "base/numbers.h"
+
+namespace qdix::app {
+
+namespace {
+
+constexpr std::uint32_t kIconId = 1;
+/// Mouse messages as the icon passes them on.
+constexpr double kLeftButtonDoubleClick = 515;
+constexpr double kRightButtonDown = 516;
+
+}  // namespace
+
+TrayIcon::TrayIcon(const os::System& system, ui::Form& form, screens::TrayMenu& menu,
+                   memory::MemoryMonitor& monitor, memory::ManualRelease& release)
+    : system_(system), form_(form), menu_(menu), monitor_(monitor), release_(release) {
+  using ui::Handler;
+  record_.id = kIconId;
+  record_.flags = os::kNifAll;
+  record_.callback_message = kCallbackMessage;
+  form_.OnMouseMove =
+      base::Callback<base::Status(int, int, double, double)>::To<&TrayIcon::Form_MouseMove>(*this);
+  menu_.mnuTrayFreeup.OnClick = Handler::To<&TrayIcon::mnuTrayFreeup_Click>(*this);
+  menu_.mnuTrayDisplay.OnClick = Handler::To<&TrayIcon::mnuTrayDisplay_Click>(*this);
+  menu_.mnuTrayHide.OnClick = Handler::To<&TrayIcon::mnuTrayHide_Click>(*this);
+  menu_.mnuTrayClose.OnClick = Handler::To<&TrayIcon::mnuTrayClose_Click>(*this);
+  menu_.mnuTrayDisplay.SetDefault(true);
+}
+
+void TrayIcon::SetOwner(os::WindowHandle window, os::IconHandle icon) {
+  record_.owner = window;
+  record_.icon = icon;
+}
+
+void TrayIcon::AddToTray() {
+  SetTip("Q-DIX");
+  system_.shell.Shell_NotifyIconA(os::kNimAdd, record_);
+  was_added_ = true;
+}
+
+void TrayIcon::Remove() {
+  if (!was_added_) return;
+  was_added_ = false;
+  system_.shell.Shell_NotifyIconA(os::kNimDelete, record_);
+}
+
+/// The field is padded with blanks behind the NUL that ends the text; a longer text is cut.
+void TrayIcon::SetTip(std::string_view text) {
+  record_.tip.fill(' ');
+  const std::size_t length = std::min(text.size(), record_.tip.size() - 1);
+  std::copy_n(text.begin(), length, record_.tip.begin());
+  record_.tip[length] = '\0';
+}
+
+base::Status TrayIcon::Form_MouseMove(int /*button*/, int /*shift*/, double x_twips, double /*y_twips*/) {
+  SetTip(base::ShortestText(monitor_.MemStatus()) + " MB");
+  if (was_added_) system_.shell.Shell_NotifyIconA(os::kNimModify, record_);
+  const double message = base::RoundHalfEven(x_twips / ui::kTwipsPerPixel);
+  if (message == kLeftButtonDoubleClick) Display();
+  if (message == kRightButtonDown) form_.PopUpMenu(menu_.mnuTray);
+  return base::kDone;
+}
+
+void TrayIcon::Display() {
+  form_.Show();
+  form_.SetState(ui::WindowState::kNormal);
+}
+
+base::Status TrayIcon::mnuTrayFreeup_Click() { return release_.Command1_Click(); }
+
+base::Status TrayIcon::mnuTrayDisplay_Click() {
+  Display();
+  return base::kDone;
+}
+
+base::Status TrayIcon::mnuTrayHide_Click() {
+  form_.Hide();
+  return base::kDone;
+}
+
+base::Status TrayIcon::mnuTrayClose_Click() {
+  form_.Unload();
+  return base::kDone;
+}
+
+}  // namespace qdix::app

@@ -1,0 +1,50 @@
+// The icon in the notification area: its tip, the mouse on it, its menu.
+#pragma once
+
+#include "memory/manual_release.h"
+#include "memory/memory_monitor.h"
+#include "os/system.h"
+#include "screens/tray_menu.h"
+#include "ui/form.h"
+
+namespace qdix::app {
+
+class TrayIcon {
+ public:
+  /// The window message by which the icon calls back: a mouse move, whose position carries the mouse message
+  /// on the icon.
+  static constexpr std::uint32_t kCallbackMessage = 512;
+
+  TrayIcon(const os::System& system, ui::Form& form, screens::TrayMenu& menu, memory::MemoryMonitor& monitor,
+           memory::ManualRelease& release);
+
+  /// The window that receives the icon's messages, and the icon; before AddToTray.
+  void SetOwner(os::WindowHandle window, os::IconHandle icon);
+
+  void AddToTray();
+  /// Takes the icon away, where one was added.
+  void Remove();
+
+  /// Every mouse move over the window and on the icon: refreshes the tip with the available memory; a double
+  /// click shows the window, the right button opens the menu.
+  base::Status Form_MouseMove(int button, int shift, double x_twips, double y_twips);
+
+  base::Status mnuTrayFreeup_Click();
+  base::Status mnuTrayDisplay_Click();
+  base::Status mnuTrayHide_Click();
+  base::Status mnuTrayClose_Click();
+
+ private:
+  void SetTip(std::string_view text);
+  void Display();
+
+  const os::System system_;
+  ui::Form& form_;
+  screens::TrayMenu& menu_;
+  memory::MemoryMonitor& monitor_;
+  memory::ManualRelease& release_;
+  os::NotifyIconData record_;
+  bool was_added_ = false;
+};
+
+}  // namespace qdix::app

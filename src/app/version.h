@@ -1,0 +1,10 @@
+// The program's version, in one place.
+#pragma once
+
+namespace qdix::app {
+
+inline constexpr int kMajorVersion = 2;
+inline constexpr int kMinorVersion = 0;
+inline constexpr int kRevision = 0;
+
+}  // namespace qdix::app

@@ -1,0 +1,148 @@
+#include "memory/automatic_release.h"
+
+#include <array>
+
+#include "base/numbers.h"
+#include "memory/amount_lists.h"
+
+namespace qdix::memory {
+
+namespace {
+
+constexpr std::array<std::string_view, 9> kCheckSeconds{"5",   "10",  "20",  "30", "60",
+                                                        "120", "180", "240", "300"};
+constexpr double kDefaultCheckSeconds = 20;
+/// Longest check interval that Timer2 counts in one go; above it the timer ticks once a minute.
+constexpr double kMinuteSeconds = 60;
+constexpr double kMsPerSecond = 1000;
+
+constexpr std::int16_t kLargestThresholdMb = 32;
+
+constexpr std::string_view kCounterAtLoad = "Auto Detection feature has detected and released RAM ";
+constexpr std::string_view kCounterLater = "Automatic feature has detected and released RAM ";
+
+}  // namespace
+
+AutomaticRelease::AutomaticRelease(const os::System& system, shell::SettingsStore& settings,
+                                   screens::AutomaticScreen& screen, ui::TabStrip& tabs, ui::Timer& timer2,
+                                   const ui::Application& application)
+    : system_(system),
+      settings_(settings),
+      screen_(screen),
+      timer2_(timer2),
+      cpu_limit_({screen.Check9, screen.Text9, tabs, screens::kAutomaticTab}, {"CPUAutoActive", "AutoCPU"},
+                 settings, system.dialogs, application) {
+  using ui::Handler;
+  screen_.Check1.OnClick = Handler::To<&AutomaticRelease::Check1_Click>(*this);
+  screen_.List2.OnClick = Handler::To<&AutomaticRelease::List2_Click>(*this);
+  screen_.List4.OnClick = Handler::To<&AutomaticRelease::List4_Click>(*this);
+  screen_.Text2.OnChange = Handler::To<&AutomaticRelease::Text2_Change>(*this);
+  screen_.VScroll2.OnChange = Handler::To<&AutomaticRelease::VScroll2_Change>(*this);
+  screen_.Check9.OnClick = Handler::To<&AutomaticRelease::Check9_Click>(*this);
+  screen_.Text9.OnKeyPress =
+      base::Callback<base::Status(char&)>::To<&AutomaticRelease::Text9_KeyPress>(*this);
+  screen_.Text9.OnValidate =
+      base::Callback<base::Result<bool>()>::To<&AutomaticRelease::Text9_Validate>(*this);
+  screen_.Command7.OnClick = Handler::To<&AutomaticRelease::Command7_Click>(*this);
+}
+
+void AutomaticRelease::FillLists() {
+  AddItems(screen_.List2, kCheckSeconds);
+  AddItems(screen_.List4, ReleaseAmounts());
+}
+
+void AutomaticRelease::StartCounter() {
+  settings_.SaveNumber(shell::kSettingsSection, "CounterDate", system_.clock.Now());
+  settings_.SaveNumber(shell::kSettingsSection, "CounterValue", 0);
+}
+
+void AutomaticRelease::LoadCounter() {
+  const std::string stored_date = settings_.GetSetting(shell::kSettingsSection, "CounterDate", "");
+  double start_date = base::ParseLeadingNumber(stored_date);
+  if (!base::IsNumber(stored_date) || system_.clock.LongDate(start_date).empty()) {
+    start_date = system_.clock.Now();
+    settings_.SaveNumber(shell::kSettingsSection, "CounterDate", start_date);
+  }
+  const double stored_count = settings_.GetNumber(shell::kSettingsSection, "CounterValue", 0);
+  counter_start_date_ = start_date;
+  auto_release_count_ = base::ToInt32(stored_count).ValueOr(0);
+  ShowCounter(kCounterAtLoad);
+}
+
+void AutomaticRelease::ShowCounter(std::string_view beginning) {
+  std::string text(beginning);
+  text += base::TextOf(auto_release_count_);
+  text += " times since Q-DIX was started on ";
+  text += system_.clock.LongDate(counter_start_date_);
+  screen_.lblCounter.SetCaption(text);
+}
+
+void AutomaticRelease::SetThresholdRange(std::int16_t total_ram_mb) {
+  const bool is_small = total_ram_mb >= 1 && total_ram_mb < kLargestThresholdMb;
+  screen_.VScroll2.SetRange(is_small ? total_ram_mb : kLargestThresholdMb, screens::kMinRamRange.maximum);
+}
+
+void AutomaticRelease::LoadThreshold(double total_ram_mb) {
+  const std::string stored = settings_.GetSetting(shell::kSettingsSection, "MinRAM",
+                                                  base::ShortestText(DefaultThreshold(total_ram_mb)));
+  screen_.VScroll2.SetNearest(base::ParseLeadingNumber(stored));
+  screen_.Text2.SetText(stored);
+}
+
+void AutomaticRelease::LoadAmount(double total_ram_mb) {
+  const double proposed = DefaultAmount(screen_.List4, total_ram_mb);
+  SelectNumber(screen_.List4, settings_.GetNumber(shell::kSettingsSection, "AutoQuondix", proposed));
+}
+
+void AutomaticRelease::LoadActive() {
+  screen_.Check1.SetTicked(settings_.GetBoolean(shell::kSettingsSection, "AutoActive", false));
+  if (screen_.Check1.Ticked()) timer2_.SetNearestInterval(SelectedNumber(screen_.List2) * kMsPerSecond);
+  timer2_.SetEnabled(screen_.Check1.Ticked());
+}
+
+void AutomaticRelease::LoadInterval() {
+  SelectNumber(screen_.List2, settings_.GetNumber(shell::kSettingsSection, "AutoSecs", kDefaultCheckSeconds));
+}
+
+base::Status AutomaticRelease::Check1_Click() {
+  timer2_.SetEnabled(screen_.Check1.Ticked());
+  settings_.SaveNumber(shell::kSettingsSection, "AutoActive", screen_.Check1.Value());
+  return base::kDone;
+}
+
+base::Status AutomaticRelease::List2_Click() {
+  const double seconds = SelectedNumber(screen_.List2);
+  const bool within_a_minute = seconds <= kMinuteSeconds;
+  const base::Status armed = timer2_.SetInterval(
+      static_cast<std::int32_t>((within_a_minute ? seconds : kMinuteSeconds) * kMsPerSecond));
+  if (!armed.Ok()) return armed;
+  auto_check_ticks_ = within_a_minute ? 1 : seconds / kMinuteSeconds;
+  settings_.SaveNumber(shell::kSettingsSection, "AutoSecs", seconds);
+  return base::kDone;
+}
+
+base::Status AutomaticRelease::List4_Click() {
+  settings_.SaveNumber(shell::kSettingsSection, "AutoQuondix", SelectedNumber(screen_.List4));
+  return base::kDone;
+}
+
+base::Status AutomaticRelease::Text2_Change() {
+  settings_.SaveSetting(shell::kSettingsSection, "MinRAM", screen_.Text2.Text());
+  return base::kDone;
+}
+
+base::Status AutomaticRelease::VScroll2_Change() {
+  screen_.Text2.SetText(base::TextOf(screen_.VScroll2.Value()));
+  return base::kDone;
+}
+
+base::Status AutomaticRelease::Command7_Click() {
+  counter_start_date_ = base::WholePart(system_.clock.Now());
+  settings_.SaveNumber(shell::kSettingsSection, "CounterDate", counter_start_date_);
+  auto_release_count_ = 0;
+  settings_.SaveNumber(shell::kSettingsSection, "CounterValue", 0);
+  ShowCounter(kCounterLater);
+  return base::kDone;
+}
+
+}  // namespace qdix::memory

@@ -1,0 +1,65 @@
+// The "Automatic" tab: its settings, the check interval, and the count of automatic releases.
+#pragma once
+
+#include <cstdint>
+
+#include "memory/cpu_limit.h"
+#include "os/system.h"
+#include "screens/automatic_screen.h"
+#include "screens/main_window.h"
+#include "ui/timer.h"
+
+namespace qdix::memory {
+
+class AutomaticRelease {
+ public:
+  AutomaticRelease(const os::System& system, shell::SettingsStore& settings, screens::AutomaticScreen& screen,
+                   ui::TabStrip& tabs, ui::Timer& timer2, const ui::Application& application);
+
+  /// Fills the lists; selects nothing.
+  void FillLists();
+
+  // The loads, each called at its place in the start-up order.
+  void LoadCpuLimit() { cpu_limit_.Load(); }
+  /// Starts the count anew: from now, with 0 releases.
+  void StartCounter();
+  /// Shows the stored count and date; a missing or unreadable date becomes now and is stored.
+  void LoadCounter();
+  /// Narrows the threshold's range to the machine's memory where that is below 32 MB.
+  void SetThresholdRange(std::int16_t total_ram_mb);
+  void LoadThreshold(double total_ram_mb);
+  void LoadAmount(double total_ram_mb);
+  /// Ticking Check1 arms Timer2 with the interval as List2 stands now.
+  void LoadActive();
+  void LoadInterval();
+
+  base::Status Check1_Click();
+  base::Status List2_Click();
+  base::Status List4_Click();
+  base::Status Text2_Change();
+  base::Status VScroll2_Change();
+  base::Status Check9_Click() { return cpu_limit_.ActiveClicked(); }
+  base::Status Text9_KeyPress(char& character) { return cpu_limit_.PercentKeyPressed(character); }
+  base::Result<bool> Text9_Validate() { return cpu_limit_.ValidatePercent(); }
+  base::Status Command7_Click();
+
+  /// True while a refused limit opens the tab.
+  [[nodiscard]] bool OpeningTab() const { return cpu_limit_.OpeningTab(); }
+  /// Timer2 ticks that make one check: 1, or whole minutes.
+  [[nodiscard]] double AutoCheckTicks() const { return auto_check_ticks_; }
+
+ private:
+  void SetCounter(double start_date, std::int32_t count);
+  void ShowCounter(std::string_view beginning);
+
+  const os::System system_;
+  shell::SettingsStore& settings_;
+  screens::AutomaticScreen& screen_;
+  ui::Timer& timer2_;
+  CpuLimit cpu_limit_;
+  double counter_start_date_ = 0;
+  std::int32_t auto_release_count_ = 0;
+  double auto_check_ticks_ = 1;
+};
+
+}  // namespace qdix::memory

@@ -1,0 +1,55 @@
+#include "memory/cpu_limit.h"
+
+#include "base/numbers.h"
+
+namespace qdix::memory {
+
+namespace {
+
+constexpr char kBackspace = 8;
+
+}  // namespace
+
+void CpuLimit::Load() {
+  controls_.active.SetTicked(settings_.GetBoolean(shell::kSettingsSection, keys_.active, true));
+  ShowWhetherActive();
+  controls_.percent.SetText(
+      settings_.GetSetting(shell::kSettingsSection, keys_.percent, base::ShortestText(kDefaultPercent)));
+}
+
+base::Status CpuLimit::ActiveClicked() {
+  settings_.SaveNumber(shell::kSettingsSection, keys_.active, controls_.active.Value());
+  ShowWhetherActive();
+  return base::kDone;
+}
+
+void CpuLimit::ShowWhetherActive() {
+  const bool active = controls_.active.Ticked();
+  controls_.percent.SetEnabled(active);
+  controls_.percent.SetBackColour(active ? ui::kWindowBackground : ui::kMenuBackground);
+}
+
+base::Status CpuLimit::PercentKeyPressed(char& character) {
+  const bool is_digit = character >= '0' && character <= '9';
+  if (!is_digit && character != kBackspace) character = 0;
+  return base::kDone;
+}
+
+base::Result<bool> CpuLimit::ValidatePercent() {
+  const double percent = base::ParseLeadingNumber(controls_.percent.Text());
+  if (percent >= kLowestPercent && percent <= kHighestPercent) {
+    settings_.SaveSetting(shell::kSettingsSection, keys_.percent, controls_.percent.Text());
+    return true;
+  }
+  if (application_.SessionIsEnding()) return false;
+  opening_tab_ = true;
+  const base::Status opened = controls_.tabs.SetTab(controls_.tab);
+  opening_tab_ = false;
+  if (!opened.Ok()) return opened.Error();
+  dialogs_.MessageBoxA("Please enter a number between 5 an 99", application_.Title(), os::kMbOk);
+  controls_.percent.SetFocus();
+  controls_.percent.SelectAll();
+  return false;
+}
+
+}  // namespace qdix::memory

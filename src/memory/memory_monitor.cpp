@@ -1,0 +1,119 @@
+#include "memory/memory_monitor.h"
+
+#include "base/numbers.h"
+#include "base/text.h"
+
+namespace qdix::memory {
+
+namespace {
+
+/// The record's fields are unsigned; the program reads them as signed, so that 2 GB and more come out
+/// negative.
+std::int32_t Signed(std::uint32_t field) { return static_cast<std::int32_t>(field); }
+
+/// Available megabytes before the rounding to two decimals.
+double AvailableMb(const os::MemoryStatus& status) {
+  return base::WholePart(Signed(status.available_physical) / 1.024) / 1000000;
+}
+
+/// The gauges hold half a percentage.
+std::string DoubledText(const controls::Meter3& gauge) { return base::TextOf(gauge.Value() * 2); }
+
+}  // namespace
+
+double MemoryMonitor::TotalRAM() const {
+  return base::BytesToMemoryMb(Signed(system_.memory.GlobalMemoryStatus().total_physical));
+}
+
+double MemoryMonitor::TotalSwapFile() const {
+  return base::BytesToSwapFileThousandMb(Signed(system_.memory.GlobalMemoryStatus().total_page_file));
+}
+
+base::Status MemoryMonitor::SetTotalRamMb() {
+  const base::Result<std::int16_t> rounded = base::ToInt16(TotalRAM());
+  if (!rounded.Ok()) return rounded.Error();
+  total_ram_mb_ = rounded.Value();
+  return base::kDone;
+}
+
+void MemoryMonitor::ShowTotals() {
+  screen_.lblTotalMem.SetCaption("Total Physical Memory:  " + base::FormatThousands(TotalRAM() * 1000) +
+                                 " KB");
+  screen_.lblSwapfile.SetCaption(
+      "Virtual Memory (Swapfile) :  " + base::FormatThousands(TotalSwapFile() * 1000) + " MB");
+}
+
+double MemoryMonitor::MemStatus() {
+  const os::MemoryStatus status = system_.memory.GlobalMemoryStatus();
+  double available_mb = base::ParseLeadingNumber(base::FormatTwoDecimals(AvailableMb(status)));
+
+  const base::Result<double> plausible = CorrectImplausible(available_mb);
+  if (plausible.Ok()) {
+    available_mb = plausible.Value();
+  } else {
+    ReportOnce(status);
+  }
+  if (!ShowSwapFileUse(status).Ok()) ReportOnce(status);
+  screen_.lblSwapfileUsed.SetCaption(DoubledText(screen_.Gauge2) + "% Used");
+  return available_mb;
+}
+
+/// More available than there is in total means that one of the two was misread; the figure shown then is
+/// deliberately small.
+base::Result<double> MemoryMonitor::CorrectImplausible(double available_mb) const {
+  if (available_mb <= total_ram_mb_) return available_mb;
+  const base::Result<std::int16_t> corrected = base::ToInt16(available_mb / 102.4);
+  if (!corrected.Ok()) return corrected.Error();
+  return static_cast<double>(corrected.Value());
+}
+
+base::Status MemoryMonitor::ShowSwapFileUse(const os::MemoryStatus& status) {
+  const std::int32_t total = Signed(status.total_page_file);
+  if (total == 0) return base::kDone;
+  const base::Result<std::int32_t> used = base::SubtractInt32(total, Signed(status.available_page_file));
+  if (!used.Ok()) return used.Error();
+  const double half_percent = static_cast<double>(used.Value()) / total * 100 / 2;
+  const base::Result<std::int16_t> level = base::ToInt16(half_percent);
+  if (!level.Ok()) return level.Error();
+  return screen_.Gauge2.SetValue(level.Value());
+}
+
+/// Computed in floating point throughout, so that the report of an error cannot fail itself.
+void MemoryMonitor::ReportOnce(const os::MemoryStatus& status) {
+  if (memory_error_shown_) return;
+  memory_error_shown_ = true;  // before the box: the display goes on being refreshed while it is open
+  const double total = Signed(status.total_page_file);
+  const double used = total - Signed(status.available_page_file);
+  const double used_percent = total == 0 ? 0 : base::WholePart(used / total * 100);
+  std::string text = "An error has occurred. The following info may help debug.";
+  text += base::kLineBreak;
+  text += "Available RAM : " + base::FormatTwoDecimals(AvailableMb(status));
+  text += base::kLineBreak;
+  text += "VM : " + base::ShortestText(used_percent);
+  text += base::kLineBreak;
+  text += "Total Ram : " + base::TextOf(total_ram_mb_);
+  system_.dialogs.MessageBoxA(text, application_.Title(), os::kMbOk);
+}
+
+base::Status MemoryMonitor::RefreshMemoryDisplay() {
+  const double available_mb = MemStatus();
+  form_.SetCaption(base::ShortestText(available_mb) + " MB   Q-DIX");
+  if (!ShowAvailable(available_mb).Ok()) {
+    form_.SetCaption(base::ShortestText(available_mb) +
+                     " MB   Q-DIX - This reading is Incorrect. See our support page.");
+  }
+  return base::kDone;
+}
+
+base::Status MemoryMonitor::ShowAvailable(double available_mb) {
+  const base::Result<double> share = base::Divide(available_mb, total_ram_mb_);
+  if (!share.Ok()) return share.Error();
+  const base::Result<std::int16_t> level = base::ToInt16(base::WholePart(share.Value() * 100 / 2));
+  if (!level.Ok()) return level.Error();
+  const base::Status shown = screen_.Gauge1.SetValue(level.Value());
+  if (!shown.Ok()) return shown;
+  screen_.lblPercentFree.SetCaption(DoubledText(screen_.Gauge1) + "%  Available RAM");
+  return base::kDone;
+}
+
+}  // namespace qdix::memory

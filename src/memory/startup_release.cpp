@@ -1,0 +1,75 @@
+#include "memory/startup_release.h"
+
+#include <limits>
+
+#include "base/numbers.h"
+#include "memory/amount_lists.h"
+
+namespace qdix::memory {
+
+namespace {
+
+/// A longer delay is counted in minutes, because a timer holds little more than one.
+constexpr double kLongestSingleDelaySeconds = 60;
+constexpr double kMsPerSecond = 1000;
+
+}  // namespace
+
+StartupRelease::StartupRelease(shell::SettingsStore& settings, screens::StartupScreen& screen,
+                               ui::Timer& timer3)
+    : settings_(settings), screen_(screen), timer3_(timer3) {
+  using ui::Handler;
+  screen_.Combo1.OnLostFocus = Handler::To<&StartupRelease::Combo1_LostFocus>(*this);
+  screen_.Text3.OnChange = Handler::To<&StartupRelease::Text3_Change>(*this);
+  screen_.VScroll3.OnChange = Handler::To<&StartupRelease::VScroll3_Change>(*this);
+  screen_.Check4.OnClick = Handler::To<&StartupRelease::Check4_Click>(*this);
+}
+
+void StartupRelease::FillLists() { AddItems(screen_.Combo1, ReleaseAmounts()); }
+
+void StartupRelease::LoadWarnings() {
+  screen_.Check4.SetTicked(settings_.GetBoolean(shell::kSettingsSection, "Warnings", false));
+}
+
+void StartupRelease::LoadAmount(double total_ram_mb) {
+  SelectNumber(screen_.Combo1,
+               settings_.GetNumber(shell::kStartupSection, "StartupRAM", HalfOfMemory(total_ram_mb)));
+}
+
+void StartupRelease::LoadAndArmDelay() {
+  const std::string stored = settings_.GetSetting(shell::kStartupSection, "StartupTime",
+                                                  base::ShortestText(kLongestSingleDelaySeconds));
+  const double seconds = base::ParseLeadingNumber(stored);
+  screen_.VScroll3.SetNearest(seconds);
+  screen_.Text3.SetText(stored);
+  if (seconds < kLongestSingleDelaySeconds + 1) {
+    timer3_.SetNearestInterval(seconds * kMsPerSecond);
+  } else {
+    timer3_.SetNearestInterval(kLongestSingleDelaySeconds * kMsPerSecond);
+    startup_delay_left_ =
+        static_cast<std::int16_t>(base::ClampToInt32(seconds, 0, std::numeric_limits<std::int16_t>::max()));
+  }
+  timer3_.SetEnabled(true);
+}
+
+base::Status StartupRelease::Combo1_LostFocus() {
+  settings_.SaveNumber(shell::kStartupSection, "StartupRAM", SelectedNumber(screen_.Combo1));
+  return base::kDone;
+}
+
+base::Status StartupRelease::Text3_Change() {
+  settings_.SaveSetting(shell::kStartupSection, "StartupTime", screen_.Text3.Text());
+  return base::kDone;
+}
+
+base::Status StartupRelease::VScroll3_Change() {
+  screen_.Text3.SetText(base::TextOf(screen_.VScroll3.Value()));
+  return base::kDone;
+}
+
+base::Status StartupRelease::Check4_Click() {
+  settings_.SaveNumber(shell::kSettingsSection, "Warnings", screen_.Check4.Value());
+  return base::kDone;
+}
+
+}  // namespace qdix::memory

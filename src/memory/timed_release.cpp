@@ -1,0 +1,132 @@
+#include "memory/timed_release.h"
+
+#include <array>
+#include <span>
+
+#include "base/numbers.h"
+#include "memory/amount_lists.h"
+
+namespace qdix::memory {
+
+namespace {
+
+constexpr std::array<std::string_view, 7> kMinuteItems{"5", "10", "15", "20", "30", "40", "50"};
+constexpr std::array<std::string_view, 17> kHourItems{"1",  "2",  "3",  "4",  "5",  "6",  "7",  "8", "9",
+                                                      "10", "12", "14", "16", "18", "20", "22", "24"};
+
+}  // namespace
+
+/// A unit of the interval: what the list offers, and where the choice is kept.
+struct TimedRelease::Unit {
+  std::span<const std::string_view> items;
+  /// The stored "TimeUnit".
+  double number;
+  const char* key;
+  double default_item;
+  std::int32_t minutes;
+
+  static const Unit kMinutes;
+  static const Unit kHours;
+};
+
+constexpr TimedRelease::Unit TimedRelease::Unit::kMinutes{kMinuteItems, 1, "TimeMinutes", 30, 1};
+constexpr TimedRelease::Unit TimedRelease::Unit::kHours{kHourItems, 2, "TimeHours", 1, 60};
+
+TimedRelease::TimedRelease(const os::System& system, shell::SettingsStore& settings,
+                           screens::TimeIntervalsScreen& screen, ui::TabStrip& tabs, ui::Timer& timer4,
+                           const ui::Application& application)
+    : settings_(settings),
+      screen_(screen),
+      timer4_(timer4),
+      cpu_limit_({screen.Check10, screen.Text10, tabs, screens::kTimeIntervalsTab},
+                 {"CPUTimeActive", "TimeCPU"}, settings, system.dialogs, application) {
+  using ui::Handler;
+  screen_.Check3.OnClick = Handler::To<&TimedRelease::Check3_Click>(*this);
+  screen_.Option4.OnClick = Handler::To<&TimedRelease::Option4_Click>(*this);
+  screen_.Option5.OnClick = Handler::To<&TimedRelease::Option5_Click>(*this);
+  screen_.lstTime.OnClick = Handler::To<&TimedRelease::lstTime_Click>(*this);
+  screen_.List3.OnClick = Handler::To<&TimedRelease::List3_Click>(*this);
+  screen_.Check10.OnClick = Handler::To<&TimedRelease::Check10_Click>(*this);
+  screen_.Text10.OnKeyPress = base::Callback<base::Status(char&)>::To<&TimedRelease::Text10_KeyPress>(*this);
+  screen_.Text10.OnValidate = base::Callback<base::Result<bool>()>::To<&TimedRelease::Text10_Validate>(*this);
+}
+
+void TimedRelease::FillLists() { AddItems(screen_.List3, ReleaseAmounts()); }
+
+void TimedRelease::LoadAmount(double total_ram_mb) {
+  const double proposed = DefaultAmount(screen_.List3, total_ram_mb);
+  SelectNumber(screen_.List3, settings_.GetNumber(shell::kSettingsSection, "TimeQuondix", proposed));
+}
+
+void TimedRelease::LoadUnit() {
+  const double stored = settings_.GetNumber(shell::kSettingsSection, "TimeUnit", Unit::kMinutes.number);
+  (stored == Unit::kMinutes.number ? screen_.Option4 : screen_.Option5).SetSelected(true);
+}
+
+void TimedRelease::LoadActive() {
+  screen_.Check3.SetTicked(settings_.GetBoolean(shell::kSettingsSection, "TimeActive", false));
+  ShowWhetherActive();
+}
+
+void TimedRelease::ShowWhetherActive() {
+  timer4_.SetEnabled(screen_.Check3.Ticked());
+  screen_.lblNextRelease.SetVisible(screen_.Check3.Ticked());
+}
+
+const TimedRelease::Unit& TimedRelease::SelectedUnit() const {
+  return screen_.Option4.Selected() ? Unit::kMinutes : Unit::kHours;
+}
+
+std::int32_t TimedRelease::IntervalMinutes() const {
+  return static_cast<std::int32_t>(SelectedNumber(screen_.lstTime)) * SelectedUnit().minutes;
+}
+
+void TimedRelease::UpdateNextRelease() {
+  screen_.lblNextRelease.SetCaption("Next Release of RAM is due in " +
+                                    base::TextOf(IntervalMinutes() - timed_minute_count_) + " minutes");
+}
+
+base::Status TimedRelease::Check3_Click() {
+  ShowWhetherActive();
+  settings_.SaveNumber(shell::kSettingsSection, "TimeActive", screen_.Check3.Value());
+  timed_minute_count_ = 0;
+  UpdateNextRelease();
+  return base::kDone;
+}
+
+base::Status TimedRelease::Option4_Click() {
+  ChooseUnit(Unit::kMinutes);
+  return base::kDone;
+}
+
+base::Status TimedRelease::Option5_Click() {
+  ChooseUnit(Unit::kHours);
+  return base::kDone;
+}
+
+/// The entry that this selects is the user's earlier choice, so the countdown goes on.
+void TimedRelease::ChooseUnit(const Unit& unit) {
+  screen_.lstTime.Clear();
+  AddItems(screen_.lstTime, unit.items);
+  settings_.SaveNumber(shell::kSettingsSection, "TimeUnit", unit.number);
+  const double item = settings_.GetNumber(shell::kStartupSection, unit.key, unit.default_item);
+  choosing_unit_ = true;
+  SelectNumber(screen_.lstTime, item);
+  choosing_unit_ = false;
+  UpdateNextRelease();
+}
+
+base::Status TimedRelease::lstTime_Click() {
+  settings_.SaveSetting(shell::kStartupSection, SelectedUnit().key, screen_.lstTime.SelectedText());
+  if (choosing_unit_) return base::kDone;
+  timed_minute_count_ = 0;
+  UpdateNextRelease();
+  return base::kDone;
+}
+
+base::Status TimedRelease::List3_Click() {
+  settings_.SaveNumber(shell::kSettingsSection, "TimeQuondix", SelectedNumber(screen_.List3));
+  return base::kDone;
+}
+
+}  // namespace qdix::memory

@@ -1,0 +1,75 @@
+// The "Automatic" tab: when and how much the automatic release frees. What a form designer shows; no
+// behaviour.
+#pragma once
+
+#include "ui/lists.h"
+#include "ui/ranges.h"
+#include "ui/simple_controls.h"
+#include "ui/text_box.h"
+
+namespace qdix::screens {
+
+/// Range of the low-water mark in megabytes of 1,024,000 bytes; its upper end is narrowed to the machine's
+/// memory at load.
+inline constexpr ui::ScrollRange kMinRamRange{
+    .minimum = 32, .maximum = 1, .small_change = 1, .large_change = 4};
+inline constexpr std::string_view kMinRamTip = "Free up memory when RAM drops below this level";
+inline constexpr std::string_view kHalfRamTip = "Half your physical RAM is a good amount to release";
+
+struct AutomaticScreen {
+  explicit AutomaticScreen(ui::Container& on) : page(on) {}
+
+  ui::Container& page;
+
+  ui::Frame FrameAuto{page, {.name = "FrameAuto", .caption = "Automatic Release", .place = {4, 2, 258, 100}}};
+  ui::CheckBox Check1{FrameAuto,
+                      {.name = "Check1",
+                       .caption = "Auto Detection Active",
+                       .access_key = 'A',
+                       .tool_tip = "Must be ticked for Automatic freeups to take place",
+                       .place = {11, 14, 120, 10}}};
+  ui::Label lblMinRam{FrameAuto,
+                      {.name = "lblMinRam",
+                       .caption = "Free up memory when RAM drops below:",
+                       .access_key = 'b',
+                       .place = {11, 31, 136, 8}}};
+  ui::TextBox Text2{FrameAuto, {.name = "Text2", .tool_tip = kMinRamTip, .place = {150, 28, 26, 13}}};
+  ui::VerticalScrollBar VScroll2{
+      FrameAuto, {.name = "VScroll2", .tool_tip = kMinRamTip, .place = {177, 28, 9, 13}}, kMinRamRange};
+  ui::Label lblMinRamUnit{FrameAuto, {.name = "lblMinRamUnit", .caption = "MB", .place = {190, 31, 30, 8}}};
+  ui::Label lblInterval{
+      FrameAuto,
+      {.name = "lblInterval", .caption = "Check RAM every:", .access_key = 'k', .place = {11, 48, 70, 8}}};
+  ui::ListBox List2{FrameAuto,
+                    {.name = "List2", .tool_tip = "Intervals for monitoring RAM", .place = {11, 58, 60, 38}}};
+  ui::Label lblSeconds{FrameAuto, {.name = "lblSeconds", .caption = "seconds", .place = {75, 58, 40, 8}}};
+  ui::Label lblAutoAmount{FrameAuto,
+                          {.name = "lblAutoAmount",
+                           .caption = "Amount of RAM to Release:",
+                           .access_key = 'm',
+                           .place = {150, 48, 104, 8}}};
+  ui::ListBox List4{FrameAuto, {.name = "List4", .tool_tip = kHalfRamTip, .place = {150, 58, 60, 38}}};
+
+  ui::Frame FrameAutoCpu{page, {.name = "FrameAutoCpu", .caption = "CPU", .place = {4, 105, 258, 32}}};
+  ui::CheckBox Check9{FrameAutoCpu,
+                      {.name = "Check9",
+                       .caption = "Don't perform automatic freeup unless CPU usage is below",
+                       .access_key = 'u',
+                       .place = {11, 118, 204, 10}}};
+  ui::TextBox Text9{FrameAutoCpu, {.name = "Text9", .place = {218, 116, 24, 13}}};
+  ui::Label lblAutoCpuUnit{FrameAutoCpu,
+                           {.name = "lblAutoCpuUnit", .caption = "%", .place = {245, 118, 12, 8}}};
+
+  ui::Frame FrameCounter{page, {.name = "FrameCounter", .caption = "Counter", .place = {4, 140, 258, 38}}};
+  ui::Button Command7{
+      FrameCounter,
+      {.name = "Command7", .caption = "Reset Counter ->", .access_key = 'R', .place = {11, 153, 66, 14}}};
+  ui::Label lblCounter{
+      FrameCounter,
+      {.name = "lblCounter",
+       .caption =
+           "The Auto Detection feature has detected and released RAM 0 times since Q-DIX was started at",
+       .place = {84, 150, 172, 25}}};
+};
+
+}  // namespace qdix::screens

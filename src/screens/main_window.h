@@ -1,0 +1,59 @@
+// The main window itself: its tabs and the timers that stand on it. What stands on the tabs is in one file a
+// tab.
+#pragma once
+
+#include <array>
+
+#include "ui/form.h"
+#include "ui/tab_strip.h"
+#include "ui/timer.h"
+
+namespace qdix::screens {
+
+/// Indices of the tabs, as stored under "LastTab".
+enum Tab : int {
+  kQuondixTab = 0,
+  kAutomaticTab = 1,
+  kTimeIntervalsTab = 2,
+  kStartupTab = 3,
+  kLauncherTab = 4,
+  kCacheTab = 5,
+  kSwapFileTab = 6,
+  kAboutTab = 7,
+};
+
+/// What stands on a page keeps this distance to its edges, in dialog units.
+inline constexpr int kPageMargin = 4;
+inline constexpr ui::Place kPagePlace{.left = 7, .top = 33, .width = 266, .height = 202};
+
+inline constexpr std::array<ui::Design, 8> kTabPages{{
+    {.name = "QuondixPage", .caption = "Quondix", .place = kPagePlace},
+    {.name = "AutomaticPage", .caption = "Automatic", .place = kPagePlace},
+    {.name = "TimeIntervalsPage", .caption = "Time Intervals", .place = kPagePlace},
+    {.name = "StartupPage", .caption = "Startup / Other", .place = kPagePlace},
+    {.name = "LauncherPage", .caption = "Launcher", .place = kPagePlace},
+    {.name = "CachePage", .caption = "Cache Settings", .place = kPagePlace},
+    {.name = "SwapFilePage", .caption = "Optimize Swapfile", .place = kPagePlace},
+    {.name = "AboutPage", .caption = "About", .place = kPagePlace},
+}};
+
+struct MainWindow {
+  explicit MainWindow(ui::EventDispatcher& dispatcher) : events(dispatcher) {}
+
+  ui::EventDispatcher& events;
+  ui::Form Form1{events, {.name = "Form1", .caption = "Q-DIX", .place = {0, 0, 280, 242}}};
+  ui::TabStrip SSTab1{Form1, {.name = "SSTab1", .place = {3, 3, 274, 236}}, kTabPages};
+
+  /// Display refresh.
+  ui::Timer Timer1{events, "Timer1", 750, false};
+  /// Automatic detection; its interval comes from the check interval.
+  ui::Timer Timer2{events, "Timer2", 0, false};
+  /// Start-up delay.
+  ui::Timer Timer3{events, "Timer3", 0, false};
+  /// One minute of the timed release.
+  ui::Timer Timer4{events, "Timer4", 60000, false};
+
+  [[nodiscard]] std::array<ui::Timer*, 4> Timers() { return {&Timer1, &Timer2, &Timer3, &Timer4}; }
+};
+
+}  // namespace qdix::screens

@@ -1,0 +1,78 @@
+// The "Startup / Other" tab: starting with Windows, the display at start, the start-up release, and what fits
+// nowhere else. What a form designer shows; no behaviour.
+#pragma once
+
+#include "ui/lists.h"
+#include "ui/ranges.h"
+#include "ui/simple_controls.h"
+#include "ui/text_box.h"
+
+namespace qdix::screens {
+
+/// Range of the start-up delay in seconds.
+inline constexpr ui::ScrollRange kStartupTimeRange{
+    .minimum = 240, .maximum = 1, .small_change = 1, .large_change = 10};
+inline constexpr std::string_view kStartupTimeTip = "Time to wait after startup before freeing up RAM";
+
+struct StartupScreen {
+  explicit StartupScreen(ui::Container& on) : page(on) {}
+
+  ui::Container& page;
+
+  ui::Frame FrameStartup{
+      page, {.name = "FrameStartup", .caption = "When I startup my computer", .place = {4, 2, 258, 64}}};
+  ui::CheckBox Check2{FrameStartup,
+                      {.name = "Check2",
+                       .caption = "Automatically launch Q-DIX",
+                       .access_key = 'l',
+                       .tool_tip = "Allow Q-DIX to start when the computer is started",
+                       .place = {11, 14, 130, 10}}};
+  ui::Label lblStartupAmount{FrameStartup,
+                             {.name = "lblStartupAmount",
+                              .caption = "Amount of RAM to Release:",
+                              .access_key = 'A',
+                              .place = {11, 32, 92, 8}}};
+  ui::DropDownList Combo1{FrameStartup, {.name = "Combo1", .place = {106, 30, 60, 80}}};
+  ui::Label lblStartupTime{FrameStartup,
+                           {.name = "lblStartupTime",
+                            .caption = "Wait before freeing up RAM:",
+                            .access_key = 'W',
+                            .place = {11, 49, 92, 8}}};
+  ui::TextBox Text3{FrameStartup, {.name = "Text3", .tool_tip = kStartupTimeTip, .place = {106, 47, 30, 13}}};
+  ui::VerticalScrollBar VScroll3{FrameStartup,
+                                 {.name = "VScroll3", .tool_tip = kStartupTimeTip, .place = {137, 47, 9, 13}},
+                                 kStartupTimeRange};
+  ui::Label lblStartupSeconds{FrameStartup,
+                              {.name = "lblStartupSeconds", .caption = "seconds", .place = {150, 49, 40, 8}}};
+
+  ui::Frame FrameDisplay{
+      page, {.name = "FrameDisplay", .caption = "Display at Startup", .place = {4, 69, 126, 54}}};
+  ui::OptionButton Option1{
+      FrameDisplay,
+      {.name = "Option1", .caption = "Fully Displayed", .access_key = 'F', .place = {11, 81, 112, 10}}};
+  ui::OptionButton Option2{
+      FrameDisplay,
+      {.name = "Option2", .caption = "Minimized in Taskbar", .access_key = 'M', .place = {11, 94, 112, 10}}};
+  ui::OptionButton Option3{
+      FrameDisplay, {.name = "Option3", .caption = "Hidden", .access_key = 'H', .place = {11, 107, 112, 10}}};
+
+  ui::Frame FrameGraph{
+      page, {.name = "FrameGraph", .caption = "CPU Graph Update Interval", .place = {136, 69, 126, 54}}};
+  ui::Slider Slider7{FrameGraph,
+                     {.name = "Slider7", .place = {143, 82, 112, 20}},
+                     {.minimum = 1, .maximum = 5, .value = 1, .small_change = 1, .large_change = 1}};
+  ui::Label lblFaster{FrameGraph, {.name = "lblFaster", .caption = "Faster", .place = {145, 106, 40, 8}}};
+  ui::Label lblSlower{FrameGraph, {.name = "lblSlower", .caption = "Slower", .place = {231, 106, 26, 8}}};
+
+  ui::Frame FrameOther{page, {.name = "FrameOther", .caption = "Warnings", .place = {4, 126, 258, 30}}};
+  ui::CheckBox Check4{FrameOther,
+                      {.name = "Check4",
+                       .caption = "Resources Warning",
+                       .access_key = 'R',
+                       .tool_tip = "This should normally be left un-checked",
+                       .place = {11, 139, 78, 10}}};
+  ui::Label lblAutoAndTime{
+      FrameOther, {.name = "lblAutoAndTime", .caption = "(Auto & Time Only)", .place = {92, 140, 90, 8}}};
+};
+
+}  // namespace qdix::screens

@@ -1,0 +1,50 @@
+// The "Time Intervals" tab: the timed release. What a form designer shows; no behaviour.
+#pragma once
+
+#include "screens/automatic_screen.h"
+
+namespace qdix::screens {
+
+struct TimeIntervalsScreen {
+  explicit TimeIntervalsScreen(ui::Container& on) : page(on) {}
+
+  ui::Container& page;
+
+  ui::Frame FrameTime{page, {.name = "FrameTime", .caption = "Timed Release", .place = {4, 2, 258, 112}}};
+  ui::CheckBox Check3{FrameTime,
+                      {.name = "Check3",
+                       .caption = "Time Releases Active",
+                       .access_key = 'A',
+                       .tool_tip = "Must be ticked for Timed freeups to take place",
+                       .place = {11, 14, 120, 10}}};
+  ui::Label lblUnit{FrameTime,
+                    {.name = "lblUnit", .caption = "Release RAM every:", .place = {11, 32, 72, 8}}};
+  ui::Frame FrameUnit{FrameTime, {.name = "FrameUnit", .caption = "Unit", .place = {78, 38, 62, 38}}};
+  ui::OptionButton Option4{
+      FrameUnit, {.name = "Option4", .caption = "Minutes", .access_key = 'n', .place = {84, 49, 50, 10}}};
+  ui::OptionButton Option5{
+      FrameUnit, {.name = "Option5", .caption = "Hours", .access_key = 'o', .place = {84, 62, 50, 10}}};
+  ui::ListBox lstTime{
+      FrameTime,
+      {.name = "lstTime", .tool_tip = "Time interval at which RAM is Released", .place = {11, 42, 60, 50}}};
+  ui::Label lblTimeAmount{FrameTime,
+                          {.name = "lblTimeAmount",
+                           .caption = "Amount of RAM to Release:",
+                           .access_key = 'm',
+                           .place = {150, 32, 104, 8}}};
+  ui::ListBox List3{FrameTime, {.name = "List3", .tool_tip = kHalfRamTip, .place = {150, 42, 60, 50}}};
+  ui::Label lblNextRelease{FrameTime,
+                           {.name = "lblNextRelease", .place = {11, 100, 244, 8}, .visible = false}};
+
+  ui::Frame FrameTimeCpu{page, {.name = "FrameTimeCpu", .caption = "CPU", .place = {4, 117, 258, 32}}};
+  ui::CheckBox Check10{FrameTimeCpu,
+                       {.name = "Check10",
+                        .caption = "Don't perform time freeup unless CPU usage is below",
+                        .access_key = 'u',
+                        .place = {11, 130, 204, 10}}};
+  ui::TextBox Text10{FrameTimeCpu, {.name = "Text10", .place = {218, 128, 24, 13}}};
+  ui::Label lblTimeCpuUnit{FrameTimeCpu,
+                           {.name = "lblTimeCpuUnit", .caption = "%", .place = {245, 130, 12, 8}}};
+};
+
+}  // namespace qdix::screens

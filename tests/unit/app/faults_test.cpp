@@ -1,0 +1,73 @@
+// Every call of the system that can fail is failed once, and from then on, through a whole session.
+#include <gtest/gtest.h>
+
+#include "tests/support/program_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+/// A session that reaches every call: first start, a release of two blocks, each tab, a change of settings,
+/// the close.
+void RunSession(ProgramRig& rig) {
+  rig.Start();
+  if (rig.program->Window().Unloaded()) return;
+  rig.AdvanceMs(1500);
+  rig.program->Quondix().List1.Choose("512 MB");
+  rig.program->Quondix().Command1.Press();
+  for (int tab = 0; tab < 8; ++tab) rig.program->MainWindow().SSTab1.ChooseTab(tab);
+  rig.program->MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
+  rig.program->Automatic().Check1.Press();
+  rig.program->Automatic().Command7.Press();
+  rig.program->Window().Unload();
+}
+
+int CallsOfASession() {
+  ProgramRig rig;
+  RunSession(rig);
+  return rig.machine.FaultableCallCount();
+}
+
+void ExpectSoundEnd(ProgramRig& rig, int call) {
+  EXPECT_TRUE(rig.program->Window().Unloaded()) << call;
+  EXPECT_TRUE(rig.machine.OutstandingBlocks().empty()) << call;
+  EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << call;
+  EXPECT_TRUE(rig.machine.Misuses().empty()) << call << ": " << rig.machine.Misuses().front();
+}
+
+TEST(Faults, EachCallFailedOnceEndsNothingButWhatItBelongsTo) {
+  const int calls = CallsOfASession();
+  ASSERT_GT(calls, 50);
+  for (int call = 1; call <= calls; ++call) {
+    ProgramRig rig;
+    rig.machine.FailCallNumber(call);
+    RunSession(rig);
+    ExpectSoundEnd(rig, call);
+  }
+}
+
+TEST(Faults, EachCallFailedFromThenOnEndsNothingButWhatItBelongsTo) {
+  const int calls = CallsOfASession();
+  for (int call = 1; call <= calls; ++call) {
+    ProgramRig rig;
+    rig.machine.FailFromCallNumber(call);
+    RunSession(rig);
+    ExpectSoundEnd(rig, call);
+  }
+}
+
+TEST(Faults, OnlyKnownMessagesAreShown) {
+  const int calls = CallsOfASession();
+  for (int call = 1; call <= calls; ++call) {
+    ProgramRig rig;
+    rig.machine.FailCallNumber(call);
+    RunSession(rig);
+    for (const auto& box : rig.machine.Boxes()) {
+      EXPECT_TRUE(box.text.starts_with("Warning - System Resources") ||
+                  box.text.starts_with("The Automatic free up function"))
+          << call << ": " << box.text;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace qdix::tests

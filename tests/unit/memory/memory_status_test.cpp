@@ -1,0 +1,198 @@
+// The memory figures and how they are shown.
+#include <gtest/gtest.h>
+
+#include "tests/support/program_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+using os::kMbOk;
+
+constexpr const char* kReportBeginning = "An error has occurred. The following info may help debug.";
+
+TEST(MemoryStatus, TotalIsCountedInMegabytesOf1024000BytesWithFractions) {
+  ProgramRig rig(64 * kMegabyte);
+  EXPECT_DOUBLE_EQ(rig.Start().Monitor().TotalRAM(), 67108864 / 1.024 / 1000000);
+  EXPECT_EQ(rig.program->Monitor().TotalRamMb(), 66);  // 65.536 rounded
+}
+
+TEST(MemoryStatus, TotalOfTwoGigabytesAndMoreReadsNegative) {
+  ProgramRig rig(64 * kMegabyte);
+  rig.machine.SetMemory(0x80000000U, 1000, 1000, 1000);
+  EXPECT_DOUBLE_EQ(rig.Start().Monitor().TotalRAM(), -2147483648.0 / 1.024 / 1000000);
+  EXPECT_EQ(rig.program->Monitor().TotalRamMb(), -2097);
+}
+
+TEST(MemoryStatus, SwapFileTotalIsDividedOnceMoreBy1024) {
+  ProgramRig rig;
+  rig.machine.SetMemory(64 * kMegabyte, 32 * kMegabyte, 200 * kMegabyte, 100 * kMegabyte);
+  EXPECT_DOUBLE_EQ(rig.Start().Monitor().TotalSwapFile(), 200.0 * kMegabyte / 1.024 / 1000000 / 1024);
+}
+
+TEST(MemoryStatus, TotalsAreShownOnceAtLoad) {
+  ProgramRig rig;
+  rig.machine.SetMemory(64 * kMegabyte, 32 * kMegabyte, 1500 * kMegabyte, 100 * kMegabyte);
+  auto& screen = rig.Start().Quondix();
+  EXPECT_EQ(screen.lblTotalMem.Caption(), "Total Physical Memory:  65,536 KB");
+  EXPECT_EQ(screen.lblSwapfile.Caption(), "Virtual Memory (Swapfile) :  1,500 MB");
+}
+
+TEST(MemoryStatus, TotalsOfNothingShowNoNumber) {
+  ProgramRig rig;
+  rig.machine.SetMemory(0, 0, 0, 0);
+  auto& screen = rig.Start().Quondix();
+  EXPECT_EQ(screen.lblTotalMem.Caption(), "Total Physical Memory:   KB");
+  EXPECT_EQ(screen.lblSwapfile.Caption(), "Virtual Memory (Swapfile) :   MB");
+}
+
+TEST(MemoryStatus, AvailableMemoryHasTwoDecimals) {
+  ProgramRig rig;
+  rig.Start();
+  rig.machine.SetMemory(64 * kMegabyte, 24012345, 1000, 1000);
+  EXPECT_DOUBLE_EQ(rig.program->Monitor().MemStatus(), 23.45);  // 23.4495...
+}
+
+TEST(MemoryStatus, AvailableAboveTotalShowsAsTheFigureDividedBy102Point4) {
+  ProgramRig rig;
+  rig.Start();  // total 66
+  rig.machine.SetMemory(64 * kMegabyte, 512 * kMegabyte, 1000, 1000);
+  EXPECT_DOUBLE_EQ(rig.program->Monitor().MemStatus(), 5);  // 524.29 / 102.4 = 5.12
+}
+
+TEST(MemoryStatus, AvailableEqualToTotalIsLeftAlone) {
+  ProgramRig rig;
+  rig.Start();
+  rig.machine.SetMemory(64 * kMegabyte, 66 * 1024000, 1000, 1000);
+  EXPECT_DOUBLE_EQ(rig.program->Monitor().MemStatus(), 66);
+}
+
+TEST(MemoryStatus, SwapFileInUseIsHalvedRoundedAndShownDoubled) {
+  ProgramRig rig;
+  rig.Start();
+  rig.machine.SetMemory(64 * kMegabyte, 32 * kMegabyte, 1000, 750);  // 25 % used: 12.5 rounds to 12
+  (void)rig.program->Monitor().MemStatus();
+  EXPECT_EQ(rig.program->Quondix().Gauge2.Value(), 12);
+  EXPECT_EQ(rig.program->Quondix().lblSwapfileUsed.Caption(), "24% Used");
+}
+
+TEST(MemoryStatus, WithoutSwapFileTheGaugeKeepsItsValueAndTheLabelShowsIt) {
+  ProgramRig rig;
+  rig.Start();
+  rig.machine.SetMemory(64 * kMegabyte, 32 * kMegabyte, 1000, 400);
+  (void)rig.program->Monitor().MemStatus();
+  rig.machine.SetMemory(64 * kMegabyte, 32 * kMegabyte, 0, 0);
+  (void)rig.program->Monitor().MemStatus();
+  EXPECT_EQ(rig.program->Quondix().Gauge2.Value(), 30);
+  EXPECT_EQ(rig.program->Quondix().lblSwapfileUsed.Caption(), "60% Used");
+}
+
+TEST(MemoryStatus, PercentagesShownAreAlwaysEven) {
+  ProgramRig rig;
+  rig.Start();
+  for (std::uint32_t available = 0; available <= 64; ++available) {
+    rig.machine.SetMemory(64 * kMegabyte, available * kMegabyte, 64, available);
+    rig.AdvanceMs(750);
+    for (const auto* label :
+         {&rig.program->Quondix().lblPercentFree, &rig.program->Quondix().lblSwapfileUsed}) {
+      const std::string& text = label->Caption();
+      const char last_digit = text[text.find('%') - 1];
+      EXPECT_EQ((last_digit - '0') % 2, 0) << text;
+    }
+  }
+}
+
+TEST(MemoryStatus, SubtractionThatOverflowsIsReportedOncePerRun) {
+  ProgramRig rig;
+  rig.Start();
+  rig.machine.SetMemory(64 * kMegabyte, 24012345, 0x7FFFFFFFU, 0xFFFFFFFEU);  // total - (-2) overflows
+  EXPECT_DOUBLE_EQ(rig.program->Monitor().MemStatus(), 23.45);
+  ASSERT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_EQ(rig.machine.Boxes()[0].text,
+            std::string(kReportBeginning) + "\r\nAvailable RAM : 23.45\r\nVM : 100\r\nTotal Ram : 66");
+  EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX");
+  EXPECT_EQ(rig.machine.Boxes()[0].flags, kMbOk);
+  EXPECT_EQ(rig.program->Quondix().lblSwapfileUsed.Caption(), "0% Used")
+      << "goes on after the failed statement";
+  for (int tick = 0; tick < 100; ++tick) rig.AdvanceMs(750);
+  EXPECT_EQ(rig.machine.Boxes().size(), 1U);
+}
+
+TEST(MemoryStatus, ErrorThatRecursWhileItsBoxIsOpenShowsNoSecondBox) {
+  ProgramRig rig;
+  rig.Start();
+  rig.machine.SetMemory(64 * kMegabyte, 24012345, 0x7FFFFFFFU, 0xFFFFFFFEU);
+  rig.machine.WhileBoxIsOpen([&] { rig.AdvanceMs(7500); });
+  (void)rig.program->Monitor().MemStatus();
+  EXPECT_EQ(rig.machine.Boxes().size(), 1U);
+}
+
+TEST(MemoryStatus, GaugeLevelOutsideItsRangeIsReportedLikeAnyError) {
+  ProgramRig rig;
+  rig.Start();
+  rig.machine.SetMemory(64 * kMegabyte, 24012345, 1000, 1100);  // less used than nothing
+  (void)rig.program->Monitor().MemStatus();
+  ASSERT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_EQ(rig.machine.Boxes()[0].text,
+            std::string(kReportBeginning) + "\r\nAvailable RAM : 23.45\r\nVM : -10\r\nTotal Ram : 66");
+}
+
+TEST(MemoryDisplay, TickShowsCaptionGaugeAndPercentage) {
+  ProgramRig rig;
+  rig.Start();
+  rig.machine.SetMemory(64 * kMegabyte, 24012345, 1000, 1000);
+  rig.AdvanceMs(750);
+  EXPECT_EQ(rig.program->Window().Caption(), "23.45 MB   Q-DIX");
+  EXPECT_EQ(rig.program->Quondix().Gauge1.Value(), 17);  // 23.45 / 66 * 50 = 17.77
+  EXPECT_EQ(rig.program->Quondix().lblPercentFree.Caption(), "34%  Available RAM");
+}
+
+TEST(MemoryDisplay, AllMemoryAvailableLightsTheWholeGauge) {
+  ProgramRig rig;
+  rig.Start();
+  rig.machine.SetMemory(64 * kMegabyte, 66 * 1024000, 1000, 1000);
+  rig.AdvanceMs(750);
+  EXPECT_EQ(rig.program->Quondix().Gauge1.Value(), 50);
+  EXPECT_EQ(rig.program->Quondix().lblPercentFree.Caption(), "100%  Available RAM");
+}
+
+struct Misread {
+  const char* what;
+  std::uint32_t total;
+  std::uint32_t available;
+  const char* caption;
+};
+
+class MisreadMemory : public testing::TestWithParam<Misread> {};
+
+TEST_P(MisreadMemory, SaysSoInTheCaptionAndGoesOn) {
+  ProgramRig rig;
+  rig.machine.SetMemory(GetParam().total, GetParam().available, 1000, 1000);
+  rig.Start();
+  rig.AdvanceMs(750);
+  EXPECT_EQ(
+      rig.program->Window().Caption(),
+      std::string(GetParam().caption) + " MB   Q-DIX - This reading is Incorrect. See our support page.");
+  EXPECT_EQ(rig.program->Quondix().Gauge1.Value(), 0);
+  EXPECT_FALSE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.machine.Boxes().empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Totals, MisreadMemory,
+    testing::Values(Misread{"zero by zero", 0, 0, "0"}, Misread{"division by zero", 0, 512 * kMegabyte, "5"},
+                    Misread{"negative available", 64 * kMegabyte, 0xF0000000U, "-262.14"}));
+
+TEST(MemoryDisplay, TickGoesOnEvery750MsWhileTheWindowIsHidden) {
+  ProgramRig rig;
+  rig.Store("Startup", "StartDisplay", "3");
+  rig.Start();
+  EXPECT_FALSE(rig.program->Window().Shown());
+  rig.machine.SetMemory(64 * kMegabyte, 24012345, 1000, 1000);
+  rig.AdvanceMs(749);
+  EXPECT_EQ(rig.program->Window().Caption(), "Q-DIX");
+  rig.AdvanceMs(1);
+  EXPECT_EQ(rig.program->Window().Caption(), "23.45 MB   Q-DIX");
+}
+
+}  // namespace
+}  // namespace qdix::tests
