@@ -1,0 +1,176 @@
+#!/usr/bin/env bash
+# A private screen of 800 x 600 with a Windows desktop, its taskbar and its notification area on it.
+#   desktop.sh run COMMAND [ARGUMENT...]   runs the command in there (DISPLAY set) and passes its exit code on
+#   desktop.sh photo FILE.png              takes a picture of the whole screen; called by a command that runs in there
+# Programs started with tools/wine/wine.sh appear in the desktop and get a button in the taskbar. When the command
+# ends, or a signal arrives, every Windows program and the screen are ended. Inside a desktop, `run` uses that one.
+set -euo pipefail
+
+tools_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+readonly tools_dir
+readonly wine="$tools_dir/wine/wine.sh"
+readonly screen=800x600
+readonly start_limit_s=60
+readonly lock_limit_s=1800
+readonly leftover_limit_s=20
+# Ends a child even if this script is killed without a chance to clean up; without their screen Wine's programs end too.
+readonly with_this_script=(setpriv --pdeathsig TERM)
+
+screen_pid=""
+explorer_pid=""
+command_pid=""
+state_dir=""
+
+say() { printf 'desktop: %s\n' "$*" >&2; }
+
+is_running() { [ -n "$1" ] && kill -0 "$1" 2>/dev/null; }
+
+# Ends the child $1 (if any): politely, then after five seconds by force.
+end_child() {
+  local pid=$1 tenths
+  if ! is_running "$pid"; then return 0; fi
+  kill "$pid" 2>/dev/null || true
+  for ((tenths = 0; tenths < 50; tenths++)); do
+    if ! is_running "$pid"; then break; fi
+    sleep 0.1
+  done
+  kill -9 "$pid" 2>/dev/null || true
+  wait "$pid" 2>/dev/null || true
+}
+
+clean_up() {
+  trap '' HUP INT TERM
+  # The command leads a process group of its own: what it started is ended with it.
+  if [ -n "$command_pid" ]; then kill -TERM -- "-$command_pid" 2>/dev/null || true; fi
+  end_child "$command_pid"
+  if [ -n "$explorer_pid" ]; then
+    "$wine" --server -k >/dev/null 2>&1 || true
+    timeout 30 "$wine" --server -w >/dev/null 2>&1 || true
+  fi
+  end_child "$explorer_pid"
+  end_child "$screen_pid"
+  if [ -n "$state_dir" ]; then rm -rf "$state_dir"; fi
+}
+
+# Starts the X server on a number that it finds free itself, and sets DISPLAY.
+start_screen() {
+  "${with_this_script[@]}" Xvfb -displayfd 3 -screen 0 "${screen}x24" -dpi 96 -nolisten tcp -noreset 3>"$state_dir/number" \
+    >"$state_dir/screen.log" 2>&1 9>&- </dev/null &
+  screen_pid=$!
+  local deadline=$((SECONDS + start_limit_s))
+  until [ -s "$state_dir/number" ]; do
+    if ! is_running "$screen_pid" || ((SECONDS > deadline)); then
+      say "the X server did not start:"
+      tail -n 5 "$state_dir/screen.log" >&2
+      return 1
+    fi
+    sleep 0.05
+  done
+  DISPLAY=":$(tr -d '[:space:]' <"$state_dir/number")"
+  export DISPLAY
+  unset XAUTHORITY WAYLAND_DISPLAY
+}
+
+# True when the desktop window holds a window as wide as the screen at its lower edge: the taskbar, drawn and visible.
+taskbar_is_there() {
+  local id
+  for id in $(xwininfo -root -tree 2>/dev/null |
+    awk '/"explorer.exe"/ && / 800x[0-9]+\+0\+/ && !/800x600/ { print $1 }'); do
+    if xwininfo -id "$id" 2>/dev/null | grep -q 'Map State: IsViewable'; then return 0; fi
+  done
+  return 1
+}
+
+start_windows_desktop() {
+  # The prefix names the desktop that a program joins when nothing else is said; the first one opens it. It stays for as
+  # long as this one does.
+  "$wine" explorer "/desktop=qdix,$screen" >"$state_dir/explorer.log" 2>&1 9>&- </dev/null &
+  explorer_pid=$!
+  local deadline=$((SECONDS + start_limit_s))
+  until taskbar_is_there; do
+    if ! is_running "$explorer_pid" || ((SECONDS > deadline)); then
+      say "the taskbar did not appear (limit: $start_limit_s seconds)"
+      tail -n 5 "$state_dir/explorer.log" >&2
+      return 1
+    fi
+    sleep 0.1
+  done
+}
+
+# One desktop in a prefix at a time: the server of the prefix, and with it the desktop, is shared by all its programs.
+lock_prefix() {
+  local prefix=$1
+  mkdir -p "$(dirname "$prefix")"
+  exec 9>"$prefix.desktop.lock"
+  if flock -n 9; then return 0; fi
+  say "waiting for another desktop in $(basename "$prefix") to end"
+  if ! flock -w "$lock_limit_s" 9; then
+    say "it has not ended in $((lock_limit_s / 60)) minutes"
+    return 1
+  fi
+}
+
+# Programs that were started without a desktop share the server, which knows no screen then: let them come to their
+# end, and end what a killed script left behind.
+empty_prefix() {
+  if timeout "$leftover_limit_s" "$wine" --server -w 9>&-; then return 0; fi
+  say "ending the Windows programs that are still running in the prefix"
+  "$wine" --server -k 9>&- || true
+  timeout 30 "$wine" --server -w 9>&-
+}
+
+run() {
+  if [ -n "${QDIX_DESKTOP:-}" ]; then exec "$@"; fi
+  "$tools_dir/wine/prefix.sh"
+  lock_prefix "${WINEPREFIX:-$(cd "$tools_dir/.." && pwd)/build/wineprefix}"
+  empty_prefix
+  state_dir=$(mktemp -d)
+  trap clean_up EXIT
+  trap 'exit 129' HUP
+  trap 'exit 130' INT
+  trap 'exit 143' TERM
+  start_screen
+  start_windows_desktop
+  local status=0
+  # Job control gives the command its own process group; waiting for it in the background lets signals in at once.
+  set -m
+  QDIX_DESKTOP="$DISPLAY" "${with_this_script[@]}" "$@" 9>&- </dev/null &
+  command_pid=$!
+  set +m
+  wait "$command_pid" || status=$?
+  return "$status"
+}
+
+# Into a new name first, so that a picture is either complete or not there.
+photo() {
+  local file=$1
+  if [ -z "${DISPLAY:-}" ]; then
+    say "there is no screen to photograph"
+    return 1
+  fi
+  mkdir -p "$(dirname "$file")"
+  import -silent -window root "png:$file.new"
+  mv "$file.new" "$file"
+}
+
+case "${1:-}" in
+  run)
+    shift
+    if (($# == 0)); then
+      say "run needs a command"
+      exit 2
+    fi
+    run "$@"
+    ;;
+  photo)
+    if (($# != 2)); then
+      say "photo needs a file name"
+      exit 2
+    fi
+    photo "$2"
+    ;;
+  *)
+    sed -n '2,6s/^# \{0,1\}//p' "${BASH_SOURCE[0]}" >&2
+    exit 2
+    ;;
+esac

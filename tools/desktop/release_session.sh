@@ -1,0 +1,166 @@
+#!/usr/bin/env bash
+# One release by hand, on the screen it is started on:   release_session.sh PROGRAM PROBE PICTURE.png
+# Starts the program, presses "Free Up RAM Now" with the pointer, waits for the end of the release, prints the figures
+# of the window before and after and the peak of the program's memory, takes a picture and closes the window.
+# The exit code is 0 only if all of that happened.
+set -euo pipefail
+
+tools_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+readonly tools_dir
+readonly program=${1:?the program to start}
+readonly probe=${2:?the program that looks at windows}
+readonly picture=${3:?the picture to take}
+
+readonly button=Command1
+readonly figures=(lblPercentFree lblSwapfileUsed lblTotalMem lblSwapfile)
+readonly start_limit_s=60
+readonly release_limit_s=180
+readonly close_limit_s=30
+readonly probe_limit_s=20
+
+program_pid=""
+work_dir=$(mktemp -d)
+
+is_running() { kill -0 "$1" 2>/dev/null; }
+
+# The desktop may outlive this script: a program that was not closed must not stay in it.
+clean_up() {
+  if [ -n "$program_pid" ] && is_running "$program_pid"; then kill "$program_pid" || true; fi
+  rm -rf "$work_dir"
+}
+trap clean_up EXIT
+trap 'exit 129' HUP
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
+# The picture of a failure gets another name, so that $picture stands for a release that was seen through.
+fail() {
+  printf 'run: %s\n' "$*" >&2
+  "$tools_dir/desktop/desktop.sh" photo "${picture%.png}-failed.png" || true
+  exit 1
+}
+
+# Runs the probe with a limit in seconds.
+run_probe() {
+  local limit_s=$1
+  shift
+  timeout "$limit_s" "$tools_dir/wine/wine.sh" "$probe" "$@" </dev/null
+}
+
+# Asks the probe one question; its lines end as Windows ends them.
+ask() { run_probe "$probe_limit_s" "$@" | tr -d '\r'; }
+
+# Presses OK in every message box that is in the way, and says what it said.
+answer_boxes() {
+  local texts
+  texts=$(ask answer-boxes) || return 0
+  if [ -n "$texts" ]; then printf 'run: answered a message box: %s\n' "$texts"; fi
+}
+
+start_program() {
+  "$tools_dir/wine/wine.sh" "$program" >"$work_dir/program.log" 2>&1 </dev/null &
+  program_pid=$!
+  local deadline=$((SECONDS + start_limit_s))
+  until run_probe 5 wait-window >"$work_dir/window.log" 2>&1; do
+    is_running "$program_pid" || fail "the program ended before its window appeared"
+    ((SECONDS < deadline)) || fail "the window did not appear within $start_limit_s seconds"
+    answer_boxes
+  done
+  answer_boxes
+}
+
+# Waits until the button is enabled, with message boxes answered on the way.
+wait_for_button() {
+  local deadline=$((SECONDS + release_limit_s))
+  until [ "$(ask enabled "$button")" = 1 ]; do
+    is_running "$program_pid" || fail "the program ended by itself"
+    ((SECONDS < deadline)) || fail "the button was not enabled within $release_limit_s seconds"
+    answer_boxes
+  done
+}
+
+# Writes caption, figures and committed bytes, one a line, into the file $1.
+read_figures() {
+  local file=$1 name
+  ask caption >"$file" || fail "the caption could not be read"
+  for name in "${figures[@]}"; do
+    ask text "$name" >>"$file" || fail "the text of $name could not be read"
+  done
+  ask committed >>"$file" || fail "the memory of the program could not be read"
+}
+
+print_figures() {
+  local -a before after
+  mapfile -t before <"$work_dir/before"
+  mapfile -t after <"$work_dir/after"
+  local -a names=(caption "${figures[@]}" "committed bytes")
+  if ((${#before[@]} != ${#names[@]} || ${#after[@]} != ${#names[@]})); then
+    fail "the window gave ${#before[@]} and ${#after[@]} figures instead of ${#names[@]}"
+  fi
+  local index
+  printf '%-18s %-36s %s\n' figure before after
+  for ((index = 0; index < ${#names[@]}; index++)); do
+    printf '%-18s %-36s %s\n' "${names[index]}" "${before[index]}" "${after[index]}"
+  done
+  printf '%-18s %s\n' "peak, bytes" "$1"
+}
+
+# Moves the pointer to the middle of the button and presses its left button, as a hand does.
+press_button() {
+  local x y width height
+  read -r x y width height < <(ask rect "$button") || fail "the place of the button is unknown"
+  xdotool mousemove --sync $((x + width / 2)) $((y + height / 2)) mousedown 1 mouseup 1
+}
+
+# Presses the button while the probe samples the program's memory, and sets peak_bytes.
+release() {
+  run_probe "$release_limit_s" peak >"$work_dir/peak" 2>"$work_dir/peak.log" &
+  local sampler_pid=$! deadline=$((SECONDS + probe_limit_s))
+  # The sampler's first line says that it is looking; a press before that could be over unseen.
+  until grep -q '^sampling' "$work_dir/peak"; do
+    is_running "$sampler_pid" || fail "the memory of the program could not be sampled"
+    ((SECONDS < deadline)) || fail "the sampler did not begin within $probe_limit_s seconds"
+    sleep 0.1
+  done
+  press_button
+  while is_running "$sampler_pid"; do
+    is_running "$program_pid" || fail "the program ended by itself during the release"
+    sleep 0.5
+    if is_running "$sampler_pid"; then answer_boxes; fi
+  done
+  wait "$sampler_pid" || fail "the button was not disabled and enabled again after it was pressed"
+  peak_bytes=$(tail -n 1 "$work_dir/peak" | tr -d '\r')
+  [[ "$peak_bytes" =~ ^[0-9]+$ ]] || fail "the sampler gave no number of bytes: '$peak_bytes'"
+}
+
+# Closes the window and waits until the program has ended by itself, with questions about it answered.
+close_program() {
+  run_probe "$close_limit_s" close >"$work_dir/close.log" 2>&1 &
+  local closer_pid=$! deadline=$((SECONDS + close_limit_s))
+  while is_running "$program_pid"; do
+    ((SECONDS < deadline)) || fail "the program did not end within $close_limit_s seconds after its window was closed"
+    sleep 0.5
+    if is_running "$program_pid"; then answer_boxes; fi
+  done
+  wait "$closer_pid" || fail "the window could not be closed: $(tail -n 1 "$work_dir/close.log")"
+  local status=0
+  wait "$program_pid" || status=$?
+  ((status == 0)) || fail "the program ended with exit code $status"
+}
+
+main() {
+  rm -f "$picture" "${picture%.png}-failed.png"
+  start_program
+  wait_for_button
+  read_figures "$work_dir/before"
+  release
+  wait_for_button
+  answer_boxes
+  read_figures "$work_dir/after"
+  print_figures "$peak_bytes"
+  "$tools_dir/desktop/desktop.sh" photo "$picture"
+  close_program
+  echo "run: released, photographed ($picture) and closed"
+}
+
+main

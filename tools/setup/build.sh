@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# Configures and builds one preset:   build.sh PRESET [TARGET...]
+# What the build says goes to build/logs/PRESET.log; the end of it is shown when something fails.
+set -euo pipefail
+
+if (($# == 0)); then
+  sed -n '2,3s/^# //p' "${BASH_SOURCE[0]}" >&2
+  exit 2
+fi
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+preset=$1
+shift
+log="build/logs/$preset.log"
+mkdir -p build/logs
+
+targets=()
+if (($# > 0)); then targets=(--target "$@"); fi
+
+# Runs one step of the build; false, with the last lines of the log shown, when it fails.
+step() {
+  if "$@" >>"$log" 2>&1 </dev/null; then return 0; fi
+  echo "build: '$*' failed; the end of $log:" >&2
+  tail -n 100 "$log" >&2
+  return 1
+}
+
+echo "build: $preset${*:+ ($*)}"
+: >"$log"
+step cmake --preset "$preset"
+step cmake --build --preset "$preset" "${targets[@]}"

@@ -1,0 +1,87 @@
+#!/usr/bin/env bash
+# Installs what building and testing needs from the package archive of a Debian-like machine.
+# Asks dpkg once and touches nothing when all is there; it never upgrades or removes a package on purpose.
+set -euo pipefail
+
+readonly packages=(
+  # the compiler of this machine, the build and its checks
+  g++ cmake ninja-build git python3 clang-format clang-tidy libgtest-dev libgmock-dev googletest
+  # the compiler for Windows programs
+  g++-mingw-w64-i686-win32 binutils-mingw-w64-i686 mingw-w64-i686-dev
+  # a private screen, a hand on it, and pictures of it
+  xvfb xdotool x11-utils imagemagick
+  # the private Wine: unpacking it, and making its programs find their own libraries
+  patchelf xz-utils ca-certificates debian-archive-keyring procps
+)
+readonly attempts=3
+readonly apt_options=(-q -y -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=300 -o Acquire::Retries=3)
+
+# Prints the packages that are not completely installed, one a line.
+missing_packages() {
+  local installed
+  # dpkg-query ends with 1 when it does not know one of the names: that is an answer here, not a failure.
+  installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null || true)
+  local name
+  for name in "${packages[@]}"; do
+    grep -qx "installed $name" <<<"$installed" || printf '%s\n' "$name"
+  done
+}
+
+# Runs apt-get with the rights it needs; its output is kept in a file and shown only when it failed.
+run_apt() {
+  local log=$1
+  shift
+  local -a as_root=()
+  if [ "$(id -u)" -ne 0 ]; then as_root=(sudo -n); fi
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get "${apt_options[@]}" "$@" </dev/null >"$log" 2>&1
+}
+
+install_packages() {
+  local log=$1
+  shift
+  local attempt
+  for ((attempt = 1; attempt <= attempts; attempt++)); do
+    # A third-party source that cannot be read must not stop the installation of these packages.
+    run_apt "$log" update || echo "setup: the package lists were not refreshed completely; going on with what is there"
+    if run_apt "$log" install --no-install-recommends "$@"; then return 0; fi
+    echo "setup: attempt $attempt of $attempts failed" >&2
+    if ((attempt < attempts)); then sleep $((attempt * 5)); fi
+  done
+  return 1
+}
+
+main() {
+  if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+    echo "setup: this machine has no apt; install the counterparts of these packages by hand:" >&2
+    printf '  %s\n' "${packages[@]}" >&2
+    return 1
+  fi
+  local -a missing
+  mapfile -t missing < <(missing_packages)
+  if ((${#missing[@]} == 0)); then return 0; fi
+
+  echo "setup: installing ${#missing[@]} packages: ${missing[*]}"
+  if [ "$(id -u)" -ne 0 ] && ! sudo -n true 2>/dev/null; then
+    echo "setup: installing needs root or sudo without a password; run this once as root:" >&2
+    echo "  apt-get install --no-install-recommends ${missing[*]}" >&2
+    return 1
+  fi
+  local log
+  log=$(mktemp)
+  if ! install_packages "$log" "${missing[@]}"; then
+    echo "setup: apt-get could not install the packages. Its last lines:" >&2
+    tail -n 25 "$log" >&2
+    rm -f "$log"
+    return 1
+  fi
+  rm -f "$log"
+
+  mapfile -t missing < <(missing_packages)
+  if ((${#missing[@]} > 0)); then
+    echo "setup: apt-get reported success, but these are still missing: ${missing[*]}" >&2
+    return 1
+  fi
+  echo "setup: packages installed"
+}
+
+main "$@"

@@ -1,0 +1,198 @@
+#!/usr/bin/env bash
+# Provides a Wine that runs 32-bit programs: the machine's own if it really does, else a private one in the cache
+# folder, unpacked from the distribution's i386 packages. Nothing of the machine itself is changed.
+set -euo pipefail
+
+# shellcheck source=tools/wine/common.sh
+source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+
+readonly wine_packages=(
+  wine32 libx11-6 libxext6 libxrender1 libxrandr2 libxcursor1 libxfixes3 libxi6 libxcomposite1 libxinerama1
+  fonts-wine fonts-liberation
+)
+readonly archive_keyring=/usr/share/keyrings/debian-archive-keyring.gpg
+readonly download_attempts=3
+readonly proof_limit_s=180
+
+work_dir=""
+clean_up() {
+  if [ -z "$work_dir" ]; then return 0; fi
+  local prefix
+  for prefix in "$work_dir"/proof-*/prefix; do remove_prefix "$prefix"; done
+  rm -rf "$work_dir"
+}
+trap clean_up EXIT
+trap 'exit 129' HUP
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
+# Compiles a small 32-bit console program, runs it with the Wine named in $1 in a new prefix, and looks at
+# what it wrote and returned. Whether this works is the only thing that counts.
+proves_to_run() {
+  local which=$1
+  local folder="$work_dir/proof-$which"
+  mkdir -p "$folder"
+  cat >"$folder/proof.c" <<'PROGRAM'
+#include <windows.h>
+#include <stdio.h>
+int main(void) {
+  printf("%u bits, window %d\n", (unsigned)(8 * sizeof(void*)), IsWindow(GetDesktopWindow()) != 0);
+  return 42;
+}
+PROGRAM
+  if ! i686-w64-mingw32-gcc -O1 -o "$folder/proof.exe" "$folder/proof.c" -luser32; then
+    say "the compiler for Windows programs does not work; nothing can be tried"
+    exit 1
+  fi
+  set_wine_programs "$which"
+  [ -n "$wine_server" ] || return 1
+  local output status=0
+  output=$(
+    unset DISPLAY
+    export WINEPREFIX="$folder/prefix"
+    export_wine_environment
+    timeout "$proof_limit_s" "$wine_program" "$folder/proof.exe" 2>"$folder/errors" </dev/null
+  ) || status=$?
+  remove_prefix "$folder/prefix"
+  if [ "$status" -eq 42 ] && [[ "$output" == "32 bits, window "* ]]; then return 0; fi
+  say "a 32-bit program did not run: exit code $status, output '${output:0:200}'"
+  tail -n 5 "$folder/errors" >&2
+  return 1
+}
+
+# Tries the machine's own Wine once for each path and version of it.
+try_host_wine() {
+  local identity verdict
+  identity=$(host_wine_identity)
+  [ -n "$identity" ] || return 1
+  verdict=$(host_wine_verdict_file "$identity")
+  if [ ! -f "$verdict" ]; then
+    say "trying the machine's own Wine ($identity)"
+    if proves_to_run host; then echo yes >"$verdict"; else echo no >"$verdict"; fi
+  fi
+  [ "$(<"$verdict")" = yes ]
+}
+
+# Prints "address release" of every source of this machine that may be the distribution's own archive. A third-party
+# source among them does no harm: its index is not signed with the archive's key, so reading it fails.
+archive_candidates() {
+  local codename
+  codename=$(sed -n 's/^VERSION_CODENAME=//p' /etc/os-release | tr -d '"')
+  # shellcheck disable=SC2016  # the variables are apt's
+  apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' |
+    awk -v codename="$codename" '
+      $3 == "main" && ($2 == codename || $2 ~ /^(oldstable|stable|testing|sid|unstable)$/) && !seen[$1 $2]++ {
+        print $1, $2
+      }'
+}
+
+# apt-get with its own lists, archives and state for i386, with the sources in $work_dir/sources.list.
+private_apt() {
+  apt-get -q -y \
+    -o APT::Architecture=i386 -o APT::Architectures=i386 -o APT::Install-Recommends=false \
+    -o Dir::Etc::sourcelist="$work_dir/sources.list" -o Dir::Etc::sourceparts=- \
+    -o Dir::State="$work_dir/state" -o Dir::State::lists="$work_dir/lists" -o Dir::State::status=/dev/null \
+    -o Dir::Cache="$work_dir/cache" -o Dir::Cache::archives="$work_dir/archives" \
+    -o Dir::Cache::pkgcache= -o Dir::Cache::srcpkgcache= \
+    -o APT::Sandbox::User= -o Debug::NoLocking=1 -o Acquire::Retries=3 -o Acquire::Languages=none \
+    "$@" </dev/null >"$work_dir/apt.log" 2>&1
+}
+
+# Reads the i386 index of one source; false when it cannot be read or is not signed by the distribution.
+read_index() {
+  local address=$1 release=$2
+  mkdir -p "$work_dir"/{state,lists/partial,cache,archives/partial}
+  printf 'deb [arch=i386 signed-by=%s] %s %s main\n' "$archive_keyring" "$address" "$release" >"$work_dir/sources.list"
+  private_apt -o APT::Update::Error-Mode=any update
+}
+
+download_packages() {
+  local -a candidates
+  mapfile -t candidates < <(archive_candidates)
+  if ((${#candidates[@]} == 0)); then
+    say "no archive of this distribution among the machine's package sources; install a 32-bit wine by hand"
+    return 1
+  fi
+  local attempt address release candidate
+  for ((attempt = 1; attempt <= download_attempts; attempt++)); do
+    for candidate in "${candidates[@]}"; do
+      read -r address release <<<"$candidate"
+      if read_index "$address" "$release" && private_apt --download-only install "${wine_packages[@]}"; then
+        return 0
+      fi
+    done
+    say "attempt $attempt of $download_attempts to download the i386 packages failed"
+    if ((attempt < download_attempts)); then sleep $((attempt * 5)); fi
+  done
+  tail -n 15 "$work_dir/apt.log" >&2
+  return 1
+}
+
+# Unpacks all packages into $1 and leaves out what only people read.
+unpack_packages() {
+  local root=$1 archive
+  mkdir -p "$root"
+  for archive in "$work_dir"/archives/*.deb; do
+    dpkg-deb -x "$archive" "$root"
+    rm "$archive"
+  done
+  rm -rf "$root"/usr/share/{doc,man,locale,info,lintian}
+}
+
+# The one step of the packages' own installation scripts that Wine cannot do without: zlib1.dll among its builtin
+# libraries, marked as such by a text at offset 64, in the 32 bytes that follow the DOS header.
+add_builtin_zlib() {
+  local root=$1
+  local builtin="$root/usr/lib/i386-linux-gnu/wine/i386-windows/zlib1.dll"
+  cp --remove-destination "$root/usr/i686-w64-mingw32/lib/zlib1.dll" "$builtin"
+  { printf 'Wine builtin DLL'; head -c 16 /dev/zero; } | dd of="$builtin" bs=1 seek=64 conv=notrunc status=none
+}
+
+# Makes Wine's programs in $1 use the loader and the libraries of $2, the place where the root will be in the end.
+# The search path is written into the programs, so that the environment of what they start stays as it is.
+point_to_own_libraries() {
+  local root=$1 final_root=$2 program
+  cp --remove-destination "$root/usr/lib/wine/wineserver32" "$root/usr/lib/wine/wineserver"
+  for program in wine wineserver; do
+    patchelf --set-interpreter "$final_root/lib/ld-linux.so.2" \
+      --force-rpath --set-rpath "$final_root/lib/i386-linux-gnu:$final_root/usr/lib/i386-linux-gnu" \
+      "$root/usr/lib/wine/$program"
+  done
+}
+
+build_private_wine() {
+  say "building a private 32-bit Wine in the cache folder (about 150 MB to download)"
+  download_packages
+  say "unpacking"
+  unpack_packages "$work_dir/root"
+  add_builtin_zlib "$work_dir/root"
+  point_to_own_libraries "$work_dir/root" "$private_wine_root"
+  rm -rf "$private_wine_root"
+  mv "$work_dir/root" "$private_wine_root"
+  say "trying it"
+  if ! proves_to_run private; then
+    rm -rf "$private_wine_root"
+    return 1
+  fi
+  touch "$private_wine_stamp"
+  say "ready"
+}
+
+main() {
+  if [ -n "$(chosen_wine)" ]; then return 0; fi
+  mkdir -p "$cache_dir"
+  # One set-up at a time; a second one waits and then finds the work done.
+  exec 9>"$cache_dir/wine.lock"
+  if ! flock -w 1800 9; then
+    say "another set-up has held the lock for half an hour"
+    return 1
+  fi
+  if [ -n "$(chosen_wine)" ]; then return 0; fi
+  # Remains of set-ups that were killed. Only the owner of the lock makes such folders.
+  rm -rf "$cache_dir"/building.*
+  work_dir=$(mktemp -d "$cache_dir/building.XXXXXX")
+  if try_host_wine 9>&-; then return 0; fi
+  build_private_wine 9>&-
+}
+
+main
