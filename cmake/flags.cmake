@@ -1,0 +1,26 @@
+# What every own source file is compiled with, as interface targets.
+
+# Warnings, all of them errors.
+add_library(qdix_warnings INTERFACE)
+target_compile_options(qdix_warnings INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Werror;-Wshadow;\
+-Wconversion;-Wnon-virtual-dtor;-Woverloaded-virtual;-Wvla>")
+
+# The Windows that is asked for: structures and names of the first Windows 95. As compiler flags, because the compiler's own headers
+# choose a later one before a #define could.
+add_library(qdix_windows95 INTERFACE)
+target_compile_definitions(qdix_windows95 INTERFACE
+  WINVER=0x0400 _WIN32_WINNT=0x0400 _WIN32_WINDOWS=0x0400 _WIN32_IE=0x0300 WIN32_LEAN_AND_MEAN)
+
+# Code that ships: any processor from the 386 with its 387, no exceptions, no run-time types. src/runtime/README.md has the reasons.
+add_library(qdix_shipped INTERFACE)
+target_compile_options(qdix_shipped INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Os;-march=i386;-mfpmath=387;-ffloat-store;\
+-fno-exceptions;-fno-rtti;-fno-threadsafe-statics;-fno-use-cxa-atexit;-fno-asynchronous-unwind-tables;\
+-ffunction-sections;-fdata-sections;-Walloca;-Wframe-larger-than=3000;-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
+target_link_libraries(qdix_shipped INTERFACE qdix_windows95)
+
+add_library(qdix_sanitizers INTERFACE)
+if(QDIX_SANITIZE)
+  target_compile_options(qdix_sanitizers INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(qdix_sanitizers INTERFACE -fsanitize=address,undefined)
+endif()

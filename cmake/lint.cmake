@@ -1,0 +1,13 @@
+# Format, static analysis, include direction and sizes, as tests of the sanitizer build.
+if(QDIX_SANITIZE)
+  find_package(Python3 REQUIRED COMPONENTS Interpreter)
+  set(lint ${CMAKE_SOURCE_DIR}/tools/lint)
+  add_test(NAME lint.format COMMAND ${lint}/format_check.sh)
+  add_test(NAME lint.includes COMMAND ${Python3_EXECUTABLE} ${lint}/include_direction.py ${CMAKE_SOURCE_DIR})
+  add_test(NAME lint.includes_finds_planted_faults
+    COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/lint/include_direction_test.py)
+  add_test(NAME lint.sizes COMMAND ${Python3_EXECUTABLE} ${lint}/file_sizes.py ${CMAKE_SOURCE_DIR})
+  add_test(NAME lint.tidy COMMAND ${lint}/tidy.sh ${CMAKE_BINARY_DIR})
+  add_test(NAME lint.tidy_win32 COMMAND ${lint}/tidy.sh ${CMAKE_SOURCE_DIR}/build/win9x)
+  set_tests_properties(lint.tidy lint.tidy_win32 PROPERTIES TIMEOUT 1500 RUN_SERIAL TRUE)
+endif()

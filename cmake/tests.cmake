@@ -1,0 +1,74 @@
+# Tests on this machine (presets host, host-sanitize) and under Wine (preset win9x-tests). Test sources are found by folder.
+#   unit      the portable program on the simulated machine: both
+#   contract  the system interfaces: the simulated side on this machine, the real side under Wine
+#   e2e       the shipped exe, driven from outside: under Wine
+set(gtest_disable_pthreads ON CACHE BOOL "No threads in the tests" FORCE)
+set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
+if(WIN32)
+  # The win32 thread model has no std::mutex; the library's own notification is all that is missing.
+  add_compile_definitions(GTEST_HAS_NOTIFICATION_=1)
+  add_compile_options("SHELL:-include ${CMAKE_SOURCE_DIR}/cmake/gtest_notification.h")
+  # Arithmetic at 53 bits, as in the shipped programs; the compiler's start-up code chooses 64.
+  set(precision_object /usr/i686-w64-mingw32/lib/CRT_fp8.o)
+endif()
+add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+include(GoogleTest)
+
+add_library(qdix_simulated STATIC ${simulated_sources})
+target_link_libraries(qdix_simulated PRIVATE qdix_warnings PUBLIC qdix_program)
+
+# qdix_test(<name> SOURCES <file>... LIBRARIES <target>...): a test program. On this machine each of its tests is one of ctest's; under Wine the
+# program is, because starting Wine for each would take longer than the tests.
+function(qdix_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 test "" "TIMEOUT" "SOURCES;LIBRARIES")
+  if(NOT test_SOURCES)
+    return()
+  endif()
+  add_executable(${name} ${test_SOURCES})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE qdix_warnings ${test_LIBRARIES} gtest_main gmock)
+  string(REPLACE "_tests" "" prefix ${name})
+  if(WIN32)
+    target_link_options(${name} PRIVATE -static)
+    target_link_libraries(${name} PRIVATE ${precision_object})
+    add_test(NAME wine.${prefix} COMMAND ${name})
+    set_tests_properties(wine.${prefix} PROPERTIES TIMEOUT 600)
+  else()
+    gtest_discover_tests(${name} TEST_PREFIX "${prefix}." DISCOVERY_MODE PRE_TEST)
+  endif()
+endfunction()
+
+file(GLOB_RECURSE unit_sources CONFIGURE_DEPENDS tests/unit/*.cpp)
+qdix_test(unit_tests SOURCES ${unit_sources} LIBRARIES qdix_simulated)
+
+file(GLOB_RECURSE contract_sources CONFIGURE_DEPENDS tests/contract/*.cpp)
+if(WIN32)
+  list(FILTER contract_sources EXCLUDE REGEX "/simulated/")
+  qdix_test(contract_tests SOURCES ${contract_sources} LIBRARIES qdix_win32 comctl32)
+
+  file(GLOB driver_sources CONFIGURE_DEPENDS tests/e2e/driver/*.cpp)
+  file(GLOB e2e_sources CONFIGURE_DEPENDS tests/e2e/*.cpp)
+  file(GLOB probe_sources CONFIGURE_DEPENDS tools/probe/*.cpp)
+  if(driver_sources)
+    add_library(e2e_driver STATIC ${driver_sources})
+    target_include_directories(e2e_driver PUBLIC ${CMAKE_SOURCE_DIR})
+    target_compile_definitions(e2e_driver PRIVATE QDIX_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    target_link_libraries(e2e_driver PRIVATE qdix_warnings PUBLIC qdix_simulated qdix_windows95 comctl32)
+    add_executable(qdix_probe ${probe_sources})
+    target_link_libraries(qdix_probe PRIVATE qdix_warnings e2e_driver)
+    target_link_options(qdix_probe PRIVATE -static)
+    qdix_test(e2e_tests SOURCES ${e2e_sources} LIBRARIES e2e_driver)
+  endif()
+  foreach(desktop_test IN ITEMS wine.contract wine.e2e)
+    if(TEST ${desktop_test})
+      # One desktop, one pointer, one registry.
+      set_tests_properties(${desktop_test} PROPERTIES RESOURCE_LOCK desktop TIMEOUT 900)
+    endif()
+  endforeach()
+else()
+  list(FILTER contract_sources EXCLUDE REGEX "/win32/")
+  qdix_test(contract_tests SOURCES ${contract_sources} LIBRARIES qdix_simulated)
+  file(GLOB fuzz_sources CONFIGURE_DEPENDS tests/fuzz/*.cpp)
+  qdix_test(fuzz_tests SOURCES ${fuzz_sources} LIBRARIES qdix_simulated)
+  include(cmake/lint.cmake)
+endif()

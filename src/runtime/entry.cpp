@@ -1,0 +1,29 @@
+// Where the system enters a shipped program.
+#include "runtime/entry.h"
+
+#include <windows.h>
+
+namespace {
+
+/// 53-bit precision, round to nearest, all exceptions masked: the arithmetic of the tests.
+void SetFloatingPointControl() {
+  constexpr unsigned short kControlWord = 0x027F;
+  asm volatile("fldcw %0" ::"m"(kControlWord));
+}
+
+int ShowCommand() {
+  STARTUPINFOA info = {};
+  info.cb = sizeof info;
+  GetStartupInfoA(&info);
+  return (info.dwFlags & STARTF_USESHOWWINDOW) != 0 ? info.wShowWindow : SW_SHOWDEFAULT;
+}
+
+}  // namespace
+
+/// The linker is told this name; without it the entry would be wherever the code begins. The stack is aligned
+/// to 4 bytes only, which is all that 387 code needs.
+extern "C" [[noreturn]] void start() asm("_start");
+extern "C" [[noreturn]] void start() {
+  SetFloatingPointControl();
+  ExitProcess(static_cast<UINT>(QdixMain(GetModuleHandleA(nullptr), ShowCommand())));
+}

@@ -1,0 +1,41 @@
+// The ends of the program, and the hooks through which the headers of the standard library reach them.
+#include "runtime/fatal.h"
+
+#include <windows.h>
+
+#include <cstddef>
+
+namespace qdix::runtime {
+
+namespace {
+
+constexpr UINT kExitCode = 3;
+
+[[noreturn]] void End(const char* text) {
+  MessageBoxA(nullptr, text, "Q-DIX", MB_OK | MB_ICONSTOP | MB_SYSTEMMODAL);
+  ExitProcess(kExitCode);
+}
+
+}  // namespace
+
+void EndForLackOfMemory() { End("There is not enough memory for Q-DIX to go on."); }
+
+void EndForInternalError() { End("Q-DIX has found an error in itself and ends."); }
+
+}  // namespace qdix::runtime
+
+extern "C" [[noreturn]] void __cxa_pure_virtual() { qdix::runtime::EndForInternalError(); }
+
+extern "C" [[noreturn]] void abort() { qdix::runtime::EndForInternalError(); }
+
+namespace std {
+
+[[noreturn]] void __throw_length_error(const char* /*what*/) { qdix::runtime::EndForInternalError(); }
+[[noreturn]] void __throw_logic_error(const char* /*what*/) { qdix::runtime::EndForInternalError(); }
+[[noreturn]] void __throw_out_of_range_fmt(const char* /*what*/, ...) {
+  qdix::runtime::EndForInternalError();
+}
+[[noreturn]] void __throw_bad_alloc() { qdix::runtime::EndForLackOfMemory(); }
+[[noreturn]] void __throw_bad_array_new_length() { qdix::runtime::EndForLackOfMemory(); }
+
+}  // namespace std

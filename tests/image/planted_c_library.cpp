@@ -1,0 +1,6 @@
+// A program that imports from the C library, which the first Windows 95 does not bring.
+#include "runtime/entry.h"
+
+extern "C" __declspec(dllimport) int puts(const char* text);
+
+extern "C" int QdixMain(void* /*instance*/, int /*show_command*/) { return puts(""); }

@@ -1,0 +1,60 @@
+#!/usr/bin/env python3
+"""Cuts Debian's import libraries down to the names that the first Windows 95 exports.
+
+A member of an import library stands for one function and defines the symbol __imp__NAME@N. Members of other names are deleted from a copy, and with
+them the members that hold code. What is left is enough for a link and makes a later function a link error.
+"""
+import argparse
+import pathlib
+import re
+import shutil
+import subprocess
+
+NM = "i686-w64-mingw32-nm"
+AR = "i686-w64-mingw32-ar"
+RANLIB = "i686-w64-mingw32-ranlib"
+IMPORT_SYMBOL = re.compile(r"^__imp__(?P<name>.+?)(@\d+)?$")
+
+
+def exported_names(path):
+    lines = path.read_text(encoding="ascii").splitlines()
+    return {line.strip() for line in lines if line.strip() and not line.startswith("#")}
+
+
+def members_to_drop(library, names):
+    listing = subprocess.run([NM, "-A", "-g", "--defined-only", str(library)], check=True, capture_output=True,
+                             text=True).stdout
+    # The head and the tail of the import table belong to every link.
+    kept = {f"{library.stem}h.o", f"{library.stem}t.o"}
+    for line in listing.splitlines():
+        location, _, symbol = line.rpartition(" ")
+        match = IMPORT_SYMBOL.match(symbol)
+        if match and match.group("name") in names:
+            kept.add(location.split(":")[1])
+    members = subprocess.run([AR, "t", str(library)], check=True, capture_output=True, text=True).stdout.split()
+    return sorted(set(members) - kept)
+
+
+def reduce_library(source, names, target):
+    shutil.copyfile(source, target)
+    dropped = members_to_drop(source, names)
+    for start in range(0, len(dropped), 2000):
+        subprocess.run([AR, "dD", str(target), *dropped[start:start + 2000]], check=True)
+    subprocess.run([RANLIB, "-D", str(target)], check=True)
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--exports", type=pathlib.Path, required=True)
+    parser.add_argument("--libraries", type=pathlib.Path, required=True)
+    parser.add_argument("--output", type=pathlib.Path, required=True)
+    parser.add_argument("dlls", nargs="+")
+    arguments = parser.parse_args()
+    arguments.output.mkdir(parents=True, exist_ok=True)
+    for dll in arguments.dlls:
+        names = exported_names(arguments.exports / f"{dll}.txt")
+        reduce_library(arguments.libraries / f"lib{dll}.a", names, arguments.output / f"lib{dll}.a")
+
+
+if __name__ == "__main__":
+    main()
