@@ -4,21 +4,23 @@
 
 namespace qdix::ui {
 
-std::int32_t PropertyBag::ReadProperty(std::string_view name, std::int32_t default_value) const {
-  for (const Entry& entry : entries_) {
-    if (entry.name == name) return entry.value;
-  }
-  return default_value;
-}
-
-void PropertyBag::WriteProperty(std::string_view name, std::int32_t value, std::int32_t default_value) {
-  std::erase_if(entries_, [name](const Entry& entry) { return entry.name == name; });
-  if (value != default_value) entries_.push_back({name, value});
+std::vector<PropertyBag::Entry>::const_iterator PropertyBag::PositionOf(std::string_view name) const {
+  return std::lower_bound(entries_.begin(), entries_.end(), name,
+                          [](const Entry& entry, std::string_view wanted) { return entry.name < wanted; });
 }
 
 bool PropertyBag::Keeps(std::string_view name) const {
-  return std::any_of(entries_.begin(), entries_.end(),
-                     [name](const Entry& entry) { return entry.name == name; });
+  const auto position = PositionOf(name);
+  return position != entries_.end() && position->name == name;
+}
+
+std::int32_t PropertyBag::ReadProperty(std::string_view name, std::int32_t default_value) const {
+  return Keeps(name) ? PositionOf(name)->value : default_value;
+}
+
+void PropertyBag::WriteProperty(std::string_view name, std::int32_t value, std::int32_t default_value) {
+  if (Keeps(name)) entries_.erase(PositionOf(name));
+  if (value != default_value) entries_.insert(PositionOf(name), Entry{name, value});
 }
 
 }  // namespace qdix::ui

@@ -1,0 +1,63 @@
+// The entry of the shipped program: puts the program, its windows and the real system together and runs the message loop. Decides nothing.
+#include <windows.h>
+
+#include <memory>
+
+#include "app/form1.h"
+#include "app/win32/resources.h"
+#include "os/win32/win32_system.h"
+#include "runtime/entry.h"
+#include "ui/win32/form_window.h"
+
+namespace qdix::app::win32 {
+
+namespace {
+
+/// What lives as long as the process runs its loop. On the heap, since the controls alone are more than a frame of the stack should hold.
+class Program {
+ public:
+  explicit Program(HINSTANCE instance)
+      : form1_(system_.GetSystem()),
+        timers_(form1_.Timers()),
+        window_(instance, kProgramIcon, form1_.TheApplication(), form1_.Window(), timers_) {
+    using Hook = base::Callback<void()>;
+    window_.OnUnloaded = Hook::To<&Program::Unloaded>(*this);
+    window_.OnSessionEnding = Hook::To<&Form1::EndSession>(form1_);
+    window_.OnTaskbarCreated = Hook::To<&Program::TaskbarCreated>(*this);
+    system_.SetMainWindow(window_.MainWindow());
+    form1_.Tray().SetOwner(reinterpret_cast<os::WindowHandle>(window_.MainWindow()),
+                           reinterpret_cast<os::IconHandle>(window_.SmallIcon()));
+  }
+
+  /// Returns when the window has unloaded; false where the windows could not be made.
+  [[nodiscard]] bool Run() {
+    if (!window_.Complete()) return false;
+    form1_.Start();
+    while (system_.EventPump().WaitAndHandle()) {
+    }
+    return true;
+  }
+
+ private:
+  void Unloaded() { system_.Stop(); }
+
+  void TaskbarCreated() {
+    if (!form1_.Window().Unloaded()) form1_.Tray().AddToTray();
+  }
+
+  // The windows go first, then the program whose models they show, then the system.
+  os::win32::Win32System system_;
+  Form1 form1_;
+  std::array<ui::Timer*, 4> timers_;
+  ui::win32::FormWindow window_;
+};
+
+}  // namespace
+
+}  // namespace qdix::app::win32
+
+/// The system applies the wish of who started the program by itself, when the main window is shown for the first time.
+extern "C" int QdixMain(void* instance, int /*show_command*/) {
+  const auto program = std::make_unique<qdix::app::win32::Program>(static_cast<HINSTANCE>(instance));
+  return program->Run() ? 0 : 1;
+}

@@ -1,0 +1,46 @@
+#include "os/win32/win32_dialogs.h"
+
+#include <array>
+#include <string_view>
+
+namespace qdix::os::win32 {
+
+namespace {
+
+static_assert(kMbOk == MB_OK && kMbYesNo == MB_YESNO && kMbDefaultButton2 == MB_DEFBUTTON2);
+static_assert(kMbIconStop == MB_ICONHAND && kMbIconInformation == MB_ICONASTERISK);
+static_assert(kIdOk == IDOK && kIdYes == IDYES && kIdNo == IDNO);
+
+constexpr std::string_view kDialogClass = "#32770";
+
+BOOL CALLBACK EndIfDialog(HWND window, LPARAM /*context*/) {
+  // One place more than the name looked for, so that a longer name does not look like it.
+  std::array<char, kDialogClass.size() + 2> name{};
+  const int length = GetClassNameA(window, name.data(), static_cast<int>(name.size()));
+  if (std::string_view(name.data(), static_cast<std::size_t>(length)) == kDialogClass)
+    EndDialog(window, kIdNone);
+  return TRUE;
+}
+
+}  // namespace
+
+int Win32Dialogs::MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) {
+  if (stopped_) return kIdNone;
+  // A box of a hidden or minimised window has no place on the taskbar. Behind other windows nobody would ever
+  // find it, and the program would wait for its answer without a word.
+  const UINT foreground = OwnerIsInView() ? 0U : MB_SETFOREGROUND;
+  const int answer = ::MessageBoxA(owner_, text.c_str(), title.c_str(), flags | foreground);
+  return stopped_ ? kIdNone : answer;
+}
+
+/// Only boxes of this thread, the one that all windows of the program belong to.
+void Win32Dialogs::Stop() {
+  stopped_ = true;
+  EnumThreadWindows(GetCurrentThreadId(), &EndIfDialog, 0);
+}
+
+bool Win32Dialogs::OwnerIsInView() const {
+  return owner_ != nullptr && IsWindowVisible(owner_) && !IsIconic(owner_);
+}
+
+}  // namespace qdix::os::win32

@@ -1,0 +1,33 @@
+// The message queue of the program: the pump inside operations and the loop between them handle messages in
+// the same way.
+#pragma once
+
+#include <windows.h>
+
+#include "os/event_pump.h"
+
+namespace qdix::os::win32 {
+
+class Win32EventPump final : public EventPump {
+ public:
+  /// Messages of the window and of what stands in it go through the keyboard rules of dialogs first. Null for
+  /// none.
+  void SetDialogWindow(HWND window) { dialog_window_ = window; }
+
+  void PumpEvents() override;
+
+  /// Waits for one message and handles it; false when the program has ended or is told to quit.
+  [[nodiscard]] bool WaitAndHandle();
+
+  /// From now on nothing is handled.
+  void Stop() { stopped_ = true; }
+  [[nodiscard]] bool Stopped() const { return stopped_; }
+
+ private:
+  void Handle(MSG& message);
+
+  HWND dialog_window_ = nullptr;
+  bool stopped_ = false;
+};
+
+}  // namespace qdix::os::win32

@@ -1,0 +1,34 @@
+#include "os/win32/win32_memory.h"
+
+#include <windows.h>
+
+namespace qdix::os::win32 {
+
+MemoryStatus Win32Memory::GlobalMemoryStatus() {
+  MEMORYSTATUS record = {};
+  record.dwLength = sizeof record;
+  ::GlobalMemoryStatus(&record);
+  return {.length = record.dwLength,
+          .memory_load_percent = record.dwMemoryLoad,
+          .total_physical = record.dwTotalPhys,
+          .available_physical = record.dwAvailPhys,
+          .total_page_file = record.dwTotalPageFile,
+          .available_page_file = record.dwAvailPageFile,
+          .total_virtual = record.dwTotalVirtual,
+          .available_virtual = record.dwAvailVirtual};
+}
+
+void* Win32Memory::VirtualAlloc(std::uint32_t bytes) {
+  return ::VirtualAlloc(nullptr, bytes, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
+}
+
+/// A committed page takes memory only when it is first written to.
+void Win32Memory::TouchPages(void* block, std::uint32_t bytes) {
+  auto* const first = static_cast<volatile std::uint8_t*>(block);
+  const std::uint32_t pages = (bytes - 1) / kPageBytes + 1;
+  for (std::uint32_t page = 0; page < pages; ++page) first[page * kPageBytes] = 0;
+}
+
+void Win32Memory::VirtualFree(void* block) { ::VirtualFree(block, 0, MEM_RELEASE); }
+
+}  // namespace qdix::os::win32

@@ -1,0 +1,23 @@
+#include "os/win32/win32_processes.h"
+
+#include <array>
+
+namespace qdix::os::win32 {
+
+bool Win32Processes::MutexExistedBefore(const char* name) {
+  OwnedHandle mutex(CreateMutexA(nullptr, FALSE, name));
+  if (mutex == nullptr) return false;
+  const bool existed = GetLastError() == ERROR_ALREADY_EXISTS;
+  mutexes_.push_back(std::move(mutex));
+  return existed;
+}
+
+/// A path that fills the room to the last byte may have been cut, and a cut path names another file.
+std::string Win32Processes::ModuleFileName() {
+  std::array<char, MAX_PATH + 1> path{};
+  const DWORD length = GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size()));
+  if (length == 0 || length >= path.size()) return {};
+  return std::string(path.data(), length);
+}
+
+}  // namespace qdix::os::win32

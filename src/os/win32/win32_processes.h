@@ -1,0 +1,27 @@
+// This process among others on the real system. Owns the mutexes it creates until it ends itself.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <vector>
+
+#include "os/processes.h"
+
+namespace qdix::os::win32 {
+
+class Win32Processes final : public Processes {
+ public:
+  [[nodiscard]] bool MutexExistedBefore(const char* name) override;
+  [[nodiscard]] std::string ModuleFileName() override;
+
+ private:
+  struct CloseOwnedHandle {
+    void operator()(void* handle) const { CloseHandle(handle); }
+  };
+  using OwnedHandle = std::unique_ptr<void, CloseOwnedHandle>;
+
+  std::vector<OwnedHandle> mutexes_;
+};
+
+}  // namespace qdix::os::win32

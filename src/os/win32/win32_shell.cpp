@@ -1,0 +1,30 @@
+#include "os/win32/win32_shell.h"
+
+// The second header does not stand without the first.
+// clang-format off
+#include <windows.h>
+#include <shellapi.h>
+// clang-format on
+
+#include <algorithm>
+
+namespace qdix::os::win32 {
+
+static_assert(kNimAdd == NIM_ADD && kNimModify == NIM_MODIFY && kNimDelete == NIM_DELETE);
+static_assert(kNifAll == (NIF_MESSAGE | NIF_ICON | NIF_TIP));
+static_assert(sizeof(NOTIFYICONDATAA::szTip) >= sizeof(NotifyIconData::tip));
+
+/// Later systems appended fields to the record; the size that the caller gives keeps them out of play.
+bool Win32Shell::Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& data) {
+  NOTIFYICONDATAA record{};
+  record.cbSize = data.size_bytes;
+  record.hWnd = reinterpret_cast<HWND>(data.owner);
+  record.uID = data.id;
+  record.uFlags = data.flags;
+  record.uCallbackMessage = data.callback_message;
+  record.hIcon = reinterpret_cast<HICON>(data.icon);
+  std::copy(data.tip.begin(), data.tip.end(), record.szTip);
+  return ::Shell_NotifyIconA(request, &record) != FALSE;
+}
+
+}  // namespace qdix::os::win32

@@ -1,0 +1,13 @@
+// The notification area of the real shell. Forwards and nothing else.
+#pragma once
+
+#include "os/shell.h"
+
+namespace qdix::os::win32 {
+
+class Win32Shell final : public Shell {
+ public:
+  bool Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& data) override;
+};
+
+}  // namespace qdix::os::win32

@@ -1,0 +1,46 @@
+// The real system, whole: owns the implementation of every interface.
+#pragma once
+
+#include <windows.h>
+
+#include "os/system.h"
+#include "os/win32/win32_clock.h"
+#include "os/win32/win32_dialogs.h"
+#include "os/win32/win32_event_pump.h"
+#include "os/win32/win32_memory.h"
+#include "os/win32/win32_processes.h"
+#include "os/win32/win32_registry.h"
+#include "os/win32/win32_shell.h"
+#include "os/win32/win32_windows.h"
+
+namespace qdix::os::win32 {
+
+class Win32System {
+ public:
+  Win32System();
+  Win32System(const Win32System&) = delete;
+  Win32System& operator=(const Win32System&) = delete;
+  ~Win32System();
+
+  [[nodiscard]] const System& GetSystem() const { return system_; }
+  [[nodiscard]] Win32EventPump& EventPump() { return event_pump_; }
+
+  /// The window whose messages follow the keyboard rules of dialogs and that message boxes belong to; null for none.
+  void SetMainWindow(HWND window);
+
+  /// The program ends: pumps return at once, open boxes close unanswered.
+  void Stop();
+
+ private:
+  Win32Memory memory_;
+  Win32Registry registry_;
+  Win32EventPump event_pump_;
+  Win32Windows windows_;
+  Win32Dialogs dialogs_;
+  Win32Clock clock_;
+  Win32Processes processes_;
+  Win32Shell shell_;
+  System system_;
+};
+
+}  // namespace qdix::os::win32

@@ -1,0 +1,29 @@
+#include "os/win32/win32_windows.h"
+
+#include <windows.h>
+
+namespace qdix::os::win32 {
+
+namespace {
+
+static_assert(kGwHwndPrev == GW_HWNDPREV);
+
+HWND Native(WindowHandle window) { return reinterpret_cast<HWND>(window); }
+
+}  // namespace
+
+WindowHandle Win32Windows::FindWindowA(const char* window_class, const char* title) {
+  return reinterpret_cast<WindowHandle>(::FindWindowA(window_class, title));
+}
+
+WindowHandle Win32Windows::GetWindow(WindowHandle window, std::uint32_t relation) {
+  return reinterpret_cast<WindowHandle>(::GetWindow(Native(window), relation));
+}
+
+bool Win32Windows::OpenIcon(WindowHandle window) { return ::OpenIcon(Native(window)) != FALSE; }
+
+bool Win32Windows::SetForegroundWindow(WindowHandle window) {
+  return ::SetForegroundWindow(Native(window)) != FALSE;
+}
+
+}  // namespace qdix::os::win32

@@ -1,0 +1,16 @@
+// Windows of any program on the real system. Forwards and nothing else.
+#pragma once
+
+#include "os/windows.h"
+
+namespace qdix::os::win32 {
+
+class Win32Windows final : public Windows {
+ public:
+  [[nodiscard]] WindowHandle FindWindowA(const char* window_class, const char* title) override;
+  [[nodiscard]] WindowHandle GetWindow(WindowHandle window, std::uint32_t relation) override;
+  bool OpenIcon(WindowHandle window) override;
+  bool SetForegroundWindow(WindowHandle window) override;
+};
+
+}  // namespace qdix::os::win32

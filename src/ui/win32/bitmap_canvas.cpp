@@ -1,0 +1,65 @@
+#include "ui/win32/bitmap_canvas.h"
+
+#include <algorithm>
+
+#include "ui/win32/colours.h"
+
+namespace qdix::ui::win32 {
+
+namespace {
+
+/// Moves a copy along one side so far that neither end leaves the surface; 64 bits, since callers may pass any number.
+struct CopySpan {
+  CopySpan(int to, int from, int length, int surface) : to_px(to), from_px(from), length_px(length) {
+    const std::int64_t cut = std::max<std::int64_t>({0, -to_px, -from_px});
+    to_px += cut;
+    from_px += cut;
+    length_px -= cut;
+    length_px = std::min({length_px, surface - to_px, surface - from_px});
+  }
+
+  std::int64_t to_px;
+  std::int64_t from_px;
+  std::int64_t length_px;
+};
+
+}  // namespace
+
+BitmapCanvas::BitmapCanvas(int width_px, int height_px) : width_px_(width_px), height_px_(height_px) {
+  const ScreenDevice screen;
+  bitmap_.reset(CreateCompatibleBitmap(screen.Get(), width_px_, height_px_));
+  device_.reset(CreateCompatibleDC(screen.Get()));
+  if (bitmap_ != nullptr && device_ != nullptr) former_bitmap_ = SelectObject(device_.get(), bitmap_.get());
+}
+
+BitmapCanvas::~BitmapCanvas() {
+  if (former_bitmap_ != nullptr) SelectObject(device_.get(), former_bitmap_);
+}
+
+void BitmapCanvas::CopyOntoSelf(int to_x, int to_y, int width, int height, int from_x, int from_y) {
+  const CopySpan across(to_x, from_x, width, width_px_);
+  const CopySpan down(to_y, from_y, height, height_px_);
+  if (across.length_px <= 0 || down.length_px <= 0) return;
+  BitBlt(device_.get(), static_cast<int>(across.to_px), static_cast<int>(down.to_px),
+         static_cast<int>(across.length_px), static_cast<int>(down.length_px), device_.get(),
+         static_cast<int>(across.from_px), static_cast<int>(down.from_px), SRCCOPY);
+}
+
+/// Coordinates of devices have 16 bits on Windows 95, so the box is cut before it is drawn.
+void BitmapCanvas::FillBox(int x1, int y1, int x2, int y2, Colour colour) {
+  const RECT box{std::max(std::min(x1, x2), 0), std::max(std::min(y1, y2), 0),
+                 std::min(std::max(x1, x2), width_px_ - 1) + 1, std::min(std::max(y1, y2), height_px_ - 1) + 1};
+  if (box.left >= box.right || box.top >= box.bottom) return;
+  SetBkColor(device_.get(), ResolveColour(colour));
+  ExtTextOutA(device_.get(), 0, 0, ETO_OPAQUE, &box, nullptr, 0, nullptr);  // fills without a brush to make
+}
+
+void BitmapCanvas::FillBorderedBox(int x1, int y1, int x2, int y2, Colour fill, Colour border) {
+  FillBox(x1, y1, x2, y2, border);
+  const auto [left, right] = std::minmax(x1, x2);
+  const auto [top, bottom] = std::minmax(y1, y2);
+  const bool has_inside = std::int64_t{right} - left >= 2 && std::int64_t{bottom} - top >= 2;
+  if (has_inside) FillBox(left + 1, top + 1, right - 1, bottom - 1, fill);
+}
+
+}  // namespace qdix::ui::win32

@@ -1,0 +1,43 @@
+#include "ui/win32/dialog_font.h"
+
+#include <string_view>
+
+namespace qdix::ui::win32 {
+
+namespace {
+
+constexpr int kPoints = 8;
+constexpr int kPointsAnInch = 72;
+constexpr std::string_view kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+
+}  // namespace
+
+DialogFont::DialogFont() {
+  const ScreenDevice screen;
+  font_.reset(CreateFontA(-MulDiv(kPoints, GetDeviceCaps(screen.Get(), LOGPIXELSY), kPointsAnInch), 0, 0, 0,
+                          FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
+                          CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_SWISS, "MS Sans Serif"));
+  Measure();
+}
+
+/// The way in which the system's own dialogs measure, so that a place comes out as it would in one of them.
+void DialogFont::Measure() {
+  const ScreenDevice screen;
+  HGDIOBJ const former = SelectObject(screen.Get(), font_.get());
+  SIZE letters{};
+  TEXTMETRICA metrics{};
+  if (GetTextExtentPoint32A(screen.Get(), kLetters.data(), static_cast<int>(kLetters.size()), &letters) !=
+          0 &&
+      GetTextMetricsA(screen.Get(), &metrics) != 0) {
+    base_width_px_ = static_cast<int>((letters.cx / 26 + 1) / 2);
+    base_height_px_ = static_cast<int>(metrics.tmHeight);
+  }
+  SelectObject(screen.Get(), former);
+}
+
+PixelBox DialogFont::Pixels(const Place& place) const {
+  return {MulDiv(place.left, base_width_px_, 4), MulDiv(place.top, base_height_px_, 8),
+          MulDiv(place.width, base_width_px_, 4), MulDiv(place.height, base_height_px_, 8)};
+}
+
+}  // namespace qdix::ui::win32

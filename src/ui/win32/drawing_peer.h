@@ -1,0 +1,29 @@
+// The window of a drawing control: shows a canvas that keeps the picture.
+#pragma once
+
+#include <optional>
+
+#include "ui/win32/bitmap_canvas.h"
+#include "ui/win32/native_control.h"
+
+namespace qdix::ui::win32 {
+
+class DrawingPeer final : public NativeControl {
+ public:
+  DrawingPeer(const PeerContext& context, DrawingControl& model, HWND parent, int number);
+  ~DrawingPeer() override;
+
+ private:
+  LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  void PixelsChanged() override;
+  void BorderChanged() override;
+  void CaptionChanged() override {}
+  void Show();
+  /// A canvas of the window's present inner size, on which the control draws everything.
+  void MakeCanvas();
+
+  DrawingControl& drawing_;
+  std::optional<BitmapCanvas> canvas_;
+};
+
+}  // namespace qdix::ui::win32

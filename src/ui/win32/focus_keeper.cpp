@@ -1,0 +1,74 @@
+#include "ui/win32/focus_keeper.h"
+
+#include "ui/win32/peer_table.h"
+
+namespace qdix::ui::win32 {
+
+void FocusKeeper::Arrived(NativeControl& peer) {
+  waiting_ = nullptr;
+  // While a control left is being validated, a box may come and go and drag the native focus about; the outcome puts it right.
+  if (moving_ || form_.Focused() == &peer.Model()) return;
+  moving_ = true;
+  const bool taken = form_.MoveFocus(&peer.Model());
+  moving_ = false;
+  if (!taken) Refuse(peer);
+  FollowModel();
+}
+
+void FocusKeeper::Refuse(NativeControl& peer) {
+  refused_ = &peer;
+  // A button that was pressed down in the same stroke must not click when it is let go.
+  if (GetCapture() == peer.Window()) ReleaseCapture();
+  PostMessageA(main_, kRefusalSettledMessage, 0, 0);
+}
+
+bool FocusKeeper::TakeRefusal(const NativeControl& peer) {
+  if (refused_ != &peer) return false;
+  refused_ = nullptr;
+  return true;
+}
+
+void FocusKeeper::RefusalSettled() {
+  if (refused_ == nullptr) return;
+  // A button draws itself pressed after it took the focus; without its capture nothing else would raise it again.
+  SendMessageA(refused_->Window(), BM_SETSTATE, FALSE, 0);
+  refused_ = nullptr;
+}
+
+void FocusKeeper::FollowModel() {
+  const Control* const focused = form_.Focused();
+  if (moving_ || focused == nullptr) return;
+  NativeControl* const peer = peers_.ByModel(*focused);
+  if (peer != nullptr) Give(*peer);
+}
+
+/// In a window that is not active the focus stays where it is; it is handed out when the window is activated.
+void FocusKeeper::Give(NativeControl& peer) const {
+  if (GetActiveWindow() == main_ && peer.Usable() && !peer.OwnsNativeFocus()) SetFocus(peer.Window());
+}
+
+void FocusKeeper::Leaving(NativeControl& peer) {
+  waiting_ = &peer;
+  SetFocus(main_);
+}
+
+void FocusKeeper::Returned(NativeControl& peer) {
+  if (waiting_ != &peer || !peer.Usable()) return;
+  waiting_ = nullptr;
+  if (GetFocus() == main_) Give(peer);
+}
+
+void FocusKeeper::ArrivedAtMain() {
+  if (waiting_ != nullptr && !waiting_->Usable()) return;
+  waiting_ = nullptr;
+  const Control* const focused = form_.Focused();
+  NativeControl* const kept = focused == nullptr ? nullptr : peers_.ByModel(*focused);
+  if (kept != nullptr && kept->Usable()) {
+    SetFocus(kept->Window());
+    return;
+  }
+  HWND const first = GetNextDlgTabItem(main_, nullptr, FALSE);
+  if (first != nullptr && first != main_) SetFocus(first);
+}
+
+}  // namespace qdix::ui::win32

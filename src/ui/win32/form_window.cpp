@@ -1,0 +1,314 @@
+#include "ui/win32/form_window.h"
+
+#include <commctrl.h>
+
+#include "ui/control_numbers.h"
+#include "ui/win32/peer_factory.h"
+#include "ui/win32/popup_menu.h"
+#include "ui/win32/reflection.h"
+
+namespace qdix::ui::win32 {
+
+namespace {
+
+constexpr DWORD kMainStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
+/// The application window owns the main window; without this style the taskbar would show neither.
+constexpr DWORD kMainExtendedStyle = WS_EX_APPWINDOW;
+
+HICON LoadMainIcon(HINSTANCE instance, int icon_id) {
+  HICON const own = LoadIconA(instance, MAKEINTRESOURCEA(icon_id));
+  return own != nullptr ? own : LoadIconA(nullptr, MAKEINTRESOURCEA(32512));  // the system's plain program icon
+}
+
+/// Shared, so that nothing of it has to be destroyed.
+HICON LoadSmallIcon(HINSTANCE instance, int icon_id, HICON large) {
+  HANDLE const own = LoadImageA(instance, MAKEINTRESOURCEA(icon_id), IMAGE_ICON, GetSystemMetrics(SM_CXSMICON),
+                                GetSystemMetrics(SM_CYSMICON), LR_SHARED);
+  return own != nullptr ? static_cast<HICON>(own) : large;
+}
+
+OwnedWindow MakeApplicationWindow(HINSTANCE instance, const Application& application) {
+  return OwnedWindow(CreateWindowExA(0, kApplicationWindowClass, application.Title().c_str(), WS_POPUP, 0, 0, 0,
+                                     0, nullptr, nullptr, instance, nullptr));
+}
+
+OwnedWindow MakeMainWindow(HINSTANCE instance, HWND owner, const Form& form, const DialogFont& font) {
+  const PixelBox inner = font.Pixels(form.GetPlace());
+  RECT outer{0, 0, inner.width, inner.height};
+  AdjustWindowRectEx(&outer, kMainStyle, FALSE, kMainExtendedStyle);
+  const LONG width = outer.right - outer.left;
+  const LONG height = outer.bottom - outer.top;
+  RECT work{};
+  SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
+  const LONG left = work.left + (work.right - work.left - width) / 2;
+  const LONG top = work.top + (work.bottom - work.top - height) / 2;
+  return OwnedWindow(CreateWindowExA(kMainExtendedStyle, kMainWindowClass, form.Caption().c_str(), kMainStyle, left,
+                                     top < work.top ? work.top : top, width, height, owner, nullptr, instance,
+                                     nullptr));
+}
+
+/// Buttons of the mouse and modifier keys in the bits of the classic event.
+int ButtonBits(WPARAM buttons) {
+  return ((buttons & MK_LBUTTON) != 0 ? 1 : 0) | ((buttons & MK_RBUTTON) != 0 ? 2 : 0) |
+         ((buttons & MK_MBUTTON) != 0 ? 4 : 0);
+}
+
+int ShiftBits(WPARAM buttons) {
+  return ((buttons & MK_SHIFT) != 0 ? 1 : 0) | ((buttons & MK_CONTROL) != 0 ? 2 : 0) |
+         (GetKeyState(VK_MENU) < 0 ? 4 : 0);
+}
+
+}  // namespace
+
+FormWindow::CommonControls::CommonControls() { InitCommonControls(); }
+
+FormWindow::FormWindow(HINSTANCE instance, int icon_id, Application& application, Form& form,
+                       std::span<Timer* const> timers)
+    : application_(application),
+      form_(form),
+      icon_(LoadMainIcon(instance, icon_id)),
+      small_icon_(LoadSmallIcon(instance, icon_id, icon_)),
+      taskbar_created_message_(RegisterWindowMessageA("TaskbarCreated")),
+      application_class_(instance, kApplicationWindowClass, {.icon = icon_}),
+      main_class_(instance, kMainWindowClass, {.background = FaceBackground(), .icon = icon_}),
+      page_class_(instance, kPageWindowClass, {.background = FaceBackground()}),
+      drawing_class_(instance, kDrawingWindowClass, {}),
+      application_window_(MakeApplicationWindow(instance, application)),
+      main_(MakeMainWindow(instance, application_window_.get(), form, font_)),
+      hook_(main_.get(), *this),
+      tips_(instance, main_.get()),
+      keys_(form),
+      focus_(form, peers_),
+      context_{instance, font_, keys_, peers_, focus_, tips_},
+      timers_(main_.get(), timers) {
+  focus_.SetMainWindow(main_.get());
+  SendMessageA(main_.get(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small_icon_));
+  VisitControls(form_, ControlVisitor::To<&FormWindow::MakeControl>(*this));
+  form_.AttachPeer(this);
+  form_.AttachFormPeer(this);
+  application_.OnTitleChanged = base::Callback<void()>::To<&FormWindow::TitleChanged>(*this);
+}
+
+FormWindow::~FormWindow() {
+  application_.OnTitleChanged = {};
+  form_.AttachFormPeer(nullptr);
+  form_.AttachPeer(nullptr);
+}
+
+bool FormWindow::Complete() const {
+  for (const std::unique_ptr<NativeControl>& peer : peers_.All()) {
+    if (peer == nullptr || peer->Window() == nullptr) return false;
+  }
+  return main_ != nullptr && application_window_ != nullptr;
+}
+
+void FormWindow::MakeControl(Control& control, int number) {
+  peers_.Add(MakePeer(context_, control, StandsOn(control), number));
+  NativeControl* const peer = peers_.ByNumber(number);
+  if (peer != nullptr) peer->RefreshVisible();
+}
+
+HWND FormWindow::StandsOn(const Control& control) const {
+  for (const Control* above = control.Parent(); above != nullptr; above = above->Parent()) {
+    if (above->GetKind() != Kind::kTabPage) continue;
+    const NativeControl* const page = peers_.ByModel(*above);
+    if (page != nullptr) return page->Window();
+  }
+  return main_.get();
+}
+
+void FormWindow::TitleChanged() { SetWindowTextA(application_window_.get(), application_.Title().c_str()); }
+
+void FormWindow::ControlChanged(Control& /*control*/, Change change) {
+  switch (change) {
+    case Change::kCaption:
+      SetWindowTextA(main_.get(), form_.Caption().c_str());
+      break;
+    case Change::kVisible:
+      ShowOrHide();
+      break;
+    case Change::kWindowState:
+      MinimiseOrRestore();
+      break;
+    case Change::kEnabled:
+      EnableWindow(main_.get(), form_.Enabled() ? TRUE : FALSE);
+      break;
+    default:
+      break;
+  }
+}
+
+void FormWindow::ShowOrHide() {
+  if (!form_.Shown()) {
+    ShowWindow(main_.get(), SW_HIDE);
+    return;
+  }
+  if (form_.State() == WindowState::kMinimised) {
+    ShowWindow(main_.get(), SW_SHOWMINNOACTIVE);
+    return;
+  }
+  ShowWindow(main_.get(), IsIconic(main_.get()) != 0 ? SW_RESTORE : SW_SHOW);
+  SetForegroundWindow(main_.get());
+}
+
+/// A hidden window takes its state when it is shown.
+void FormWindow::MinimiseOrRestore() {
+  if (!form_.Shown()) return;
+  if (form_.State() == WindowState::kMinimised) {
+    ShowWindow(main_.get(), SW_MINIMIZE);
+    return;
+  }
+  ShowWindow(main_.get(), SW_RESTORE);
+  SetForegroundWindow(main_.get());
+}
+
+void FormWindow::PopUp(MenuItem& menu) {
+  if (menu_is_open_) return;  // the system shows one menu at a time
+  menu_is_open_ = true;
+  MenuItem* chosen = nullptr;
+  {
+    const PopUpMenu native(menu);
+    chosen = native.Track(main_.get());
+  }
+  menu_is_open_ = false;
+  if (chosen != nullptr) chosen->Choose();
+}
+
+/// The windows themselves go later, with this object: a native control may be in the middle of its own work below us on the stack.
+void FormWindow::FormUnloaded() {
+  ShowWindow(main_.get(), SW_HIDE);
+  if (OnUnloaded) OnUnloaded();
+  SendMessageA(main_.get(), WM_CANCELMODE, 0, 0);  // closes an open menu; Windows 95 has no call for it
+  PostMessageA(main_.get(), WM_NULL, 0, 0);  // wakes a message loop that waits
+}
+
+LRESULT FormWindow::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message == taskbar_created_message_ && message != 0) {
+    if (OnTaskbarCreated) OnTaskbarCreated();
+    return 0;
+  }
+  std::optional<LRESULT> answer = ReflectToPeer(peers_, message, wparam, lparam);
+  if (!answer.has_value()) answer = HandleKeyboard(message, wparam, lparam);
+  if (!answer.has_value()) answer = HandleLife(message, wparam, lparam);
+  return answer.has_value() ? *answer : hook_.Default(message, wparam, lparam);
+}
+
+std::optional<LRESULT> FormWindow::HandleKeyboard(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_SETFOCUS:
+      focus_.ArrivedAtMain();
+      return 0;
+    case FocusKeeper::kRefusalSettledMessage:
+      focus_.RefusalSettled();
+      return 0;
+    case DM_GETDEFID:
+      return DefaultButtonNumber();
+    case DM_SETDEFID:
+      return 1;  // buttons show by themselves which of them Enter presses
+    case WM_NEXTDLGCTL:
+      MoveDialogFocus(wparam, lparam);
+      return 0;
+    case WM_COMMAND:
+      if (LOWORD(wparam) == IDCANCEL) PressCancelButton();
+      return 0;
+    case WM_GETDLGCODE:
+      return FormKeys::DialogCode(lparam);
+    case WM_KEYDOWN:
+      if (FormKeys::IsTabSwitch(wparam)) keys_.SwitchTab(wparam);
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> FormWindow::HandleLife(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_TIMER:
+      timers_.Elapsed(wparam);
+      return 0;
+    case WM_MOUSEMOVE:
+      PointerMoved(wparam, lparam);
+      return 0;
+    case WM_SIZE:
+      SizeChanged(wparam);
+      return 0;
+    case WM_WINDOWPOSCHANGED:
+      KeepApplicationWindowBehind();
+      return std::nullopt;
+    case WM_SYSCOLORCHANGE:
+      ForwardToControls(message, wparam, lparam);
+      return 0;
+    case WM_QUERYENDSESSION:
+      return TRUE;
+    case WM_ENDSESSION:
+      if (wparam != FALSE) EndSession();
+      return 0;
+    case WM_CLOSE:
+      form_.Unload();
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+/// Another copy of the program finds the main window as the one directly before the application window.
+void FormWindow::KeepApplicationWindowBehind() const {
+  if (GetWindow(application_window_.get(), GW_HWNDPREV) == main_.get()) return;
+  SetWindowPos(application_window_.get(), main_.get(), 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_NOSENDCHANGING);
+}
+
+void FormWindow::SizeChanged(WPARAM kind) {
+  if (!form_.Shown()) return;
+  if (kind == SIZE_MINIMIZED) form_.UserChangedState(WindowState::kMinimised);
+  if (kind == SIZE_RESTORED) form_.UserChangedState(WindowState::kNormal);
+}
+
+/// Also the call back of an icon in the notification area, whose position carries a number and not a place.
+void FormWindow::PointerMoved(WPARAM buttons, LPARAM point) {
+  const auto x_px = static_cast<short>(LOWORD(point));
+  const auto y_px = static_cast<short>(HIWORD(point));
+  form_.PointerMoved(ButtonBits(buttons), ShiftBits(buttons), x_px * kTwipsPerPixel, y_px * kTwipsPerPixel);
+}
+
+void FormWindow::EndSession() {
+  if (OnSessionEnding) {
+    OnSessionEnding();
+  } else {
+    form_.Unload();
+  }
+}
+
+void FormWindow::ForwardToControls(UINT message, WPARAM wparam, LPARAM lparam) const {
+  for (const std::unique_ptr<NativeControl>& peer : peers_.All()) {
+    SendMessageA(peer->Window(), message, wparam, lparam);
+  }
+  InvalidateRect(main_.get(), nullptr, TRUE);
+}
+
+LRESULT FormWindow::DefaultButtonNumber() const {
+  const Button* const button = keys_.ReachableButton(ButtonRole::kDefault);
+  const NativeControl* const peer = button == nullptr ? nullptr : peers_.ByModel(*button);
+  return peer == nullptr ? 0 : MAKELONG(GetDlgCtrlID(peer->Window()), DC_HASDEFID);
+}
+
+void FormWindow::PressCancelButton() {
+  Button* const button = keys_.ReachableButton(ButtonRole::kCancel);
+  if (button != nullptr) button->Press();
+}
+
+/// The dialog manager's request to move the keyboard. A control that takes none, like the label that carries the key of its neighbour, passes
+/// it on to the next one that does.
+void FormWindow::MoveDialogFocus(WPARAM target, LPARAM target_is_window) const {
+  HWND next = nullptr;
+  if (LOWORD(target_is_window) == 0) {
+    next = GetNextDlgTabItem(main_.get(), GetFocus(), target != 0 ? TRUE : FALSE);
+  } else {
+    next = reinterpret_cast<HWND>(target);
+    const LRESULT code = SendMessageA(next, WM_GETDLGCODE, 0, 0);
+    if ((code & DLGC_STATIC) != 0) next = GetNextDlgTabItem(main_.get(), next, FALSE);
+  }
+  if (next != nullptr) SetFocus(next);
+}
+
+}  // namespace qdix::ui::win32

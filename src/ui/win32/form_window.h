@@ -1,0 +1,102 @@
+// The windows of the program: the hidden application window, the main window that it owns, and all controls on it. Everything exists, hidden,
+// from the construction on, so that the program's load sets windows that are there.
+#pragma once
+
+#include <optional>
+#include <span>
+
+#include "ui/application.h"
+#include "ui/form.h"
+#include "ui/timer.h"
+#include "ui/win32/dialog_font.h"
+#include "ui/win32/focus_keeper.h"
+#include "ui/win32/form_keys.h"
+#include "ui/win32/owned.h"
+#include "ui/win32/peer_table.h"
+#include "ui/win32/subclass.h"
+#include "ui/win32/tool_tips.h"
+#include "ui/win32/window_class.h"
+#include "ui/win32/window_timers.h"
+
+namespace qdix::ui::win32 {
+
+class FormWindow final : private FormPeer, private ControlPeer, private MessageHandler {
+ public:
+  /// The icon of the main window is that of the resource `icon_id`, or the system's where there is none. Application, form and timers must
+  /// outlive this object. The place of the form gives its inner size; the window stands in the middle of the screen.
+  FormWindow(HINSTANCE instance, int icon_id, Application& application, Form& form,
+             std::span<Timer* const> timers);
+  FormWindow(const FormWindow&) = delete;
+  FormWindow& operator=(const FormWindow&) = delete;
+  ~FormWindow() override;
+
+  /// False where the system could not make one of the windows: the program cannot run.
+  [[nodiscard]] bool Complete() const;
+
+  [[nodiscard]] HWND MainWindow() const { return main_.get(); }
+  [[nodiscard]] HWND ApplicationWindow() const { return application_window_.get(); }
+  /// The icon in the size of captions and of the notification area; the system keeps it until the program ends.
+  [[nodiscard]] HICON SmallIcon() const { return small_icon_; }
+
+  /// The form has unloaded: open boxes and the message loop must end. No handler runs any more.
+  base::Callback<void()> OnUnloaded;
+  /// The Windows session ends now; unbound, the form unloads.
+  base::Callback<void()> OnSessionEnding;
+  /// The taskbar was started anew and has lost the icons in its notification area.
+  base::Callback<void()> OnTaskbarCreated;
+
+ private:
+  void PopUp(MenuItem& menu) override;
+  void FormUnloaded() override;
+  void ControlChanged(Control& control, Change change) override;
+  LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+  void TitleChanged();
+  void MakeControl(Control& control, int number);
+  [[nodiscard]] HWND StandsOn(const Control& control) const;
+
+  void ShowOrHide();
+  void MinimiseOrRestore();
+  void SizeChanged(WPARAM kind);
+  void PointerMoved(WPARAM buttons, LPARAM point);
+  void EndSession();
+  void ForwardToControls(UINT message, WPARAM wparam, LPARAM lparam) const;
+  void KeepApplicationWindowBehind() const;
+  [[nodiscard]] LRESULT DefaultButtonNumber() const;
+  void PressCancelButton();
+  void MoveDialogFocus(WPARAM target, LPARAM target_is_window) const;
+  std::optional<LRESULT> HandleKeyboard(UINT message, WPARAM wparam, LPARAM lparam);
+  std::optional<LRESULT> HandleLife(UINT message, WPARAM wparam, LPARAM lparam);
+
+  /// Makes the classes of tabs, sliders and tool tips known; before the first of their windows.
+  struct CommonControls {
+    CommonControls();
+  };
+
+  Application& application_;
+  Form& form_;
+  CommonControls common_controls_;
+  HICON icon_;
+  HICON small_icon_;
+  UINT taskbar_created_message_;
+  bool menu_is_open_ = false;
+
+  // In the order in which they are made; they go in the opposite order, controls before the window they stand on, windows before their
+  // class and font.
+  WindowClass application_class_;
+  WindowClass main_class_;
+  WindowClass page_class_;
+  WindowClass drawing_class_;
+  DialogFont font_;
+  OwnedWindow application_window_;
+  OwnedWindow main_;
+  Subclass hook_;
+  ToolTips tips_;
+  PeerTable peers_;
+  FormKeys keys_;
+  FocusKeeper focus_;
+  PeerContext context_;
+  WindowTimers timers_;
+};
+
+}  // namespace qdix::ui::win32

@@ -1,0 +1,138 @@
+#include "ui/win32/list_peers.h"
+
+#include "ui/win32/focus_keeper.h"
+#include "ui/win32/text_box_peer.h"
+
+namespace qdix::ui::win32 {
+
+namespace {
+
+/// The messages of a list box and of a combo box that mean the same.
+struct ListMessages {
+  UINT count;
+  UINT clear;
+  UINT add;
+  UINT selected;
+  UINT select;
+};
+constexpr ListMessages kListBox{LB_GETCOUNT, LB_RESETCONTENT, LB_ADDSTRING, LB_GETCURSEL, LB_SETCURSEL};
+constexpr ListMessages kComboBox{CB_GETCOUNT, CB_RESETCONTENT, CB_ADDSTRING, CB_GETCURSEL, CB_SETCURSEL};
+
+int SelectedRow(HWND window, const ListMessages& messages) {
+  return static_cast<int>(SendMessageA(window, messages.selected, 0, 0));
+}
+
+/// Rows are only ever added at the end or cleared all at once.
+void CopyRows(HWND window, const ListMessages& messages, const ListControl& list) {
+  int count = static_cast<int>(SendMessageA(window, messages.count, 0, 0));
+  if (count > list.Count()) {
+    SendMessageA(window, messages.clear, 0, 0);
+    count = 0;
+  }
+  for (; count < list.Count(); ++count) {
+    SendMessageA(window, messages.add, 0, reinterpret_cast<LPARAM>(list.Item(count).c_str()));
+  }
+}
+
+/// The selection index -1 deselects.
+void CopySelection(HWND window, const ListMessages& messages, const ListControl& list) {
+  if (SelectedRow(window, messages) == list.SelectedIndex()) return;
+  SendMessageA(window, messages.select, static_cast<WPARAM>(list.SelectedIndex()), 0);
+}
+
+}  // namespace
+
+ListBoxPeer::ListBoxPeer(const PeerContext& context, ListBox& model, HWND parent, int number)
+    : NativeControl(context, model, parent, number,
+                    {.window_class = "LISTBOX",
+                     .style = WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
+                     .extended_style = WS_EX_CLIENTEDGE,
+                     .box = context.font.Pixels(model.GetPlace())}),
+      list_(model) {
+  ItemsChanged();
+  ValueChanged();
+}
+
+void ListBoxPeer::OnCommand(UINT code) {
+  if (code != LBN_SELCHANGE) return;
+  list_.ChooseIndex(SelectedRow(Window(), kListBox));
+  ValueChanged();  // the model may have kept its own selection
+}
+
+LRESULT ListBoxPeer::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  const LRESULT result = NativeControl::HandleMessage(message, wparam, lparam);
+  if (message == WM_LBUTTONDBLCLK) list_.DoubleClick(RowAt(lparam));
+  return result;
+}
+
+int ListBoxPeer::RowAt(LPARAM point) const {
+  const auto answer = static_cast<DWORD>(Send(LB_ITEMFROMPOINT, 0, point));
+  return HIWORD(answer) != 0 || list_.Count() == 0 ? ListControl::kNoSelection : LOWORD(answer);
+}
+
+void ListBoxPeer::ValueChanged() { CopySelection(Window(), kListBox, list_); }
+
+void ListBoxPeer::ItemsChanged() { CopyRows(Window(), kListBox, list_); }
+
+DropDownPeer::DropDownPeer(const PeerContext& context, ListControl& model, HWND parent, int number,
+                           DWORD style)
+    : NativeControl(context, model, parent, number,
+                    {.window_class = "COMBOBOX",
+                     .style = style | WS_TABSTOP | WS_VSCROLL,
+                     .box = context.font.Pixels(model.GetPlace())}),
+      list_(model) {
+  ItemsChanged();
+  CopySelection(Window(), kComboBox, list_);
+}
+
+void DropDownPeer::OnCommand(UINT code) {
+  switch (code) {
+    case CBN_SETFOCUS:  // also where the keyboard is in the edit field inside
+      Context().focus.Arrived(*this);
+      break;
+    case CBN_SELCHANGE:
+      // While the list is open the user is still looking; the choice is made when it closes.
+      if (Send(CB_GETDROPPEDSTATE) == 0) TakeSelection();
+      break;
+    case CBN_SELENDOK:
+    case CBN_CLOSEUP:
+      TakeSelection();
+      break;
+    default:
+      break;
+  }
+}
+
+void DropDownPeer::TakeSelection() {
+  if (SelectedRow(Window(), kComboBox) == list_.SelectedIndex()) return;
+  list_.ChooseIndex(SelectedRow(Window(), kComboBox));
+  ValueChanged();  // the model may have kept its own selection
+}
+
+void DropDownPeer::ValueChanged() { CopySelection(Window(), kComboBox, list_); }
+
+void DropDownPeer::ItemsChanged() { CopyRows(Window(), kComboBox, list_); }
+
+DropDownListPeer::DropDownListPeer(const PeerContext& context, DropDownList& model, HWND parent, int number)
+    : DropDownPeer(context, model, parent, number, CBS_DROPDOWNLIST) {}
+
+DropDownComboPeer::DropDownComboPeer(const PeerContext& context, DropDownCombo& model, HWND parent, int number)
+    : DropDownPeer(context, model, parent, number, CBS_DROPDOWN | CBS_AUTOHSCROLL), combo_(model) {
+  ValueChanged();
+}
+
+void DropDownComboPeer::OnCommand(UINT code) {
+  if (code == CBN_EDITCHANGE) {
+    combo_.UserEdited(TextOfWindow(Window()));
+    return;
+  }
+  DropDownPeer::OnCommand(code);
+}
+
+/// Text first set is text not touched while the user types; the selection of the list below must not write over it.
+void DropDownComboPeer::ValueChanged() {
+  if (combo_.SelectedText() == combo_.Text()) DropDownPeer::ValueChanged();
+  if (TextOfWindow(Window()) != combo_.Text()) SetWindowTextA(Window(), combo_.Text().c_str());
+}
+
+}  // namespace qdix::ui::win32

@@ -1,0 +1,58 @@
+// Windows of the list box, the drop-down list and the drop-down combo.
+#pragma once
+
+#include "ui/lists.h"
+#include "ui/win32/native_control.h"
+
+namespace qdix::ui::win32 {
+
+class ListBoxPeer final : public NativeControl {
+ public:
+  ListBoxPeer(const PeerContext& context, ListBox& model, HWND parent, int number);
+  void OnCommand(UINT code) override;
+
+ private:
+  LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  void ValueChanged() override;
+  void ItemsChanged() override;
+  void CaptionChanged() override {}
+  /// The row under a point of the window, or no selection below the last row.
+  [[nodiscard]] int RowAt(LPARAM point) const;
+
+  ListBox& list_;
+};
+
+/// Both kinds of drop-down. The height of its place is that of the opened list.
+class DropDownPeer : public NativeControl {
+ public:
+  void OnCommand(UINT code) override;
+
+ protected:
+  DropDownPeer(const PeerContext& context, ListControl& model, HWND parent, int number, DWORD style);
+  void ValueChanged() override;
+  void ItemsChanged() override;
+  void CaptionChanged() override {}
+
+ private:
+  void TakeSelection();
+
+  ListControl& list_;
+};
+
+class DropDownListPeer final : public DropDownPeer {
+ public:
+  DropDownListPeer(const PeerContext& context, DropDownList& model, HWND parent, int number);
+};
+
+class DropDownComboPeer final : public DropDownPeer {
+ public:
+  DropDownComboPeer(const PeerContext& context, DropDownCombo& model, HWND parent, int number);
+  void OnCommand(UINT code) override;
+
+ private:
+  void ValueChanged() override;
+
+  DropDownCombo& combo_;
+};
+
+}  // namespace qdix::ui::win32

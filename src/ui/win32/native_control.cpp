@@ -1,0 +1,134 @@
+#include "ui/win32/native_control.h"
+
+#include "ui/access_key.h"
+#include "ui/win32/focus_keeper.h"
+#include "ui/win32/form_keys.h"
+#include "ui/win32/tool_tips.h"
+
+namespace qdix::ui::win32 {
+
+namespace {
+
+HWND MakeWindow(const PeerContext& context, HWND parent, int number, const NativeDesign& design) {
+  return CreateWindowExA(design.extended_style, design.window_class, design.text.c_str(),
+                         design.style | WS_CHILD, design.box.left, design.box.top, design.box.width,
+                         design.box.height, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(number)),
+                         context.instance, nullptr);
+}
+
+}  // namespace
+
+NativeControl::NativeControl(const PeerContext& context, Control& model, HWND parent, int number,
+                             const NativeDesign& design)
+    : context_(context),
+      model_(model),
+      window_(MakeWindow(context, parent, number, design)),
+      hook_(window_, *this) {
+  Send(WM_SETFONT, reinterpret_cast<WPARAM>(context_.font.Get()), FALSE);
+  EnableWindow(window_, model_.EffectivelyEnabled() ? TRUE : FALSE);
+  context_.tips.Add(window_, model_.ToolTip());
+  model_.AttachPeer(this);
+}
+
+NativeControl::~NativeControl() { model_.AttachPeer(nullptr); }
+
+LRESULT NativeControl::Send(UINT message, WPARAM wparam, LPARAM lparam) const {
+  return SendMessageA(window_, message, wparam, lparam);
+}
+
+LRESULT NativeControl::Default(UINT message, WPARAM wparam, LPARAM lparam) {
+  return hook_.Default(message, wparam, lparam);
+}
+
+bool NativeControl::OwnsNativeFocus() const {
+  HWND const focus = GetFocus();
+  return focus != nullptr && (focus == window_ || IsChild(window_, focus) != 0);
+}
+
+bool NativeControl::Usable() const { return IsWindowEnabled(window_) != 0 && IsWindowVisible(window_) != 0; }
+
+LRESULT NativeControl::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_SETFOCUS: {
+      const LRESULT result = Default(message, wparam, lparam);
+      context_.focus.Arrived(*this);
+      return result;
+    }
+    case WM_GETDLGCODE:
+      return Default(message, wparam, lparam) | context_.keys.DialogCode(lparam);
+    case WM_KEYDOWN:
+      if (!FormKeys::IsTabSwitch(wparam)) break;
+      context_.keys.SwitchTab(wparam);
+      return 0;
+    default:
+      break;
+  }
+  return Default(message, wparam, lparam);
+}
+
+HBRUSH NativeControl::Paint(UINT /*message*/, HDC device) {
+  SetBkColor(device, ResolveColour(model_.BackColour()));
+  SetTextColor(device, GetSysColor(COLOR_WINDOWTEXT));
+  return background_.For(model_.BackColour());
+}
+
+bool NativeControl::ShouldShow() const {
+  // A tab page is a window of its own; a frame is not, so what stands in a hidden frame hides by itself.
+  for (const Control* control = &model_; control != nullptr; control = control->Parent()) {
+    if (control->GetKind() == Kind::kTabPage || control->GetKind() == Kind::kForm) return true;
+    if (!control->Visible()) return false;
+  }
+  return true;
+}
+
+void NativeControl::RefreshVisible() {
+  const bool show = ShouldShow();
+  if (!show && OwnsNativeFocus()) context_.focus.Leaving(*this);
+  ShowWindow(window_, show ? SW_SHOWNA : SW_HIDE);
+  if (show) context_.focus.Returned(*this);
+}
+
+void NativeControl::RefreshEnabled() {
+  const bool enable = model_.EffectivelyEnabled();
+  if (!enable && OwnsNativeFocus()) context_.focus.Leaving(*this);
+  EnableWindow(window_, enable ? TRUE : FALSE);
+  if (enable) context_.focus.Returned(*this);
+}
+
+std::string NativeControl::NativeCaption() const { return MarkAccessKey(model_.Caption(), model_.AccessKey()); }
+
+void NativeControl::CaptionChanged() { SetWindowTextA(window_, NativeCaption().c_str()); }
+
+void NativeControl::FocusChanged() { context_.focus.FollowModel(); }
+
+void NativeControl::ControlChanged(Control& /*control*/, Change change) {
+  switch (change) {
+    case Change::kCaption:
+      return CaptionChanged();
+    case Change::kEnabled:
+      return RefreshEnabled();
+    case Change::kVisible:
+      return RefreshVisible();
+    case Change::kValue:
+      return ValueChanged();
+    case Change::kItems:
+      return ItemsChanged();
+    case Change::kRange:
+      return RangeChanged();
+    case Change::kColour:
+      InvalidateRect(window_, nullptr, TRUE);
+      return;
+    case Change::kFocus:
+      return FocusChanged();
+    case Change::kTextSelection:
+      return TextSelectionChanged();
+    case Change::kRepaint:
+      return PixelsChanged();
+    case Change::kBorder:
+      return BorderChanged();
+    case Change::kWindowState:
+      return;
+  }
+}
+
+}  // namespace qdix::ui::win32

@@ -1,0 +1,94 @@
+// The base of all peers: one native window that mirrors one control model. A peer copies between the two; no rule lives in it.
+#pragma once
+
+#include <string>
+
+#include "ui/control.h"
+#include "ui/win32/colours.h"
+#include "ui/win32/dialog_font.h"
+#include "ui/win32/subclass.h"
+
+namespace qdix::ui::win32 {
+
+class FocusKeeper;
+class FormKeys;
+class PeerTable;
+class ToolTips;
+
+/// What the peers of one form share. Outlives them.
+struct PeerContext {
+  HINSTANCE instance;
+  const DialogFont& font;
+  FormKeys& keys;
+  PeerTable& peers;
+  FocusKeeper& focus;
+  ToolTips& tips;
+};
+
+/// How the native window of a control is made.
+struct NativeDesign {
+  const char* window_class = nullptr;
+  std::string text{};
+  DWORD style = 0;
+  DWORD extended_style = 0;
+  PixelBox box{};
+};
+
+class NativeControl : public ControlPeer, private MessageHandler {
+ public:
+  NativeControl(const NativeControl&) = delete;
+  NativeControl& operator=(const NativeControl&) = delete;
+  ~NativeControl() override;
+
+  /// Null when the system could not make the window.
+  [[nodiscard]] HWND Window() const { return window_; }
+  [[nodiscard]] Control& Model() const { return model_; }
+  /// The native keyboard focus is on the window or inside it.
+  [[nodiscard]] bool OwnsNativeFocus() const;
+  /// The window can take the keyboard now.
+  [[nodiscard]] bool Usable() const;
+
+  /// What the native window tells its parent: a WM_COMMAND code, a WM_NOTIFY code, a scroll code.
+  virtual void OnCommand(UINT /*code*/) {}
+  virtual void OnNotify(UINT /*code*/) {}
+  virtual void OnScroll(UINT /*code*/) {}
+  /// Colours for a WM_CTLCOLOR... message; null leaves them to the system.
+  virtual HBRUSH Paint(UINT message, HDC device);
+
+  /// Brings visibility or the enabled look in line with the model and all containers above it.
+  void RefreshVisible();
+  void RefreshEnabled();
+
+  void ControlChanged(Control& control, Change change) override;
+
+ protected:
+  /// Makes the window on `parent` with the caption of the design, in the dialog font, shown and enabled as the model says.
+  NativeControl(const PeerContext& context, Control& model, HWND parent, int number, const NativeDesign& design);
+
+  [[nodiscard]] const PeerContext& Context() const { return context_; }
+  LRESULT Send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const;
+  LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  LRESULT Default(UINT message, WPARAM wparam, LPARAM lparam);
+
+  [[nodiscard]] virtual bool ShouldShow() const;
+  /// The text that the window carries for the model's caption.
+  [[nodiscard]] virtual std::string NativeCaption() const;
+  virtual void ValueChanged() {}
+  virtual void ItemsChanged() {}
+  virtual void RangeChanged() {}
+  virtual void TextSelectionChanged() {}
+  virtual void PixelsChanged() {}
+  virtual void BorderChanged() {}
+  virtual void CaptionChanged();
+
+ private:
+  void FocusChanged();
+
+  const PeerContext& context_;
+  Control& model_;
+  HWND window_;
+  Subclass hook_;
+  BackgroundBrush background_;
+};
+
+}  // namespace qdix::ui::win32

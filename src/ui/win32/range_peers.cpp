@@ -1,0 +1,109 @@
+#include "ui/win32/range_peers.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <limits>
+
+namespace qdix::ui::win32 {
+
+namespace {
+
+/// A slider of a longer range gets a mark at each such part of it.
+constexpr std::int64_t kMostTicks = 10;
+
+/// The distance of two values as far as the system can count it.
+int Distance(std::int64_t from, std::int64_t to) {
+  const std::int64_t distance = from < to ? to - from : from - to;
+  return static_cast<int>(std::min<std::int64_t>(distance, std::numeric_limits<int>::max()));
+}
+
+}  // namespace
+
+ScrollBarPeer::ScrollBarPeer(const PeerContext& context, VerticalScrollBar& model, HWND parent, int number)
+    : NativeControl(context, model, parent, number,
+                    {.window_class = "SCROLLBAR",
+                     .style = WS_TABSTOP | SBS_VERT,
+                     .box = context.font.Pixels(model.GetPlace())}),
+      bar_(model) {
+  ValueChanged();
+}
+
+void ScrollBarPeer::OnScroll(UINT code) {
+  switch (code) {
+    case SB_LINEUP:
+      bar_.Step(-1);
+      break;
+    case SB_LINEDOWN:
+      bar_.Step(1);
+      break;
+    case SB_PAGEUP:
+      bar_.Page(-1);
+      break;
+    case SB_PAGEDOWN:
+      bar_.Page(1);
+      break;
+    case SB_TOP:
+      bar_.Drag(bar_.Minimum());
+      break;
+    case SB_BOTTOM:
+      bar_.Drag(bar_.Maximum());
+      break;
+    case SB_THUMBTRACK:
+      DragToThumb();
+      break;
+    default:
+      return;
+  }
+  ValueChanged();  // the model may have kept its value
+}
+
+/// The position in the message has 16 bits; the bar itself knows all of it.
+void ScrollBarPeer::DragToThumb() {
+  SCROLLINFO info{};
+  info.cbSize = sizeof(info);
+  info.fMask = SIF_TRACKPOS;
+  if (GetScrollInfo(Window(), SB_CTL, &info) == 0) return;
+  const std::int64_t toward_bottom = bar_.Minimum() <= bar_.Maximum() ? info.nTrackPos : -std::int64_t{info.nTrackPos};
+  bar_.Drag(static_cast<std::int32_t>(bar_.Minimum() + toward_bottom));
+}
+
+void ScrollBarPeer::ValueChanged() {
+  SCROLLINFO info{};
+  info.cbSize = sizeof(info);
+  info.fMask = SIF_RANGE | SIF_POS;
+  info.nMax = Distance(bar_.Minimum(), bar_.Maximum());
+  info.nPos = Distance(bar_.Minimum(), bar_.Value());
+  SetScrollInfo(Window(), SB_CTL, &info, TRUE);
+}
+
+SliderPeer::SliderPeer(const PeerContext& context, Slider& model, HWND parent, int number)
+    : NativeControl(context, model, parent, number,
+                    {.window_class = TRACKBAR_CLASSA,
+                     .style = WS_TABSTOP | TBS_HORZ | TBS_AUTOTICKS,
+                     .box = context.font.Pixels(model.GetPlace())}),
+      slider_(model) {
+  RangeChanged();
+}
+
+void SliderPeer::OnScroll(UINT code) {
+  if (code == TB_ENDTRACK) return;
+  slider_.Drag(static_cast<std::int32_t>(Send(TBM_GETPOS)));
+  ValueChanged();  // the model may have kept its value
+}
+
+void SliderPeer::ValueChanged() {
+  if (Send(TBM_GETPOS) != slider_.Value()) Send(TBM_SETPOS, TRUE, slider_.Value());
+}
+
+void SliderPeer::RangeChanged() {
+  const std::int64_t span = std::int64_t{slider_.Maximum()} - slider_.Minimum();
+  Send(TBM_SETTICFREQ, static_cast<WPARAM>(std::max<std::int64_t>(1, span / kMostTicks)));
+  Send(TBM_SETRANGEMIN, FALSE, slider_.Minimum());
+  Send(TBM_SETRANGEMAX, TRUE, slider_.Maximum());
+  Send(TBM_SETLINESIZE, 0, slider_.Range().small_change);
+  Send(TBM_SETPAGESIZE, 0, slider_.Range().large_change);
+  ValueChanged();
+}
+
+}  // namespace qdix::ui::win32

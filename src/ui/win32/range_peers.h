@@ -1,0 +1,37 @@
+// Windows of the vertical scroll bar and the slider.
+#pragma once
+
+#include "ui/ranges.h"
+#include "ui/win32/native_control.h"
+
+namespace qdix::ui::win32 {
+
+/// The native bar counts from 0 at the top; the model's minimum is at the top, whichever way its range runs.
+class ScrollBarPeer final : public NativeControl {
+ public:
+  ScrollBarPeer(const PeerContext& context, VerticalScrollBar& model, HWND parent, int number);
+  void OnScroll(UINT code) override;
+
+ private:
+  void ValueChanged() override;
+  void RangeChanged() override { ValueChanged(); }
+  void CaptionChanged() override {}
+  void DragToThumb();
+
+  VerticalScrollBar& bar_;
+};
+
+class SliderPeer final : public NativeControl {
+ public:
+  SliderPeer(const PeerContext& context, Slider& model, HWND parent, int number);
+  void OnScroll(UINT code) override;
+
+ private:
+  void ValueChanged() override;
+  void RangeChanged() override;
+  void CaptionChanged() override {}
+
+  Slider& slider_;
+};
+
+}  // namespace qdix::ui::win32

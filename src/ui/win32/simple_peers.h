@@ -1,0 +1,72 @@
+// Windows of the controls with a caption: label, frame, button, check box, option button, picture.
+#pragma once
+
+#include "ui/simple_controls.h"
+#include "ui/win32/native_control.h"
+
+namespace qdix::ui::win32 {
+
+class LabelPeer final : public NativeControl {
+ public:
+  LabelPeer(const PeerContext& context, Label& model, HWND parent, int number);
+
+ private:
+  [[nodiscard]] std::string NativeCaption() const override;
+};
+
+class FramePeer final : public NativeControl {
+ public:
+  FramePeer(const PeerContext& context, Frame& model, HWND parent, int number);
+  void ControlChanged(Control& control, Change change) override;
+};
+
+class PicturePeer final : public NativeControl {
+ public:
+  PicturePeer(const PeerContext& context, Picture& model, HWND parent, int number);
+};
+
+class ButtonPeer final : public NativeControl {
+ public:
+  ButtonPeer(const PeerContext& context, Button& model, HWND parent, int number);
+  void OnCommand(UINT code) override;
+
+  /// The heavy border of the button that Enter presses.
+  void ShowAsDefault(bool is_default);
+
+ private:
+  LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  void ShowOtherDefault(bool is_default);
+
+  Button& button_;
+};
+
+class CheckBoxPeer final : public NativeControl {
+ public:
+  CheckBoxPeer(const PeerContext& context, CheckBox& model, HWND parent, int number);
+  void OnCommand(UINT code) override;
+
+ private:
+  void ValueChanged() override;
+
+  CheckBox& box_;
+};
+
+class OptionButtonPeer final : public NativeControl {
+ public:
+  OptionButtonPeer(const PeerContext& context, OptionButton& model, HWND parent, int number);
+  void OnCommand(UINT code) override;
+
+ private:
+  LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  void ValueChanged() override;
+  /// The Tab key stops at one option of a group: the selected one, or the first while none is selected.
+  void RefreshTabStop();
+  void RefreshTabStopsOfGroup() const;
+  /// Chooses the next usable option of the group in this direction (1 or -1), round the ends.
+  void ChooseNeighbour(int direction);
+
+  OptionButton& option_;
+  bool taking_focus_ = false;
+};
+
+}  // namespace qdix::ui::win32

@@ -1,0 +1,84 @@
+#include "ui/win32/tab_strip_peer.h"
+
+#include <commctrl.h>
+
+#include "ui/win32/peer_table.h"
+#include "ui/win32/reflection.h"
+#include "ui/win32/window_class.h"
+
+namespace qdix::ui::win32 {
+
+namespace {
+
+/// The strip of a page has its window before the page has.
+PixelBox AreaOf(const PeerContext& context, const TabPage& page) {
+  const NativeControl* const strip = context.peers.ByModel(*page.Parent());
+  return strip == nullptr ? context.font.Pixels(page.GetPlace())
+                          : static_cast<const TabStripPeer*>(strip)->DisplayArea();
+}
+
+}  // namespace
+
+TabStripPeer::TabStripPeer(const PeerContext& context, TabStrip& model, HWND parent, int number)
+    : NativeControl(context, model, parent, number,
+                    {.window_class = WC_TABCONTROLA,
+                     .style = WS_TABSTOP | WS_CLIPSIBLINGS | TCS_MULTILINE,
+                     .box = context.font.Pixels(model.GetPlace())}),
+      strip_(model) {
+  for (int index = 0; index < strip_.Count(); ++index) {
+    std::string caption = strip_.Page(index).Caption();
+    TCITEMA item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = caption.data();
+    Send(TCM_INSERTITEMA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
+  }
+  Send(TCM_SETCURSEL, static_cast<WPARAM>(strip_.Tab()));
+}
+
+PixelBox TabStripPeer::DisplayArea() const {
+  RECT area{};
+  GetClientRect(Window(), &area);
+  Send(TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&area));
+  MapWindowPoints(Window(), GetParent(Window()), reinterpret_cast<POINT*>(&area), 2);
+  return {static_cast<int>(area.left), static_cast<int>(area.top), static_cast<int>(area.right - area.left),
+          static_cast<int>(area.bottom - area.top)};
+}
+
+void TabStripPeer::OnNotify(UINT code) {
+  if (code != TCN_SELCHANGE) return;
+  strip_.ChooseTab(static_cast<int>(Send(TCM_GETCURSEL)));
+  ValueChanged();  // the control that was left may have kept its page
+}
+
+void TabStripPeer::ValueChanged() {
+  if (Send(TCM_GETCURSEL) != strip_.Tab()) Send(TCM_SETCURSEL, static_cast<WPARAM>(strip_.Tab()));
+  NativeControl* const opened = Context().peers.ByModel(strip_.Page(strip_.Tab()));
+  if (opened != nullptr) opened->RefreshVisible();
+  for (int index = 0; index < strip_.Count(); ++index) {
+    NativeControl* const page = Context().peers.ByModel(strip_.Page(index));
+    if (page == nullptr || page == opened) continue;
+    // A page that hides with the keyboard on it would leave the dialog manager searching without end.
+    if (page->OwnsNativeFocus()) SetFocus(Window());
+    page->RefreshVisible();
+  }
+}
+
+TabPagePeer::TabPagePeer(const PeerContext& context, TabPage& model, HWND parent, int number)
+    : NativeControl(context, model, parent, number,
+                    {.window_class = kPageWindowClass,
+                     .style = WS_CLIPSIBLINGS,
+                     .extended_style = WS_EX_CONTROLPARENT,
+                     .box = AreaOf(context, model)}),
+      page_(model) {
+  // Above the strip: it paints on top of it, and the Tab key walks the page before the strip.
+  SetWindowPos(Window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+LRESULT TabPagePeer::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  const std::optional<LRESULT> answer = ReflectToPeer(Context().peers, message, wparam, lparam);
+  return answer.has_value() ? *answer : NativeControl::HandleMessage(message, wparam, lparam);
+}
+
+bool TabPagePeer::ShouldShow() const { return page_.Open() && page_.Visible(); }
+
+}  // namespace qdix::ui::win32

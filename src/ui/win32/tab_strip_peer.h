@@ -1,0 +1,36 @@
+// Windows of a tab strip and of its pages. A page is a window of its own over the strip's display area; only the open one is shown.
+#pragma once
+
+#include "ui/tab_strip.h"
+#include "ui/win32/native_control.h"
+
+namespace qdix::ui::win32 {
+
+class TabStripPeer final : public NativeControl {
+ public:
+  TabStripPeer(const PeerContext& context, TabStrip& model, HWND parent, int number);
+  void OnNotify(UINT code) override;
+
+  /// Where a page stands, relative to the strip's own parent.
+  [[nodiscard]] PixelBox DisplayArea() const;
+
+ private:
+  void ValueChanged() override;
+  void CaptionChanged() override {}
+
+  TabStrip& strip_;
+};
+
+class TabPagePeer final : public NativeControl {
+ public:
+  TabPagePeer(const PeerContext& context, TabPage& model, HWND parent, int number);
+
+ private:
+  LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  [[nodiscard]] bool ShouldShow() const override;
+  void CaptionChanged() override {}
+
+  TabPage& page_;
+};
+
+}  // namespace qdix::ui::win32

@@ -1,0 +1,56 @@
+#include "ui/win32/text_box_peer.h"
+
+namespace qdix::ui::win32 {
+
+std::string TextOfWindow(HWND window) {
+  std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)), '\0');
+  // The system writes the closing NUL over the one that the text object keeps.
+  const int length = GetWindowTextA(window, text.data(), static_cast<int>(text.size()) + 1);
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+TextBoxPeer::TextBoxPeer(const PeerContext& context, TextBox& model, HWND parent, int number)
+    : NativeControl(context, model, parent, number,
+                    {.window_class = "EDIT",
+                     .style = WS_TABSTOP | ES_AUTOHSCROLL,
+                     .extended_style = WS_EX_CLIENTEDGE,
+                     .box = context.font.Pixels(model.GetPlace())}),
+      text_box_(model) {
+  Send(EM_LIMITTEXT, static_cast<WPARAM>(text_box_.MaxLength()));
+  ValueChanged();
+}
+
+void TextBoxPeer::OnCommand(UINT code) {
+  if (code != EN_CHANGE || assigning_) return;
+  DWORD start = 0;
+  DWORD end = 0;
+  Send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+  text_box_.UserEdited(TextOfWindow(Window()), static_cast<int>(start), static_cast<int>(end - start));
+}
+
+LRESULT TextBoxPeer::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  // A Tab that comes as a character belongs to a key that switched tabs.
+  if (message == WM_CHAR && (wparam == VK_TAB || !text_box_.AcceptsKey(static_cast<char>(wparam)))) return 0;
+  return NativeControl::HandleMessage(message, wparam, lparam);
+}
+
+/// A disabled box asks for its colours as a label does and keeps the system's disabled look.
+HBRUSH TextBoxPeer::Paint(UINT message, HDC device) {
+  return message == WM_CTLCOLOREDIT ? NativeControl::Paint(message, device) : nullptr;
+}
+
+void TextBoxPeer::ValueChanged() {
+  if (TextOfWindow(Window()) == text_box_.Text()) return;
+  assigning_ = true;
+  SetWindowTextA(Window(), text_box_.Text().c_str());
+  assigning_ = false;
+  TextSelectionChanged();
+}
+
+void TextBoxPeer::TextSelectionChanged() {
+  const int start = text_box_.SelectionStart();
+  Send(EM_SETSEL, static_cast<WPARAM>(start), start + text_box_.SelectionLength());
+}
+
+}  // namespace qdix::ui::win32
