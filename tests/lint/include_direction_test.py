@@ -1,0 +1,43 @@
+#!/usr/bin/env python3
+"""The include-direction check finds what it is there to find."""
+import pathlib
+import sys
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools" / "lint"))
+from include_direction import violations_of  # noqa: E402
+
+
+def violations(path, text):
+    return list(violations_of(pathlib.PurePosixPath(path), text))
+
+
+class IncludeDirection(unittest.TestCase):
+    def test_downward_includes_pass(self):
+        self.assertEqual(violations("memory/a.cpp", '#include "os/memory.h"\n#include "base/text.h"\n#include <string>\n'), [])
+
+    def test_upward_include_is_found(self):
+        self.assertEqual(len(violations("ui/a.h", '#include "screens/quondix_screen.h"\n')), 1)
+
+    def test_base_includes_nothing_of_ours(self):
+        self.assertEqual(len(violations("base/a.h", '#include "os/memory.h"\n')), 1)
+
+    def test_system_header_outside_win32_is_found(self):
+        self.assertEqual(len(violations("app/form1.cpp", "#include <windows.h>\n")), 1)
+        self.assertEqual(violations("app/win32/main.cpp", "#include <windows.h>\n"), [])
+
+    def test_win32_header_of_ours_outside_win32_is_found(self):
+        self.assertEqual(len(violations("app/form1.cpp", '#include "ui/win32/form_window.h"\n')), 1)
+
+    def test_simulated_machine_in_the_program_is_found(self):
+        self.assertEqual(len(violations("app/form1.cpp", '#include "os/simulated/simulated_machine.h"\n')), 1)
+
+    def test_platform_condition_is_found(self):
+        self.assertEqual(len(violations("base/a.cpp", "#ifdef _WIN32\n#endif\n")), 1)
+
+    def test_unknown_folder_is_found(self):
+        self.assertEqual(len(violations("misc/a.cpp", "")), 1)
+
+
+if __name__ == "__main__":
+    unittest.main()

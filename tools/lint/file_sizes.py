@@ -1,0 +1,23 @@
+#!/usr/bin/env python3
+"""Fails when a source file has grown past one subject: more than 500 lines."""
+import pathlib
+import sys
+
+MOST_LINES = 500
+FOLDERS = ("src", "tests", "tools", "cmake")
+SUFFIXES = {".h", ".cpp", ".py", ".sh", ".cmake"}
+
+
+def main():
+    root = pathlib.Path(sys.argv[1])
+    files = [file for folder in FOLDERS for file in (root / folder).rglob("*") if file.suffix in SUFFIXES]
+    too_long = [(file, count) for file in sorted(files)
+                if (count := len(file.read_text(encoding="utf-8").splitlines())) > MOST_LINES]
+    for file, count in too_long:
+        print(f"{file.relative_to(root)} has {count} lines, more than {MOST_LINES}")
+    print(f"file sizes: {len(files)} files looked at")
+    sys.exit(1 if too_long or not files else 0)
+
+
+if __name__ == "__main__":
+    main()

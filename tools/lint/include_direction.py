@@ -1,0 +1,74 @@
+#!/usr/bin/env python3
+"""Checks who includes whom: layers point one way, and only the win32 folders know the system's headers.
+
+Also finds conditional compilation for a platform outside those folders. Prints each violation; exits with 1 when there is one.
+"""
+import pathlib
+import re
+import sys
+
+# Folder -> folders of ours that its files may include, besides its own.
+LAYERS = {
+    "base": set(),
+    "os": {"base"},
+    "ui": {"base"},
+    "controls": {"base", "ui"},
+    "screens": {"base", "ui", "controls"},
+    "shell": {"base", "os", "ui", "controls", "screens", "memory"},
+    "memory": {"base", "os", "ui", "controls", "screens", "shell"},
+    "app": {"base", "os", "ui", "controls", "screens", "shell", "memory"},
+    "runtime": set(),
+}
+SYSTEM_HEADERS = {"windows.h", "commctrl.h", "shellapi.h", "shlobj.h", "commdlg.h", "windowsx.h", "objbase.h", "mmsystem.h"}
+PLATFORM_MACROS = re.compile(r"#\s*(?:if|ifdef|ifndef|elif)\b.*\b(_WIN32|WIN32|__MINGW32__|__linux__|_WIN32_WINNT|WINVER)\b")
+INCLUDE = re.compile(r'^\s*#\s*include\s+(["<])([^">]+)[">]', re.MULTILINE)
+
+
+def layer_of(path):
+    return path.parts[0]
+
+
+def knows_the_system(path):
+    return "win32" in path.parts or path.parts[0] == "runtime"
+
+
+def violations_of(path, text):
+    """Violations of one file; `path` is relative to src/."""
+    layer = layer_of(path)
+    for kind, included in INCLUDE.findall(text):
+        if kind == "<":
+            if included.lower() in SYSTEM_HEADERS and not knows_the_system(path):
+                yield f"src/{path} includes <{included}>, which only the win32 folders may"
+            continue
+        target = pathlib.PurePosixPath(included)
+        if layer_of(target) != layer and layer_of(target) not in LAYERS.get(layer, set()):
+            if not (layer_of(target) == "runtime" and path.name == "main.cpp"):
+                yield f"src/{path} includes \"{included}\", against the direction of the layers"
+        if "win32" in target.parts and not knows_the_system(path):
+            yield f"src/{path} includes \"{included}\", which only the win32 folders may"
+        if "simulated" in target.parts and "simulated" not in path.parts:
+            yield f"src/{path} includes \"{included}\", which only tests may"
+    if not knows_the_system(path) and PLATFORM_MACROS.search(text):
+        yield f"src/{path} compiles by platform, which only the win32 folders may"
+    if layer not in LAYERS:
+        yield f"src/{path} is in a folder that no rule knows"
+
+
+def violations_in(root):
+    source = pathlib.Path(root) / "src"
+    for file in sorted(source.rglob("*")):
+        if file.suffix in {".h", ".cpp"}:
+            yield from violations_of(pathlib.PurePosixPath(file.relative_to(source).as_posix()),
+                                     file.read_text(encoding="utf-8"))
+
+
+def main():
+    found = list(violations_in(sys.argv[1]))
+    for violation in found:
+        print(violation)
+    print(f"include direction: {len(found)} violations")
+    sys.exit(1 if found else 0)
+
+
+if __name__ == "__main__":
+    main()
