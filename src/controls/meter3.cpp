@@ -1,5 +1,7 @@
 #include "controls/meter3.h"
 
+#include "base/numbers.h"
+
 namespace qdix::controls {
 
 namespace {
@@ -16,7 +18,10 @@ constexpr int kSegmentOverlapTwips = 20;
 
 constexpr const char* kValueName = "Value";
 constexpr const char* kBorderName = "Border";
+constexpr std::int16_t kDefaultValue = 0;
+constexpr std::int16_t kDefaultBorder = 1;
 
+// To the nearest pixel. A position is rounded as a whole, so no error adds up along the row.
 constexpr int ToPixels(int twips) { return (twips + kTwipsPerPixel / 2) / kTwipsPerPixel; }
 
 constexpr int SegmentLeft(int segment) {
@@ -52,14 +57,13 @@ base::Status Meter3::SetBorder(std::int16_t border) {
   return base::kDone;
 }
 
-void Meter3::Resize(int /*width_twips*/, int /*height_twips*/) {
-  width_twips_ = kWidthTwips;
-  height_twips_ = kHeightTwips;
+void Meter3::Resize(int width_twips, int height_twips) {
+  if (width_twips != kWidthTwips || height_twips != kHeightTwips) Notify(ui::Change::kBorder);
 }
 
 ui::DrawingControl::PixelSize Meter3::InnerSize() const {
   const int border_pixels = border_ == 0 ? 0 : ui::kThreeDBorderPixels;
-  return {ToPixels(width_twips_) - 2 * border_pixels, ToPixels(height_twips_) - 2 * border_pixels};
+  return {ToPixels(kWidthTwips) - 2 * border_pixels, ToPixels(kHeightTwips) - 2 * border_pixels};
 }
 
 void Meter3::ShowLevel() {
@@ -78,15 +82,17 @@ void Meter3::DrawAll() {
   ShowLevel();
 }
 
-void Meter3::ReadProperties(const ui::PropertyBag& bag) {
-  // What a bag holds outside the ranges leaves the property as it is.
-  base::Ignore(SetValue(static_cast<std::int16_t>(bag.ReadProperty(kValueName, 0))));
-  base::Ignore(SetBorder(static_cast<std::int16_t>(bag.ReadProperty(kBorderName, 1))));
+base::Status Meter3::ReadProperties(const ui::PropertyBag& bag) {
+  const base::Result<std::int16_t> value = base::ToInt16(bag.ReadProperty(kValueName, kDefaultValue));
+  const base::Result<std::int16_t> border = base::ToInt16(bag.ReadProperty(kBorderName, kDefaultBorder));
+  const base::Status value_set = value.Ok() ? SetValue(value.Value()) : value.Error();
+  const base::Status border_set = border.Ok() ? SetBorder(border.Value()) : border.Error();
+  return value_set.Ok() ? border_set : value_set;
 }
 
 void Meter3::WriteProperties(ui::PropertyBag& bag) const {
-  bag.WriteProperty(kValueName, value_, 0);
-  bag.WriteProperty(kBorderName, border_, 1);
+  bag.WriteProperty(kValueName, value_, kDefaultValue);
+  bag.WriteProperty(kBorderName, border_, kDefaultBorder);
 }
 
 }  // namespace qdix::controls

@@ -1,5 +1,5 @@
-// A level meter: a row of 50 lamp-like segments, of which the first N are lit. Its figures are twips, 15 of
-// them a pixel.
+// A level meter: a row of 50 lamp-like segments, of which the first N are lit. Designed in twips, 15 of them
+// a pixel; has a fixed size and takes nothing but its value from outside.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ class Meter3 final : public ui::DrawingControl {
  public:
   static constexpr int kSegments = 50;
   static constexpr std::int16_t kHighestValue = kSegments;
-  /// The outer size that the control keeps whatever it is given, in twips.
+  /// The outer size that the control keeps whatever its container gives, in twips.
   static constexpr int kWidthTwips = 2395;
   static constexpr int kHeightTwips = 300;
   static constexpr ui::Colour kLit = 0x00FFFF00U;
@@ -32,26 +32,28 @@ class Meter3 final : public ui::DrawingControl {
   /// Another style than 0 and 1 is error 380.
   base::Status SetBorder(std::int16_t border);
 
-  /// Snaps back to the fixed size.
+  /// The container gave this outer size, in twips: where it is not the control's own, the peer puts the
+  /// window back, as after a change of the border.
   void Resize(int width_twips, int height_twips);
-  [[nodiscard]] int Width() const { return width_twips_; }
-  [[nodiscard]] int Height() const { return height_twips_; }
 
+  /// Outer size in pixels (160 x 20) less the border on each side.
   [[nodiscard]] PixelSize InnerSize() const override;
 
-  void ReadProperties(const ui::PropertyBag& bag);
+  /// Both properties from the bag, or their defaults. A number that a property refuses, or that 16 bits do
+  /// not hold, is returned as its error and leaves that property as it is.
+  base::Status ReadProperties(const ui::PropertyBag& bag);
   void WriteProperties(ui::PropertyBag& bag) const;
 
  private:
+  // What a change of the value runs, in this order.
   void SetLevelValue() { level_ = value_; }
   void ShowLevel();
+
   void DrawAll() override;
 
   std::int16_t value_ = 0;
   std::int16_t level_ = 0;
   std::int16_t border_ = 1;
-  int width_twips_ = kWidthTwips;
-  int height_twips_ = kHeightTwips;
 };
 
 }  // namespace qdix::controls

@@ -6,8 +6,6 @@ namespace qdix::controls {
 
 namespace {
 
-ui::BorderStyle StyleOf(bool flat) { return flat ? ui::BorderStyle::kFlatLine : ui::BorderStyle::kThreeD; }
-
 constexpr const char* kMaxName = "Max";
 constexpr const char* kBarWidthName = "BarWidth";
 constexpr const char* kBackColourName = "BackColor";
@@ -16,90 +14,116 @@ constexpr const char* kFlatName = "Flat";
 constexpr const char* kInvertedName = "Inverted";
 constexpr XGraphMeterProperties kDefaults;
 
+// True as a designer writes it; any other number than 0 is read as true.
+constexpr std::int32_t kTrue = -1;
+
+constexpr ui::BorderStyle StyleOf(bool flat) {
+  return flat ? ui::BorderStyle::kFlatLine : ui::BorderStyle::kThreeD;
+}
+
+// The bag holds signed numbers: system colours are negative in it.
+constexpr std::int32_t ToBag(ui::Colour colour) { return static_cast<std::int32_t>(colour); }
+constexpr std::int32_t ToBag(bool flag) { return flag ? kTrue : 0; }
+
+base::Result<std::int32_t> OneMore(std::int32_t size) { return base::SubtractInt32(size, -1); }
+
 }  // namespace
 
 XGraphMeter::XGraphMeter(ui::Container& parent, const ui::Design& design,
                          const XGraphMeterProperties& properties)
-    : DrawingControl(parent, design, StyleOf(properties.flat)), properties_(properties) {}
-
-void XGraphMeter::SetMax(std::int32_t max) {
-  properties_.max = max;
-  Resize();
+    : DrawingControl(parent, design, StyleOf(properties.flat)),
+      max_(properties.max),
+      bar_width_px_(properties.bar_width),
+      fore_colour_(properties.fore_colour),
+      inverted_(properties.inverted) {
+  SetBackColour(properties.back_colour);
 }
 
-void XGraphMeter::SetBarWidth(std::int32_t bar_width) {
-  properties_.bar_width = bar_width;
-  Resize();
+void XGraphMeter::SetMax(std::int32_t max) {
+  max_ = max;
+  Clear();
+}
+
+void XGraphMeter::SetBarWidth(std::int32_t bar_width_px) {
+  bar_width_px_ = bar_width_px;
+  Clear();
 }
 
 void XGraphMeter::SetFlat(bool flat) {
-  properties_.flat = flat;
   SetBorderStyle(StyleOf(flat));
-  Resize();
+  Clear();
 }
 
 void XGraphMeter::SetInverted(bool inverted) {
-  properties_.inverted = inverted;
-  Resize();
+  inverted_ = inverted;
+  Clear();
 }
 
-void XGraphMeter::Resize() {
-  ui::Canvas* const canvas = Surface();
-  if (canvas == nullptr) return;
-  width_ = canvas->Width();
-  height_ = canvas->Height();
-  canvas->FillBox(0, 0, width_ - 1, height_ - 1, properties_.back_colour);
+void XGraphMeter::DrawAll() {
+  Surface()->FillBox(0, 0, Width() - 1, Height() - 1, BackColour());
   PixelsChanged();
 }
 
+void XGraphMeter::Clear() {
+  if (Surface() != nullptr) DrawAll();
+}
+
 base::Status XGraphMeter::Update(std::int32_t value) {
-  const base::Result<std::int32_t> left = base::SubtractInt32(width_, properties_.bar_width);
-  const base::Result<std::int32_t> scrolled_to = base::SubtractInt32(0, properties_.bar_width);
-  if (!left.Ok() || !scrolled_to.Ok()) return base::kOverflow;
-  ui::Canvas* const canvas = Surface();
-  if (canvas == nullptr) return base::kDone;
-  canvas->CopyOntoSelf(scrolled_to.Value(), 0, width_ + 1, height_ + 1, 0, 0);
-  canvas->FillBox(left.Value(), 0, width_, height_, properties_.back_colour);
-  const base::Status drawn = value > 0 ? DrawBar(*canvas, left.Value(), value) : base::kDone;
+  const base::Status drawn = Draw(value);
+  // Also after an error: the picture may have moved before it.
   PixelsChanged();
   return drawn;
 }
 
-base::Status XGraphMeter::DrawBar(ui::Canvas& canvas, std::int32_t left, std::int32_t value) {
-  const base::Result<double> share = base::Divide(value, properties_.max);
+base::Status XGraphMeter::Draw(std::int32_t value) {
+  const base::Result<std::int32_t> to_x = base::SubtractInt32(0, bar_width_px_);
+  const base::Result<std::int32_t> copy_width = OneMore(Width());
+  const base::Result<std::int32_t> copy_height = OneMore(Height());
+  if (!to_x.Ok() || !copy_width.Ok() || !copy_height.Ok()) return base::kOverflow;
+  if (Surface() != nullptr) {
+    Surface()->CopyOntoSelf(to_x.Value(), 0, copy_width.Value(), copy_height.Value(), 0, 0);
+  }
+  const base::Result<std::int32_t> left = base::SubtractInt32(Width(), bar_width_px_);
+  if (!left.Ok()) return left.Error();
+  FillStrip(left.Value(), 0, Height(), BackColour());
+  return value > 0 ? DrawBar(left.Value(), value) : base::kDone;
+}
+
+base::Status XGraphMeter::DrawBar(std::int32_t left, std::int32_t value) {
+  const base::Result<double> share = base::Divide(value, max_);
   if (!share.Ok()) return share.Error();
-  const base::Result<std::int32_t> bar_height = base::ToInt32(share.Value() * height_ - 1);
+  const base::Result<std::int32_t> bar_height = base::ToInt32(share.Value() * Height() - 1);
   if (!bar_height.Ok()) return bar_height.Error();
-  if (properties_.inverted) {
-    canvas.FillBox(left, 0, width_, bar_height.Value(), properties_.fore_colour);
+  if (inverted_) {
+    FillStrip(left, 0, bar_height.Value(), fore_colour_);
     return base::kDone;
   }
-  const base::Result<std::int32_t> top = base::SubtractInt32(height_, bar_height.Value());
+  const base::Result<std::int32_t> top = base::SubtractInt32(Height(), bar_height.Value());
   if (!top.Ok()) return top.Error();
-  canvas.FillBox(left, top.Value(), width_, height_, properties_.fore_colour);
+  FillStrip(left, top.Value(), Height(), fore_colour_);
   return base::kDone;
+}
+
+void XGraphMeter::FillStrip(std::int32_t left, std::int32_t top, std::int32_t bottom, ui::Colour colour) {
+  if (Surface() != nullptr) Surface()->FillBox(left, top, Width(), bottom, colour);
 }
 
 void XGraphMeter::ReadProperties(const ui::PropertyBag& bag) {
   SetMax(bag.ReadProperty(kMaxName, kDefaults.max));
   SetBarWidth(bag.ReadProperty(kBarWidthName, kDefaults.bar_width));
-  SetGraphBackColour(static_cast<ui::Colour>(
-      bag.ReadProperty(kBackColourName, static_cast<std::int32_t>(kDefaults.back_colour))));
-  SetForeColour(static_cast<ui::Colour>(
-      bag.ReadProperty(kForeColourName, static_cast<std::int32_t>(kDefaults.fore_colour))));
-  SetFlat(bag.ReadProperty(kFlatName, 0) != 0);
-  SetInverted(bag.ReadProperty(kInvertedName, 0) != 0);
+  SetBackColour(static_cast<ui::Colour>(bag.ReadProperty(kBackColourName, ToBag(kDefaults.back_colour))));
+  SetForeColour(static_cast<ui::Colour>(bag.ReadProperty(kForeColourName, ToBag(kDefaults.fore_colour))));
+  SetFlat(bag.ReadProperty(kFlatName, ToBag(kDefaults.flat)) != 0);
+  SetInverted(bag.ReadProperty(kInvertedName, ToBag(kDefaults.inverted)) != 0);
 }
 
 void XGraphMeter::WriteProperties(ui::PropertyBag& bag) const {
-  bag.WriteProperty(kMaxName, properties_.max, kDefaults.max);
-  bag.WriteProperty(kBarWidthName, properties_.bar_width, kDefaults.bar_width);
-  bag.WriteProperty(kBackColourName, static_cast<std::int32_t>(properties_.back_colour),
-                    static_cast<std::int32_t>(kDefaults.back_colour));
-  bag.WriteProperty(kForeColourName, static_cast<std::int32_t>(properties_.fore_colour),
-                    static_cast<std::int32_t>(kDefaults.fore_colour));
-  bag.WriteProperty(kFlatName, properties_.flat ? 1 : 0, 0);
-  bag.WriteProperty(kInvertedName, properties_.inverted ? 1 : 0, 0);
+  bag.WriteProperty(kMaxName, max_, kDefaults.max);
+  bag.WriteProperty(kBarWidthName, bar_width_px_, kDefaults.bar_width);
+  bag.WriteProperty(kBackColourName, ToBag(BackColour()), ToBag(kDefaults.back_colour));
+  bag.WriteProperty(kForeColourName, ToBag(fore_colour_), ToBag(kDefaults.fore_colour));
+  bag.WriteProperty(kFlatName, ToBag(Flat()), ToBag(kDefaults.flat));
+  bag.WriteProperty(kInvertedName, ToBag(inverted_), ToBag(kDefaults.inverted));
 }
 
 }  // namespace qdix::controls

@@ -1,5 +1,5 @@
 // A strip chart: each new value is a bar at the right edge, and the picture moves left by one bar. The
-// picture is the only history.
+// picture on the surface is the only history; no value is kept.
 #pragma once
 
 #include <cstdint>
@@ -16,34 +16,41 @@ struct XGraphMeterProperties {
   std::int32_t bar_width = 2;
   ui::Colour back_colour = ui::kButtonFace;
   ui::Colour fore_colour = ui::kButtonText;
+  /// A single line as border instead of the three-dimensional one.
   bool flat = false;
-  /// Bars hang from the top.
+  /// Bars hang from the top instead of standing on the bottom.
   bool inverted = false;
 };
 
+/// The colour of the empty area is the control's back colour. Assigning a colour leaves the picture as it is;
+/// assigning any of the other properties clears it, even to the value it has.
 class XGraphMeter final : public ui::DrawingControl {
  public:
   XGraphMeter(ui::Container& parent, const ui::Design& design, const XGraphMeterProperties& properties = {});
 
-  [[nodiscard]] const XGraphMeterProperties& Properties() const { return properties_; }
-  // Max, BarWidth, Flat and Inverted clear the picture; the colours leave old bars as they are.
+  [[nodiscard]] std::int32_t Max() const { return max_; }
   void SetMax(std::int32_t max);
-  void SetBarWidth(std::int32_t bar_width);
+  [[nodiscard]] std::int32_t BarWidth() const { return bar_width_px_; }
+  void SetBarWidth(std::int32_t bar_width_px);
+  [[nodiscard]] ui::Colour ForeColour() const { return fore_colour_; }
+  void SetForeColour(ui::Colour colour) { fore_colour_ = colour; }
+  [[nodiscard]] bool Flat() const { return Border() == ui::BorderStyle::kFlatLine; }
   void SetFlat(bool flat);
+  [[nodiscard]] bool Inverted() const { return inverted_; }
   void SetInverted(bool inverted);
-  void SetGraphBackColour(ui::Colour colour) { properties_.back_colour = colour; }
-  void SetForeColour(ui::Colour colour) { properties_.fore_colour = colour; }
 
-  /// Inner size of the surface in pixels, as of the last resize.
-  [[nodiscard]] std::int32_t Width() const { return width_; }
-  [[nodiscard]] std::int32_t Height() const { return height_; }
+  /// Inner size of the surface in pixels; 0 without a surface.
+  [[nodiscard]] std::int32_t Width() const { return Surface() != nullptr ? Surface()->Width() : 0; }
+  [[nodiscard]] std::int32_t Height() const { return Surface() != nullptr ? Surface()->Height() : 0; }
 
   /// Pushes one value. 0 and less only scroll; values above Max draw beyond the surface. Coordinates that 32
-  /// bits do not hold are error 6; a Max of 0 is a division error for a value above 0.
+  /// bits do not hold are error 6, a Max of 0 is error 11 for a value above 0; what was drawn until then
+  /// stays. Without a surface nothing is drawn, and the errors are those of an empty surface.
   base::Status Update(std::int32_t value);
 
   [[nodiscard]] PixelSize InnerSize() const override { return {0, kInnerHeightPixels}; }
 
+  /// Every property from the bag, or its default; clears the picture.
   void ReadProperties(const ui::PropertyBag& bag);
   void WriteProperties(ui::PropertyBag& bag) const;
 
@@ -51,13 +58,17 @@ class XGraphMeter final : public ui::DrawingControl {
   /// Height of the surface that the bars were designed for.
   static constexpr int kInnerHeightPixels = 65;
 
-  void DrawAll() override { Resize(); }
-  void Resize();
-  base::Status DrawBar(ui::Canvas& canvas, std::int32_t left, std::int32_t value);
+  void DrawAll() override;
+  void Clear();
+  [[nodiscard]] base::Status Draw(std::int32_t value);
+  [[nodiscard]] base::Status DrawBar(std::int32_t left, std::int32_t value);
+  /// Fills from `left` to the right edge.
+  void FillStrip(std::int32_t left, std::int32_t top, std::int32_t bottom, ui::Colour colour);
 
-  XGraphMeterProperties properties_;
-  std::int32_t width_ = 0;
-  std::int32_t height_ = 0;
+  std::int32_t max_;
+  std::int32_t bar_width_px_;
+  ui::Colour fore_colour_;
+  bool inverted_;
 };
 
 }  // namespace qdix::controls

@@ -1,5 +1,7 @@
 #include "memory/memory_release.h"
 
+#include <limits>
+
 #include "base/numbers.h"
 #include "memory/memory_block.h"
 
@@ -17,7 +19,10 @@ base::Status AllocateBlocks(double amount_mb, MemoryBlock& block_a, MemoryBlock&
 }  // namespace
 
 ReleaseOutcome MemoryRelease::FreeUpMemory(const ReleaseRequest& request) {
-  for (double pass = 1; pass <= request.passes; pass += 1) {
+  // More passes than 32 bits count would take years; the close of the window ends any number.
+  const std::int32_t passes =
+      base::ClampToInt32(base::WholePart(request.passes), 0, std::numeric_limits<std::int32_t>::max());
+  for (std::int32_t done = 0; done < passes; ++done) {
     if (form_.Unloaded()) return ReleaseOutcome::kUnloaded;
     const double amount_mb = request.amount_mb();
     if (request.enough_is_free && request.enough_is_free(amount_mb)) return ReleaseOutcome::kFinished;

@@ -21,7 +21,7 @@ struct AutomaticScreen {
 
   ui::Container& page;
 
-  ui::Frame FrameAuto{page, {.name = "FrameAuto", .caption = "Automatic Release", .place = {4, 2, 258, 100}}};
+  ui::Frame FrameAuto{page, {.name = "FrameAuto", .caption = "Automatic Release", .place = {4, 2, 260, 104}}};
   ui::CheckBox Check1{FrameAuto,
                       {.name = "Check1",
                        .caption = "Auto Detection Active",
@@ -41,35 +41,35 @@ struct AutomaticScreen {
       FrameAuto,
       {.name = "lblInterval", .caption = "Check RAM every:", .access_key = 'k', .place = {11, 48, 70, 8}}};
   ui::ListBox List2{FrameAuto,
-                    {.name = "List2", .tool_tip = "Intervals for monitoring RAM", .place = {11, 58, 60, 38}}};
+                    {.name = "List2", .tool_tip = "Intervals for monitoring RAM", .place = {11, 58, 60, 43}}};
   ui::Label lblSeconds{FrameAuto, {.name = "lblSeconds", .caption = "seconds", .place = {75, 58, 40, 8}}};
   ui::Label lblAutoAmount{FrameAuto,
                           {.name = "lblAutoAmount",
                            .caption = "Amount of RAM to Release:",
                            .access_key = 'm',
                            .place = {150, 48, 104, 8}}};
-  ui::ListBox List4{FrameAuto, {.name = "List4", .tool_tip = kHalfRamTip, .place = {150, 58, 60, 38}}};
+  ui::ListBox List4{FrameAuto, {.name = "List4", .tool_tip = kHalfRamTip, .place = {150, 58, 60, 43}}};
 
-  ui::Frame FrameAutoCpu{page, {.name = "FrameAutoCpu", .caption = "CPU", .place = {4, 105, 258, 32}}};
+  ui::Frame FrameAutoCpu{page, {.name = "FrameAutoCpu", .caption = "CPU", .place = {4, 109, 260, 32}}};
   ui::CheckBox Check9{FrameAutoCpu,
                       {.name = "Check9",
                        .caption = "Don't perform automatic freeup unless CPU usage is below",
                        .access_key = 'u',
-                       .place = {11, 118, 204, 10}}};
-  ui::TextBox Text9{FrameAutoCpu, {.name = "Text9", .place = {218, 116, 24, 13}}};
+                       .place = {11, 122, 204, 10}}};
+  ui::TextBox Text9{FrameAutoCpu, {.name = "Text9", .place = {218, 120, 24, 13}}};
   ui::Label lblAutoCpuUnit{FrameAutoCpu,
-                           {.name = "lblAutoCpuUnit", .caption = "%", .place = {245, 118, 12, 8}}};
+                           {.name = "lblAutoCpuUnit", .caption = "%", .place = {245, 122, 12, 8}}};
 
-  ui::Frame FrameCounter{page, {.name = "FrameCounter", .caption = "Counter", .place = {4, 140, 258, 38}}};
+  ui::Frame FrameCounter{page, {.name = "FrameCounter", .caption = "Counter", .place = {4, 144, 260, 38}}};
   ui::Button Command7{
       FrameCounter,
-      {.name = "Command7", .caption = "Reset Counter ->", .access_key = 'R', .place = {11, 153, 66, 14}}};
+      {.name = "Command7", .caption = "Reset Counter ->", .access_key = 'R', .place = {11, 157, 66, 14}}};
   ui::Label lblCounter{
       FrameCounter,
       {.name = "lblCounter",
        .caption =
            "The Auto Detection feature has detected and released RAM 0 times since Q-DIX was started at",
-       .place = {84, 150, 172, 25}}};
+       .place = {84, 154, 172, 25}}};
 };
 
 }  // namespace qdix::screens

@@ -41,8 +41,8 @@ struct MainWindow {
   explicit MainWindow(ui::EventDispatcher& dispatcher) : events(dispatcher) {}
 
   ui::EventDispatcher& events;
-  ui::Form Form1{events, {.name = "Form1", .caption = "Q-DIX", .place = {0, 0, 280, 242}}};
-  ui::TabStrip SSTab1{Form1, {.name = "SSTab1", .place = {3, 3, 274, 236}}, kTabPages};
+  ui::Form Form1{events, {.name = "Form1", .caption = "Q-DIX", .place = {0, 0, 280, 238}}};
+  ui::TabStrip SSTab1{Form1, {.name = "SSTab1", .place = {3, 3, 274, 232}}, kTabPages};
 
   /// Display refresh.
   ui::Timer Timer1{events, "Timer1", 750, false};

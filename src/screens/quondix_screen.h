@@ -21,7 +21,7 @@ struct QuondixScreen {
 
   ui::Container& page;
 
-  ui::Frame FrameMemory{page, {.name = "FrameMemory", .caption = "Memory", .place = {4, 2, 258, 66}}};
+  ui::Frame FrameMemory{page, {.name = "FrameMemory", .caption = "Memory", .place = {4, 2, 260, 66}}};
   ui::Label lblTotalMem{FrameMemory, {.name = "lblTotalMem", .place = {11, 13, 244, 8}}};
   controls::Meter3 Gauge1{FrameMemory, {.name = "Gauge1", .place = {11, 22, 107, 13}}};
   ui::Label lblPercentFree{FrameMemory, {.name = "lblPercentFree", .place = {124, 24, 131, 8}}};
@@ -30,7 +30,7 @@ struct QuondixScreen {
   ui::Label lblSwapfileUsed{FrameMemory,
                             {.name = "lblSwapfileUsed", .caption = "%  Used", .place = {124, 52, 131, 8}}};
 
-  ui::Frame FrameCpu{page, {.name = "FrameCpu", .caption = "CPU Usage", .place = {4, 70, 258, 61}}};
+  ui::Frame FrameCpu{page, {.name = "FrameCpu", .caption = "CPU Usage", .place = {4, 70, 260, 61}}};
   controls::XGraphMeter XGraphMeter1{FrameCpu,
                                      {.name = "XGraphMeter1", .place = {11, 82, 160, 42}},
                                      {.back_colour = ui::kMenuBackground, .fore_colour = 0x000000FFU}};
@@ -39,11 +39,11 @@ struct QuondixScreen {
       FrameCpu, {.name = "lblWindowsOnly", .caption = "(For Win 95/98/ME)", .place = {178, 93, 78, 8}}};
   ui::Label lblCPU{FrameCpu, {.name = "lblCPU", .caption = "CPU Speed :", .place = {178, 106, 80, 20}}};
 
-  ui::Frame FrameRelease{page, {.name = "FrameRelease", .caption = "Release", .place = {4, 133, 162, 67}}};
+  ui::Frame FrameRelease{page, {.name = "FrameRelease", .caption = "Release", .place = {4, 133, 164, 67}}};
   ui::Label lblAmount{
       FrameRelease,
       {.name = "lblAmount", .caption = "Amount of RAM:", .access_key = 'A', .place = {11, 144, 56, 8}}};
-  ui::ListBox List1{FrameRelease, {.name = "List1", .place = {11, 154, 56, 40}}};
+  ui::ListBox List1{FrameRelease, {.name = "List1", .place = {11, 154, 56, 43}}};
   ui::Label lblRetries{
       FrameRelease,
       {.name = "lblRetries", .caption = "Number of Retrys", .access_key = 'R', .place = {76, 144, 82, 8}}};
@@ -62,19 +62,19 @@ struct QuondixScreen {
                        .caption = "Pause All Activity",
                        .access_key = 's',
                        .tool_tip = "Pause Q-DIX operation",
-                       .place = {172, 136, 90, 14}}};
+                       .place = {174, 136, 90, 14}}};
   ui::Button Command4{page,
                       {.name = "Command4",
                        .caption = "Minimize To Taskbar",
                        .access_key = 'M',
                        .tool_tip = "Minimizes, but shows available RAM in Taskbar",
-                       .place = {172, 153, 90, 14}}};
+                       .place = {174, 153, 90, 14}}};
   ui::Button Command2{page,
                       {.name = "Command2",
                        .caption = "Hide",
                        .access_key = 'H',
                        .tool_tip = "Hide Q-DIX  while running in background",
-                       .place = {172, 170, 90, 14}}};
+                       .place = {174, 170, 90, 14}}};
 };
 
 }  // namespace qdix::screens

@@ -20,7 +20,7 @@ struct StartupScreen {
   ui::Container& page;
 
   ui::Frame FrameStartup{
-      page, {.name = "FrameStartup", .caption = "When I startup my computer", .place = {4, 2, 258, 64}}};
+      page, {.name = "FrameStartup", .caption = "When I startup my computer", .place = {4, 2, 260, 64}}};
   ui::CheckBox Check2{FrameStartup,
                       {.name = "Check2",
                        .caption = "Automatically launch Q-DIX",
@@ -57,14 +57,14 @@ struct StartupScreen {
       FrameDisplay, {.name = "Option3", .caption = "Hidden", .access_key = 'H', .place = {11, 107, 112, 10}}};
 
   ui::Frame FrameGraph{
-      page, {.name = "FrameGraph", .caption = "CPU Graph Update Interval", .place = {136, 69, 126, 54}}};
+      page, {.name = "FrameGraph", .caption = "CPU Graph Update Interval", .place = {138, 69, 126, 54}}};
   ui::Slider Slider7{FrameGraph,
-                     {.name = "Slider7", .place = {143, 82, 112, 20}},
+                     {.name = "Slider7", .place = {145, 82, 112, 20}},
                      {.minimum = 1, .maximum = 5, .value = 1, .small_change = 1, .large_change = 1}};
-  ui::Label lblFaster{FrameGraph, {.name = "lblFaster", .caption = "Faster", .place = {145, 106, 40, 8}}};
-  ui::Label lblSlower{FrameGraph, {.name = "lblSlower", .caption = "Slower", .place = {231, 106, 26, 8}}};
+  ui::Label lblFaster{FrameGraph, {.name = "lblFaster", .caption = "Faster", .place = {147, 106, 40, 8}}};
+  ui::Label lblSlower{FrameGraph, {.name = "lblSlower", .caption = "Slower", .place = {233, 106, 26, 8}}};
 
-  ui::Frame FrameOther{page, {.name = "FrameOther", .caption = "Warnings", .place = {4, 126, 258, 30}}};
+  ui::Frame FrameOther{page, {.name = "FrameOther", .caption = "Warnings", .place = {4, 126, 260, 30}}};
   ui::CheckBox Check4{FrameOther,
                       {.name = "Check4",
                        .caption = "Resources Warning",

@@ -10,7 +10,7 @@ struct TimeIntervalsScreen {
 
   ui::Container& page;
 
-  ui::Frame FrameTime{page, {.name = "FrameTime", .caption = "Timed Release", .place = {4, 2, 258, 112}}};
+  ui::Frame FrameTime{page, {.name = "FrameTime", .caption = "Timed Release", .place = {4, 2, 260, 112}}};
   ui::CheckBox Check3{FrameTime,
                       {.name = "Check3",
                        .caption = "Time Releases Active",
@@ -26,17 +26,17 @@ struct TimeIntervalsScreen {
       FrameUnit, {.name = "Option5", .caption = "Hours", .access_key = 'o', .place = {84, 62, 50, 10}}};
   ui::ListBox lstTime{
       FrameTime,
-      {.name = "lstTime", .tool_tip = "Time interval at which RAM is Released", .place = {11, 42, 60, 50}}};
+      {.name = "lstTime", .tool_tip = "Time interval at which RAM is Released", .place = {11, 42, 60, 51}}};
   ui::Label lblTimeAmount{FrameTime,
                           {.name = "lblTimeAmount",
                            .caption = "Amount of RAM to Release:",
                            .access_key = 'm',
                            .place = {150, 32, 104, 8}}};
-  ui::ListBox List3{FrameTime, {.name = "List3", .tool_tip = kHalfRamTip, .place = {150, 42, 60, 50}}};
+  ui::ListBox List3{FrameTime, {.name = "List3", .tool_tip = kHalfRamTip, .place = {150, 42, 60, 51}}};
   ui::Label lblNextRelease{FrameTime,
                            {.name = "lblNextRelease", .place = {11, 100, 244, 8}, .visible = false}};
 
-  ui::Frame FrameTimeCpu{page, {.name = "FrameTimeCpu", .caption = "CPU", .place = {4, 117, 258, 32}}};
+  ui::Frame FrameTimeCpu{page, {.name = "FrameTimeCpu", .caption = "CPU", .place = {4, 117, 260, 32}}};
   ui::CheckBox Check10{FrameTimeCpu,
                        {.name = "Check10",
                         .caption = "Don't perform time freeup unless CPU usage is below",

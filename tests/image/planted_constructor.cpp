@@ -9,4 +9,6 @@ std::string global_text(1000, 'x');
 
 }  // namespace
 
-extern "C" int QdixMain(void* /*instance*/, int /*show_command*/) { return static_cast<int>(global_text.size()); }
+extern "C" int QdixMain(void* /*instance*/, int /*show_command*/) {
+  return static_cast<int>(global_text.size());
+}

@@ -1,5 +1,6 @@
-// Exercises the run time of the shipped programs from inside one: memory functions, new and delete, texts that grow, division of long numbers,
-// rounding at 53 bits. The exit code is 0 when everything came out right, else the number of the step that did not.
+// Exercises the run time of the shipped programs from inside one: memory functions, new and delete, texts
+// that grow, division of long numbers, rounding at 53 bits. The exit code is 0 when everything came out
+// right, else the number of the step that did not.
 #include <cstdint>
 #include <cstring>
 #include <string>
@@ -43,20 +44,22 @@ bool ListsGrow() {
 
 bool LongNumbersDivide() {
   const auto dividend = Hidden<std::int64_t>(-9000000000000000001);
-  return dividend / Hidden<std::int64_t>(1000000007) == -8999999937 && dividend % Hidden<std::int64_t>(10) == -1;
+  return dividend / Hidden<std::int64_t>(1000000007) == -8999999937 &&
+         dividend % Hidden<std::int64_t>(10) == -1;
 }
 
 bool NumbersRound() {
   using namespace qdix::base;
-  return WholePart(Hidden(-0.5)) == -1 && RoundHalfEven(Hidden(2.5)) == 2 && RoundHalfEven(Hidden(-1.5)) == -2 &&
-         FormatTwoDecimals(Hidden(23.4495)) == "23.45" && ShortestText(Hidden(0.1) + Hidden(0.2)) == "0.3" &&
-         Hidden(0.1) + Hidden(0.2) != Hidden(0.3);
+  return WholePart(Hidden(-0.5)) == -1 && RoundHalfEven(Hidden(2.5)) == 2 &&
+         RoundHalfEven(Hidden(-1.5)) == -2 && FormatTwoDecimals(Hidden(23.4495)) == "23.45" &&
+         ShortestText(Hidden(0.1) + Hidden(0.2)) == "0.3" && Hidden(0.1) + Hidden(0.2) != Hidden(0.3);
 }
 
 }  // namespace
 
 extern "C" int QdixMain(void* /*instance*/, int /*show_command*/) {
-  constexpr bool (*kSteps[])() = {&MemoryFunctionsWork, &TextsGrow, &ListsGrow, &LongNumbersDivide, &NumbersRound};
+  constexpr bool (*kSteps[])() = {&MemoryFunctionsWork, &TextsGrow, &ListsGrow, &LongNumbersDivide,
+                                  &NumbersRound};
   int number = 0;
   for (const auto step : kSteps) {
     ++number;

@@ -1,4 +1,5 @@
-// The entry of the shipped program: puts the program, its windows and the real system together and runs the message loop. Decides nothing.
+// The entry of the shipped program: puts the program, its windows and the real system together and runs the
+// message loop. Decides nothing.
 #include <windows.h>
 
 #include <memory>
@@ -13,7 +14,8 @@ namespace qdix::app::win32 {
 
 namespace {
 
-/// What lives as long as the process runs its loop. On the heap, since the controls alone are more than a frame of the stack should hold.
+/// What lives as long as the process runs its loop. On the heap, since the controls alone are more than a
+/// frame of the stack should hold.
 class Program {
  public:
   explicit Program(HINSTANCE instance)
@@ -56,7 +58,8 @@ class Program {
 
 }  // namespace qdix::app::win32
 
-/// The system applies the wish of who started the program by itself, when the main window is shown for the first time.
+/// The system applies the wish of who started the program by itself, when the main window is shown for the
+/// first time.
 extern "C" int QdixMain(void* instance, int /*show_command*/) {
   const auto program = std::make_unique<qdix::app::win32::Program>(static_cast<HINSTANCE>(instance));
   return program->Run() ? 0 : 1;

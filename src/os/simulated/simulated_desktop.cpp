@@ -75,9 +75,10 @@ void SimulatedWindows::PlaceDirectlyBehind(WindowHandle window, WindowHandle fro
 }
 
 int SimulatedDialogs::MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) {
-  if (log_.RecordAndFail("MessageBoxA", text)) return kIdNone;
+  if (log_.RecordAndFail("MessageBoxA", text) || ended_) return kIdNone;
   boxes_.push_back({text, title, flags});
   if (while_open_) while_open_();
+  if (ended_) return kIdNone;
   if (!answers_.empty()) {
     const int answer = answers_.front();
     answers_.erase(answers_.begin());
@@ -91,13 +92,10 @@ bool SimulatedShell::Shell_NotifyIconA(std::uint32_t request, const NotifyIconDa
   const std::string tip(base::CutAtNul({data.tip.data(), data.tip.size()}));
   if (log_.RecordAndFail("Shell_NotifyIconA", std::to_string(request) + ", " + tip)) return false;
   requests_.push_back({request, data, tip});
-  if (request == kNimAdd) {
-    ++icons_;
-    return true;
-  }
-  if (icons_ == 0) return false;
-  if (request == kNimDelete) --icons_;
-  return true;
+  const std::pair icon(data.owner, data.id);
+  if (request == kNimAdd) return icons_.insert(icon).second;
+  if (request == kNimDelete) return icons_.erase(icon) == 1;
+  return icons_.contains(icon);
 }
 
 }  // namespace qdix::os::simulated

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "os/dialogs.h"
@@ -61,6 +63,8 @@ class SimulatedDialogs final : public Dialogs {
   /// Answers of the next boxes, in order; after them each box gets its default button.
   void AnswerNext(int answer) { answers_.push_back(answer); }
   void WhileOpen(std::function<void()> action) { while_open_ = std::move(action); }
+  /// The program ends: a box that is open closes unanswered, and no further one opens.
+  void End() { ended_ = true; }
   [[nodiscard]] const std::vector<Box>& Boxes() const { return boxes_; }
 
  private:
@@ -68,6 +72,7 @@ class SimulatedDialogs final : public Dialogs {
   std::vector<Box> boxes_;
   std::vector<int> answers_;
   std::function<void()> while_open_;
+  bool ended_ = false;
 };
 
 struct TrayRequest {
@@ -84,12 +89,13 @@ class SimulatedShell final : public Shell {
   bool Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& data) override;
 
   [[nodiscard]] const std::vector<TrayRequest>& Requests() const { return requests_; }
-  [[nodiscard]] int IconCount() const { return icons_; }
+  [[nodiscard]] int IconCount() const { return static_cast<int>(icons_.size()); }
 
  private:
   CallLog& log_;
   std::vector<TrayRequest> requests_;
-  int icons_ = 0;
+  /// Owner and number of each icon.
+  std::set<std::pair<WindowHandle, std::uint32_t>> icons_;
 };
 
 }  // namespace qdix::os::simulated

@@ -9,6 +9,10 @@ namespace qdix::os {
 
 namespace {
 
+/// The addresses of one process, and what a small program takes of them.
+constexpr std::uint32_t kAddressSpaceBytes = 0x7FBF0000U;
+constexpr std::uint32_t kProgramBytes = 0x00800000U;
+
 constexpr double kMsPerDay = 24.0 * 60 * 60 * 1000;
 
 template <class Accesses>
@@ -28,10 +32,16 @@ SimulatedMachine::SimulatedMachine()
 void SimulatedMachine::SetMemory(std::uint32_t total_physical, std::uint32_t available_physical,
                                  std::uint32_t total_page_file, std::uint32_t available_page_file) {
   MemoryStatus status;
+  status.memory_load_percent =
+      total_physical == 0
+          ? 0
+          : 100 - static_cast<std::uint32_t>(std::uint64_t{available_physical} * 100 / total_physical);
   status.total_physical = total_physical;
   status.available_physical = available_physical;
   status.total_page_file = total_page_file;
   status.available_page_file = available_page_file;
+  status.total_virtual = kAddressSpaceBytes;
+  status.available_virtual = kAddressSpaceBytes - kProgramBytes;
   memory_.SetStatus(status);
 }
 
@@ -96,7 +106,7 @@ std::string SimulatedMachine::LongDate(double days) {
   constexpr std::array<const char*, 12> kMonths{"January",   "February", "March",    "April",
                                                 "May",       "June",     "July",     "August",
                                                 "September", "October",  "November", "December"};
-  log_.Record("LongDate");
+  if (log_.RecordAndFail("LongDate", std::to_string(days))) return {};
   const auto date = base::DateOfDays(days);
   if (!date) return {};
   return std::string(kWeekdays[static_cast<std::size_t>(date->weekday)]) + ", " +

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
 
 #include "os/simulated/call_log.h"
@@ -70,6 +71,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   // Message boxes.
   void AnswerNextBox(int answer) { dialogs_.AnswerNext(answer); }
   void WhileBoxIsOpen(std::function<void()> action) { dialogs_.WhileOpen(std::move(action)); }
+  /// The program ends: a box that is open closes unanswered, and no further one opens.
+  void EndBoxes() { dialogs_.End(); }
   [[nodiscard]] const std::vector<simulated::Box>& Boxes() const { return dialogs_.Boxes(); }
 
   // Notification area.

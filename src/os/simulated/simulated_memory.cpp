@@ -19,7 +19,7 @@ MemoryStatus SimulatedMemory::GlobalMemoryStatus() {
 
 void* SimulatedMemory::VirtualAlloc(std::uint32_t bytes) {
   const bool fails = log_.RecordAndFail("VirtualAlloc", std::to_string(bytes));
-  if (fails || taken_bytes_ + bytes > limit_bytes_) return nullptr;
+  if (fails || bytes == 0 || taken_bytes_ + bytes > limit_bytes_) return nullptr;
   taken_bytes_ += bytes;
   all_.push_back(bytes);
   const std::uintptr_t address = next_address_;

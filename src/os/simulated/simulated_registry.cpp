@@ -1,7 +1,6 @@
 #include "os/simulated/simulated_registry.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "base/text.h"
 
@@ -34,16 +33,22 @@ bool SimulatedRegistry::NoCase::operator()(const std::string& a, const std::stri
   return base::UpperAscii(a) < base::UpperAscii(b);
 }
 
-const SimulatedRegistry::OpenKey* SimulatedRegistry::FindOpen(KeyHandle key) const {
+std::optional<SimulatedRegistry::OpenKey> SimulatedRegistry::FindOpen(KeyHandle key) const {
   const auto found = open_.find(key);
-  return found == open_.end() ? nullptr : &found->second;
+  if (found != open_.end()) return found->second;
+  const std::string root = RootName(key);
+  if (root.empty()) return std::nullopt;
+  return OpenKey{root, kKeyAllAccess};
 }
 
 std::optional<std::string> SimulatedRegistry::FullPath(KeyHandle parent, const std::string& subkey) const {
-  if (const OpenKey* open = FindOpen(parent)) return Join(open->path, subkey);
-  const std::string root = RootName(parent);
-  if (root.empty()) return std::nullopt;
-  return Join(root, subkey);
+  const auto open = FindOpen(parent);
+  if (!open) return std::nullopt;
+  return Join(open->path, subkey);
+}
+
+bool SimulatedRegistry::RefusesWrites(const std::string& path, std::uint32_t access) const {
+  return (access & kKeySetValue) != 0 && write_protected_.contains(path);
 }
 
 KeyHandle SimulatedRegistry::Open(const std::string& path, std::uint32_t access) {
@@ -66,8 +71,7 @@ std::int32_t SimulatedRegistry::RegOpenKeyExA(KeyHandle parent, const char* subk
   if (log_.RecordAndFail("RegOpenKeyExA", path.value_or("invalid"))) return kErrorAccessDenied;
   if (!path) return kErrorInvalidHandle;
   if (!keys_.contains(*path) && path->find('\\') != std::string::npos) return kErrorFileNotFound;
-  const bool wants_to_write = (access & kKeySetValue) != 0;
-  if (wants_to_write && write_protected_.contains(*path)) return kErrorAccessDenied;
+  if (RefusesWrites(*path, access)) return kErrorAccessDenied;
   opened = Open(*path, access);
   return kErrorSuccess;
 }
@@ -77,7 +81,7 @@ std::int32_t SimulatedRegistry::RegCreateKeyExA(KeyHandle parent, const char* su
   const auto path = FullPath(parent, subkey);
   if (log_.RecordAndFail("RegCreateKeyExA", path.value_or("invalid"))) return kErrorAccessDenied;
   if (!path) return kErrorInvalidHandle;
-  if (write_protected_.contains(*path)) return kErrorAccessDenied;
+  if (RefusesWrites(*path, access)) return kErrorAccessDenied;
   Create(*path);
   opened = Open(*path, access);
   return kErrorSuccess;
@@ -85,10 +89,10 @@ std::int32_t SimulatedRegistry::RegCreateKeyExA(KeyHandle parent, const char* su
 
 std::int32_t SimulatedRegistry::RegQueryValueExA(KeyHandle key, const char* value_name, std::uint32_t& type,
                                                  std::uint8_t* data, std::uint32_t& size_bytes) {
-  const OpenKey* open = FindOpen(key);
+  const auto open = FindOpen(key);
   if (log_.RecordAndFail("RegQueryValueExA", value_name)) return kErrorFileNotFound;
   queried_.push_back({log_.Calls().size(), value_name});
-  if (open == nullptr) return kErrorInvalidHandle;
+  if (!open) return kErrorInvalidHandle;
   if ((open->access & kKeyQueryValue) == 0) return kErrorAccessDenied;
   const auto& values = keys_[open->path].values;
   const auto found = values.find(value_name);
@@ -99,15 +103,15 @@ std::int32_t SimulatedRegistry::RegQueryValueExA(KeyHandle key, const char* valu
   size_bytes = size;
   if (data == nullptr) return kErrorSuccess;
   if (room < size) return kErrorMoreData;
-  std::memcpy(data, found->second.bytes.data(), size);
+  std::copy(found->second.bytes.begin(), found->second.bytes.end(), data);
   return kErrorSuccess;
 }
 
 std::int32_t SimulatedRegistry::RegSetValueExA(KeyHandle key, const char* value_name, std::uint32_t type,
                                                const std::uint8_t* data, std::uint32_t size_bytes) {
-  const OpenKey* open = FindOpen(key);
+  const auto open = FindOpen(key);
   if (log_.RecordAndFail("RegSetValueExA", value_name)) return kErrorAccessDenied;
-  if (open == nullptr) return kErrorInvalidHandle;
+  if (!open) return kErrorInvalidHandle;
   if ((open->access & kKeySetValue) == 0) return kErrorAccessDenied;
   keys_[open->path].values[value_name] = {type, std::string(reinterpret_cast<const char*>(data), size_bytes)};
   written_.push_back({log_.Calls().size(), value_name});
@@ -115,9 +119,9 @@ std::int32_t SimulatedRegistry::RegSetValueExA(KeyHandle key, const char* value_
 }
 
 std::int32_t SimulatedRegistry::RegDeleteValueA(KeyHandle key, const char* value_name) {
-  const OpenKey* open = FindOpen(key);
+  const auto open = FindOpen(key);
   if (log_.RecordAndFail("RegDeleteValueA", value_name)) return kErrorAccessDenied;
-  if (open == nullptr) return kErrorInvalidHandle;
+  if (!open) return kErrorInvalidHandle;
   if ((open->access & kKeySetValue) == 0) return kErrorAccessDenied;
   return keys_[open->path].values.erase(value_name) == 1 ? kErrorSuccess : kErrorFileNotFound;
 }

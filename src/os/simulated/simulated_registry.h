@@ -67,7 +67,9 @@ class SimulatedRegistry final : public Registry {
   };
 
   [[nodiscard]] std::optional<std::string> FullPath(KeyHandle parent, const std::string& subkey) const;
-  [[nodiscard]] const OpenKey* FindOpen(KeyHandle key) const;
+  /// Nothing for a handle that is not open; the roots always are.
+  [[nodiscard]] std::optional<OpenKey> FindOpen(KeyHandle key) const;
+  [[nodiscard]] bool RefusesWrites(const std::string& path, std::uint32_t access) const;
   KeyHandle Open(const std::string& path, std::uint32_t access);
   void Create(const std::string& path);
 

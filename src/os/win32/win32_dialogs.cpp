@@ -30,7 +30,8 @@ int Win32Dialogs::MessageBoxA(const std::string& text, const std::string& title,
   // find it, and the program would wait for its answer without a word.
   const UINT foreground = OwnerIsInView() ? 0U : MB_SETFOREGROUND;
   const int answer = ::MessageBoxA(owner_, text.c_str(), title.c_str(), flags | foreground);
-  return stopped_ ? kIdNone : answer;
+  // A box that fails to open gives 0 or, where the failure comes from the dialog inside it, -1.
+  return stopped_ || answer < 0 ? kIdNone : answer;
 }
 
 /// Only boxes of this thread, the one that all windows of the program belong to.

@@ -2,16 +2,9 @@
 
 namespace qdix::os::win32 {
 
-namespace {
-
-/// A flood of messages must not keep an operation from going on.
-constexpr int kMostMessagesAPump = 64;
-
-}  // namespace
-
 void Win32EventPump::PumpEvents() {
   MSG message;
-  for (int count = 0; count < kMostMessagesAPump && !stopped_; ++count) {
+  for (int count = 0; count < kMessagesPerPump && !stopped_; ++count) {
     if (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) == 0) return;
     if (message.message == WM_QUIT) {
       // Meant for the loop that waits; it finds it again when the operation has unwound.
@@ -30,6 +23,7 @@ bool Win32EventPump::WaitAndHandle() {
 }
 
 void Win32EventPump::Handle(MSG& message) {
+  // Dispatched without a window, a timer message would call whatever address it carries.
   if (message.hwnd == nullptr) return;
   if (dialog_window_ != nullptr && IsDialogMessageA(dialog_window_, &message) != 0) return;
   TranslateMessage(&message);

@@ -10,6 +10,10 @@ namespace qdix::os::win32 {
 
 class Win32EventPump final : public EventPump {
  public:
+  /// Most messages that one pump handles. A flood (a dragged window, a program gone wild) must not keep an
+  /// operation from going on; what is left waits for the next pump.
+  static constexpr int kMessagesPerPump = 64;
+
   /// Messages of the window and of what stands in it go through the keyboard rules of dialogs first. Null for
   /// none.
   void SetDialogWindow(HWND window) { dialog_window_ = window; }

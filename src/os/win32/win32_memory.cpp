@@ -5,6 +5,7 @@
 namespace qdix::os::win32 {
 
 MemoryStatus Win32Memory::GlobalMemoryStatus() {
+  static_assert(sizeof(MEMORYSTATUS) == 32);
   MEMORYSTATUS record = {};
   record.dwLength = sizeof record;
   ::GlobalMemoryStatus(&record);
@@ -25,7 +26,7 @@ void* Win32Memory::VirtualAlloc(std::uint32_t bytes) {
 /// A committed page takes memory only when it is first written to.
 void Win32Memory::TouchPages(void* block, std::uint32_t bytes) {
   auto* const first = static_cast<volatile std::uint8_t*>(block);
-  const std::uint32_t pages = (bytes - 1) / kPageBytes + 1;
+  const std::uint32_t pages = bytes / kPageBytes + (bytes % kPageBytes != 0 ? 1U : 0U);
   for (std::uint32_t page = 0; page < pages; ++page) first[page * kPageBytes] = 0;
 }
 

@@ -25,7 +25,8 @@ class Win32System {
   [[nodiscard]] const System& GetSystem() const { return system_; }
   [[nodiscard]] Win32EventPump& EventPump() { return event_pump_; }
 
-  /// The window whose messages follow the keyboard rules of dialogs and that message boxes belong to; null for none.
+  /// The window whose messages follow the keyboard rules of dialogs and that message boxes belong to; null
+  /// for none.
   void SetMainWindow(HWND window);
 
   /// The program ends: pumps return at once, open boxes close unanswered.

@@ -6,7 +6,9 @@ namespace qdix::ui::win32 {
 
 namespace {
 
-DWORD StyleOf(const DrawingControl& model) { return model.Border() == BorderStyle::kFlatLine ? WS_BORDER : 0; }
+DWORD StyleOf(const DrawingControl& model) {
+  return model.Border() == BorderStyle::kFlatLine ? WS_BORDER : 0;
+}
 
 DWORD ExtendedStyleOf(const DrawingControl& model) {
   return model.Border() == BorderStyle::kThreeD ? WS_EX_CLIENTEDGE : 0;
@@ -77,8 +79,9 @@ void DrawingPeer::BorderChanged() {
   constexpr LONG kEdge = WS_EX_CLIENTEDGE;
   SetWindowLongA(Window(), GWL_STYLE,
                  (GetWindowLongA(Window(), GWL_STYLE) & ~kBorder) | static_cast<LONG>(StyleOf(drawing_)));
-  SetWindowLongA(Window(), GWL_EXSTYLE,
-                 (GetWindowLongA(Window(), GWL_EXSTYLE) & ~kEdge) | static_cast<LONG>(ExtendedStyleOf(drawing_)));
+  SetWindowLongA(
+      Window(), GWL_EXSTYLE,
+      (GetWindowLongA(Window(), GWL_EXSTYLE) & ~kEdge) | static_cast<LONG>(ExtendedStyleOf(drawing_)));
   const PixelBox box = OuterBox(Context(), drawing_);
   SetWindowPos(Window(), nullptr, 0, 0, box.width, box.height,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);

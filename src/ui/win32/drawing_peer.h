@@ -15,6 +15,7 @@ class DrawingPeer final : public NativeControl {
 
  private:
   LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  [[nodiscard]] bool TakesKeyboard() const override { return false; }
   void PixelsChanged() override;
   void BorderChanged() override;
   void CaptionChanged() override {}

@@ -6,7 +6,8 @@ namespace qdix::ui::win32 {
 
 void FocusKeeper::Arrived(NativeControl& peer) {
   waiting_ = nullptr;
-  // While a control left is being validated, a box may come and go and drag the native focus about; the outcome puts it right.
+  // While a control left is being validated, a box may come and go and drag the native focus about; the
+  // outcome puts it right.
   if (moving_ || form_.Focused() == &peer.Model()) return;
   moving_ = true;
   const bool taken = form_.MoveFocus(&peer.Model());
@@ -30,7 +31,8 @@ bool FocusKeeper::TakeRefusal(const NativeControl& peer) {
 
 void FocusKeeper::RefusalSettled() {
   if (refused_ == nullptr) return;
-  // A button draws itself pressed after it took the focus; without its capture nothing else would raise it again.
+  // A button draws itself pressed after it took the focus; without its capture nothing else would raise it
+  // again.
   SendMessageA(refused_->Window(), BM_SETSTATE, FALSE, 0);
   refused_ = nullptr;
 }
@@ -49,7 +51,9 @@ void FocusKeeper::Give(NativeControl& peer) const {
 
 void FocusKeeper::Leaving(NativeControl& peer) {
   waiting_ = &peer;
+  parking_ = true;
   SetFocus(main_);
+  parking_ = false;
 }
 
 void FocusKeeper::Returned(NativeControl& peer) {
@@ -59,7 +63,7 @@ void FocusKeeper::Returned(NativeControl& peer) {
 }
 
 void FocusKeeper::ArrivedAtMain() {
-  if (waiting_ != nullptr && !waiting_->Usable()) return;
+  if (parking_ || (waiting_ != nullptr && !waiting_->Usable())) return;
   waiting_ = nullptr;
   const Control* const focused = form_.Focused();
   NativeControl* const kept = focused == nullptr ? nullptr : peers_.ByModel(*focused);

@@ -17,8 +17,8 @@ class FormKeys {
   /// Ctrl+Tab, Ctrl+Page Down: next tab; with Shift, or Ctrl+Page Up: the one before.
   [[nodiscard]] static bool IsTabSwitch(WPARAM key);
   void SwitchTab(WPARAM key);
-  /// What a control adds to its answer to WM_GETDLGCODE, so that these keys come to it and are not taken for a plain Tab. `message` as the
-  /// dialog manager passes it: the address of the key message, or 0.
+  /// What a control adds to its answer to WM_GETDLGCODE, so that these keys come to it and are not taken for
+  /// a plain Tab. `message` as the dialog manager passes it: the address of the key message, or 0.
   [[nodiscard]] static LRESULT DialogCode(LPARAM message);
 
   /// The first button of this role that a hand can reach, or null.

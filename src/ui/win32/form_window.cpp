@@ -17,19 +17,20 @@ constexpr DWORD kMainExtendedStyle = WS_EX_APPWINDOW;
 
 HICON LoadMainIcon(HINSTANCE instance, int icon_id) {
   HICON const own = LoadIconA(instance, MAKEINTRESOURCEA(icon_id));
-  return own != nullptr ? own : LoadIconA(nullptr, MAKEINTRESOURCEA(32512));  // the system's plain program icon
+  return own != nullptr ? own
+                        : LoadIconA(nullptr, MAKEINTRESOURCEA(32512));  // the system's plain program icon
 }
 
 /// Shared, so that nothing of it has to be destroyed.
 HICON LoadSmallIcon(HINSTANCE instance, int icon_id, HICON large) {
-  HANDLE const own = LoadImageA(instance, MAKEINTRESOURCEA(icon_id), IMAGE_ICON, GetSystemMetrics(SM_CXSMICON),
-                                GetSystemMetrics(SM_CYSMICON), LR_SHARED);
+  HANDLE const own = LoadImageA(instance, MAKEINTRESOURCEA(icon_id), IMAGE_ICON,
+                                GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED);
   return own != nullptr ? static_cast<HICON>(own) : large;
 }
 
 OwnedWindow MakeApplicationWindow(HINSTANCE instance, const Application& application) {
-  return OwnedWindow(CreateWindowExA(0, kApplicationWindowClass, application.Title().c_str(), WS_POPUP, 0, 0, 0,
-                                     0, nullptr, nullptr, instance, nullptr));
+  return OwnedWindow(CreateWindowExA(0, kApplicationWindowClass, application.Title().c_str(), WS_POPUP, 0, 0,
+                                     0, 0, nullptr, nullptr, instance, nullptr));
 }
 
 OwnedWindow MakeMainWindow(HINSTANCE instance, HWND owner, const Form& form, const DialogFont& font) {
@@ -42,9 +43,9 @@ OwnedWindow MakeMainWindow(HINSTANCE instance, HWND owner, const Form& form, con
   SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
   const LONG left = work.left + (work.right - work.left - width) / 2;
   const LONG top = work.top + (work.bottom - work.top - height) / 2;
-  return OwnedWindow(CreateWindowExA(kMainExtendedStyle, kMainWindowClass, form.Caption().c_str(), kMainStyle, left,
-                                     top < work.top ? work.top : top, width, height, owner, nullptr, instance,
-                                     nullptr));
+  return OwnedWindow(CreateWindowExA(kMainExtendedStyle, kMainWindowClass, form.Caption().c_str(), kMainStyle,
+                                     left, top < work.top ? work.top : top, width, height, owner, nullptr,
+                                     instance, nullptr));
 }
 
 /// Buttons of the mouse and modifier keys in the bits of the classic event.
@@ -174,12 +175,13 @@ void FormWindow::PopUp(MenuItem& menu) {
   if (chosen != nullptr) chosen->Choose();
 }
 
-/// The windows themselves go later, with this object: a native control may be in the middle of its own work below us on the stack.
+/// The windows themselves go later, with this object: a native control may be in the middle of its own work
+/// below us on the stack.
 void FormWindow::FormUnloaded() {
   ShowWindow(main_.get(), SW_HIDE);
   if (OnUnloaded) OnUnloaded();
   SendMessageA(main_.get(), WM_CANCELMODE, 0, 0);  // closes an open menu; Windows 95 has no call for it
-  PostMessageA(main_.get(), WM_NULL, 0, 0);  // wakes a message loop that waits
+  PostMessageA(main_.get(), WM_NULL, 0, 0);        // wakes a message loop that waits
 }
 
 LRESULT FormWindow::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -206,7 +208,7 @@ std::optional<LRESULT> FormWindow::HandleKeyboard(UINT message, WPARAM wparam, L
     case DM_SETDEFID:
       return 1;  // buttons show by themselves which of them Enter presses
     case WM_NEXTDLGCTL:
-      MoveDialogFocus(wparam, lparam);
+      MoveDialogFocus(wparam, LOWORD(lparam) != 0);
       return 0;
     case WM_COMMAND:
       if (LOWORD(wparam) == IDCANCEL) PressCancelButton();
@@ -297,17 +299,11 @@ void FormWindow::PressCancelButton() {
   if (button != nullptr) button->Press();
 }
 
-/// The dialog manager's request to move the keyboard. A control that takes none, like the label that carries the key of its neighbour, passes
-/// it on to the next one that does.
-void FormWindow::MoveDialogFocus(WPARAM target, LPARAM target_is_window) const {
-  HWND next = nullptr;
-  if (LOWORD(target_is_window) == 0) {
-    next = GetNextDlgTabItem(main_.get(), GetFocus(), target != 0 ? TRUE : FALSE);
-  } else {
-    next = reinterpret_cast<HWND>(target);
-    const LRESULT code = SendMessageA(next, WM_GETDLGCODE, 0, 0);
-    if ((code & DLGC_STATIC) != 0) next = GetNextDlgTabItem(main_.get(), next, FALSE);
-  }
+/// The dialog manager's request to move the keyboard: to a window, or to the next (or, with a target other
+/// than 0, the previous) control.
+void FormWindow::MoveDialogFocus(WPARAM target, bool target_is_window) const {
+  HWND const next = target_is_window ? reinterpret_cast<HWND>(target)
+                                     : GetNextDlgTabItem(main_.get(), GetFocus(), target != 0 ? TRUE : FALSE);
   if (next != nullptr) SetFocus(next);
 }
 

@@ -1,5 +1,6 @@
-// The windows of the program: the hidden application window, the main window that it owns, and all controls on it. Everything exists, hidden,
-// from the construction on, so that the program's load sets windows that are there.
+// The windows of the program: the hidden application window, the main window that it owns, and all controls
+// on it. Everything exists, hidden, from the construction on, so that the program's load sets windows that
+// are there.
 #pragma once
 
 #include <optional>
@@ -22,8 +23,9 @@ namespace qdix::ui::win32 {
 
 class FormWindow final : private FormPeer, private ControlPeer, private MessageHandler {
  public:
-  /// The icon of the main window is that of the resource `icon_id`, or the system's where there is none. Application, form and timers must
-  /// outlive this object. The place of the form gives its inner size; the window stands in the middle of the screen.
+  /// The icon of the main window is that of the resource `icon_id`, or the system's where there is none.
+  /// Application, form and timers must outlive this object. The place of the form gives its inner size; the
+  /// window stands in the middle of the screen.
   FormWindow(HINSTANCE instance, int icon_id, Application& application, Form& form,
              std::span<Timer* const> timers);
   FormWindow(const FormWindow&) = delete;
@@ -35,7 +37,8 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
 
   [[nodiscard]] HWND MainWindow() const { return main_.get(); }
   [[nodiscard]] HWND ApplicationWindow() const { return application_window_.get(); }
-  /// The icon in the size of captions and of the notification area; the system keeps it until the program ends.
+  /// The icon in the size of captions and of the notification area; the system keeps it until the program
+  /// ends.
   [[nodiscard]] HICON SmallIcon() const { return small_icon_; }
 
   /// The form has unloaded: open boxes and the message loop must end. No handler runs any more.
@@ -64,7 +67,7 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   void KeepApplicationWindowBehind() const;
   [[nodiscard]] LRESULT DefaultButtonNumber() const;
   void PressCancelButton();
-  void MoveDialogFocus(WPARAM target, LPARAM target_is_window) const;
+  void MoveDialogFocus(WPARAM target, bool target_is_window) const;
   std::optional<LRESULT> HandleKeyboard(UINT message, WPARAM wparam, LPARAM lparam);
   std::optional<LRESULT> HandleLife(UINT message, WPARAM wparam, LPARAM lparam);
 
@@ -81,8 +84,8 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   UINT taskbar_created_message_;
   bool menu_is_open_ = false;
 
-  // In the order in which they are made; they go in the opposite order, controls before the window they stand on, windows before their
-  // class and font.
+  // In the order in which they are made; they go in the opposite order, controls before the window they stand
+  // on, windows before their class and font.
   WindowClass application_class_;
   WindowClass main_class_;
   WindowClass page_class_;

@@ -81,7 +81,7 @@ DropDownPeer::DropDownPeer(const PeerContext& context, ListControl& model, HWND 
                      .style = style | WS_TABSTOP | WS_VSCROLL,
                      .box = context.font.Pixels(model.GetPlace())}),
       list_(model) {
-  ItemsChanged();
+  CopyRows(Window(), kComboBox, list_);
   CopySelection(Window(), kComboBox, list_);
 }
 
@@ -116,7 +116,8 @@ void DropDownPeer::ItemsChanged() { CopyRows(Window(), kComboBox, list_); }
 DropDownListPeer::DropDownListPeer(const PeerContext& context, DropDownList& model, HWND parent, int number)
     : DropDownPeer(context, model, parent, number, CBS_DROPDOWNLIST) {}
 
-DropDownComboPeer::DropDownComboPeer(const PeerContext& context, DropDownCombo& model, HWND parent, int number)
+DropDownComboPeer::DropDownComboPeer(const PeerContext& context, DropDownCombo& model, HWND parent,
+                                     int number)
     : DropDownPeer(context, model, parent, number, CBS_DROPDOWN | CBS_AUTOHSCROLL), combo_(model) {
   ValueChanged();
 }
@@ -129,7 +130,8 @@ void DropDownComboPeer::OnCommand(UINT code) {
   DropDownPeer::OnCommand(code);
 }
 
-/// Text first set is text not touched while the user types; the selection of the list below must not write over it.
+/// Text first set is text not touched while the user types; the selection of the list below must not write
+/// over it.
 void DropDownComboPeer::ValueChanged() {
   if (combo_.SelectedText() == combo_.Text()) DropDownPeer::ValueChanged();
   if (TextOfWindow(Window()) != combo_.Text()) SetWindowTextA(Window(), combo_.Text().c_str());

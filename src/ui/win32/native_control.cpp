@@ -51,7 +51,7 @@ LRESULT NativeControl::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam)
   switch (message) {
     case WM_SETFOCUS: {
       const LRESULT result = Default(message, wparam, lparam);
-      context_.focus.Arrived(*this);
+      if (TakesKeyboard()) context_.focus.Arrived(*this);
       return result;
     }
     case WM_GETDLGCODE:
@@ -95,7 +95,9 @@ void NativeControl::RefreshEnabled() {
   if (enable) context_.focus.Returned(*this);
 }
 
-std::string NativeControl::NativeCaption() const { return MarkAccessKey(model_.Caption(), model_.AccessKey()); }
+std::string NativeControl::NativeCaption() const {
+  return MarkAccessKey(model_.Caption(), model_.AccessKey());
+}
 
 void NativeControl::CaptionChanged() { SetWindowTextA(window_, NativeCaption().c_str()); }
 

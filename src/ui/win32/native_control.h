@@ -1,4 +1,5 @@
-// The base of all peers: one native window that mirrors one control model. A peer copies between the two; no rule lives in it.
+// The base of all peers: one native window that mirrors one control model. A peer copies between the two; no
+// rule lives in it.
 #pragma once
 
 #include <string>
@@ -62,14 +63,19 @@ class NativeControl : public ControlPeer, private MessageHandler {
   void ControlChanged(Control& control, Change change) override;
 
  protected:
-  /// Makes the window on `parent` with the caption of the design, in the dialog font, shown and enabled as the model says.
-  NativeControl(const PeerContext& context, Control& model, HWND parent, int number, const NativeDesign& design);
+  /// Makes the window on `parent` with the caption of the design, in the dialog font, shown and enabled as
+  /// the model says.
+  NativeControl(const PeerContext& context, Control& model, HWND parent, int number,
+                const NativeDesign& design);
 
   [[nodiscard]] const PeerContext& Context() const { return context_; }
   LRESULT Send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const;
   LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   LRESULT Default(UINT message, WPARAM wparam, LPARAM lparam);
 
+  /// False for what the keyboard only passes by, as when the dialog manager goes from a label to its
+  /// neighbour.
+  [[nodiscard]] virtual bool TakesKeyboard() const { return true; }
   [[nodiscard]] virtual bool ShouldShow() const;
   /// The text that the window carries for the model's caption.
   [[nodiscard]] virtual std::string NativeCaption() const;

@@ -7,8 +7,8 @@
 
 namespace qdix::ui::win32 {
 
-/// `parent` is the window that the control stands on: that of its tab page, or the main window. Null for a form, whose window is made by
-/// FormWindow.
+/// `parent` is the window that the control stands on: that of its tab page, or the main window. Null for a
+/// form, whose window is made by FormWindow.
 [[nodiscard]] std::unique_ptr<NativeControl> MakePeer(const PeerContext& context, Control& model, HWND parent,
                                                       int number);
 

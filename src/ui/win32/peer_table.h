@@ -15,7 +15,8 @@ class PeerTable {
   /// In the order of the controls' numbers, the first one first.
   void Add(std::unique_ptr<NativeControl> peer);
 
-  /// Each is null where there is no such peer; windows of other programs, and inner windows of controls, have none.
+  /// Each is null where there is no such peer; windows of other programs, and inner windows of controls, have
+  /// none.
   [[nodiscard]] NativeControl* ByNumber(int number) const;
   [[nodiscard]] NativeControl* ByWindow(HWND window) const;
   [[nodiscard]] NativeControl* ByModel(const Control& model) const;

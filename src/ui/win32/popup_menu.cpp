@@ -25,8 +25,9 @@ void PopUpMenu::Append(HMENU menu, MenuItem& entry) {
     OwnedMenu submenu = MakeLevel(entry);
     if (GetMenuItemCount(submenu.get()) <= 0) return;
     // A submenu in its place belongs to the menu above it.
-    if (AppendMenuA(menu, MF_POPUP | state, reinterpret_cast<UINT_PTR>(submenu.get()), caption.c_str()) != 0) {
-      submenu.release();
+    if (AppendMenuA(menu, MF_POPUP | state, reinterpret_cast<UINT_PTR>(submenu.get()), caption.c_str()) !=
+        0) {
+      static_cast<void>(submenu.release());
     }
     return;
   }
@@ -38,7 +39,8 @@ void PopUpMenu::Append(HMENU menu, MenuItem& entry) {
 MenuItem* PopUpMenu::Track(HWND main) const {
   POINT pointer{};
   GetCursorPos(&pointer);
-  // A menu of a window in the background would not close when the user clicks elsewhere; the message afterwards lets the next one open.
+  // A menu of a window in the background would not close when the user clicks elsewhere; the message
+  // afterwards lets the next one open.
   SetForegroundWindow(main);
   const auto command = static_cast<std::size_t>(
       TrackPopupMenu(menu_.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, pointer.x, pointer.y, 0, main, nullptr));

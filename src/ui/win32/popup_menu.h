@@ -13,7 +13,8 @@ class PopUpMenu {
   /// Hidden entries are left out; an empty submenu is left out with them.
   explicit PopUpMenu(const MenuItem& root);
 
-  /// Shows the menu at the pointer and returns the entry that the user chose, or null. `main` gets the keyboard meanwhile.
+  /// Shows the menu at the pointer and returns the entry that the user chose, or null. `main` gets the
+  /// keyboard meanwhile.
   [[nodiscard]] MenuItem* Track(HWND main) const;
 
   [[nodiscard]] HMENU Handle() const { return menu_.get(); }

@@ -64,7 +64,8 @@ void ScrollBarPeer::DragToThumb() {
   info.cbSize = sizeof(info);
   info.fMask = SIF_TRACKPOS;
   if (GetScrollInfo(Window(), SB_CTL, &info) == 0) return;
-  const std::int64_t toward_bottom = bar_.Minimum() <= bar_.Maximum() ? info.nTrackPos : -std::int64_t{info.nTrackPos};
+  const std::int64_t toward_bottom =
+      bar_.Minimum() <= bar_.Maximum() ? info.nTrackPos : -std::int64_t{info.nTrackPos};
   bar_.Drag(static_cast<std::int32_t>(bar_.Minimum() + toward_bottom));
 }
 

@@ -11,7 +11,8 @@ NativeControl* SenderOf(const PeerTable& peers, LPARAM lparam) {
 }
 
 std::optional<LRESULT> ReflectCommand(const PeerTable& peers, WPARAM wparam, LPARAM lparam) {
-  // The default button of an Enter key is named by its number alone, since it does not stand on the main window itself.
+  // The default button of an Enter key is named by its number alone, since it does not stand on the main
+  // window itself.
   NativeControl* const peer = lparam == 0 ? peers.ByNumber(LOWORD(wparam)) : SenderOf(peers, lparam);
   if (peer == nullptr) return std::nullopt;
   peer->OnCommand(HIWORD(wparam));

@@ -77,10 +77,10 @@ PicturePeer::PicturePeer(const PeerContext& context, Picture& model, HWND parent
 }
 
 ButtonPeer::ButtonPeer(const PeerContext& context, Button& model, HWND parent, int number)
-    : NativeControl(
-          context, model, parent, number,
-          ButtonDesign(context, model,
-                       WS_TABSTOP | (model.Role() == ButtonRole::kDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON))),
+    : NativeControl(context, model, parent, number,
+                    ButtonDesign(context, model,
+                                 WS_TABSTOP | (model.Role() == ButtonRole::kDefault ? BS_DEFPUSHBUTTON
+                                                                                    : BS_PUSHBUTTON))),
       button_(model) {}
 
 void ButtonPeer::OnCommand(UINT code) {
@@ -107,7 +107,8 @@ LRESULT ButtonPeer::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
 
 void ButtonPeer::ShowOtherDefault(bool is_default) {
   Button* const other = Context().keys.ReachableButton(ButtonRole::kDefault);
-  NativeControl* const peer = other == nullptr || other == &button_ ? nullptr : Context().peers.ByModel(*other);
+  NativeControl* const peer =
+      other == nullptr || other == &button_ ? nullptr : Context().peers.ByModel(*other);
   if (peer != nullptr) static_cast<ButtonPeer*>(peer)->ShowAsDefault(is_default);
 }
 
@@ -124,9 +125,9 @@ void CheckBoxPeer::OnCommand(UINT code) {
 void CheckBoxPeer::ValueChanged() { Send(BM_SETCHECK, static_cast<WPARAM>(box_.Value())); }
 
 OptionButtonPeer::OptionButtonPeer(const PeerContext& context, OptionButton& model, HWND parent, int number)
-    : NativeControl(context, model, parent, number,
-                    ButtonDesign(context, model,
-                                 BS_RADIOBUTTON | (GroupOf(model).front() == &model ? WS_GROUP : 0UL))),
+    : NativeControl(
+          context, model, parent, number,
+          ButtonDesign(context, model, BS_RADIOBUTTON | (GroupOf(model).front() == &model ? WS_GROUP : 0UL))),
       option_(model) {
   ValueChanged();
   RefreshTabStop();

@@ -11,6 +11,7 @@ class LabelPeer final : public NativeControl {
   LabelPeer(const PeerContext& context, Label& model, HWND parent, int number);
 
  private:
+  [[nodiscard]] bool TakesKeyboard() const override { return false; }
   [[nodiscard]] std::string NativeCaption() const override;
 };
 
@@ -18,11 +19,17 @@ class FramePeer final : public NativeControl {
  public:
   FramePeer(const PeerContext& context, Frame& model, HWND parent, int number);
   void ControlChanged(Control& control, Change change) override;
+
+ private:
+  [[nodiscard]] bool TakesKeyboard() const override { return false; }
 };
 
 class PicturePeer final : public NativeControl {
  public:
   PicturePeer(const PeerContext& context, Picture& model, HWND parent, int number);
+
+ private:
+  [[nodiscard]] bool TakesKeyboard() const override { return false; }
 };
 
 class ButtonPeer final : public NativeControl {

@@ -1,4 +1,5 @@
-// Windows of a tab strip and of its pages. A page is a window of its own over the strip's display area; only the open one is shown.
+// Windows of a tab strip and of its pages. A page is a window of its own over the strip's display area; only
+// the open one is shown.
 #pragma once
 
 #include "ui/tab_strip.h"
@@ -27,6 +28,7 @@ class TabPagePeer final : public NativeControl {
 
  private:
   LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  [[nodiscard]] bool TakesKeyboard() const override { return false; }
   [[nodiscard]] bool ShouldShow() const override;
   void CaptionChanged() override {}
 

@@ -1,4 +1,5 @@
-// The window of a text box. The native edit control does the editing; the model hears of each character before and of the text after.
+// The window of a text box. The native edit control does the editing; the model hears of each character
+// before and of the text after.
 #pragma once
 
 #include "ui/text_box.h"

@@ -1,4 +1,5 @@
-// The timers of a form as timers of its main window. A timer's number is its place in the form's list, from 1.
+// The timers of a form as timers of its main window. A timer's number is its place in the form's list,
+// from 1.
 #pragma once
 
 #include <windows.h>
@@ -11,8 +12,8 @@ namespace qdix::ui::win32 {
 
 class WindowTimers final : private TimerPeer {
  public:
-  /// The timers must outlive this object, and `main` must still exist when it goes. Where the system has no timer left, a timer does not
-  /// tick until it is started again.
+  /// The timers must outlive this object, and `main` must still exist when it goes. Where the system has no
+  /// timer left, a timer does not tick until it is started again.
   WindowTimers(HWND main, std::span<Timer* const> timers);
   WindowTimers(const WindowTimers&) = delete;
   WindowTimers& operator=(const WindowTimers&) = delete;
