@@ -1,0 +1,59 @@
+// The machine that the contract tests run against: the simulated one or the real one. What a test needs
+// beside the interfaces themselves, a user's hands above all, is here; each side brings its own.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "os/system.h"
+
+namespace qdix::contract {
+
+struct ShownBox {
+  std::string text;
+  std::string title;
+};
+
+class Machine {
+ public:
+  virtual ~Machine() = default;
+
+  [[nodiscard]] virtual const os::System& GetSystem() = 0;
+
+  /// Opens a top-level window in front of all others of the tests; it closes with the machine at the latest.
+  virtual os::WindowHandle OpenWindow(const std::string& window_class, const std::string& title) = 0;
+  virtual void CloseWindow(os::WindowHandle window) = 0;
+  virtual void PlaceDirectlyBehind(os::WindowHandle window, os::WindowHandle front) = 0;
+  virtual void Minimise(os::WindowHandle window) = 0;
+  [[nodiscard]] virtual bool IsMinimised(os::WindowHandle window) = 0;
+
+  /// Something that happens inside the next pump.
+  virtual void DoInNextPump(std::function<void()> action) = 0;
+
+  /// The button that a hand presses in the next box.
+  virtual void AnswerNextBox(int button) = 0;
+  /// The program ends while the next box is open.
+  virtual void StopInNextBox() = 0;
+  [[nodiscard]] virtual std::vector<ShownBox> Boxes() = 0;
+
+  /// Lets at least this much time pass.
+  virtual void LetTimePass(int ms) = 0;
+
+  /// Deletes a key and everything below it.
+  virtual void DeleteRegistryTree(os::KeyHandle root, const std::string& path) = 0;
+};
+
+[[nodiscard]] std::unique_ptr<Machine> MakeMachine();
+
+/// A test on a machine of its own.
+class ContractTest : public testing::Test {
+ protected:
+  std::unique_ptr<Machine> machine = MakeMachine();
+  const os::System& system = machine->GetSystem();
+};
+
+}  // namespace qdix::contract

@@ -1,0 +1,28 @@
+// This process among others: the mutex of the single copy, the program's own file.
+#include "base/text.h"
+#include "tests/contract/machine.h"
+
+namespace qdix::contract {
+namespace {
+
+using ProcessesContract = ContractTest;
+
+TEST_F(ProcessesContract, MutexExistsFromTheFirstCallOn) {
+  EXPECT_FALSE(system.processes.MutexExistedBefore("QDIX.ContractTests.Once"));
+  EXPECT_TRUE(system.processes.MutexExistedBefore("QDIX.ContractTests.Once"));
+}
+
+TEST_F(ProcessesContract, MutexesOfDifferentNamesAreDifferentOnes) {
+  EXPECT_FALSE(system.processes.MutexExistedBefore("QDIX.ContractTests.A"));
+  EXPECT_FALSE(system.processes.MutexExistedBefore("QDIX.ContractTests.B"));
+}
+
+TEST_F(ProcessesContract, ModuleFileNameIsAFullPathOfAProgram) {
+  const std::string path = system.processes.ModuleFileName();
+  ASSERT_GT(path.size(), 7U);
+  EXPECT_EQ(path.substr(1, 2), ":\\");
+  EXPECT_TRUE(base::EqualsIgnoringCase(path.substr(path.size() - 4), ".exe")) << path;
+}
+
+}  // namespace
+}  // namespace qdix::contract

@@ -1,0 +1,61 @@
+#include "os/simulated/simulated_machine.h"
+#include "tests/contract/machine.h"
+
+namespace qdix::contract {
+
+namespace {
+
+constexpr double kNoon21November2026 = 46347.5;
+constexpr std::uint32_t kMegabyte = 1024 * 1024;
+
+class SimulatedContractMachine final : public Machine {
+ public:
+  SimulatedContractMachine() {
+    machine_.SetMemory(64 * kMegabyte, 20 * kMegabyte, 100 * kMegabyte, 70 * kMegabyte);
+    machine_.SetNow(kNoon21November2026);
+  }
+
+  const os::System& GetSystem() override { return machine_.GetSystem(); }
+
+  os::WindowHandle OpenWindow(const std::string& window_class, const std::string& title) override {
+    return machine_.OpenWindow(window_class, title);
+  }
+  void CloseWindow(os::WindowHandle window) override { machine_.CloseWindow(window); }
+  void PlaceDirectlyBehind(os::WindowHandle window, os::WindowHandle front) override {
+    machine_.PlaceDirectlyBehind(window, front);
+  }
+  void Minimise(os::WindowHandle window) override { machine_.Minimise(window); }
+  bool IsMinimised(os::WindowHandle window) override { return machine_.IsMinimised(window); }
+
+  void DoInNextPump(std::function<void()> action) override {
+    machine_.OnPump([this, action = std::move(action)](int) {
+      const std::function<void()> once = action;
+      machine_.OnPump({});
+      once();
+    });
+  }
+
+  void AnswerNextBox(int button) override { machine_.AnswerNextBox(button); }
+  void StopInNextBox() override {
+    machine_.WhileBoxIsOpen([this] { machine_.EndBoxes(); });
+  }
+  std::vector<ShownBox> Boxes() override {
+    std::vector<ShownBox> boxes;
+    for (const auto& box : machine_.Boxes()) boxes.push_back({box.text, box.title});
+    return boxes;
+  }
+
+  void LetTimePass(int ms) override { machine_.AdvanceMs(ms); }
+
+  /// The registry goes with the machine.
+  void DeleteRegistryTree(os::KeyHandle /*root*/, const std::string& /*path*/) override {}
+
+ private:
+  os::SimulatedMachine machine_;
+};
+
+}  // namespace
+
+std::unique_ptr<Machine> MakeMachine() { return std::make_unique<SimulatedContractMachine>(); }
+
+}  // namespace qdix::contract

@@ -1,0 +1,81 @@
+// Message boxes of the real system and the window that owns them.
+#include "tests/contract/win32/win32_contract_machine.h"
+
+namespace qdix::contract {
+namespace {
+
+class DialogsWin32 : public testing::Test {
+ protected:
+  HWND OpenMainWindow() {
+    HWND window = reinterpret_cast<HWND>(machine.OpenWindow("QdixContractMain", "Main"));
+    machine.GetWin32System().SetMainWindow(window);
+    return window;
+  }
+  int ShowBox() { return machine.GetSystem().dialogs.MessageBoxA("Text", "Title", os::kMbOk); }
+
+  Win32ContractMachine machine;
+};
+
+TEST_F(DialogsWin32, BoxBelongsToTheMainWindowAndDisablesItMeanwhile) {
+  HWND main = OpenMainWindow();
+  HWND owner = nullptr;
+  bool was_enabled = true;
+  machine.DoToNextBox([&](HWND box) {
+    owner = GetWindow(box, GW_OWNER);
+    was_enabled = IsWindowEnabled(main) != FALSE;
+    PostMessageA(box, WM_COMMAND, IDOK, 0);
+  });
+  EXPECT_EQ(ShowBox(), os::kIdOk);
+  EXPECT_EQ(owner, main);
+  EXPECT_FALSE(was_enabled);
+  EXPECT_TRUE(IsWindowEnabled(main));
+}
+
+TEST_F(DialogsWin32, HandlersRunWhileABoxIsOpen) {
+  OpenMainWindow();
+  int runs = 0;
+  machine.DoToNextBox([&](HWND box) {
+    machine.DoInNextPump([&runs, box] {
+      ++runs;
+      PostMessageA(box, WM_COMMAND, IDOK, 0);
+    });
+  });
+  EXPECT_EQ(ShowBox(), os::kIdOk);
+  EXPECT_EQ(runs, 1);
+}
+
+TEST_F(DialogsWin32, BoxOfAHiddenWindowComesToTheForeground) {
+  ShowWindow(OpenMainWindow(), SW_HIDE);
+  HWND foreground = nullptr;
+  HWND shown = nullptr;
+  machine.DoToNextBox([&](HWND box) {
+    shown = box;
+    foreground = GetForegroundWindow();
+    PostMessageA(box, WM_COMMAND, IDOK, 0);
+  });
+  EXPECT_EQ(ShowBox(), os::kIdOk);
+  EXPECT_NE(shown, nullptr);
+  EXPECT_EQ(foreground, shown);
+}
+
+TEST_F(DialogsWin32, BoxOverABoxEndsWithIt) {
+  OpenMainWindow();
+  int inner = -1;
+  machine.DoToNextBox([&](HWND) {
+    machine.StopInNextBox();
+    inner = ShowBox();
+  });
+  EXPECT_EQ(ShowBox(), os::kIdNone);
+  EXPECT_EQ(inner, os::kIdNone);
+  EXPECT_EQ(machine.Boxes().size(), 2U);
+}
+
+TEST_F(DialogsWin32, BoxThatCannotBeShownIsUnanswered) {
+  const os::WindowHandle closed = machine.OpenWindow("QdixContractMain", "Main");
+  machine.GetWin32System().SetMainWindow(reinterpret_cast<HWND>(closed));
+  machine.CloseWindow(closed);
+  EXPECT_EQ(ShowBox(), os::kIdNone);
+}
+
+}  // namespace
+}  // namespace qdix::contract

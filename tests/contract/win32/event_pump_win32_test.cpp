@@ -1,0 +1,105 @@
+// The real message queue: bounds, the end of the program, messages without a window, keyboard walking.
+#include "tests/contract/win32/win32_contract_machine.h"
+
+namespace qdix::contract {
+namespace {
+
+class EventPumpWin32 : public testing::Test {
+ protected:
+  void PostActions(int count, const std::function<void()>& action) {
+    for (int i = 0; i < count; ++i) machine.DoInNextPump(action);
+  }
+
+  Win32ContractMachine machine;
+  os::win32::Win32EventPump& pump = machine.GetWin32System().EventPump();
+};
+
+TEST_F(EventPumpWin32, OnePumpHandlesABoundedNumber) {
+  int runs = 0;
+  PostActions(100, [&] { ++runs; });
+  pump.PumpEvents();
+  EXPECT_EQ(runs, os::win32::Win32EventPump::kMessagesPerPump);
+  pump.PumpEvents();
+  EXPECT_EQ(runs, 100);
+}
+
+TEST_F(EventPumpWin32, FloodThatFeedsItselfDoesNotHoldThePump) {
+  int runs = 0;
+  std::function<void()> feed = [&] {
+    if (++runs < 1000) machine.DoInNextPump(feed);
+  };
+  machine.DoInNextPump(feed);
+  pump.PumpEvents();
+  EXPECT_EQ(runs, os::win32::Win32EventPump::kMessagesPerPump);
+  while (runs < 1000) pump.PumpEvents();
+}
+
+TEST_F(EventPumpWin32, StopEndsAPumpThatIsRunning) {
+  int runs = 0;
+  machine.DoInNextPump([&] { machine.GetWin32System().Stop(); });
+  PostActions(3, [&] { ++runs; });
+  pump.PumpEvents();
+  pump.PumpEvents();
+  EXPECT_EQ(runs, 0);
+  EXPECT_FALSE(pump.WaitAndHandle());
+  EXPECT_EQ(runs, 0);
+  // The rest stays in the queue of the ended program; here it is taken so that nothing is lost.
+  MSG message;
+  while (PeekMessageA(&message, machine.HiddenWindow(), 0, 0, PM_REMOVE)) DispatchMessageA(&message);
+  EXPECT_EQ(runs, 3);
+}
+
+TEST_F(EventPumpWin32, MessagesOfTheThreadAreDropped) {
+  ASSERT_TRUE(PostThreadMessageA(GetCurrentThreadId(), WM_USER + 1, 1, 2));
+  // Dispatched, this would call the address 1.
+  ASSERT_TRUE(PostThreadMessageA(GetCurrentThreadId(), WM_TIMER, 0, 1));
+  int runs = 0;
+  machine.DoInNextPump([&] { ++runs; });
+  pump.PumpEvents();
+  EXPECT_EQ(runs, 1);
+  MSG message;
+  EXPECT_FALSE(PeekMessageA(&message, reinterpret_cast<HWND>(-1), 0, 0, PM_NOREMOVE));
+}
+
+TEST_F(EventPumpWin32, RequestToQuitWaitsForTheMainLoop) {
+  PostQuitMessage(5);
+  pump.PumpEvents();
+  pump.PumpEvents();
+  EXPECT_FALSE(pump.WaitAndHandle());
+}
+
+TEST_F(EventPumpWin32, MainLoopHandlesOneMessageAtATime) {
+  int runs = 0;
+  PostActions(2, [&] { ++runs; });
+  EXPECT_TRUE(pump.WaitAndHandle());
+  EXPECT_EQ(runs, 1);
+  EXPECT_TRUE(pump.WaitAndHandle());
+  EXPECT_EQ(runs, 2);
+}
+
+TEST_F(EventPumpWin32, MainLoopEndsWithTheMessageThatStopsIt) {
+  machine.DoInNextPump([&] { machine.GetWin32System().Stop(); });
+  EXPECT_FALSE(pump.WaitAndHandle());
+}
+
+TEST_F(EventPumpWin32, TabWalksTheControlsOfTheDialogWindow) {
+  HWND window = reinterpret_cast<HWND>(machine.OpenWindow("QdixContractForm", "Form"));
+  HWND first = CreateWindowA("BUTTON", "First", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 50, 20, window,
+                             nullptr, GetModuleHandleA(nullptr), nullptr);
+  HWND second = CreateWindowA("BUTTON", "Second", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 30, 50, 20, window,
+                              nullptr, GetModuleHandleA(nullptr), nullptr);
+  SetFocus(first);
+  ASSERT_EQ(GetFocus(), first);
+
+  PostMessageA(first, WM_KEYDOWN, VK_TAB, 0);
+  pump.PumpEvents();
+  EXPECT_EQ(GetFocus(), first) << "without a dialog window Tab is an ordinary key";
+
+  machine.GetWin32System().SetMainWindow(window);
+  PostMessageA(first, WM_KEYDOWN, VK_TAB, 0);
+  pump.PumpEvents();
+  EXPECT_EQ(GetFocus(), second);
+}
+
+}  // namespace
+}  // namespace qdix::contract

@@ -1,0 +1,91 @@
+// Windows of other programs: found, walked, restored, brought forward.
+#include "tests/contract/machine.h"
+
+namespace qdix::contract {
+namespace {
+
+constexpr const char* kClass = "QdixContractWindow";
+constexpr const char* kOtherClass = "QdixContractOther";
+
+using WindowsContract = ContractTest;
+
+TEST_F(WindowsContract, MissingWindowIsNotFound) {
+  EXPECT_EQ(system.windows.FindWindowA("QdixNoSuchClass", nullptr), 0U);
+  EXPECT_EQ(system.windows.FindWindowA(nullptr, "No window has this title"), 0U);
+}
+
+TEST_F(WindowsContract, FoundByClassByTitleAndByBoth) {
+  const os::WindowHandle window = machine->OpenWindow(kClass, "A Title");
+  EXPECT_EQ(system.windows.FindWindowA(kClass, nullptr), window);
+  EXPECT_EQ(system.windows.FindWindowA(nullptr, "A Title"), window);
+  EXPECT_EQ(system.windows.FindWindowA(kClass, "A Title"), window);
+}
+
+TEST_F(WindowsContract, ClassAndTitleIgnoreCase) {
+  const os::WindowHandle window = machine->OpenWindow(kClass, "A Title");
+  EXPECT_EQ(system.windows.FindWindowA("QDIXCONTRACTWINDOW", "a tITLE"), window);
+}
+
+TEST_F(WindowsContract, TitleHasToMatchWhole) {
+  machine->OpenWindow(kClass, "A Title");
+  EXPECT_EQ(system.windows.FindWindowA(kClass, "A Titl"), 0U);
+  EXPECT_EQ(system.windows.FindWindowA(kClass, "A Title "), 0U);
+  EXPECT_EQ(system.windows.FindWindowA(kClass, ""), 0U);
+}
+
+TEST_F(WindowsContract, BothHaveToMatch) {
+  machine->OpenWindow(kClass, "One");
+  const os::WindowHandle other = machine->OpenWindow(kOtherClass, "Two");
+  EXPECT_EQ(system.windows.FindWindowA(kClass, "Two"), 0U);
+  EXPECT_EQ(system.windows.FindWindowA(kOtherClass, "Two"), other);
+}
+
+TEST_F(WindowsContract, TheFrontmostOfSeveralIsFound) {
+  machine->OpenWindow(kClass, "Behind");
+  const os::WindowHandle front = machine->OpenWindow(kClass, "Front");
+  EXPECT_EQ(system.windows.FindWindowA(kClass, nullptr), front);
+}
+
+TEST_F(WindowsContract, ClosedWindowIsNotFound) {
+  const os::WindowHandle window = machine->OpenWindow(kClass, "A Title");
+  machine->CloseWindow(window);
+  EXPECT_EQ(system.windows.FindWindowA(kClass, nullptr), 0U);
+}
+
+TEST_F(WindowsContract, TheWindowBeforeIsTheOneNearerToTheUser) {
+  const os::WindowHandle behind = machine->OpenWindow(kClass, "Behind");
+  const os::WindowHandle front = machine->OpenWindow(kClass, "Front");
+  machine->PlaceDirectlyBehind(behind, front);
+  EXPECT_EQ(system.windows.GetWindow(behind, os::kGwHwndPrev), front);
+}
+
+TEST_F(WindowsContract, NothingStandsBeforeAClosedWindow) {
+  const os::WindowHandle closed = machine->OpenWindow(kClass, "Closed");
+  machine->OpenWindow(kClass, "Front");
+  machine->CloseWindow(closed);
+  EXPECT_EQ(system.windows.GetWindow(closed, os::kGwHwndPrev), 0U);
+}
+
+TEST_F(WindowsContract, MinimisedWindowIsRestored) {
+  const os::WindowHandle window = machine->OpenWindow(kClass, "A Title");
+  machine->Minimise(window);
+  ASSERT_TRUE(machine->IsMinimised(window));
+  EXPECT_TRUE(system.windows.OpenIcon(window));
+  EXPECT_FALSE(machine->IsMinimised(window));
+}
+
+TEST_F(WindowsContract, ClosedWindowIsNeitherRestoredNorRaised) {
+  const os::WindowHandle window = machine->OpenWindow(kClass, "A Title");
+  machine->CloseWindow(window);
+  EXPECT_FALSE(system.windows.OpenIcon(window));
+  EXPECT_FALSE(system.windows.SetForegroundWindow(window));
+}
+
+TEST_F(WindowsContract, OwnWindowComesToTheFront) {
+  const os::WindowHandle window = machine->OpenWindow(kClass, "A Title");
+  machine->OpenWindow(kOtherClass, "In front");
+  EXPECT_TRUE(system.windows.SetForegroundWindow(window));
+}
+
+}  // namespace
+}  // namespace qdix::contract

@@ -1,0 +1,125 @@
+#!/usr/bin/env python3
+"""Draws the program's icon: a memory chip with a gauge in its middle.
+
+  make_icon.py FILE.ico     writes 32x32 and 16x16 pixels, each in 16 and in 256 colours, as uncompressed bitmaps,
+                            which is what Windows 95 reads
+"""
+import struct
+import sys
+
+# The sixteen colours that every display of the time has, red green blue.
+VGA = [(0, 0, 0), (128, 0, 0), (0, 128, 0), (128, 128, 0), (0, 0, 128), (128, 0, 128), (0, 128, 128), (192, 192, 192),
+       (128, 128, 128), (255, 0, 0), (0, 255, 0), (255, 255, 0), (0, 0, 255), (255, 0, 255), (0, 255, 255),
+       (255, 255, 255)]
+# Softer shades that only the richer pictures use, behind the sixteen.
+SHADES = [(16, 44, 72), (36, 84, 124), (84, 140, 180), (64, 64, 64), (0, 192, 192), (224, 224, 224), (160, 160, 160)]
+
+TRANSPARENT = -1
+
+
+class Palette:
+    """Numbers of the colours a picture is drawn with."""
+
+    def __init__(self, rich):
+        first = len(VGA)
+        self.edge = 0
+        self.body = first + 1 if rich else 4
+        self.body_light = first + 2 if rich else 6
+        self.body_dark = first if rich else 0
+        self.pin = first + 5 if rich else 15
+        self.pin_dark = first + 6 if rich else 8
+        self.lit = 14
+        self.lit_dark = first + 4 if rich else 6
+        self.unlit = first + 3 if rich else 8
+
+
+def fill(picture, left, top, right, bottom, colour):
+    for y in range(top, bottom + 1):
+        for x in range(left, right + 1):
+            picture[y][x] = colour
+
+
+def draw_pins(picture, size, palette):
+    """Pins on both sides, each a light row over a dark one."""
+    step, reach = (5, 4) if size == 32 else (4, 2)
+    for y in range(step - 1, size - step + 1, step):
+        for left, right in ((0, reach), (size - 1 - reach, size - 1)):
+            fill(picture, left, y, right, y, palette.pin)
+            fill(picture, left, y + 1, right, y + 1, palette.pin_dark)
+
+
+def draw_body(picture, size, palette):
+    side = 5 if size == 32 else 3
+    left, right, top, bottom = side, size - 1 - side, 1 if size == 32 else 0, size - 2 if size == 32 else size - 1
+    fill(picture, left, top, right, bottom, palette.edge)
+    fill(picture, left + 1, top + 1, right - 1, bottom - 1, palette.body)
+    fill(picture, left + 1, top + 1, right - 1, top + 1, palette.body_light)
+    fill(picture, left + 1, top + 1, left + 1, bottom - 1, palette.body_light)
+    fill(picture, left + 1, bottom - 1, right - 1, bottom - 1, palette.body_dark)
+    fill(picture, right - 1, top + 1, right - 1, bottom - 1, palette.body_dark)
+    return left, right, top, bottom
+
+
+def draw_gauge(picture, size, palette, body):
+    """Segments from the bottom up, the lower ones lit."""
+    left, right, top, bottom = body
+    inset, height, count, lit = (5, 3, 5, 3) if size == 32 else (3, 2, 4, 2)
+    gap = 1
+    total = count * height + (count - 1) * gap
+    y = top + (bottom - top + 1 - total) // 2
+    for number in range(count):
+        is_lit = number >= count - lit
+        fill(picture, left + inset, y, right - inset, y + height - 1, palette.lit if is_lit else palette.unlit)
+        if is_lit:
+            fill(picture, left + inset, y + height - 1, right - inset, y + height - 1, palette.lit_dark)
+        y += height + gap
+
+
+def draw(size, rich):
+    picture = [[TRANSPARENT] * size for _ in range(size)]
+    palette = Palette(rich)
+    draw_pins(picture, size, palette)
+    body = draw_body(picture, size, palette)
+    draw_gauge(picture, size, palette, body)
+    return picture
+
+
+def rows_bottom_up(picture, bits, value_of):
+    """Packed rows, padded to four bytes."""
+    packed = b""
+    for row in reversed(picture):
+        number = 0
+        for pixel in row:
+            number = number << bits | value_of(pixel)
+        data = number.to_bytes(len(row) * bits // 8, "big")
+        packed += data + b"\0" * (-len(data) % 4)
+    return packed
+
+
+def bitmap(size, bits):
+    picture = draw(size, bits == 8)
+    colours = (VGA + SHADES if bits == 8 else VGA) + [(0, 0, 0)] * 256
+    table = b"".join(struct.pack("4B", blue, green, red, 0) for red, green, blue in colours[:1 << bits])
+    colour_rows = rows_bottom_up(picture, bits, lambda pixel: max(pixel, 0))
+    mask_rows = rows_bottom_up(picture, 1, lambda pixel: int(pixel == TRANSPARENT))
+    # The height counts the picture and its mask.
+    header = struct.pack("<IiiHHIIiiII", 40, size, size * 2, 1, bits, 0, len(colour_rows) + len(mask_rows), 0, 0, 0, 0)
+    return header + table + colour_rows + mask_rows
+
+
+def icon():
+    kinds = [(size, bits) for bits in (4, 8) for size in (32, 16)]
+    images = [bitmap(size, bits) for size, bits in kinds]
+    directory = struct.pack("<HHH", 0, 1, len(kinds))
+    offset = len(directory) + 16 * len(kinds)
+    for (size, bits), image in zip(kinds, images):
+        directory += struct.pack("<BBBBHHII", size, size, 16 if bits == 4 else 0, 0, 1, bits, len(image), offset)
+        offset += len(image)
+    return directory + b"".join(images)
+
+
+if __name__ == "__main__":
+    if len(sys.argv) != 2:
+        sys.exit(__doc__)
+    with open(sys.argv[1], "wb") as file:
+        file.write(icon())
