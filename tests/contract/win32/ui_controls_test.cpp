@@ -138,6 +138,13 @@ TEST_F(UiControls, TextBoxAssignmentChangesTheWindowOnceAndIsNoEditOfTheUser) {
   EXPECT_EQ(demo.Send(demo.text, EM_GETSEL), MAKELONG(0, 3));
 }
 
+TEST_F(UiControls, TextBoxTypedThroughTheModelKeepsTheModelsCaret) {
+  demo.text.TypeText("ab");
+  EXPECT_EQ(demo.text.Text(), "ab");
+  EXPECT_EQ(WindowText(demo.Native(demo.text)), "ab");
+  EXPECT_EQ(demo.Send(demo.text, EM_GETSEL), MAKELONG(2, 2));
+}
+
 TEST_F(UiControls, TextBoxTakesNoMoreThanItsLength) {
   demo.text.SetFocus();
   for (int count = 0; count < 12; ++count) demo.Send(demo.text, WM_CHAR, 'a', 1);

@@ -192,6 +192,7 @@ TEST(FormWindow, LoopThatWaitsWakesWhenTheFormUnloadsInsideASentMessage) {
   DemoWindow demo;
   Ending ending{.demo = &demo};
   demo.window.OnUnloaded = base::Callback<void()>::To<&Ending::Unloaded>(ending);
+  demo.Handle();
   HANDLE const sender = CreateThread(nullptr, 0, &EndSessionFromOutside, demo.Main(), 0, nullptr);
   while (demo.pump.WaitAndHandle()) {
   }
@@ -267,6 +268,15 @@ TEST(FormWindow, EverythingThatIsMadeIsDestroyed) {
   EXPECT_EQ(WindowsOfThisThread(), windows_before);
 }
 
+/// Takes the memory of objects that have gone and fills it, so that a call of one of them goes wrong at once.
+std::vector<std::string> OverwriteFreedMemory() {
+  std::vector<std::string> filled;
+  for (std::size_t size = 32; size < 2048; size += 8) {
+    for (int count = 0; count < 40; ++count) filled.emplace_back(size, '\xCC');
+  }
+  return filled;
+}
+
 TEST(FormWindow, ModelsThatOutliveTheWindowHaveNoPeerLeft) {
   DemoModels models;
   {
@@ -274,6 +284,7 @@ TEST(FormWindow, ModelsThatOutliveTheWindowHaveNoPeerLeft) {
                                        models.timers);
     models.form.Show();
   }
+  const std::vector<std::string> filled = OverwriteFreedMemory();
   models.form.SetCaption("later");
   models.text.SetText("later");
   models.flat.SurfaceChanged(nullptr);

@@ -118,6 +118,31 @@ TEST(PopUpMenu, EscapeChoosesNothingAndTheMenuOpensAgain) {
   EXPECT_EQ(first.Count(), 1);
 }
 
+/// Asks for a menu while one is open, then closes the open one.
+struct SecondAsker {
+  DemoWindow& demo;
+  ui::MenuItem& menu;
+
+  base::Status Act() {
+    demo.timer.SetEnabled(false);
+    demo.form.PopUpMenu(menu);  // would wait for ever if it opened
+    PostMessageA(demo.Main(), WM_KEYDOWN, VK_ESCAPE, 1);
+    return base::kDone;
+  }
+};
+
+TEST(PopUpMenu, SecondOneDoesNotOpenOverTheFirst) {
+  DemoWindow demo;
+  demo.form.Show();
+  DemoMenu menu(demo.events);
+  SecondAsker asker{demo, menu.root};
+  demo.timer.OnTimer = ui::Handler::To<&SecondAsker::Act>(asker);
+  ASSERT_TRUE(demo.timer.SetInterval(50).Ok());
+  demo.timer.SetEnabled(true);
+  demo.form.PopUpMenu(menu.root);
+  EXPECT_FALSE(demo.timer.Enabled()) << "the hand was there while the menu was open";
+}
+
 TEST(PopUpMenu, ClosesWhenTheFormUnloads) {
   DemoWindow demo;
   demo.form.Show();

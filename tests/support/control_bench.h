@@ -1,0 +1,51 @@
+// A shown form with a dispatcher, to stand controls on; and a peer that notes what it is told.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "ui/form.h"
+#include "ui/lists.h"
+#include "ui/ranges.h"
+#include "ui/simple_controls.h"
+#include "ui/tab_strip.h"
+#include "ui/text_box.h"
+
+namespace qdix::tests {
+
+class NotingPeer final : public ui::ControlPeer {
+ public:
+  void ControlChanged(ui::Control& /*control*/, ui::Change change) override { changes.push_back(change); }
+  std::vector<ui::Change> changes;
+};
+
+/// Notes that a handler ran, and answers with an error where told to.
+class Handled {
+ public:
+  [[nodiscard]] ui::Handler Handler() { return ui::Handler::To<&Handled::Run>(*this); }
+  base::Status Run() {
+    ++count;
+    if (action) action();
+    return answer;
+  }
+  int count = 0;
+  std::function<void()> action;
+  base::Status answer = base::kDone;
+};
+
+class ControlBench {
+ public:
+  ControlBench() {
+    events.ReportErrorsTo(ui::EventDispatcher::ErrorReporter::To<&ControlBench::Report>(*this));
+    form.Show();
+  }
+  void Report(const base::RuntimeError& error) { errors.push_back(error.number); }
+
+  ui::EventDispatcher events;
+  ui::Form form{events, {.name = "Form"}};
+  /// Numbers of the errors that reached the dispatcher.
+  std::vector<int> errors;
+};
+
+}  // namespace qdix::tests

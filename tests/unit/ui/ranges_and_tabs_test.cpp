@@ -1,0 +1,205 @@
+// Scroll bar, slider, tab strip, menus.
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "tests/support/control_bench.h"
+
+namespace qdix::tests {
+namespace {
+
+class Ranges : public testing::Test {
+ protected:
+  ControlBench bench;
+  Handled changed;
+};
+
+TEST_F(Ranges, ScrollBarStartsAtItsLowestValueAlsoWhenItIsInverted) {
+  EXPECT_EQ(ui::VerticalScrollBar(bench.form, {.name = "A"}, {.minimum = 3, .maximum = 9}).Value(), 3);
+  EXPECT_EQ(ui::VerticalScrollBar(bench.form, {.name = "B"}, {.minimum = 20, .maximum = 1}).Value(), 1);
+}
+
+TEST_F(Ranges, ScrollBarFiresWhenItsValueDiffersAndRefusesValuesOutside) {
+  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 20, .maximum = 1});
+  bar.OnChange = changed.Handler();
+  EXPECT_TRUE(bar.SetValue(20).Ok());
+  EXPECT_TRUE(bar.SetValue(20).Ok());
+  EXPECT_EQ(changed.count, 1);
+  EXPECT_EQ(bar.SetValue(21).Error(), base::kInvalidPropertyValue);
+  EXPECT_EQ(bar.SetValue(0).Error(), base::kInvalidPropertyValue);
+  EXPECT_EQ(bar.Value(), 20);
+  EXPECT_EQ(changed.count, 1);
+}
+
+TEST_F(Ranges, NarrowerRangeMovesTheValueWithoutFiring) {
+  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 32, .maximum = 1});
+  EXPECT_TRUE(bar.SetValue(30).Ok());
+  bar.OnChange = changed.Handler();
+  bar.SetRange(16, 1);
+  EXPECT_EQ(bar.Value(), 16);
+  EXPECT_EQ(changed.count, 0);
+}
+
+TEST_F(Ranges, HandStepsPagesAndDragsInsideTheRange) {
+  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"},
+                            {.minimum = 0, .maximum = 100, .small_change = 5, .large_change = 10});
+  bar.OnChange = changed.Handler();
+  bar.Step(1);
+  bar.Page(2);
+  EXPECT_EQ(bar.Value(), 25);
+  bar.Step(-100);
+  EXPECT_EQ(bar.Value(), 0);
+  bar.Drag(1000);
+  EXPECT_EQ(bar.Value(), 100);
+  bar.Drag(100);
+  EXPECT_EQ(changed.count, 4);
+}
+
+TEST_F(Ranges, UpOnAnInvertedBarIncreases) {
+  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 32750, .maximum = 0, .small_change = 5});
+  bar.Step(-1);
+  EXPECT_EQ(bar.Value(), 5);
+  bar.Step(1);
+  EXPECT_EQ(bar.Value(), 0);
+}
+
+TEST_F(Ranges, NearestTakesAnyDouble) {
+  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 1, .maximum = 240});
+  bar.SetNearest(1e300);
+  EXPECT_EQ(bar.Value(), 240);
+  bar.SetNearest(-1e300);
+  EXPECT_EQ(bar.Value(), 1);
+  bar.SetNearest(2.5);
+  EXPECT_EQ(bar.Value(), 2);
+}
+
+struct Moves {
+  std::vector<std::int32_t> values;
+  base::Status Moved(std::int32_t value) {
+    values.push_back(value);
+    return base::kDone;
+  }
+};
+
+TEST_F(Ranges, SliderIsClampedAndFiresForTheUsersMovesOnly) {
+  ui::Slider slider(bench.form, {.name = "Slider"}, {.minimum = 512, .maximum = 4096, .value = 512});
+  Moves moves;
+  slider.OnMove = base::Callback<base::Status(std::int32_t)>::To<&Moves::Moved>(moves);
+  slider.SetValue(9999);
+  EXPECT_EQ(slider.Value(), 4096);
+  slider.SetNearest(-1e300);
+  EXPECT_EQ(slider.Value(), 512);
+  EXPECT_TRUE(moves.values.empty());
+  slider.Drag(2048);
+  slider.Drag(2048);
+  slider.Drag(5000);
+  EXPECT_EQ(moves.values, (std::vector<std::int32_t>{2048, 4096}));
+  slider.SetMaximum(1024);
+  EXPECT_EQ(slider.Value(), 1024);
+  EXPECT_EQ(moves.values.size(), 2U);
+}
+
+constexpr std::array<ui::Design, 3> kPages{{{.name = "One"}, {.name = "Two"}, {.name = "Three"}}};
+
+class Tabs : public testing::Test {
+ protected:
+  Tabs() { strip.OnClick = base::Callback<base::Status(int)>::To<&Tabs::Clicked>(*this); }
+
+ public:
+  base::Status Clicked(int tab_left) {
+    left.push_back(tab_left);
+    return base::kDone;
+  }
+  base::Result<bool> Refuse() { return false; }
+
+ protected:
+  ControlBench bench;
+  ui::TabStrip strip{bench.form, {.name = "Strip"}, kPages};
+  std::vector<int> left;
+};
+
+TEST_F(Tabs, ClickCarriesTheTabThatWasLeft) {
+  EXPECT_TRUE(strip.SetTab(2).Ok());
+  EXPECT_TRUE(strip.SetTab(2).Ok());
+  strip.ChooseTab(1);
+  EXPECT_EQ(left, (std::vector<int>{0, 2}));
+  EXPECT_TRUE(strip.Page(1).Open());
+}
+
+TEST_F(Tabs, PageThatDoesNotExistIsRefused) {
+  EXPECT_EQ(strip.SetTab(3).Error(), base::kInvalidPropertyValue);
+  EXPECT_EQ(strip.SetTab(-1).Error(), base::kInvalidPropertyValue);
+  EXPECT_EQ(strip.Tab(), 0);
+  EXPECT_TRUE(left.empty());
+}
+
+TEST_F(Tabs, ControlsOfAClosedPageAreOutOfReach) {
+  ui::Button button(strip.Page(1), {.name = "Button"});
+  EXPECT_FALSE(button.Reachable());
+  strip.ChooseTab(1);
+  EXPECT_TRUE(button.Reachable());
+}
+
+TEST_F(Tabs, RefusingControlKeepsItsPageOpenAndTheFocus) {
+  ui::TextBox box(strip.Page(0), {.name = "Text"});
+  box.OnValidate = base::Callback<base::Result<bool>()>::To<&Tabs::Refuse>(*this);
+  box.SetFocus();
+  strip.ChooseTab(1);
+  EXPECT_EQ(strip.Tab(), 0);
+  EXPECT_TRUE(box.HasFocus());
+  EXPECT_TRUE(left.empty());
+}
+
+TEST_F(Tabs, TabFromCodeTakesTheFocusFromThePageLeftWithoutAsking) {
+  ui::TextBox box(strip.Page(0), {.name = "Text"});
+  box.OnValidate = base::Callback<base::Result<bool>()>::To<&Tabs::Refuse>(*this);
+  Handled lost;
+  box.OnLostFocus = lost.Handler();
+  box.SetFocus();
+  EXPECT_TRUE(strip.SetTab(1).Ok());
+  EXPECT_EQ(bench.form.Focused(), nullptr);
+  EXPECT_EQ(lost.count, 1);
+}
+
+class Menus : public testing::Test {
+ protected:
+  ControlBench bench;
+  ui::MenuItem menu{bench.events, "menu", "Menu"};
+  ui::MenuItem entry{menu, "entry", "Entry && more"};
+  ui::MenuItem bar{menu, "bar", ui::MenuItem::kSeparatorCaption};
+  ui::MenuItem sub{menu, "sub", "Programs"};
+  ui::MenuItem first{sub, "first", "First"};
+  ui::MenuItem second{sub, "second", "Second"};
+  Handled clicked;
+};
+
+TEST_F(Menus, ChoiceRunsTheEntryAndNothingElseDoes) {
+  for (ui::MenuItem* item : {&entry, &bar, &sub, &first}) item->OnClick = clicked.Handler();
+  entry.Choose();
+  first.Choose();
+  EXPECT_EQ(clicked.count, 2);
+  bar.Choose();
+  sub.Choose();
+  EXPECT_EQ(clicked.count, 2);
+}
+
+TEST_F(Menus, DisabledEntriesAndThoseBelowADisabledMenuDoNothing) {
+  first.OnClick = clicked.Handler();
+  first.SetEnabled(false);
+  first.Choose();
+  first.SetEnabled(true);
+  sub.SetEnabled(false);
+  first.Choose();
+  EXPECT_EQ(clicked.count, 0);
+}
+
+TEST_F(Menus, LastVisibleEntryOfASubmenuCannotBeHidden) {
+  EXPECT_TRUE(first.SetVisible(false).Ok());
+  EXPECT_EQ(second.SetVisible(false).Error(), base::kSetNotPermitted);
+  EXPECT_TRUE(second.Visible());
+  EXPECT_TRUE(first.SetVisible(true).Ok());
+  EXPECT_TRUE(second.SetVisible(false).Ok());
+}
+
+}  // namespace
+}  // namespace qdix::tests

@@ -1,0 +1,181 @@
+// Check box, option button, button, and what every control has.
+#include <gtest/gtest.h>
+
+#include "tests/support/control_bench.h"
+
+namespace qdix::tests {
+namespace {
+
+class SimpleControls : public testing::Test {
+ protected:
+  ControlBench bench;
+  Handled clicked;
+};
+
+TEST_F(SimpleControls, CheckBoxFiresWhenItsValueChangesAndNotOtherwise) {
+  ui::CheckBox box(bench.form, {.name = "Box"});
+  box.OnClick = clicked.Handler();
+  EXPECT_TRUE(box.SetValue(1).Ok());
+  EXPECT_TRUE(box.SetValue(1).Ok());
+  EXPECT_EQ(clicked.count, 1);
+  EXPECT_TRUE(box.SetValue(2).Ok());
+  EXPECT_FALSE(box.Ticked());
+  EXPECT_TRUE(box.SetValue(0).Ok());
+  EXPECT_EQ(clicked.count, 3);
+}
+
+TEST_F(SimpleControls, CheckBoxRefusesOtherValues) {
+  ui::CheckBox box(bench.form, {.name = "Box"});
+  box.OnClick = clicked.Handler();
+  EXPECT_EQ(box.SetValue(3).Error(), base::kInvalidPropertyValue);
+  EXPECT_EQ(box.SetValue(-1).Error(), base::kInvalidPropertyValue);
+  EXPECT_EQ(box.Value(), 0);
+  EXPECT_EQ(clicked.count, 0);
+}
+
+TEST_F(SimpleControls, HandlerRunsInsideTheAssignmentAfterTheValueChanged) {
+  ui::CheckBox box(bench.form, {.name = "Box"});
+  int seen = -1;
+  clicked.action = [&] { seen = box.Value(); };
+  box.OnClick = clicked.Handler();
+  box.SetTicked(true);
+  EXPECT_EQ(seen, 1);
+}
+
+TEST_F(SimpleControls, HandlerMayChangeTheSameControlAgain) {
+  ui::CheckBox box(bench.form, {.name = "Box"});
+  clicked.action = [&] { box.SetTicked(false); };
+  box.OnClick = clicked.Handler();
+  box.SetTicked(true);
+  EXPECT_EQ(box.Value(), 0);
+  EXPECT_EQ(clicked.count, 2);
+}
+
+TEST_F(SimpleControls, HandlersErrorGoesToTheDispatcherNotToTheAssignment) {
+  ui::CheckBox box(bench.form, {.name = "Box"});
+  clicked.answer = base::kOverflow;
+  box.OnClick = clicked.Handler();
+  EXPECT_TRUE(box.SetValue(1).Ok());
+  EXPECT_EQ(bench.errors, (std::vector<int>{6}));
+}
+
+TEST_F(SimpleControls, PressTicksAClearBoxAndClearsAnyOther) {
+  ui::CheckBox box(bench.form, {.name = "Box"});
+  box.Press();
+  EXPECT_EQ(box.Value(), 1);
+  box.Press();
+  EXPECT_EQ(box.Value(), 0);
+  EXPECT_TRUE(box.SetValue(2).Ok());
+  box.Press();
+  EXPECT_EQ(box.Value(), 0);
+}
+
+TEST_F(SimpleControls, OptionsOfOneContainerExcludeEachOtherSilently) {
+  ui::Frame frame(bench.form, {.name = "Frame"});
+  ui::Frame other(bench.form, {.name = "Other"});
+  ui::OptionButton a(frame, {.name = "A"});
+  ui::OptionButton b(frame, {.name = "B"});
+  ui::OptionButton elsewhere(other, {.name = "C"});
+  Handled a_clicked;
+  Handled b_clicked;
+  a.OnClick = a_clicked.Handler();
+  b.OnClick = b_clicked.Handler();
+  elsewhere.SetSelected(true);
+  a.SetSelected(true);
+  a.SetSelected(true);
+  b.Press();
+  EXPECT_FALSE(a.Selected());
+  EXPECT_TRUE(b.Selected());
+  EXPECT_TRUE(elsewhere.Selected());
+  EXPECT_EQ(a_clicked.count, 1);
+  EXPECT_EQ(b_clicked.count, 1);
+  b.SetSelected(false);
+  EXPECT_EQ(b_clicked.count, 1) << "clearing fires nothing";
+}
+
+TEST_F(SimpleControls, OptionsHandlerSeesTheOthersCleared) {
+  ui::OptionButton a(bench.form, {.name = "A"});
+  ui::OptionButton b(bench.form, {.name = "B"});
+  a.SetSelected(true);
+  bool a_was_selected = true;
+  clicked.action = [&] { a_was_selected = a.Selected(); };
+  b.OnClick = clicked.Handler();
+  b.SetSelected(true);
+  EXPECT_FALSE(a_was_selected);
+}
+
+struct Obstacle {
+  const char* what;
+  void (*put)(ControlBench&, ui::Frame&, ui::Button&);
+};
+class Unreachable : public SimpleControls, public testing::WithParamInterface<Obstacle> {};
+TEST_P(Unreachable, ControlDoesNothing) {
+  ui::Frame frame(bench.form, {.name = "Frame"});
+  ui::Button button(frame, {.name = "Button"});
+  button.OnClick = clicked.Handler();
+  button.Press();
+  ASSERT_EQ(clicked.count, 1);
+  GetParam().put(bench, frame, button);
+  button.Press();
+  button.SetFocus();
+  EXPECT_EQ(clicked.count, 1);
+  EXPECT_FALSE(button.HasFocus());
+}
+INSTANTIATE_TEST_SUITE_P(
+    Obstacles, Unreachable,
+    testing::Values(
+        Obstacle{"disabled", [](ControlBench&, ui::Frame&, ui::Button& button) { button.SetEnabled(false); }},
+        Obstacle{"hidden", [](ControlBench&, ui::Frame&, ui::Button& button) { button.SetVisible(false); }},
+        Obstacle{"frame disabled",
+                 [](ControlBench&, ui::Frame& frame, ui::Button&) { frame.SetEnabled(false); }},
+        Obstacle{"frame hidden",
+                 [](ControlBench&, ui::Frame& frame, ui::Button&) { frame.SetVisible(false); }},
+        Obstacle{"form hidden", [](ControlBench& bench, ui::Frame&, ui::Button&) { bench.form.Hide(); }},
+        Obstacle{"form minimised", [](ControlBench& bench, ui::Frame&,
+                                      ui::Button&) { bench.form.SetState(ui::WindowState::kMinimised); }},
+        Obstacle{"form unloaded",
+                 [](ControlBench& bench, ui::Frame&, ui::Button&) { bench.form.Unload(); }}));
+
+TEST_F(SimpleControls, PeerIsToldWhatChangedAndOnlyThen) {
+  ui::Label label(bench.form, {.name = "Label", .caption = "a"});
+  NotingPeer peer;
+  label.AttachPeer(&peer);
+  label.SetCaption("a");
+  label.SetEnabled(true);
+  label.SetVisible(true);
+  label.SetBackColour(ui::kButtonFace);
+  EXPECT_TRUE(peer.changes.empty());
+  label.SetCaption("b");
+  label.SetEnabled(false);
+  label.SetVisible(false);
+  label.SetBackColour(ui::kMenuBackground);
+  EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kCaption, ui::Change::kEnabled,
+                                                   ui::Change::kVisible, ui::Change::kColour}));
+}
+
+TEST_F(SimpleControls, DisablingAFrameTellsThePeersOfWhatStandsInIt) {
+  ui::Frame frame(bench.form, {.name = "Frame"});
+  ui::Button button(frame, {.name = "Button"});
+  NotingPeer peer;
+  button.AttachPeer(&peer);
+  frame.SetEnabled(false);
+  EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kEnabled}));
+  EXPECT_TRUE(button.Enabled());
+  EXPECT_FALSE(button.EffectivelyEnabled());
+}
+
+TEST_F(SimpleControls, ControlsAreFoundByNameAtAnyDepth) {
+  ui::Frame frame(bench.form, {.name = "Frame"});
+  ui::Button button(frame, {.name = "Button"});
+  EXPECT_EQ(bench.form.Find("Button"), &button);
+  EXPECT_EQ(bench.form.Find("Missing"), nullptr);
+}
+
+TEST_F(SimpleControls, ChildrenStandInTheOrderOfTheirMaking) {
+  ui::Button first(bench.form, {.name = "First"});
+  ui::Label second(bench.form, {.name = "Second"});
+  EXPECT_EQ(bench.form.Children(), (std::vector<ui::Control*>{&first, &second}));
+}
+
+}  // namespace
+}  // namespace qdix::tests
