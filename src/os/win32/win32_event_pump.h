@@ -25,7 +25,6 @@ class Win32EventPump final : public EventPump {
 
   /// From now on nothing is handled.
   void Stop() { stopped_ = true; }
-  [[nodiscard]] bool Stopped() const { return stopped_; }
 
  private:
   void Handle(MSG& message);

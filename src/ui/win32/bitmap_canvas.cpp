@@ -30,11 +30,7 @@ BitmapCanvas::BitmapCanvas(int width_px, int height_px) : width_px_(width_px), h
   const ScreenDevice screen;
   bitmap_.reset(CreateCompatibleBitmap(screen.Get(), width_px_, height_px_));
   device_.reset(CreateCompatibleDC(screen.Get()));
-  if (bitmap_ != nullptr && device_ != nullptr) former_bitmap_ = SelectObject(device_.get(), bitmap_.get());
-}
-
-BitmapCanvas::~BitmapCanvas() {
-  if (former_bitmap_ != nullptr) SelectObject(device_.get(), former_bitmap_);
+  if (bitmap_ != nullptr && device_ != nullptr) SelectObject(device_.get(), bitmap_.get());
 }
 
 void BitmapCanvas::CopyOntoSelf(int to_x, int to_y, int width, int height, int from_x, int from_y) {

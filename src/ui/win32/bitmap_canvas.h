@@ -12,7 +12,7 @@ class BitmapCanvas final : public Canvas {
   BitmapCanvas(int width_px, int height_px);
   BitmapCanvas(const BitmapCanvas&) = delete;
   BitmapCanvas& operator=(const BitmapCanvas&) = delete;
-  ~BitmapCanvas() override;
+  ~BitmapCanvas() override = default;
 
   [[nodiscard]] HDC Device() const { return device_.get(); }
 
@@ -26,9 +26,8 @@ class BitmapCanvas final : public Canvas {
   int width_px_;
   int height_px_;
   OwnedGdiObject<HBITMAP> bitmap_;
-  // Goes before the bitmap that is selected into it.
+  // Goes before the bitmap that is selected into it, and so frees it.
   OwnedMemoryDevice device_;
-  HGDIOBJ former_bitmap_ = nullptr;
 };
 
 }  // namespace qdix::ui::win32

@@ -21,11 +21,12 @@ HICON LoadMainIcon(HINSTANCE instance, int icon_id) {
                         : LoadIconA(nullptr, MAKEINTRESOURCEA(32512));  // the system's plain program icon
 }
 
-/// Shared, so that nothing of it has to be destroyed.
-HICON LoadSmallIcon(HINSTANCE instance, int icon_id, HICON large) {
-  HANDLE const own = LoadImageA(instance, MAKEINTRESOURCEA(icon_id), IMAGE_ICON,
-                                GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED);
-  return own != nullptr ? static_cast<HICON>(own) : large;
+/// Not shared: of shared icons Windows 95 hands out the first one of a name, whatever its size. Null where
+/// there is no such resource.
+OwnedIcon LoadSmallIcon(HINSTANCE instance, int icon_id) {
+  return OwnedIcon(static_cast<HICON>(LoadImageA(instance, MAKEINTRESOURCEA(icon_id), IMAGE_ICON,
+                                                 GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON),
+                                                 LR_DEFAULTCOLOR)));
 }
 
 OwnedWindow MakeApplicationWindow(HINSTANCE instance, const Application& application) {
@@ -68,7 +69,7 @@ FormWindow::FormWindow(HINSTANCE instance, int icon_id, Application& application
     : application_(application),
       form_(form),
       icon_(LoadMainIcon(instance, icon_id)),
-      small_icon_(LoadSmallIcon(instance, icon_id, icon_)),
+      small_icon_(LoadSmallIcon(instance, icon_id)),
       taskbar_created_message_(RegisterWindowMessageA("TaskbarCreated")),
       application_class_(instance, kApplicationWindowClass, {.icon = icon_}),
       main_class_(instance, kMainWindowClass, {.background = FaceBackground(), .icon = icon_}),
@@ -83,7 +84,7 @@ FormWindow::FormWindow(HINSTANCE instance, int icon_id, Application& application
       context_{instance, font_, keys_, peers_, focus_, tips_},
       timers_(main_.get(), timers) {
   focus_.SetMainWindow(main_.get());
-  SendMessageA(main_.get(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(small_icon_));
+  SendMessageA(main_.get(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(SmallIcon()));
   VisitControls(form_, ControlVisitor::To<&FormWindow::MakeControl>(*this));
   form_.AttachPeer(this);
   form_.AttachFormPeer(this);

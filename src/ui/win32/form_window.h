@@ -37,9 +37,8 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
 
   [[nodiscard]] HWND MainWindow() const { return main_.get(); }
   [[nodiscard]] HWND ApplicationWindow() const { return application_window_.get(); }
-  /// The icon in the size of captions and of the notification area; the system keeps it until the program
-  /// ends.
-  [[nodiscard]] HICON SmallIcon() const { return small_icon_; }
+  /// The icon in the size of captions and of the notification area, for as long as this object lives.
+  [[nodiscard]] HICON SmallIcon() const { return small_icon_ != nullptr ? small_icon_.get() : icon_; }
 
   /// The form has unloaded: open boxes and the message loop must end. No handler runs any more.
   base::Callback<void()> OnUnloaded;
@@ -80,7 +79,7 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   Form& form_;
   CommonControls common_controls_;
   HICON icon_;
-  HICON small_icon_;
+  OwnedIcon small_icon_;
   UINT taskbar_created_message_;
   bool menu_is_open_ = false;
 

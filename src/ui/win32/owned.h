@@ -23,6 +23,13 @@ struct DeleteMemoryDevice {
 };
 using OwnedMemoryDevice = std::unique_ptr<void, DeleteMemoryDevice>;
 
+struct DestroyOwnIcon {
+  using pointer = HICON;
+  void operator()(HICON icon) const { DestroyIcon(icon); }
+};
+/// An icon that is not shared with the system.
+using OwnedIcon = std::unique_ptr<void, DestroyOwnIcon>;
+
 struct DestroyMenuTree {
   using pointer = HMENU;
   void operator()(HMENU menu) const { DestroyMenu(menu); }

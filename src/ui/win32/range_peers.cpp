@@ -87,8 +87,7 @@ SliderPeer::SliderPeer(const PeerContext& context, Slider& model, HWND parent, i
   RangeChanged();
 }
 
-void SliderPeer::OnScroll(UINT code) {
-  if (code == TB_ENDTRACK) return;
+void SliderPeer::OnScroll(UINT /*code*/) {
   slider_.Drag(static_cast<std::int32_t>(Send(TBM_GETPOS)));
   ValueChanged();  // the model may have kept its value
 }

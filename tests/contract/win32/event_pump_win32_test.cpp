@@ -31,7 +31,8 @@ TEST_F(EventPumpWin32, FloodThatFeedsItselfDoesNotHoldThePump) {
   machine.DoInNextPump(feed);
   pump.PumpEvents();
   EXPECT_EQ(runs, os::win32::Win32EventPump::kMessagesPerPump);
-  while (runs < 1000) pump.PumpEvents();
+  for (int pumps = 0; pumps < 1000 && runs < 1000; ++pumps) pump.PumpEvents();
+  EXPECT_EQ(runs, 1000);
 }
 
 TEST_F(EventPumpWin32, StopEndsAPumpThatIsRunning) {
@@ -49,16 +50,30 @@ TEST_F(EventPumpWin32, StopEndsAPumpThatIsRunning) {
   EXPECT_EQ(runs, 3);
 }
 
+int timer_calls = 0;
+
+VOID CALLBACK CountTimerCall(HWND /*window*/, UINT /*message*/, UINT_PTR /*id*/, DWORD /*ticks_ms*/) {
+  ++timer_calls;
+}
+
 TEST_F(EventPumpWin32, MessagesOfTheThreadAreDropped) {
+  timer_calls = 0;
+  const UINT_PTR timer = SetTimer(nullptr, 0, 1, &CountTimerCall);
+  ASSERT_NE(timer, 0U);
+  MSG message;
+  const DWORD start_ms = GetTickCount();
+  while (!PeekMessageA(&message, nullptr, WM_TIMER, WM_TIMER, PM_NOREMOVE)) {
+    ASSERT_LT(GetTickCount() - start_ms, 5000U);
+    Sleep(1);
+  }
   ASSERT_TRUE(PostThreadMessageA(GetCurrentThreadId(), WM_USER + 1, 1, 2));
-  // Dispatched, this would call the address 1.
-  ASSERT_TRUE(PostThreadMessageA(GetCurrentThreadId(), WM_TIMER, 0, 1));
   int runs = 0;
   machine.DoInNextPump([&] { ++runs; });
   pump.PumpEvents();
+  KillTimer(nullptr, timer);
   EXPECT_EQ(runs, 1);
-  MSG message;
-  EXPECT_FALSE(PeekMessageA(&message, reinterpret_cast<HWND>(-1), 0, 0, PM_NOREMOVE));
+  EXPECT_EQ(timer_calls, 0);
+  EXPECT_FALSE(PeekMessageA(&message, reinterpret_cast<HWND>(-1), WM_USER + 1, WM_USER + 1, PM_NOREMOVE));
 }
 
 TEST_F(EventPumpWin32, RequestToQuitWaitsForTheMainLoop) {
