@@ -7,7 +7,9 @@ if(QDIX_SANITIZE)
   add_test(NAME lint.includes_finds_planted_faults
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/lint/include_direction_test.py)
   add_test(NAME lint.sizes COMMAND ${Python3_EXECUTABLE} ${lint}/file_sizes.py ${CMAKE_SOURCE_DIR})
-  add_test(NAME lint.tidy COMMAND ${lint}/tidy.sh ${CMAKE_BINARY_DIR})
-  add_test(NAME lint.tidy_win32 COMMAND ${lint}/tidy.sh ${CMAKE_SOURCE_DIR}/build/win9x)
+  add_test(NAME lint.tidy_looks_again_after_changes
+    COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/lint/tidy_test.py)
+  add_test(NAME lint.tidy COMMAND ${Python3_EXECUTABLE} ${lint}/tidy.py ${CMAKE_BINARY_DIR})
+  add_test(NAME lint.tidy_win32 COMMAND ${Python3_EXECUTABLE} ${lint}/tidy.py ${CMAKE_SOURCE_DIR}/build/win9x)
   set_tests_properties(lint.tidy lint.tidy_win32 PROPERTIES TIMEOUT 1500 RUN_SERIAL TRUE)
 endif()

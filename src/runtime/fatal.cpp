@@ -11,7 +11,12 @@ namespace {
 
 constexpr UINT kExitCode = 3;
 
+/// The box runs a message loop, and what that calls may fail as well: the second failure shows no further box.
+constinit bool ending = false;
+
 [[noreturn]] void End(const char* text) {
+  if (ending) ExitProcess(kExitCode);
+  ending = true;
   MessageBoxA(nullptr, text, "Q-DIX", MB_OK | MB_ICONSTOP | MB_SYSTEMMODAL);
   ExitProcess(kExitCode);
 }

@@ -15,7 +15,7 @@ struct AboutScreen {
   ui::Label lblPurpose{page,
                        {.name = "lblPurpose",
                         .caption = "Shows how much memory is available and makes Windows hand memory back.",
-                        .place = {11, 24, 240, 8}}};
+                        .place = {11, 24, 240, 16}}};
 };
 
 }  // namespace qdix::screens

@@ -8,7 +8,11 @@ Form::Form(EventDispatcher& events, const Design& design)
 }
 
 void Form::Show() {
-  if (Shown() || unloaded_) return;
+  if (unloaded_) return;
+  if (Shown()) {
+    Notify(Change::kVisible);
+    return;
+  }
   SetVisible(true);
   events_.Run(OnActivate);
 }

@@ -31,7 +31,8 @@ class Form final : public Container {
   [[nodiscard]] EventDispatcher& Dispatcher() const { return events_; }
   void AttachFormPeer(FormPeer* peer) { form_peer_ = peer; }
 
-  /// Shown or hidden; hidden at first. Showing fires OnActivate, at the first time and after each hiding.
+  /// Shown or hidden; hidden at first. Showing fires OnActivate, at the first time and after each hiding; a
+  /// form that is shown already only comes to the front.
   [[nodiscard]] bool Shown() const { return Visible(); }
   void Show();
   void Hide();

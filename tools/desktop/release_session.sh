@@ -69,6 +69,16 @@ start_program() {
   answer_boxes
 }
 
+# Waits until the window shows the figures of its first refresh.
+wait_for_figures() {
+  local deadline=$((SECONDS + start_limit_s))
+  until [[ "$(ask caption)" == *' MB   Q-DIX'* ]]; do
+    is_running "$program_pid" || fail "the program ended by itself"
+    ((SECONDS < deadline)) || fail "the caption showed no figure within $start_limit_s seconds"
+    answer_boxes
+  done
+}
+
 # Waits until the button is enabled, with message boxes answered on the way.
 wait_for_button() {
   local deadline=$((SECONDS + release_limit_s))
@@ -151,6 +161,7 @@ close_program() {
 main() {
   rm -f "$picture" "${picture%.png}-failed.png"
   start_program
+  wait_for_figures
   wait_for_button
   read_figures "$work_dir/before"
   release

@@ -1,6 +1,8 @@
 #include "tests/contract/win32/win32_contract_machine.h"
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <utility>
 
 namespace qdix::contract {
@@ -60,6 +62,11 @@ Win32ContractMachine::Win32ContractMachine() {
   RegisterWindowClass(kHiddenClass, &HiddenProcedure);
   hidden_ = CreateWindowA(kHiddenClass, "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, GetModuleHandleA(nullptr),
                           nullptr);
+  if (hidden_ == nullptr) {
+    // Everything that follows would wait for ever for messages of a window that does not exist.
+    std::fputs("no window can be made: these tests need a screen\n", stderr);
+    std::abort();
+  }
   SetWindowLongA(hidden_, GWL_USERDATA, reinterpret_cast<LONG>(this));
 }
 

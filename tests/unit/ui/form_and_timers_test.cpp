@@ -48,6 +48,13 @@ TEST_F(FormRules, ActivatesAtTheFirstShowAndAtEachShowAfterHiding) {
   EXPECT_EQ(activated.count, 2);
 }
 
+TEST_F(FormRules, ShowingAShownFormBringsItsWindowToTheFront) {
+  NotingPeer peer;
+  bench.form.AttachPeer(&peer);
+  bench.form.Show();
+  EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kVisible}));
+}
+
 TEST_F(FormRules, FocusThatLeavesIsValidatedBeforeItIsLost) {
   box.SetFocus();
   on_validate = [&] { EXPECT_EQ(lost.count, 0); };

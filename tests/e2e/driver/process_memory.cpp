@@ -1,0 +1,65 @@
+#include "tests/e2e/driver/process_memory.h"
+
+#include <algorithm>
+#include <functional>
+#include <numeric>
+
+namespace qdix::e2e {
+
+namespace {
+
+/// What stays free besides the one piece: enough for a message box and its fonts.
+constexpr SIZE_T kSmallPieceBytes = 16 * 1024 * 1024;
+constexpr SIZE_T kAllocationGranularityBytes = 64 * 1024;
+
+void VisitRegions(HANDLE process, const std::function<void(const MEMORY_BASIC_INFORMATION&)>& visit) {
+  MEMORY_BASIC_INFORMATION region = {};
+  std::uintptr_t address = 0;
+  while (VirtualQueryEx(process, reinterpret_cast<void*>(address), &region, sizeof region) != 0) {
+    visit(region);
+    const std::uintptr_t next = address + region.RegionSize;
+    if (next <= address) return;  // the end of the address space
+    address = next;
+  }
+}
+
+}  // namespace
+
+std::vector<std::uint64_t> CommittedBlocks(HANDLE process, std::uint64_t at_least_bytes) {
+  std::vector<std::uint64_t> sizes;
+  const void* allocation = nullptr;
+  VisitRegions(process, [&](const MEMORY_BASIC_INFORMATION& region) {
+    if (region.State != MEM_COMMIT || region.Type != MEM_PRIVATE) return;
+    if (allocation != region.AllocationBase) sizes.push_back(0);
+    allocation = region.AllocationBase;
+    sizes.back() += region.RegionSize;
+  });
+  std::erase_if(sizes, [at_least_bytes](std::uint64_t size) { return size < at_least_bytes; });
+  std::sort(sizes.begin(), sizes.end());
+  return sizes;
+}
+
+std::uint64_t CommittedBytes(HANDLE process) {
+  const std::vector<std::uint64_t> blocks = CommittedBlocks(process, 0);
+  return std::accumulate(blocks.begin(), blocks.end(), std::uint64_t{0});
+}
+
+bool NarrowAddressSpace(HANDLE process, std::uint32_t left_bytes) {
+  void* const left = VirtualAllocEx(process, nullptr, left_bytes, MEM_RESERVE, PAGE_NOACCESS);
+  if (left == nullptr) return false;
+  std::vector<MEMORY_BASIC_INFORMATION> free_regions;
+  VisitRegions(process, [&](const MEMORY_BASIC_INFORMATION& region) {
+    if (region.State == MEM_FREE && region.RegionSize >= kSmallPieceBytes) free_regions.push_back(region);
+  });
+  for (const MEMORY_BASIC_INFORMATION& region : free_regions) {
+    // A free region may begin in the middle of a granule; the system finds the place.
+    SIZE_T bytes = region.RegionSize - kAllocationGranularityBytes;
+    while (bytes >= kSmallPieceBytes &&
+           VirtualAllocEx(process, nullptr, bytes, MEM_RESERVE, PAGE_NOACCESS) == nullptr) {
+      bytes -= kAllocationGranularityBytes;
+    }
+  }
+  return VirtualFreeEx(process, left, 0, MEM_RELEASE) != 0;
+}
+
+}  // namespace qdix::e2e
