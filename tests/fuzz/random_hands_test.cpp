@@ -1,0 +1,141 @@
+// Random settings, then random hands on all controls: nothing crashes, nothing leaks, no value leaves its
+// range, and the program ends when it is closed. A failing run prints its seed, which replays it.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "tests/support/program_rig.h"
+#include "ui/control_numbers.h"
+
+namespace qdix::tests {
+namespace {
+
+constexpr unsigned kRuns = 150;
+constexpr int kActionsPerRun = 120;
+/// A release of many passes is ended by closing the window, as a user would.
+constexpr int kPatiencePumps = 30000;
+
+class RandomHands {
+ public:
+  explicit RandomHands(unsigned seed) : random_(seed) {}
+
+  void Run() {
+    FillSettings();
+    rig_.machine.LimitAllocatableBytes(Chance(3) ? 0xFFFFFFFFU : random_() % (600 * kMegabyte));
+    rig_.Create();
+    ui::VisitControls(rig_.program->Window(), ui::ControlVisitor::To<&RandomHands::Note>(*this));
+    rig_.machine.OnPump([this](int number) { InsidePump(number); });
+    rig_.program->Start();
+    for (int i = 0; i < kActionsPerRun && !rig_.program->Window().Unloaded(); ++i) {
+      Act();
+      CheckInvariants();
+    }
+    rig_.program->Window().Unload();
+    rig_.AdvanceMs(100000);
+    EXPECT_TRUE(rig_.machine.OutstandingBlocks().empty());
+    EXPECT_EQ(rig_.machine.OpenKeyCount(), 0);
+    EXPECT_EQ(rig_.machine.TrayIconCount(), 0);
+    EXPECT_TRUE(rig_.machine.Misuses().empty());
+  }
+
+  void Note(ui::Control& control, int /*number*/) { controls_.push_back(&control); }
+
+ private:
+  [[nodiscard]] bool Chance(unsigned one_in) { return random_() % one_in == 0; }
+
+  std::string RandomText() {
+    static constexpr std::string_view kLikely = "0123456789.-E MB";
+    std::string text;
+    for (auto left = random_() % 12; left > 0; --left) {
+      text += Chance(4) ? static_cast<char>(1 + random_() % 255) : kLikely[random_() % kLikely.size()];
+    }
+    return text;
+  }
+
+  void FillSettings() {
+    if (Chance(2)) rig_.SetHasRunBefore();
+    for (const char* key : {"FreeUpRAM", "TryTimes", "MinRAM", "AutoQuondix", "TimeQuondix", "AutoActive",
+                            "AutoSecs", "Warnings", "TimeActive", "TimeUnit", "CPUAutoActive", "AutoCPU",
+                            "CPUTimeActive", "TimeCPU", "LastTab", "CounterDate", "CounterValue"}) {
+      if (Chance(2)) rig_.Store("Settings", key, RandomText());
+    }
+    for (const char* key : {"StartDisplay", "StartupRAM", "StartupTime", "TimeMinutes", "TimeHours"}) {
+      if (Chance(2)) rig_.Store("Startup", key, RandomText());
+    }
+  }
+
+  void InsidePump(int number) {
+    if (number > kPatiencePumps || Chance(200000)) rig_.program->Window().Unload();
+    if (Chance(2000)) Act();
+  }
+
+  void Act() {
+    if (++depth_ < 4) {
+      if (Chance(4)) rig_.AdvanceMs(static_cast<std::int64_t>(random_() % 70000));
+      if (Chance(10)) rig_.machine.SetMemory(Word(), Word(), Word(), Word());
+      if (Chance(10)) rig_.program->Window().PointerMoved(0, 0, static_cast<double>(random_() % 8000), 0);
+      if (Chance(20)) rig_.program->Window().Show();
+      if (Chance(20)) rig_.program->Window().SetState(ui::WindowState::kNormal);
+      UseControl(*controls_[random_() % controls_.size()]);
+    }
+    --depth_;
+  }
+
+  std::uint32_t Word() { return static_cast<std::uint32_t>(random_()); }
+
+  void UseControl(ui::Control& control) {
+    const auto number = static_cast<std::int32_t>(random_() % 400) - 20;
+    switch (control.GetKind()) {
+      case ui::Kind::kTabStrip:
+        return static_cast<ui::TabStrip&>(control).ChooseTab(number % 9);
+      case ui::Kind::kButton:
+        return static_cast<ui::Button&>(control).Press();
+      case ui::Kind::kCheckBox:
+        return static_cast<ui::CheckBox&>(control).Press();
+      case ui::Kind::kOptionButton:
+        return static_cast<ui::OptionButton&>(control).Press();
+      case ui::Kind::kTextBox:
+        control.SetFocus();
+        return static_cast<ui::TextBox&>(control).TypeText(RandomText());
+      case ui::Kind::kListBox:
+      case ui::Kind::kDropDownList:
+        return static_cast<ui::ListControl&>(control).ChooseIndex(number % 32);
+      case ui::Kind::kVerticalScrollBar:
+        return static_cast<ui::VerticalScrollBar&>(control).Drag(number);
+      case ui::Kind::kSlider:
+        return static_cast<ui::Slider&>(control).Drag(number);
+      default:
+        return control.SetFocus();
+    }
+  }
+
+  void CheckInvariants() {
+    const auto& screen = rig_.program->Quondix();
+    EXPECT_GE(screen.Gauge1.Value(), 0);
+    EXPECT_LE(screen.Gauge1.Value(), 50);
+    EXPECT_GE(screen.VScroll1.Value(), 1);
+    EXPECT_LE(screen.VScroll1.Value(), 20);
+    const int tab = rig_.program->MainWindow().SSTab1.Tab();
+    EXPECT_TRUE(tab >= 0 && tab < 8) << tab;
+    for (const ui::Timer* timer : rig_.program->Timers()) {
+      EXPECT_TRUE(timer->Interval() >= 0 && timer->Interval() <= ui::Timer::kLongestIntervalMs)
+          << timer->Name();
+    }
+  }
+
+  std::mt19937 random_;
+  ProgramRig rig_;
+  std::vector<ui::Control*> controls_;
+  int depth_ = 0;
+};
+
+TEST(RandomHandsOnAllControls, NeitherCrashNorLeakNorLeaveARange) {
+  for (unsigned seed = 1; seed <= kRuns; ++seed) {
+    SCOPED_TRACE(seed);
+    RandomHands(seed).Run();
+    if (testing::Test::HasFailure()) return;
+  }
+}
+
+}  // namespace
+}  // namespace qdix::tests
