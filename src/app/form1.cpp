@@ -16,6 +16,7 @@ Form1::Form1(const os::System& system)
       timed_release_(system, settings_, time_intervals_, window_.SSTab1, window_.Timer4, application_),
       startup_release_(settings_, startup_, window_.Timer3),
       startup_registration_(system, startup_),
+      cpu_usage_(settings_, startup_),
       window_modes_(settings_, {window_, quondix_, automatic_, time_intervals_, startup_}),
       tray_icon_(system, window_.Form1, tray_menu_, monitor_, manual_release_) {
   BindEvents();

@@ -8,6 +8,7 @@
 #include "app/single_instance.h"
 #include "app/tray_icon.h"
 #include "app/window_modes.h"
+#include "cpu/cpu_usage.h"
 #include "memory/automatic_release.h"
 #include "memory/manual_release.h"
 #include "memory/memory_monitor.h"
@@ -100,6 +101,7 @@ class Form1 {
   memory::TimedRelease timed_release_;
   memory::StartupRelease startup_release_;
   shell::StartupRegistration startup_registration_;
+  cpu::CpuUsage cpu_usage_;
   WindowModes window_modes_;
   TrayIcon tray_icon_;
 

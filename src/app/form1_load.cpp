@@ -18,6 +18,7 @@ base::Status Form1::Form_Load() {
   startup_release_.FillLists();
   if (machine_record_.IsFirstRun()) RunFirstTimeSteps();
   automatic_release_.LoadCpuLimit();
+  cpu_usage_.LoadUpdateInterval();
   timed_release_.LoadCpuLimit();
   SelectStoredTab();
   startup_registration_.CheckStartup();

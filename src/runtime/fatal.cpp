@@ -11,7 +11,8 @@ namespace {
 
 constexpr UINT kExitCode = 3;
 
-/// The box runs a message loop, and what that calls may fail as well: the second failure shows no further box.
+/// The box runs a message loop, and what that calls may fail as well: the second failure shows no further
+/// box.
 constinit bool ending = false;
 
 [[noreturn]] void End(const char* text) {

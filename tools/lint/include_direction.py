@@ -16,7 +16,8 @@ LAYERS = {
     "screens": {"base", "ui", "controls"},
     "shell": {"base", "os", "ui", "controls", "screens", "memory"},
     "memory": {"base", "os", "ui", "controls", "screens", "shell"},
-    "app": {"base", "os", "ui", "controls", "screens", "shell", "memory"},
+    "cpu": {"base", "os", "ui", "controls", "screens", "shell"},
+    "app": {"base", "os", "ui", "controls", "screens", "shell", "memory", "cpu"},
     "runtime": set(),
 }
 SYSTEM_HEADERS = {"windows.h", "commctrl.h", "shellapi.h", "shlobj.h", "commdlg.h", "windowsx.h", "objbase.h", "mmsystem.h"}

@@ -39,11 +39,11 @@ TEST_F(Lifecycle, LoadReadsItsSettingsInItsFixedOrder) {
   Start();
   Texts read = rig.machine.QueriedValueNames();
   read.erase(std::unique(read.begin(), read.end()), read.end());
-  EXPECT_EQ(read, (Texts{"HasRun",     "CPUAutoActive", "AutoCPU",      "CPUTimeActive", "TimeCPU",
-                         "LastTab",    "CounterDate",   "CounterValue", "FreeUpRAM",     "TryTimes",
-                         "MinRAM",     "AutoQuondix",   "TimeQuondix",  "AutoActive",    "Warnings",
-                         "TimeUnit",   "TimeMinutes",   "AutoSecs",     "TimeActive",    "StartDisplay",
-                         "StartupRAM", "StartupTime"}));
+  EXPECT_EQ(read, (Texts{"HasRun",       "CPUAutoActive", "AutoCPU",     "CPU",          "CPUTimeActive",
+                         "TimeCPU",      "LastTab",       "CounterDate", "CounterValue", "FreeUpRAM",
+                         "TryTimes",     "MinRAM",        "AutoQuondix", "TimeQuondix",  "AutoActive",
+                         "Warnings",     "TimeUnit",      "TimeMinutes", "AutoSecs",     "TimeActive",
+                         "StartDisplay", "StartupRAM",    "StartupTime"}));
 }
 
 TEST_F(Lifecycle, LoadMakesTheMachineWideKey) {

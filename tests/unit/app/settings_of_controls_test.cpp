@@ -124,6 +124,13 @@ TEST_F(ControlSettings, StartupTab) {
   EXPECT_EQ(Startup("StartupRAM"), "16");
 }
 
+TEST_F(ControlSettings, GraphIntervalIsStoredWhenTheUserMovesIt) {
+  Open(screens::kStartupTab);
+  EXPECT_EQ(Settings("CPU"), "(none)");
+  rig.program->Startup().Slider7.Drag(3);
+  EXPECT_EQ(Settings("CPU"), "3");
+}
+
 TEST_F(ControlSettings, RefusedWritesLeaveTheOldValueAndSayNothing) {
   rig.Store("Settings", "FreeUpRAM", "16");
   rig.machine.DenyWrites(os::kHkeyCurrentUser, ProgramRig::SectionPath("Settings"));

@@ -41,6 +41,12 @@ TEST_F(StoredSettings, TextBoxKeepsTheTextAsStoredAndTheBarTheNearestValue) {
   EXPECT_EQ(rig.Stored("Startup", "StartupTime"), "abc");
 }
 
+TEST_F(StoredSettings, GraphIntervalTakesTheNearestPosition) {
+  rig.Store("Settings", "CPU", "99");
+  EXPECT_EQ(Start().Startup().Slider7.Value(), 5);
+  EXPECT_EQ(rig.Stored("Settings", "CPU"), "99");
+}
+
 TEST_F(StoredSettings, LastTabIsOpened) {
   rig.Store("Settings", "LastTab", "3");
   EXPECT_EQ(Start().MainWindow().SSTab1.Tab(), 3);
