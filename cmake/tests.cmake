@@ -34,7 +34,7 @@ function(qdix_test name)
     add_test(NAME wine.${prefix} COMMAND ${name})
     set_tests_properties(wine.${prefix} PROPERTIES TIMEOUT 600)
   else()
-    gtest_discover_tests(${name} TEST_PREFIX "${prefix}." DISCOVERY_MODE PRE_TEST)
+    gtest_discover_tests(${name} TEST_PREFIX "${prefix}." DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES)
   endif()
 endfunction()
 

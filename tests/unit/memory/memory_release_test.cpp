@@ -1,6 +1,7 @@
 // The release itself: blocks, passes, pumps, errors, nesting, and closing in the middle.
 #include <gtest/gtest.h>
 
+#include "tests/support/control_bench.h"
 #include "tests/support/program_rig.h"
 
 namespace qdix::tests {
@@ -91,14 +92,14 @@ struct Passes {
 
 class PassCount : public Release, public testing::WithParamInterface<Passes> {};
 
-TEST_P(PassCount, FollowsTheTextWithOneBarEachAndTheButtonEnabledAfterwards) {
+TEST_P(PassCount, FollowsTheTextWithOneBarAndTheButtonDisabledAndEnabledAgain) {
   rig.graph.ClearCounts();
-  bool was_disabled = false;
-  rig.machine.OnPump([&](int) { was_disabled = was_disabled || !Button().Enabled(); });
+  NotingPeer peer;
+  Button().AttachPeer(&peer);
   Press("12 MB", GetParam().text);
   EXPECT_EQ(rig.machine.AllAllocations().size(), GetParam().count);
   EXPECT_EQ(rig.graph.CopyCount(), 1) << "one bar a release";
-  EXPECT_EQ(was_disabled, GetParam().count > 0);
+  EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kEnabled, ui::Change::kEnabled}));
   EXPECT_TRUE(Button().Enabled());
 }
 
