@@ -2,11 +2,11 @@
 #pragma once
 
 #ifdef __cplusplus
-// clang-format off
+// The printer functions, which the short form leaves out, would rename methods of ours.
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
 #include <windows.h>
-// clang-format on
-#undef FindWindow
-#undef GetClassName
 
 namespace testing::internal {
 

@@ -44,6 +44,7 @@ enum class Change : std::uint8_t {
   kVisible,
   kValue,
   kItems,
+  /// The range, and with it perhaps the value.
   kRange,
   kColour,
   kFocus,

@@ -32,15 +32,18 @@ bool Form::MoveFocus(Control* to) {
     return true;
   }
   if (focused_ != nullptr && !LeaveFocused()) return false;
-  focused_ = to;
+  // The handlers of the control left may have moved the focus themselves, or put `to` out of reach.
+  if (focused_ != nullptr) return focused_ == to;
   if (to == nullptr) return true;
+  if (!to->Reachable()) return false;
+  focused_ = to;
   to->Notify(Change::kFocus);
   events_.Run(to->OnGotFocus);
-  return true;
+  return focused_ == to;
 }
 
 /// Asks the control with the focus whether it lets go. It keeps the focus when it refuses, and when its
-/// handler put the focus back on it.
+/// handler put the focus back on it. A handler that put the control itself out of reach has settled it.
 bool Form::LeaveFocused() {
   if (moving_focus_) return false;
   Control* const left = focused_;
@@ -49,6 +52,7 @@ bool Form::LeaveFocused() {
   const bool accepted = Validates(*left);
   const bool kept = focus_set_by_handler_;
   moving_focus_ = false;
+  if (focused_ != left) return true;
   if (!accepted || kept) {
     left->Notify(Change::kFocus);  // a window that has already let go takes the keyboard back
     return false;

@@ -44,8 +44,9 @@ class Form final : public Container {
 
   /// The control with the keyboard, or null.
   [[nodiscard]] Control* Focused() const { return focused_; }
-  /// Moves the focus: validates the control left, then OnLostFocus there and OnGotFocus here. False when the
-  /// control left keeps it. Null takes the focus away from all controls (validated as well).
+  /// Moves the focus: validates the control left, then OnLostFocus there and OnGotFocus here. Null takes the
+  /// focus away from all controls (validated as well). False when the focus is not there in the end: `to` is
+  /// unreachable, the control left keeps it, or one of these handlers moved it on.
   bool MoveFocus(Control* to);
 
   /// Takes the focus from a control that can no longer be reached, without asking it.

@@ -72,7 +72,7 @@ bool ListControl::Choose(std::string_view text) {
 }
 
 void ListBox::DoubleClick(int index) {
-  if (!Reachable()) return;
+  if (!Reachable() || index < kNoSelection || index >= Count()) return;
   if (index != kNoSelection && index != SelectedIndex()) ChooseIndex(index);
   Events().Run(OnDoubleClick);
 }
@@ -82,21 +82,24 @@ void DropDownList::SetText(std::string_view text) {
   if (index != kNoSelection) base::Ignore(SetSelectedIndex(index));  // the row was just seen
 }
 
+/// Text and selection change together before the peer and OnChange look at them.
 void DropDownCombo::SetText(std::string_view text) {
-  ReplaceText(text);
+  const bool differs = text_ != text;
+  text_ = text;
   const int index = IndexOf(text_);
   if (index != SelectedIndex()) SelectSilently(index);
+  if (differs) TextChanged();
 }
 
 void DropDownCombo::UserEdited(std::string_view text) { SetText(text); }
 
 void DropDownCombo::SelectionChanged() {
-  if (SelectedIndex() != kNoSelection) ReplaceText(SelectedText());
+  if (SelectedIndex() == kNoSelection || text_ == SelectedText()) return;
+  text_ = SelectedText();
+  TextChanged();
 }
 
-void DropDownCombo::ReplaceText(std::string_view text) {
-  if (text_ == text) return;
-  text_ = text;
+void DropDownCombo::TextChanged() {
   Notify(Change::kValue);
   Events().Run(OnChange);
 }

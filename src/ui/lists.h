@@ -70,7 +70,7 @@ class ListBox final : public ListControl {
   ListBox(Container& parent, const Design& design) : ListControl(parent, Kind::kListBox, design, true) {}
 
   /// The user's double click on a row (selects it first), or on the empty part with kNoSelection (selects
-  /// nothing new).
+  /// nothing new). Nothing when unreachable or no such row.
   void DoubleClick(int index);
 
   Handler OnDoubleClick;
@@ -97,7 +97,8 @@ class DropDownList final : public ListControl {
   void SetText(std::string_view text);
 };
 
-/// A drop-down list whose text can also be typed.
+/// A drop-down list whose text can also be typed. Selecting a row takes over its text, and fires OnChange
+/// when the text differs; selecting nothing keeps the text.
 class DropDownCombo final : public ListControl {
  public:
   DropDownCombo(Container& parent, const Design& design)
@@ -114,7 +115,7 @@ class DropDownCombo final : public ListControl {
 
  private:
   void SelectionChanged() override;
-  void ReplaceText(std::string_view text);
+  void TextChanged();
 
   std::string text_;
 };

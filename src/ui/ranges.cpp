@@ -26,6 +26,7 @@ void VerticalScrollBar::SetNearest(double value) {
 }
 
 void VerticalScrollBar::SetRange(std::int32_t minimum, std::int32_t maximum) {
+  if (range_.minimum == minimum && range_.maximum == maximum) return;
   range_.minimum = minimum;
   range_.maximum = maximum;
   value_ = std::clamp(value_, Lowest(), Highest());
@@ -49,10 +50,17 @@ void VerticalScrollBar::Page(int pages) {
 }
 
 Slider::Slider(Container& parent, const Design& design, const SliderRange& range)
-    : Control(&parent, Kind::kSlider, design), range_(range) {}
+    : Control(&parent, Kind::kSlider, design), range_(range) {
+  range_.value = Nearest(range.value);
+}
+
+/// A minimum above the maximum leaves the minimum as the only value.
+std::int32_t Slider::Nearest(std::int32_t value) const {
+  return std::max(std::min(value, range_.maximum), range_.minimum);
+}
 
 void Slider::SetValue(std::int32_t value) {
-  const std::int32_t nearest = std::max(std::min(value, range_.maximum), range_.minimum);
+  const std::int32_t nearest = Nearest(value);
   if (range_.value == nearest) return;
   range_.value = nearest;
   Notify(Change::kValue);
@@ -60,16 +68,16 @@ void Slider::SetValue(std::int32_t value) {
 
 void Slider::SetNearest(double value) { SetValue(base::ClampToInt32(value, range_.minimum, range_.maximum)); }
 
-void Slider::SetMinimum(std::int32_t minimum) {
-  range_.minimum = minimum;
-  Notify(Change::kRange);
-  SetValue(range_.value);
-}
+void Slider::SetMinimum(std::int32_t minimum) { SetRange(minimum, range_.maximum); }
 
-void Slider::SetMaximum(std::int32_t maximum) {
+void Slider::SetMaximum(std::int32_t maximum) { SetRange(range_.minimum, maximum); }
+
+void Slider::SetRange(std::int32_t minimum, std::int32_t maximum) {
+  if (range_.minimum == minimum && range_.maximum == maximum) return;
+  range_.minimum = minimum;
   range_.maximum = maximum;
+  range_.value = Nearest(range_.value);
   Notify(Change::kRange);
-  SetValue(range_.value);
 }
 
 void Slider::Drag(std::int32_t value) {

@@ -55,7 +55,9 @@ struct SliderRange {
   std::int32_t large_change = 5;
 };
 
-/// Values from code are clamped and fire nothing; OnMove is the user's move only.
+/// Values from code are clamped, the first one too, and fire nothing; a new range moves the value to its
+/// nearest end. OnMove is the user's move only. A minimum above the maximum leaves the minimum as the only
+/// value.
 class Slider final : public Control {
  public:
   Slider(Container& parent, const Design& design, const SliderRange& range);
@@ -77,6 +79,9 @@ class Slider final : public Control {
   base::Callback<base::Status(std::int32_t)> OnMove;
 
  private:
+  void SetRange(std::int32_t minimum, std::int32_t maximum);
+  [[nodiscard]] std::int32_t Nearest(std::int32_t value) const;
+
   SliderRange range_;
 };
 

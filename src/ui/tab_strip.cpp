@@ -26,12 +26,12 @@ base::Status TabStrip::SetTab(int index) {
 }
 
 void TabStrip::ChooseTab(int index) {
-  if (!Reachable() || index == tab_) return;
+  if (!Reachable() || index == tab_ || index < 0 || index >= Count()) return;
   if (!GetForm().MoveFocus(this)) {
     Notify(Change::kValue);  // a window that has already switched goes back
     return;
   }
-  base::Ignore(SetTab(index));  // a page that does not exist is not opened
+  base::Ignore(SetTab(index));  // the page exists
 }
 
 }  // namespace qdix::ui

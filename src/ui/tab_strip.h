@@ -35,7 +35,7 @@ class TabStrip final : public Container {
   base::Status SetTab(int index);
 
   /// The user opens a page: the focus leaves the control it was on first (validation may refuse and keep the
-  /// page).
+  /// page). Nothing when unreachable or no such page.
   void ChooseTab(int index);
 
   base::Callback<base::Status(int)> OnClick;

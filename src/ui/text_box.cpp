@@ -63,7 +63,11 @@ bool TextBox::Type(char character) {
   }
   selection_start_ = static_cast<int>(start);
   selection_length_ = 0;
-  if (text != text_) ReplaceText(text);
+  if (text == text_) {
+    Notify(Change::kTextSelection);
+  } else {
+    ReplaceText(text);
+  }
   return true;
 }
 

@@ -31,24 +31,32 @@ class PixelCanvas final : public ui::Canvas {
 
   void FillBox(int x1, int y1, int x2, int y2, ui::Colour colour) override {
     ++fills_;
+    Fill(x1, y1, x2, y2, colour);
+  }
+
+  void FillBorderedBox(int x1, int y1, int x2, int y2, ui::Colour fill, ui::Colour border) override {
+    ++fills_;
+    Fill(x1, y1, x2, y2, border);
+    const auto [left, right] = std::minmax(x1, x2);
+    const auto [top, bottom] = std::minmax(y1, y2);
+    const bool has_inside = right - left >= 2 && bottom - top >= 2;
+    if (has_inside) Fill(left + 1, top + 1, right - 1, bottom - 1, fill);
+  }
+
+  [[nodiscard]] ui::Colour At(int x, int y) const { return pixels_.at(Index(x, y)); }
+  /// How often each operation was asked for, whatever came of it; a bordered box is one fill.
+  [[nodiscard]] int CopyCount() const { return copies_; }
+  [[nodiscard]] int FillCount() const { return fills_; }
+  void ClearCounts() { copies_ = fills_ = 0; }
+
+ private:
+  void Fill(int x1, int y1, int x2, int y2, ui::Colour colour) {
     for (int y = std::max(0, std::min(y1, y2)); y <= std::min(height_ - 1, std::max(y1, y2)); ++y) {
       for (int x = std::max(0, std::min(x1, x2)); x <= std::min(width_ - 1, std::max(x1, x2)); ++x) {
         pixels_[Index(x, y)] = colour;
       }
     }
   }
-
-  void FillBorderedBox(int x1, int y1, int x2, int y2, ui::Colour fill, ui::Colour border) override {
-    FillBox(x1, y1, x2, y2, border);
-    FillBox(x1 + 1, y1 + 1, x2 - 1, y2 - 1, fill);
-  }
-
-  [[nodiscard]] ui::Colour At(int x, int y) const { return pixels_.at(Index(x, y)); }
-  [[nodiscard]] int CopyCount() const { return copies_; }
-  [[nodiscard]] int FillCount() const { return fills_; }
-  void ClearCounts() { copies_ = fills_ = 0; }
-
- private:
   [[nodiscard]] bool Inside(int x, int y) const { return x >= 0 && y >= 0 && x < width_ && y < height_; }
   [[nodiscard]] std::size_t Index(int x, int y) const { return static_cast<std::size_t>(y * width_ + x); }
 

@@ -2,6 +2,7 @@
 // does.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 

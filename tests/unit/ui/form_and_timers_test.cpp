@@ -126,6 +126,98 @@ TEST_F(FormRules, ErrorsAfterUnloadAreDropped) {
   EXPECT_TRUE(bench.errors.empty());
 }
 
+class NotingFormPeer final : public ui::FormPeer {
+ public:
+  void PopUp(ui::MenuItem& menu) override { shown.push_back(&menu); }
+  void FormUnloaded() override { ++unloads; }
+  std::vector<ui::MenuItem*> shown;
+  int unloads = 0;
+};
+
+TEST_F(FormRules, PeerHearsOfTheUnloadOnceAndAfterTheHandler) {
+  NotingFormPeer peer;
+  bench.form.AttachFormPeer(&peer);
+  Handled unloaded;
+  unloaded.action = [&] {
+    EXPECT_EQ(peer.unloads, 0);
+    EXPECT_FALSE(bench.form.Unloaded());
+  };
+  bench.form.OnUnload = unloaded.Handler();
+  bench.form.Unload();
+  bench.form.Unload();
+  EXPECT_EQ(unloaded.count, 1);
+  EXPECT_EQ(peer.unloads, 1);
+}
+
+TEST_F(FormRules, FailingUnloadHandlerUnloadsAllTheSame) {
+  Handled unloaded;
+  unloaded.answer = base::kPathNotFound;
+  bench.form.OnUnload = unloaded.Handler();
+  bench.form.Unload();
+  EXPECT_TRUE(bench.form.Unloaded());
+  EXPECT_EQ(bench.errors, (std::vector<int>{76}));
+}
+
+TEST_F(FormRules, MenuPopsUpAtThePeerUntilTheFormUnloaded) {
+  NotingFormPeer peer;
+  ui::MenuItem menu(bench.events, "menu", "Menu");
+  bench.form.PopUpMenu(menu);
+  bench.form.AttachFormPeer(&peer);
+  bench.form.PopUpMenu(menu);
+  EXPECT_EQ(peer.shown, (std::vector<ui::MenuItem*>{&menu}));
+  bench.form.Unload();
+  bench.form.PopUpMenu(menu);
+  EXPECT_EQ(peer.shown.size(), 1U);
+}
+
+TEST_F(FormRules, UnloadedFormIsNeitherShownNorMinimised) {
+  Handled activated;
+  bench.form.Hide();
+  bench.form.OnActivate = activated.Handler();
+  bench.form.Unload();
+  bench.form.Show();
+  bench.form.SetState(ui::WindowState::kMinimised);
+  EXPECT_FALSE(bench.form.Shown());
+  EXPECT_EQ(bench.form.State(), ui::WindowState::kNormal);
+}
+
+TEST_F(FormRules, PeerIsToldOfAStateFromCodeAndNotOfTheUsersOwn) {
+  NotingPeer peer;
+  bench.form.AttachPeer(&peer);
+  bench.form.SetState(ui::WindowState::kMinimised);
+  bench.form.SetState(ui::WindowState::kMinimised);
+  bench.form.UserChangedState(ui::WindowState::kNormal);
+  EXPECT_EQ(bench.form.State(), ui::WindowState::kNormal);
+  EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kWindowState}));
+}
+
+struct PointerLog {
+  std::vector<double> numbers;
+  base::Status Moved(int button, int shift, double x_twips, double y_twips) {
+    numbers = {static_cast<double>(button), static_cast<double>(shift), x_twips, y_twips};
+    return base::kDone;
+  }
+};
+
+TEST_F(FormRules, PointersPlaceArrivesWithButtonAndShift) {
+  PointerLog log;
+  bench.form.OnMouseMove =
+      base::Callback<base::Status(int, int, double, double)>::To<&PointerLog::Moved>(log);
+  bench.form.PointerMoved(1, 2, 7725, -15);
+  EXPECT_EQ(log.numbers, (std::vector<double>{1, 2, 7725, -15}));
+}
+
+TEST_F(FormRules, TimersKeepTickingWhileTheFormIsHidden) {
+  SteppedTimers clock;
+  ui::Timer timer(bench.events, "Timer", 100, true);
+  Handled ticked;
+  timer.OnTimer = ticked.Handler();
+  clock.Add(timer);
+  bench.form.Hide();
+  clock.AdvanceMs(300);
+  EXPECT_EQ(ticked.count, 3);
+}
+
 class Timers : public testing::Test {
  protected:
   Timers() {
@@ -212,6 +304,58 @@ TEST_F(Timers, OtherTimersTickInsideAHandler) {
   };
   clock.AdvanceMs(1000);
   EXPECT_EQ(inside, 4) << "at 1100, 1210, 1320 and 1430";
+}
+
+TEST_F(Timers, ElapsedCountOfAStoppedTimerIsNoTick) {
+  timer.Elapse();
+  EXPECT_EQ(ticked.count, 0);
+}
+
+TEST_F(Timers, HandlerThatStopsItsTimerStopsIt) {
+  ticked.action = [&] { timer.SetEnabled(false); };
+  timer.SetEnabled(true);
+  clock.AdvanceMs(5000);
+  EXPECT_EQ(ticked.count, 1);
+}
+
+TEST_F(Timers, FailingHandlerIsReportedAndTheTimerGoesOn) {
+  ticked.answer = base::kOverflow;
+  timer.SetEnabled(true);
+  clock.AdvanceMs(2000);
+  EXPECT_EQ(bench.errors, (std::vector<int>{6, 6}));
+}
+
+TEST_F(Timers, LongestIntervalIsTaken) {
+  EXPECT_TRUE(timer.SetInterval(ui::Timer::kLongestIntervalMs).Ok());
+  timer.SetEnabled(true);
+  clock.AdvanceMs(65534);
+  EXPECT_EQ(ticked.count, 0);
+  clock.AdvanceMs(1);
+  EXPECT_EQ(ticked.count, 1);
+}
+
+/// Counts how often a peer is told to count anew.
+struct RestartCounter final : ui::TimerPeer {
+  void TimerRestarted(ui::Timer& /*timer*/) override { ++restarts; }
+  int restarts = 0;
+};
+
+TEST_F(Timers, PeerIsToldOfEachNewCountAndOfEachStop) {
+  RestartCounter peer;
+  timer.AttachPeer(&peer);
+  EXPECT_EQ(peer.restarts, 1) << "a timer may run already";
+  timer.SetEnabled(true);
+  timer.SetEnabled(true);
+  EXPECT_EQ(peer.restarts, 2);
+  EXPECT_TRUE(timer.SetInterval(1000).Ok());
+  EXPECT_EQ(peer.restarts, 2);
+  EXPECT_TRUE(timer.SetInterval(500).Ok());
+  EXPECT_EQ(peer.restarts, 3);
+  timer.SetEnabled(false);
+  EXPECT_EQ(peer.restarts, 4);
+  timer.AttachPeer(nullptr);
+  timer.SetEnabled(true);
+  EXPECT_EQ(peer.restarts, 4);
 }
 
 TEST_F(Timers, NothingTicksAfterTheFormUnloaded) {

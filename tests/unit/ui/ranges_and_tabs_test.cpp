@@ -99,6 +99,84 @@ TEST_F(Ranges, SliderIsClampedAndFiresForTheUsersMovesOnly) {
   EXPECT_EQ(moves.values.size(), 2U);
 }
 
+TEST_F(Ranges, SlidersFirstValueLiesInsideItsRange) {
+  EXPECT_EQ(ui::Slider(bench.form, {.name = "A"}, {.minimum = 512, .maximum = 4096}).Value(), 512);
+  EXPECT_EQ(ui::Slider(bench.form, {.name = "B"}, {.minimum = 1, .maximum = 5, .value = 9}).Value(), 5);
+}
+
+TEST_F(Ranges, SlidersNewRangeMovesTheValueToItsNearestEnd) {
+  ui::Slider slider(bench.form, {.name = "Slider"}, {.minimum = 0, .maximum = 100, .value = 50});
+  slider.SetMinimum(60);
+  EXPECT_EQ(slider.Value(), 60);
+  slider.SetMaximum(30);
+  EXPECT_EQ(slider.Value(), 60) << "a minimum above the maximum is the only value";
+  slider.SetMinimum(10);
+  EXPECT_EQ(slider.Value(), 30);
+}
+
+/// Notes which value a peer would find at each change.
+class ValueReader final : public ui::ControlPeer {
+ public:
+  void ControlChanged(ui::Control& control, ui::Change change) override {
+    changes.push_back(change);
+    values.push_back(static_cast<ui::Slider&>(control).Value());
+  }
+  std::vector<ui::Change> changes;
+  std::vector<std::int32_t> values;
+};
+
+TEST_F(Ranges, PeerOfASliderFindsTheValueInsideTheNewRange) {
+  ui::Slider slider(bench.form, {.name = "Slider"}, {.minimum = 0, .maximum = 100, .value = 50});
+  ValueReader reader;
+  slider.AttachPeer(&reader);
+  slider.SetMaximum(40);
+  slider.SetMaximum(40);
+  slider.SetValue(7);
+  EXPECT_EQ(reader.changes, (std::vector<ui::Change>{ui::Change::kRange, ui::Change::kValue}));
+  EXPECT_EQ(reader.values, (std::vector<std::int32_t>{40, 7}));
+}
+
+TEST_F(Ranges, PeerOfAScrollBarIsToldOfARangeOnlyWhenItIsNew) {
+  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 1, .maximum = 20});
+  NotingPeer peer;
+  bar.AttachPeer(&peer);
+  bar.SetRange(1, 20);
+  bar.SetRange(1, 30);
+  bar.SetRange(2, 30);
+  EXPECT_TRUE(bar.SetValue(3).Ok());
+  EXPECT_EQ(peer.changes,
+            (std::vector<ui::Change>{ui::Change::kRange, ui::Change::kRange, ui::Change::kValue}));
+}
+
+TEST_F(Ranges, UnreachableBarAndSliderDoNotMove) {
+  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 0, .maximum = 100});
+  ui::Slider slider(bench.form, {.name = "Slider"}, {});
+  bench.form.Hide();
+  bar.Step(1);
+  bar.Page(1);
+  bar.Drag(50);
+  slider.Drag(5);
+  EXPECT_EQ(bar.Value(), 0);
+  EXPECT_EQ(slider.Value(), 0);
+}
+
+TEST_F(Ranges, StepsAndPagesOfAnyNumberStopAtTheEnds) {
+  constexpr std::int32_t kMost = 0x7FFFFFFF;
+  ui::VerticalScrollBar bar(
+      bench.form, {.name = "Bar"},
+      {.minimum = -kMost, .maximum = kMost, .small_change = kMost, .large_change = kMost});
+  bar.Page(kMost);
+  EXPECT_EQ(bar.Value(), kMost);
+  bar.Step(-kMost);
+  EXPECT_EQ(bar.Value(), -kMost);
+}
+
+TEST_F(Ranges, PageTowardTheTopOfAnInvertedBarIncreases) {
+  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 100, .maximum = 0, .large_change = 30});
+  bar.Page(-1);
+  EXPECT_EQ(bar.Value(), 30);
+}
+
 constexpr std::array<ui::Design, 3> kPages{{{.name = "One"}, {.name = "Two"}, {.name = "Three"}}};
 
 class Tabs : public testing::Test {
@@ -165,7 +243,7 @@ class Menus : public testing::Test {
  protected:
   ControlBench bench;
   ui::MenuItem menu{bench.events, "menu", "Menu"};
-  ui::MenuItem entry{menu, "entry", "Entry && more"};
+  ui::MenuItem entry{menu, "entry", "Entry & more"};
   ui::MenuItem bar{menu, "bar", ui::MenuItem::kSeparatorCaption};
   ui::MenuItem sub{menu, "sub", "Programs"};
   ui::MenuItem first{sub, "first", "First"};
@@ -191,6 +269,31 @@ TEST_F(Menus, DisabledEntriesAndThoseBelowADisabledMenuDoNothing) {
   sub.SetEnabled(false);
   first.Choose();
   EXPECT_EQ(clicked.count, 0);
+}
+
+TEST_F(Menus, HiddenEntriesAndThoseBelowAHiddenMenuDoNothing) {
+  first.OnClick = clicked.Handler();
+  EXPECT_TRUE(first.SetVisible(false).Ok());
+  first.Choose();
+  EXPECT_TRUE(first.SetVisible(true).Ok());
+  EXPECT_TRUE(sub.SetVisible(false).Ok());
+  first.Choose();
+  EXPECT_EQ(clicked.count, 0);
+}
+
+TEST_F(Menus, HiddenEntryCanBeHiddenAgain) {
+  EXPECT_TRUE(first.SetVisible(false).Ok());
+  EXPECT_TRUE(first.SetVisible(false).Ok());
+  EXPECT_TRUE(second.Visible());
+}
+
+TEST_F(Menus, RootMenuCanBeHidden) {
+  EXPECT_TRUE(menu.SetVisible(false).Ok());
+  EXPECT_FALSE(menu.Visible());
+}
+
+TEST_F(Menus, EntriesStandInTheOrderOfTheirMaking) {
+  EXPECT_EQ(menu.Children(), (std::vector<ui::MenuItem*>{&entry, &bar, &sub}));
 }
 
 TEST_F(Menus, LastVisibleEntryOfASubmenuCannotBeHidden) {

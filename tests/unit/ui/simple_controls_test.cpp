@@ -164,6 +164,99 @@ TEST_F(SimpleControls, DisablingAFrameTellsThePeersOfWhatStandsInIt) {
   EXPECT_FALSE(button.EffectivelyEnabled());
 }
 
+TEST_F(SimpleControls, FieldsForTextAndListsAreWhiteAndTheOthersGrey) {
+  EXPECT_EQ(ui::TextBox(bench.form, {.name = "Text"}).BackColour(), ui::kWindowBackground);
+  EXPECT_EQ(ui::ListBox(bench.form, {.name = "List"}).BackColour(), ui::kWindowBackground);
+  EXPECT_EQ(ui::DropDownList(bench.form, {.name = "Drop"}).BackColour(), ui::kWindowBackground);
+  EXPECT_EQ(ui::DropDownCombo(bench.form, {.name = "Combo"}).BackColour(), ui::kWindowBackground);
+  EXPECT_EQ(ui::Label(bench.form, {.name = "Label"}).BackColour(), ui::kButtonFace);
+  EXPECT_EQ(bench.form.BackColour(), ui::kButtonFace);
+}
+
+TEST_F(SimpleControls, ControlStartsAsItWasDesigned) {
+  const ui::Button button(bench.form,
+                          {.name = "Button",
+                           .caption = "Go",
+                           .access_key = 'G',
+                           .tool_tip = "Tip",
+                           .place = {1, 2, 3, 4},
+                           .visible = false,
+                           .enabled = false},
+                          ui::ButtonRole::kCancel);
+  EXPECT_EQ(button.Caption(), "Go");
+  EXPECT_EQ(button.AccessKey(), 'G');
+  EXPECT_EQ(button.ToolTip(), "Tip");
+  EXPECT_EQ(button.GetPlace().height, 4);
+  EXPECT_FALSE(button.Visible());
+  EXPECT_FALSE(button.Enabled());
+  EXPECT_EQ(button.Role(), ui::ButtonRole::kCancel);
+  EXPECT_EQ(button.Parent(), &bench.form);
+  EXPECT_EQ(&button.GetForm(), &bench.form);
+}
+
+TEST_F(SimpleControls, PeersOfCheckBoxAndOptionsAreToldOfEachValueThatChanged) {
+  ui::CheckBox box(bench.form, {.name = "Box"});
+  ui::OptionButton a(bench.form, {.name = "A"});
+  ui::OptionButton b(bench.form, {.name = "B"});
+  ui::OptionButton untouched(bench.form, {.name = "C"});
+  a.SetSelected(true);
+  NotingPeer box_peer;
+  NotingPeer a_peer;
+  NotingPeer b_peer;
+  NotingPeer untouched_peer;
+  box.AttachPeer(&box_peer);
+  a.AttachPeer(&a_peer);
+  b.AttachPeer(&b_peer);
+  untouched.AttachPeer(&untouched_peer);
+  box.SetTicked(true);
+  b.SetSelected(true);
+  const std::vector<ui::Change> value_once{ui::Change::kValue};
+  EXPECT_EQ(box_peer.changes, value_once);
+  EXPECT_EQ(a_peer.changes, value_once);
+  EXPECT_EQ(b_peer.changes, value_once);
+  EXPECT_TRUE(untouched_peer.changes.empty());
+}
+
+TEST_F(SimpleControls, PeerIsToldBeforeTheHandlerRuns) {
+  ui::CheckBox box(bench.form, {.name = "Box"});
+  NotingPeer peer;
+  box.AttachPeer(&peer);
+  clicked.action = [&] { EXPECT_EQ(peer.changes.size(), 1U); };
+  box.OnClick = clicked.Handler();
+  box.SetTicked(true);
+  EXPECT_EQ(clicked.count, 1);
+}
+
+TEST_F(SimpleControls, OptionsHandlerMayChooseAnother) {
+  ui::OptionButton a(bench.form, {.name = "A"});
+  ui::OptionButton b(bench.form, {.name = "B"});
+  clicked.action = [&] { a.SetSelected(true); };
+  b.OnClick = clicked.Handler();
+  b.Press();
+  EXPECT_TRUE(a.Selected());
+  EXPECT_FALSE(b.Selected());
+}
+
+TEST_F(SimpleControls, UnreachableCheckBoxAndOptionKeepTheirValues) {
+  ui::CheckBox box(bench.form, {.name = "Box"});
+  ui::OptionButton option(bench.form, {.name = "Option"});
+  bench.form.SetEnabled(false);
+  box.Press();
+  option.Press();
+  EXPECT_EQ(box.Value(), 0);
+  EXPECT_FALSE(option.Selected());
+}
+
+TEST_F(SimpleControls, HandlerThatUnloadsTheFormIsTheLastToRun) {
+  ui::CheckBox box(bench.form, {.name = "Box"});
+  clicked.action = [&] { bench.form.Unload(); };
+  box.OnClick = clicked.Handler();
+  box.SetTicked(true);
+  box.SetTicked(false);
+  EXPECT_EQ(clicked.count, 1);
+  EXPECT_EQ(box.Value(), 0) << "assignments go on without handlers";
+}
+
 TEST_F(SimpleControls, ControlsAreFoundByNameAtAnyDepth) {
   ui::Frame frame(bench.form, {.name = "Frame"});
   ui::Button button(frame, {.name = "Button"});

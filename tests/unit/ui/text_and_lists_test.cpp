@@ -84,6 +84,102 @@ TEST_F(TextBoxRules, EditInTheWindowFiresOnceAndIsNotSentBackToIt) {
   EXPECT_TRUE(peer.changes.empty());
 }
 
+TEST_F(TextBoxRules, AssignmentPutsTheCaretBeforeTheText) {
+  box.SetText("80");
+  box.SelectAll();
+  EXPECT_EQ(box.SelectionLength(), 2);
+  box.SetText("90");
+  EXPECT_EQ(box.SelectionStart(), 0);
+  EXPECT_EQ(box.SelectionLength(), 0);
+  EXPECT_TRUE(box.Type('1'));
+  EXPECT_EQ(box.Text(), "190");
+}
+
+TEST_F(TextBoxRules, SameTextKeepsTheSelection) {
+  box.SetText("80");
+  box.SelectAll();
+  box.SetText("80");
+  EXPECT_EQ(box.SelectionLength(), 2);
+}
+
+TEST_F(TextBoxRules, SelectionAndTextAreToldToThePeer) {
+  NotingPeer peer;
+  box.AttachPeer(&peer);
+  box.SetText("80");
+  box.SelectAll();
+  EXPECT_TRUE(box.Type('5'));
+  EXPECT_EQ(peer.changes,
+            (std::vector<ui::Change>{ui::Change::kValue, ui::Change::kTextSelection, ui::Change::kValue}));
+}
+
+TEST_F(TextBoxRules, SelectionCanBeReplacedInAFullBox) {
+  box.SetText("abcde");
+  box.SelectAll();
+  EXPECT_TRUE(box.Type('x'));
+  EXPECT_EQ(box.Text(), "x");
+}
+
+TEST_F(TextBoxRules, SameCharacterOverItselfMovesTheCaretAndFiresNothing) {
+  NotingPeer peer;
+  box.SetText("7");
+  box.SelectAll();
+  box.AttachPeer(&peer);
+  EXPECT_TRUE(box.Type('7'));
+  EXPECT_EQ(box.SelectionStart(), 1);
+  EXPECT_EQ(changed.count, 1);
+  EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kTextSelection}));
+}
+
+TEST_F(TextBoxRules, TypingReadsTheTextThatTheKeyHandlerLeft) {
+  struct Replacer {
+    ui::TextBox& box;
+    base::Status Replace(char& /*character*/) {
+      box.SetText("");
+      return base::kDone;
+    }
+  } replacer{box};
+  box.SetText("abcd");
+  box.SelectAll();
+  box.OnKeyPress = base::Callback<base::Status(char&)>::To<&Replacer::Replace>(replacer);
+  EXPECT_TRUE(box.Type('x'));
+  EXPECT_EQ(box.Text(), "x");
+}
+
+TEST_F(TextBoxRules, ChangeHandlerMayAssignAgain) {
+  changed.action = [&] { box.SetText("99"); };
+  box.TypeText("1");
+  EXPECT_EQ(box.Text(), "99");
+  EXPECT_EQ(changed.count, 2);
+}
+
+TEST_F(TextBoxRules, UnreachableBoxTakesNoTyping) {
+  box.SetEnabled(false);
+  EXPECT_FALSE(box.Type('1'));
+  EXPECT_EQ(box.Text(), "");
+}
+
+TEST_F(TextBoxRules, KeyHandlerThatUnloadsTheFormLetsNothingBeTyped) {
+  struct Unloader {
+    ui::Form& form;
+    base::Status Unload(char& /*character*/) {
+      form.Unload();
+      return base::kDone;
+    }
+  } unloader{bench.form};
+  box.OnKeyPress = base::Callback<base::Status(char&)>::To<&Unloader::Unload>(unloader);
+  box.TypeText("12");
+  EXPECT_EQ(box.Text(), "");
+}
+
+TEST_F(TextBoxRules, SelectionOfAnEditInTheWindowIsKeptInsideTheText) {
+  box.UserEdited("abc", 2, 7);
+  EXPECT_EQ(box.SelectionStart(), 2);
+  EXPECT_EQ(box.SelectionLength(), 1);
+  box.UserEdited("abc", 9, -1);
+  EXPECT_EQ(box.SelectionStart(), 3);
+  EXPECT_EQ(box.SelectionLength(), 0);
+}
+
 class ListRules : public testing::Test {
  protected:
   void Fill(ui::ListControl& list) {
@@ -150,6 +246,74 @@ TEST_F(ListRules, DoubleClickSelectsItsRowFirst) {
   EXPECT_EQ(clicked.count, 1);
 }
 
+TEST_F(ListRules, DoubleClickOnTheSelectedRowIsNoFurtherClick) {
+  ui::ListBox list(bench.form, {.name = "List"});
+  Fill(list);
+  EXPECT_TRUE(list.Choose("10"));
+  list.DoubleClick(1);
+  EXPECT_EQ(clicked.count, 1);
+}
+
+TEST_F(ListRules, DoubleClickOutsideTheRowsOrOutOfReachDoesNothing) {
+  ui::ListBox list(bench.form, {.name = "List"});
+  Fill(list);
+  Handled opened;
+  list.OnDoubleClick = opened.Handler();
+  list.DoubleClick(3);
+  list.DoubleClick(-2);
+  list.SetEnabled(false);
+  list.DoubleClick(1);
+  EXPECT_EQ(opened.count, 0);
+  EXPECT_EQ(clicked.count, 0);
+}
+
+TEST_F(ListRules, UnreachableListTakesNoChoice) {
+  ui::ListBox list(bench.form, {.name = "List"});
+  Fill(list);
+  list.SetVisible(false);
+  EXPECT_FALSE(list.Choose("10"));
+  list.ChooseIndex(2);
+  EXPECT_EQ(list.SelectedIndex(), ui::ListControl::kNoSelection);
+  EXPECT_EQ(clicked.count, 0);
+}
+
+TEST_F(ListRules, ChoiceOutsideTheListIsNone) {
+  ui::ListBox list(bench.form, {.name = "List"});
+  Fill(list);
+  list.ChooseIndex(3);
+  list.ChooseIndex(-1);
+  EXPECT_EQ(list.SelectedIndex(), ui::ListControl::kNoSelection);
+  EXPECT_EQ(clicked.count, 0);
+}
+
+TEST_F(ListRules, PeerIsToldOfRowsAndOfTheSelection) {
+  ui::ListBox list(bench.form, {.name = "List"});
+  NotingPeer peer;
+  list.AttachPeer(&peer);
+  list.AddItem("5");
+  EXPECT_TRUE(list.SetSelectedIndex(0).Ok());
+  list.Clear();
+  EXPECT_EQ(peer.changes,
+            (std::vector<ui::Change>{ui::Change::kItems, ui::Change::kValue, ui::Change::kItems}));
+}
+
+TEST_F(ListRules, ClickHandlerMayClearTheList) {
+  ui::ListBox list(bench.form, {.name = "List"});
+  Fill(list);
+  clicked.action = [&] { list.Clear(); };
+  EXPECT_TRUE(list.Choose("10"));
+  EXPECT_EQ(list.Count(), 0);
+  EXPECT_EQ(clicked.count, 1);
+}
+
+TEST_F(ListRules, FirstOfEqualRowsIsFound) {
+  ui::DropDownList list(bench.form, {.name = "Drop"});
+  Fill(list);
+  list.AddItem("10");
+  list.SetText("10");
+  EXPECT_EQ(list.SelectedIndex(), 1);
+}
+
 TEST_F(ListRules, DropDownKeepsItsSelectionForATextThatIsNoRow) {
   ui::DropDownList list(bench.form, {.name = "Drop"});
   Fill(list);
@@ -186,6 +350,49 @@ TEST_F(ListRules, ComboTakesAnyTextAndSelectsTheRowThatEqualsIt) {
   EXPECT_EQ(combo.Text(), "5");
   EXPECT_EQ(clicked.count, 1);
   EXPECT_EQ(changed.count, 3);
+}
+
+TEST_F(ListRules, CombosChangeHandlerSeesTheSelectionThatBelongsToTheText) {
+  ui::DropDownCombo combo(bench.form, {.name = "Combo"});
+  Fill(combo);
+  Handled changed;
+  std::vector<int> seen;
+  changed.action = [&] { seen.push_back(combo.SelectedIndex()); };
+  combo.OnChange = changed.Handler();
+  combo.SetText("20");
+  combo.SetText("2");
+  combo.SetText("2");
+  EXPECT_TRUE(combo.SetSelectedIndex(1).Ok());
+  EXPECT_EQ(seen, (std::vector<int>{2, ui::ListControl::kNoSelection, 1}));
+}
+
+/// Notes what text and selection a peer would find at each change.
+class ComboReader final : public ui::ControlPeer {
+ public:
+  void ControlChanged(ui::Control& control, ui::Change /*change*/) override {
+    const auto& combo = static_cast<ui::DropDownCombo&>(control);
+    read.push_back(combo.Text() + "/" + combo.SelectedText());
+  }
+  std::vector<std::string> read;
+};
+
+TEST_F(ListRules, CombosPeerNeverFindsTheOldTextAfterTheUserEditedIt) {
+  ui::DropDownCombo combo(bench.form, {.name = "Combo"});
+  Fill(combo);
+  combo.SetText("20");
+  ComboReader reader;
+  combo.AttachPeer(&reader);
+  combo.UserEdited("2");
+  ASSERT_FALSE(reader.read.empty());
+  for (const std::string& read : reader.read) EXPECT_EQ(read, "2/");
+}
+
+TEST_F(ListRules, ClearingTheSelectionOfAComboKeepsItsText) {
+  ui::DropDownCombo combo(bench.form, {.name = "Combo"});
+  Fill(combo);
+  combo.SetText("20");
+  EXPECT_TRUE(combo.SetSelectedIndex(ui::ListControl::kNoSelection).Ok());
+  EXPECT_EQ(combo.Text(), "20");
 }
 
 TEST_F(ListRules, ListHoldsNoMoreThanTheSystemsLists) {
