@@ -5,18 +5,24 @@ add_library(qdix_warnings INTERFACE)
 target_compile_options(qdix_warnings INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Werror;-Wshadow;\
 -Wconversion;-Wnon-virtual-dtor;-Woverloaded-virtual;-Wvla>")
 
-# The Windows that is asked for: structures and names of the first Windows 95. As compiler flags, because the compiler's own headers
-# choose a later one before a #define could.
+# The Windows that is asked for: structures and names of the first Windows 95. As compiler flags, because the
+# compiler's own headers choose a later one before a #define could.
 add_library(qdix_windows95 INTERFACE)
 target_compile_definitions(qdix_windows95 INTERFACE
   WINVER=0x0400 _WIN32_WINNT=0x0400 _WIN32_WINDOWS=0x0400 _WIN32_IE=0x0300 WIN32_LEAN_AND_MEAN)
 
-# Code that ships: any processor from the 386 with its 387, no exceptions, no run-time types. src/runtime/README.md has the reasons.
+# The arithmetic of the shipped programs: any processor from the 386 with its 387. The tests under Wine compile the
+# program with it as well. src/runtime/README.md has the reasons of these flags and of the next.
+add_library(qdix_arithmetic INTERFACE)
+target_compile_options(qdix_arithmetic INTERFACE
+  "$<$<COMPILE_LANGUAGE:CXX>:-march=i386;-mfpmath=387;-ffloat-store>")
+
+# Code that ships: no exceptions, no run-time types.
 add_library(qdix_shipped INTERFACE)
-target_compile_options(qdix_shipped INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Os;-march=i386;-mfpmath=387;-ffloat-store;\
+target_compile_options(qdix_shipped INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Os;\
 -fno-exceptions;-fno-rtti;-fno-threadsafe-statics;-fno-use-cxa-atexit;-fno-asynchronous-unwind-tables;\
 -ffunction-sections;-fdata-sections;-Walloca;-Wframe-larger-than=3000;-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
-target_link_libraries(qdix_shipped INTERFACE qdix_windows95)
+target_link_libraries(qdix_shipped INTERFACE qdix_windows95 qdix_arithmetic)
 
 add_library(qdix_sanitizers INTERFACE)
 if(QDIX_SANITIZE)

@@ -17,10 +17,10 @@ include(GoogleTest)
 add_library(qdix_simulated STATIC ${simulated_sources})
 target_link_libraries(qdix_simulated PRIVATE qdix_warnings PUBLIC qdix_program)
 
-# qdix_test(<name> SOURCES <file>... LIBRARIES <target>...): a test program. On this machine each of its tests is one of ctest's; under Wine the
-# program is, because starting Wine for each would take longer than the tests.
+# qdix_test(<name> SOURCES <file>... LIBRARIES <target>...): a test program. On this machine each of its tests is one
+# of ctest's; under Wine the program is, because starting Wine for each would take longer than the tests.
 function(qdix_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 test "" "TIMEOUT" "SOURCES;LIBRARIES")
+  cmake_parse_arguments(PARSE_ARGV 1 test "" "" "SOURCES;LIBRARIES")
   if(NOT test_SOURCES)
     return()
   endif()
@@ -70,5 +70,10 @@ else()
   qdix_test(contract_tests SOURCES ${contract_sources} LIBRARIES qdix_simulated)
   file(GLOB fuzz_sources CONFIGURE_DEPENDS tests/fuzz/*.cpp)
   qdix_test(fuzz_tests SOURCES ${fuzz_sources} LIBRARIES qdix_simulated)
+
+  # The self-test of the shipped programs' run time, with this machine's C library.
+  add_executable(runtime_probe tests/image/runtime_probe.cpp tests/image/runtime_probe_host.cpp)
+  target_link_libraries(runtime_probe PRIVATE qdix_warnings qdix_program)
+  add_test(NAME image.runtime_probe_on_host COMMAND runtime_probe)
   include(cmake/lint.cmake)
 endif()

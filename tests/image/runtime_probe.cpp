@@ -48,6 +48,15 @@ bool LongNumbersDivide() {
          dividend % Hidden<std::int64_t>(10) == -1;
 }
 
+/// With a longer significand the small summand would survive until the difference. The operands stand ready
+/// before: a call in between would store the sum, which rounds it in any case.
+bool SumsHave53Bits() {
+  const double one = Hidden(1.0);
+  const double past_the_last_bit = Hidden(0x1p-60);
+  const double last_bit = Hidden(0x1p-52);
+  return (one + past_the_last_bit) - one == 0 && (one + last_bit) - one == last_bit;
+}
+
 bool NumbersRound() {
   using namespace qdix::base;
   return WholePart(Hidden(-0.5)) == -1 && RoundHalfEven(Hidden(2.5)) == 2 &&
@@ -58,8 +67,8 @@ bool NumbersRound() {
 }  // namespace
 
 extern "C" int QdixMain(void* /*instance*/, int /*show_command*/) {
-  constexpr bool (*kSteps[])() = {&MemoryFunctionsWork, &TextsGrow, &ListsGrow, &LongNumbersDivide,
-                                  &NumbersRound};
+  constexpr bool (*kSteps[])() = {&MemoryFunctionsWork, &TextsGrow,      &ListsGrow,
+                                  &LongNumbersDivide,   &SumsHave53Bits, &NumbersRound};
   int number = 0;
   for (const auto step : kSteps) {
     ++number;
