@@ -78,7 +78,7 @@ class NativeControl : public ControlPeer, private MessageHandler {
   [[nodiscard]] virtual bool TakesKeyboard() const { return true; }
   [[nodiscard]] virtual bool ShouldShow() const;
   /// The text that the window carries for the model's caption.
-  [[nodiscard]] virtual std::string NativeCaption() const;
+  [[nodiscard]] std::string NativeCaption() const;
   virtual void ValueChanged() {}
   virtual void ItemsChanged() {}
   virtual void RangeChanged() {}

@@ -18,14 +18,8 @@ NativeDesign ButtonDesign(const PeerContext& context, const Control& model, DWOR
           .box = context.font.Pixels(model.GetPlace())};
 }
 
-/// A label without a key shows its text as it is. One with a tool tip has to see the pointer.
-DWORD LabelStyle(const Label& model) {
-  return SS_LEFT | (model.AccessKey() == 0 ? SS_NOPREFIX : 0UL) | (model.ToolTip().empty() ? 0UL : SS_NOTIFY);
-}
-
-std::string LabelText(const Label& model) {
-  return model.AccessKey() == 0 ? model.Caption() : MarkedCaption(model);
-}
+/// A label with a tool tip has to see the pointer.
+DWORD LabelStyle(const Label& model) { return SS_LEFT | (model.ToolTip().empty() ? 0UL : SS_NOTIFY); }
 
 /// What the arrow keys mean inside a group of options.
 int DirectionOf(WPARAM key) {
@@ -47,11 +41,11 @@ std::vector<OptionButton*> GroupOf(const OptionButton& option) {
 LabelPeer::LabelPeer(const PeerContext& context, Label& model, HWND parent, int number)
     : NativeControl(context, model, parent, number,
                     {.window_class = "STATIC",
-                     .text = LabelText(model),
+                     // An ampersand of the text is doubled even where there is no key: the search for the key
+                     // that was pressed would take "& " for a key on the space bar, whatever the style says.
+                     .text = MarkedCaption(model),
                      .style = LabelStyle(model),
                      .box = context.font.Pixels(model.GetPlace())}) {}
-
-std::string LabelPeer::NativeCaption() const { return LabelText(static_cast<const Label&>(Model())); }
 
 FramePeer::FramePeer(const PeerContext& context, Frame& model, HWND parent, int number)
     : NativeControl(context, model, parent, number, ButtonDesign(context, model, BS_GROUPBOX | WS_GROUP)) {}

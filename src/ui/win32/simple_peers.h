@@ -12,7 +12,6 @@ class LabelPeer final : public NativeControl {
 
  private:
   [[nodiscard]] bool TakesKeyboard() const override { return false; }
-  [[nodiscard]] std::string NativeCaption() const override;
 };
 
 class FramePeer final : public NativeControl {
