@@ -1,16 +1,8 @@
-// Looks at the running program from outside, for scripts:   qdix_probe COMMAND [NAME]
-//   wait-window          waits until the main window is shown
-//   caption              prints the caption of the main window
-//   text NAME            prints the text of a control
-//   enabled NAME         prints 1 or 0
-//   rect NAME            prints the place of a control on the screen: x y width height
-//   committed            prints the committed private bytes of the program
-//   peak                 prints "sampling", then the most committed bytes from the disabling of Command1 to
-//   its enabling answer-boxes         presses OK in every message box and prints its text close closes the
-//   main window and waits for it to go
-// The exit code is 0 when the answer was found.
+// Looks at the running program from outside, and acts on it, for scripts:   qdix_probe COMMAND [ARGUMENT...]
+// The exit code is 0 when the answer was found or the deed was done. kUsage has the commands.
 #include <algorithm>
 #include <cstdio>
+#include <span>
 #include <string>
 
 #include "tests/e2e/driver/shipped_program.h"
@@ -19,7 +11,24 @@ namespace {
 
 using qdix::e2e::Eventually;
 using qdix::e2e::ShippedProgram;
+using Arguments = std::span<const char* const>;
 
+constexpr const char* kUsage =
+    "qdix_probe COMMAND [ARGUMENT...]\n"
+    "  wait-window       waits until the main window is shown\n"
+    "  caption           prints the caption of the main window\n"
+    "  text NAME         prints the text of a control\n"
+    "  enabled NAME      prints 1 or 0\n"
+    "  rect NAME         prints the place of a control on the screen: x y width height, in pixels\n"
+    "  choose NAME TEXT  picks the row of a list\n"
+    "  committed         prints the private committed bytes of the program\n"
+    "  peak              prints \"sampling\", then the most committed bytes from the moment when Command1 "
+    "is\n"
+    "                    disabled until it is enabled again\n"
+    "  answer-boxes      presses OK in every message box of the program and prints its text\n"
+    "  close             closes the main window and waits until the program has ended\n";
+
+constexpr int kDisablingDeadlineMs = 10000;
 constexpr int kReleaseDeadlineMs = 180000;
 
 int Fail(const std::string& why) {
@@ -27,66 +36,100 @@ int Fail(const std::string& why) {
   return 1;
 }
 
-int PrintPeak(const ShippedProgram& program) {
+int PrintBytes(std::uint64_t bytes) {
+  std::printf("%llu\n", static_cast<unsigned long long>(bytes));
+  return 0;
+}
+
+int WaitWindow() {
+  const bool shown = Eventually([] {
+    ShippedProgram program;
+    return program.Attach() && IsWindowVisible(program.MainWindow()) != 0;
+  });
+  return shown ? 0 : Fail("the window is not shown");
+}
+
+int Caption(const ShippedProgram& program) {
+  std::puts(program.Caption().c_str());
+  return 0;
+}
+
+int Committed(const ShippedProgram& program) { return PrintBytes(program.CommittedBytes()); }
+
+int Peak(const ShippedProgram& program) {
   std::puts("sampling");
   std::uint64_t peak_bytes = 0;
-  const auto sample = [&] { peak_bytes = std::max(peak_bytes, program.CommittedBytes()); };
-  const bool began = Eventually([&] {
-    sample();
-    return !program.IsEnabled("Command1");
-  });
-  if (!began) return Fail("Command1 was not disabled");
-  const bool ended = Eventually(
-      [&] {
-        sample();
-        return program.IsEnabled("Command1");
-      },
-      kReleaseDeadlineMs);
-  if (!ended) return Fail("Command1 was not enabled again");
-  std::printf("%llu\n", static_cast<unsigned long long>(peak_bytes));
+  const auto sample_until = [&](bool enabled, int deadline_ms) {
+    return Eventually(
+        [&] {
+          peak_bytes = std::max(peak_bytes, program.CommittedBytes());
+          return program.IsEnabled("Command1") == enabled;
+        },
+        deadline_ms);
+  };
+  if (!sample_until(false, kDisablingDeadlineMs)) return Fail("Command1 was not disabled");
+  if (!sample_until(true, kReleaseDeadlineMs)) return Fail("Command1 was not enabled again");
+  return PrintBytes(peak_bytes);
+}
+
+int AnswerBoxes(const ShippedProgram& program) {
+  for (const std::string& text : program.AnswerBoxes()) std::puts(text.c_str());
+  return program.MessageBoxes().empty() ? 0 : Fail("a message box stays open");
+}
+
+int Close(const ShippedProgram& program) {
+  program.Close();
+  return Eventually([&] { return !program.IsRunning(); }) ? 0 : Fail("the program goes on");
+}
+
+int Text(const ShippedProgram& program, const std::string& name) {
+  std::puts(program.Text(name).c_str());
   return 0;
 }
 
-int RunOnControl(const ShippedProgram& program, const std::string& command, const std::string& name) {
-  if (program.Control(name) == nullptr) return Fail("no control " + name);
-  if (command == "text") {
-    std::puts(program.Text(name).c_str());
-  } else if (command == "enabled") {
-    std::puts(program.IsEnabled(name) ? "1" : "0");
-  } else if (command == "rect") {
-    const RECT rect = program.ScreenRect(name);
-    std::printf("%ld %ld %ld %ld\n", rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top);
-  } else {
-    return Fail("no command " + command);
-  }
+int Enabled(const ShippedProgram& program, const std::string& name) {
+  std::puts(program.IsEnabled(name) ? "1" : "0");
   return 0;
 }
 
-int Run(ShippedProgram& program, const std::string& command) {
-  if (command == "wait-window") return program.WaitForWindow() ? 0 : Fail("the window is not shown");
-  if (command == "caption") {
-    std::puts(program.Caption().c_str());
-  } else if (command == "committed") {
-    std::printf("%llu\n", static_cast<unsigned long long>(program.CommittedBytes()));
-  } else if (command == "answer-boxes") {
-    for (const std::string& text : program.AnswerBoxes()) std::puts(text.c_str());
-  } else if (command == "close") {
-    program.Close();
-    if (!Eventually([&] { return program.MainWindow() == nullptr; })) return Fail("the window stays open");
-  } else if (command == "peak") {
-    return PrintPeak(program);
-  } else {
-    return Fail("no command " + command);
-  }
+int Rect(const ShippedProgram& program, const std::string& name) {
+  const RECT rect = program.ScreenRect(name);
+  std::printf("%ld %ld %ld %ld\n", rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top);
   return 0;
+}
+
+int RunOnProgram(const ShippedProgram& program, const std::string& command) {
+  if (command == "caption") return Caption(program);
+  if (command == "committed") return Committed(program);
+  if (command == "peak") return Peak(program);
+  if (command == "answer-boxes") return AnswerBoxes(program);
+  if (command == "close") return Close(program);
+  return Fail(std::string("usage:\n") + kUsage);
+}
+
+int RunOnControl(const ShippedProgram& program, const std::string& command, Arguments arguments) {
+  const std::string name = arguments[0];
+  if (!program.HasControl(name)) return Fail("no control " + name);
+  if (command == "text" && arguments.size() == 1) return Text(program, name);
+  if (command == "enabled" && arguments.size() == 1) return Enabled(program, name);
+  if (command == "rect" && arguments.size() == 1) return Rect(program, name);
+  if (command == "choose" && arguments.size() == 2) {
+    return program.Choose(name, arguments[1]) ? 0 : Fail(name + " has no row " + arguments[1]);
+  }
+  return Fail(std::string("usage:\n") + kUsage);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  // A script reads the first line of `peak` while the program still runs.
   std::setvbuf(stdout, nullptr, _IONBF, 0);
-  if (argc < 2) return Fail("which command?");
+  const Arguments arguments(argv, static_cast<std::size_t>(argc));
+  if (arguments.size() < 2) return Fail(std::string("usage:\n") + kUsage);
+  const std::string command = arguments[1];
+  if (command == "wait-window" && arguments.size() == 2) return WaitWindow();
   ShippedProgram program;
   if (!program.Attach()) return Fail("the program does not run");
-  return argc == 2 ? Run(program, argv[1]) : RunOnControl(program, argv[1], argv[2]);
+  if (arguments.size() == 2) return RunOnProgram(program, command);
+  return RunOnControl(program, command, arguments.subspan(2));
 }

@@ -1,26 +1,31 @@
-// Pictures of the screen. A Windows program under Wine can start a program of the host by its path.
-#include "tests/e2e/driver/shipped_program.h"
+// A Windows program under Wine can start a program of the host by its path.
+#include "tests/e2e/driver/photograph.h"
+
+// clang-format off
+#include <windows.h>
+// clang-format on
+
+#include "tests/e2e/driver/polling.h"
 
 namespace qdix::e2e {
 
 bool Photograph(const std::string& name) {
-  const std::string folder = std::string(QDIX_SOURCE_DIR) + "/build/photos";
-  const std::string script = std::string(QDIX_SOURCE_DIR) + "/tools/desktop/desktop.sh";
-  std::string command_line = "Z:\\bin\\sh -c \"mkdir -p '" + folder + "' && '" + script + "' photo '" +
-                             folder + "/" + name + ".png'\"";
+  const std::string file = std::string(QDIX_SOURCE_DIR) + "/build/photos/" + name + ".png";
+  const std::string file_in_windows = "Z:" + file;
+  std::string command_line = "Z:\\bin\\sh -c \"'" + std::string(QDIX_SOURCE_DIR) +
+                             "/tools/desktop/desktop.sh' photo '" + file + "'\"";
   STARTUPINFOA startup = {};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION started = {};
-  const std::string file = "Z:" + folder + "/" + name + ".png";
-  DeleteFileA(file.c_str());
+  DeleteFileA(file_in_windows.c_str());
   if (CreateProcessA(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
                      &started) == 0) {
     return false;
   }
   CloseHandle(started.hThread);
   CloseHandle(started.hProcess);
-  // Wine does not wait for programs of the host; the file is the sign that it has been.
-  return Eventually([&file] { return GetFileAttributesA(file.c_str()) != INVALID_FILE_ATTRIBUTES; }, 15000);
+  // Wine does not wait for programs of the host. The file gets its name when it is complete.
+  return Eventually([&] { return GetFileAttributesA(file_in_windows.c_str()) != INVALID_FILE_ATTRIBUTES; });
 }
 
 }  // namespace qdix::e2e

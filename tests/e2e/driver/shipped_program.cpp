@@ -1,9 +1,11 @@
 #include "tests/e2e/driver/shipped_program.h"
 
 #include <algorithm>
-#include <array>
+#include <cstdio>
+#include <cstdlib>
 
-#include "tests/e2e/driver/control_numbers_by_name.h"
+#include "tests/e2e/driver/native_windows.h"
+#include "tests/e2e/driver/process_memory.h"
 
 // clang-format off
 #include <commctrl.h>
@@ -15,89 +17,41 @@ namespace {
 
 constexpr const char* kMainClass = "QDIXMain";
 constexpr const char* kApplicationClass = "ThunderRT6Main";
-constexpr const char* kDialogClass = "#32770";
-constexpr int kPollMs = 10;
-constexpr UINT kAnswerTimeoutMs = 10000;
+constexpr const char* kCaptionEnds = " MB   Q-DIX";
+constexpr UINT kIconNumber = 1;
+constexpr UINT kKilled = 99;
 
-std::string ProgramPath() {
-  std::string path = std::string("Z:") + QDIX_SOURCE_DIR + "/build/win9x/QDIX.exe";
-  std::replace(path.begin(), path.end(), '/', '\\');
-  return path;
+/// The messages of a list box and of a drop-down list that mean the same.
+struct ListMessages {
+  UINT find;
+  UINT selected;
+  UINT select;
+  int chosen;
+};
+
+ListMessages MessagesOf(HWND list) {
+  if (ClassOf(list) == "ComboBox") return {CB_FINDSTRINGEXACT, CB_GETCURSEL, CB_SETCURSEL, CBN_SELCHANGE};
+  return {LB_FINDSTRINGEXACT, LB_GETCURSEL, LB_SETCURSEL, LBN_SELCHANGE};
 }
 
-std::string ClassOf(HWND window) {
-  std::array<char, 64> name{};
-  GetClassNameA(window, name.data(), static_cast<int>(name.size()));
-  return name.data();
-}
-
-/// SendMessage to another process, with a limit: a window that hangs must fail a test, not hang it.
-LRESULT Ask(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
-  DWORD_PTR answer = 0;
-  SendMessageTimeoutA(window, message, wparam, lparam, SMTO_NORMAL, kAnswerTimeoutMs, &answer);
-  return static_cast<LRESULT>(answer);
-}
-
+/// LB_ERR, which is CB_ERR as well, where there is no such row.
 LRESULT RowOf(HWND list, const std::string& text) {
-  return Ask(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.c_str()));
-}
-
-struct Search {
-  DWORD process_id;
-  const char* window_class;
-  std::vector<HWND> found;
-};
-
-BOOL CALLBACK CollectWindow(HWND window, LPARAM context) {
-  auto& search = *reinterpret_cast<Search*>(context);
-  DWORD owner = 0;
-  GetWindowThreadProcessId(window, &owner);
-  if (owner == search.process_id && ClassOf(window) == search.window_class) search.found.push_back(window);
-  return TRUE;
-}
-
-std::vector<HWND> TopLevelWindows(DWORD process_id, const char* window_class) {
-  Search search{process_id, window_class, {}};
-  EnumWindows(&CollectWindow, reinterpret_cast<LPARAM>(&search));
-  return search.found;
-}
-
-struct ChildSearch {
-  int number;
-  HWND found;
-};
-
-BOOL CALLBACK FindChild(HWND window, LPARAM context) {
-  auto& search = *reinterpret_cast<ChildSearch*>(context);
-  if (GetDlgCtrlID(window) != search.number) return TRUE;
-  search.found = window;
-  return FALSE;
+  return Ask(list, MessagesOf(list).find, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.c_str()));
 }
 
 }  // namespace
 
-bool Eventually(const std::function<bool()>& condition, int deadline_ms) {
-  const DWORD start = GetTickCount();
-  while (!condition()) {
-    if (GetTickCount() - start > static_cast<DWORD>(deadline_ms)) return false;
-    Sleep(kPollMs);
-  }
-  return true;
-}
-
-std::string TextOf(HWND window) {
-  std::array<char, 2048> text{};
-  Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
-  return text.data();
+std::string ProgramPath() {
+  const char* const chosen = std::getenv("QDIX_PROGRAM");
+  std::string path = "Z:" + (chosen != nullptr ? std::string(chosen)
+                                               : std::string(QDIX_SOURCE_DIR) + "/build/win9x/QDIX.exe");
+  std::replace(path.begin(), path.end(), '/', '\\');
+  return path;
 }
 
 ShippedProgram::~ShippedProgram() {
-  if (process_ == nullptr) return;
-  if (IsRunning()) {
-    TerminateProcess(process_, 99);
-    WaitForSingleObject(process_, kDeadlineMs);
-  }
-  CloseHandle(process_);
+  Kill();
+  if (process_ != nullptr) CloseHandle(process_);
 }
 
 bool ShippedProgram::Start() {
@@ -112,6 +66,7 @@ bool ShippedProgram::Start() {
   CloseHandle(started.hThread);
   process_ = started.hProcess;
   process_id_ = started.dwProcessId;
+  is_ours_ = true;
   return true;
 }
 
@@ -119,53 +74,84 @@ bool ShippedProgram::Attach() {
   const HWND main = FindWindowA(kMainClass, nullptr);
   if (main == nullptr) return false;
   GetWindowThreadProcessId(main, &process_id_);
-  return true;
+  process_ = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ | SYNCHRONIZE, FALSE, process_id_);
+  return process_ != nullptr;
 }
 
-bool ShippedProgram::IsRunning() const {
-  if (process_ == nullptr) return MainWindow() != nullptr;
-  return WaitForSingleObject(process_, 0) == WAIT_TIMEOUT;
+void ShippedProgram::Kill() {
+  if (!is_ours_ || !IsRunning()) return;
+  TerminateProcess(process_, kKilled);
+  WaitForSingleObject(process_, kDeadlineMs);
 }
+
+bool ShippedProgram::IsRunning() const { return WaitForSingleObject(process_, 0) == WAIT_TIMEOUT; }
 
 int ShippedProgram::WaitForExit(int deadline_ms) const {
   if (WaitForSingleObject(process_, static_cast<DWORD>(deadline_ms)) != WAIT_OBJECT_0) return -1;
   DWORD code = 0;
-  GetExitCodeProcess(process_, &code);
-  return static_cast<int>(code);
+  return GetExitCodeProcess(process_, &code) != 0 ? static_cast<int>(code) : -1;
 }
 
-HWND ShippedProgram::MainWindow() const {
-  const auto windows = TopLevelWindows(process_id_, kMainClass);
-  return windows.empty() ? nullptr : windows.front();
+bool ShippedProgram::Await(const std::function<bool()>& condition, int deadline_ms) const {
+  return Eventually(
+      [&] {
+        for (const MessageBox& box : MessageBoxes()) {
+          if (IsReportOfAnImplausibleReading(box) && !PressButton(box, IDOK)) return false;
+        }
+        return condition();
+      },
+      deadline_ms);
 }
 
-HWND ShippedProgram::ApplicationWindow() const {
-  const auto windows = TopLevelWindows(process_id_, kApplicationClass);
-  return windows.empty() ? nullptr : windows.front();
+bool ShippedProgram::WaitForWindow() const {
+  return Await([this] { return MainWindow() != nullptr && IsWindowVisible(MainWindow()) != 0; });
 }
 
-/// The report of an implausible reading is ordinary where a machine has more memory than 32 bits count; it is
-/// answered on the way.
-bool ShippedProgram::WaitForWindow() {
-  return Eventually([this] {
-    AnswerBoxes();
-    return MainWindow() != nullptr && IsWindowVisible(MainWindow()) != 0;
+bool ShippedProgram::WaitForFirstReading() {
+  return Await([this] {
+    icon_owner_ = MainWindow();
+    return icon_owner_ != nullptr && Caption().ends_with(kCaptionEnds);
   });
 }
 
+bool ShippedProgram::HasIcon() const { return HasNotificationIcon(icon_owner_, kIconNumber); }
+
+HWND ShippedProgram::FirstWindow(const char* window_class) const {
+  const std::vector<HWND> windows = TopLevelWindows(process_id_, window_class);
+  return windows.empty() ? nullptr : windows.front();
+}
+
+HWND ShippedProgram::MainWindow() const { return FirstWindow(kMainClass); }
+
+HWND ShippedProgram::ApplicationWindow() const { return FirstWindow(kApplicationClass); }
+
 std::string ShippedProgram::Caption() const { return TextOf(MainWindow()); }
 
+const ControlAddress& ShippedProgram::AddressOf(const std::string& name) const {
+  const ControlAddress* const address = map_.Find(name);
+  if (address == nullptr) {
+    std::fprintf(stderr, "driver: no screen has a control %s\n", name.c_str());
+    std::abort();
+  }
+  return *address;
+}
+
 HWND ShippedProgram::Control(const std::string& name) const {
-  ChildSearch search{AddressOf(name).number, nullptr};
-  if (search.number != 0) EnumChildWindows(MainWindow(), &FindChild, reinterpret_cast<LPARAM>(&search));
-  return search.found;
+  const int number = AddressOf(name).number;
+  const std::vector<HWND> windows = WindowsInside(MainWindow());
+  const auto found = std::find_if(windows.begin(), windows.end(),
+                                  [number](HWND window) { return GetDlgCtrlID(window) == number; });
+  return found == windows.end() ? nullptr : *found;
 }
 
 std::string ShippedProgram::Text(const std::string& name) const { return TextOf(Control(name)); }
 
-bool ShippedProgram::IsEnabled(const std::string& name) const {
-  const HWND control = Control(name);
-  return control != nullptr && IsWindowEnabled(control) != 0;
+bool ShippedProgram::IsEnabled(const std::string& name) const { return IsWindowEnabled(Control(name)) != 0; }
+
+bool ShippedProgram::IsVisible(const std::string& name) const { return IsWindowVisible(Control(name)) != 0; }
+
+bool ShippedProgram::IsChecked(const std::string& name) const {
+  return Ask(Control(name), BM_GETCHECK) == BST_CHECKED;
 }
 
 RECT ShippedProgram::ScreenRect(const std::string& name) const {
@@ -174,30 +160,33 @@ RECT ShippedProgram::ScreenRect(const std::string& name) const {
   return rect;
 }
 
-void ShippedProgram::OpenTab(int tab) const {
-  const HWND strip = Control("SSTab1");
-  Ask(strip, TCM_SETCURFOCUS, static_cast<WPARAM>(tab));
+std::string ShippedProgram::FocusedControl() const {
+  GUITHREADINFO info = {};
+  info.cbSize = sizeof info;
+  if (GetGUIThreadInfo(GetWindowThreadProcessId(MainWindow(), nullptr), &info) == 0) return {};
+  const ControlAddress* const focused = map_.Find(GetDlgCtrlID(info.hwndFocus));
+  return focused == nullptr ? std::string() : focused->name;
 }
+
+void ShippedProgram::OpenTab(int tab) const {
+  Ask(Control("SSTab1"), TCM_SETCURFOCUS, static_cast<WPARAM>(tab));
+}
+
+void ShippedProgram::BeginToOpenTab(int tab) const {
+  PostMessageA(Control("SSTab1"), TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
+}
+
+int ShippedProgram::OpenedTab() const { return static_cast<int>(Ask(Control("SSTab1"), TCM_GETCURSEL)); }
 
 void ShippedProgram::Press(const std::string& name) const { PostMessageA(Control(name), BM_CLICK, 0, 0); }
-
-void ShippedProgram::PressWithPointer(const std::string& name) const {
-  SetForegroundWindow(MainWindow());
-  const RECT rect = ScreenRect(name);
-  SetCursorPos((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
-  std::array<INPUT, 2> inputs = {};
-  for (INPUT& input : inputs) input.type = INPUT_MOUSE;
-  inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-  inputs[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
-}
 
 bool ShippedProgram::Choose(const std::string& name, const std::string& text) const {
   const HWND list = Control(name);
   const LRESULT row = RowOf(list, text);
   if (row == LB_ERR) return false;
-  Ask(list, LB_SETCURSEL, static_cast<WPARAM>(row));
-  Ask(GetParent(list), WM_COMMAND, MAKEWPARAM(AddressOf(name).number, LBN_SELCHANGE),
+  const ListMessages messages = MessagesOf(list);
+  Ask(list, messages.select, static_cast<WPARAM>(row));
+  Ask(GetParent(list), WM_COMMAND, MAKEWPARAM(AddressOf(name).number, messages.chosen),
       reinterpret_cast<LPARAM>(list));
   return true;
 }
@@ -205,55 +194,21 @@ bool ShippedProgram::Choose(const std::string& name, const std::string& text) co
 bool ShippedProgram::HasSelected(const std::string& name, const std::string& text) const {
   const HWND list = Control(name);
   const LRESULT row = RowOf(list, text);
-  return row != LB_ERR && Ask(list, LB_GETCURSEL) == row;
+  return row != LB_ERR && Ask(list, MessagesOf(list).selected) == row;
 }
 
 void ShippedProgram::Close() const { PostMessageA(MainWindow(), WM_CLOSE, 0, 0); }
 
 std::vector<std::uint64_t> ShippedProgram::CommittedBlocks(std::uint64_t at_least_bytes) const {
-  const HANDLE process = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, process_id_);
-  std::vector<std::uint64_t> sizes;
-  const void* allocation = nullptr;
-  MEMORY_BASIC_INFORMATION region = {};
-  std::uintptr_t address = 0;
-  while (VirtualQueryEx(process, reinterpret_cast<void*>(address), &region, sizeof region) != 0) {
-    const bool is_ours = region.State == MEM_COMMIT && region.Type == MEM_PRIVATE;
-    if (is_ours && !sizes.empty() && region.AllocationBase == allocation) {
-      sizes.back() += region.RegionSize;
-    } else if (is_ours) {
-      allocation = region.AllocationBase;
-      sizes.push_back(region.RegionSize);
-    }
-    const std::uintptr_t next = address + region.RegionSize;
-    if (next <= address) break;
-    address = next;
-  }
-  CloseHandle(process);
-  std::erase_if(sizes, [at_least_bytes](std::uint64_t size) { return size < at_least_bytes; });
-  return sizes;
+  return e2e::CommittedBlocks(process_, at_least_bytes);
 }
 
-std::uint64_t ShippedProgram::CommittedBytes() const {
-  std::uint64_t sum = 0;
-  for (const std::uint64_t size : CommittedBlocks(0)) sum += size;
-  return sum;
-}
-
-std::vector<MessageBox> ShippedProgram::MessageBoxes() const {
-  std::vector<MessageBox> boxes;
-  for (const HWND window : TopLevelWindows(process_id_, kDialogClass)) {
-    if (IsWindowVisible(window) == 0) continue;
-    boxes.push_back({window, TextOf(window), TextOf(GetDlgItem(window, 0xFFFF))});
-  }
-  return boxes;
-}
+std::uint64_t ShippedProgram::CommittedBytes() const { return e2e::CommittedBytes(process_); }
 
 std::vector<std::string> ShippedProgram::AnswerBoxes() const {
   std::vector<std::string> texts;
   for (const MessageBox& box : MessageBoxes()) {
-    texts.push_back(box.text);
-    PostMessageA(box.window, WM_COMMAND, IDOK, 0);
-    Eventually([&box] { return IsWindow(box.window) == 0; }, 5000);
+    if (PressButton(box, IDOK)) texts.push_back(box.text);
   }
   return texts;
 }

@@ -1,5 +1,5 @@
-// The shipped program, seen and driven from outside: its windows by the names of their controls, its memory,
-// its message boxes. Conditions are polled with a deadline; nothing sleeps and hopes.
+// The shipped program, seen and driven from outside: its life, its windows by the names of their controls,
+// its memory and its message boxes.
 #pragma once
 
 // clang-format off
@@ -11,75 +11,94 @@
 #include <string>
 #include <vector>
 
+#include "tests/e2e/driver/message_boxes.h"
+#include "tests/e2e/driver/polling.h"
+#include "tests/e2e/driver/process_resources.h"
+#include "tests/e2e/driver/screen_map.h"
+
 namespace qdix::e2e {
 
-inline constexpr int kDeadlineMs = 30000;
-
-/// Asks until the answer is true; false when the deadline passes first.
-bool Eventually(const std::function<bool()>& condition, int deadline_ms = kDeadlineMs);
-
-struct MessageBox {
-  HWND window = nullptr;
-  std::string title;
-  std::string text;
-};
+/// Path of the program under test, as Windows writes it: that of the environment variable QDIX_PROGRAM (a
+/// path of the host), else the one that the preset win9x builds.
+[[nodiscard]] std::string ProgramPath();
 
 class ShippedProgram {
  public:
   ShippedProgram() = default;
   ShippedProgram(const ShippedProgram&) = delete;
   ShippedProgram& operator=(const ShippedProgram&) = delete;
-  /// Ends the process where it still runs.
+  /// Kills a program that was started and still runs; leaves alone one that was only attached to.
   ~ShippedProgram();
 
   /// Starts the program under test; false when the system refuses.
-  bool Start();
+  [[nodiscard]] bool Start();
   /// Attaches to the copy that runs already; false when there is none.
-  bool Attach();
-  [[nodiscard]] bool WaitForWindow();
+  [[nodiscard]] bool Attach();
+  void Kill();
   [[nodiscard]] bool IsRunning() const;
   /// The exit code once the process has ended within the deadline; -1 otherwise.
   [[nodiscard]] int WaitForExit(int deadline_ms = kDeadlineMs) const;
+
+  /// Eventually(), with the report of an implausible reading answered on the way.
+  [[nodiscard]] bool Await(const std::function<bool()>& condition, int deadline_ms = kDeadlineMs) const;
+  /// Waits until the main window is shown.
+  [[nodiscard]] bool WaitForWindow() const;
+  /// Waits until the caption shows available memory: the first refresh has run.
+  [[nodiscard]] bool WaitForFirstReading();
 
   [[nodiscard]] HWND MainWindow() const;
   /// The hidden window that carries the application's title.
   [[nodiscard]] HWND ApplicationWindow() const;
   [[nodiscard]] std::string Caption() const;
+  /// True while the notification area has the icon of the window that was waited for; also after its end.
+  [[nodiscard]] bool HasIcon() const;
+
+  // A control is asked for by the name that its screen gives it; one that no screen has ends the test
+  // program, since a check of a control that is not there could not fail.
+  [[nodiscard]] bool HasControl(const std::string& name) const { return map_.Find(name) != nullptr; }
+  [[nodiscard]] const std::vector<ControlAddress>& Controls() const { return map_.All(); }
   [[nodiscard]] HWND Control(const std::string& name) const;
+  /// The text of its window: access keys are marked with "&".
   [[nodiscard]] std::string Text(const std::string& name) const;
   [[nodiscard]] bool IsEnabled(const std::string& name) const;
+  [[nodiscard]] bool IsVisible(const std::string& name) const;
+  [[nodiscard]] bool IsChecked(const std::string& name) const;
   [[nodiscard]] RECT ScreenRect(const std::string& name) const;
+  /// Name of the control that has the keyboard; empty when none has.
+  [[nodiscard]] std::string FocusedControl() const;
 
-  /// Opens the tab that the control stands on, as a click on its tab does.
+  /// Opens a tab and waits until it is open; a box that this opens holds it up.
   void OpenTab(int tab) const;
-  /// Presses a button, a check box or an option as its window reports a click.
+  /// Asks for a tab without waiting, for one that opens a box.
+  void BeginToOpenTab(int tab) const;
+  [[nodiscard]] int OpenedTab() const;
+  /// Presses a button, a check box or an option by message.
   void Press(const std::string& name) const;
-  /// Presses with the real pointer.
-  void PressWithPointer(const std::string& name) const;
-  /// Picks a row of a list box by its text, with its notification.
+  /// Picks a row of a list box or drop-down list by its text, with its notification.
   [[nodiscard]] bool Choose(const std::string& name, const std::string& text) const;
-  /// True where the list box has this row selected. Asked by index: Wine mangles the text of a row on its way
+  /// True where the list has this row selected. Asked by index: Wine mangles the text of a row on its way
   /// between processes.
   [[nodiscard]] bool HasSelected(const std::string& name, const std::string& text) const;
   void Close() const;
 
-  /// Sizes of the private committed allocations that are at least this large, in bytes, whole pages.
   [[nodiscard]] std::vector<std::uint64_t> CommittedBlocks(std::uint64_t at_least_bytes) const;
   [[nodiscard]] std::uint64_t CommittedBytes() const;
+  [[nodiscard]] ProcessResources Resources() const { return CountResources(process_, process_id_); }
+  [[nodiscard]] HANDLE Process() const { return process_; }
 
-  [[nodiscard]] std::vector<MessageBox> MessageBoxes() const;
+  [[nodiscard]] std::vector<MessageBox> MessageBoxes() const { return MessageBoxesOf(process_id_); }
   /// Presses OK in the boxes that are open, and returns what they said.
   std::vector<std::string> AnswerBoxes() const;
 
  private:
+  [[nodiscard]] HWND FirstWindow(const char* window_class) const;
+  [[nodiscard]] const ControlAddress& AddressOf(const std::string& name) const;
+
+  const ScreenMap map_;
   HANDLE process_ = nullptr;
   DWORD process_id_ = 0;
+  HWND icon_owner_ = nullptr;
+  bool is_ours_ = false;
 };
-
-/// The text of a window of any process.
-[[nodiscard]] std::string TextOf(HWND window);
-
-/// Saves a picture of the screen as build/photos/<name>.png.
-bool Photograph(const std::string& name);
 
 }  // namespace qdix::e2e

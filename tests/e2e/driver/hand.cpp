@@ -1,0 +1,100 @@
+#include "tests/e2e/driver/hand.h"
+
+#include <array>
+
+#include "tests/e2e/driver/polling.h"
+
+namespace qdix::e2e {
+
+namespace {
+
+constexpr int kLooksAtRest = 3;
+
+HWND TopLevelOf(HWND window) {
+  while (window != nullptr && (GetWindowLongA(window, GWL_STYLE) & WS_CHILD) != 0) window = GetParent(window);
+  return window;
+}
+
+/// The middle of a pixel in the units of an absolute move, 65536 to the screen.
+LONG Absolute(LONG pixel, int screen_pixels) { return (pixel * 65536 + 32768) / screen_pixels; }
+
+INPUT PointerButton(DWORD flags) {
+  INPUT input = {};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = flags;
+  return input;
+}
+
+INPUT PointerMove(POINT place) {
+  INPUT input = PointerButton(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
+  input.mi.dx = Absolute(place.x, GetSystemMetrics(SM_CXSCREEN));
+  input.mi.dy = Absolute(place.y, GetSystemMetrics(SM_CYSCREEN));
+  return input;
+}
+
+/// Moves the pointer and waits until it has come to rest; false when it does not.
+bool PutPointer(POINT place) {
+  INPUT move = PointerMove(place);
+  int looks_at_rest = 0;
+  return Eventually([&] {
+    POINT now = {};
+    GetCursorPos(&now);
+    const bool is_there = now.x == place.x && now.y == place.y;
+    if (!is_there) SendInput(1, &move, sizeof move);
+    looks_at_rest = is_there ? looks_at_rest + 1 : 0;
+    return looks_at_rest >= kLooksAtRest;
+  });
+}
+
+void SendKey(int key, DWORD flags) {
+  INPUT input = {};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = static_cast<WORD>(key);
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(static_cast<UINT>(key), 0));
+  input.ki.dwFlags = flags;
+  SendInput(1, &input, sizeof input);
+}
+
+}  // namespace
+
+bool BringForward(HWND top_level) {
+  SetForegroundWindow(top_level);
+  return Eventually([top_level] { return GetForegroundWindow() == top_level; });
+}
+
+bool Click(HWND control) {
+  RECT rect = {};
+  GetWindowRect(control, &rect);
+  return ClickAt(control, {(rect.right - rect.left) / 2, (rect.bottom - rect.top) / 2});
+}
+
+bool ClickAt(HWND control, POINT inside) {
+  const HWND top_level = TopLevelOf(control);
+  if (!BringForward(top_level)) return false;
+  RECT rect = {};
+  GetWindowRect(control, &rect);
+  const POINT place{rect.left + inside.x, rect.top + inside.y};
+  if (TopLevelOf(WindowFromPoint(place)) != top_level) return false;
+  if (!PutPointer(place)) return false;
+  // With the move once more: the pointer of the real screen may drag this one along until it rests.
+  std::array<INPUT, 3> inputs{PointerMove(place), PointerButton(MOUSEEVENTF_LEFTDOWN),
+                              PointerButton(MOUSEEVENTF_LEFTUP)};
+  return SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)) == inputs.size();
+}
+
+void PressKey(int key) {
+  SendKey(key, 0);
+  SendKey(key, KEYEVENTF_KEYUP);
+}
+
+void PressKeyWith(int held_key, int key) {
+  SendKey(held_key, 0);
+  PressKey(key);
+  SendKey(held_key, KEYEVENTF_KEYUP);
+}
+
+void TypeText(const std::string& text) {
+  for (const char character : text) PressKey(LOBYTE(VkKeyScanA(character)));
+}
+
+}  // namespace qdix::e2e

@@ -1,0 +1,28 @@
+// The user's hand: the real pointer and the real keyboard. Both go to the window in front.
+#pragma once
+
+// clang-format off
+#include <windows.h>
+// clang-format on
+
+#include <string>
+
+namespace qdix::e2e {
+
+/// Brings a window to the front; false when it does not come.
+[[nodiscard]] bool BringForward(HWND top_level);
+
+/// Moves the pointer into the middle of a control and presses its left button; false where another program's
+/// window, or none, is at that place.
+[[nodiscard]] bool Click(HWND control);
+/// The same at a place in pixels from the control's upper left corner.
+[[nodiscard]] bool ClickAt(HWND control, POINT inside);
+
+/// Presses and lets go of a key.
+void PressKey(int key);
+/// Presses a key while another is held down.
+void PressKeyWith(int held_key, int key);
+/// Types a text of plain letters and digits.
+void TypeText(const std::string& text);
+
+}  // namespace qdix::e2e

@@ -1,0 +1,68 @@
+// The shipped exe holds no more after long use than before, and the counters that show it count.
+#include <array>
+
+#include "tests/e2e/session.h"
+
+namespace qdix::e2e {
+namespace {
+
+class SteadySession : public Session {};
+
+/// A heap may keep a little of what it once gave out.
+constexpr std::uint64_t kSlackBytes = 64 * 1024;
+
+TEST_F(SteadySession, CountersSeeWhatAProcessTakes) {
+  const auto count = [] { return CountResources(GetCurrentProcess(), GetCurrentProcessId()); };
+  const ProcessResources before = count();
+  std::array<HPEN, 20> pens{};
+  std::array<HANDLE, 30> events{};
+  std::array<HWND, 5> windows{};
+  for (HPEN& pen : pens) pen = CreatePen(PS_SOLID, 1, 0);
+  for (HANDLE& event : events) event = CreateEventA(nullptr, FALSE, FALSE, nullptr);
+  for (HWND& window : windows) {
+    window = CreateWindowA("STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+  }
+  const ProcessResources after = count();
+  for (const HPEN pen : pens) DeleteObject(pen);
+  for (const HANDLE event : events) CloseHandle(event);
+  for (const HWND window : windows) DestroyWindow(window);
+  EXPECT_GE(after.drawing_objects - before.drawing_objects, 20);
+  EXPECT_GE(after.handles - before.handles, 30);
+  EXPECT_GE(after.windows - before.windows, 5);
+  EXPECT_LT(count().drawing_objects, after.drawing_objects);
+  EXPECT_LT(count().handles, after.handles);
+  EXPECT_LT(count().windows, after.windows);
+}
+
+TEST_F(SteadySession, AHundredTabSwitchesAndFiveReleasesLeaveNothingBehind) {
+  MarkMachineAsKnown();
+  StartProgram();
+  ASSERT_TRUE(program.Choose("List1", "24 MB"));
+  const auto use = [this](int switches, int releases) {
+    for (int i = 0; i < switches; ++i) program.OpenTab(i % 8);
+    program.OpenTab(0);
+    // A click by message comes back when the release is over.
+    for (int i = 0; i < releases; ++i) Ask(program.Control("Command1"), BM_CLICK);
+  };
+  use(16, 1);
+  const ProcessResources before = program.Resources();
+  const std::uint64_t committed_before = program.CommittedBytes();
+  ASSERT_GT(before.windows, 60);
+  ASSERT_GT(before.drawing_objects, 0);
+  ASSERT_GT(before.handles, 0);
+  use(100, 5);
+  ProcessResources after;
+  // A refresh that is drawing right now holds objects for a moment.
+  EXPECT_TRUE(program.Await([&] {
+    after = program.Resources();
+    return after.windows <= before.windows && after.drawing_objects <= before.drawing_objects &&
+           after.handles <= before.handles;
+  })) << "windows "
+      << before.windows << " to " << after.windows << ", drawing objects " << before.drawing_objects << " to "
+      << after.drawing_objects << ", handles " << before.handles << " to " << after.handles;
+  EXPECT_LE(program.CommittedBytes(), committed_before + kSlackBytes);
+  CloseProgram();
+}
+
+}  // namespace
+}  // namespace qdix::e2e
