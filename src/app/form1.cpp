@@ -11,12 +11,18 @@ Form1::Form1(const os::System& system)
       machine_record_(system.registry),
       monitor_(system, application_, window_.Form1, quondix_),
       release_(system, application_, window_.Form1),
+      processor_(system.processor),
+      cpu_speed_(processor_, quondix_),
+      cpu_usage_(system, application_, settings_, quondix_, startup_),
       manual_release_(release_, settings_, quondix_),
-      automatic_release_(system, settings_, automatic_, window_.SSTab1, window_.Timer2, application_),
-      timed_release_(system, settings_, time_intervals_, window_.SSTab1, window_.Timer4, application_),
-      startup_release_(settings_, startup_, window_.Timer3),
+      scheduled_release_(release_, monitor_, cpu_usage_, manual_release_, {quondix_, startup_}),
+      automatic_release_(system, settings_, automatic_, window_.SSTab1, window_.Timer2, application_,
+                         scheduled_release_),
+      timed_release_(system, settings_, time_intervals_, window_.SSTab1, {window_.Timer4, window_.Timer5},
+                     application_, scheduled_release_),
+      startup_release_(settings_, startup_, window_.Timer3, scheduled_release_),
       startup_registration_(system, startup_),
-      cpu_usage_(settings_, startup_),
+      up_time_(system.clock, startup_),
       window_modes_(settings_, {window_, quondix_, automatic_, time_intervals_, startup_}),
       tray_icon_(system, window_.Form1, tray_menu_, monitor_, manual_release_) {
   BindEvents();
@@ -29,6 +35,7 @@ void Form1::BindEvents() {
   window_.Form1.OnUnload = Handler::To<&Form1::Form_Unload>(*this);
   window_.SSTab1.OnClick = base::Callback<base::Status(int)>::To<&Form1::SSTab1_Click>(*this);
   window_.Timer1.OnTimer = Handler::To<&Form1::Timer1_Timer>(*this);
+  window_.Timer6.OnTimer = Handler::To<&Form1::Timer6_Timer>(*this);
 }
 
 void Form1::Start() {
@@ -46,7 +53,19 @@ base::Status Form1::Form_Activate() {
   return base::kDone;
 }
 
-base::Status Form1::Timer1_Timer() { return monitor_.RefreshMemoryDisplay(); }
+base::Status Form1::Timer1_Timer() {
+  const base::Status refreshed = monitor_.RefreshMemoryDisplay();
+  if (!refreshed.Ok()) return refreshed;
+  cpu_usage_.CPUUsage();
+  tray_icon_.RetryAdd();
+  return base::kDone;
+}
+
+base::Status Form1::Timer6_Timer() {
+  up_time_.Show();
+  tray_icon_.LookForTaskbar();
+  return base::kDone;
+}
 
 base::Status Form1::SSTab1_Click(int tab_left) {
   const bool refused_limit_opens_tab = automatic_release_.OpeningTab() || timed_release_.OpeningTab();

@@ -2,17 +2,19 @@
 // unloads it. The work itself is done by the subsystems.
 #pragma once
 
-#include <array>
-
 #include "app/machine_record.h"
 #include "app/single_instance.h"
 #include "app/tray_icon.h"
+#include "app/up_time.h"
 #include "app/window_modes.h"
+#include "cpu/cpu_speed.h"
 #include "cpu/cpu_usage.h"
+#include "cpu/processor_identification.h"
 #include "memory/automatic_release.h"
 #include "memory/manual_release.h"
 #include "memory/memory_monitor.h"
 #include "memory/memory_release.h"
+#include "memory/scheduled_release.h"
 #include "memory/startup_release.h"
 #include "memory/timed_release.h"
 #include "os/system.h"
@@ -45,13 +47,14 @@ class Form1 {
 
   [[nodiscard]] ui::Application& TheApplication() { return application_; }
   [[nodiscard]] ui::Form& Window() { return window_.Form1; }
-  [[nodiscard]] std::array<ui::Timer*, 4> Timers() { return window_.Timers(); }
+  [[nodiscard]] screens::MainWindow::AllTimers Timers() { return window_.Timers(); }
 
   base::Status Form_Load();
   base::Status Form_Activate();
   base::Status Form_Unload();
   base::Status SSTab1_Click(int tab_left);
   base::Status Timer1_Timer();
+  base::Status Timer6_Timer();
 
   // The screens, for whoever looks at the window or acts on it.
   [[nodiscard]] screens::MainWindow& MainWindow() { return window_; }
@@ -67,6 +70,8 @@ class Form1 {
   [[nodiscard]] memory::MemoryMonitor& Monitor() { return monitor_; }
   [[nodiscard]] memory::MemoryRelease& Release() { return release_; }
   [[nodiscard]] memory::AutomaticRelease& AutomaticSettings() { return automatic_release_; }
+  [[nodiscard]] memory::TimedRelease& TimedSettings() { return timed_release_; }
+  [[nodiscard]] cpu::CpuUsage& Cpu() { return cpu_usage_; }
   [[nodiscard]] memory::StartupRelease& StartupSettings() { return startup_release_; }
 
  private:
@@ -96,12 +101,16 @@ class Form1 {
   MachineRecord machine_record_;
   memory::MemoryMonitor monitor_;
   memory::MemoryRelease release_;
+  cpu::ProcessorIdentification processor_;
+  cpu::CpuSpeed cpu_speed_;
+  cpu::CpuUsage cpu_usage_;
   memory::ManualRelease manual_release_;
+  memory::ScheduledRelease scheduled_release_;
   memory::AutomaticRelease automatic_release_;
   memory::TimedRelease timed_release_;
   memory::StartupRelease startup_release_;
   shell::StartupRegistration startup_registration_;
-  cpu::CpuUsage cpu_usage_;
+  UpTime up_time_;
   WindowModes window_modes_;
   TrayIcon tray_icon_;
 

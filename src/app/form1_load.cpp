@@ -13,10 +13,15 @@ base::Status Form1::Form_Load() {
   }
   machine_record_.EnsureKey();
   ShowVersion();
+  cpu_speed_.CPUSPEED();
+  cpu_usage_.StartCpuStatistics();
+  cpu_usage_.FirstCPUUSAGE();
   automatic_release_.FillLists();
   timed_release_.FillLists();
   startup_release_.FillLists();
   if (machine_record_.IsFirstRun()) RunFirstTimeSteps();
+  const base::Status up_time = Timer6_Timer();
+  if (!up_time.Ok()) return up_time;
   automatic_release_.LoadCpuLimit();
   cpu_usage_.LoadUpdateInterval();
   timed_release_.LoadCpuLimit();
@@ -26,7 +31,6 @@ base::Status Form1::Form_Load() {
 
   const base::Status total = monitor_.SetTotalRamMb();
   if (!total.Ok()) return total;
-  automatic_release_.SetThresholdRange(monitor_.TotalRamMb());
   manual_release_.FillList();
   const double total_ram_mb = monitor_.TotalRAM();
   LoadReleaseSettings(total_ram_mb);

@@ -9,6 +9,7 @@ namespace qdix::app {
 namespace {
 
 constexpr std::uint32_t kIconId = 1;
+constexpr const char* kTaskbarClass = "Shell_TrayWnd";
 /// Mouse messages as the icon passes them on.
 constexpr double kLeftButtonDoubleClick = 515;
 constexpr double kRightButtonDown = 516;
@@ -36,16 +37,33 @@ void TrayIcon::SetOwner(os::WindowHandle window, os::IconHandle icon) {
   record_.icon = icon;
 }
 
+bool TrayIcon::Notify(std::uint32_t request) { return system_.shell.Shell_NotifyIconA(request, record_); }
+
+os::WindowHandle TrayIcon::Taskbar() const { return system_.windows.FindWindowA(kTaskbarClass, nullptr); }
+
 void TrayIcon::AddToTray() {
   SetTip("Q-DIX");
-  system_.shell.Shell_NotifyIconA(os::kNimAdd, record_);
-  was_added_ = true;
+  is_wanted_ = true;
+  taskbar_ = Taskbar();
+  is_in_place_ = Notify(os::kNimAdd);
+}
+
+/// An icon that is there already is refused as well, which the change of it tells.
+void TrayIcon::RetryAdd() {
+  if (is_wanted_ && !is_in_place_) is_in_place_ = Notify(os::kNimModify) || Notify(os::kNimAdd);
+}
+
+void TrayIcon::LookForTaskbar() {
+  const os::WindowHandle taskbar = Taskbar();
+  if (taskbar != 0 && taskbar != taskbar_) is_in_place_ = false;
+  taskbar_ = taskbar;
+  RetryAdd();
 }
 
 void TrayIcon::Remove() {
-  if (!was_added_) return;
-  was_added_ = false;
-  system_.shell.Shell_NotifyIconA(os::kNimDelete, record_);
+  if (!is_wanted_) return;
+  is_wanted_ = false;
+  Notify(os::kNimDelete);
 }
 
 /// The field is padded with blanks behind the NUL that ends the text; a longer text is cut.
@@ -58,7 +76,7 @@ void TrayIcon::SetTip(std::string_view text) {
 
 base::Status TrayIcon::Form_MouseMove(int /*button*/, int /*shift*/, double x_twips, double /*y_twips*/) {
   SetTip(base::ShortestText(monitor_.MemStatus()) + " MB");
-  if (was_added_) system_.shell.Shell_NotifyIconA(os::kNimModify, record_);
+  if (is_wanted_) Notify(os::kNimModify);
   const double message = base::RoundHalfEven(x_twips / ui::kTwipsPerPixel);
   if (message == kLeftButtonDoubleClick) Display();
   if (message == kRightButtonDown) form_.PopUpMenu(menu_.mnuTray);

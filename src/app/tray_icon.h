@@ -22,6 +22,11 @@ class TrayIcon {
   void SetOwner(os::WindowHandle window, os::IconHandle icon);
 
   void AddToTray();
+  /// Asks once more for an icon that was refused, as at log-on when the taskbar is not ready yet.
+  void RetryAdd();
+  /// Asks for the icon again where the taskbar is another one than it was: the first Windows 95 does not tell
+  /// when it was made anew.
+  void LookForTaskbar();
   /// Takes the icon away, where one was added.
   void Remove();
 
@@ -35,6 +40,8 @@ class TrayIcon {
   base::Status mnuTrayClose_Click();
 
  private:
+  bool Notify(std::uint32_t request);
+  [[nodiscard]] os::WindowHandle Taskbar() const;
   void SetTip(std::string_view text);
   void Display();
 
@@ -44,7 +51,10 @@ class TrayIcon {
   memory::MemoryMonitor& monitor_;
   memory::ManualRelease& release_;
   os::NotifyIconData record_;
-  bool was_added_ = false;
+  /// The taskbar when the icon was last asked for; 0 where there was none.
+  os::WindowHandle taskbar_ = 0;
+  bool is_wanted_ = false;
+  bool is_in_place_ = false;
 };
 
 }  // namespace qdix::app

@@ -55,6 +55,12 @@ Result<std::int32_t> SubtractInt32(std::int32_t a, std::int32_t b) {
   return difference;
 }
 
+Result<std::int32_t> AddInt32(std::int32_t a, std::int32_t b) {
+  std::int32_t sum = 0;
+  if (__builtin_add_overflow(a, b, &sum)) return kOverflow;
+  return sum;
+}
+
 Result<std::int16_t> AddInt16(std::int16_t a, std::int16_t b) {
   std::int16_t sum = 0;
   if (__builtin_add_overflow(a, b, &sum)) return kOverflow;

@@ -58,7 +58,8 @@ namespace qdix::base {
 /// a - b in signed 32-bit arithmetic; error 6 on overflow.
 [[nodiscard]] Result<std::int32_t> SubtractInt32(std::int32_t a, std::int32_t b);
 
-/// a + b in signed 16-bit arithmetic; error 6 on overflow.
+/// a + b in signed arithmetic of 32 or 16 bits; error 6 on overflow.
+[[nodiscard]] Result<std::int32_t> AddInt32(std::int32_t a, std::int32_t b);
 [[nodiscard]] Result<std::int16_t> AddInt16(std::int16_t a, std::int16_t b);
 
 /// A stored text that is read as true or false: "True"/"False" in any case, or a number (not 0 is true);

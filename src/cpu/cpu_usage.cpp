@@ -1,5 +1,11 @@
 #include "cpu/cpu_usage.h"
 
+#include <algorithm>
+#include <numeric>
+
+#include "base/numbers.h"
+#include "base/text.h"
+
 namespace qdix::cpu {
 
 namespace {
@@ -7,20 +13,119 @@ namespace {
 constexpr const char* kIntervalKey = "CPU";
 constexpr double kDefaultInterval = 1;
 
+constexpr const char* kStartKey = "PerfStats\\StartStat";
+constexpr const char* kDataKey = "PerfStats\\StatData";
+/// One name, backslash included.
+constexpr const char* kLoadValue = "KERNEL\\CPUUsage";
+
+/// Lowest bar of the graph in percent, so that an idle machine still shows a line; also what the samples
+/// start with, so that the first averages come up gently.
+constexpr std::int32_t kFloorPercent = 4;
+
 }  // namespace
 
-CpuUsage::CpuUsage(shell::SettingsStore& settings, screens::StartupScreen& screen)
-    : settings_(settings), screen_(screen) {
-  screen_.Slider7.OnMove = base::Callback<base::Status(std::int32_t)>::To<&CpuUsage::Slider7_Change>(*this);
+CpuUsage::CpuUsage(const os::System& system, const ui::Application& application,
+                   shell::SettingsStore& settings, screens::QuondixScreen& quondix,
+                   screens::StartupScreen& startup)
+    : system_(system), application_(application), settings_(settings), quondix_(quondix), startup_(startup) {
+  startup_.Slider7.OnMove = base::Callback<base::Status(std::int32_t)>::To<&CpuUsage::Slider7_Change>(*this);
 }
 
 void CpuUsage::LoadUpdateInterval() {
-  screen_.Slider7.SetNearest(settings_.GetNumber(shell::kSettingsSection, kIntervalKey, kDefaultInterval));
+  startup_.Slider7.SetNearest(settings_.GetNumber(shell::kSettingsSection, kIntervalKey, kDefaultInterval));
 }
 
 base::Status CpuUsage::Slider7_Change(std::int32_t position) {
   settings_.SaveNumber(shell::kSettingsSection, kIntervalKey, position);
   return base::kDone;
+}
+
+std::int32_t CpuUsage::QueryLoad(os::KeyHandle key) {
+  std::array<std::uint8_t, 4> bytes{};
+  std::uint32_t type = os::kRegDword;
+  std::uint32_t size_bytes = bytes.size();
+  if (system_.registry.RegQueryValueExA(key, kLoadValue, type, bytes.data(), size_bytes) !=
+      os::kErrorSuccess) {
+    return 0;
+  }
+  const std::uint32_t reading = bytes[0] | std::uint32_t{bytes[1]} << 8U | std::uint32_t{bytes[2]} << 16U |
+                                std::uint32_t{bytes[3]} << 24U;
+  return static_cast<std::int32_t>(reading);
+}
+
+void CpuUsage::StartCpuStatistics() {
+  os::KeyHandle key = 0;
+  if (system_.registry.RegOpenKeyExA(os::kHkeyDynData, kStartKey, os::kKeyQueryValue, key) !=
+      os::kErrorSuccess) {
+    return;
+  }
+  static_cast<void>(QueryLoad(key));  // the question itself starts the statistic
+  system_.registry.RegCloseKey(key);
+}
+
+void CpuUsage::FirstCPUUSAGE() {
+  os::KeyHandle key = 0;
+  if (system_.registry.RegOpenKeyExA(os::kHkeyDynData, kDataKey, os::kKeyQueryValue, key) !=
+      os::kErrorSuccess) {
+    return;
+  }
+  const base::Result<std::uint8_t> reading = base::ToByte(QueryLoad(key));
+  system_.registry.RegCloseKey(key);
+  recent_samples_.fill(kFloorPercent);
+  if (reading.Ok()) {
+    oldest_sample_ = reading.Value();
+  } else {
+    Report(reading.Error());
+  }
+}
+
+// Between two updates of the display the keys that were opened stay open, up to four for each update: the
+// statistic has always been read like this.
+void CpuUsage::CPUUsage() {
+  os::KeyHandle key = 0;
+  if (system_.registry.RegOpenKeyExA(os::kHkeyDynData, kDataKey, os::kKeyQueryValue, key) !=
+      os::kErrorSuccess) {
+    return;
+  }
+  const base::Result<bool> displayed = TakeReading(QueryLoad(key));
+  if (displayed.ValueOr(true)) system_.registry.RegCloseKey(key);
+  if (!displayed.Ok()) Report(displayed.Error());
+}
+
+base::Result<bool> CpuUsage::TakeReading(std::int32_t reading) {
+  const base::Result<std::uint8_t> oldest = base::ToByte(recent_samples_.back());
+  if (!oldest.Ok()) return oldest.Error();
+  oldest_sample_ = oldest.Value();
+  std::shift_right(recent_samples_.begin(), recent_samples_.end(), 1);
+  recent_samples_.front() = reading;
+
+  const std::int32_t ticks_per_update = startup_.Slider7.Value();
+  cpu_tick_count_ =
+      ticks_per_update > cpu_tick_count_ ? static_cast<std::uint8_t>(cpu_tick_count_ + 1) : std::uint8_t{1};
+  if (cpu_tick_count_ != 1) return false;
+  const base::Status shown = ShowAverage();
+  if (!shown.Ok()) return shown.Error();
+  return true;
+}
+
+base::Status CpuUsage::ShowAverage() {
+  const std::int32_t average = AverageCpuUsage();
+  quondix_.lblUSAGE.SetCaption(base::TextOf(average) + " %");
+  return quondix_.XGraphMeter1.Update(std::max(average, kFloorPercent));
+}
+
+std::int32_t CpuUsage::AverageCpuUsage() const {
+  constexpr double kSampleCount = 8;
+  const double sum =
+      std::accumulate(recent_samples_.begin(), recent_samples_.end(), static_cast<double>(oldest_sample_));
+  return static_cast<std::int32_t>(base::Truncate(sum / kSampleCount));
+}
+
+void CpuUsage::Report(const base::RuntimeError& error) {
+  std::string text = "error in CPU Usage Code";
+  text += base::kLineBreak;
+  text += error.Description() + " - err number " + base::TextOf(error.number);
+  system_.dialogs.MessageBoxA(text, application_.Title(), os::kMbOk);
 }
 
 }  // namespace qdix::cpu

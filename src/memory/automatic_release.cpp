@@ -16,7 +16,9 @@ constexpr double kDefaultCheckSeconds = 20;
 constexpr double kMinuteSeconds = 60;
 constexpr double kMsPerSecond = 1000;
 
-constexpr std::int16_t kLargestThresholdMb = 32;
+/// The companion launcher carries this title while it is working, and is not to be disturbed then.
+constexpr const char* kCompanionClass = "ThunderRT6Main";
+constexpr const char* kCompanionWorking = "Kestrin Launcher (Working)";
 
 constexpr std::string_view kCounterAtLoad = "Auto Detection feature has detected and released RAM ";
 constexpr std::string_view kCounterLater = "Automatic feature has detected and released RAM ";
@@ -25,14 +27,16 @@ constexpr std::string_view kCounterLater = "Automatic feature has detected and r
 
 AutomaticRelease::AutomaticRelease(const os::System& system, shell::SettingsStore& settings,
                                    screens::AutomaticScreen& screen, ui::TabStrip& tabs, ui::Timer& timer2,
-                                   const ui::Application& application)
+                                   const ui::Application& application, ScheduledRelease& scheduled)
     : system_(system),
       settings_(settings),
       screen_(screen),
       timer2_(timer2),
+      scheduled_(scheduled),
       cpu_limit_({screen.Check9, screen.Text9, tabs, screens::kAutomaticTab}, {"CPUAutoActive", "AutoCPU"},
                  settings, system.dialogs, application) {
   using ui::Handler;
+  timer2_.OnTimer = Handler::To<&AutomaticRelease::Timer2_Timer>(*this);
   screen_.Check1.OnClick = Handler::To<&AutomaticRelease::Check1_Click>(*this);
   screen_.List2.OnClick = Handler::To<&AutomaticRelease::List2_Click>(*this);
   screen_.List4.OnClick = Handler::To<&AutomaticRelease::List4_Click>(*this);
@@ -77,11 +81,6 @@ void AutomaticRelease::ShowCounter(std::string_view beginning) {
   screen_.lblCounter.SetCaption(text);
 }
 
-void AutomaticRelease::SetThresholdRange(std::int16_t total_ram_mb) {
-  const bool is_small = total_ram_mb >= 1 && total_ram_mb < kLargestThresholdMb;
-  screen_.VScroll2.SetRange(is_small ? total_ram_mb : kLargestThresholdMb, screens::kMinRamRange.maximum);
-}
-
 void AutomaticRelease::LoadThreshold(double total_ram_mb) {
   const std::string stored = settings_.GetSetting(shell::kSettingsSection, "MinRAM",
                                                   base::ShortestText(DefaultThreshold(total_ram_mb)));
@@ -102,6 +101,38 @@ void AutomaticRelease::LoadActive() {
 
 void AutomaticRelease::LoadInterval() {
   SelectNumber(screen_.List2, settings_.GetNumber(shell::kSettingsSection, "AutoSecs", kDefaultCheckSeconds));
+}
+
+base::Status AutomaticRelease::Timer2_Timer() {
+  if (system_.windows.FindWindowA(kCompanionClass, kCompanionWorking) != 0) return base::kDone;
+  if (auto_check_ticks_ == 1) return CheckMemory();
+  const base::Result<std::int16_t> count = base::AddInt16(auto_tick_count_, 1);
+  if (!count.Ok()) return count.Error();
+  auto_tick_count_ = count.Value();
+  if (auto_tick_count_ != auto_check_ticks_) return base::kDone;
+  const base::Status checked = CheckMemory();
+  auto_tick_count_ = 0;
+  return checked;
+}
+
+base::Status AutomaticRelease::CheckMemory() {
+  const double available_mb = scheduled_.AvailableMb();
+  return base::ParseLeadingNumber(screen_.Text2.Text()) > available_mb ? AutoMem() : base::kDone;
+}
+
+base::Status AutomaticRelease::AutoMem() {
+  if (scheduled_.IsHeldBack(cpu_limit_)) return base::kDone;
+  const base::Status drawn = scheduled_.PushBar();
+  if (!drawn.Ok()) return drawn;
+  if (scheduled_.Run(screen_.List4, ScheduledRelease::WhenFree::kStop) != ReleaseOutcome::kFinished) {
+    return base::kDone;
+  }
+  const base::Result<std::int32_t> count = base::AddInt32(auto_release_count_, 1);
+  if (!count.Ok()) return count.Error();
+  auto_release_count_ = count.Value();
+  ShowCounter(kCounterLater);
+  settings_.SaveNumber(shell::kSettingsSection, "CounterValue", auto_release_count_);
+  return base::kDone;
 }
 
 base::Status AutomaticRelease::Check1_Click() {

@@ -1,9 +1,11 @@
-// The "Automatic" tab: its settings, the check interval, and the count of automatic releases.
+// The "Automatic" tab: looks at the available memory every few seconds, releases memory below a threshold,
+// and counts how often it did.
 #pragma once
 
 #include <cstdint>
 
 #include "memory/cpu_limit.h"
+#include "memory/scheduled_release.h"
 #include "os/system.h"
 #include "screens/automatic_screen.h"
 #include "screens/main_window.h"
@@ -14,7 +16,8 @@ namespace qdix::memory {
 class AutomaticRelease {
  public:
   AutomaticRelease(const os::System& system, shell::SettingsStore& settings, screens::AutomaticScreen& screen,
-                   ui::TabStrip& tabs, ui::Timer& timer2, const ui::Application& application);
+                   ui::TabStrip& tabs, ui::Timer& timer2, const ui::Application& application,
+                   ScheduledRelease& scheduled);
 
   /// Fills the lists; selects nothing.
   void FillLists();
@@ -25,13 +28,15 @@ class AutomaticRelease {
   void StartCounter();
   /// Shows the stored count and date; a missing or unreadable date becomes now and is stored.
   void LoadCounter();
-  /// Narrows the threshold's range to the machine's memory where that is below 32 MB.
-  void SetThresholdRange(std::int16_t total_ram_mb);
   void LoadThreshold(double total_ram_mb);
   void LoadAmount(double total_ram_mb);
   /// Ticking Check1 arms Timer2 with the interval as List2 stands now.
   void LoadActive();
   void LoadInterval();
+
+  /// One automatic release, unless the processor is busy. It counts also where enough memory was free.
+  base::Status AutoMem();
+  base::Status Timer2_Timer();
 
   base::Status Check1_Click();
   base::Status List2_Click();
@@ -49,17 +54,20 @@ class AutomaticRelease {
   [[nodiscard]] double AutoCheckTicks() const { return auto_check_ticks_; }
 
  private:
-  void SetCounter(double start_date, std::int32_t count);
+  base::Status CheckMemory();
   void ShowCounter(std::string_view beginning);
 
   const os::System system_;
   shell::SettingsStore& settings_;
   screens::AutomaticScreen& screen_;
   ui::Timer& timer2_;
+  ScheduledRelease& scheduled_;
   CpuLimit cpu_limit_;
   double counter_start_date_ = 0;
   std::int32_t auto_release_count_ = 0;
   double auto_check_ticks_ = 1;
+  /// Ticks since the last check, where a check takes more than one.
+  std::int16_t auto_tick_count_ = 0;
 };
 
 }  // namespace qdix::memory

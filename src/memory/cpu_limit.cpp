@@ -23,6 +23,12 @@ base::Status CpuLimit::ActiveClicked() {
   return base::kDone;
 }
 
+/// The stored percentage counts, not the one that is being typed.
+bool CpuLimit::HoldsBack(std::int32_t load_percent) const {
+  if (!controls_.active.Ticked()) return false;
+  return settings_.GetNumber(shell::kSettingsSection, keys_.percent, kDefaultPercent) <= load_percent;
+}
+
 void CpuLimit::ShowWhetherActive() {
   const bool active = controls_.active.Ticked();
   controls_.percent.SetEnabled(active);

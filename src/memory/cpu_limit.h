@@ -1,6 +1,7 @@
-// The CPU gate of a release as the user sets it: a check box and a box with the percentage. Knows nothing of
-// the load itself.
+// The CPU gate of a release: a check box and a box with the percentage from which on the release waits.
 #pragma once
+
+#include <cstdint>
 
 #include "os/dialogs.h"
 #include "shell/settings_store.h"
@@ -42,6 +43,9 @@ class CpuLimit {
   /// Saves a percentage of 5 to 99. Any other opens the tab, tells the user, puts the focus back and answers
   /// false; at the end of the session it is dropped without a word.
   base::Result<bool> ValidatePercent();
+
+  /// True where the box is ticked and the stored percentage is not above this load.
+  [[nodiscard]] bool HoldsBack(std::int32_t load_percent) const;
 
   /// True while a refused percentage opens its tab: leaving another tab that way validates nothing.
   [[nodiscard]] bool OpeningTab() const { return opening_tab_; }

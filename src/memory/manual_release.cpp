@@ -5,13 +5,6 @@
 
 namespace qdix::memory {
 
-namespace {
-
-/// A release shows in the graph as a bar of full height.
-constexpr std::int32_t kReleaseBar = 100;
-
-}  // namespace
-
 ManualRelease::ManualRelease(MemoryRelease& release, shell::SettingsStore& settings,
                              screens::QuondixScreen& screen)
     : release_(release), settings_(settings), screen_(screen) {

@@ -1,6 +1,8 @@
 // "Free Up RAM Now": the button, the amount and the number of passes that go with it.
 #pragma once
 
+#include <cstdint>
+
 #include "memory/memory_release.h"
 #include "screens/quondix_screen.h"
 #include "shell/settings_store.h"
@@ -9,6 +11,9 @@ namespace qdix::memory {
 
 class ManualRelease {
  public:
+  /// A release shows in the CPU graph as a bar of full height.
+  static constexpr std::int32_t kReleaseBar = 100;
+
   ManualRelease(MemoryRelease& release, shell::SettingsStore& settings, screens::QuondixScreen& screen);
 
   /// Fills List1 with the amounts.

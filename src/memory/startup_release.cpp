@@ -10,15 +10,16 @@ namespace qdix::memory {
 namespace {
 
 /// A longer delay is counted in minutes, because a timer holds little more than one.
-constexpr double kLongestSingleDelaySeconds = 60;
-constexpr double kMsPerSecond = 1000;
+constexpr std::int32_t kLongestSingleDelaySeconds = 60;
+constexpr std::int32_t kMsPerSecond = 1000;
 
 }  // namespace
 
 StartupRelease::StartupRelease(shell::SettingsStore& settings, screens::StartupScreen& screen,
-                               ui::Timer& timer3)
-    : settings_(settings), screen_(screen), timer3_(timer3) {
+                               ui::Timer& timer3, ScheduledRelease& scheduled)
+    : settings_(settings), screen_(screen), timer3_(timer3), scheduled_(scheduled) {
   using ui::Handler;
+  timer3_.OnTimer = Handler::To<&StartupRelease::Timer3_Timer>(*this);
   screen_.Combo1.OnLostFocus = Handler::To<&StartupRelease::Combo1_LostFocus>(*this);
   screen_.Text3.OnChange = Handler::To<&StartupRelease::Text3_Change>(*this);
   screen_.VScroll3.OnChange = Handler::To<&StartupRelease::VScroll3_Change>(*this);
@@ -39,18 +40,37 @@ void StartupRelease::LoadAmount(double total_ram_mb) {
 void StartupRelease::LoadAndArmDelay() {
   const std::string stored = settings_.GetSetting(shell::kStartupSection, "StartupTime",
                                                   base::ShortestText(kLongestSingleDelaySeconds));
-  const double seconds = base::ParseLeadingNumber(stored);
+  const auto seconds = static_cast<std::int16_t>(
+      base::ClampToInt32(base::ParseLeadingNumber(stored), 0, std::numeric_limits<std::int16_t>::max()));
   screen_.VScroll3.SetNearest(seconds);
   screen_.Text3.SetText(stored);
-  if (seconds < kLongestSingleDelaySeconds + 1) {
+  if (seconds <= kLongestSingleDelaySeconds) {
     timer3_.SetNearestInterval(seconds * kMsPerSecond);
   } else {
     timer3_.SetNearestInterval(kLongestSingleDelaySeconds * kMsPerSecond);
-    startup_delay_left_ =
-        static_cast<std::int16_t>(base::ClampToInt32(seconds, 0, std::numeric_limits<std::int16_t>::max()));
+    startup_delay_left_ = seconds;
   }
   timer3_.SetEnabled(true);
 }
+
+base::Status StartupRelease::Timer3_Timer() {
+  if (startup_delay_left_ != 0) {
+    const std::int32_t left_seconds = startup_delay_left_ - kLongestSingleDelaySeconds;
+    if (left_seconds > kLongestSingleDelaySeconds) {
+      startup_delay_left_ = static_cast<std::int16_t>(left_seconds);
+      return base::kDone;
+    }
+    startup_delay_left_ = 0;
+    return timer3_.SetInterval(left_seconds * kMsPerSecond);
+  }
+  const base::Status drawn = scheduled_.PushBar();
+  if (!drawn.Ok()) return drawn;
+  StartupMem();
+  timer3_.SetEnabled(false);
+  return base::kDone;
+}
+
+void StartupRelease::StartupMem() { scheduled_.Run(screen_.Combo1, ScheduledRelease::WhenFree::kGoOn); }
 
 base::Status StartupRelease::Combo1_LostFocus() {
   settings_.SaveNumber(shell::kStartupSection, "StartupRAM", SelectedNumber(screen_.Combo1));

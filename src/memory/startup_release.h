@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "memory/scheduled_release.h"
 #include "screens/startup_screen.h"
 #include "shell/settings_store.h"
 #include "ui/timer.h"
@@ -11,7 +12,8 @@ namespace qdix::memory {
 
 class StartupRelease {
  public:
-  StartupRelease(shell::SettingsStore& settings, screens::StartupScreen& screen, ui::Timer& timer3);
+  StartupRelease(shell::SettingsStore& settings, screens::StartupScreen& screen, ui::Timer& timer3,
+                 ScheduledRelease& scheduled);
 
   /// Fills the list of amounts; selects nothing.
   void FillLists();
@@ -21,6 +23,10 @@ class StartupRelease {
   void LoadAmount(double total_ram_mb);
   /// Shows the stored delay and starts counting it.
   void LoadAndArmDelay();
+
+  /// The release after start-up. Every pass runs, however much memory is free.
+  void StartupMem();
+  base::Status Timer3_Timer();
 
   /// Saves the amount chosen for the start-up release; 0 where none is.
   base::Status Combo1_LostFocus();
@@ -35,6 +41,7 @@ class StartupRelease {
   shell::SettingsStore& settings_;
   screens::StartupScreen& screen_;
   ui::Timer& timer3_;
+  ScheduledRelease& scheduled_;
   std::int16_t startup_delay_left_ = 0;
 };
 

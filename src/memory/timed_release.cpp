@@ -33,14 +33,17 @@ constexpr TimedRelease::Unit TimedRelease::Unit::kMinutes{kMinuteItems, 1, "Time
 constexpr TimedRelease::Unit TimedRelease::Unit::kHours{kHourItems, 2, "TimeHours", 1, 60};
 
 TimedRelease::TimedRelease(const os::System& system, shell::SettingsStore& settings,
-                           screens::TimeIntervalsScreen& screen, ui::TabStrip& tabs, ui::Timer& timer4,
-                           const ui::Application& application)
+                           screens::TimeIntervalsScreen& screen, ui::TabStrip& tabs, const Timers& timers,
+                           const ui::Application& application, ScheduledRelease& scheduled)
     : settings_(settings),
       screen_(screen),
-      timer4_(timer4),
+      timers_(timers),
+      scheduled_(scheduled),
       cpu_limit_({screen.Check10, screen.Text10, tabs, screens::kTimeIntervalsTab},
                  {"CPUTimeActive", "TimeCPU"}, settings, system.dialogs, application) {
   using ui::Handler;
+  timers_.timer4.OnTimer = Handler::To<&TimedRelease::Timer4_Timer>(*this);
+  timers_.timer5.OnTimer = Handler::To<&TimedRelease::Timer5_Timer>(*this);
   screen_.Check3.OnClick = Handler::To<&TimedRelease::Check3_Click>(*this);
   screen_.Option4.OnClick = Handler::To<&TimedRelease::Option4_Click>(*this);
   screen_.Option5.OnClick = Handler::To<&TimedRelease::Option5_Click>(*this);
@@ -69,7 +72,7 @@ void TimedRelease::LoadActive() {
 }
 
 void TimedRelease::ShowWhetherActive() {
-  timer4_.SetEnabled(screen_.Check3.Ticked());
+  timers_.timer4.SetEnabled(screen_.Check3.Ticked());
   screen_.lblNextRelease.SetVisible(screen_.Check3.Ticked());
 }
 
@@ -84,6 +87,37 @@ std::int32_t TimedRelease::IntervalMinutes() const {
 void TimedRelease::UpdateNextRelease() {
   screen_.lblNextRelease.SetCaption("Next Release of RAM is due in " +
                                     base::TextOf(IntervalMinutes() - timed_minute_count_) + " minutes");
+}
+
+base::Status TimedRelease::Timer4_Timer() {
+  if (scheduled_.IsHeldBack(cpu_limit_)) {
+    timers_.timer5.SetEnabled(true);
+    return base::kDone;
+  }
+  const base::Result<std::int16_t> count = base::AddInt16(timed_minute_count_, 1);
+  if (!count.Ok()) return count.Error();
+  timed_minute_count_ = count.Value();
+  if (timed_minute_count_ >= IntervalMinutes()) {
+    const base::Result<ReleaseOutcome> released = TimeMem();
+    if (!released.Ok()) return released.Error();
+    if (released.Value() == ReleaseOutcome::kUnloaded) return base::kDone;
+  }
+  UpdateNextRelease();
+  return base::kDone;
+}
+
+/// A retry that the processor lets through counts as a minute; that is intended.
+base::Status TimedRelease::Timer5_Timer() {
+  timers_.timer5.SetEnabled(false);
+  return Timer4_Timer();
+}
+
+base::Result<ReleaseOutcome> TimedRelease::TimeMem() {
+  const base::Status drawn = scheduled_.PushBar();
+  if (!drawn.Ok()) return drawn.Error();
+  const ReleaseOutcome outcome = scheduled_.Run(screen_.List3, ScheduledRelease::WhenFree::kStop);
+  if (outcome == ReleaseOutcome::kFinished) timed_minute_count_ = 0;
+  return outcome;
 }
 
 base::Status TimedRelease::Check3_Click() {

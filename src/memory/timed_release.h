@@ -1,9 +1,10 @@
-// The "Time Intervals" tab: its settings and the countdown to the next timed release.
+// The "Time Intervals" tab: releases memory every so many minutes or hours, and counts down to the next time.
 #pragma once
 
 #include <cstdint>
 
 #include "memory/cpu_limit.h"
+#include "memory/scheduled_release.h"
 #include "os/system.h"
 #include "screens/main_window.h"
 #include "screens/time_intervals_screen.h"
@@ -13,8 +14,16 @@ namespace qdix::memory {
 
 class TimedRelease {
  public:
+  struct Timers {
+    /// Ticks once a minute.
+    ui::Timer& timer4;
+    /// Ticks once, some seconds after a busy processor put a release off.
+    ui::Timer& timer5;
+  };
+
   TimedRelease(const os::System& system, shell::SettingsStore& settings, screens::TimeIntervalsScreen& screen,
-               ui::TabStrip& tabs, ui::Timer& timer4, const ui::Application& application);
+               ui::TabStrip& tabs, const Timers& timers, const ui::Application& application,
+               ScheduledRelease& scheduled);
 
   /// Fills the list of amounts; the list of intervals is filled with the unit.
   void FillLists();
@@ -29,6 +38,11 @@ class TimedRelease {
 
   /// Shows how many minutes are left; zero and less as they are.
   void UpdateNextRelease();
+
+  /// One timed release; starts the countdown anew unless it failed.
+  base::Result<ReleaseOutcome> TimeMem();
+  base::Status Timer4_Timer();
+  base::Status Timer5_Timer();
 
   base::Status Check3_Click();
   base::Status Option4_Click();
@@ -51,8 +65,10 @@ class TimedRelease {
 
   shell::SettingsStore& settings_;
   screens::TimeIntervalsScreen& screen_;
-  ui::Timer& timer4_;
+  Timers timers_;
+  ScheduledRelease& scheduled_;
   CpuLimit cpu_limit_;
+  /// Ticks of a minute since the last timed release, and retries that passed.
   std::int16_t timed_minute_count_ = 0;
   bool choosing_unit_ = false;
 };

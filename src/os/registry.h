@@ -13,6 +13,8 @@ inline constexpr KeyHandle kHkeyClassesRoot = 0x80000000U;
 inline constexpr KeyHandle kHkeyCurrentUser = 0x80000001U;
 inline constexpr KeyHandle kHkeyLocalMachine = 0x80000002U;
 inline constexpr KeyHandle kHkeyUsers = 0x80000003U;
+/// Statistics that the system makes up as they are read; Windows 95, 98 and ME only.
+inline constexpr KeyHandle kHkeyDynData = 0x80000006U;
 
 inline constexpr std::int32_t kErrorSuccess = 0;
 inline constexpr std::int32_t kErrorFileNotFound = 2;

@@ -7,6 +7,7 @@
 #include "os/event_pump.h"
 #include "os/memory.h"
 #include "os/processes.h"
+#include "os/processor.h"
 #include "os/registry.h"
 #include "os/shell.h"
 #include "os/windows.h"
@@ -22,6 +23,7 @@ struct System {
   Clock& clock;
   Processes& processes;
   Shell& shell;
+  Processor& processor;
 };
 
 }  // namespace qdix::os

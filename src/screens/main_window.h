@@ -53,7 +53,14 @@ struct MainWindow {
   /// One minute of the timed release.
   ui::Timer Timer4{events, "Timer4", 60000, false};
 
-  [[nodiscard]] std::array<ui::Timer*, 4> Timers() { return {&Timer1, &Timer2, &Timer3, &Timer4}; }
+  /// One retry of a timed release that a busy processor put off.
+  ui::Timer Timer5{events, "Timer5", 10000, false};
+  /// How long the system has been running.
+  ui::Timer Timer6{events, "Timer6", 65000, true};
+
+  static constexpr std::size_t kTimerCount = 6;
+  using AllTimers = std::array<ui::Timer*, kTimerCount>;
+  [[nodiscard]] AllTimers Timers() { return {&Timer1, &Timer2, &Timer3, &Timer4, &Timer5, &Timer6}; }
 };
 
 }  // namespace qdix::screens

@@ -32,12 +32,12 @@ struct QuondixScreen {
 
   ui::Frame FrameCpu{page, {.name = "FrameCpu", .caption = "CPU Usage", .place = {4, 70, 260, 61}}};
   controls::XGraphMeter XGraphMeter1{FrameCpu,
-                                     {.name = "XGraphMeter1", .place = {11, 82, 160, 42}},
+                                     {.name = "XGraphMeter1", .place = {11, 82, 132, 42}},
                                      {.back_colour = ui::kMenuBackground, .fore_colour = 0x000000FFU}};
-  ui::Label lblUSAGE{FrameCpu, {.name = "lblUSAGE", .caption = "0 %", .place = {178, 82, 78, 8}}};
+  ui::Label lblUSAGE{FrameCpu, {.name = "lblUSAGE", .caption = "0 %", .place = {150, 82, 28, 8}}};
   ui::Label lblWindowsOnly{
-      FrameCpu, {.name = "lblWindowsOnly", .caption = "(For Win 95/98/ME)", .place = {178, 93, 78, 8}}};
-  ui::Label lblCPU{FrameCpu, {.name = "lblCPU", .caption = "CPU Speed :", .place = {178, 106, 80, 20}}};
+      FrameCpu, {.name = "lblWindowsOnly", .caption = "(For Win 95/98/ME)", .place = {180, 82, 78, 8}}};
+  ui::Label lblCPU{FrameCpu, {.name = "lblCPU", .caption = "CPU Speed :", .place = {150, 95, 108, 32}}};
 
   ui::Frame FrameRelease{page, {.name = "FrameRelease", .caption = "Release", .place = {4, 133, 164, 67}}};
   ui::Label lblAmount{

@@ -73,6 +73,12 @@ struct StartupScreen {
                        .place = {11, 139, 78, 10}}};
   ui::Label lblAutoAndTime{
       FrameOther, {.name = "lblAutoAndTime", .caption = "(Auto & Time Only)", .place = {92, 140, 90, 8}}};
+
+  ui::Frame FrameUpTime{page, {.name = "FrameUpTime", .caption = "System", .place = {4, 159, 260, 26}}};
+  ui::Label lblTimeRunning{FrameUpTime,
+                           {.name = "lblTimeRunning",
+                            .caption = "Your system has been running for 0  hours and 5 minutes",
+                            .place = {11, 171, 244, 8}}};
 };
 
 }  // namespace qdix::screens

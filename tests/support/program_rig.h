@@ -14,6 +14,12 @@ namespace qdix::tests {
 
 inline constexpr double kNoon21November2026 = 46347.5;
 inline constexpr std::uint32_t kMegabyte = 1024 * 1024;
+inline constexpr ui::Colour kBarColour = 0x000000FFU;
+/// Full height of a bar on the graph: a release.
+inline constexpr int kFullBarPx = 64;
+/// Interval of the display refresh, with which a reading of the processor load comes.
+inline constexpr std::int64_t kRefreshMs = 750;
+inline constexpr std::int64_t kMinuteMs = 60000;
 
 class ProgramRig {
  public:
@@ -52,8 +58,27 @@ class ProgramRig {
     return *program;
   }
 
-  /// Lets time pass for the timers and the clock.
+  /// Lets time pass for the timers; the machine's clock stands still.
   void AdvanceMs(std::int64_t ms) { timers.AdvanceMs(ms); }
+
+  /// Leaves this much memory available, in megabytes as the program shows them (1,024,000 bytes).
+  void SetAvailableMb(double mb) {
+    const os::MemoryStatus status = machine.GetSystem().memory.GlobalMemoryStatus();
+    machine.SetMemory(status.total_physical, static_cast<std::uint32_t>(mb * 1024000), status.total_page_file,
+                      status.available_page_file);
+  }
+  /// Draws no graph from now on: moving pixels takes most of the time of a long run.
+  void TakeGraphAway() { program->Quondix().XGraphMeter1.SurfaceChanged(nullptr); }
+
+  /// The newest bar of the CPU graph, in pixels from the bottom.
+  [[nodiscard]] int NewestBarPx() const {
+    int height = 0;
+    while (height < graph.Height() &&
+           graph.At(graph.Width() - 1, graph.Height() - 1 - height) == kBarColour) {
+      ++height;
+    }
+    return height;
+  }
 
   os::SimulatedMachine machine;
   SteppedTimers timers;

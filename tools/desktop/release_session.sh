@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # One release by hand, on the screen it is started on:   release_session.sh PROGRAM PROBE PICTURE.png
-# Starts the program, presses "Free Up RAM Now" with the pointer, waits for the end of the release, prints the figures
+# Starts the program, feeds its CPU graph with the load of this machine, presses "Free Up RAM Now" with the pointer, waits for the end of the release, prints the figures
 # of the window before and after and the peak of the program's memory, takes a picture and closes the window.
 # The exit code is 0 only if all of that happened.
 set -euo pipefail
@@ -12,7 +12,7 @@ readonly probe=${2:?the program that looks at windows}
 readonly picture=${3:?the picture to take}
 
 readonly button=Command1
-readonly figures=(lblPercentFree lblSwapfileUsed lblTotalMem lblSwapfile)
+readonly figures=(lblCPU lblUSAGE lblPercentFree lblSwapfileUsed lblTotalMem lblSwapfile)
 readonly start_limit_s=60
 readonly release_limit_s=180
 readonly close_limit_s=30
@@ -67,6 +67,26 @@ start_program() {
     answer_boxes
   done
   answer_boxes
+}
+
+# The CPU graph follows a statistic that Wine does not keep: the probe plays the load of this machine until the program
+# ends.
+feed_load() {
+  echo "run: the CPU graph shows the load of this machine, fed by the probe where Windows 98 keeps that statistic"
+  "$tools_dir/wine/wine.sh" "$probe" feed-load >"$work_dir/feed.log" 2>&1 </dev/null &
+  local deadline=$((SECONDS + probe_limit_s))
+  until grep -q '^feeding' "$work_dir/feed.log"; do
+    ((SECONDS < deadline)) || fail "the load could not be fed: $(tail -n 1 "$work_dir/feed.log")"
+    sleep 0.1
+  done
+}
+
+# The graph takes a bar every 750 ms; the label tells that it has moved.
+wait_for_load() {
+  local deadline=$((SECONDS + start_limit_s))
+  until [ "$(ask text lblUSAGE)" != "0 %" ]; do
+    ((SECONDS < deadline)) || fail "the CPU graph did not move within $start_limit_s seconds"
+  done
 }
 
 # Waits until the window shows the figures of its first refresh.
@@ -162,6 +182,8 @@ main() {
   rm -f "$picture" "${picture%.png}-failed.png"
   start_program
   wait_for_figures
+  feed_load
+  wait_for_load
   wait_for_button
   read_figures "$work_dir/before"
   release

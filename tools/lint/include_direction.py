@@ -15,7 +15,7 @@ LAYERS = {
     "controls": {"base", "ui"},
     "screens": {"base", "ui", "controls"},
     "shell": {"base", "os", "ui", "controls", "screens", "memory"},
-    "memory": {"base", "os", "ui", "controls", "screens", "shell"},
+    "memory": {"base", "os", "ui", "controls", "screens", "shell", "cpu"},
     "cpu": {"base", "os", "ui", "controls", "screens", "shell"},
     "app": {"base", "os", "ui", "controls", "screens", "shell", "memory", "cpu"},
     "runtime": set(),

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 
+#include "tests/e2e/driver/cpu_statistics.h"
 #include "tests/e2e/driver/shipped_program.h"
 
 namespace {
@@ -26,6 +27,9 @@ constexpr const char* kUsage =
     "is\n"
     "                    disabled until it is enabled again\n"
     "  answer-boxes      presses OK in every message box of the program and prints its text\n"
+    "  feed-load         plays the load of this machine as the system's statistics, which Wine does not "
+    "keep,\n"
+    "                    until the program has ended\n"
     "  close             closes the main window and waits until the program has ended\n";
 
 constexpr int kDisablingDeadlineMs = 10000;
@@ -77,6 +81,18 @@ int AnswerBoxes(const ShippedProgram& program) {
   return program.MessageBoxes().empty() ? 0 : Fail("a message box stays open");
 }
 
+int FeedLoad(const ShippedProgram& program) {
+  constexpr DWORD kFeedMs = 500;
+  std::puts("feeding");
+  qdix::e2e::HostLoad load;
+  while (program.IsRunning()) {
+    qdix::e2e::SetCpuLoad(load.Percent());
+    Sleep(kFeedMs);
+  }
+  qdix::e2e::RemoveCpuStatistics();
+  return 0;
+}
+
 int Close(const ShippedProgram& program) {
   program.Close();
   return Eventually([&] { return !program.IsRunning(); }) ? 0 : Fail("the program goes on");
@@ -103,6 +119,7 @@ int RunOnProgram(const ShippedProgram& program, const std::string& command) {
   if (command == "committed") return Committed(program);
   if (command == "peak") return Peak(program);
   if (command == "answer-boxes") return AnswerBoxes(program);
+  if (command == "feed-load") return FeedLoad(program);
   if (command == "close") return Close(program);
   return Fail(std::string("usage:\n") + kUsage);
 }

@@ -50,7 +50,7 @@ class Program {
   // The windows go first, then the program whose models they show, then the system.
   os::win32::Win32System system_;
   Form1 form1_;
-  std::array<ui::Timer*, 4> timers_;
+  screens::MainWindow::AllTimers timers_;
   ui::win32::FormWindow window_;
 };
 

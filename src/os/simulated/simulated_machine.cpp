@@ -27,7 +27,7 @@ std::vector<std::string> NamesFrom(const Accesses& accesses, std::size_t first_c
 }  // namespace
 
 SimulatedMachine::SimulatedMachine()
-    : system_{memory_, registry_, *this, windows_, dialogs_, *this, *this, shell_} {}
+    : system_{memory_, registry_, *this, windows_, dialogs_, *this, *this, shell_, processor_} {}
 
 void SimulatedMachine::SetMemory(std::uint32_t total_physical, std::uint32_t available_physical,
                                  std::uint32_t total_page_file, std::uint32_t available_page_file) {
@@ -77,6 +77,18 @@ std::vector<std::string> SimulatedMachine::WrittenValueNames(std::size_t first_c
 
 std::vector<std::string> SimulatedMachine::QueriedValueNames() const {
   return NamesFrom(registry_.QueriedValues(), 0);
+}
+
+void SimulatedMachine::SetCpuLoad(std::uint32_t percent) {
+  std::string bytes;
+  for (unsigned shift = 0; shift < 32; shift += 8) bytes += static_cast<char>((percent >> shift) & 0xFFU);
+  SetCpuLoadBytes(bytes);
+}
+
+void SimulatedMachine::SetCpuLoadBytes(const std::string& bytes) {
+  for (const char* key : {"PerfStats\\StartStat", "PerfStats\\StatData"}) {
+    SetRegistryBytes(kHkeyDynData, key, "KERNEL\\CPUUsage", kRegDword, bytes);
+  }
 }
 
 void SimulatedMachine::AdvanceMs(std::int64_t ms) {

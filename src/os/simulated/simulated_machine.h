@@ -9,6 +9,7 @@
 #include "os/simulated/call_log.h"
 #include "os/simulated/simulated_desktop.h"
 #include "os/simulated/simulated_memory.h"
+#include "os/simulated/simulated_processor.h"
 #include "os/simulated/simulated_registry.h"
 #include "os/system.h"
 
@@ -77,7 +78,17 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
 
   // Notification area.
   [[nodiscard]] const std::vector<simulated::TrayRequest>& TrayRequests() const { return shell_.Requests(); }
+  /// The taskbar ends, and every icon with it.
+  void ForgetTrayIcons() { shell_.ForgetIcons(); }
   [[nodiscard]] int TrayIconCount() const { return shell_.IconCount(); }
+
+  // The processor: it answers what is set here.
+  [[nodiscard]] simulated::SimulatedProcessor& TheProcessor() { return processor_; }
+
+  // The performance statistics in the dynamic root. They are there once a load has been set.
+  void SetCpuLoad(std::uint32_t percent);
+  /// The load reads from the registry as these bytes.
+  void SetCpuLoadBytes(const std::string& bytes);
 
   // Time and this process.
   void SetNow(double days) { now_days_ = days; }
@@ -107,6 +118,7 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   simulated::SimulatedWindows windows_{log_};
   simulated::SimulatedDialogs dialogs_{log_};
   simulated::SimulatedShell shell_{log_};
+  simulated::SimulatedProcessor processor_{log_};
   System system_;
   std::function<void(int)> on_pump_;
   int pumps_ = 0;

@@ -18,6 +18,8 @@ std::string RootName(KeyHandle root) {
       return "HKLM";
     case kHkeyUsers:
       return "HKU";
+    case kHkeyDynData:
+      return "HKDD";
     default:
       return {};
   }

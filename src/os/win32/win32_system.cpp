@@ -3,7 +3,7 @@
 namespace qdix::os::win32 {
 
 Win32System::Win32System()
-    : system_{memory_, registry_, event_pump_, windows_, dialogs_, clock_, processes_, shell_} {}
+    : system_{memory_, registry_, event_pump_, windows_, dialogs_, clock_, processes_, shell_, processor_} {}
 
 Win32System::~Win32System() = default;
 

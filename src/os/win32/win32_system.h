@@ -9,6 +9,7 @@
 #include "os/win32/win32_event_pump.h"
 #include "os/win32/win32_memory.h"
 #include "os/win32/win32_processes.h"
+#include "os/win32/win32_processor.h"
 #include "os/win32/win32_registry.h"
 #include "os/win32/win32_shell.h"
 #include "os/win32/win32_windows.h"
@@ -41,6 +42,7 @@ class Win32System {
   Win32Clock clock_;
   Win32Processes processes_;
   Win32Shell shell_;
+  Win32Processor processor_;
   System system_;
 };
 

@@ -22,6 +22,9 @@ class Tray : public testing::Test {
  protected:
   void SetUp() override {
     rig.SetHasRunBefore();
+    Launch();
+  }
+  void Launch() {
     rig.Create();
     rig.program->Window().AttachFormPeer(&menus);
     rig.program->Tray().SetOwner(0x1234, 0x5678);
@@ -32,6 +35,15 @@ class Tray : public testing::Test {
 
   ProgramRig rig;
   MenuNotes menus;
+};
+
+/// The taskbar is not ready yet when the program starts.
+class TrayAtLogOn : public Tray {
+ protected:
+  void SetUp() override {
+    rig.machine.FailNextCall("Shell_NotifyIconA");
+    Tray::SetUp();
+  }
 };
 
 TEST_F(Tray, IconIsAddedOnceAtLoadWithItsWholeRecord) {
@@ -84,7 +96,78 @@ TEST_F(Tray, MenuHoldsItsEntriesInOrder) {
   std::vector<std::string> captions;
   for (const ui::MenuItem* item : rig.program->TheTrayMenu().mnuTray.Children())
     captions.push_back(item->Caption());
-  EXPECT_EQ(captions, (std::vector<std::string>{"Free-up RAM", "-", "Display Q-DIX", "Hide", "-", "Close"}));
+  EXPECT_EQ(captions, (std::vector<std::string>{"Free-up RAM", "-", "Display Q-DIX", "Hide", "-", "Programs",
+                                                "-", "Close"}));
+  EXPECT_EQ(rig.program->TheTrayMenu().mnuTrayBar.Name(), "mnuTrayBar");
+  EXPECT_EQ(rig.program->TheTrayMenu().mnuTrayBar2.Name(), "mnuTrayBar2");
+  EXPECT_EQ(rig.program->TheTrayMenu().mnuTrayBar3.Name(), "mnuTrayBar3");
+}
+
+TEST_F(Tray, ProgramsAreTwentyFiveHiddenEntriesOfADisabledSubmenuUntilThereAreSome) {
+  const ui::MenuItem& programs = rig.program->TheTrayMenu().mnuPrograms;
+  EXPECT_FALSE(programs.Enabled());
+  ASSERT_EQ(programs.Children().size(), 25U);
+  EXPECT_TRUE(programs.Children()[0]->Visible()) << "a submenu always shows one";
+  for (std::size_t index = 1; index < 25; ++index) EXPECT_FALSE(programs.Children()[index]->Visible());
+}
+
+TEST_F(Tray, SingleClicksAndMovesLeaveAHiddenWindowHidden) {
+  rig.program->Quondix().Command2.Press();
+  MouseOnIcon(kLeftButton);
+  MouseOnIcon(512 * ui::kTwipsPerPixel);
+  EXPECT_FALSE(rig.program->Window().Shown());
+}
+
+TEST_F(Tray, PointerOverThatPixelOfTheWindowCountsAsTheClick) {
+  rig.program->Window().PointerMoved(0, 0, 516 * ui::kTwipsPerPixel, 300);
+  EXPECT_EQ(menus.shown, (std::vector<std::string>{"mnuTray"}));
+}
+
+TEST_F(TrayAtLogOn, RefusedAddIsAskedForAgainAtTheNextRefreshAndThenNoMore) {
+  EXPECT_EQ(rig.machine.TrayIconCount(), 0);
+  rig.AdvanceMs(kRefreshMs);
+  EXPECT_EQ(rig.machine.TrayIconCount(), 1);
+  const std::size_t asked = rig.machine.TrayRequests().size();
+  rig.AdvanceMs(10 * kRefreshMs);
+  EXPECT_EQ(rig.machine.TrayRequests().size(), asked);
+}
+
+TEST_F(TrayAtLogOn, RefusedAddIsAskedForAgainAlsoWhilePaused) {
+  rig.program->Quondix().Command3.Press();
+  rig.AdvanceMs(64999);
+  EXPECT_EQ(rig.machine.TrayIconCount(), 0);
+  rig.AdvanceMs(1);
+  EXPECT_EQ(rig.machine.TrayIconCount(), 1);
+}
+
+TEST_F(Tray, NewTaskbarGetsTheIconWithinAMinuteWhereItSaysNothing) {
+  const os::WindowHandle first = rig.machine.OpenWindow("Shell_TrayWnd", "");
+  rig.AdvanceMs(65000);
+  rig.machine.CloseWindow(first);
+  rig.machine.ForgetTrayIcons();
+  rig.AdvanceMs(65000);
+  EXPECT_EQ(rig.machine.TrayIconCount(), 0) << "no taskbar yet";
+  rig.machine.OpenWindow("Shell_TrayWnd", "");
+  rig.AdvanceMs(65000);
+  EXPECT_EQ(rig.machine.TrayIconCount(), 1);
+}
+
+TEST_F(Tray, NewTaskbarThatTellsGetsTheIconAtOnceAndNotTwice) {
+  rig.machine.OpenWindow("Shell_TrayWnd", "");
+  rig.machine.ForgetTrayIcons();
+  rig.program->Tray().AddToTray();
+  EXPECT_EQ(rig.machine.TrayIconCount(), 1);
+  const std::size_t asked = rig.machine.TrayRequests().size();
+  rig.AdvanceMs(2 * 65000);
+  EXPECT_EQ(rig.machine.TrayRequests().size(), asked);
+}
+
+TEST_F(Tray, ClosedProgramNeverAsksForTheIconAgain) {
+  rig.program->Window().Unload();
+  rig.machine.OpenWindow("Shell_TrayWnd", "");
+  rig.program->Tray().RetryAdd();
+  rig.program->Tray().LookForTaskbar();
+  EXPECT_EQ(rig.machine.TrayIconCount(), 0);
 }
 
 TEST_F(Tray, MenuFreesMemoryLikeTheButtonAlsoWhileTheButtonIsDisabled) {

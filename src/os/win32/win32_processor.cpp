@@ -1,0 +1,124 @@
+#include "os/win32/win32_processor.h"
+
+#include <windows.h>
+
+namespace qdix::os::win32 {
+
+namespace {
+
+constexpr std::uint32_t kAlignmentCheckFlag = 1U << 18U;
+constexpr std::uint32_t kIdentificationFlag = 1U << 21U;
+
+constexpr std::uint64_t kMicrosecondsPerSecond = 1000000;
+
+/// The two bytes of the instruction that reads the time-stamp counter.
+constexpr BYTE kReadCounter[] = {0x0F, 0x31};
+
+/// True where a program can change this processor flag. The flag is put back.
+bool CanChangeFlag(std::uint32_t flag) {
+  std::uint32_t before = 0;
+  std::uint32_t after = 0;
+  __asm__ volatile(
+      "pushfl\n\t"
+      "popl %0\n\t"
+      "movl %0, %1\n\t"
+      "xorl %2, %1\n\t"
+      "pushl %1\n\t"
+      "popfl\n\t"
+      "pushfl\n\t"
+      "popl %1\n\t"
+      "pushl %0\n\t"
+      "popfl"
+      : "=&r"(before), "=&r"(after)
+      : "r"(flag)
+      : "cc", "memory");
+  return ((before ^ after) & flag) != 0;
+}
+
+/// In a section of its own, the one place where the check of the finished program allows this instruction.
+[[gnu::section(".newcpu"), gnu::noinline]] CpuidRegisters Identify(std::uint32_t leaf) {
+  CpuidRegisters registers;
+  __asm__ volatile("cpuid"
+                   : "=a"(registers.eax), "=b"(registers.ebx), "=c"(registers.ecx), "=d"(registers.edx)
+                   : "a"(leaf), "c"(0));
+  return registers;
+}
+
+struct CounterReading {
+  std::uint64_t cycles;
+  bool allowed;
+};
+
+/// Where the counter may not be read, SkipForbiddenRead steps over the instruction and clears the mark.
+[[gnu::section(".newcpu"), gnu::noinline]] CounterReading ReadCounter() {
+  std::uint32_t allowed = 1;
+  std::uint32_t low = 0;
+  std::uint32_t high = 0;
+  __asm__ volatile("rdtsc" : "=a"(low), "=d"(high), "+c"(allowed));
+  return {.cycles = (std::uint64_t{high} << 32U) | low, .allowed = allowed != 0};
+}
+
+LONG WINAPI SkipForbiddenRead(EXCEPTION_POINTERS* fault) {
+  CONTEXT& context = *fault->ContextRecord;
+  const auto* const instruction = reinterpret_cast<const BYTE*>(context.Eip);
+  const DWORD code = fault->ExceptionRecord->ExceptionCode;
+  const bool is_refusal = code == static_cast<DWORD>(STATUS_PRIVILEGED_INSTRUCTION) ||
+                          code == static_cast<DWORD>(STATUS_ILLEGAL_INSTRUCTION) ||
+                          code == static_cast<DWORD>(STATUS_ACCESS_VIOLATION);
+  if (!is_refusal || fault->ExceptionRecord->ExceptionAddress != instruction ||
+      instruction[0] != kReadCounter[0] || instruction[1] != kReadCounter[1]) {
+    return EXCEPTION_CONTINUE_SEARCH;
+  }
+  context.Eip += sizeof kReadCounter;
+  context.Ecx = 0;
+  return EXCEPTION_CONTINUE_EXECUTION;
+}
+
+std::optional<std::uint64_t> FineClock() {
+  LARGE_INTEGER ticks{};
+  if (QueryPerformanceCounter(&ticks) == 0) return std::nullopt;
+  return static_cast<std::uint64_t>(ticks.QuadPart);
+}
+
+}  // namespace
+
+int Win32Processor::Generation() {
+  constexpr int k386 = 3;
+  constexpr int k486 = 4;
+  return CanChangeFlag(kAlignmentCheckFlag) ? k486 : k386;
+}
+
+bool Win32Processor::HasCpuid() { return CanChangeFlag(kIdentificationFlag); }
+
+CpuidRegisters Win32Processor::Cpuid(std::uint32_t leaf) {
+  return HasCpuid() ? Identify(leaf) : CpuidRegisters{};
+}
+
+std::optional<std::uint64_t> Win32Processor::ReadTimeStampCounter() {
+  LPTOP_LEVEL_EXCEPTION_FILTER const before = SetUnhandledExceptionFilter(&SkipForbiddenRead);
+  const CounterReading reading = ReadCounter();
+  SetUnhandledExceptionFilter(before);
+  if (!reading.allowed) return std::nullopt;
+  return reading.cycles;
+}
+
+CycleCount Win32Processor::CountCycles(std::uint32_t milliseconds) {
+  LARGE_INTEGER frequency{};
+  if (QueryPerformanceFrequency(&frequency) == 0 || frequency.QuadPart <= 0) return {};
+  const auto ticks_per_second = static_cast<std::uint64_t>(frequency.QuadPart);
+  const std::uint64_t wanted_ticks = ticks_per_second * milliseconds / 1000;
+  const std::optional<std::uint64_t> start = FineClock();
+  const std::optional<std::uint64_t> first = ReadTimeStampCounter();
+  if (!start || !first) return {};
+  // Bounded by the system's coarse clock as well, should the fine one stand still.
+  const DWORD coarse_start = ::GetTickCount();
+  std::uint64_t passed_ticks = 0;
+  while (passed_ticks < wanted_ticks && ::GetTickCount() - coarse_start <= 4 * milliseconds) {
+    passed_ticks = FineClock().value_or(*start) - *start;
+  }
+  const std::optional<std::uint64_t> last = ReadTimeStampCounter();
+  if (!last || passed_ticks < wanted_ticks) return {};
+  return {.cycles = *last - *first, .microseconds = passed_ticks * kMicrosecondsPerSecond / ticks_per_second};
+}
+
+}  // namespace qdix::os::win32
