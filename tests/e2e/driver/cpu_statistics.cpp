@@ -5,7 +5,7 @@
 // clang-format on
 
 #include <array>
-#include <fstream>
+#include <sstream>
 #include <string>
 
 namespace qdix::e2e {
@@ -13,6 +13,7 @@ namespace qdix::e2e {
 namespace {
 
 constexpr std::array<const char*, 2> kKeys{"PerfStats\\StartStat", "PerfStats\\StatData"};
+constexpr DWORD kFirstLineRoom = 256;
 constexpr const char* kLoadValue = "KERNEL\\CPUUsage";
 
 }  // namespace
@@ -37,11 +38,17 @@ void RemoveCpuStatistics() {
 int HostLoad::Percent() {
   // The first line: "cpu", then the time spent for programs, for programs of low priority, in the system,
   // idle and so on.
-  std::ifstream file("Z:/proc/stat");
+  const HANDLE file = CreateFileA("Z:\\proc\\stat", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                  OPEN_EXISTING, 0, nullptr);
+  std::string text(kFirstLineRoom, ' ');
+  DWORD count = 0;
+  ReadFile(file, text.data(), kFirstLineRoom, &count, nullptr);
+  CloseHandle(file);
+  std::istringstream line(text);
   std::string label;
   std::array<double, 8> times{};
-  file >> label;
-  for (double& time : times) file >> time;
+  line >> label;
+  for (double& time : times) line >> time;
   constexpr std::size_t kIdle = 3;
   constexpr std::size_t kWaiting = 4;
   double total = 0;

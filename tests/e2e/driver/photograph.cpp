@@ -1,19 +1,19 @@
 // A Windows program under Wine can start a program of the host by its path.
 #include "tests/e2e/driver/photograph.h"
 
-// clang-format off
-#include <windows.h>
-// clang-format on
+#include <array>
 
 #include "tests/e2e/driver/polling.h"
 
 namespace qdix::e2e {
 
-bool Photograph(const std::string& name) {
-  const std::string file = std::string(QDIX_SOURCE_DIR) + "/build/photos/" + name + ".png";
+namespace {
+
+/// Runs a shell command of the host that makes a file, which gets its name when it is complete. False when it
+/// does not appear.
+bool MakeFile(const std::string& command, const std::string& file) {
   const std::string file_in_windows = "Z:" + file;
-  std::string command_line = "Z:\\bin\\sh -c \"'" + std::string(QDIX_SOURCE_DIR) +
-                             "/tools/desktop/desktop.sh' photo '" + file + "'\"";
+  std::string command_line = "Z:\\bin\\sh -c \"exec </dev/null >/dev/null 2>&1; " + command + "\"";
   STARTUPINFOA startup = {};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION started = {};
@@ -24,8 +24,35 @@ bool Photograph(const std::string& name) {
   }
   CloseHandle(started.hThread);
   CloseHandle(started.hProcess);
-  // Wine does not wait for programs of the host. The file gets its name when it is complete.
+  // Wine does not wait for programs of the host.
   return Eventually([&] { return GetFileAttributesA(file_in_windows.c_str()) != INVALID_FILE_ATTRIBUTES; });
+}
+
+std::string PhotoFile(const std::string& name) {
+  return std::string(QDIX_SOURCE_DIR) + "/build/photos/" + name;
+}
+
+}  // namespace
+
+bool Photograph(const std::string& name) {
+  const std::string file = PhotoFile(name + ".png");
+  return MakeFile("'" + std::string(QDIX_SOURCE_DIR) + "/tools/desktop/desktop.sh' photo '" + file + "'",
+                  file);
+}
+
+COLORREF ScreenColour(POINT place) {
+  const std::string file = PhotoFile("pixel.rgb");
+  const std::string crop = "1x1+" + std::to_string(place.x) + "+" + std::to_string(place.y);
+  const std::string command = "import -silent -window root -crop " + crop + " -depth 8 'rgb:" + file +
+                              ".new' && mv '" + file + ".new' '" + file + "'";
+  if (!MakeFile(command, file)) return CLR_INVALID;
+  const HANDLE opened =
+      CreateFileA(("Z:" + file).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  std::array<BYTE, 3> bytes{};
+  DWORD count = 0;
+  const bool is_read = ReadFile(opened, bytes.data(), bytes.size(), &count, nullptr) != 0;
+  CloseHandle(opened);
+  return is_read && count == bytes.size() ? RGB(bytes[0], bytes[1], bytes[2]) : CLR_INVALID;
 }
 
 }  // namespace qdix::e2e

@@ -1,11 +1,19 @@
-// Pictures of the screen.
+// Pictures of the whole screen, and the colour of one of its pixels.
 #pragma once
+
+// clang-format off
+#include <windows.h>
+// clang-format on
 
 #include <string>
 
 namespace qdix::e2e {
 
-/// Saves a picture of the screen as build/photos/<name>.png; false when none came about.
+/// Leaves build/photos/NAME.png; false when no picture could be taken.
 [[nodiscard]] bool Photograph(const std::string& name);
+
+/// What a user sees at this place, whichever window it belongs to; CLR_INVALID when that could not be found
+/// out.
+[[nodiscard]] COLORREF ScreenColour(POINT place);
 
 }  // namespace qdix::e2e

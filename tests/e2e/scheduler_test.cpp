@@ -1,0 +1,127 @@
+// The shipped exe by itself: the processor load on label and graph, the releases that start by themselves.
+#include "tests/e2e/driver/cpu_statistics.h"
+#include "tests/e2e/session.h"
+
+namespace qdix::e2e {
+namespace {
+
+constexpr COLORREF kBar = RGB(255, 0, 0);
+constexpr int kMinuteDeadlineMs = 90000;
+/// Larger than anything that the program holds besides the blocks of a release.
+constexpr std::uint64_t kBlockBytes = 16 * 1024 * 1024;
+
+class SchedulerSession : public Session {
+ protected:
+  void SetUp() override {
+    Session::SetUp();
+    MarkMachineAsKnown();
+    SetRegistryText(kStartup, "StartupTime", "0");
+  }
+  void TearDown() override {
+    RemoveCpuStatistics();
+    Session::TearDown();
+  }
+
+  /// The colour of the newest bar of the graph at this share of its height, 0 at the bottom.
+  [[nodiscard]] COLORREF NewestBarAt(int percent) const {
+    const HWND graph = program.Control("XGraphMeter1");
+    RECT inner = {};
+    GetClientRect(graph, &inner);
+    POINT place{inner.right - 1, inner.bottom - 1 - (inner.bottom - 1) * percent / 100};
+    ClientToScreen(graph, &place);
+    return ScreenColour(place);
+  }
+};
+
+TEST_F(SchedulerSession, LoadShowsOnLabelAndGraph) {
+  SetCpuLoad(60);
+  StartProgram();
+  EXPECT_TRUE(program.Await([&] { return program.Text("lblUSAGE") == "60 %"; })) << program.Text("lblUSAGE");
+  EXPECT_TRUE(program.Await([&] { return NewestBarAt(50) == kBar; })) << std::hex << NewestBarAt(50);
+  EXPECT_NE(NewestBarAt(80), kBar);
+  EXPECT_TRUE(Photograph("load"));
+  SetCpuLoad(0);
+  EXPECT_TRUE(program.Await([&] { return program.Text("lblUSAGE") == "0 %"; })) << program.Text("lblUSAGE");
+  EXPECT_TRUE(program.Await([&] { return NewestBarAt(50) != kBar; }));
+  EXPECT_EQ(NewestBarAt(0), kBar) << "an idle machine still shows a line";
+  CloseProgram();
+}
+
+TEST_F(SchedulerSession, WithoutStatisticsTheLoadStaysAtItsStart) {
+  RemoveCpuStatistics();
+  StartProgram();
+  EXPECT_EQ(program.Text("lblUSAGE"), "0 %");
+  CloseProgram();
+}
+
+TEST_F(SchedulerSession, ProcessorIsNamedWithItsClock) {
+  StartProgram();
+  const std::string text = program.Text("lblCPU");
+  EXPECT_TRUE(text.starts_with("CPU : ")) << text;
+  EXPECT_TRUE(text.ends_with(" MHz")) << text;
+  EXPECT_GT(text.size(), std::string("CPU :   1 MHz").size());
+  CloseProgram();
+}
+
+TEST_F(SchedulerSession, AutomaticReleaseFiresBelowTheThresholdAndCounts) {
+  SetRegistryText(kSettings, "AutoActive", "1");
+  SetRegistryText(kSettings, "AutoSecs", "5");
+  SetRegistryText(kSettings, "MinRAM", "100000");
+  SetRegistryText(kSettings, "CPUAutoActive", "0");
+  StartProgram();
+  EXPECT_TRUE(program.Text("lblCounter").find(" released RAM 0 times ") != std::string::npos);
+  EXPECT_TRUE(program.Await([] { return RegistryText(kSettings, "CounterValue") == "2"; }));
+  EXPECT_TRUE(
+      program.Text("lblCounter")
+          .starts_with("Automatic feature has detected and released RAM 2 times since Q-DIX was started on "))
+      << program.Text("lblCounter");
+  CloseProgram();
+}
+
+TEST_F(SchedulerSession, BusyProcessorHoldsTheAutomaticReleaseBack) {
+  SetCpuLoad(100);
+  SetRegistryText(kSettings, "AutoActive", "1");
+  SetRegistryText(kSettings, "AutoSecs", "5");
+  SetRegistryText(kSettings, "MinRAM", "100000");
+  SetRegistryText(kSettings, "CPU", "1");
+  SetRegistryText(kSettings, "AutoCPU", "16");
+  StartProgram();
+  // The first average is (7 x 4 + 100) / 8 = 16, so the limit holds from the first check on; the label is at
+  // its end after six seconds, behind that check.
+  EXPECT_TRUE(program.Await([&] { return program.Text("lblUSAGE") == "100 %"; }));
+  EXPECT_EQ(RegistryText(kSettings, "CounterValue"), std::nullopt);
+  SetCpuLoad(0);
+  EXPECT_TRUE(program.Await([] { return RegistryText(kSettings, "CounterValue").has_value(); }));
+  CloseProgram();
+}
+
+TEST_F(SchedulerSession, StartupReleaseRunsAfterItsDelay) {
+  SetRegistryText(kStartup, "StartupTime", "2");
+  SetRegistryText(kStartup, "StartupRAM", "64");
+  SetRegistryText(kSettings, "TryTimes", "40");
+  StartProgram();
+  EXPECT_TRUE(program.Await([&] { return !program.CommittedBlocks(kBlockBytes).empty(); }));
+  CloseProgram();
+}
+
+TEST_F(SchedulerSession, TimedReleaseCountsDown) {
+  SetRegistryText(kSettings, "TimeActive", "1");
+  StartProgram();
+  program.OpenTab(2);
+  EXPECT_EQ(program.Text("lblNextRelease"), "Next Release of RAM is due in 30 minutes");
+  EXPECT_TRUE(program.Await(
+      [&] { return program.Text("lblNextRelease") == "Next Release of RAM is due in 29 minutes"; },
+      kMinuteDeadlineMs));
+  CloseProgram();
+}
+
+TEST_F(SchedulerSession, UpTimeIsShownFromTheStart) {
+  StartProgram();
+  const std::string text = program.Text("lblTimeRunning");
+  EXPECT_TRUE(text.starts_with("Your system has been running for ")) << text;
+  EXPECT_TRUE(text.ends_with(" minutes.")) << text;
+  CloseProgram();
+}
+
+}  // namespace
+}  // namespace qdix::e2e
