@@ -1,6 +1,6 @@
 #include "tests/e2e/driver/hand.h"
 
-#include <array>
+#include <vector>
 
 #include "tests/e2e/driver/polling.h"
 
@@ -13,6 +13,12 @@ constexpr int kLooksAtRest = 3;
 HWND TopLevelOf(HWND window) {
   while (window != nullptr && (GetWindowLongA(window, GWL_STYLE) & WS_CHILD) != 0) window = GetParent(window);
   return window;
+}
+
+POINT OnScreen(HWND window, POINT inside) {
+  RECT rect = {};
+  GetWindowRect(window, &rect);
+  return {rect.left + inside.x, rect.top + inside.y};
 }
 
 /// The middle of a pixel in the units of an absolute move, 65536 to the screen.
@@ -69,16 +75,23 @@ bool Click(HWND control) {
 }
 
 bool ClickAt(HWND control, POINT inside) {
-  const HWND top_level = TopLevelOf(control);
-  if (!BringForward(top_level)) return false;
-  RECT rect = {};
-  GetWindowRect(control, &rect);
-  const POINT place{rect.left + inside.x, rect.top + inside.y};
-  if (TopLevelOf(WindowFromPoint(place)) != top_level) return false;
-  if (!PutPointer(place)) return false;
+  return BringForward(TopLevelOf(control)) && PressAt(control, inside, Press::kLeft);
+}
+
+bool PointAt(HWND window, POINT inside) {
+  const POINT place = OnScreen(window, inside);
+  return TopLevelOf(WindowFromPoint(place)) == TopLevelOf(window) && PutPointer(place);
+}
+
+bool PressAt(HWND window, POINT inside, Press press) {
+  if (!PointAt(window, inside)) return false;
   // With the move once more: the pointer of the real screen may drag this one along until it rests.
-  std::array<INPUT, 3> inputs{PointerMove(place), PointerButton(MOUSEEVENTF_LEFTDOWN),
-                              PointerButton(MOUSEEVENTF_LEFTUP)};
+  std::vector<INPUT> inputs{PointerMove(OnScreen(window, inside))};
+  const bool is_right = press == Press::kRight;
+  for (int times = press == Press::kLeftTwice ? 2 : 1; times > 0; --times) {
+    inputs.push_back(PointerButton(is_right ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN));
+    inputs.push_back(PointerButton(is_right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP));
+  }
   return SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)) == inputs.size();
 }
 

@@ -9,11 +9,24 @@
 
 namespace qdix::e2e {
 
+/// What a finger does on the pointer's buttons.
+enum class Press {
+  kLeft,
+  kLeftTwice,
+  kRight
+};
+
 /// Brings a window to the front; false when it does not come.
 [[nodiscard]] bool BringForward(HWND top_level);
 
-/// Moves the pointer into the middle of a control and presses its left button; false where another program's
+/// Moves the pointer to a place in pixels from the window's upper left corner; false where another program's
 /// window, or none, is at that place.
+[[nodiscard]] bool PointAt(HWND window, POINT inside);
+/// The same, with a press there. Brings no window to the front by itself.
+[[nodiscard]] bool PressAt(HWND window, POINT inside, Press press);
+
+/// Brings a control's window to the front, moves the pointer into the middle of the control and presses its
+/// left button; false where PressAt fails.
 [[nodiscard]] bool Click(HWND control);
 /// The same at a place in pixels from the control's upper left corner.
 [[nodiscard]] bool ClickAt(HWND control, POINT inside);

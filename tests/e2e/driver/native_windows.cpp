@@ -25,6 +25,14 @@ std::vector<HWND> AllTopLevelWindows() {
   return windows;
 }
 
+NOTIFYICONDATAA IconOf(HWND owner, UINT number) {
+  NOTIFYICONDATAA icon = {};
+  icon.cbSize = NOTIFYICONDATAA_V1_SIZE;
+  icon.hWnd = owner;
+  icon.uID = number;
+  return icon;
+}
+
 }  // namespace
 
 LRESULT Ask(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
@@ -61,17 +69,21 @@ std::vector<HWND> WindowsInside(HWND window) {
   return windows;
 }
 
+HWND Taskbar() { return FindWindowA(kTaskbarClass, nullptr); }
+
 bool HasNotificationIcon(HWND owner, UINT number) {
-  NOTIFYICONDATAA record = {};
-  record.cbSize = NOTIFYICONDATAA_V1_SIZE;
-  record.hWnd = owner;
-  record.uID = number;
+  NOTIFYICONDATAA icon = IconOf(owner, number);
   // Changes nothing; refused where there is no such icon.
-  return Shell_NotifyIconA(NIM_MODIFY, &record) != FALSE;
+  return Shell_NotifyIconA(NIM_MODIFY, &icon) != FALSE;
+}
+
+bool TakeNotificationIcon(HWND owner, UINT number) {
+  NOTIFYICONDATAA icon = IconOf(owner, number);
+  return Shell_NotifyIconA(NIM_DELETE, &icon) != FALSE;
 }
 
 int TaskbarButtonCount() {
-  const std::vector<HWND> buttons = WindowsInside(FindWindowA(kTaskbarClass, nullptr));
+  const std::vector<HWND> buttons = WindowsInside(Taskbar());
   const auto shown = std::count_if(buttons.begin(), buttons.end(), [](HWND button) {
     return IsWindowVisible(button) != 0 && ClassOf(button) == "Button";
   });

@@ -23,9 +23,12 @@ LRESULT Ask(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0);
 /// All windows inside of this one, at any depth.
 [[nodiscard]] std::vector<HWND> WindowsInside(HWND window);
 
+[[nodiscard]] HWND Taskbar();
 /// True while the notification area has the icon of this owner and number, also when the owner is gone and
 /// has left it behind.
 [[nodiscard]] bool HasNotificationIcon(HWND owner, UINT number);
+/// Takes an icon away behind its owner's back; false where there was none. Wine lets any process do so.
+[[nodiscard]] bool TakeNotificationIcon(HWND owner, UINT number);
 /// Buttons of programs that the taskbar shows.
 [[nodiscard]] int TaskbarButtonCount();
 

@@ -17,6 +17,7 @@ namespace {
 
 constexpr const char* kMainClass = "QDIXMain";
 constexpr const char* kApplicationClass = "ThunderRT6Main";
+constexpr const char* kMenuClass = "#32768";
 constexpr const char* kCaptionEnds = " MB   Q-DIX";
 constexpr UINT kIconNumber = 1;
 constexpr UINT kKilled = 99;
@@ -115,6 +116,14 @@ bool ShippedProgram::WaitForFirstReading() {
 }
 
 bool ShippedProgram::HasIcon() const { return HasNotificationIcon(icon_owner_, kIconNumber); }
+
+bool ShippedProgram::TakeIcon() const { return TakeNotificationIcon(icon_owner_, kIconNumber); }
+
+std::vector<HWND> ShippedProgram::OpenMenus() const {
+  std::vector<HWND> menus = TopLevelWindows(process_id_, kMenuClass);
+  std::erase_if(menus, [](HWND menu) { return IsWindowVisible(menu) == 0; });
+  return menus;
+}
 
 HWND ShippedProgram::FirstWindow(const char* window_class) const {
   const std::vector<HWND> windows = TopLevelWindows(process_id_, window_class);

@@ -52,6 +52,10 @@ class ShippedProgram {
   [[nodiscard]] std::string Caption() const;
   /// True while the notification area has the icon of the window that was waited for; also after its end.
   [[nodiscard]] bool HasIcon() const;
+  /// Takes that icon away without the program's knowledge; false where there was none.
+  [[nodiscard]] bool TakeIcon() const;
+  /// The pop-up menus that are open.
+  [[nodiscard]] std::vector<HWND> OpenMenus() const;
 
   // A control is asked for by the name that its screen gives it; one that no screen has ends the test
   // program, since a check of a control that is not there could not fail.

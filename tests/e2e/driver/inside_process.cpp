@@ -1,0 +1,79 @@
+#include "tests/e2e/driver/inside_process.h"
+
+#include <array>
+
+#include "tests/e2e/driver/polling.h"
+
+namespace qdix::e2e {
+
+namespace {
+
+constexpr std::size_t kPageBytes = 4096;
+constexpr std::size_t kLongestText = 256;
+
+}  // namespace
+
+MachineCode& MachineCode::Bytes(const std::string& bytes) {
+  text_ += bytes;
+  return *this;
+}
+
+MachineCode& MachineCode::Number(std::uint32_t number) {
+  for (int shift = 0; shift < 32; shift += 8) text_ += static_cast<char>(number >> shift & 0xFF);
+  return *this;
+}
+
+ForeignPage::ForeignPage(HANDLE process)
+    : process_(process),
+      begin_(static_cast<char*>(
+          VirtualAllocEx(process, nullptr, kPageBytes, MEM_COMMIT | MEM_RESERVE, PAGE_EXECUTE_READWRITE))) {}
+
+std::uint32_t ForeignPage::At(std::uint32_t offset) const {
+  return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(begin_)) + offset;
+}
+
+bool ForeignPage::Write(std::uint32_t offset, const std::string& bytes) const {
+  return begin_ != nullptr &&
+         WriteProcessMemory(process_, begin_ + offset, bytes.data(), bytes.size(), nullptr) != 0;
+}
+
+std::string ForeignPage::ReadText(std::uint32_t offset) const {
+  std::array<char, kLongestText + 1> text{};
+  ReadProcessMemory(process_, begin_ + offset, text.data(), kLongestText, nullptr);
+  return text.data();
+}
+
+void ForeignPage::Free() {
+  VirtualFreeEx(process_, begin_, 0, MEM_RELEASE);
+  begin_ = nullptr;
+}
+
+std::uint32_t SystemFunction(const char* library, const char* name) {
+  const FARPROC function = GetProcAddress(GetModuleHandleA(library), name);
+  return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(function));
+}
+
+std::optional<std::uint32_t> CallInside(HANDLE process, std::uint32_t function,
+                                        const std::vector<std::uint32_t>& arguments) {
+  MachineCode code;
+  for (auto argument = arguments.rbegin(); argument != arguments.rend(); ++argument) {
+    code.Bytes("\x68").Number(*argument);  // push
+  }
+  code.Bytes("\xB8").Number(function).Bytes("\xFF\xD0");  // mov eax; call eax
+  code.Bytes({'\xC2', 4, 0});                             // ret 4
+  ForeignPage page(process);
+  if (!page.Write(0, code.Text())) return std::nullopt;
+  // The address of code, in a form in which only data has addresses.
+  const auto begin = reinterpret_cast<LPTHREAD_START_ROUTINE>(static_cast<std::uintptr_t>(page.At(0)));
+  const HANDLE thread = CreateRemoteThread(process, nullptr, 0, begin, nullptr, 0, nullptr);
+  if (thread == nullptr) return std::nullopt;
+  const bool came_back = WaitForSingleObject(thread, kDeadlineMs) == WAIT_OBJECT_0;
+  DWORD answer = 0;
+  GetExitCodeThread(thread, &answer);
+  CloseHandle(thread);
+  if (!came_back) return std::nullopt;
+  page.Free();
+  return answer;
+}
+
+}  // namespace qdix::e2e

@@ -1,0 +1,25 @@
+// The pop-up menu that another process has open.
+#pragma once
+
+// clang-format off
+#include <windows.h>
+// clang-format on
+
+#include <string>
+#include <vector>
+
+namespace qdix::e2e {
+
+inline constexpr const char* kSeparator = "-";
+
+struct MenuText {
+  /// From top to bottom.
+  std::vector<std::string> entries;
+  /// The one that is shown as the default.
+  std::string default_entry;
+};
+
+/// Empty where the process does not answer.
+[[nodiscard]] MenuText ReadMenu(HANDLE process, HWND menu_window);
+
+}  // namespace qdix::e2e
