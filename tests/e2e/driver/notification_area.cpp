@@ -39,9 +39,10 @@ bool IconIsDrawn() {
   return is_drawn;
 }
 
-bool PointAtIcon(int right_px) {
+bool PointAtIcon() {
   const POINT middle = MiddleOfIcon();
-  return PointAt(Taskbar(), {middle.x + right_px, middle.y});
+  const POINT beside{2 * IconSquare().left - middle.x, middle.y};
+  return PointAt(Taskbar(), beside) && PointAt(Taskbar(), middle);
 }
 
 bool PressIcon(Press press) { return PressAt(Taskbar(), MiddleOfIcon(), press); }

@@ -11,8 +11,8 @@ namespace qdix::e2e {
 /// True while the screen shows an icon there.
 [[nodiscard]] bool IconIsDrawn();
 
-/// Moves the pointer on the icon; `right_px` tells one place on it from another.
-[[nodiscard]] bool PointAtIcon(int right_px = 0);
+/// Moves the pointer from beside the icon on it: one that is there already and stays tells the icon nothing.
+[[nodiscard]] bool PointAtIcon();
 [[nodiscard]] bool PressIcon(Press press);
 
 /// The text of the tip that is open; empty when none is.
