@@ -12,8 +12,8 @@ namespace {
 constexpr std::uint32_t kBytesOf75Point1Mb = 76902400;
 constexpr std::uint32_t kBytesOf50Mb = 51200000;
 
-const std::vector<std::string> kMenuEntries{"Free-up RAM", kSeparator, "Display Q-DIX",
-                                            "Hide",        kSeparator, "Close"};
+const std::vector<std::string> kMenuEntries{"Free-up RAM", kSeparator, "Display Q-DIX", "Hide",
+                                            kSeparator,    "Programs", kSeparator,      "Close"};
 
 class TraySession : public Session {
  protected:
@@ -131,6 +131,7 @@ TEST_F(TraySession, RightClickOpensTheMenuWithItsEntriesInOrder) {
   const MenuText menu = ReadMenu(program.Process(), program.OpenMenus().front());
   EXPECT_EQ(menu.entries, kMenuEntries);
   EXPECT_EQ(menu.default_entry, "Display Q-DIX");
+  EXPECT_TRUE(Photograph("tray_menu"));
   CloseMenu();
   CloseProgram();
 }
