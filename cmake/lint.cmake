@@ -7,6 +7,7 @@ if(QDIX_SANITIZE)
   add_test(NAME lint.includes_finds_planted_faults
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/lint/include_direction_test.py)
   add_test(NAME lint.sizes COMMAND ${Python3_EXECUTABLE} ${lint}/file_sizes.py ${CMAKE_SOURCE_DIR})
+  add_test(NAME lint.icon COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/lint/icon_test.py)
   add_test(NAME lint.tidy_looks_again_after_changes
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/lint/tidy_test.py)
   add_test(NAME lint.tidy COMMAND ${Python3_EXECUTABLE} ${lint}/tidy.py ${CMAKE_BINARY_DIR})

@@ -58,9 +58,11 @@ struct MainWindow {
   /// How long the system has been running.
   ui::Timer Timer6{events, "Timer6", 65000, true};
 
-  static constexpr std::size_t kTimerCount = 6;
-  using AllTimers = std::array<ui::Timer*, kTimerCount>;
-  [[nodiscard]] AllTimers Timers() { return {&Timer1, &Timer2, &Timer3, &Timer4, &Timer5, &Timer6}; }
+  /// Watches the editor of the program list while it is open.
+  ui::Timer Timer7{events, "Timer7", 3000, false};
+
+  using AllTimers = std::array<ui::Timer*, 7>;
+  [[nodiscard]] AllTimers Timers() { return {&Timer1, &Timer2, &Timer3, &Timer4, &Timer5, &Timer6, &Timer7}; }
 };
 
 }  // namespace qdix::screens

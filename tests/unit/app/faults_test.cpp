@@ -7,10 +7,15 @@ namespace qdix::tests {
 namespace {
 
 /// A session that reaches every call: first start, a release of two blocks, each tab, a change of settings,
-/// the close.
+/// releases by themselves on a machine that runs short of memory, a taskbar made anew, the close.
 void RunSession(ProgramRig& rig) {
+  rig.machine.SetCpuLoad(10);
+  rig.machine.TheProcessor().SetLeaf(0, {.eax = 1});
+  rig.machine.TheProcessor().SetLeaf(1, {.eax = 0x052C, .edx = 0x10});
+  rig.SetAvailableMb(1);
   rig.Start();
   if (rig.program->Window().Unloaded()) return;
+  rig.TakeGraphAway();
   rig.AdvanceMs(1500);
   rig.program->Quondix().List1.Choose("512 MB");
   rig.program->Quondix().Command1.Press();
@@ -18,6 +23,13 @@ void RunSession(ProgramRig& rig) {
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
   rig.program->Automatic().Check1.Press();
   rig.program->Automatic().Command7.Press();
+  rig.program->MainWindow().SSTab1.ChooseTab(screens::kTimeIntervalsTab);
+  rig.program->TimeIntervals().Check3.Press();
+  rig.program->TimeIntervals().lstTime.Choose("5");
+  rig.program->MainWindow().Timer1.SetEnabled(false);
+  rig.AdvanceMs(65000);
+  rig.machine.OpenWindow("Shell_TrayWnd", "");
+  rig.AdvanceMs(5 * kMinuteMs);
   rig.program->Window().Unload();
 }
 

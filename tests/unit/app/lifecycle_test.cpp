@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 #include "tests/support/program_rig.h"
 
@@ -44,6 +45,20 @@ TEST_F(Lifecycle, LoadReadsItsSettingsInItsFixedOrder) {
                          "TryTimes",     "MinRAM",        "AutoQuondix", "TimeQuondix",  "AutoActive",
                          "Warnings",     "TimeUnit",      "TimeMinutes", "AutoSecs",     "TimeActive",
                          "StartDisplay", "StartupRAM",    "StartupTime"}));
+}
+
+TEST_F(Lifecycle, SevenTimersStandAsDesignedBeforeTheLoad) {
+  std::vector<std::tuple<std::string, std::int32_t, bool>> timers;
+  for (const ui::Timer* timer : rig.Create().Timers()) {
+    timers.emplace_back(timer->Name(), timer->Interval(), timer->Enabled());
+  }
+  EXPECT_EQ(timers, (std::vector<std::tuple<std::string, std::int32_t, bool>>{{"Timer1", 750, false},
+                                                                              {"Timer2", 0, false},
+                                                                              {"Timer3", 0, false},
+                                                                              {"Timer4", 60000, false},
+                                                                              {"Timer5", 10000, false},
+                                                                              {"Timer6", 65000, true},
+                                                                              {"Timer7", 3000, false}}));
 }
 
 TEST_F(Lifecycle, LoadMakesTheMachineWideKey) {
