@@ -13,6 +13,8 @@ inline constexpr KeyHandle kHkeyClassesRoot = 0x80000000U;
 inline constexpr KeyHandle kHkeyCurrentUser = 0x80000001U;
 inline constexpr KeyHandle kHkeyLocalMachine = 0x80000002U;
 inline constexpr KeyHandle kHkeyUsers = 0x80000003U;
+inline constexpr KeyHandle kHkeyPerformanceData = 0x80000004U;
+inline constexpr KeyHandle kHkeyCurrentConfig = 0x80000005U;
 /// Statistics that the system makes up as they are read; Windows 95, 98 and ME only.
 inline constexpr KeyHandle kHkeyDynData = 0x80000006U;
 
@@ -28,6 +30,8 @@ inline constexpr std::uint32_t kRegDword = 4;
 
 inline constexpr std::uint32_t kKeyQueryValue = 0x0001U;
 inline constexpr std::uint32_t kKeySetValue = 0x0002U;
+/// All rights of a key but those of its security.
+inline constexpr std::uint32_t kKeyAllRights = 0x003FU;
 inline constexpr std::uint32_t kKeyAllAccess = 0xF003FU;
 
 class Registry {
@@ -42,6 +46,12 @@ class Registry {
   /// on success only.
   [[nodiscard]] virtual std::int32_t RegCreateKeyExA(KeyHandle parent, const char* subkey,
                                                      std::uint32_t access, KeyHandle& opened) = 0;
+
+  /// The calls of 16-bit times: as much access as there is, no more said. A key that is missing is created by
+  /// the second.
+  [[nodiscard]] virtual std::int32_t RegOpenKeyA(KeyHandle parent, const char* subkey, KeyHandle& opened) = 0;
+  [[nodiscard]] virtual std::int32_t RegCreateKeyA(KeyHandle parent, const char* subkey,
+                                                   KeyHandle& opened) = 0;
 
   /// Reads a value. `value_name` may be empty for the unnamed value. `data` may be null to ask for type and
   /// size only. `size_bytes` holds the room on entry and the size of the value on return; too little room is

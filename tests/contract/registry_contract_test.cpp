@@ -83,6 +83,21 @@ TEST_F(RegistryContract, CreateOpensAnExistingKeyWithItsValues) {
   EXPECT_EQ(Query(again.handle, "Name").bytes, TextWithNul("kept"));
 }
 
+TEST_F(RegistryContract, CallsOfOldOpenAndMakeKeysWithAllThatCanBeDone) {
+  KeyHandle missing = kUntouched;
+  EXPECT_EQ(system.registry.RegOpenKeyA(os::kHkeyCurrentUser, Below("Old").c_str(), missing),
+            os::kErrorFileNotFound);
+  EXPECT_EQ(missing, kUntouched);
+  OpenKey made{system.registry};
+  ASSERT_EQ(system.registry.RegCreateKeyA(os::kHkeyCurrentUser, Below("Old").c_str(), made.handle),
+            os::kErrorSuccess);
+  EXPECT_EQ(Set(made.handle, "Number", os::kRegBinary, "1234"), os::kErrorSuccess);
+  OpenKey opened{system.registry};
+  ASSERT_EQ(system.registry.RegOpenKeyA(os::kHkeyCurrentUser, Below("Old").c_str(), opened.handle),
+            os::kErrorSuccess);
+  EXPECT_EQ(system.registry.RegDeleteValueA(opened.handle, "Number"), os::kErrorSuccess);
+}
+
 TEST_F(RegistryContract, KeysOpenBelowAnOpenKey) {
   const OpenKey parent = Create();
   const OpenKey child = Create(Below("Child"));

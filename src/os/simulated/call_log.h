@@ -30,6 +30,7 @@ class CallLog {
 
   /// Something that a correct program never does.
   void Misuse(const std::string& what) { misuses_.push_back(what); }
+  void ForgetMisuses() { misuses_.clear(); }
 
   [[nodiscard]] const std::vector<std::string>& Calls() const { return calls_; }
   [[nodiscard]] const std::vector<std::string>& Misuses() const { return misuses_; }

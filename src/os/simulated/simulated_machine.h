@@ -41,6 +41,10 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
                         const std::string& bytes);
   [[nodiscard]] std::optional<std::string> RegistryText(KeyHandle root, const std::string& path,
                                                         const std::string& name) const;
+  [[nodiscard]] std::optional<simulated::RegistryValue> RegistryValue(KeyHandle root, const std::string& path,
+                                                                      const std::string& name) const {
+    return registry_.Value(root, path, name);
+  }
   [[nodiscard]] std::map<std::string, std::string> RegistryTexts(KeyHandle root,
                                                                  const std::string& path) const;
   [[nodiscard]] bool KeyExists(KeyHandle root, const std::string& path) const {
@@ -103,6 +107,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   [[nodiscard]] int FaultableCallCount() const { return log_.FaultableCalls(); }
   [[nodiscard]] const std::vector<std::string>& Calls() const { return log_.Calls(); }
   [[nodiscard]] const std::vector<std::string>& Misuses() const { return log_.Misuses(); }
+  /// For a test that misuses the machine on purpose.
+  void ForgetMisuses() { log_.ForgetMisuses(); }
 
  private:
   void PumpEvents() override;

@@ -18,6 +18,10 @@ std::string RootName(KeyHandle root) {
       return "HKLM";
     case kHkeyUsers:
       return "HKU";
+    case kHkeyPerformanceData:
+      return "HKPD";
+    case kHkeyCurrentConfig:
+      return "HKCC";
     case kHkeyDynData:
       return "HKDD";
     default:
@@ -86,6 +90,28 @@ std::int32_t SimulatedRegistry::RegCreateKeyExA(KeyHandle parent, const char* su
   if (RefusesWrites(*path, access)) return kErrorAccessDenied;
   Create(*path);
   opened = Open(*path, access);
+  return kErrorSuccess;
+}
+
+std::uint32_t SimulatedRegistry::MostAccess(const std::string& path) const {
+  return write_protected_.contains(path) ? kKeyQueryValue : kKeyAllAccess;
+}
+
+std::int32_t SimulatedRegistry::RegOpenKeyA(KeyHandle parent, const char* subkey, KeyHandle& opened) {
+  const auto path = FullPath(parent, subkey);
+  if (log_.RecordAndFail("RegOpenKeyA", path.value_or("invalid"))) return kErrorAccessDenied;
+  if (!path) return kErrorInvalidHandle;
+  if (!keys_.contains(*path) && path->find('\\') != std::string::npos) return kErrorFileNotFound;
+  opened = Open(*path, MostAccess(*path));
+  return kErrorSuccess;
+}
+
+std::int32_t SimulatedRegistry::RegCreateKeyA(KeyHandle parent, const char* subkey, KeyHandle& opened) {
+  const auto path = FullPath(parent, subkey);
+  if (log_.RecordAndFail("RegCreateKeyA", path.value_or("invalid"))) return kErrorAccessDenied;
+  if (!path) return kErrorInvalidHandle;
+  Create(*path);
+  opened = Open(*path, MostAccess(*path));
   return kErrorSuccess;
 }
 

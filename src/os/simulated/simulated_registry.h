@@ -27,6 +27,8 @@ class SimulatedRegistry final : public Registry {
                              KeyHandle& opened) override;
   std::int32_t RegCreateKeyExA(KeyHandle parent, const char* subkey, std::uint32_t access,
                                KeyHandle& opened) override;
+  std::int32_t RegOpenKeyA(KeyHandle parent, const char* subkey, KeyHandle& opened) override;
+  std::int32_t RegCreateKeyA(KeyHandle parent, const char* subkey, KeyHandle& opened) override;
   std::int32_t RegQueryValueExA(KeyHandle key, const char* value_name, std::uint32_t& type,
                                 std::uint8_t* data, std::uint32_t& size_bytes) override;
   std::int32_t RegSetValueExA(KeyHandle key, const char* value_name, std::uint32_t type,
@@ -70,6 +72,8 @@ class SimulatedRegistry final : public Registry {
   /// Nothing for a handle that is not open; the roots always are.
   [[nodiscard]] std::optional<OpenKey> FindOpen(KeyHandle key) const;
   [[nodiscard]] bool RefusesWrites(const std::string& path, std::uint32_t access) const;
+  /// All rights, less those to change a key that nobody may change.
+  [[nodiscard]] std::uint32_t MostAccess(const std::string& path) const;
   KeyHandle Open(const std::string& path, std::uint32_t access);
   void Create(const std::string& path);
 

@@ -33,6 +33,20 @@ std::int32_t Win32Registry::RegCreateKeyExA(KeyHandle parent, const char* subkey
   return result;
 }
 
+std::int32_t Win32Registry::RegOpenKeyA(KeyHandle parent, const char* subkey, KeyHandle& opened) {
+  HKEY key = nullptr;
+  const LONG result = ::RegOpenKeyA(ToKey(parent), subkey, &key);
+  if (result == ERROR_SUCCESS) opened = FromKey(key);
+  return result;
+}
+
+std::int32_t Win32Registry::RegCreateKeyA(KeyHandle parent, const char* subkey, KeyHandle& opened) {
+  HKEY key = nullptr;
+  const LONG result = ::RegCreateKeyA(ToKey(parent), subkey, &key);
+  if (result == ERROR_SUCCESS) opened = FromKey(key);
+  return result;
+}
+
 std::int32_t Win32Registry::RegQueryValueExA(KeyHandle key, const char* value_name, std::uint32_t& type,
                                              std::uint8_t* data, std::uint32_t& size_bytes) {
   DWORD found_type = 0;

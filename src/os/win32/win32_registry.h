@@ -11,6 +11,8 @@ class Win32Registry final : public Registry {
                              KeyHandle& opened) override;
   std::int32_t RegCreateKeyExA(KeyHandle parent, const char* subkey, std::uint32_t access,
                                KeyHandle& opened) override;
+  std::int32_t RegOpenKeyA(KeyHandle parent, const char* subkey, KeyHandle& opened) override;
+  std::int32_t RegCreateKeyA(KeyHandle parent, const char* subkey, KeyHandle& opened) override;
   std::int32_t RegQueryValueExA(KeyHandle key, const char* value_name, std::uint32_t& type,
                                 std::uint8_t* data, std::uint32_t& size_bytes) override;
   std::int32_t RegSetValueExA(KeyHandle key, const char* value_name, std::uint32_t type,

@@ -1,0 +1,35 @@
+// Registry keys by a textual path whose first element names the root: "HKEY_LOCAL_MACHINE\Software\...".
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "os/registry.h"
+
+namespace qdix::shell {
+
+class RegistryPaths {
+ public:
+  static constexpr std::int32_t kNoKey = -1;
+
+  explicit RegistryPaths(os::Registry& registry) : registry_(registry) {}
+
+  /// Opens the key of a path with all rights, element by element; the caller closes it. A root alone gives
+  /// its own handle. kNoKey where the root is unknown, an element is missing or there are more than 32.
+  [[nodiscard]] std::int32_t GetSubkeyHandle(std::string_view path);
+
+  /// True where the system reported an error.
+  bool CloseSubkey(std::int32_t handle);
+
+  /// Removes the entry by which the program starts with Windows. Always the empty text.
+  std::string RegDelete();
+
+  /// Makes a key below a root; an existing one stays as it is, a refusal is passed over.
+  void CreateRegistryKey(const std::string& path, os::KeyHandle root);
+
+ private:
+  os::Registry& registry_;
+};
+
+}  // namespace qdix::shell
