@@ -5,9 +5,11 @@
 #include "os/clock.h"
 #include "os/dialogs.h"
 #include "os/event_pump.h"
+#include "os/files.h"
 #include "os/memory.h"
 #include "os/processes.h"
 #include "os/processor.h"
+#include "os/profile_files.h"
 #include "os/registry.h"
 #include "os/shell.h"
 #include "os/windows.h"
@@ -24,6 +26,8 @@ struct System {
   Processes& processes;
   Shell& shell;
   Processor& processor;
+  Files& files;
+  ProfileFiles& profile_files;
 };
 
 }  // namespace qdix::os

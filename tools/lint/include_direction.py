@@ -17,7 +17,8 @@ LAYERS = {
     "shell": {"base", "os", "ui", "controls", "screens", "memory"},
     "memory": {"base", "os", "ui", "controls", "screens", "shell", "cpu"},
     "cpu": {"base", "os", "ui", "controls", "screens", "shell"},
-    "app": {"base", "os", "ui", "controls", "screens", "shell", "memory", "cpu"},
+    "tuning": {"base", "os", "ui", "controls", "screens", "shell", "memory"},
+    "app": {"base", "os", "ui", "controls", "screens", "shell", "memory", "cpu", "tuning"},
     "runtime": set(),
 }
 SYSTEM_HEADERS = {"windows.h", "commctrl.h", "shellapi.h", "shlobj.h", "commdlg.h", "windowsx.h", "objbase.h", "mmsystem.h"}

@@ -8,6 +8,7 @@
 
 #include "os/simulated/call_log.h"
 #include "os/simulated/simulated_desktop.h"
+#include "os/simulated/simulated_files.h"
 #include "os/simulated/simulated_memory.h"
 #include "os/simulated/simulated_processor.h"
 #include "os/simulated/simulated_registry.h"
@@ -55,6 +56,15 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   /// Names of the values written, in order, from the given number of recorded calls on.
   [[nodiscard]] std::vector<std::string> WrittenValueNames(std::size_t first_call = 0) const;
   [[nodiscard]] std::vector<std::string> QueriedValueNames() const;
+
+  // Files, by full paths.
+  void WriteFile(const std::string& path, const std::string& content) { files_.Write(path, content); }
+  [[nodiscard]] std::optional<std::string> ReadFile(const std::string& path) const {
+    return files_.Read(path);
+  }
+  /// Nobody can write into this file any more.
+  void ProtectFile(const std::string& path) { files_.Protect(path); }
+  void SetWindowsDirectory(const std::string& folder) { files_.SetWindowsDirectory(folder); }
 
   // Event pump: the action runs inside each pump, with the number of the pump, the first being 1.
   void OnPump(std::function<void(int)> action) { on_pump_ = std::move(action); }
@@ -125,6 +135,7 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   simulated::SimulatedDialogs dialogs_{log_};
   simulated::SimulatedShell shell_{log_};
   simulated::SimulatedProcessor processor_{log_};
+  simulated::SimulatedFiles files_{log_};
   System system_;
   std::function<void(int)> on_pump_;
   int pumps_ = 0;

@@ -7,9 +7,11 @@
 #include "os/win32/win32_clock.h"
 #include "os/win32/win32_dialogs.h"
 #include "os/win32/win32_event_pump.h"
+#include "os/win32/win32_files.h"
 #include "os/win32/win32_memory.h"
 #include "os/win32/win32_processes.h"
 #include "os/win32/win32_processor.h"
+#include "os/win32/win32_profile_files.h"
 #include "os/win32/win32_registry.h"
 #include "os/win32/win32_shell.h"
 #include "os/win32/win32_windows.h"
@@ -43,6 +45,8 @@ class Win32System {
   Win32Processes processes_;
   Win32Shell shell_;
   Win32Processor processor_;
+  Win32Files files_;
+  Win32ProfileFiles profile_files_;
   System system_;
 };
 

@@ -1,0 +1,185 @@
+#include "os/simulated/simulated_files.h"
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+#include "base/text.h"
+
+namespace qdix::os::simulated {
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// Copies as much as fits and its NUL; returns the characters copied.
+std::uint32_t Copy(std::string_view text, char* buffer, std::uint32_t size_bytes) {
+  if (size_bytes == 0) return 0;
+  const std::size_t length = std::min<std::size_t>(text.size(), size_bytes - 1);
+  std::copy_n(text.begin(), length, buffer);
+  buffer[length] = '\0';
+  return static_cast<std::uint32_t>(length);
+}
+
+/// Lines without their ends.
+Lines LinesOf(const std::string& content) {
+  Lines lines;
+  std::string line;
+  for (const char character : content) {
+    if (character == '\n') {
+      lines.push_back(line);
+      line.clear();
+    } else if (character != '\r') {
+      line += character;
+    }
+  }
+  if (!line.empty()) lines.push_back(line);
+  return lines;
+}
+
+std::string ContentOf(const Lines& lines) {
+  std::string content;
+  for (const std::string& line : lines) content += line + std::string(base::kLineBreak);
+  return content;
+}
+
+bool IsHeading(std::string_view line) {
+  const std::string_view text = base::Trim(line);
+  return !text.empty() && text.front() == '[';
+}
+
+bool IsHeadingOf(std::string_view line, std::string_view section) {
+  if (!IsHeading(line)) return false;
+  const std::string_view text = base::Trim(line);
+  return base::EqualsIgnoringCase(text.substr(1, text.find(']') - 1), section);
+}
+
+bool IsEntryOf(std::string_view line, std::string_view key) {
+  const std::size_t equals = line.find('=');
+  return equals != std::string_view::npos &&
+         base::EqualsIgnoringCase(base::Trim(line.substr(0, equals)), key);
+}
+
+std::string_view ValueOf(std::string_view line) {
+  std::string_view value = base::Trim(line.substr(line.find('=') + 1));
+  const bool is_quoted =
+      value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
+  return is_quoted ? value.substr(1, value.size() - 2) : value;
+}
+
+/// Where a section's lines are: behind its heading, up to the next one.
+struct SectionLines {
+  std::size_t begin;
+  std::size_t end;
+};
+
+std::optional<SectionLines> FindSection(const Lines& lines, std::string_view section) {
+  for (std::size_t place = 0; place < lines.size(); ++place) {
+    if (!IsHeadingOf(lines[place], section)) continue;
+    std::size_t end = place + 1;
+    while (end < lines.size() && !IsHeading(lines[end])) ++end;
+    return SectionLines{place + 1, end};
+  }
+  return std::nullopt;
+}
+
+std::optional<std::size_t> FindEntry(const Lines& lines, const SectionLines& section, std::string_view key) {
+  for (std::size_t place = section.begin; place < section.end; ++place) {
+    if (IsEntryOf(lines[place], key)) return place;
+  }
+  return std::nullopt;
+}
+
+/// Behind the last line of the section that is not empty.
+std::size_t PlaceForNewEntry(const Lines& lines, const SectionLines& section) {
+  std::size_t place = section.end;
+  while (place > section.begin && base::Trim(lines[place - 1]).empty()) --place;
+  return place;
+}
+
+void RemoveEntry(Lines& lines, const char* section, const char* key) {
+  const auto found = FindSection(lines, section);
+  if (!found) return;
+  const auto entry = FindEntry(lines, *found, key);
+  if (entry) lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(*entry));
+}
+
+void SetEntry(Lines& lines, const char* section, const char* key, const char* value) {
+  const std::string line = std::string(key) + "=" + value;
+  const auto found = FindSection(lines, section);
+  if (!found) {
+    lines.push_back("[" + std::string(section) + "]");
+    lines.push_back(line);
+    return;
+  }
+  const auto entry = FindEntry(lines, *found, key);
+  if (entry) {
+    lines[*entry] = line;
+    return;
+  }
+  lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(PlaceForNewEntry(lines, *found)), line);
+}
+
+}  // namespace
+
+std::string SimulatedFiles::UpperPath(const std::string& path) { return base::UpperAscii(path); }
+
+std::string SimulatedFiles::ProfilePath(const std::string& file) const {
+  if (file.find('\\') != std::string::npos) return UpperPath(file);
+  const bool is_root = windows_directory_.ends_with('\\');
+  return UpperPath(windows_directory_ + (is_root ? "" : "\\") + file);
+}
+
+std::optional<std::string> SimulatedFiles::Read(const std::string& path) const {
+  const auto found = files_.find(UpperPath(path));
+  if (found == files_.end()) return std::nullopt;
+  return found->second;
+}
+
+std::uint32_t SimulatedFiles::GetWindowsDirectoryA(char* buffer, std::uint32_t size_bytes) {
+  if (log_.RecordAndFail("GetWindowsDirectoryA", std::to_string(size_bytes))) return 0;
+  const auto length = static_cast<std::uint32_t>(windows_directory_.size());
+  return length < size_bytes ? Copy(windows_directory_, buffer, size_bytes) : length + 1;
+}
+
+bool SimulatedFiles::CopyFileA(const char* from, const char* to) {
+  if (log_.RecordAndFail("CopyFileA", std::string(from) + ", " + to)) return false;
+  const auto content = Read(from);
+  if (!content || read_only_.contains(UpperPath(to))) return false;
+  Write(to, *content);
+  return true;
+}
+
+std::uint32_t SimulatedFiles::GetPrivateProfileStringA(const char* section, const char* key,
+                                                       const char* missing, char* buffer,
+                                                       std::uint32_t size_bytes, const char* file) {
+  const bool fails =
+      log_.RecordAndFail("GetPrivateProfileStringA", std::string(file) + " [" + section + "] " + key);
+  const auto content = Read(ProfilePath(file));
+  if (fails || !content) return Copy(missing, buffer, size_bytes);
+  const Lines lines = LinesOf(*content);
+  const auto found = FindSection(lines, section);
+  const auto entry = found ? FindEntry(lines, *found, key) : std::nullopt;
+  return Copy(entry ? ValueOf(lines[*entry]) : std::string_view(missing), buffer, size_bytes);
+}
+
+bool SimulatedFiles::WritePrivateProfileStringA(const char* section, const char* key, const char* value,
+                                                const char* file) {
+  const std::string text = value == nullptr ? "removed" : value;
+  if (log_.RecordAndFail("WritePrivateProfileStringA",
+                         std::string(file) + " [" + section + "] " + key + " " + text)) {
+    return false;
+  }
+  const std::string path = ProfilePath(file);
+  if (read_only_.contains(path)) return false;
+  Lines lines = LinesOf(Read(path).value_or(""));
+  if (value == nullptr) {
+    RemoveEntry(lines, section, key);
+  } else {
+    SetEntry(lines, section, key, value);
+  }
+  Write(path, ContentOf(lines));
+  return true;
+}
+
+}  // namespace qdix::os::simulated

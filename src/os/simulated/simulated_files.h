@@ -1,0 +1,43 @@
+// Files of the simulated machine, in memory, and the profile files among them. Paths compare without case.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+
+#include "os/files.h"
+#include "os/profile_files.h"
+#include "os/simulated/call_log.h"
+
+namespace qdix::os::simulated {
+
+class SimulatedFiles final : public Files, public ProfileFiles {
+ public:
+  explicit SimulatedFiles(CallLog& log) : log_(log) {}
+
+  std::uint32_t GetWindowsDirectoryA(char* buffer, std::uint32_t size_bytes) override;
+  bool CopyFileA(const char* from, const char* to) override;
+  std::uint32_t GetPrivateProfileStringA(const char* section, const char* key, const char* missing,
+                                         char* buffer, std::uint32_t size_bytes, const char* file) override;
+  bool WritePrivateProfileStringA(const char* section, const char* key, const char* value,
+                                  const char* file) override;
+
+  // The disk as a test sees it; none of these is recorded.
+  void SetWindowsDirectory(const std::string& folder) { windows_directory_ = folder; }
+  void Write(const std::string& path, const std::string& content) { files_[UpperPath(path)] = content; }
+  [[nodiscard]] std::optional<std::string> Read(const std::string& path) const;
+  void Protect(const std::string& path) { read_only_.insert(UpperPath(path)); }
+
+ private:
+  static std::string UpperPath(const std::string& path);
+  /// A bare name is one in the Windows directory.
+  [[nodiscard]] std::string ProfilePath(const std::string& file) const;
+
+  CallLog& log_;
+  std::string windows_directory_ = "C:\\WINDOWS";
+  std::map<std::string, std::string> files_;
+  std::set<std::string> read_only_;
+};
+
+}  // namespace qdix::os::simulated

@@ -1,0 +1,44 @@
+#include "tuning/cache/first_save.h"
+
+#include "base/numbers.h"
+
+namespace qdix::tuning {
+
+namespace {
+
+constexpr const char* kMachineKey = "SOFTWARE\\QDIX";
+constexpr const char* kMarker = "FirstSave";
+constexpr const char* kTemplatesKey = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\FS Templates";
+constexpr const char* kUnnamed = "";
+
+}  // namespace
+
+void FirstSave::CheckFirstSave() {
+  if (!registry_.ReadRegistryValue(os::kHkeyLocalMachine, kMachineKey, kMarker).empty()) return;
+  paths_.CreateRegistryKey(kMachineKey, os::kHkeyLocalMachine);
+  Record(kMarker, "1");
+  system_ini_.BackupSystemINI();
+  RecordCacheSize("OldMinCache", "MinFileCache");
+  RecordCacheSize("OldMaxCache", "MaxFileCache");
+  RecordCacheSize("OldChunk", "chunksize");
+  Record("OldFileCache", registry_.ReadRegistryValue(os::kHkeyLocalMachine, kTemplatesKey, kUnnamed));
+  RecordPagingEntry("OldPagingDrive", "PagingDrive");
+  RecordPagingEntry("OldMinPagingFileSize", "MinPagingFileSize");
+  RecordPagingEntry("OldMaxPagingFileSize", "MaxPagingFileSize");
+}
+
+void FirstSave::Record(const char* value_name, const std::string& text) {
+  registry_.WriteRegistryText(os::kHkeyLocalMachine, kMachineKey, value_name, text);
+}
+
+void FirstSave::RecordCacheSize(const char* value_name, const char* key) {
+  Record(value_name, base::ShortestText(system_ini_.ReadIniValue(kVcacheSection, key)));
+}
+
+/// One character is what a missing entry reads as; an entry of a single one is taken for missing.
+void FirstSave::RecordPagingEntry(const char* value_name, const char* key) {
+  const SystemIni::Entry entry = system_ini_.ReadIniText(k386EnhSection, key);
+  if (entry.copied != 1) Record(value_name, entry.text);
+}
+
+}  // namespace qdix::tuning

@@ -1,0 +1,30 @@
+// Before the program changes the system for the first time it copies system.ini and writes down what stood
+// there: the machine's state before, once and for all.
+#pragma once
+
+#include "os/system.h"
+#include "shell/module_registry.h"
+#include "shell/registry_paths.h"
+#include "tuning/cache/system_ini.h"
+
+namespace qdix::tuning {
+
+class FirstSave {
+ public:
+  FirstSave(const os::System& system, SystemIni& system_ini)
+      : registry_(system.registry), paths_(system.registry), system_ini_(system_ini) {}
+
+  /// Takes backup and record where none was taken before; what fails is passed over and not tried again.
+  void CheckFirstSave();
+
+ private:
+  void Record(const char* value_name, const std::string& text);
+  void RecordCacheSize(const char* value_name, const char* key);
+  void RecordPagingEntry(const char* value_name, const char* key);
+
+  shell::ModuleRegistry registry_;
+  shell::RegistryPaths paths_;
+  SystemIni& system_ini_;
+};
+
+}  // namespace qdix::tuning

@@ -1,0 +1,51 @@
+#include "tuning/cache/system_ini.h"
+
+#include <array>
+
+#include "base/numbers.h"
+#include "base/text.h"
+
+namespace qdix::tuning {
+
+namespace {
+
+constexpr std::uint32_t kBufferBytes = 255;
+constexpr const char* kMissing = "0";
+
+}  // namespace
+
+SystemIni::Entry SystemIni::ReadIniText(const char* section, const char* key) const {
+  std::array<char, kBufferBytes> buffer{};
+  const std::uint32_t copied = profile_files_.GetPrivateProfileStringA(section, key, kMissing, buffer.data(),
+                                                                       kBufferBytes, kSystemIni);
+  return {.text = std::string(base::CutAtNul({buffer.data(), buffer.size()})), .copied = copied};
+}
+
+double SystemIni::ReadIniValue(const char* section, const char* key) const {
+  return base::ParseLeadingNumber(ReadIniText(section, key).text);
+}
+
+void SystemIni::WriteIniValue(const char* section, const char* key, std::int32_t value, const char* file) {
+  profile_files_.WritePrivateProfileStringA(section, key, base::TextOf(value).c_str(), file);
+}
+
+void SystemIni::DeleteIniValue(const char* section, const char* key, const char* file) {
+  profile_files_.WritePrivateProfileStringA(section, key, nullptr, file);
+}
+
+std::string SystemIni::WindowsFolder() {
+  std::array<char, kBufferBytes> buffer{};
+  // A folder that does not fit leaves the buffer empty, and the copy fails like any other.
+  static_cast<void>(files_.GetWindowsDirectoryA(buffer.data(), kBufferBytes));
+  std::string folder(base::CutAtNul({buffer.data(), buffer.size()}));
+  if (!folder.ends_with('\\')) folder += '\\';
+  return folder;
+}
+
+void SystemIni::BackupSystemINI() {
+  const std::string source = WindowsFolder() + kSystemIni;
+  const std::string target = WindowsFolder() + "system.qdix";
+  files_.CopyFileA(source.c_str(), target.c_str());
+}
+
+}  // namespace qdix::tuning

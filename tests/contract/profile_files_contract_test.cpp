@@ -1,0 +1,102 @@
+// Profile files: reading, writing and removing entries of a file in the Windows directory.
+#include <array>
+
+#include "tests/contract/machine.h"
+
+namespace qdix::contract {
+namespace {
+
+constexpr const char* kFile = "qdixtest.ini";
+
+class ProfileFilesContract : public ContractTest {
+ protected:
+  ~ProfileFilesContract() override {
+    for (const char* key : {"Size", "Other", "Text"}) Write("vcache", key, nullptr);
+  }
+  bool Write(const char* section, const char* key, const char* value) {
+    return system.profile_files.WritePrivateProfileStringA(section, key, value, kFile);
+  }
+  /// With the number of characters that were copied in front.
+  std::string Read(const char* section, const char* key, std::uint32_t room = 255) {
+    std::array<char, 255> buffer{};
+    const std::uint32_t copied =
+        system.profile_files.GetPrivateProfileStringA(section, key, "0", buffer.data(), room, kFile);
+    return std::to_string(copied) + ":" + buffer.data();
+  }
+};
+
+TEST_F(ProfileFilesContract, MissingEntryGivesTheDefault) { EXPECT_EQ(Read("vcache", "Size"), "1:0"); }
+
+TEST_F(ProfileFilesContract, WrittenEntryComesBackWhateverTheCaseOfItsNames) {
+  EXPECT_TRUE(Write("vcache", "Size", "4096"));
+  EXPECT_EQ(Read("vcache", "Size"), "4:4096");
+  EXPECT_EQ(Read("VCACHE", "size"), "4:4096");
+  EXPECT_TRUE(Write("vcache", "SIZE", "512"));
+  EXPECT_EQ(Read("vcache", "Size"), "3:512");
+}
+
+TEST_F(ProfileFilesContract, EntriesStandBesideEachOther) {
+  EXPECT_TRUE(Write("vcache", "Size", "1"));
+  EXPECT_TRUE(Write("vcache", "Other", "2"));
+  EXPECT_TRUE(Write("vcache", "Size", nullptr));
+  EXPECT_EQ(Read("vcache", "Size"), "1:0");
+  EXPECT_EQ(Read("vcache", "Other"), "1:2");
+}
+
+TEST_F(ProfileFilesContract, EmptyEntryIsThere) {
+  EXPECT_TRUE(Write("vcache", "Text", ""));
+  EXPECT_EQ(Read("vcache", "Text"), "0:");
+}
+
+TEST_F(ProfileFilesContract, ValueThatDoesNotFitIsCut) {
+  EXPECT_TRUE(Write("vcache", "Text", std::string(300, 'x').c_str()));
+  EXPECT_EQ(Read("vcache", "Text"), "254:" + std::string(254, 'x'));
+  EXPECT_EQ(Read("vcache", "Text", 5), "4:xxxx");
+  EXPECT_TRUE(Write("vcache", "Text", std::string(254, 'y').c_str()));
+  EXPECT_EQ(Read("vcache", "Text"), "254:" + std::string(254, 'y'));
+}
+
+TEST_F(ProfileFilesContract, OnePairOfQuotationMarksAndTheBlanksAroundAreNoPartOfAValue) {
+  EXPECT_TRUE(Write("vcache", "Text", "\"a b\""));
+  EXPECT_EQ(Read("vcache", "Text"), "3:a b");
+  EXPECT_TRUE(Write("vcache", "Text", "  c  "));
+  EXPECT_EQ(Read("vcache", "Text"), "1:c");
+}
+
+TEST_F(ProfileFilesContract, RemovingWhatIsNotThereIsNoFailure) {
+  EXPECT_TRUE(Write("vcache", "Size", nullptr));
+  EXPECT_EQ(Read("vcache", "Size"), "1:0");
+}
+
+class FilesContract : public ContractTest {};
+
+TEST_F(FilesContract, WindowsDirectoryIsAFullPathWithoutASeparatorAtItsEnd) {
+  std::array<char, 255> buffer{};
+  const std::uint32_t length = system.files.GetWindowsDirectoryA(buffer.data(), buffer.size());
+  const std::string folder = buffer.data();
+  EXPECT_EQ(folder.size(), length);
+  ASSERT_GT(length, 3U);
+  EXPECT_EQ(folder.substr(1, 2), ":\\");
+  EXPECT_NE(folder.back(), '\\');
+}
+
+TEST_F(FilesContract, CopyReplacesAnEarlierFileAndFailsWithoutASource) {
+  std::array<char, 255> buffer{};
+  ASSERT_GT(system.files.GetWindowsDirectoryA(buffer.data(), buffer.size()), 0U);
+  const std::string folder = std::string(buffer.data()) + "\\";
+  ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "1", kFile));
+  const std::string copy = folder + "qdixcopy.ini";
+  EXPECT_TRUE(system.files.CopyFileA((folder + kFile).c_str(), copy.c_str()));
+  ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "2", kFile));
+  EXPECT_TRUE(system.files.CopyFileA((folder + kFile).c_str(), copy.c_str()));
+  std::array<char, 16> value{};
+  EXPECT_EQ(
+      system.profile_files.GetPrivateProfileStringA("s", "k", "", value.data(), value.size(), copy.c_str()),
+      1U);
+  EXPECT_EQ(std::string(value.data()), "2");
+  EXPECT_FALSE(system.files.CopyFileA((folder + "no such.ini").c_str(), copy.c_str()));
+  EXPECT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", nullptr, kFile));
+}
+
+}  // namespace
+}  // namespace qdix::contract
