@@ -4,6 +4,7 @@
 
 #include "os/clock.h"
 #include "os/dialogs.h"
+#include "os/drives.h"
 #include "os/event_pump.h"
 #include "os/files.h"
 #include "os/memory.h"
@@ -28,6 +29,7 @@ struct System {
   Processor& processor;
   Files& files;
   ProfileFiles& profile_files;
+  Drives& drives;
 };
 
 }  // namespace qdix::os

@@ -8,6 +8,7 @@
 
 #include "os/simulated/call_log.h"
 #include "os/simulated/simulated_desktop.h"
+#include "os/simulated/simulated_drives.h"
 #include "os/simulated/simulated_files.h"
 #include "os/simulated/simulated_memory.h"
 #include "os/simulated/simulated_processor.h"
@@ -65,6 +66,11 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   /// Nobody can write into this file any more.
   void ProtectFile(const std::string& path) { files_.Protect(path); }
   void SetWindowsDirectory(const std::string& folder) { files_.SetWindowsDirectory(folder); }
+
+  // Drives, by their letters in upper case.
+  void AddDrive(char letter, const simulated::Drive& drive) { drives_.Add(letter, drive); }
+  /// A system from before the extended query of free space.
+  void RemoveExtendedQuery() { drives_.RemoveExtendedQuery(); }
 
   // Event pump: the action runs inside each pump, with the number of the pump, the first being 1.
   void OnPump(std::function<void(int)> action) { on_pump_ = std::move(action); }
@@ -136,6 +142,7 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   simulated::SimulatedShell shell_{log_};
   simulated::SimulatedProcessor processor_{log_};
   simulated::SimulatedFiles files_{log_};
+  simulated::SimulatedDrives drives_{log_};
   System system_;
   std::function<void(int)> on_pump_;
   int pumps_ = 0;

@@ -6,6 +6,7 @@
 #include "os/system.h"
 #include "os/win32/win32_clock.h"
 #include "os/win32/win32_dialogs.h"
+#include "os/win32/win32_drives.h"
 #include "os/win32/win32_event_pump.h"
 #include "os/win32/win32_files.h"
 #include "os/win32/win32_memory.h"
@@ -47,6 +48,7 @@ class Win32System {
   Win32Processor processor_;
   Win32Files files_;
   Win32ProfileFiles profile_files_;
+  Win32Drives drives_;
   System system_;
 };
 

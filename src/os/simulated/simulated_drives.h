@@ -1,0 +1,45 @@
+// The drives of the simulated machine.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+
+#include "os/drives.h"
+#include "os/simulated/call_log.h"
+
+namespace qdix::os::simulated {
+
+struct Drive {
+  std::uint32_t type = kDriveFixed;
+  std::uint64_t total_bytes = 0;
+  std::uint64_t free_bytes = 0;
+  /// Flags of the file system; nothing where the volume cannot be asked.
+  std::optional<std::uint32_t> flags = 0U;
+};
+
+class SimulatedDrives final : public Drives {
+ public:
+  explicit SimulatedDrives(CallLog& log) : log_(log) {}
+
+  std::int32_t GetDiskFreeSpaceExA(const char* root, DiskBytes& bytes) override;
+  std::int32_t GetDiskFreeSpaceA(const char* root, DiskClusters& clusters) override;
+  std::uint32_t GetDriveTypeA(const char* root) override;
+  std::uint32_t GetLogicalDriveStringsA(std::uint32_t room, char* buffer) override;
+  std::int32_t GetVolumeInformationA(const char* root, std::uint32_t& flags) override;
+
+  /// A letter from 'A' to 'Z', with its drive.
+  void Add(char letter, const Drive& drive) { drives_[letter] = drive; }
+  /// A system from before the extended query.
+  void RemoveExtendedQuery() { has_extended_query_ = false; }
+
+ private:
+  /// The drive that a root names, in either case, with or without its backslash.
+  [[nodiscard]] const Drive* Find(const std::string& root) const;
+
+  CallLog& log_;
+  std::map<char, Drive> drives_;
+  bool has_extended_query_ = true;
+};
+
+}  // namespace qdix::os::simulated

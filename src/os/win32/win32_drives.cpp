@@ -1,0 +1,70 @@
+#include "os/win32/win32_drives.h"
+
+#include <windows.h>
+
+#include <string>
+
+namespace qdix::os::win32 {
+
+namespace {
+
+using ExtendedQuery = BOOL(WINAPI*)(const char*, ULARGE_INTEGER*, ULARGE_INTEGER*, ULARGE_INTEGER*);
+
+/// The first Windows 95 has no such function; its second edition brought it.
+ExtendedQuery FindExtendedQuery() {
+  return reinterpret_cast<ExtendedQuery>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("kernel32.dll"), "GetDiskFreeSpaceExA")));
+}
+
+/// The classic query wants a root with its backslash and takes a bare "C:" for the current folder there, or
+/// for nothing at all, by the system.
+std::string WithBackslash(const char* root) {
+  std::string completed = root;
+  if (completed.size() == 2 && completed[1] == ':') completed += '\\';
+  return completed;
+}
+
+}  // namespace
+
+std::int32_t Win32Drives::GetDiskFreeSpaceExA(const char* root, DiskBytes& bytes) {
+  const ExtendedQuery query = FindExtendedQuery();
+  if (query == nullptr) return 0;
+  ULARGE_INTEGER available{};
+  ULARGE_INTEGER total{};
+  ULARGE_INTEGER total_free{};
+  const BOOL result = query(root, &available, &total, &total_free);
+  if (result == 0) return 0;
+  bytes = {.available = available.QuadPart, .total = total.QuadPart, .total_free = total_free.QuadPart};
+  return 1;
+}
+
+std::int32_t Win32Drives::GetDiskFreeSpaceA(const char* root, DiskClusters& clusters) {
+  DWORD sectors_per_cluster = 0;
+  DWORD bytes_per_sector = 0;
+  DWORD free_clusters = 0;
+  DWORD total_clusters = 0;
+  if (::GetDiskFreeSpaceA(WithBackslash(root).c_str(), &sectors_per_cluster, &bytes_per_sector,
+                          &free_clusters, &total_clusters) == 0) {
+    return 0;
+  }
+  clusters = {.sectors_per_cluster = sectors_per_cluster,
+              .bytes_per_sector = bytes_per_sector,
+              .free_clusters = free_clusters,
+              .total_clusters = total_clusters};
+  return 1;
+}
+
+std::uint32_t Win32Drives::GetDriveTypeA(const char* root) { return ::GetDriveTypeA(root); }
+
+std::uint32_t Win32Drives::GetLogicalDriveStringsA(std::uint32_t room, char* buffer) {
+  return ::GetLogicalDriveStringsA(room, buffer);
+}
+
+std::int32_t Win32Drives::GetVolumeInformationA(const char* root, std::uint32_t& flags) {
+  DWORD found_flags = 0;
+  if (::GetVolumeInformationA(root, nullptr, 0, nullptr, nullptr, &found_flags, nullptr, 0) == 0) return 0;
+  flags = found_flags;
+  return 1;
+}
+
+}  // namespace qdix::os::win32

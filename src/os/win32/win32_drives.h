@@ -1,0 +1,17 @@
+// Drives of the real system. Forwards, but for two things that the systems do not agree on.
+#pragma once
+
+#include "os/drives.h"
+
+namespace qdix::os::win32 {
+
+class Win32Drives final : public Drives {
+ public:
+  [[nodiscard]] std::int32_t GetDiskFreeSpaceExA(const char* root, DiskBytes& bytes) override;
+  [[nodiscard]] std::int32_t GetDiskFreeSpaceA(const char* root, DiskClusters& clusters) override;
+  [[nodiscard]] std::uint32_t GetDriveTypeA(const char* root) override;
+  [[nodiscard]] std::uint32_t GetLogicalDriveStringsA(std::uint32_t room, char* buffer) override;
+  [[nodiscard]] std::int32_t GetVolumeInformationA(const char* root, std::uint32_t& flags) override;
+};
+
+}  // namespace qdix::os::win32
