@@ -16,6 +16,8 @@ base::Status Form1::Form_Load() {
   cpu_speed_.CPUSPEED();
   cpu_usage_.StartCpuStatistics();
   cpu_usage_.FirstCPUUSAGE();
+  // A first reading that is reported opens a box, in which the session may have ended.
+  if (window_.Form1.Unloaded()) return base::kDone;
   automatic_release_.FillLists();
   timed_release_.FillLists();
   startup_release_.FillLists();

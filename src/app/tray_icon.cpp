@@ -42,6 +42,7 @@ bool TrayIcon::Notify(std::uint32_t request) { return system_.shell.Shell_Notify
 os::WindowHandle TrayIcon::Taskbar() const { return system_.windows.FindWindowA(kTaskbarClass, nullptr); }
 
 void TrayIcon::AddToTray() {
+  if (form_.Unloaded()) return;
   SetTip("Q-DIX");
   is_wanted_ = true;
   taskbar_ = Taskbar();

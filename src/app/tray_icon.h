@@ -21,6 +21,7 @@ class TrayIcon {
   /// The window that receives the icon's messages, and the icon; before AddToTray.
   void SetOwner(os::WindowHandle window, os::IconHandle icon);
 
+  /// Adds the icon; nothing once the window has unloaded.
   void AddToTray();
   /// Asks once more for an icon that was refused, as at log-on when the taskbar is not ready yet.
   void RetryAdd();

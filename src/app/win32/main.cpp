@@ -43,9 +43,7 @@ class Program {
  private:
   void Unloaded() { system_.Stop(); }
 
-  void TaskbarCreated() {
-    if (!form1_.Window().Unloaded()) form1_.Tray().AddToTray();
-  }
+  void TaskbarCreated() { form1_.Tray().AddToTray(); }
 
   // The windows go first, then the program whose models they show, then the system.
   os::win32::Win32System system_;

@@ -193,6 +193,16 @@ TEST_F(Lifecycle, CloseWithARefusedLimitTellsTheUserAndKeepsTheStoredValue) {
   EXPECT_TRUE(program.Window().Unloaded());
 }
 
+TEST_F(Lifecycle, EndOfTheSessionInABoxOfTheLoadLeavesNoIconAndStoresNothing) {
+  rig.machine.SetCpuLoad(300);
+  rig.machine.WhileBoxIsOpen([this] { rig.program->EndSession(); });
+  Start();
+  ASSERT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_EQ(rig.machine.TrayIconCount(), 0);
+  EXPECT_EQ(WrittenValues(), Texts{});
+}
+
 TEST_F(Lifecycle, CloseHappensOnce) {
   auto& program = Start();
   program.Window().Unload();

@@ -165,6 +165,7 @@ TEST_F(Tray, NewTaskbarThatTellsGetsTheIconAtOnceAndNotTwice) {
 TEST_F(Tray, ClosedProgramNeverAsksForTheIconAgain) {
   rig.program->Window().Unload();
   rig.machine.OpenWindow("Shell_TrayWnd", "");
+  rig.program->Tray().AddToTray();
   rig.program->Tray().RetryAdd();
   rig.program->Tray().LookForTaskbar();
   EXPECT_EQ(rig.machine.TrayIconCount(), 0);
