@@ -70,7 +70,6 @@ class Form1 {
   [[nodiscard]] memory::MemoryMonitor& Monitor() { return monitor_; }
   [[nodiscard]] memory::MemoryRelease& Release() { return release_; }
   [[nodiscard]] memory::AutomaticRelease& AutomaticSettings() { return automatic_release_; }
-  [[nodiscard]] memory::TimedRelease& TimedSettings() { return timed_release_; }
   [[nodiscard]] cpu::CpuUsage& Cpu() { return cpu_usage_; }
   [[nodiscard]] memory::StartupRelease& StartupSettings() { return startup_release_; }
 

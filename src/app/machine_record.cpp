@@ -1,14 +1,15 @@
 #include "app/machine_record.h"
 
 #include "shell/registry_key.h"
+#include "shell/registry_paths.h"
 
 namespace qdix::app {
 
 namespace {
 
+using shell::kMachineKey;
 using shell::RegistryKey;
 
-constexpr const char* kMachineKey = "SOFTWARE\\QDIX";
 constexpr const char* kUserKey = "Software\\QDIX";
 constexpr const char* kMarker = "HasRun";
 constexpr const char* kMarkerText = "1";

@@ -40,6 +40,10 @@ base::Status CpuUsage::Slider7_Change(std::int32_t position) {
   return base::kDone;
 }
 
+bool CpuUsage::OpenStatistics(const char* path, os::KeyHandle& key) {
+  return system_.registry.RegOpenKeyExA(os::kHkeyDynData, path, os::kKeyQueryValue, key) == os::kErrorSuccess;
+}
+
 std::int32_t CpuUsage::QueryLoad(os::KeyHandle key) {
   std::array<std::uint8_t, 4> bytes{};
   std::uint32_t type = os::kRegDword;
@@ -55,20 +59,14 @@ std::int32_t CpuUsage::QueryLoad(os::KeyHandle key) {
 
 void CpuUsage::StartCpuStatistics() {
   os::KeyHandle key = 0;
-  if (system_.registry.RegOpenKeyExA(os::kHkeyDynData, kStartKey, os::kKeyQueryValue, key) !=
-      os::kErrorSuccess) {
-    return;
-  }
+  if (!OpenStatistics(kStartKey, key)) return;
   static_cast<void>(QueryLoad(key));  // the question itself starts the statistic
   system_.registry.RegCloseKey(key);
 }
 
 void CpuUsage::FirstCPUUSAGE() {
   os::KeyHandle key = 0;
-  if (system_.registry.RegOpenKeyExA(os::kHkeyDynData, kDataKey, os::kKeyQueryValue, key) !=
-      os::kErrorSuccess) {
-    return;
-  }
+  if (!OpenStatistics(kDataKey, key)) return;
   const base::Result<std::uint8_t> reading = base::ToByte(QueryLoad(key));
   system_.registry.RegCloseKey(key);
   recent_samples_.fill(kFloorPercent);
@@ -83,10 +81,7 @@ void CpuUsage::FirstCPUUSAGE() {
 // statistic has always been read like this.
 void CpuUsage::CPUUsage() {
   os::KeyHandle key = 0;
-  if (system_.registry.RegOpenKeyExA(os::kHkeyDynData, kDataKey, os::kKeyQueryValue, key) !=
-      os::kErrorSuccess) {
-    return;
-  }
+  if (!OpenStatistics(kDataKey, key)) return;
   const base::Result<bool> displayed = TakeReading(QueryLoad(key));
   if (displayed.ValueOr(true)) system_.registry.RegCloseKey(key);
   if (!displayed.Ok()) Report(displayed.Error());

@@ -35,6 +35,8 @@ class CpuUsage {
   base::Status Slider7_Change(std::int32_t position);
 
  private:
+  /// False where the system keeps no such statistics; the caller closes the key.
+  [[nodiscard]] bool OpenStatistics(const char* path, os::KeyHandle& key);
   /// Reads the load through an open key; 0 where it cannot be read.
   [[nodiscard]] std::int32_t QueryLoad(os::KeyHandle key);
   /// True where the display has been updated.

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "base/numbers.h"
-#include "base/text.h"
+#include "shell/registry_key.h"
 
 namespace qdix::shell {
 
@@ -21,9 +21,6 @@ Word BytesOf(std::uint32_t number) {
   return bytes;
 }
 
-/// Longest text that is read; a value that another program blew up reads as empty.
-constexpr std::uint32_t kLongestTextBytes = 65536;
-
 }  // namespace
 
 std::string ModuleRegistry::ReadRegistryValue(os::KeyHandle root, const std::string& subkey,
@@ -39,17 +36,8 @@ std::string ModuleRegistry::QueryValueText(os::KeyHandle key, const char* value_
   std::uint32_t type = 0;
   std::uint32_t size_bytes = 0;
   if (registry_.RegQueryValueExA(key, value_name, type, nullptr, size_bytes) != os::kErrorSuccess) return {};
-  if (type == os::kRegSz) return QueryText(key, value_name, size_bytes);
+  if (type == os::kRegSz) return ReadTextOfSize(registry_, key, value_name, size_bytes).value_or("");
   return type == os::kRegBinary ? QueryBinary(key, value_name) : std::string();
-}
-
-std::string ModuleRegistry::QueryText(os::KeyHandle key, const char* value_name, std::uint32_t size_bytes) {
-  if (size_bytes > kLongestTextBytes) return {};
-  std::string text(size_bytes, '\0');
-  std::uint32_t type = 0;
-  auto* const bytes = reinterpret_cast<std::uint8_t*>(text.data());
-  if (registry_.RegQueryValueExA(key, value_name, type, bytes, size_bytes) != os::kErrorSuccess) return {};
-  return std::string(base::CutAtNul(text));
 }
 
 std::string ModuleRegistry::QueryBinary(os::KeyHandle key, const char* value_name) {

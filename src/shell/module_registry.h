@@ -39,7 +39,6 @@ class ModuleRegistry {
                           const std::string& value);
 
  private:
-  [[nodiscard]] std::string QueryText(os::KeyHandle key, const char* value_name, std::uint32_t size_bytes);
   [[nodiscard]] std::string QueryBinary(os::KeyHandle key, const char* value_name);
 
   os::Registry& registry_;

@@ -12,6 +12,20 @@ constexpr std::uint32_t kLongestTextBytes = 65536;
 
 }  // namespace
 
+std::optional<std::string> ReadTextOfSize(os::Registry& registry, os::KeyHandle key, const char* value_name,
+                                          std::uint32_t size_bytes) {
+  if (size_bytes > kLongestTextBytes) return std::nullopt;
+  std::string text(size_bytes, '\0');
+  std::uint32_t type = 0;
+  auto* const bytes = reinterpret_cast<std::uint8_t*>(text.data());
+  if (registry.RegQueryValueExA(key, value_name, type, bytes, size_bytes) != os::kErrorSuccess ||
+      type != os::kRegSz) {
+    return std::nullopt;
+  }
+  if (size_bytes < text.size()) text.resize(size_bytes);
+  return std::string(base::CutAtNul(text));
+}
+
 RegistryKey RegistryKey::Open(os::Registry& registry, os::KeyHandle root, const std::string& path,
                               std::uint32_t access) {
   RegistryKey key(registry);
@@ -42,15 +56,8 @@ std::optional<std::string> RegistryKey::ReadText(const char* value_name) const {
   if (registry_.RegQueryValueExA(handle_, value_name, type, nullptr, size_bytes) != os::kErrorSuccess) {
     return std::nullopt;
   }
-  if (type != os::kRegSz || size_bytes > kLongestTextBytes) return std::nullopt;
-  std::string text(size_bytes, '\0');
-  auto* bytes = reinterpret_cast<std::uint8_t*>(text.data());
-  if (registry_.RegQueryValueExA(handle_, value_name, type, bytes, size_bytes) != os::kErrorSuccess) {
-    return std::nullopt;
-  }
   if (type != os::kRegSz) return std::nullopt;
-  if (size_bytes < text.size()) text.resize(size_bytes);
-  return std::string(base::CutAtNul(text));
+  return ReadTextOfSize(registry_, handle_, value_name, size_bytes);
 }
 
 bool RegistryKey::HasValue(const char* value_name) const {

@@ -9,6 +9,11 @@
 
 namespace qdix::shell {
 
+/// The text of a value whose type and size are known, up to its first NUL. Nothing where it cannot be read,
+/// is no text any more, or is longer than anything that the program keeps.
+[[nodiscard]] std::optional<std::string> ReadTextOfSize(os::Registry& registry, os::KeyHandle key,
+                                                        const char* value_name, std::uint32_t size_bytes);
+
 class RegistryKey {
  public:
   /// Opens an existing key; `IsOpen` tells whether that worked.

@@ -14,9 +14,6 @@ namespace {
 /// Deepest path that can be opened, in keys below the root.
 constexpr std::size_t kMostLevels = 32;
 
-constexpr const char* kRunPath = "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Run";
-constexpr const char* kRunValue = "Quondix";
-
 struct Root {
   std::string_view name;
   os::KeyHandle handle;
@@ -80,7 +77,7 @@ bool RegistryPaths::CloseSubkey(std::int32_t handle) {
 }
 
 std::string RegistryPaths::RegDelete() {
-  const std::int32_t run = GetSubkeyHandle(kRunPath);
+  const std::int32_t run = GetSubkeyHandle(std::string("HKEY_LOCAL_MACHINE\\") + kRunKey);
   if (run == kNoKey) return {};
   static_cast<void>(registry_.RegDeleteValueA(static_cast<os::KeyHandle>(run), kRunValue));
   CloseSubkey(run);

@@ -9,6 +9,12 @@
 
 namespace qdix::shell {
 
+/// The program's machine-wide key.
+inline constexpr const char* kMachineKey = "SOFTWARE\\QDIX";
+/// Programs that start with Windows, and the program's own entry among them; machine-wide.
+inline constexpr const char* kRunKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+inline constexpr const char* kRunValue = "Quondix";
+
 class RegistryPaths {
  public:
   static constexpr std::int32_t kNoKey = -1;

@@ -1,15 +1,9 @@
 #include "shell/startup_registration.h"
 
 #include "shell/registry_key.h"
+#include "shell/registry_paths.h"
 
 namespace qdix::shell {
-
-namespace {
-
-constexpr const char* kRunKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
-constexpr const char* kRunValue = "Quondix";
-
-}  // namespace
 
 StartupRegistration::StartupRegistration(const os::System& system, screens::StartupScreen& screen)
     : system_(system), screen_(screen) {

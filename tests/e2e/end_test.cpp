@@ -1,5 +1,6 @@
 // Every way in which the shipped exe ends: always by itself, with exit code 0, its settings stored, its icon
 // gone and nothing asked.
+#include "tests/e2e/driver/process_memory.h"
 #include "tests/e2e/session.h"
 
 namespace qdix::e2e {
@@ -28,8 +29,6 @@ class EndSession : public Session {
     EXPECT_TRUE(program.IsRunning()) << "another program may still refuse";
     Ask(program.MainWindow(), WM_ENDSESSION, TRUE);
   }
-
-  static constexpr std::uint64_t kBlockBytes = 16 * 1024 * 1024;
 };
 
 TEST_F(EndSession, CloseInTheMiddleOfARelease) {

@@ -11,8 +11,6 @@ namespace {
 using Blocks = std::vector<std::uint64_t>;
 
 constexpr std::uint64_t kPageBytes = 4096;
-/// Larger than anything that the program holds besides the blocks of a release.
-constexpr std::uint64_t kBlockBytes = 16 * 1024 * 1024;
 constexpr int kReleaseDeadlineMs = 180000;
 
 std::uint64_t WholePages(std::uint64_t bytes) { return (bytes + kPageBytes - 1) / kPageBytes * kPageBytes; }

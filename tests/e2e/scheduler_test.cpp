@@ -1,5 +1,6 @@
 // The shipped exe by itself: the processor load on label and graph, the releases that start by themselves.
 #include "tests/e2e/driver/cpu_statistics.h"
+#include "tests/e2e/driver/process_memory.h"
 #include "tests/e2e/session.h"
 
 namespace qdix::e2e {
@@ -7,8 +8,6 @@ namespace {
 
 constexpr COLORREF kBar = RGB(255, 0, 0);
 constexpr int kMinuteDeadlineMs = 90000;
-/// Larger than anything that the program holds besides the blocks of a release.
-constexpr std::uint64_t kBlockBytes = 16 * 1024 * 1024;
 
 class SchedulerSession : public Session {
  protected:

@@ -6,7 +6,8 @@ namespace qdix::tuning {
 
 namespace {
 
-constexpr const char* kMachineKey = "SOFTWARE\\QDIX";
+using shell::kMachineKey;
+
 constexpr const char* kMarker = "FirstSave";
 constexpr const char* kTemplatesKey = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\FS Templates";
 constexpr const char* kUnnamed = "";

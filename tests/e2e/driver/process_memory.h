@@ -10,6 +10,9 @@
 
 namespace qdix::e2e {
 
+/// Larger than anything that the program holds besides the blocks of a release.
+inline constexpr std::uint64_t kBlockBytes = 16 * 1024 * 1024;
+
 /// Sizes in bytes of the private allocations with committed pages, ascending, those below the limit left out.
 /// Whole pages: memory is handed out in them.
 [[nodiscard]] std::vector<std::uint64_t> CommittedBlocks(HANDLE process, std::uint64_t at_least_bytes);
