@@ -7,6 +7,7 @@
 namespace qdix::os {
 
 inline constexpr std::uint32_t kMbOk = 0x0000U;
+inline constexpr std::uint32_t kMbOkCancel = 0x0001U;
 inline constexpr std::uint32_t kMbYesNo = 0x0004U;
 inline constexpr std::uint32_t kMbIconStop = 0x0010U;
 inline constexpr std::uint32_t kMbIconInformation = 0x0040U;
@@ -14,6 +15,7 @@ inline constexpr std::uint32_t kMbDefaultButton2 = 0x0100U;
 
 inline constexpr int kIdNone = 0;
 inline constexpr int kIdOk = 1;
+inline constexpr int kIdCancel = 2;
 inline constexpr int kIdYes = 6;
 inline constexpr int kIdNo = 7;
 
@@ -21,8 +23,8 @@ class Dialogs {
  public:
   virtual ~Dialogs() = default;
 
-  /// Shows a box and waits for the answer: kIdOk, kIdYes or kIdNo. kIdNone when the box could not be shown or
-  /// was dismissed because the program ends; that answer means "nothing was agreed".
+  /// Shows a box and waits for the answer: kIdOk, kIdCancel, kIdYes or kIdNo. kIdNone when the box could not
+  /// be shown or was dismissed because the program ends; that answer means "nothing was agreed".
   virtual int MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) = 0;
 };
 

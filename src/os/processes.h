@@ -1,7 +1,10 @@
 // This process among others.
 #pragma once
 
+#include <cstdint>
 #include <string>
+
+#include "os/error_codes.h"
 
 namespace qdix::os {
 
@@ -16,6 +19,12 @@ class Processes {
 
   /// Full path of this program's own file, in the system's spelling; empty when the system does not tell.
   [[nodiscard]] virtual std::string ModuleFileName() = 0;
+
+  /// Starts a program by its command line, in a normal window with the keyboard, and does not wait for it.
+  /// Blanks outside of quotation marks are tried from the left, ".exe" is added where there is no extension,
+  /// and the search goes through this program's folder, the current one, those of Windows, and the path.
+  /// The system's code: 0, kErrorFileNotFound, kErrorPathNotFound, kErrorAccessDenied or another.
+  [[nodiscard]] virtual std::int32_t CreateProcessA(const std::string& command_line) = 0;
 };
 
 }  // namespace qdix::os

@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+#include "os/error_codes.h"
+
 namespace qdix::os {
 
 /// An open key or one of the predefined roots.
@@ -17,12 +19,6 @@ inline constexpr KeyHandle kHkeyPerformanceData = 0x80000004U;
 inline constexpr KeyHandle kHkeyCurrentConfig = 0x80000005U;
 /// Statistics that the system makes up as they are read; Windows 95, 98 and ME only.
 inline constexpr KeyHandle kHkeyDynData = 0x80000006U;
-
-inline constexpr std::int32_t kErrorSuccess = 0;
-inline constexpr std::int32_t kErrorFileNotFound = 2;
-inline constexpr std::int32_t kErrorAccessDenied = 5;
-inline constexpr std::int32_t kErrorInvalidHandle = 6;
-inline constexpr std::int32_t kErrorMoreData = 234;
 
 inline constexpr std::uint32_t kRegSz = 1;
 inline constexpr std::uint32_t kRegBinary = 3;

@@ -12,6 +12,7 @@
 #include "os/processor.h"
 #include "os/profile_files.h"
 #include "os/registry.h"
+#include "os/session.h"
 #include "os/shell.h"
 #include "os/windows.h"
 
@@ -30,6 +31,7 @@ struct System {
   Files& files;
   ProfileFiles& profile_files;
   Drives& drives;
+  Session& session;
 };
 
 }  // namespace qdix::os

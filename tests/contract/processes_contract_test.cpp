@@ -24,5 +24,13 @@ TEST_F(ProcessesContract, ModuleFileNameIsAFullPathOfAProgram) {
   EXPECT_TRUE(base::EqualsIgnoringCase(path.substr(path.size() - 4), ".exe")) << path;
 }
 
+TEST_F(ProcessesContract, ProgramThatIsThereIsStarted) {
+  EXPECT_EQ(system.processes.CreateProcessA("cmd /c exit"), os::kErrorSuccess);
+}
+
+TEST_F(ProcessesContract, ProgramThatIsMissingIsNotFound) {
+  EXPECT_EQ(system.processes.CreateProcessA("qdix_no_such_program C:"), os::kErrorFileNotFound);
+}
+
 }  // namespace
 }  // namespace qdix::contract

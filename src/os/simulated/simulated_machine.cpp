@@ -27,8 +27,8 @@ std::vector<std::string> NamesFrom(const Accesses& accesses, std::size_t first_c
 }  // namespace
 
 SimulatedMachine::SimulatedMachine()
-    : system_{memory_, registry_, *this,      windows_, dialogs_, *this,
-              *this,   shell_,    processor_, files_,   files_,   drives_} {}
+    : system_{memory_, registry_,  *this,  windows_, dialogs_, *this, *this,
+              shell_,  processor_, files_, files_,   drives_,  *this} {}
 
 void SimulatedMachine::SetMemory(std::uint32_t total_physical, std::uint32_t available_physical,
                                  std::uint32_t total_page_file, std::uint32_t available_page_file) {
@@ -134,6 +134,22 @@ bool SimulatedMachine::MutexExistedBefore(const char* name) {
 
 std::string SimulatedMachine::ModuleFileName() {
   return log_.RecordAndFail("ModuleFileName") ? std::string() : module_file_name_;
+}
+
+std::int32_t SimulatedMachine::CreateProcessA(const std::string& command_line) {
+  if (log_.RecordAndFail("CreateProcessA", command_line)) return kErrorFileNotFound;
+  const std::string program = base::UpperAscii(command_line.substr(0, command_line.find(' ')));
+  if (!programs_.contains(program)) return kErrorFileNotFound;
+  started_programs_.push_back(command_line);
+  return kErrorSuccess;
+}
+
+bool SimulatedMachine::ExitWindowsEx(std::uint32_t flags, std::uint32_t reserved) {
+  if (log_.RecordAndFail("ExitWindowsEx", std::to_string(flags) + ", " + std::to_string(reserved))) {
+    return false;
+  }
+  if (flags == kEwxReboot) ++restarts_;
+  return true;
 }
 
 }  // namespace qdix::os

@@ -5,7 +5,9 @@
 #include <functional>
 #include <set>
 #include <string>
+#include <vector>
 
+#include "base/text.h"
 #include "os/simulated/call_log.h"
 #include "os/simulated/simulated_desktop.h"
 #include "os/simulated/simulated_drives.h"
@@ -17,7 +19,7 @@
 
 namespace qdix::os {
 
-class SimulatedMachine final : private EventPump, private Clock, private Processes {
+class SimulatedMachine final : private EventPump, private Clock, private Processes, private Session {
  public:
   SimulatedMachine();
   SimulatedMachine(const SimulatedMachine&) = delete;
@@ -116,6 +118,15 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   void SetOtherCopyRunning(bool is_running) { other_copy_ = is_running; }
   void SetModuleFileName(const std::string& path) { module_file_name_ = path; }
 
+  // Other programs, by the first word of their command line; the disk defragmenter is there from the start.
+  void AddProgram(const std::string& name) { programs_.insert(base::UpperAscii(name)); }
+  void RemoveProgram(const std::string& name) { programs_.erase(base::UpperAscii(name)); }
+  /// The command lines that started one, in order.
+  [[nodiscard]] const std::vector<std::string>& StartedPrograms() const { return started_programs_; }
+
+  /// How often the session was asked to end with a restart.
+  [[nodiscard]] int RestartCount() const { return restarts_; }
+
   // Faults and records. A number counts the calls that can fail, the first being 1.
   void FailNextCall(const std::string& name) { log_.FailNext(name); }
   void FailCallNumber(int number) { log_.FailNumber(number); }
@@ -133,6 +144,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   std::string LongDate(double days) override;
   bool MutexExistedBefore(const char* name) override;
   std::string ModuleFileName() override;
+  std::int32_t CreateProcessA(const std::string& command_line) override;
+  bool ExitWindowsEx(std::uint32_t flags, std::uint32_t reserved) override;
 
   simulated::CallLog log_;
   simulated::SimulatedMemory memory_{log_};
@@ -151,6 +164,9 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   bool other_copy_ = false;
   std::set<std::string> mutexes_;
   std::string module_file_name_ = "C:\\Program Files\\QDIX\\QDIX.exe";
+  std::set<std::string> programs_{"DEFRAG"};
+  std::vector<std::string> started_programs_;
+  int restarts_ = 0;
 };
 
 }  // namespace qdix::os

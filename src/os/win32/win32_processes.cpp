@@ -20,4 +20,20 @@ std::string Win32Processes::ModuleFileName() {
   return std::string(path.data(), length);
 }
 
+std::int32_t Win32Processes::CreateProcessA(const std::string& command_line) {
+  std::string writable = command_line;  // the system writes into it while it searches
+  STARTUPINFOA startup{};
+  startup.cb = sizeof(startup);
+  startup.dwFlags = STARTF_USESHOWWINDOW;
+  startup.wShowWindow = SW_SHOWNORMAL;
+  PROCESS_INFORMATION started{};
+  if (::CreateProcessA(nullptr, writable.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                       &started) == 0) {
+    return static_cast<std::int32_t>(GetLastError());
+  }
+  CloseHandle(started.hThread);
+  CloseHandle(started.hProcess);
+  return kErrorSuccess;
+}
+
 }  // namespace qdix::os::win32

@@ -14,6 +14,7 @@ class Win32Processes final : public Processes {
  public:
   [[nodiscard]] bool MutexExistedBefore(const char* name) override;
   [[nodiscard]] std::string ModuleFileName() override;
+  [[nodiscard]] std::int32_t CreateProcessA(const std::string& command_line) override;
 
  private:
   struct CloseOwnedHandle {

@@ -3,8 +3,8 @@
 namespace qdix::os::win32 {
 
 Win32System::Win32System()
-    : system_{memory_,    registry_, event_pump_, windows_, dialogs_,       clock_,
-              processes_, shell_,    processor_,  files_,   profile_files_, drives_} {}
+    : system_{memory_, registry_,  event_pump_, windows_,       dialogs_, clock_,  processes_,
+              shell_,  processor_, files_,      profile_files_, drives_,  session_} {}
 
 Win32System::~Win32System() = default;
 

@@ -14,6 +14,7 @@
 #include "os/win32/win32_processor.h"
 #include "os/win32/win32_profile_files.h"
 #include "os/win32/win32_registry.h"
+#include "os/win32/win32_session.h"
 #include "os/win32/win32_shell.h"
 #include "os/win32/win32_windows.h"
 
@@ -49,6 +50,7 @@ class Win32System {
   Win32Files files_;
   Win32ProfileFiles profile_files_;
   Win32Drives drives_;
+  Win32Session session_;
   System system_;
 };
 

@@ -25,8 +25,13 @@ double SystemIni::ReadIniValue(const char* section, const char* key) const {
   return base::ParseLeadingNumber(ReadIniText(section, key).text);
 }
 
+void SystemIni::WriteIniText(const char* section, const char* key, const std::string& text,
+                             const char* file) {
+  profile_files_.WritePrivateProfileStringA(section, key, text.c_str(), file);
+}
+
 void SystemIni::WriteIniValue(const char* section, const char* key, std::int32_t value, const char* file) {
-  profile_files_.WritePrivateProfileStringA(section, key, base::TextOf(value).c_str(), file);
+  WriteIniText(section, key, base::TextOf(value), file);
 }
 
 void SystemIni::DeleteIniValue(const char* section, const char* key, const char* file) {

@@ -29,6 +29,8 @@ class SystemIni {
   /// The leading number of the entry, 0 where there is none.
   [[nodiscard]] double ReadIniValue(const char* section, const char* key) const;
 
+  /// Writes an entry. A refusal is passed over.
+  void WriteIniText(const char* section, const char* key, const std::string& text, const char* file);
   /// Writes a number in decimal. A refusal is passed over.
   void WriteIniValue(const char* section, const char* key, std::int32_t value, const char* file);
   /// Removes an entry. A refusal is passed over.

@@ -14,6 +14,7 @@ class SimulatedContractMachine final : public Machine {
     machine_.SetMemory(64 * kMegabyte, 20 * kMegabyte, 100 * kMegabyte, 70 * kMegabyte);
     machine_.SetNow(kNoon21November2026);
     machine_.AddDrive('C', {.total_bytes = 1000 * kMegabyte, .free_bytes = 400 * kMegabyte});
+    machine_.AddProgram("cmd");
     // A Pentium of 133 MHz, as it tells of itself.
     machine_.TheProcessor().SetLeaf(0, {.eax = 1, .ebx = 0x756E6547, .ecx = 0x6C65746E, .edx = 0x49656E69});
     machine_.TheProcessor().SetLeaf(1, {.eax = 0x052C, .edx = 0x01BF});

@@ -1,0 +1,20 @@
+// The Windows session that the program runs in.
+#pragma once
+
+#include <cstdint>
+
+namespace qdix::os {
+
+/// Ends all programs and starts the machine anew.
+inline constexpr std::uint32_t kEwxReboot = 2;
+
+class Session {
+ public:
+  virtual ~Session() = default;
+
+  /// Asks every program to end, this one among them, and then ends the session. False where the system
+  /// refuses; true says only that it has begun.
+  virtual bool ExitWindowsEx(std::uint32_t flags, std::uint32_t reserved) = 0;
+};
+
+}  // namespace qdix::os
