@@ -36,7 +36,7 @@ add_custom_target(win95_libraries DEPENDS ${import_libraries} ${reduced_libgcc})
 # CMake would add the full import libraries of its own accord.
 set(CMAKE_CXX_STANDARD_LIBRARIES "")
 set(ship_link_flags
-  -nostdlib -nostartfiles -Wl,-e,_start -Wl,--gc-sections -Wl,--subsystem,windows:4.0
+  -flto-partition=one -nostdlib -nostartfiles -Wl,-e,_start -Wl,--gc-sections -Wl,--subsystem,windows:4.0
   -Wl,--major-os-version,4,--minor-os-version,0 -s
   -Wl,--disable-reloc-section -Wl,--disable-dynamicbase -Wl,--disable-nxcompat -Wl,--no-insert-timestamp
   ${CMAKE_SOURCE_DIR}/src/runtime/noctors.ld)

@@ -23,7 +23,7 @@ class SingleInstance {
  private:
   [[nodiscard]] os::WindowHandle FindOtherApplicationWindow(const std::string& title) const;
 
-  const os::System system_;
+  const os::System& system_;
   ui::Application& application_;
   ui::Form& form_;
 };

@@ -46,7 +46,7 @@ class TrayIcon {
   void SetTip(std::string_view text);
   void Display();
 
-  const os::System system_;
+  const os::System& system_;
   ui::Form& form_;
   screens::TrayMenu& menu_;
   memory::MemoryMonitor& monitor_;

@@ -44,7 +44,7 @@ class CpuUsage {
   base::Status ShowAverage();
   void Report(const base::RuntimeError& error);
 
-  const os::System system_;
+  const os::System& system_;
   const ui::Application& application_;
   shell::SettingsStore& settings_;
   screens::QuondixScreen& quondix_;

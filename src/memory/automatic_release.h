@@ -57,7 +57,7 @@ class AutomaticRelease {
   base::Status CheckMemory();
   void ShowCounter(std::string_view beginning);
 
-  const os::System system_;
+  const os::System& system_;
   shell::SettingsStore& settings_;
   screens::AutomaticScreen& screen_;
   ui::Timer& timer2_;

@@ -46,7 +46,7 @@ class MemoryMonitor {
   base::Status ShowAvailable(double available_mb);
   void ReportOnce(const os::MemoryStatus& status);
 
-  const os::System system_;
+  const os::System& system_;
   const ui::Application& application_;
   ui::Form& form_;
   screens::QuondixScreen& screen_;

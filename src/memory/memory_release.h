@@ -50,7 +50,7 @@ class MemoryRelease {
   void PumpEvents();
   void ReportFailure(const ReleaseRequest& request, const base::RuntimeError& error);
 
-  const os::System system_;
+  const os::System& system_;
   const ui::Application& application_;
   const ui::Form& form_;
 };

@@ -1,5 +1,5 @@
 // Everything that the program asks of the machine, by subject. A plain bundle of references: whoever makes it
-// keeps the implementations.
+// keeps it, and the implementations, for as long as the program lives.
 #pragma once
 
 #include "os/clock.h"

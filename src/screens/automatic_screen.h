@@ -13,8 +13,8 @@ namespace qdix::screens {
 /// memory at load.
 inline constexpr ui::ScrollRange kMinRamRange{
     .minimum = 32, .maximum = 1, .small_change = 1, .large_change = 4};
-inline constexpr std::string_view kMinRamTip = "Free up memory when RAM drops below this level";
-inline constexpr std::string_view kHalfRamTip = "Half your physical RAM is a good amount to release";
+inline constexpr const char* kMinRamTip = "Free up memory when RAM drops below this level";
+inline constexpr const char* kHalfRamTip = "Half your physical RAM is a good amount to release";
 
 struct AutomaticScreen {
   explicit AutomaticScreen(ui::Container& on) : page(on) {}

@@ -13,8 +13,7 @@ namespace qdix::screens {
 /// Range of the number of passes of every release.
 inline constexpr ui::ScrollRange kTryTimesRange{
     .minimum = 20, .maximum = 1, .small_change = 1, .large_change = 5};
-inline constexpr std::string_view kTryTimesTip =
-    "Number of times Q-DIX will attempt to free up RAM at one time";
+inline constexpr const char* kTryTimesTip = "Number of times Q-DIX will attempt to free up RAM at one time";
 
 struct QuondixScreen {
   explicit QuondixScreen(ui::Container& on) : page(on) {}

@@ -12,7 +12,7 @@ namespace qdix::screens {
 /// Range of the start-up delay in seconds.
 inline constexpr ui::ScrollRange kStartupTimeRange{
     .minimum = 240, .maximum = 1, .small_change = 1, .large_change = 10};
-inline constexpr std::string_view kStartupTimeTip = "Time to wait after startup before freeing up RAM";
+inline constexpr const char* kStartupTimeTip = "Time to wait after startup before freeing up RAM";
 
 struct StartupScreen {
   explicit StartupScreen(ui::Container& on) : page(on) {}

@@ -1,9 +1,6 @@
 // The menu of the tray icon, in the order in which it opens. No behaviour.
 #pragma once
 
-#include <array>
-#include <utility>
-
 #include "ui/menu.h"
 
 namespace qdix::screens {
@@ -12,12 +9,12 @@ struct TrayMenu {
   /// No program is known at first.
   explicit TrayMenu(ui::EventDispatcher& dispatcher) : events(dispatcher) {
     mnuPrograms.SetEnabled(false);
-    for (std::size_t index = 1; index < kProgramCount; ++index)
+    for (int index = 1; index < mnuProgram.Count(); ++index)
       base::Ignore(mnuProgram[index].SetVisible(false));
   }
 
-  using Programs = std::array<ui::MenuItem, 25>;
-  static constexpr std::size_t kProgramCount = std::tuple_size_v<Programs>;
+  /// Programs that the launcher can hold.
+  static constexpr int kProgramCount = 25;
 
   ui::EventDispatcher& events;
   ui::MenuItem mnuTray{events, "mnuTray", "Tray Menu"};
@@ -29,15 +26,9 @@ struct TrayMenu {
   ui::MenuItem mnuPrograms{mnuTray, "mnuPrograms", "Programs"};
   /// The launcher's entries; those without a program are hidden, but for the first, because a submenu always
   /// shows one.
-  Programs mnuProgram = MakePrograms(mnuPrograms, std::make_index_sequence<kProgramCount>());
+  ui::MenuItemArray mnuProgram{mnuPrograms, "mnuProgram", kProgramCount};
   ui::MenuItem mnuTrayBar3{mnuTray, "mnuTrayBar3", ui::MenuItem::kSeparatorCaption};
   ui::MenuItem mnuTrayClose{mnuTray, "mnuTrayClose", "Close"};
-
- private:
-  template <std::size_t... kIndex>
-  static Programs MakePrograms(ui::MenuItem& parent, std::index_sequence<kIndex...> /*all*/) {
-    return {{(static_cast<void>(kIndex), ui::MenuItem(parent, "mnuProgram", ""))...}};
-  }
 };
 
 }  // namespace qdix::screens

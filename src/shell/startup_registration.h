@@ -19,7 +19,7 @@ class StartupRegistration {
   base::Status Check2_Click();
 
  private:
-  const os::System system_;
+  const os::System& system_;
   screens::StartupScreen& screen_;
 };
 

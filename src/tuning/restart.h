@@ -22,7 +22,7 @@ class Restart {
   void Offer();
 
  private:
-  const os::System system_;
+  const os::System& system_;
   const ui::Application& application_;
   ui::Form& form_;
 };

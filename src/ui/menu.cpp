@@ -34,4 +34,8 @@ void MenuItem::Choose() {
   events_.Run(OnClick);
 }
 
+MenuItemArray::MenuItemArray(MenuItem& parent, std::string_view name, int count) {
+  for (int made = 0; made < count; ++made) items_.push_back(std::make_unique<MenuItem>(parent, name, ""));
+}
+
 }  // namespace qdix::ui

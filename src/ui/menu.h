@@ -1,6 +1,7 @@
 // Menus and their entries. A menu is a tree; a pop-up menu is shown by the form.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,6 +54,19 @@ class MenuItem {
   bool enabled_ = true;
   bool visible_ = true;
   bool is_default_ = false;
+};
+
+/// A row of entries of one name that stand one after the other in a menu, told apart by their number.
+class MenuItemArray {
+ public:
+  MenuItemArray(MenuItem& parent, std::string_view name, int count);
+
+  [[nodiscard]] int Count() const { return static_cast<int>(items_.size()); }
+  /// The first is number 0.
+  [[nodiscard]] MenuItem& operator[](int index) const { return *items_[static_cast<std::size_t>(index)]; }
+
+ private:
+  std::vector<std::unique_ptr<MenuItem>> items_;
 };
 
 }  // namespace qdix::ui
