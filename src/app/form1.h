@@ -20,19 +20,32 @@
 #include "os/system.h"
 #include "screens/about_screen.h"
 #include "screens/automatic_screen.h"
+#include "screens/cache_screen.h"
 #include "screens/main_window.h"
 #include "screens/quondix_screen.h"
 #include "screens/startup_screen.h"
+#include "screens/swap_file_screen.h"
 #include "screens/time_intervals_screen.h"
 #include "screens/tray_menu.h"
 #include "shell/settings_store.h"
 #include "shell/startup_registration.h"
+#include "tuning/cache/cache_save.h"
+#include "tuning/cache/cache_settings.h"
+#include "tuning/cache/first_save.h"
+#include "tuning/cache/system_ini.h"
+#include "tuning/restart.h"
+#include "tuning/swap/defragmenter.h"
+#include "tuning/swap/drive_info.h"
+#include "tuning/swap/swap_file.h"
+#include "tuning/swap/swap_save.h"
+#include "tuning/swap/swap_suggestion.h"
 #include "ui/application.h"
 
 namespace qdix::app {
 
 class Form1 {
  public:
+  /// Whoever makes the system keeps it for as long as the program lives.
   explicit Form1(const os::System& system);
   Form1(const Form1&) = delete;
   Form1& operator=(const Form1&) = delete;
@@ -62,6 +75,8 @@ class Form1 {
   [[nodiscard]] screens::AutomaticScreen& Automatic() { return automatic_; }
   [[nodiscard]] screens::TimeIntervalsScreen& TimeIntervals() { return time_intervals_; }
   [[nodiscard]] screens::StartupScreen& Startup() { return startup_; }
+  [[nodiscard]] screens::CacheScreen& Cache() { return cache_; }
+  [[nodiscard]] screens::SwapFileScreen& SwapFile() { return swap_file_screen_; }
   [[nodiscard]] screens::AboutScreen& About() { return about_; }
 
   [[nodiscard]] screens::TrayMenu& TheTrayMenu() { return tray_menu_; }
@@ -83,7 +98,7 @@ class Form1 {
   void ShowTip();
   void ReportUntrapped(const base::RuntimeError& error);
 
-  const os::System system_;
+  const os::System& system_;
   ui::EventDispatcher events_;
   ui::Application application_{"Q-DIX"};
   shell::SettingsStore settings_;
@@ -93,6 +108,8 @@ class Form1 {
   screens::AutomaticScreen automatic_{window_.SSTab1.Page(screens::kAutomaticTab)};
   screens::TimeIntervalsScreen time_intervals_{window_.SSTab1.Page(screens::kTimeIntervalsTab)};
   screens::StartupScreen startup_{window_.SSTab1.Page(screens::kStartupTab)};
+  screens::CacheScreen cache_{window_.SSTab1.Page(screens::kCacheTab)};
+  screens::SwapFileScreen swap_file_screen_{window_.SSTab1.Page(screens::kSwapFileTab)};
   screens::AboutScreen about_{window_.SSTab1.Page(screens::kAboutTab)};
   screens::TrayMenu tray_menu_{events_};
 
@@ -109,6 +126,16 @@ class Form1 {
   memory::TimedRelease timed_release_;
   memory::StartupRelease startup_release_;
   shell::StartupRegistration startup_registration_;
+  tuning::SystemIni system_ini_;
+  tuning::FirstSave first_save_;
+  tuning::Restart restart_;
+  tuning::CacheSettings cache_settings_;
+  tuning::CacheSave cache_save_;
+  tuning::DriveInfo drive_info_;
+  tuning::SwapFile swap_file_;
+  tuning::SwapSuggestion swap_suggestion_;
+  tuning::SwapSave swap_save_;
+  tuning::Defragmenter defragmenter_;
   UpTime up_time_;
   WindowModes window_modes_;
   TrayIcon tray_icon_;

@@ -21,6 +21,7 @@ base::Status Form1::Form_Load() {
   automatic_release_.FillLists();
   timed_release_.FillLists();
   startup_release_.FillLists();
+  cache_settings_.FillList();
   if (machine_record_.IsFirstRun()) RunFirstTimeSteps();
   const base::Status up_time = Timer6_Timer();
   if (!up_time.Ok()) return up_time;
@@ -28,12 +29,14 @@ base::Status Form1::Form_Load() {
   cpu_usage_.LoadUpdateInterval();
   timed_release_.LoadCpuLimit();
   SelectStoredTab();
+  cache_settings_.SetupCache();
   startup_registration_.CheckStartup();
   automatic_release_.LoadCounter();
 
   const base::Status total = monitor_.SetTotalRamMb();
   if (!total.Ok()) return total;
   manual_release_.FillList();
+  swap_file_.LoadSwapFile();
   const double total_ram_mb = monitor_.TotalRAM();
   LoadReleaseSettings(total_ram_mb);
 
@@ -42,6 +45,7 @@ base::Status Form1::Form_Load() {
   startup_release_.LoadAmount(total_ram_mb);
   monitor_.ShowTotals();
   startup_release_.LoadAndArmDelay();
+  cache_settings_.CheckCacheStartValues();
   const base::Status activated = Form_Activate();
   load_finished_ = activated.Ok();
   return activated;

@@ -4,12 +4,6 @@
 
 namespace qdix::memory {
 
-namespace {
-
-constexpr char kBackspace = 8;
-
-}  // namespace
-
 void CpuLimit::Load() {
   controls_.active.SetTicked(settings_.GetBoolean(shell::kSettingsSection, keys_.active, true));
   ShowWhetherActive();
@@ -36,8 +30,7 @@ void CpuLimit::ShowWhetherActive() {
 }
 
 base::Status CpuLimit::PercentKeyPressed(char& character) {
-  const bool is_digit = character >= '0' && character <= '9';
-  if (!is_digit && character != kBackspace) character = 0;
+  if (!ui::IsDigitKey(character)) character = 0;
   return base::kDone;
 }
 

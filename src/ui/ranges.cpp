@@ -83,7 +83,7 @@ void Slider::SetRange(std::int32_t minimum, std::int32_t maximum) {
 void Slider::Drag(std::int32_t value) {
   if (!Reachable()) return;
   const std::int32_t before = range_.value;
-  SetValue(value);
+  SetNearest(base::RoundHalfEven(static_cast<double>(value) / range_.step) * range_.step);
   if (range_.value != before) Events().Run(OnMove, range_.value);
 }
 

@@ -53,6 +53,8 @@ struct SliderRange {
   std::int32_t value = 0;
   std::int32_t small_change = 1;
   std::int32_t large_change = 5;
+  /// The user's moves end on a multiple of this; values from code keep what they are.
+  std::int32_t step = 1;
 };
 
 /// Values from code are clamped, the first one too, and fire nothing; a new range moves the value to its
@@ -73,7 +75,7 @@ class Slider final : public Control {
   void SetMinimum(std::int32_t minimum);
   void SetMaximum(std::int32_t maximum);
 
-  /// The user moves the thumb; fires OnMove with the new value when it differs.
+  /// The user moves the thumb, to the nearest step; fires OnMove with the new value when it differs.
   void Drag(std::int32_t value);
 
   base::Callback<base::Status(std::int32_t)> OnMove;

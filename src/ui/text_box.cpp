@@ -14,6 +14,8 @@ int Length(std::string_view text) { return static_cast<int>(text.size()); }
 
 }  // namespace
 
+bool IsDigitKey(char character) { return (character >= '0' && character <= '9') || character == kBackspace; }
+
 TextBox::TextBox(Container& parent, const Design& design, int max_length)
     : Control(&parent, Kind::kTextBox, design), max_length_(max_length) {}
 

@@ -5,6 +5,9 @@
 
 namespace qdix::ui {
 
+/// What a box for a number lets through: digits, and backspace.
+[[nodiscard]] bool IsDigitKey(char character);
+
 class TextBox final : public Control {
  public:
   /// The most characters a user can type; assignments are cut to it as well.

@@ -1,6 +1,7 @@
 #include "tuning/cache/first_save.h"
 
 #include "base/numbers.h"
+#include "tuning/cache/file_system_template.h"
 
 namespace qdix::tuning {
 
@@ -9,8 +10,6 @@ namespace {
 using shell::kMachineKey;
 
 constexpr const char* kMarker = "FirstSave";
-constexpr const char* kTemplatesKey = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\FS Templates";
-constexpr const char* kUnnamed = "";
 
 }  // namespace
 
@@ -22,7 +21,7 @@ void FirstSave::CheckFirstSave() {
   RecordCacheSize("OldMinCache", "MinFileCache");
   RecordCacheSize("OldMaxCache", "MaxFileCache");
   RecordCacheSize("OldChunk", "chunksize");
-  Record("OldFileCache", registry_.ReadRegistryValue(os::kHkeyLocalMachine, kTemplatesKey, kUnnamed));
+  Record("OldFileCache", registry_.ReadRegistryValue(os::kHkeyLocalMachine, kTemplatesKey, kUnnamedValue));
   RecordPagingEntry("OldPagingDrive", "PagingDrive");
   RecordPagingEntry("OldMinPagingFileSize", "MinPagingFileSize");
   RecordPagingEntry("OldMaxPagingFileSize", "MaxPagingFileSize");
@@ -36,10 +35,9 @@ void FirstSave::RecordCacheSize(const char* value_name, const char* key) {
   Record(value_name, base::ShortestText(system_ini_.ReadIniValue(kVcacheSection, key)));
 }
 
-/// One character is what a missing entry reads as; an entry of a single one is taken for missing.
 void FirstSave::RecordPagingEntry(const char* value_name, const char* key) {
   const SystemIni::Entry entry = system_ini_.ReadIniText(k386EnhSection, key);
-  if (entry.copied != 1) Record(value_name, entry.text);
+  if (!entry.ReadsAsMissing()) Record(value_name, entry.text);
 }
 
 }  // namespace qdix::tuning

@@ -19,6 +19,9 @@ class SystemIni {
   struct Entry {
     std::string text;
     std::uint32_t copied = 0;
+
+    /// One character is what a missing entry reads as; an entry of a single one is taken for missing.
+    [[nodiscard]] bool ReadsAsMissing() const { return copied == 1; }
   };
 
   SystemIni(os::ProfileFiles& profile_files, os::Files& files)

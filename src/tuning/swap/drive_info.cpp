@@ -74,6 +74,16 @@ base::Status DriveInfo::QueryClusters(const std::string& root, DriveSpaceInfo& i
   return base::kDone;
 }
 
+double DriveInfo::FreeMegabytes(const std::string& root) {
+  DriveSpaceInfo info;
+  GetDiskSpace(root, info);
+  return FreeMegabytes(info);
+}
+
+double DriveInfo::FreeMegabytes(const DriveSpaceInfo& info) {
+  return static_cast<double>(info.free_bytes) / 1000000 / 1.024;
+}
+
 std::string DriveInfo::GetDriveTypeText(const std::string& root) {
   const std::uint32_t type = drives_.GetDriveTypeA(root.c_str());
   if (type == kRemovable && (root.starts_with('a') || root.starts_with('b'))) return "Floppy drive.";
@@ -114,8 +124,7 @@ void DriveInfo::AddDrive(ui::ListControl& list, const std::string& root) {
     list.AddItem(root);
     return;
   }
-  const double free_mb = base::WholePart(static_cast<double>(info.free_bytes) / 1000000 / 1.024);
-  list.AddItem(root + " " + base::ShortestText(free_mb) + "MB Free");
+  list.AddItem(root + " " + base::ShortestText(base::WholePart(FreeMegabytes(info))) + "MB Free");
 }
 
 }  // namespace qdix::tuning

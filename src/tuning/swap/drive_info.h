@@ -36,6 +36,9 @@ class DriveInfo {
   /// more gives 0, and the record stays as far as it was filled.
   std::int32_t GetDiskSpace(const std::string& root, DriveSpaceInfo& info);
 
+  /// Free space in megabytes of 1,024,000 bytes, with fractions; 0 where it cannot be told.
+  [[nodiscard]] double FreeMegabytes(const std::string& root);
+
   /// A sentence about the kind of drive. Floppy drives are known by a lower-case letter only.
   [[nodiscard]] std::string GetDriveTypeText(const std::string& root);
 
@@ -50,6 +53,7 @@ class DriveInfo {
   void FillDriveCombo(ui::ListControl& list);
 
  private:
+  [[nodiscard]] static double FreeMegabytes(const DriveSpaceInfo& info);
   base::Status QueryClusters(const std::string& root, DriveSpaceInfo& info);
   void AddDrive(ui::ListControl& list, const std::string& root);
 

@@ -1,0 +1,41 @@
+// Writes the settings of the disk cache into system.ini and into a file-system template of the program's own,
+// and the way back to what Windows does by itself.
+#pragma once
+
+#include "os/system.h"
+#include "screens/cache_screen.h"
+#include "shell/module_registry.h"
+#include "tuning/cache/first_save.h"
+#include "tuning/cache/system_ini.h"
+#include "tuning/restart.h"
+#include "ui/application.h"
+
+namespace qdix::tuning {
+
+class CacheSave {
+ public:
+  CacheSave(const os::System& system, const ui::Application& application, screens::CacheScreen& screen,
+            SystemIni& system_ini, FirstSave& first_save, Restart& restart);
+
+  /// "Save Settings". Asks first, then writes and offers the restart. What cannot be written stays as it was.
+  base::Status Command11_Click();
+
+  /// "System Defaults": clears all boxes, so that the next save removes the settings.
+  base::Status Command14_Click();
+
+ private:
+  base::Status Save();
+  base::Status SaveTemplate();
+  base::Status SaveTemplateEntry(const ui::Slider& slider, const char* value_name);
+  void SaveSize(const ui::CheckBox& box, const ui::Slider& slider, const char* key);
+
+  os::Dialogs& dialogs_;
+  shell::ModuleRegistry registry_;
+  const ui::Application& application_;
+  screens::CacheScreen& screen_;
+  SystemIni& system_ini_;
+  FirstSave& first_save_;
+  Restart& restart_;
+};
+
+}  // namespace qdix::tuning

@@ -1,0 +1,28 @@
+// Runs the system's disk defragmenter in place of this program.
+#pragma once
+
+#include "os/system.h"
+#include "screens/swap_file_screen.h"
+#include "tuning/swap/swap_file.h"
+#include "ui/application.h"
+#include "ui/form.h"
+
+namespace qdix::tuning {
+
+class Defragmenter {
+ public:
+  Defragmenter(const os::System& system, const ui::Application& application, ui::Form& form,
+               screens::SwapFileScreen& screen, const SwapFile& swap_file);
+
+  /// Asks, starts the defragmenter on the selected drive and ends the program. An error of the start where
+  /// the system has none.
+  base::Status Command26_Click();
+
+ private:
+  const os::System& system_;
+  const ui::Application& application_;
+  ui::Form& form_;
+  const SwapFile& swap_file_;
+};
+
+}  // namespace qdix::tuning

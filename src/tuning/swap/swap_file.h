@@ -1,0 +1,68 @@
+// The configuration of the swap file as the "Optimize Swapfile" tab shows it: read from system.ini when the
+// window loads, then changed by hand. Nothing is written here.
+#pragma once
+
+#include <string>
+
+#include "memory/memory_monitor.h"
+#include "screens/swap_file_screen.h"
+#include "tuning/cache/system_ini.h"
+#include "tuning/swap/drive_info.h"
+
+namespace qdix::tuning {
+
+/// Entries of the section [386Enh].
+inline constexpr const char* kPagingDriveEntry = "PagingDrive";
+inline constexpr const char* kMinPagingFileSizeEntry = "MinPagingFileSize";
+inline constexpr const char* kMaxPagingFileSizeEntry = "MaxPagingFileSize";
+inline constexpr const char* kPagingEntry = "Paging";
+
+/// Sizes stand in megabytes on the screen and in kilobytes in system.ini.
+inline constexpr double kKilobytesPerMegabyte = 1024;
+
+class SwapFile {
+ public:
+  SwapFile(const SystemIni& system_ini, DriveInfo& drives, const memory::MemoryMonitor& monitor,
+           screens::SwapFileScreen& screen);
+
+  void LoadSwapFile();
+
+  void DisableSwapfileScreen();
+  void EnableSwapfileScreen();
+
+  base::Status optSwap1_Click();
+  base::Status optSwap2_Click();
+  base::Status Text8_KeyPress(char& character);
+  /// Always accepts. Error 380 where the bar does not reach that far.
+  base::Result<bool> Text8_Validate();
+  base::Status VScroll4_Change();
+
+  /// Shows a size and sets the bar to it. Error 380 where the bar does not reach that far.
+  base::Status SetSize(std::int32_t size_mb);
+
+  /// The letter and colon of the drive in a row of the list, or of the selected one; empty where there is
+  /// none.
+  [[nodiscard]] std::string DriveOf(int row) const;
+  [[nodiscard]] std::string SelectedDrive() const;
+
+  /// Free space of a drive in whole megabytes of 1,024,000 bytes.
+  [[nodiscard]] double FreeMb(const std::string& drive);
+
+ private:
+  void LoadManagedByWindows();
+  void LoadOwnSetup(const std::string& paging_drive);
+  void SelectDrive(const std::string& paging_drive);
+  void SelectOtherSetup();
+  void ShowSize(double size_mb);
+  [[nodiscard]] double ProposedMb();
+  void SetScreenEnabled(bool enabled);
+
+  const SystemIni& system_ini_;
+  DriveInfo& drives_;
+  const memory::MemoryMonitor& monitor_;
+  screens::SwapFileScreen& screen_;
+  /// The bar is being set to a size that it may not reach or that has fractions: the size stays as it is.
+  bool loading_ = false;
+};
+
+}  // namespace qdix::tuning
