@@ -115,6 +115,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   // Time and this process.
   void SetNow(double days) { now_days_ = days; }
   void AdvanceMs(std::int64_t ms);
+  /// The process ends, and with it the mutexes that it holds.
+  void EndProcess() { mutexes_.clear(); }
   void SetOtherCopyRunning(bool is_running) { other_copy_ = is_running; }
   void SetModuleFileName(const std::string& path) { module_file_name_ = path; }
 

@@ -135,10 +135,14 @@ std::int32_t SimulatedRegistry::RegQueryValueExA(KeyHandle key, const char* valu
   return kErrorSuccess;
 }
 
+std::string SimulatedRegistry::ShownValue(const std::optional<OpenKey>& key, const char* value_name) {
+  return (key ? key->path : "invalid") + ": " + value_name;
+}
+
 std::int32_t SimulatedRegistry::RegSetValueExA(KeyHandle key, const char* value_name, std::uint32_t type,
                                                const std::uint8_t* data, std::uint32_t size_bytes) {
   const auto open = FindOpen(key);
-  if (log_.RecordAndFail("RegSetValueExA", value_name)) return kErrorAccessDenied;
+  if (log_.RecordAndFail("RegSetValueExA", ShownValue(open, value_name))) return kErrorAccessDenied;
   if (!open) return kErrorInvalidHandle;
   if ((open->access & kKeySetValue) == 0) return kErrorAccessDenied;
   keys_[open->path].values[value_name] = {type, std::string(reinterpret_cast<const char*>(data), size_bytes)};
@@ -148,7 +152,7 @@ std::int32_t SimulatedRegistry::RegSetValueExA(KeyHandle key, const char* value_
 
 std::int32_t SimulatedRegistry::RegDeleteValueA(KeyHandle key, const char* value_name) {
   const auto open = FindOpen(key);
-  if (log_.RecordAndFail("RegDeleteValueA", value_name)) return kErrorAccessDenied;
+  if (log_.RecordAndFail("RegDeleteValueA", ShownValue(open, value_name))) return kErrorAccessDenied;
   if (!open) return kErrorInvalidHandle;
   if ((open->access & kKeySetValue) == 0) return kErrorAccessDenied;
   return keys_[open->path].values.erase(value_name) == 1 ? kErrorSuccess : kErrorFileNotFound;

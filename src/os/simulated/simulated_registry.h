@@ -74,6 +74,8 @@ class SimulatedRegistry final : public Registry {
   [[nodiscard]] bool RefusesWrites(const std::string& path, std::uint32_t access) const;
   /// All rights, less those to change a key that nobody may change.
   [[nodiscard]] std::uint32_t MostAccess(const std::string& path) const;
+  /// A value as the record of calls names it.
+  static std::string ShownValue(const std::optional<OpenKey>& key, const char* value_name);
   KeyHandle Open(const std::string& path, std::uint32_t access);
   void Create(const std::string& path);
 

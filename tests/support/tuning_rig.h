@@ -1,0 +1,93 @@
+// A machine on which the tuning tabs are used: its system.ini, its registry, and the hand that answers boxes.
+#pragma once
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "tests/support/program_rig.h"
+
+namespace qdix::tests {
+
+inline constexpr const char* kSystemIniPath = "C:\\WINDOWS\\system.ini";
+inline constexpr const char* kBackupPath = "C:\\WINDOWS\\system.qdix";
+inline constexpr const char* kMachineKeyPath = "SOFTWARE\\QDIX";
+inline constexpr const char* kTemplatesPath = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\FS Templates";
+inline constexpr const char* kOwnTemplatePath =
+    "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\FS Templates\\Quondix";
+
+/// Bytes of a machine with this much memory, in megabytes as the program shows them (1,024,000 bytes).
+inline std::uint32_t MemoryBytes(double mb) { return static_cast<std::uint32_t>(std::lround(mb * 1024000)); }
+
+/// Bytes free on a drive that shows this many free megabytes of 1,024,000 bytes.
+inline std::uint64_t FreeBytes(double mb) { return static_cast<std::uint64_t>(std::llround(mb * 1024000)); }
+
+class TuningRig : public ProgramRig {
+ public:
+  /// A machine with this much memory, in megabytes of 1,024,000 bytes, that ran the program before, with the
+  /// key of the templates and one fixed drive of 4,000 MB, of which 2,000 are free.
+  explicit TuningRig(double ram_mb = 64) : ProgramRig(MemoryBytes(ram_mb)) {
+    SetHasRunBefore();
+    machine.SetRegistryValue(os::kHkeyLocalMachine, kTemplatesPath, "", "Desktop");
+    machine.AddDrive('C', {.total_bytes = FreeBytes(4000), .free_bytes = FreeBytes(2000)});
+  }
+
+  void WriteSystemIni(const std::string& content) { machine.WriteFile(kSystemIniPath, content); }
+  [[nodiscard]] std::string SystemIni() const { return machine.ReadFile(kSystemIniPath).value_or("none"); }
+
+  /// Starts the program and opens a tab.
+  app::Form1& StartAt(screens::Tab tab) {
+    Start();
+    program->MainWindow().SSTab1.ChooseTab(tab);
+    return *program;
+  }
+  void End() {
+    program->Window().Unload();
+    timers = {};
+    machine.EndProcess();
+  }
+  /// Ends the program and starts it anew on the same machine.
+  app::Form1& Restart(screens::Tab tab) {
+    End();
+    return StartAt(tab);
+  }
+
+  void Answer(const std::vector<int>& answers) {
+    for (const int answer : answers) machine.AnswerNextBox(answer);
+  }
+  [[nodiscard]] std::vector<std::string> BoxTexts() const {
+    std::vector<std::string> texts;
+    for (const auto& box : machine.Boxes()) texts.push_back(box.text);
+    return texts;
+  }
+
+  /// The recorded calls that change the system, in order, from the given number of calls on.
+  [[nodiscard]] std::vector<std::string> Changes(std::size_t first_call = 0) const {
+    std::vector<std::string> changes;
+    for (std::size_t i = first_call; i < machine.Calls().size(); ++i) {
+      const std::string& call = machine.Calls()[i];
+      for (const char* name : {"RegSetValueExA", "RegDeleteValueA", "WritePrivateProfileStringA", "CopyFileA",
+                               "ExitWindowsEx"}) {
+        if (call.starts_with(name)) changes.push_back(call);
+      }
+    }
+    return changes;
+  }
+
+  /// The bytes of a value in hexadecimal with its type in front, "none" where it is missing.
+  [[nodiscard]] std::string ValueBytes(const char* path, const char* name) const {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    const auto value = machine.RegistryValue(os::kHkeyLocalMachine, path, name);
+    if (!value) return "none";
+    std::string shown = std::to_string(value->type) + ":";
+    for (const char byte : value->bytes) {
+      const auto number = static_cast<unsigned char>(byte);
+      shown += ' ';
+      shown += kDigits[number >> 4U];
+      shown += kDigits[number & 15U];
+    }
+    return shown;
+  }
+};
+
+}  // namespace qdix::tests
