@@ -21,6 +21,7 @@ class RandomHands {
 
   void Run() {
     FillSettings();
+    FillSystem();
     rig_.machine.LimitAllocatableBytes(Chance(3) ? 0xFFFFFFFFU : random_() % (600 * kMegabyte));
     rig_.Create();
     ui::VisitControls(rig_.program->Window(), ui::ControlVisitor::To<&RandomHands::Note>(*this));
@@ -64,6 +65,55 @@ class RandomHands {
     for (const char* key : {"StartDisplay", "StartupRAM", "StartupTime", "TimeMinutes", "TimeHours"}) {
       if (Chance(2)) rig_.Store("Startup", key, RandomText());
     }
+  }
+
+  /// A text as an entry of system.ini may hold it: likely ones, any bytes, and lengths round the buffer's.
+  std::string RandomEntry() {
+    static constexpr std::string_view kTexts[] = {"",   "0",      "D",      "C:",     "D:\\swap", "on",
+                                                  "On", "131072", "100000", "131072", "-5",       "1E300"};
+    if (Chance(2)) return std::string(kTexts[random_() % std::size(kTexts)]);
+    if (!Chance(8)) return RandomText();
+    static constexpr std::size_t kLengths[] = {253, 254, 255, 256, 70000};
+    return std::string(kLengths[random_() % std::size(kLengths)], static_cast<char>('0' + random_() % 10));
+  }
+
+  void FillSystem() {
+    std::string ini = Chance(3) ? RandomText() + "\r\n" : "";
+    ini += "[386Enh]\r\n";
+    for (const char* key : {"PagingDrive", "MinPagingFileSize", "MaxPagingFileSize", "Paging"}) {
+      if (Chance(2)) ini.append(key).append("=").append(RandomEntry()).append("\r\n");
+    }
+    ini += "[vcache]\r\n";
+    for (const char* key : {"MinFileCache", "maxfilecache", "ChunkSize"}) {
+      if (Chance(2)) ini.append(key).append("=").append(RandomEntry()).append(Chance(4) ? "\n" : "\r\n");
+    }
+    if (!Chance(8)) rig_.machine.WriteFile("C:\\WINDOWS\\system.ini", ini);
+    if (Chance(8)) rig_.machine.ProtectFile("C:\\WINDOWS\\system.ini");
+    for (const char* name : {"NameCache", "PathCache", ""}) {
+      if (Chance(2)) {
+        rig_.machine.SetRegistryBytes(os::kHkeyLocalMachine,
+                                      "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\FS Templates\\Quondix",
+                                      name, Word() % 5, RandomText());
+      }
+    }
+    for (char letter = 'C'; Chance(2) && letter < 'Z'; ++letter) {
+      rig_.machine.AddDrive(letter, {.type = Chance(4) ? Word() % 8 : os::kDriveFixed,
+                                     .total_bytes = std::uint64_t{Word()} << Word() % 20,
+                                     .free_bytes = std::uint64_t{Word()} << Word() % 20,
+                                     .flags = Chance(4) ? std::nullopt : std::optional(Word() % 0x10000)});
+    }
+    if (Chance(2)) rig_.machine.RemoveExtendedQuery();
+    if (Chance(2)) rig_.machine.RemoveProgram("defrag");
+    rig_.machine.WhileBoxIsOpen([this] { AnswerBox(); });
+  }
+
+  /// Any answer that the box has, so that it is not always the default one.
+  void AnswerBox() {
+    const std::uint32_t flags = rig_.machine.Boxes().back().flags;
+    int answer = os::kIdOk;
+    if ((flags & os::kMbYesNo) != 0) answer = Chance(3) ? os::kIdNo : os::kIdYes;
+    if ((flags & os::kMbOkCancel) != 0) answer = Chance(2) ? os::kIdOk : os::kIdCancel;
+    rig_.machine.AnswerNextBox(Chance(10) ? os::kIdNone : answer);
   }
 
   void InsidePump(int number) {
@@ -124,6 +174,15 @@ class RandomHands {
     EXPECT_LE(screen.Gauge1.Value(), 50);
     EXPECT_GE(screen.VScroll1.Value(), 1);
     EXPECT_LE(screen.VScroll1.Value(), 20);
+    const auto& cache = rig_.program->Cache();
+    for (const ui::Slider* slider :
+         {&cache.Slider1, &cache.Slider2, &cache.Slider3, &cache.Slider4, &cache.Slider5}) {
+      EXPECT_GE(slider->Value(), slider->Minimum()) << slider->Name();
+      EXPECT_LE(slider->Value(), std::max(slider->Minimum(), slider->Maximum())) << slider->Name();
+    }
+    const auto& swap = rig_.program->SwapFile();
+    EXPECT_TRUE(swap.VScroll4.Value() >= 0 && swap.VScroll4.Value() <= 32750) << swap.VScroll4.Value();
+    EXPECT_LE(swap.optSwap1.Selected() + swap.optSwap2.Selected() + swap.optSwap3.Selected(), 1);
     const int tab = rig_.program->MainWindow().SSTab1.Tab();
     EXPECT_TRUE(tab >= 0 && tab < 8) << tab;
     for (const ui::Timer* timer : rig_.program->Timers()) {

@@ -46,12 +46,8 @@ void SwapFile::LoadManagedByWindows() {
 /// Both sizes are read, also where the first one has told already that the setup is another's.
 void SwapFile::LoadOwnSetup(const std::string& paging_drive) {
   SelectDrive(paging_drive);
-  const SystemIni::Entry min = system_ini_.ReadIniText(k386EnhSection, kMinPagingFileSizeEntry);
-  if (min.ReadsAsMissing()) SelectOtherSetup();
-  const SystemIni::Entry max = system_ini_.ReadIniText(k386EnhSection, kMaxPagingFileSizeEntry);
-  if (max.ReadsAsMissing()) SelectOtherSetup();
-  const double min_mb = base::RoundHalfEven(base::ParseLeadingNumber(min.text) / kKilobytesPerMegabyte);
-  const double max_mb = base::ParseLeadingNumber(max.text) / kKilobytesPerMegabyte;
+  const double min_mb = base::RoundHalfEven(ReadSizeMb(kMinPagingFileSizeEntry));
+  const double max_mb = ReadSizeMb(kMaxPagingFileSizeEntry);
   if (!screen_.optSwap3.Selected() && min_mb == max_mb) {
     screen_.optSwap2.SetSelected(true);
     EnableSwapfileScreen();
@@ -60,6 +56,16 @@ void SwapFile::LoadOwnSetup(const std::string& paging_drive) {
   }
   SelectOtherSetup();
   ShowSize(max_mb == 0 ? ProposedMb() : max_mb);
+}
+
+/// A size that is missing makes the setup another's, and counts as 0.
+double SwapFile::ReadSizeMb(const char* key) {
+  const SystemIni::Entry size_kb = system_ini_.ReadIniText(k386EnhSection, key);
+  if (size_kb.ReadsAsMissing()) {
+    SelectOtherSetup();
+    return 0;
+  }
+  return base::ParseLeadingNumber(size_kb.text) / kKilobytesPerMegabyte;
 }
 
 void SwapFile::SelectDrive(const std::string& paging_drive) {

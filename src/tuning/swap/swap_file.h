@@ -51,6 +51,7 @@ class SwapFile {
  private:
   void LoadManagedByWindows();
   void LoadOwnSetup(const std::string& paging_drive);
+  [[nodiscard]] double ReadSizeMb(const char* key);
   void SelectDrive(const std::string& paging_drive);
   void SelectOtherSetup();
   void ShowSize(double size_mb);

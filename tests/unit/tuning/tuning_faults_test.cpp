@@ -1,0 +1,129 @@
+// Every call of the system that can fail is failed once, and from then on, while both tuning tabs are used.
+// Where the free space cannot be asked the suggestion is the system's default, which is then saved instead.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+
+#include "base/text.h"
+#include "tests/support/tuning_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+constexpr const char* kBefore =
+    "[386Enh]\r\nEMMExclude=A000\r\nPaging=on\r\n[vcache]\r\nMinFileCache=1024\r\nOther=1\r\n";
+
+/// Every line that may stand in system.ini at the end: what was there, and what the session writes.
+constexpr std::array<const char*, 13> kSoundLines{"[386Enh]",
+                                                  "EMMExclude=A000",
+                                                  "Paging=on",
+                                                  "PagingDrive=C:",
+                                                  "MinPagingFileSize=196608",
+                                                  "MaxPagingFileSize=196608",
+                                                  "[vcache]",
+                                                  "MinFileCache=1024",
+                                                  "minfilecache=4096",
+                                                  "maxfilecache=8192",
+                                                  "chunksize=4096",
+                                                  "Other=1",
+                                                  ""};
+
+/// Beginnings of every box that the session may show.
+constexpr std::array<const char*, 10> kKnownBoxes{"Are you sure you want to set the virtual memory",
+                                                  "Quondix has reset your virtual memory",
+                                                  "Are you sure you want to save these new cache settings?",
+                                                  "You must restart your computer",
+                                                  "Quondix suggests",
+                                                  "Are you sure you want to configure your Virtual Memory",
+                                                  "The size you have selected is too large.",
+                                                  "Ok to run the Disk Defragmenter now?",
+                                                  "The Automatic free up function",
+                                                  "Run-time error '53':"};
+
+/// Applies and saves a preset, has a swap file suggested and saves it, then runs the defragmenter. Every
+/// question is answered with Yes but that for the restart.
+void UseBothTabs(TuningRig& rig) {
+  rig.WriteSystemIni(kBefore);
+  rig.Start();
+  if (rig.program->Window().Unloaded()) return;
+  rig.machine.WhileBoxIsOpen([&rig] {
+    const std::string& text = rig.machine.Boxes().back().text;
+    const bool restarts = text.find("Do you want to restart") != std::string::npos;
+    const bool asks = (rig.machine.Boxes().back().flags & os::kMbYesNo) != 0;
+    rig.machine.AnswerNextBox(!asks ? os::kIdOk : restarts ? os::kIdNo : os::kIdYes);
+  });
+  rig.program->MainWindow().SSTab1.ChooseTab(screens::kCacheTab);
+  rig.program->Cache().Combo2.Choose("Multimedia (Win95)");
+  rig.program->Cache().Command11.Press();
+  rig.program->MainWindow().SSTab1.ChooseTab(screens::kSwapFileTab);
+  rig.program->SwapFile().optSwap2.Press();
+  rig.program->SwapFile().cmdBeginnerSwapFile.Press();
+  rig.program->SwapFile().Text8.SetText("192");
+  rig.program->SwapFile().Command18.Press();
+  rig.program->SwapFile().Command26.Press();
+  rig.program->Window().Unload();
+}
+
+/// Nothing else than whole lines of before and of after, and what the session does not touch is still there.
+void ExpectSoundFile(const std::string& content, int call) {
+  for (std::size_t begin = 0; begin < content.size();) {
+    const std::size_t end = std::min(content.find("\r\n", begin), content.size());
+    const std::string line = content.substr(begin, end - begin);
+    EXPECT_TRUE(std::find(kSoundLines.begin(), kSoundLines.end(), line) != kSoundLines.end())
+        << call << ": " << line;
+    begin = end + base::kLineBreak.size();
+  }
+  EXPECT_NE(content.find("EMMExclude=A000\r\n"), std::string::npos) << call;
+  EXPECT_NE(content.find("Other=1\r\n"), std::string::npos) << call;
+}
+
+void ExpectSoundEnd(TuningRig& rig, int call) {
+  EXPECT_TRUE(rig.program->Window().Unloaded()) << call;
+  EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << call;
+  EXPECT_TRUE(rig.machine.Misuses().empty()) << call;
+  EXPECT_EQ(rig.machine.RestartCount(), 0) << call;
+  ExpectSoundFile(rig.SystemIni(), call);
+  // The backup is missing where the copy failed, and is taken again where the record cannot be read.
+  ExpectSoundFile(rig.machine.ReadFile(kBackupPath).value_or(kBefore), call);
+  for (const std::string& text : rig.BoxTexts()) {
+    EXPECT_TRUE(std::any_of(kKnownBoxes.begin(), kKnownBoxes.end(),
+                            [&text](const char* known) { return text.starts_with(known); }))
+        << call << ": " << text;
+  }
+}
+
+int CallsOfASession() {
+  TuningRig rig;
+  UseBothTabs(rig);
+  EXPECT_EQ(rig.SystemIni(),
+            "[386Enh]\r\nEMMExclude=A000\r\nPagingDrive=C:\r\nMinPagingFileSize=196608\r\n"
+            "MaxPagingFileSize=196608\r\n[vcache]\r\nminfilecache=4096\r\nOther=1\r\nmaxfilecache=8192\r\n"
+            "chunksize=4096\r\n");
+  EXPECT_EQ(rig.machine.StartedPrograms(), std::vector<std::string>{"defrag C:"});
+  return rig.machine.FaultableCallCount();
+}
+
+TEST(TuningFaults, EachCallFailedOnceHurtsOnlyWhatItBelongsTo) {
+  const int calls = CallsOfASession();
+  ASSERT_GT(calls, 100);
+  for (int call = 1; call <= calls; ++call) {
+    TuningRig rig;
+    rig.machine.FailCallNumber(call);
+    UseBothTabs(rig);
+    ExpectSoundEnd(rig, call);
+  }
+}
+
+TEST(TuningFaults, EachCallFailedFromThenOnHurtsOnlyWhatItBelongsTo) {
+  const int calls = CallsOfASession();
+  for (int call = 1; call <= calls; ++call) {
+    TuningRig rig;
+    rig.machine.FailFromCallNumber(call);
+    UseBothTabs(rig);
+    ExpectSoundEnd(rig, call);
+  }
+}
+
+}  // namespace
+}  // namespace qdix::tests
