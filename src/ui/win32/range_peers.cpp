@@ -9,8 +9,14 @@ namespace qdix::ui::win32 {
 
 namespace {
 
-/// A slider of a longer range gets a mark at each such part of it.
+/// A slider of a longer range that does not move in steps gets a mark at each such part of it.
 constexpr std::int64_t kMostTicks = 10;
+
+std::int64_t TickDistance(const SliderRange& range) {
+  if (range.step > 1) return range.step;
+  const std::int64_t span = std::int64_t{range.maximum} - range.minimum;
+  return std::max<std::int64_t>(1, span / kMostTicks);
+}
 
 /// The distance of two values as far as the system can count it.
 int Distance(std::int64_t from, std::int64_t to) {
@@ -97,8 +103,7 @@ void SliderPeer::ValueChanged() {
 }
 
 void SliderPeer::RangeChanged() {
-  const std::int64_t span = std::int64_t{slider_.Maximum()} - slider_.Minimum();
-  Send(TBM_SETTICFREQ, static_cast<WPARAM>(std::max<std::int64_t>(1, span / kMostTicks)));
+  Send(TBM_SETTICFREQ, static_cast<WPARAM>(TickDistance(slider_.Range())));
   Send(TBM_SETRANGEMIN, FALSE, slider_.Minimum());
   Send(TBM_SETRANGEMAX, TRUE, slider_.Maximum());
   Send(TBM_SETLINESIZE, 0, slider_.Range().small_change);

@@ -110,6 +110,15 @@ struct DemoModels {
       {.name = "Slider", .place = {40, 50, 120, 20}},
       {.minimum = 1000, .maximum = 300000, .value = 1000, .small_change = 1, .large_change = 1000}};
 
+  ui::Slider stepped{tabs.Page(1),
+                     {.name = "Stepped", .place = {40, 75, 120, 20}},
+                     {.minimum = 512,
+                      .maximum = 4096,
+                      .value = 700,
+                      .small_change = 512,
+                      .large_change = 1024,
+                      .step = 512}};
+
   PaintedControl flat{
       tabs.Page(2), {.name = "Flat", .place = {4, 4, 60, 30}}, ui::BorderStyle::kFlatLine, {}};
   PaintedControl sunken{

@@ -344,6 +344,21 @@ TEST_F(UiControls, SliderFollowsBothWaysBeyond16Bits) {
   EXPECT_EQ(demo.Send(demo.slider, TBM_GETPOS), 150000);
 }
 
+TEST_F(UiControls, SliderOfStepsHasAMarkAtEachAndEndsOnOne) {
+  OpenPage(1);
+  EXPECT_EQ(demo.Send(demo.stepped, TBM_GETNUMTICS), 8);
+  EXPECT_EQ(demo.Send(demo.stepped, TBM_GETPOS), 700);
+  demo.stepped.SetFocus();
+  demo.Press(VK_RIGHT);
+  EXPECT_EQ(demo.stepped.Value(), 1024);
+  EXPECT_EQ(demo.Send(demo.stepped, TBM_GETPOS), 1024);
+  demo.Send(demo.stepped, TBM_SETPOS, TRUE, 3000);
+  demo.Send(demo.tabs.Page(1), WM_HSCROLL, TB_THUMBTRACK,
+            reinterpret_cast<LPARAM>(demo.Native(demo.stepped)));
+  EXPECT_EQ(demo.stepped.Value(), 3072);
+  EXPECT_EQ(demo.Send(demo.stepped, TBM_GETPOS), 3072);
+}
+
 struct TabWatcher {
   int left = -1;
   base::Status Clicked(int a_left) {

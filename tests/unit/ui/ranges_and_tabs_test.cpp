@@ -99,6 +99,22 @@ TEST_F(Ranges, SliderIsClampedAndFiresForTheUsersMovesOnly) {
   EXPECT_EQ(moves.values.size(), 2U);
 }
 
+TEST_F(Ranges, SliderOfStepsIsMovedToTheNearestStepByAHandOnly) {
+  ui::Slider slider(bench.form, {.name = "Slider"},
+                    {.minimum = 512, .maximum = 4096, .value = 700, .step = 512});
+  EXPECT_EQ(slider.Value(), 700);
+  slider.SetValue(900);
+  EXPECT_EQ(slider.Value(), 900);
+  slider.Drag(1300);
+  EXPECT_EQ(slider.Value(), 1536);
+  slider.Drag(767);
+  EXPECT_EQ(slider.Value(), 512);
+  slider.Drag(0);
+  EXPECT_EQ(slider.Value(), 512);
+  slider.Drag(100000);
+  EXPECT_EQ(slider.Value(), 4096);
+}
+
 TEST_F(Ranges, SlidersFirstValueLiesInsideItsRange) {
   EXPECT_EQ(ui::Slider(bench.form, {.name = "A"}, {.minimum = 512, .maximum = 4096}).Value(), 512);
   EXPECT_EQ(ui::Slider(bench.form, {.name = "B"}, {.minimum = 1, .maximum = 5, .value = 9}).Value(), 5);
