@@ -18,7 +18,7 @@ struct TimeIntervalsScreen {
                        .tool_tip = "Must be ticked for Timed freeups to take place",
                        .place = {11, 14, 120, 10}}};
   ui::Label lblUnit{FrameTime,
-                    {.name = "lblUnit", .caption = "Release RAM every:", .place = {11, 32, 72, 8}}};
+                    {.name = "lblUnit", .caption = "Release RAM every:", .place = {11, 32, 66, 8}}};
   ui::Frame FrameUnit{FrameTime, {.name = "FrameUnit", .caption = "Unit", .place = {78, 38, 62, 38}}};
   ui::OptionButton Option4{
       FrameUnit, {.name = "Option4", .caption = "Minutes", .access_key = 'n', .place = {84, 49, 50, 10}}};
