@@ -99,6 +99,34 @@ INSTANTIATE_TEST_SUITE_P(
         Setup{"huge", "PagingDrive=C:\r\nMinPagingFileSize=1E300\r\nMaxPagingFileSize=1E300\r\n", 2, kC,
               "9.765625E+296", 32750}));
 
+/// A machine without entries, by memory and by what is free on its drive, in megabytes.
+struct Machine {
+  double ram_mb;
+  double free_mb;
+  std::string size;
+  std::int32_t bar;
+};
+
+void PrintTo(const Machine& machine, std::ostream* out) {
+  *out << machine.ram_mb << " MB, " << machine.free_mb << " MB free";
+}
+
+class ProposedSize : public testing::TestWithParam<Machine> {};
+
+TEST_P(ProposedSize, ComesFromMemoryAndFreeSpace) {
+  TuningRig rig(GetParam().ram_mb);
+  rig.machine.AddDrive('C', {.total_bytes = FreeBytes(9000), .free_bytes = FreeBytes(GetParam().free_mb)});
+  rig.StartAt(screens::kSwapFileTab);
+  EXPECT_EQ(rig.program->SwapFile().Text8.Text(), GetParam().size);
+  EXPECT_EQ(rig.program->SwapFile().VScroll4.Value(), GetParam().bar);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, ProposedSize,
+                         testing::Values(Machine{8, 0, "-10", 0}, Machine{8, 0.5, "-10", 0},
+                                         Machine{8, 0.6, "24", 24}, Machine{31.9, 2000, "95", 95},
+                                         Machine{64, 1, "192", 192}, Machine{512, 1, "-9", 0},
+                                         Machine{512, 1.5, "1536", 1536}, Machine{512, 2.5, "1536", 1536}));
+
 class SwapTab : public testing::Test {
  protected:
   screens::SwapFileScreen& Tab() { return rig.program->SwapFile(); }

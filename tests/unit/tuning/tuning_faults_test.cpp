@@ -41,18 +41,22 @@ constexpr std::array<const char*, 10> kKnownBoxes{"Are you sure you want to set 
                                                   "The Automatic free up function",
                                                   "Run-time error '53':"};
 
-/// Applies and saves a preset, has a swap file suggested and saves it, then runs the defragmenter. Every
-/// question is answered with Yes but that for the restart.
-void UseBothTabs(TuningRig& rig) {
-  rig.WriteSystemIni(kBefore);
-  rig.Start();
-  if (rig.program->Window().Unloaded()) return;
+/// Every question is answered with Yes but that for the restart.
+void AnswerBoxes(TuningRig& rig) {
   rig.machine.WhileBoxIsOpen([&rig] {
     const std::string& text = rig.machine.Boxes().back().text;
     const bool restarts = text.find("Do you want to restart") != std::string::npos;
     const bool asks = (rig.machine.Boxes().back().flags & os::kMbYesNo) != 0;
     rig.machine.AnswerNextBox(!asks ? os::kIdOk : restarts ? os::kIdNo : os::kIdYes);
   });
+}
+
+/// Applies and saves a preset, has a swap file suggested and saves it, then runs the defragmenter.
+void UseBothTabs(TuningRig& rig) {
+  rig.WriteSystemIni(kBefore);
+  rig.Start();
+  if (rig.program->Window().Unloaded()) return;
+  AnswerBoxes(rig);
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kCacheTab);
   rig.program->Cache().Combo2.Choose("Multimedia (Win95)");
   rig.program->Cache().Command11.Press();
@@ -93,37 +97,73 @@ void ExpectSoundEnd(TuningRig& rig, int call) {
   }
 }
 
-int CallsOfASession() {
-  TuningRig rig;
-  UseBothTabs(rig);
-  EXPECT_EQ(rig.SystemIni(),
-            "[386Enh]\r\nEMMExclude=A000\r\nPagingDrive=C:\r\nMinPagingFileSize=196608\r\n"
-            "MaxPagingFileSize=196608\r\n[vcache]\r\nminfilecache=4096\r\nOther=1\r\nmaxfilecache=8192\r\n"
-            "chunksize=4096\r\n");
-  EXPECT_EQ(rig.machine.StartedPrograms(), std::vector<std::string>{"defrag C:"});
-  return rig.machine.FaultableCallCount();
+/// Gives both back to Windows: clears the boxes of the cache and saves, chooses the default swap file and
+/// saves.
+void GoBackToDefaults(TuningRig& rig) {
+  rig.WriteSystemIni(kBefore);
+  rig.machine.SetRegistryBytes(os::kHkeyLocalMachine, kOwnTemplatePath, "NameCache", os::kRegBinary,
+                               {0, '\x08', 0, 0});
+  rig.Start();
+  if (rig.program->Window().Unloaded()) return;
+  AnswerBoxes(rig);
+  rig.program->MainWindow().SSTab1.ChooseTab(screens::kCacheTab);
+  rig.program->Cache().Command14.Press();
+  rig.program->Cache().Command11.Press();
+  rig.program->MainWindow().SSTab1.ChooseTab(screens::kSwapFileTab);
+  rig.program->SwapFile().optSwap1.Press();
+  rig.program->SwapFile().Command18.Press();
+  rig.program->Window().Unload();
 }
 
-TEST(TuningFaults, EachCallFailedOnceHurtsOnlyWhatItBelongsTo) {
-  const int calls = CallsOfASession();
-  ASSERT_GT(calls, 100);
+struct Scenario {
+  const char* name;
+  void (*run)(TuningRig& rig);
+  std::string after;
+};
+
+void PrintTo(const Scenario& scenario, std::ostream* out) { *out << scenario.name; }
+
+class TuningFaults : public testing::TestWithParam<Scenario> {
+ protected:
+  /// How many calls of an undisturbed run can fail; it also shows that the run does what it is for.
+  static int Calls() {
+    TuningRig rig;
+    GetParam().run(rig);
+    EXPECT_EQ(rig.SystemIni(), GetParam().after);
+    EXPECT_EQ(rig.machine.ReadFile(kBackupPath), kBefore);
+    EXPECT_GT(rig.machine.FaultableCallCount(), 100);
+    return rig.machine.FaultableCallCount();
+  }
+};
+
+TEST_P(TuningFaults, EachCallFailedOnceHurtsOnlyWhatItBelongsTo) {
+  const int calls = Calls();
   for (int call = 1; call <= calls; ++call) {
     TuningRig rig;
     rig.machine.FailCallNumber(call);
-    UseBothTabs(rig);
+    GetParam().run(rig);
     ExpectSoundEnd(rig, call);
   }
 }
 
-TEST(TuningFaults, EachCallFailedFromThenOnHurtsOnlyWhatItBelongsTo) {
-  const int calls = CallsOfASession();
+TEST_P(TuningFaults, EachCallFailedFromThenOnHurtsOnlyWhatItBelongsTo) {
+  const int calls = Calls();
   for (int call = 1; call <= calls; ++call) {
     TuningRig rig;
     rig.machine.FailFromCallNumber(call);
-    UseBothTabs(rig);
+    GetParam().run(rig);
     ExpectSoundEnd(rig, call);
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Scenarios, TuningFaults,
+    testing::Values(Scenario{"BothTabs", &UseBothTabs,
+                             "[386Enh]\r\nEMMExclude=A000\r\nPagingDrive=C:\r\nMinPagingFileSize=196608\r\n"
+                             "MaxPagingFileSize=196608\r\n[vcache]\r\nminfilecache=4096\r\nOther=1\r\n"
+                             "maxfilecache=8192\r\nchunksize=4096\r\n"},
+                    Scenario{"Defaults", &GoBackToDefaults,
+                             "[386Enh]\r\nEMMExclude=A000\r\nPaging=on\r\n[vcache]\r\nOther=1\r\n"}));
 
 }  // namespace
 }  // namespace qdix::tests
