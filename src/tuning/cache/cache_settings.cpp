@@ -101,7 +101,7 @@ void CacheSettings::SetupCache() {
 /// A size that this machine cannot have is shown as one that is not set.
 void CacheSettings::LoadCacheSize(const Group& group, const char* key) {
   const double size_kb = system_ini_.ReadIniValue(kVcacheSection, key);
-  const bool is_set = size_kb != 0 && size_kb >= group.slider.Minimum() && size_kb <= group.slider.Maximum();
+  const bool is_set = size_kb >= group.slider.Minimum() && size_kb <= group.slider.Maximum();
   group.box.SetTicked(is_set);
   if (is_set) group.slider.SetNearest(size_kb);
 }

@@ -85,6 +85,18 @@ TEST_F(CacheTab, SlidersReachFrom512To500KilobytesForEachMegabyte) {
   EXPECT_EQ(Tab().Slider5.Maximum(), 256);
 }
 
+TEST_F(CacheTab, KeysMoveTheSlidersByTheseSteps) {
+  Start();
+  const auto steps = [](const ui::Slider& slider) {
+    return std::pair(slider.Range().small_change, slider.Range().large_change);
+  };
+  EXPECT_EQ(steps(Tab().Slider1), std::pair(512, 4096));
+  EXPECT_EQ(steps(Tab().Slider2), std::pair(512, 4096));
+  EXPECT_EQ(steps(Tab().Slider3), std::pair(512, 1024));
+  EXPECT_EQ(steps(Tab().Slider4), std::pair(64, 512));
+  EXPECT_EQ(steps(Tab().Slider5), std::pair(8, 32));
+}
+
 TEST_F(CacheTab, SettingsOfTheMachineAreShown) {
   rig.WriteSystemIni("[vcache]\r\nMinFileCache=2048\r\nMaxFileCache=8192\r\nChunkSize=1024\r\n");
   StoreTemplate(rig, "NameCache", {'\x51', '\x01', 0, 0});

@@ -131,6 +131,7 @@ TEST_F(DriveInfo, ListThatDoesNotFitIsEmpty) {
   EXPECT_EQ(info.GetDriveList().size(), 77U);
   AddFixed('T', 0);
   EXPECT_EQ(info.GetDriveList(), "");
+  EXPECT_EQ(machine.Calls().back(), "GetLogicalDriveStringsA(78)");
   EXPECT_EQ(Listed(), Texts{});
 }
 
