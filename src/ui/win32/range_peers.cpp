@@ -10,12 +10,12 @@ namespace qdix::ui::win32 {
 namespace {
 
 /// A slider of a longer range that does not move in steps gets a mark at each such part of it.
-constexpr std::int64_t kMostTicks = 10;
+constexpr std::int64_t kMostMarks = 10;
 
-std::int64_t TickDistance(const SliderRange& range) {
+std::int64_t MarkDistance(const SliderRange& range) {
   if (range.step > 1) return range.step;
   const std::int64_t span = std::int64_t{range.maximum} - range.minimum;
-  return std::max<std::int64_t>(1, span / kMostTicks);
+  return std::max<std::int64_t>(1, span / kMostMarks);
 }
 
 /// The distance of two values as far as the system can count it.
@@ -32,7 +32,7 @@ ScrollBarPeer::ScrollBarPeer(const PeerContext& context, VerticalScrollBar& mode
                      .style = WS_TABSTOP | SBS_VERT,
                      .box = context.font.Pixels(model.GetPlace())}),
       bar_(model) {
-  ValueChanged();
+  RangeChanged();
 }
 
 void ScrollBarPeer::OnScroll(UINT code) {
@@ -78,16 +78,26 @@ void ScrollBarPeer::DragToThumb() {
 void ScrollBarPeer::ValueChanged() {
   SCROLLINFO info{};
   info.cbSize = sizeof(info);
-  info.fMask = SIF_RANGE | SIF_POS;
-  info.nMax = Distance(bar_.Minimum(), bar_.Maximum());
+  info.fMask = SIF_POS;
   info.nPos = Distance(bar_.Minimum(), bar_.Value());
   SetScrollInfo(Window(), SB_CTL, &info, TRUE);
+}
+
+void ScrollBarPeer::RangeChanged() {
+  SCROLLINFO info{};
+  info.cbSize = sizeof(info);
+  info.fMask = SIF_RANGE;
+  info.nMax = Distance(bar_.Minimum(), bar_.Maximum());
+  SetScrollInfo(Window(), SB_CTL, &info, TRUE);
+  // A range gives the arrows the look of ones that can be pressed.
+  if (IsWindowEnabled(Window()) == 0) EnableScrollBar(Window(), SB_CTL, ESB_DISABLE_BOTH);
+  ValueChanged();
 }
 
 SliderPeer::SliderPeer(const PeerContext& context, Slider& model, HWND parent, int number)
     : NativeControl(context, model, parent, number,
                     {.window_class = TRACKBAR_CLASSA,
-                     .style = WS_TABSTOP | TBS_HORZ | TBS_AUTOTICKS,
+                     .style = WS_TABSTOP | TBS_HORZ,
                      .box = context.font.Pixels(model.GetPlace())}),
       slider_(model) {
   RangeChanged();
@@ -103,12 +113,21 @@ void SliderPeer::ValueChanged() {
 }
 
 void SliderPeer::RangeChanged() {
-  Send(TBM_SETTICFREQ, static_cast<WPARAM>(TickDistance(slider_.Range())));
   Send(TBM_SETRANGEMIN, FALSE, slider_.Minimum());
   Send(TBM_SETRANGEMAX, TRUE, slider_.Maximum());
   Send(TBM_SETLINESIZE, 0, slider_.Range().small_change);
   Send(TBM_SETPAGESIZE, 0, slider_.Range().large_change);
+  SetMarks();
   ValueChanged();
+}
+
+/// One by one, since the system counts the distance of its own marks in 16 bits. Both ends have one anyway.
+void SliderPeer::SetMarks() {
+  const std::int64_t distance = MarkDistance(slider_.Range());
+  Send(TBM_CLEARTICS, TRUE);
+  for (std::int64_t mark = slider_.Minimum() + distance; mark < slider_.Maximum(); mark += distance) {
+    Send(TBM_SETTIC, 0, static_cast<LPARAM>(mark));
+  }
 }
 
 }  // namespace qdix::ui::win32

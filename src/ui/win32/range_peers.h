@@ -14,7 +14,7 @@ class ScrollBarPeer final : public NativeControl {
 
  private:
   void ValueChanged() override;
-  void RangeChanged() override { ValueChanged(); }
+  void RangeChanged() override;
   void CaptionChanged() override {}
   void DragToThumb();
 
@@ -30,6 +30,7 @@ class SliderPeer final : public NativeControl {
   void ValueChanged() override;
   void RangeChanged() override;
   void CaptionChanged() override {}
+  void SetMarks();
 
   Slider& slider_;
 };

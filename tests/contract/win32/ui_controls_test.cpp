@@ -344,6 +344,16 @@ TEST_F(UiControls, SliderFollowsBothWaysBeyond16Bits) {
   EXPECT_EQ(demo.Send(demo.slider, TBM_GETPOS), 150000);
 }
 
+// Marks at both ends and at nine places between them, also where the distance needs more than 16 bits.
+TEST_F(UiControls, SliderOfALongRangeHasElevenMarks) {
+  OpenPage(1);
+  demo.slider.SetMaximum(1001000);
+  EXPECT_EQ(demo.Send(demo.slider, TBM_GETNUMTICS), 11);
+  EXPECT_EQ(demo.Send(demo.slider, TBM_GETTIC), 101000);
+  demo.slider.SetMaximum(1003);
+  EXPECT_EQ(demo.Send(demo.slider, TBM_GETNUMTICS), 4);
+}
+
 TEST_F(UiControls, SliderOfStepsHasAMarkAtEachAndEndsOnOne) {
   OpenPage(1);
   EXPECT_EQ(demo.Send(demo.stepped, TBM_GETNUMTICS), 8);
