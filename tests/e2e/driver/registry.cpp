@@ -1,6 +1,5 @@
 #include "tests/e2e/driver/registry.h"
 
-#include <algorithm>
 #include <array>
 
 namespace qdix::e2e {
@@ -15,35 +14,12 @@ constexpr std::size_t kLongestText = 4096;
 
 }  // namespace
 
-ProgramRegistry::Key ProgramRegistry::Read(const KeyPath& path) {
-  Key key;
-  HKEY handle = nullptr;
-  if (RegOpenKeyExA(path.root, path.path, 0, KEY_QUERY_VALUE, &handle) != ERROR_SUCCESS) return key;
-  key.exists = true;
-  for (DWORD index = 0;; ++index) {
-    std::array<char, kLongestText> name{};
-    std::array<char, kLongestText> bytes{};
-    DWORD name_length = name.size();
-    DWORD size = bytes.size();
-    DWORD type = 0;
-    if (RegEnumValueA(handle, index, name.data(), &name_length, nullptr, &type,
-                      reinterpret_cast<BYTE*>(bytes.data()), &size) != ERROR_SUCCESS) {
-      break;
-    }
-    key.values.push_back({name.data(), type, std::string(bytes.data(), size)});
-  }
-  RegCloseKey(handle);
-  std::sort(key.values.begin(), key.values.end(),
-            [](const Value& left, const Value& right) { return left.name < right.name; });
-  return key;
-}
-
 ProgramRegistry::ProgramRegistry() : run_value_(RegistryText(kRunKey, kRunValue)) {
-  for (const KeyPath& path : OwnKeys()) keys_.push_back(Read(path));
+  for (const KeyPath& path : OwnKeys()) keys_.emplace_back(path);
 }
 
 void ProgramRegistry::Clear() {
-  for (const KeyPath& path : OwnKeys()) RegDeleteKeyA(path.root, path.path);
+  for (const KeyPath& path : OwnKeys()) DeleteTree(path);
   HKEY run = nullptr;
   if (RegOpenKeyExA(kRunKey.root, kRunKey.path, 0, KEY_SET_VALUE, &run) != ERROR_SUCCESS) return;
   RegDeleteValueA(run, kRunValue);
@@ -52,19 +28,7 @@ void ProgramRegistry::Clear() {
 
 void ProgramRegistry::PutBack() const {
   Clear();
-  const auto paths = OwnKeys();
-  for (std::size_t index = 0; index < paths.size(); ++index) {
-    if (!keys_[index].exists) continue;
-    HKEY handle = nullptr;
-    RegCreateKeyExA(paths[index].root, paths[index].path, 0, nullptr, 0, KEY_SET_VALUE, nullptr, &handle,
-                    nullptr);
-    for (const Value& value : keys_[index].values) {
-      RegSetValueExA(handle, value.name.c_str(), 0, value.type,
-                     reinterpret_cast<const BYTE*>(value.bytes.data()),
-                     static_cast<DWORD>(value.bytes.size()));
-    }
-    RegCloseKey(handle);
-  }
+  for (const RegistryTree& key : keys_) key.PutBack();
   if (run_value_.has_value()) SetRegistryText(kRunKey, kRunValue, *run_value_);
 }
 

@@ -1,21 +1,14 @@
 // The keys of the registry that the program writes to: read, set, taken away and put back.
 #pragma once
 
-// clang-format off
-#include <windows.h>
-// clang-format on
-
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
-namespace qdix::e2e {
+#include "tests/e2e/driver/registry_tree.h"
 
-struct KeyPath {
-  HKEY root;
-  const char* path;
-};
+namespace qdix::e2e {
 
 inline const KeyPath kSettings{HKEY_CURRENT_USER, "Software\\VB and VBA Program Settings\\QDIX\\Settings"};
 inline const KeyPath kStartup{HKEY_CURRENT_USER, "Software\\VB and VBA Program Settings\\QDIX\\Startup"};
@@ -45,20 +38,7 @@ class ProgramRegistry {
   bool operator==(const ProgramRegistry&) const = default;
 
  private:
-  struct Value {
-    std::string name;
-    DWORD type;
-    std::string bytes;
-    bool operator==(const Value&) const = default;
-  };
-  struct Key {
-    bool exists = false;
-    std::vector<Value> values;
-    bool operator==(const Key&) const = default;
-  };
-  static Key Read(const KeyPath& path);
-
-  std::vector<Key> keys_;
+  std::vector<RegistryTree> keys_;
   std::optional<std::string> run_value_;
 };
 
