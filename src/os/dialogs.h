@@ -10,6 +10,8 @@ inline constexpr std::uint32_t kMbOk = 0x0000U;
 inline constexpr std::uint32_t kMbOkCancel = 0x0001U;
 inline constexpr std::uint32_t kMbYesNo = 0x0004U;
 inline constexpr std::uint32_t kMbIconStop = 0x0010U;
+inline constexpr std::uint32_t kMbIconQuestion = 0x0020U;
+inline constexpr std::uint32_t kMbIconExclamation = 0x0030U;
 inline constexpr std::uint32_t kMbIconInformation = 0x0040U;
 inline constexpr std::uint32_t kMbDefaultButton2 = 0x0100U;
 

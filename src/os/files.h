@@ -5,6 +5,10 @@
 
 namespace qdix::os {
 
+/// There is nothing of that name, or nothing is known of it.
+inline constexpr std::uint32_t kInvalidFileAttributes = 0xFFFFFFFFU;
+inline constexpr std::uint32_t kFileAttributeDirectory = 0x10U;
+
 class Files {
  public:
   virtual ~Files() = default;
@@ -15,6 +19,9 @@ class Files {
 
   /// Copies a file over an earlier one. False when that failed; the target is as it was or gone.
   virtual bool CopyFileA(const char* from, const char* to) = 0;
+
+  /// The attribute bits of a file or folder, or kInvalidFileAttributes.
+  [[nodiscard]] virtual std::uint32_t GetFileAttributesA(const char* path) = 0;
 };
 
 }  // namespace qdix::os

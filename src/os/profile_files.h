@@ -19,7 +19,9 @@ class ProfileFiles {
                                                                const char* file) = 0;
 
   /// Writes an entry, making file and section where they are missing; a null value removes the entry. False
-  /// when the system refuses.
+  /// when the system refuses. With null for section, key and value at once it writes out what the system
+  /// keeps of the file in memory and forgets it, and is always false. A file that was read or written must be
+  /// flushed like this before anything but these calls changes it.
   virtual bool WritePrivateProfileStringA(const char* section, const char* key, const char* value,
                                           const char* file) = 0;
 };

@@ -68,7 +68,22 @@ TEST_F(ProfileFilesContract, RemovingWhatIsNotThereIsNoFailure) {
   EXPECT_EQ(Read("vcache", "Size"), "1:0");
 }
 
-class FilesContract : public ContractTest {};
+TEST_F(ProfileFilesContract, FlushIsAlwaysFalseAndKeepsWhatWasWritten) {
+  EXPECT_TRUE(Write("vcache", "Size", "4096"));
+  EXPECT_FALSE(Write(nullptr, nullptr, nullptr));
+  EXPECT_EQ(Read("vcache", "Size"), "4:4096");
+  EXPECT_FALSE(Write(nullptr, nullptr, nullptr)) << "nothing to write out";
+}
+
+class FilesContract : public ContractTest {
+ protected:
+  /// With a backslash at its end.
+  std::string WindowsFolder() {
+    std::array<char, 255> buffer{};
+    EXPECT_GT(system.files.GetWindowsDirectoryA(buffer.data(), buffer.size()), 0U);
+    return std::string(buffer.data()) + "\\";
+  }
+};
 
 TEST_F(FilesContract, WindowsDirectoryIsAFullPathWithoutASeparatorAtItsEnd) {
   std::array<char, 255> buffer{};
@@ -81,9 +96,7 @@ TEST_F(FilesContract, WindowsDirectoryIsAFullPathWithoutASeparatorAtItsEnd) {
 }
 
 TEST_F(FilesContract, CopyReplacesAnEarlierFileAndFailsWithoutASource) {
-  std::array<char, 255> buffer{};
-  ASSERT_GT(system.files.GetWindowsDirectoryA(buffer.data(), buffer.size()), 0U);
-  const std::string folder = std::string(buffer.data()) + "\\";
+  const std::string folder = WindowsFolder();
   ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "1", kFile));
   const std::string copy = folder + "qdixcopy.ini";
   EXPECT_TRUE(system.files.CopyFileA((folder + kFile).c_str(), copy.c_str()));
@@ -95,6 +108,37 @@ TEST_F(FilesContract, CopyReplacesAnEarlierFileAndFailsWithoutASource) {
       1U);
   EXPECT_EQ(std::string(value.data()), "2");
   EXPECT_FALSE(system.files.CopyFileA((folder + "no such.ini").c_str(), copy.c_str()));
+  EXPECT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", nullptr, kFile));
+}
+
+TEST_F(FilesContract, FlushedProfileFileCanBeReplacedAndIsReadAnew) {
+  const std::string file = WindowsFolder() + kFile;
+  const std::string copy = WindowsFolder() + "qdixcopy.ini";
+  ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "1", kFile));
+  system.profile_files.WritePrivateProfileStringA(nullptr, nullptr, nullptr, kFile);
+  ASSERT_TRUE(system.files.CopyFileA(file.c_str(), copy.c_str()));
+  ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "2", kFile));
+  system.profile_files.WritePrivateProfileStringA(nullptr, nullptr, nullptr, kFile);
+  ASSERT_TRUE(system.files.CopyFileA(copy.c_str(), file.c_str()));
+  std::array<char, 16> value{};
+  EXPECT_EQ(system.profile_files.GetPrivateProfileStringA("s", "k", "", value.data(), value.size(), kFile),
+            1U);
+  EXPECT_EQ(std::string(value.data()), "1");
+  EXPECT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", nullptr, kFile));
+}
+
+TEST_F(FilesContract, AttributesTellAFileAFolderAndNothing) {
+  const std::string folder = WindowsFolder();
+  ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "1", kFile));
+  system.profile_files.WritePrivateProfileStringA(nullptr, nullptr, nullptr, kFile);
+  const std::uint32_t file = system.files.GetFileAttributesA((folder + kFile).c_str());
+  EXPECT_NE(file, os::kInvalidFileAttributes);
+  EXPECT_EQ(file & os::kFileAttributeDirectory, 0U);
+  const std::string bare_folder = folder.substr(0, folder.size() - 1);
+  const std::uint32_t attributes = system.files.GetFileAttributesA(bare_folder.c_str());
+  ASSERT_NE(attributes, os::kInvalidFileAttributes);
+  EXPECT_NE(attributes & os::kFileAttributeDirectory, 0U);
+  EXPECT_EQ(system.files.GetFileAttributesA((folder + "no such.ini").c_str()), os::kInvalidFileAttributes);
   EXPECT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", nullptr, kFile));
 }
 

@@ -10,6 +10,9 @@ namespace qdix::os::simulated {
 
 namespace {
 
+constexpr std::uint32_t kReadOnly = 0x01;
+constexpr std::uint32_t kArchive = 0x20;
+
 using Lines = std::vector<std::string>;
 
 /// Copies as much as fits and its NUL; returns the characters copied.
@@ -144,10 +147,20 @@ std::uint32_t SimulatedFiles::GetWindowsDirectoryA(char* buffer, std::uint32_t s
 
 bool SimulatedFiles::CopyFileA(const char* from, const char* to) {
   if (log_.RecordAndFail("CopyFileA", std::string(from) + ", " + to)) return false;
+  if (kept_.contains(UpperPath(to))) {
+    log_.Misuse(std::string("CopyFileA over a profile file that is kept in memory: ") + to);
+  }
   const auto content = Read(from);
   if (!content || read_only_.contains(UpperPath(to))) return false;
   Write(to, *content);
   return true;
+}
+
+std::uint32_t SimulatedFiles::GetFileAttributesA(const char* path) {
+  if (log_.RecordAndFail("GetFileAttributesA", path)) return kInvalidFileAttributes;
+  if (UpperPath(path) == UpperPath(windows_directory_)) return kFileAttributeDirectory;
+  if (!Read(path)) return kInvalidFileAttributes;
+  return read_only_.contains(UpperPath(path)) ? kReadOnly : kArchive;
 }
 
 std::uint32_t SimulatedFiles::GetPrivateProfileStringA(const char* section, const char* key,
@@ -155,6 +168,7 @@ std::uint32_t SimulatedFiles::GetPrivateProfileStringA(const char* section, cons
                                                        std::uint32_t size_bytes, const char* file) {
   const bool fails =
       log_.RecordAndFail("GetPrivateProfileStringA", std::string(file) + " [" + section + "] " + key);
+  kept_.insert(ProfilePath(file));
   const auto content = Read(ProfilePath(file));
   if (fails || !content) return Copy(missing, buffer, size_bytes);
   const Lines lines = LinesOf(*content);
@@ -163,14 +177,24 @@ std::uint32_t SimulatedFiles::GetPrivateProfileStringA(const char* section, cons
   return Copy(entry ? ValueOf(lines[*entry]) : std::string_view(missing), buffer, size_bytes);
 }
 
+void SimulatedFiles::Flush(const std::string& file) {
+  log_.Record("WritePrivateProfileStringA", file + " flushed");
+  kept_.erase(ProfilePath(file));
+}
+
 bool SimulatedFiles::WritePrivateProfileStringA(const char* section, const char* key, const char* value,
                                                 const char* file) {
+  if (section == nullptr && key == nullptr && value == nullptr) {
+    Flush(file);
+    return false;
+  }
   const std::string text = value == nullptr ? "removed" : value;
   if (log_.RecordAndFail("WritePrivateProfileStringA",
                          std::string(file) + " [" + section + "] " + key + " " + text)) {
     return false;
   }
   const std::string path = ProfilePath(file);
+  kept_.insert(path);
   if (read_only_.contains(path)) return false;
   Lines lines = LinesOf(Read(path).value_or(""));
   if (value == nullptr) {

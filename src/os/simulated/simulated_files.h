@@ -18,6 +18,7 @@ class SimulatedFiles final : public Files, public ProfileFiles {
 
   std::uint32_t GetWindowsDirectoryA(char* buffer, std::uint32_t size_bytes) override;
   bool CopyFileA(const char* from, const char* to) override;
+  std::uint32_t GetFileAttributesA(const char* path) override;
   std::uint32_t GetPrivateProfileStringA(const char* section, const char* key, const char* missing,
                                          char* buffer, std::uint32_t size_bytes, const char* file) override;
   bool WritePrivateProfileStringA(const char* section, const char* key, const char* value,
@@ -33,11 +34,14 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   static std::string UpperPath(const std::string& path);
   /// A bare name is one in the Windows directory.
   [[nodiscard]] std::string ProfilePath(const std::string& file) const;
+  void Flush(const std::string& file);
 
   CallLog& log_;
   std::string windows_directory_ = "C:\\WINDOWS";
   std::map<std::string, std::string> files_;
   std::set<std::string> read_only_;
+  /// Profile files that the system keeps in memory.
+  std::set<std::string> kept_;
 };
 
 }  // namespace qdix::os::simulated

@@ -9,7 +9,8 @@ namespace {
 
 static_assert(kMbOk == MB_OK && kMbOkCancel == MB_OKCANCEL && kMbYesNo == MB_YESNO &&
               kMbDefaultButton2 == MB_DEFBUTTON2);
-static_assert(kMbIconStop == MB_ICONHAND && kMbIconInformation == MB_ICONASTERISK);
+static_assert(kMbIconStop == MB_ICONHAND && kMbIconQuestion == MB_ICONQUESTION &&
+              kMbIconExclamation == MB_ICONEXCLAMATION && kMbIconInformation == MB_ICONASTERISK);
 static_assert(kIdOk == IDOK && kIdCancel == IDCANCEL && kIdYes == IDYES && kIdNo == IDNO);
 
 constexpr std::string_view kDialogClass = "#32770";

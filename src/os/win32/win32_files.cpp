@@ -10,4 +10,6 @@ std::uint32_t Win32Files::GetWindowsDirectoryA(char* buffer, std::uint32_t size_
 
 bool Win32Files::CopyFileA(const char* from, const char* to) { return ::CopyFileA(from, to, FALSE) != 0; }
 
+std::uint32_t Win32Files::GetFileAttributesA(const char* path) { return ::GetFileAttributesA(path); }
+
 }  // namespace qdix::os::win32

@@ -2,29 +2,24 @@
 
 #include "base/numbers.h"
 #include "tuning/cache/file_system_template.h"
+#include "tuning/cache/record_names.h"
 
 namespace qdix::tuning {
 
-namespace {
-
 using shell::kMachineKey;
 
-constexpr const char* kMarker = "FirstSave";
-
-}  // namespace
-
 void FirstSave::CheckFirstSave() {
-  if (!registry_.ReadRegistryValue(os::kHkeyLocalMachine, kMachineKey, kMarker).empty()) return;
+  if (!registry_.ReadRegistryValue(os::kHkeyLocalMachine, kMachineKey, kRecordMarker).empty()) return;
   paths_.CreateRegistryKey(kMachineKey, os::kHkeyLocalMachine);
-  Record(kMarker, "1");
+  Record(kRecordMarker, "1");
   system_ini_.BackupSystemINI();
-  RecordCacheSize("OldMinCache", "MinFileCache");
-  RecordCacheSize("OldMaxCache", "MaxFileCache");
-  RecordCacheSize("OldChunk", "chunksize");
-  Record("OldFileCache", registry_.ReadRegistryValue(os::kHkeyLocalMachine, kTemplatesKey, kUnnamedValue));
-  RecordPagingEntry("OldPagingDrive", "PagingDrive");
-  RecordPagingEntry("OldMinPagingFileSize", "MinPagingFileSize");
-  RecordPagingEntry("OldMaxPagingFileSize", "MaxPagingFileSize");
+  RecordCacheSize(kRecordedMinCache, "MinFileCache");
+  RecordCacheSize(kRecordedMaxCache, "MaxFileCache");
+  RecordCacheSize(kRecordedChunk, "chunksize");
+  Record(kRecordedTemplate, registry_.ReadRegistryValue(os::kHkeyLocalMachine, kTemplatesKey, kUnnamedValue));
+  RecordPagingEntry(kRecordedPagingDrive, "PagingDrive");
+  RecordPagingEntry(kRecordedMinPagingFile, "MinPagingFileSize");
+  RecordPagingEntry(kRecordedMaxPagingFile, "MaxPagingFileSize");
 }
 
 void FirstSave::Record(const char* value_name, const std::string& text) {

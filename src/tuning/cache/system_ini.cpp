@@ -38,7 +38,7 @@ void SystemIni::DeleteIniValue(const char* section, const char* key, const char*
   profile_files_.WritePrivateProfileStringA(section, key, nullptr, file);
 }
 
-std::string SystemIni::WindowsFolder() {
+std::string SystemIni::WindowsFolder() const {
   std::array<char, kBufferBytes> buffer{};
   // A folder that does not fit leaves the buffer empty, and the copy fails like any other.
   static_cast<void>(files_.GetWindowsDirectoryA(buffer.data(), kBufferBytes));
@@ -49,7 +49,7 @@ std::string SystemIni::WindowsFolder() {
 
 void SystemIni::BackupSystemINI() {
   const std::string source = WindowsFolder() + kSystemIni;
-  const std::string target = WindowsFolder() + "system.qdix";
+  const std::string target = WindowsFolder() + kSystemBackup;
   files_.CopyFileA(source.c_str(), target.c_str());
 }
 

@@ -10,6 +10,8 @@
 namespace qdix::tuning {
 
 inline constexpr const char* kSystemIni = "system.ini";
+/// Its copy from before the program's first change, beside it.
+inline constexpr const char* kSystemBackup = "system.qdix";
 inline constexpr const char* kVcacheSection = "vcache";
 inline constexpr const char* k386EnhSection = "386Enh";
 
@@ -42,10 +44,10 @@ class SystemIni {
   /// Copies system.ini to system.qdix beside it, over an earlier one. A failure is passed over.
   void BackupSystemINI();
 
- private:
   /// The Windows directory with a backslash at its end.
-  [[nodiscard]] std::string WindowsFolder();
+  [[nodiscard]] std::string WindowsFolder() const;
 
+ private:
   os::ProfileFiles& profile_files_;
   os::Files& files_;
 };

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace qdix::os {
 namespace {
 
@@ -367,6 +369,21 @@ TEST_F(SimulatedMachineTest, EveryOtherCallFailsAsTheSystemWould) {
   EXPECT_EQ(system.clock.LongDate(46347), "");
   EXPECT_FALSE(system.processes.MutexExistedBefore("Name"));
   EXPECT_EQ(system.processes.ModuleFileName(), "");
+}
+
+TEST_F(SimulatedMachineTest, CopyOverAProfileFileThatIsKeptInMemoryIsMisuse) {
+  machine.WriteFile("C:\\WINDOWS\\a.ini", "[s]\r\nk=1\r\n");
+  machine.WriteFile("C:\\WINDOWS\\b.ini", "");
+  ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "2", "A.INI"));
+  system.profile_files.WritePrivateProfileStringA(nullptr, nullptr, nullptr, "a.ini");
+  EXPECT_TRUE(system.files.CopyFileA("C:\\WINDOWS\\b.ini", "C:\\WINDOWS\\a.ini"));
+  EXPECT_TRUE(machine.Misuses().empty());
+  std::array<char, 8> value{};
+  EXPECT_EQ(system.profile_files.GetPrivateProfileStringA("s", "k", "", value.data(), value.size(), "a.ini"),
+            0U);
+  EXPECT_TRUE(system.files.CopyFileA("C:\\WINDOWS\\b.ini", "C:\\windows\\a.ini"));
+  EXPECT_EQ(machine.Misuses().size(), 1U);
+  machine.ForgetMisuses();
 }
 
 }  // namespace
