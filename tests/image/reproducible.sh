@@ -1,16 +1,19 @@
 #!/usr/bin/env bash
-# Builds the program once more from a copy of the sources in another folder and compares the bytes:   reproducible.sh SOURCE_DIR BUILT_EXE
+# Builds programs once more from a copy of the sources in another folder and compares the bytes:   reproducible.sh SOURCE_DIR BUILT_EXE...
 set -euo pipefail
 
 source_dir=$1
-built=$2
+shift
 copy=$(mktemp -d)
 trap 'rm -rf "$copy"' EXIT
-cp -r "$source_dir"/{CMakeLists.txt,CMakePresets.json,cmake,src,tools,tests} "$copy"
+cp -r "$source_dir"/{CMakeLists.txt,CMakePresets.json,cmake,companions,src,tools,tests} "$copy"
 cd "$copy"
 # A cache of compiler results would compare the first build with itself.
 export CCACHE_DISABLE=1
 cmake --preset win9x >/dev/null
-cmake --build --preset win9x --target QDIX >/dev/null
-cmp "$built" build/win9x/QDIX.exe
-echo "two builds, the same $(stat -c %s "$built") bytes"
+for built in "$@"; do
+  name=$(basename "$built")
+  cmake --build --preset win9x --target "${name%.exe}" >/dev/null
+  cmp "$built" "build/win9x/$name"
+  echo "$name: two builds, the same $(stat -c %s "$built") bytes"
+done

@@ -8,8 +8,8 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools" / "
 from include_direction import violations_of  # noqa: E402
 
 
-def violations(path, text):
-    return list(violations_of(pathlib.PurePosixPath(path), text))
+def violations(path, text, folder="src"):
+    return list(violations_of(pathlib.PurePosixPath(path), text, folder))
 
 
 class IncludeDirection(unittest.TestCase):
@@ -37,6 +37,27 @@ class IncludeDirection(unittest.TestCase):
 
     def test_unknown_folder_is_found(self):
         self.assertEqual(len(violations("misc/a.cpp", "")), 1)
+
+
+class Companions(unittest.TestCase):
+    def test_layers_below_and_its_own_folder_pass(self):
+        text = '#include "undo/settings.h"\n#include "tuning/restart.h"\n#include "os/system.h"\n'
+        self.assertEqual(violations("undo/a.cpp", text, "companions"), [])
+
+    def test_main_program_in_a_companion_is_found(self):
+        self.assertEqual(len(violations("undo/a.cpp", '#include "app/form1.h"\n', "companions")), 1)
+
+    def test_companion_in_the_main_program_is_found(self):
+        self.assertEqual(len(violations("app/form1.cpp", '#include "undo/settings.h"\n')), 1)
+
+    def test_only_its_win32_folder_knows_the_system(self):
+        self.assertEqual(len(violations("undo/a.cpp", "#include <windows.h>\n", "companions")), 1)
+        self.assertEqual(violations("undo/win32/main.cpp", '#include <windows.h>\n#include "runtime/entry.h"\n',
+                                    "companions"), [])
+
+    def test_folder_of_one_root_is_unknown_in_the_other(self):
+        self.assertEqual(len(violations("undo/a.cpp", "")), 1)
+        self.assertEqual(len(violations("app/a.cpp", "", "companions")), 1)
 
 
 if __name__ == "__main__":

@@ -46,6 +46,14 @@ class Digest(unittest.TestCase):
         self.write("b.h", "int Other();\n")
         self.assertNotEqual(self.digest(), self.before)
 
+    def test_header_of_a_companion(self):
+        folder = tidy.ROOT / "companions" / "undo"
+        folder.mkdir(parents=True)
+        self.write("b.h", '#include "undo/c.h"\n')
+        without = self.digest()
+        (folder / "c.h").write_text("int one;\n", encoding="utf-8")
+        self.assertNotEqual(self.digest(), without)
+
     def test_command_and_rules(self):
         self.assertNotEqual(self.digest(command="g++ -O2"), self.before)
         self.assertNotEqual(self.digest(rules=b"other"), self.before)
@@ -56,6 +64,13 @@ class SystemCode(unittest.TestCase):
         self.assertTrue(tidy.is_system_code(pathlib.PurePath("src/ui/win32/a.cpp")))
         self.assertTrue(tidy.is_system_code(pathlib.PurePath("src/runtime/a.cpp")))
         self.assertFalse(tidy.is_system_code(pathlib.PurePath("src/ui/a.cpp")))
+
+
+class Shipped(unittest.TestCase):
+    def test_programs_are_looked_at_and_tests_are_not(self):
+        self.assertTrue(tidy.is_shipped(pathlib.PurePath("src/ui/a.cpp")))
+        self.assertTrue(tidy.is_shipped(pathlib.PurePath("companions/undo/a.cpp")))
+        self.assertFalse(tidy.is_shipped(pathlib.PurePath("tests/unit/a.cpp")))
 
 
 if __name__ == "__main__":

@@ -21,6 +21,11 @@ LAYERS = {
     "app": {"base", "os", "ui", "controls", "screens", "shell", "memory", "cpu", "tuning"},
     "runtime": set(),
 }
+# The companion programs: nothing of each other and nothing of the main program's window.
+COMPANIONS = {
+    "undo": {"base", "os", "ui", "shell", "tuning"},
+}
+ROOTS = {"src": LAYERS, "companions": COMPANIONS}
 SYSTEM_HEADERS = {"windows.h", "commctrl.h", "shellapi.h", "shlobj.h", "commdlg.h", "windowsx.h", "objbase.h", "mmsystem.h"}
 PLATFORM_MACROS = re.compile(r"#\s*(?:if|ifdef|ifndef|elif)\b.*\b(_WIN32|WIN32|__MINGW32__|__linux__|_WIN32_WINNT|WINVER)\b")
 INCLUDE = re.compile(r'^\s*#\s*include\s+(["<])([^">]+)[">]', re.MULTILINE)
@@ -34,34 +39,37 @@ def knows_the_system(path):
     return "win32" in path.parts or path.parts[0] == "runtime"
 
 
-def violations_of(path, text):
-    """Violations of one file; `path` is relative to src/."""
+def violations_of(path, text, folder="src"):
+    """Violations of one file; `path` is relative to the folder that it lies in, src/ or companions/."""
+    layers = ROOTS[folder]
     layer = layer_of(path)
+    here = f"{folder}/{path}"
     for kind, included in INCLUDE.findall(text):
         if kind == "<":
             if included.lower() in SYSTEM_HEADERS and not knows_the_system(path):
-                yield f"src/{path} includes <{included}>, which only the win32 folders may"
+                yield f"{here} includes <{included}>, which only the win32 folders may"
             continue
         target = pathlib.PurePosixPath(included)
-        if layer_of(target) != layer and layer_of(target) not in LAYERS.get(layer, set()):
+        if layer_of(target) != layer and layer_of(target) not in layers.get(layer, set()):
             if not (layer_of(target) == "runtime" and path.name == "main.cpp"):
-                yield f"src/{path} includes \"{included}\", against the direction of the layers"
+                yield f"{here} includes \"{included}\", against the direction of the layers"
         if "win32" in target.parts and not knows_the_system(path):
-            yield f"src/{path} includes \"{included}\", which only the win32 folders may"
+            yield f"{here} includes \"{included}\", which only the win32 folders may"
         if "simulated" in target.parts and "simulated" not in path.parts:
-            yield f"src/{path} includes \"{included}\", which only tests may"
+            yield f"{here} includes \"{included}\", which only tests may"
     if not knows_the_system(path) and PLATFORM_MACROS.search(text):
-        yield f"src/{path} compiles by platform, which only the win32 folders may"
-    if layer not in LAYERS:
-        yield f"src/{path} is in a folder that no rule knows"
+        yield f"{here} compiles by platform, which only the win32 folders may"
+    if layer not in layers:
+        yield f"{here} is in a folder that no rule knows"
 
 
 def violations_in(root):
-    source = pathlib.Path(root) / "src"
-    for file in sorted(source.rglob("*")):
-        if file.suffix in {".h", ".cpp"}:
-            yield from violations_of(pathlib.PurePosixPath(file.relative_to(source).as_posix()),
-                                     file.read_text(encoding="utf-8"))
+    for folder in ROOTS:
+        source = pathlib.Path(root) / folder
+        for file in sorted(source.rglob("*")):
+            if file.suffix in {".h", ".cpp"}:
+                yield from violations_of(pathlib.PurePosixPath(file.relative_to(source).as_posix()),
+                                         file.read_text(encoding="utf-8"), folder)
 
 
 def main():

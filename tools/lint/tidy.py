@@ -15,6 +15,8 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
+# What ships. Includes name files below these folders.
+SHIPPED_FOLDERS = ("src", "companions")
 CLANG_TIDY = "clang-tidy"
 OWN_INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.MULTILINE)
 # Flags of the one compiler that the other does not know.
@@ -26,7 +28,11 @@ def is_system_code(path):
     return "win32" in path.parts or "runtime" in path.parts
 
 
-def included_files(file, source_dir):
+def is_shipped(path):
+    return path.parts[0] in SHIPPED_FOLDERS
+
+
+def included_files(file):
     """The file and all headers of ours that it reaches, sorted."""
     reached = set()
     waiting = [file]
@@ -36,7 +42,7 @@ def included_files(file, source_dir):
             continue
         reached.add(current)
         for name in OWN_INCLUDE.findall(current.read_text(encoding="utf-8")):
-            candidates = (source_dir / name, current.parent / name)
+            candidates = (*(ROOT / folder / name for folder in SHIPPED_FOLDERS), current.parent / name)
             waiting.extend(found for found in candidates if found.is_file())
     return sorted(reached)
 
@@ -52,7 +58,7 @@ def cross_arguments():
 def digest(file, command, common):
     content = hashlib.sha256(common)
     content.update(command.encode())
-    for part in included_files(file, ROOT / "src"):
+    for part in included_files(file):
         content.update(str(part.relative_to(ROOT)).encode() + b"\0" + part.read_bytes())
     return content.hexdigest()[:32]
 
@@ -85,7 +91,8 @@ def main():
     common = (ROOT / ".clang-tidy").read_bytes() + pathlib.Path(__file__).read_bytes()
     commands = {pathlib.Path(entry["file"]): entry["command"] for entry in entries}
     files = sorted(file for file in commands
-                   if file.suffix == ".cpp" and file.is_relative_to(ROOT / "src") and is_system_code(file.relative_to(ROOT)) == cross)
+                   if file.suffix == ".cpp" and file.is_relative_to(ROOT) and is_shipped(file.relative_to(ROOT))
+                   and is_system_code(file.relative_to(ROOT)) == cross)
     with concurrent.futures.ThreadPoolExecutor(max_workers=min(2, os.cpu_count() or 1)) as pool:
         results = list(pool.map(
             lambda file: check(file, stamps / digest(file, commands[file], common), arguments), files))

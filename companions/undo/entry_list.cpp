@@ -1,0 +1,117 @@
+#include "undo/entry_list.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+
+namespace qdix::undo {
+
+namespace {
+
+/// Characters of a text in a question.
+constexpr std::size_t kQuestionCharacters = 60;
+
+/// One line of the question.
+std::string Deed(const Entry& entry, const Before& before) {
+  std::string deed = NameOf(entry) + ": ";
+  deed += before.text.has_value() ? "put back " + Shown(before.text, kQuestionCharacters) : "remove";
+  if (before.known == Before::Known::kFromBackup) deed += ", as in system.qdix";
+  return deed;
+}
+
+}  // namespace
+
+EntryList::EntryList(const os::System& system, const ui::Application& application, UndoScreen& screen,
+                     Settings& settings, tuning::Restart& restart)
+    : system_(system), application_(application), screen_(screen), settings_(settings), restart_(restart) {
+  screen_.cmdPutBack.OnClick = ui::Handler::To<&EntryList::cmdPutBack_Click>(*this);
+  for (EntryRow* const row : screen_.Rows()) row->box.OnClick = ui::Handler::To<&EntryList::Box_Click>(*this);
+}
+
+void EntryList::Read() {
+  const bool has_record = settings_.HasRecord();
+  for (std::size_t row = 0; row < kEntries.size(); ++row) {
+    State& state = states_[row];
+    state.before = has_record ? settings_.ReadBefore(kEntries[row]) : Before{};
+    state.now = settings_.ReadNow(kEntries[row]);
+    state.differs = state.before.IsKnown() && !StandsAsBefore(kEntries[row], state.before, state.now);
+    ShowRow(row);
+  }
+  base::Ignore(Box_Click());
+}
+
+void EntryList::ShowRow(std::size_t row) {
+  EntryRow& shown = *screen_.Rows()[row];
+  const State& state = states_[row];
+  const bool is_from_backup = state.before.known == Before::Known::kFromBackup;
+  shown.before.SetCaption(ShownBefore(state.before, is_from_backup ? kBackupCharacters : kBeforeCharacters));
+  shown.now.SetCaption(Shown(state.now, kNowCharacters));
+  shown.box.SetEnabled(state.differs);
+  if (!state.differs) shown.box.SetTicked(false);
+}
+
+void EntryList::ChooseAll() {
+  for (std::size_t row = 0; row < kEntries.size(); ++row) {
+    screen_.Rows()[row]->box.SetTicked(states_[row].differs);
+  }
+}
+
+base::Status EntryList::Box_Click() {
+  const Choice chosen = Chosen();
+  screen_.cmdPutBack.SetEnabled(std::find(chosen.begin(), chosen.end(), true) != chosen.end());
+  return base::kDone;
+}
+
+EntryList::Choice EntryList::Chosen() {
+  Choice chosen{};
+  for (std::size_t row = 0; row < kEntries.size(); ++row) chosen[row] = screen_.Rows()[row]->box.Ticked();
+  return chosen;
+}
+
+/// Another program may have changed the settings since they were read, so the question is about what is there
+/// now.
+base::Status EntryList::cmdPutBack_Click() {
+  Read();
+  const Choice chosen = Chosen();
+  if (!screen_.cmdPutBack.Enabled()) return base::kDone;
+  const int answer = system_.dialogs.MessageBoxA(Question(chosen), application_.Title(),
+                                                 os::kMbYesNo | os::kMbIconQuestion | os::kMbDefaultButton2);
+  if (answer != os::kIdYes || screen_.Window.Unloaded()) return base::kDone;
+  const States earlier = states_;
+  PutBack(chosen);
+  Read();
+  NameFailures(chosen);
+  const bool is_changed = !std::equal(states_.begin(), states_.end(), earlier.begin(),
+                                      [](const State& a, const State& b) { return a.now == b.now; });
+  if (is_changed && !screen_.Window.Unloaded()) restart_.Offer();
+  return base::kDone;
+}
+
+std::string EntryList::Question(const Choice& chosen) const {
+  std::string question = "The following will be done:\r\n\r\n";
+  for (std::size_t row = 0; row < kEntries.size(); ++row) {
+    if (chosen[row]) question += Deed(kEntries[row], states_[row].before) + std::string(base::kLineBreak);
+  }
+  return question + "\r\nDo you want to put these settings back?";
+}
+
+void EntryList::PutBack(const Choice& chosen) {
+  for (std::size_t row = 0; row < kEntries.size(); ++row) {
+    if (chosen[row]) settings_.PutBack(kEntries[row], states_[row].before);
+  }
+}
+
+/// What was not written, or was changed again at once, differs still.
+void EntryList::NameFailures(const Choice& chosen) {
+  std::string names;
+  for (std::size_t row = 0; row < kEntries.size(); ++row) {
+    if (chosen[row] && states_[row].differs) names += NameOf(kEntries[row]) + std::string(base::kLineBreak);
+  }
+  if (names.empty()) return;
+  system_.dialogs.MessageBoxA(
+      "These settings could not be put back:\r\n\r\n" + names +
+          "\r\nPlease make sure that system.ini is not write-protected, and try again.",
+      application_.Title(), os::kMbOk | os::kMbIconExclamation);
+}
+
+}  // namespace qdix::undo

@@ -1,0 +1,54 @@
+// The rows of the window: what each entry was and is, which of them are chosen, and their putting back.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "os/system.h"
+#include "tuning/restart.h"
+#include "ui/application.h"
+#include "undo/settings.h"
+#include "undo/undo_screen.h"
+
+namespace qdix::undo {
+
+class EntryList {
+ public:
+  EntryList(const os::System& system, const ui::Application& application, UndoScreen& screen,
+            Settings& settings, tuning::Restart& restart);
+
+  /// Reads everything anew and shows it. A row that stands as before, or that nothing is known of, cannot be
+  /// chosen.
+  void Read();
+  /// Ticks every row that can be chosen.
+  void ChooseAll();
+
+  /// "Put Back".
+  base::Status cmdPutBack_Click();
+  /// A box was ticked or cleared.
+  base::Status Box_Click();
+
+ private:
+  struct State {
+    Before before;
+    std::optional<std::string> now;
+    bool differs = false;
+  };
+  using States = std::array<State, kEntries.size()>;
+  using Choice = std::array<bool, kEntries.size()>;
+
+  void ShowRow(std::size_t row);
+  [[nodiscard]] Choice Chosen();
+  [[nodiscard]] std::string Question(const Choice& chosen) const;
+  void PutBack(const Choice& chosen);
+  void NameFailures(const Choice& chosen);
+
+  const os::System& system_;
+  const ui::Application& application_;
+  UndoScreen& screen_;
+  Settings& settings_;
+  tuning::Restart& restart_;
+  States states_;
+};
+
+}  // namespace qdix::undo

@@ -1,0 +1,49 @@
+// The program: owns the window, what works on it, and the start-up order.
+#pragma once
+
+#include "os/system.h"
+#include "tuning/restart.h"
+#include "ui/application.h"
+#include "undo/entry_list.h"
+#include "undo/settings.h"
+#include "undo/undo_screen.h"
+#include "undo/whole_file.h"
+
+namespace qdix::undo {
+
+class UndoForm {
+ public:
+  /// The system must outlive this object.
+  explicit UndoForm(const os::System& system);
+  UndoForm(const UndoForm&) = delete;
+  UndoForm& operator=(const UndoForm&) = delete;
+  ~UndoForm() = default;
+
+  /// Reads what was and what is, and shows the window.
+  void Start();
+
+  /// The Windows session ends: nothing more is asked or written, and the window unloads.
+  void EndSession();
+
+  [[nodiscard]] ui::Application& TheApplication() { return application_; }
+  [[nodiscard]] ui::Form& Window() { return screen_.Window; }
+  [[nodiscard]] UndoScreen& Screen() { return screen_; }
+
+  /// "Close".
+  base::Status cmdClose_Click();
+
+ private:
+  void Read();
+  void ReportUntrapped(const base::RuntimeError& error);
+
+  const os::System& system_;
+  ui::EventDispatcher events_;
+  ui::Application application_{"Q-DIX Undo"};
+  UndoScreen screen_{events_};
+  Settings settings_;
+  tuning::Restart restart_;
+  EntryList entry_list_;
+  WholeFile whole_file_;
+};
+
+}  // namespace qdix::undo

@@ -1,0 +1,131 @@
+// The window of the program. What a form designer shows; no behaviour.
+#pragma once
+
+#include <array>
+
+#include "ui/form.h"
+#include "ui/simple_controls.h"
+
+namespace qdix::undo {
+
+/// Columns of the rows, in dialog units.
+inline constexpr std::int16_t kNameLeft = 14;
+inline constexpr std::int16_t kBeforeLeft = 98;
+inline constexpr std::int16_t kNowLeft = 203;
+inline constexpr std::int16_t kNameWidth = 82;
+inline constexpr std::int16_t kBeforeWidth = 102;
+inline constexpr std::int16_t kNowWidth = 48;
+/// Characters that fit into the two columns of texts.
+inline constexpr std::size_t kBeforeCharacters = 24;
+inline constexpr std::size_t kBackupCharacters = 8;
+inline constexpr std::size_t kNowCharacters = 11;
+
+/// What tells one row from the others.
+struct RowDesign {
+  const char* box;
+  const char* before;
+  const char* now;
+  const char* caption;
+  char access_key;
+  const char* tool_tip;
+  std::int16_t top;
+};
+
+/// One entry: the box that chooses it, what it was before, what it is now.
+struct EntryRow {
+  EntryRow(ui::Container& on, const RowDesign& design)
+      : box(on, {.name = design.box,
+                 .caption = design.caption,
+                 .access_key = design.access_key,
+                 .tool_tip = design.tool_tip,
+                 .place = {kNameLeft, design.top, kNameWidth, 10},
+                 .enabled = false}),
+        before(on, {.name = design.before, .place = {kBeforeLeft, Line(design.top), kBeforeWidth, 8}}),
+        now(on, {.name = design.now, .place = {kNowLeft, Line(design.top), kNowWidth, 8}}) {}
+
+  /// A text beside a box stands one unit lower, so that both have one line.
+  static constexpr std::int16_t Line(std::int16_t top) { return static_cast<std::int16_t>(top + 1); }
+
+  ui::CheckBox box;
+  ui::Label before;
+  ui::Label now;
+};
+
+struct UndoScreen {
+  explicit UndoScreen(ui::EventDispatcher& dispatcher) : events(dispatcher) {}
+
+  ui::EventDispatcher& events;
+  ui::Form Window{events, {.name = "UndoWindow", .caption = "Q-DIX Undo", .place = {0, 0, 263, 240}}};
+
+  ui::Label lblState{Window, {.name = "lblState", .place = {7, 7, 249, 16}}};
+
+  ui::Label lblEntry{Window, {.name = "lblEntry", .caption = "Setting", .place = {kNameLeft, 29, 80, 8}}};
+  ui::Label lblBefore{
+      Window, {.name = "lblBefore", .caption = "Before", .place = {kBeforeLeft, 29, kBeforeWidth, 8}}};
+  ui::Label lblNow{Window, {.name = "lblNow", .caption = "Now", .place = {kNowLeft, 29, kNowWidth, 8}}};
+
+  ui::Frame FrameCache{
+      Window,
+      {.name = "FrameCache", .caption = "Disk Cache ([vcache] of system.ini)", .place = {7, 40, 249, 50}}};
+  EntryRow MinFileCache{FrameCache,
+                        {"chkMinFileCache", "lblMinFileCacheBefore", "lblMinFileCacheNow", "MinFileCache",
+                         'M', "Smallest size of the disk cache in KB", 51}};
+  EntryRow MaxFileCache{FrameCache,
+                        {"chkMaxFileCache", "lblMaxFileCacheBefore", "lblMaxFileCacheNow", "MaxFileCache",
+                         'x', "Largest size of the disk cache in KB", 63}};
+  EntryRow ChunkSize{FrameCache,
+                     {"chkChunkSize", "lblChunkSizeBefore", "lblChunkSizeNow", "ChunkSize", 'k',
+                      "KB that the disk cache reads at one time", 75}};
+
+  ui::Frame FrameTemplate{
+      Window, {.name = "FrameTemplate", .caption = "File System Template", .place = {7, 94, 249, 26}}};
+  EntryRow Template{FrameTemplate,
+                    {"chkTemplate", "lblTemplateBefore", "lblTemplateNow", "Template in force", 'T',
+                     "Kind of machine for which Windows keeps names of files and folders", 105}};
+
+  ui::Frame FrameSwapFile{
+      Window,
+      {.name = "FrameSwapFile", .caption = "Swap File ([386Enh] of system.ini)", .place = {7, 124, 249, 62}}};
+  EntryRow PagingDrive{FrameSwapFile,
+                       {"chkPagingDrive", "lblPagingDriveBefore", "lblPagingDriveNow", "PagingDrive", 'D',
+                        "Drive of the swap file", 135}};
+  EntryRow MinPagingFileSize{FrameSwapFile,
+                             {"chkMinPagingFileSize", "lblMinPagingFileSizeBefore", "lblMinPagingFileSizeNow",
+                              "MinPagingFileSize", 'n', "Smallest size of the swap file in KB", 147}};
+  EntryRow MaxPagingFileSize{FrameSwapFile,
+                             {"chkMaxPagingFileSize", "lblMaxPagingFileSizeBefore", "lblMaxPagingFileSizeNow",
+                              "MaxPagingFileSize", 'a', "Largest size of the swap file in KB", 159}};
+  EntryRow Paging{FrameSwapFile,
+                  {"chkPaging", "lblPagingBefore", "lblPagingNow", "Paging", 'g',
+                   "Whether Windows uses a swap file", 171}};
+
+  ui::Label lblBackup{Window, {.name = "lblBackup", .place = {7, 192, 249, 16}}};
+
+  ui::Button cmdPutBack{Window,
+                        {.name = "cmdPutBack",
+                         .caption = "Put Back",
+                         .access_key = 'P',
+                         .tool_tip = "Give the ticked settings their values from before, or remove them",
+                         .place = {63, 219, 56, 14},
+                         .enabled = false},
+                        ui::ButtonRole::kDefault};
+  ui::Button cmdRestore{Window,
+                        {.name = "cmdRestore",
+                         .caption = "Restore Whole File...",
+                         .access_key = 'R',
+                         .tool_tip = "Replace all of system.ini by system.qdix",
+                         .place = {123, 219, 80, 14},
+                         .enabled = false}};
+  ui::Button cmdClose{
+      Window,
+      {.name = "cmdClose", .caption = "Close", .access_key = 'C', .place = {207, 219, 49, 14}},
+      ui::ButtonRole::kCancel};
+
+  /// In the order of kEntries.
+  [[nodiscard]] std::array<EntryRow*, 8> Rows() {
+    return {&MinFileCache, &MaxFileCache,      &ChunkSize,         &Template,
+            &PagingDrive,  &MinPagingFileSize, &MaxPagingFileSize, &Paging};
+  }
+};
+
+}  // namespace qdix::undo

@@ -1,0 +1,119 @@
+// Every call of the system that can fail is failed once, and from then on, through a whole session.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/unit/undo/undo_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+/// A session that reaches every call: half of the entries put back, the whole file restored, a restart.
+void RunSession(UndoRig& rig) {
+  rig.Start();
+  rig.machine.AnswerNextBox(os::kIdYes);
+  rig.machine.AnswerNextBox(os::kIdNo);
+  rig.Screen().MinFileCache.box.Press();
+  rig.Screen().cmdPutBack.Press();
+  for (int box = 0; box < 4; ++box) rig.machine.AnswerNextBox(os::kIdYes);
+  rig.Screen().cmdRestore.Press();
+  rig.Screen().cmdClose.Press();
+}
+
+int CallsOfASession(int& calls_before) {
+  UndoRig rig;
+  rig.TakeRecordAndChange();
+  calls_before = rig.machine.FaultableCallCount();
+  RunSession(rig);
+  return rig.machine.FaultableCallCount();
+}
+
+bool IsKnown(const std::string& message) {
+  constexpr std::array<const char*, 5> kBeginnings{
+      "The following will be done:\r\n\r\n", "These settings could not be put back:\r\n\r\n",
+      "All of system.ini will be replaced", "system.ini could not be replaced.",
+      "You must restart your computer"};
+  return std::any_of(kBeginnings.begin(), kBeginnings.end(),
+                     [&message](const char* beginning) { return message.starts_with(beginning); });
+}
+
+/// Each line of the file as it stood before, after, or neither: nothing that a failed call could leave
+/// behind.
+void ExpectOldOrNew(const UndoRig& rig, int call) {
+  const std::string known = std::string(kIniBefore) + kIniAfter;
+  const std::string ini = rig.Ini();
+  for (std::size_t begin = 0; begin < ini.size();) {
+    const std::size_t end = ini.find("\r\n", begin);
+    ASSERT_NE(end, std::string::npos) << call;
+    std::string line = ini.substr(begin, end - begin + 2);
+    const bool is_known = known.find(line) != std::string::npos || line == "MinFileCache=2048\r\n";
+    EXPECT_TRUE(is_known) << call << ": " << line;
+    begin = end + 2;
+  }
+  EXPECT_NE(ini.find("shell=Explorer.exe"), std::string::npos) << call;
+  const auto name = rig.Template();
+  EXPECT_TRUE(name == "Desktop" || name == "Quondix") << call << ": " << name.value_or("none");
+}
+
+void ExpectSound(UndoRig& rig, int call) {
+  EXPECT_TRUE(rig.form->Window().Unloaded()) << call;
+  EXPECT_TRUE(rig.RecordIsUntouched()) << call;
+  EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << call;
+  EXPECT_TRUE(rig.machine.Misuses().empty()) << call;
+  for (const auto& box : rig.machine.Boxes()) EXPECT_TRUE(IsKnown(box.text)) << call << ": " << box.text;
+  ExpectOldOrNew(rig, call);
+}
+
+TEST(UndoFaults, EachCallFailedOnceLosesNothing) {
+  int first = 0;
+  const int calls = CallsOfASession(first);
+  ASSERT_GT(calls - first, 60);
+  for (int call = first + 1; call <= calls; ++call) {
+    UndoRig rig;
+    rig.TakeRecordAndChange();
+    rig.machine.FailCallNumber(call);
+    RunSession(rig);
+    ExpectSound(rig, call);
+  }
+}
+
+TEST(UndoFaults, EachCallFailedFromThenOnLosesNothing) {
+  int first = 0;
+  const int calls = CallsOfASession(first);
+  for (int call = first + 1; call <= calls; ++call) {
+    UndoRig rig;
+    rig.TakeRecordAndChange();
+    rig.machine.FailFromCallNumber(call);
+    RunSession(rig);
+    ExpectSound(rig, call);
+  }
+}
+
+/// Whatever fails once, what is written for an entry is what stood there before.
+TEST(UndoFaults, NoFailedReadingMakesAWrongDeed) {
+  int first = 0;
+  const int calls = CallsOfASession(first);
+  for (int call = first + 1; call <= calls; ++call) {
+    UndoRig rig;
+    rig.TakeRecordAndChange();
+    rig.machine.FailCallNumber(call);
+    rig.Start();
+    rig.machine.AnswerNextBox(os::kIdYes);
+    rig.machine.AnswerNextBox(os::kIdNo);
+    rig.Screen().cmdPutBack.Press();
+    const std::string ini = rig.Ini();
+    EXPECT_TRUE(ini.find("MinFileCache=2048\r\n") != std::string::npos ||
+                ini.find("MinFileCache=4096\r\n") != std::string::npos)
+        << call << ":\n"
+        << ini;
+    EXPECT_TRUE(ini.find("MinPagingFileSize=0\r\n") != std::string::npos ||
+                ini.find("MinPagingFileSize=65536\r\n") != std::string::npos)
+        << call << ":\n"
+        << ini;
+    EXPECT_TRUE(ini.find("PagingDrive=") != std::string::npos) << call << ":\n" << ini;
+    EXPECT_NE(rig.Template(), std::nullopt) << call;
+  }
+}
+
+}  // namespace
+}  // namespace qdix::tests

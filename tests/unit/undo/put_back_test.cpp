@@ -1,0 +1,238 @@
+// "Put Back": the question, what is written and what is not, what is said afterwards.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/unit/undo/undo_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* kRestartQuestion =
+    "You must restart your computer before the new settings take effect.\r\n\r\n"
+    "Do you want to restart your computer now?";
+
+class PutBack : public testing::Test {
+ protected:
+  void StartChanged() {
+    rig.TakeRecordAndChange();
+    rig.Start();
+    first_call = rig.machine.Calls().size();
+  }
+  void UntickAllBut(undo::EntryRow& kept) {
+    for (undo::EntryRow* const row : rig.Screen().Rows()) {
+      if (row != &kept) row->box.SetTicked(false);
+    }
+  }
+  void PressAndAnswer(int answer, int restart_answer = os::kIdNo) {
+    rig.machine.AnswerNextBox(answer);
+    rig.machine.AnswerNextBox(restart_answer);
+    rig.Screen().cmdPutBack.Press();
+  }
+  [[nodiscard]] std::string BoxText(std::size_t index) const {
+    return index < rig.machine.Boxes().size() ? rig.machine.Boxes()[index].text : "no such box";
+  }
+
+  UndoRig rig;
+  std::size_t first_call = 0;
+};
+
+TEST_F(PutBack, QuestionNamesEachDeedAndProposesNo) {
+  StartChanged();
+  rig.Screen().cmdPutBack.Press();
+  ASSERT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_EQ(BoxText(0),
+            "The following will be done:\r\n\r\n"
+            "[vcache] MinFileCache: put back 2048\r\n"
+            "[vcache] MaxFileCache: remove\r\n"
+            "[vcache] ChunkSize: remove\r\n"
+            "File system template: put back Desktop\r\n"
+            "[386Enh] PagingDrive: put back D:\r\n"
+            "[386Enh] MinPagingFileSize: put back 0, as in system.qdix\r\n"
+            "[386Enh] MaxPagingFileSize: remove, as in system.qdix\r\n"
+            "[386Enh] Paging: remove, as in system.qdix\r\n\r\n"
+            "Do you want to put these settings back?");
+  EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Undo");
+  EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbYesNo | os::kMbIconQuestion | os::kMbDefaultButton2);
+}
+
+TEST_F(PutBack, NoWritesNothing) {
+  StartChanged();
+  PressAndAnswer(os::kIdNo);
+  EXPECT_THAT(rig.Changes(first_call), IsEmpty());
+  EXPECT_EQ(rig.Ini(), kIniAfter);
+  EXPECT_EQ(rig.Template(), "Quondix");
+  EXPECT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_TRUE(rig.Screen().cmdPutBack.Enabled()) << "it can be asked again";
+}
+
+TEST_F(PutBack, YesPutsBackEverythingAndNothingElse) {
+  StartChanged();
+  PressAndAnswer(os::kIdYes);
+  EXPECT_EQ(rig.Ini(), kIniPutBack);
+  EXPECT_EQ(rig.Template(), "Desktop");
+  EXPECT_THAT(
+      rig.Changes(first_call),
+      ElementsAre("WritePrivateProfileStringA(system.ini [vcache] MinFileCache 2048)",
+                  "WritePrivateProfileStringA(system.ini [vcache] MaxFileCache removed)",
+                  "WritePrivateProfileStringA(system.ini [vcache] ChunkSize removed)",
+                  "RegSetValueExA(HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\FS Templates: )",
+                  "WritePrivateProfileStringA(system.ini [386Enh] PagingDrive D:)",
+                  "WritePrivateProfileStringA(system.ini [386Enh] MinPagingFileSize 0)",
+                  "WritePrivateProfileStringA(system.ini [386Enh] MaxPagingFileSize removed)",
+                  "WritePrivateProfileStringA(system.ini [386Enh] Paging removed)"));
+  EXPECT_TRUE(rig.RecordIsUntouched());
+}
+
+TEST_F(PutBack, NewStateIsShownAndTheRestartOffered) {
+  StartChanged();
+  PressAndAnswer(os::kIdYes);
+  EXPECT_EQ(rig.Screen().MinFileCache.now.Caption(), "2048");
+  EXPECT_EQ(rig.Screen().MaxFileCache.now.Caption(), "(none)");
+  EXPECT_EQ(rig.Screen().Template.now.Caption(), "Desktop");
+  for (const undo::EntryRow* const row : rig.Screen().Rows()) {
+    EXPECT_FALSE(row->box.Enabled()) << row->box.Caption();
+    EXPECT_FALSE(row->box.Ticked()) << row->box.Caption();
+  }
+  EXPECT_FALSE(rig.Screen().cmdPutBack.Enabled());
+  ASSERT_EQ(rig.machine.Boxes().size(), 2U);
+  EXPECT_EQ(BoxText(1), kRestartQuestion);
+  EXPECT_EQ(rig.machine.RestartCount(), 0);
+  EXPECT_FALSE(rig.form->Window().Unloaded());
+}
+
+TEST_F(PutBack, RestartIsAskedForOnceWhenTheUserAgrees) {
+  StartChanged();
+  PressAndAnswer(os::kIdYes, os::kIdYes);
+  EXPECT_EQ(rig.machine.RestartCount(), 1);
+  EXPECT_EQ(rig.machine.Calls().back(), "ExitWindowsEx(2, 0)");
+  EXPECT_TRUE(rig.form->Window().Unloaded());
+}
+
+TEST_F(PutBack, OnlyTickedEntriesAreAskedForAndWritten) {
+  StartChanged();
+  UntickAllBut(rig.Screen().PagingDrive);
+  PressAndAnswer(os::kIdYes);
+  EXPECT_EQ(BoxText(0),
+            "The following will be done:\r\n\r\n[386Enh] PagingDrive: put back D:\r\n\r\n"
+            "Do you want to put these settings back?");
+  std::string expected = kIniAfter;
+  expected.replace(expected.find("PagingDrive=C:"), 14, "PagingDrive=D:");
+  EXPECT_EQ(rig.Ini(), expected);
+  EXPECT_EQ(rig.Template(), "Quondix");
+  EXPECT_FALSE(rig.Screen().PagingDrive.box.Enabled());
+  EXPECT_TRUE(rig.Screen().MinFileCache.box.Enabled());
+  EXPECT_FALSE(rig.Screen().MinFileCache.box.Ticked()) << "what was left out stays left out";
+}
+
+TEST_F(PutBack, TemplateThatWasNotThereIsRemoved) {
+  UndoRig other(kIniBefore, "");
+  other.TakeRecord();
+  other.SetTemplate("Quondix");
+  other.Start();
+  EXPECT_EQ(other.Screen().Template.before.Caption(), "(none)");
+  other.machine.AnswerNextBox(os::kIdYes);
+  other.machine.AnswerNextBox(os::kIdNo);
+  other.Screen().cmdPutBack.Press();
+  EXPECT_EQ(other.machine.Boxes()[0].text,
+            "The following will be done:\r\n\r\nFile system template: remove\r\n\r\n"
+            "Do you want to put these settings back?");
+  EXPECT_EQ(other.Template(), std::nullopt);
+  EXPECT_EQ(other.Screen().Template.now.Caption(), "(none)");
+  EXPECT_EQ(other.Ini(), kIniBefore);
+}
+
+TEST_F(PutBack, WriteProtectedFileIsNamedEntryByEntry) {
+  StartChanged();
+  rig.machine.ProtectFile(kIniPath);
+  PressAndAnswer(os::kIdYes);
+  ASSERT_GE(rig.machine.Boxes().size(), 2U);
+  EXPECT_EQ(BoxText(1),
+            "These settings could not be put back:\r\n\r\n"
+            "[vcache] MinFileCache\r\n[vcache] MaxFileCache\r\n[vcache] ChunkSize\r\n"
+            "[386Enh] PagingDrive\r\n[386Enh] MinPagingFileSize\r\n[386Enh] MaxPagingFileSize\r\n"
+            "[386Enh] Paging\r\n\r\n"
+            "Please make sure that system.ini is not write-protected, and try again.");
+  EXPECT_EQ(rig.machine.Boxes()[1].flags, os::kMbOk | os::kMbIconExclamation);
+  EXPECT_EQ(rig.Ini(), kIniAfter);
+  EXPECT_EQ(rig.Template(), "Desktop");
+  EXPECT_EQ(BoxText(2), kRestartQuestion) << "the template was changed";
+  EXPECT_TRUE(rig.Screen().MinFileCache.box.Ticked()) << "ready for another try";
+}
+
+TEST_F(PutBack, NoRestartIsOfferedWhereNothingChanged) {
+  StartChanged();
+  rig.machine.ProtectFile(kIniPath);
+  UntickAllBut(rig.Screen().ChunkSize);
+  PressAndAnswer(os::kIdYes);
+  ASSERT_EQ(rig.machine.Boxes().size(), 2U);
+  EXPECT_TRUE(
+      BoxText(1).starts_with("These settings could not be put back:\r\n\r\n[vcache] ChunkSize\r\n\r\n"));
+}
+
+TEST_F(PutBack, ProtectedTemplateKeyIsNamed) {
+  StartChanged();
+  rig.machine.DenyWrites(os::kHkeyLocalMachine, tuning::kTemplatesKey);
+  UntickAllBut(rig.Screen().Template);
+  PressAndAnswer(os::kIdYes);
+  EXPECT_TRUE(BoxText(1).find("\r\n\r\nFile system template\r\n\r\n") != std::string::npos) << BoxText(1);
+  EXPECT_EQ(rig.Template(), "Quondix");
+}
+
+TEST_F(PutBack, SettingsAreReadAnewBeforeTheQuestion) {
+  StartChanged();
+  rig.machine.WriteFile(kIniPath, kIniBefore);
+  rig.SetTemplate("Other");
+  PressAndAnswer(os::kIdNo);
+  EXPECT_EQ(BoxText(0),
+            "The following will be done:\r\n\r\nFile system template: put back Desktop\r\n\r\n"
+            "Do you want to put these settings back?");
+}
+
+TEST_F(PutBack, NothingIsAskedWhereNothingIsLeftToPutBack) {
+  StartChanged();
+  rig.machine.WriteFile(kIniPath, kIniBefore);
+  rig.SetTemplate("Desktop");
+  rig.Screen().cmdPutBack.Press();
+  EXPECT_TRUE(rig.machine.Boxes().empty());
+  EXPECT_FALSE(rig.Screen().cmdPutBack.Enabled());
+}
+
+TEST_F(PutBack, SessionThatEndsInTheQuestionWritesNothing) {
+  StartChanged();
+  rig.machine.WhileBoxIsOpen([this] { rig.form->EndSession(); });
+  PressAndAnswer(os::kIdYes);
+  EXPECT_THAT(rig.Changes(first_call), IsEmpty());
+  EXPECT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_TRUE(rig.form->TheApplication().SessionIsEnding());
+}
+
+TEST_F(PutBack, WindowClosedWhileTheFailuresAreNamedOffersNoRestart) {
+  StartChanged();
+  rig.machine.ProtectFile(kIniPath);
+  rig.machine.WhileBoxIsOpen([this] {
+    if (rig.machine.Boxes().size() == 2) rig.form->Window().Unload();
+  });
+  PressAndAnswer(os::kIdYes);
+  EXPECT_EQ(rig.machine.Boxes().size(), 2U);
+  EXPECT_EQ(rig.Template(), "Desktop");
+}
+
+TEST_F(PutBack, LongTextsAreCutInTheQuestion) {
+  UndoRig other("[386Enh]\r\nPagingDrive=" + std::string(200, 'W') + "\r\n");
+  other.TakeRecord();
+  other.machine.WriteFile(kIniPath, "");
+  other.Start();
+  other.Screen().cmdPutBack.Press();
+  EXPECT_TRUE(other.machine.Boxes()[0].text.find("PagingDrive: put back " + std::string(57, 'W') +
+                                                 "...\r\n") != std::string::npos);
+  other.machine.AnswerNextBox(os::kIdYes);
+  other.machine.AnswerNextBox(os::kIdNo);
+  other.Screen().cmdPutBack.Press();
+  EXPECT_EQ(other.Ini(), "[386Enh]\r\nPagingDrive=" + std::string(200, 'W') + "\r\n");
+}
+
+}  // namespace
+}  // namespace qdix::tests
