@@ -47,7 +47,7 @@ TEST_F(StartSession, FirstStartStoresExactlyItsDefaults) {
             (RegistryTexts{{"TimeMinutes", "30"}, {"StartDisplay", "1"}, {"StartupTime", "60"}}));
   EXPECT_EQ(TextsOf(kMachineKey), (RegistryTexts{{"HasRun", "1"}}));
   EXPECT_EQ(TextsOf(kUserKey), RegistryTexts{}) << "the machine's own key could be written";
-  EXPECT_EQ(RegistryText(kRunKey, kRunValue), ProgramPath());
+  EXPECT_EQ(RegistryText(kRunKey, kRunValue), ProgramPath("QDIX.exe"));
   CloseProgram();
 }
 

@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "app/form1.h"
-#include "os/simulated/simulated_machine.h"
 #include "ui/control_numbers.h"
+#include "ui/tab_strip.h"
 
 namespace qdix::e2e {
 
@@ -24,11 +23,9 @@ struct Collector {
 
 }  // namespace
 
-ScreenMap::ScreenMap() {
-  os::SimulatedMachine machine;
-  app::Form1 program(machine.GetSystem());
+ScreenMap::ScreenMap(const ui::Container& window) {
   Collector collector{controls_};
-  ui::VisitControls(program.Window(), ui::ControlVisitor::To<&Collector::Visit>(collector));
+  ui::VisitControls(window, ui::ControlVisitor::To<&Collector::Visit>(collector));
 }
 
 const ControlAddress* ScreenMap::Find(const std::string& name) const {

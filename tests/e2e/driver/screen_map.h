@@ -1,9 +1,11 @@
-// Where the controls of the shipped program are: number and tab by name, taken from the same screens that the
+// Where the controls of a shipped program are: number and tab by name, taken from the same screens that the
 // program is made of.
 #pragma once
 
 #include <string>
 #include <vector>
+
+#include "ui/control.h"
 
 namespace qdix::e2e {
 
@@ -16,7 +18,7 @@ struct ControlAddress {
 
 class ScreenMap {
  public:
-  ScreenMap();
+  explicit ScreenMap(const ui::Container& window);
 
   /// In the order of the screens.
   [[nodiscard]] const std::vector<ControlAddress>& All() const { return controls_; }

@@ -42,14 +42,6 @@ LRESULT RowOf(HWND list, const std::string& text) {
 
 }  // namespace
 
-std::string ProgramPath() {
-  const char* const chosen = std::getenv("QDIX_PROGRAM");
-  std::string path = "Z:" + (chosen != nullptr ? std::string(chosen)
-                                               : std::string(QDIX_SOURCE_DIR) + "/build/win9x/QDIX.exe");
-  std::replace(path.begin(), path.end(), '/', '\\');
-  return path;
-}
-
 ShippedProgram::~ShippedProgram() {
   Kill();
   if (process_ != nullptr) CloseHandle(process_);
@@ -59,7 +51,7 @@ bool ShippedProgram::Start() {
   STARTUPINFOA startup = {};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION started = {};
-  std::string command_line = "\"" + ProgramPath() + "\"";
+  std::string command_line = "\"" + ProgramPath(facts_.file_name) + "\"";
   if (CreateProcessA(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
                      &started) == 0) {
     return false;
@@ -72,9 +64,9 @@ bool ShippedProgram::Start() {
 }
 
 bool ShippedProgram::Attach() {
-  const HWND main = FindWindowA(kMainClass, nullptr);
-  if (main == nullptr) return false;
-  GetWindowThreadProcessId(main, &process_id_);
+  const HWND application = FindWindowA(kApplicationClass, facts_.title);
+  if (application == nullptr) return false;
+  GetWindowThreadProcessId(application, &process_id_);
   process_ = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ | SYNCHRONIZE, FALSE, process_id_);
   return process_ != nullptr;
 }
@@ -137,7 +129,7 @@ HWND ShippedProgram::ApplicationWindow() const { return FirstWindow(kApplication
 std::string ShippedProgram::Caption() const { return TextOf(MainWindow()); }
 
 const ControlAddress& ShippedProgram::AddressOf(const std::string& name) const {
-  const ControlAddress* const address = map_.Find(name);
+  const ControlAddress* const address = facts_.map.Find(name);
   if (address == nullptr) {
     std::fprintf(stderr, "driver: no screen has a control %s\n", name.c_str());
     std::abort();
@@ -173,7 +165,7 @@ std::string ShippedProgram::FocusedControl() const {
   GUITHREADINFO info = {};
   info.cbSize = sizeof info;
   if (GetGUIThreadInfo(GetWindowThreadProcessId(MainWindow(), nullptr), &info) == 0) return {};
-  const ControlAddress* const focused = map_.Find(GetDlgCtrlID(info.hwndFocus));
+  const ControlAddress* const focused = facts_.map.Find(GetDlgCtrlID(info.hwndFocus));
   return focused == nullptr ? std::string() : focused->name;
 }
 

@@ -1,4 +1,4 @@
-// The shipped program, seen and driven from outside: its life, its windows by the names of their controls,
+// A shipped program, seen and driven from outside: its life, its windows by the names of their controls,
 // its memory and its message boxes.
 #pragma once
 
@@ -9,22 +9,20 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/e2e/driver/message_boxes.h"
 #include "tests/e2e/driver/polling.h"
 #include "tests/e2e/driver/process_resources.h"
-#include "tests/e2e/driver/screen_map.h"
+#include "tests/e2e/driver/program_facts.h"
 
 namespace qdix::e2e {
 
-/// Path of the program under test, as Windows writes it: that of the environment variable QDIX_PROGRAM (a
-/// path of the host), else the one that the preset win9x builds.
-[[nodiscard]] std::string ProgramPath();
-
 class ShippedProgram {
  public:
-  ShippedProgram() = default;
+  /// QDIX.exe unless it is said otherwise.
+  explicit ShippedProgram(ProgramFacts facts = Qdix()) : facts_(std::move(facts)) {}
   ShippedProgram(const ShippedProgram&) = delete;
   ShippedProgram& operator=(const ShippedProgram&) = delete;
   /// Kills a program that was started and still runs; leaves alone one that was only attached to.
@@ -59,8 +57,8 @@ class ShippedProgram {
 
   // A control is asked for by the name that its screen gives it; one that no screen has ends the test
   // program, since a check of a control that is not there could not fail.
-  [[nodiscard]] bool HasControl(const std::string& name) const { return map_.Find(name) != nullptr; }
-  [[nodiscard]] const std::vector<ControlAddress>& Controls() const { return map_.All(); }
+  [[nodiscard]] bool HasControl(const std::string& name) const { return facts_.map.Find(name) != nullptr; }
+  [[nodiscard]] const std::vector<ControlAddress>& Controls() const { return facts_.map.All(); }
   [[nodiscard]] HWND Control(const std::string& name) const;
   /// The text of its window: access keys are marked with "&".
   [[nodiscard]] std::string Text(const std::string& name) const;
@@ -98,7 +96,7 @@ class ShippedProgram {
   [[nodiscard]] HWND FirstWindow(const char* window_class) const;
   [[nodiscard]] const ControlAddress& AddressOf(const std::string& name) const;
 
-  const ScreenMap map_;
+  const ProgramFacts facts_;
   HANDLE process_ = nullptr;
   DWORD process_id_ = 0;
   HWND icon_owner_ = nullptr;

@@ -1,0 +1,37 @@
+#include "tests/e2e/driver/program_facts.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "app/form1.h"
+#include "os/simulated/simulated_machine.h"
+#include "undo/undo_form.h"
+
+namespace qdix::e2e {
+
+namespace {
+
+/// Made on a machine that is never looked at: only the window's controls count.
+template <class Program>
+ScreenMap MapOf() {
+  const os::SimulatedMachine machine;
+  Program program(machine.GetSystem());
+  return ScreenMap(program.Window());
+}
+
+}  // namespace
+
+ProgramFacts Qdix() { return {"QDIX.exe", "Q-DIX", MapOf<app::Form1>()}; }
+
+ProgramFacts Undo() { return {"undo.exe", "Q-DIX Undo", MapOf<undo::UndoForm>()}; }
+
+std::string ProgramPath(const std::string& file_name) {
+  const char* const chosen = std::getenv("QDIX_PROGRAM");
+  const std::string main_program =
+      chosen != nullptr ? std::string(chosen) : std::string(QDIX_SOURCE_DIR) + "/build/win9x/QDIX.exe";
+  std::string path = "Z:" + main_program.substr(0, main_program.rfind('/') + 1) + file_name;
+  std::replace(path.begin(), path.end(), '/', '\\');
+  return path;
+}
+
+}  // namespace qdix::e2e
