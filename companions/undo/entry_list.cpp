@@ -13,10 +13,11 @@ constexpr std::size_t kQuestionCharacters = 60;
 
 /// One line of the question.
 std::string Deed(const Entry& entry, const Before& before) {
-  std::string deed = NameOf(entry) + ": ";
-  deed += before.text.has_value() ? "put back " + Shown(before.text, kQuestionCharacters) : "remove";
-  if (before.known == Before::Known::kFromBackup) deed += ", as in system.qdix";
-  return deed;
+  const bool is_from_backup = before.known == Before::Known::kFromBackup;
+  const std::string deed = NameOf(entry) + ": ";
+  if (!before.text.has_value()) return deed + (is_from_backup ? "remove (not in backup)" : "remove");
+  return deed + "put back " + Shown(before.text, kQuestionCharacters) +
+         (is_from_backup ? " (from backup)" : "");
 }
 
 }  // namespace

@@ -25,9 +25,9 @@ void UndoForm::Read() {
   screen_.lblState.SetCaption(settings_.HasRecord() ? "These settings were recorded before Q-DIX changed "
                                                       "this computer for the first time. Tick those that "
                                                       "are to be put back."
-                                                    : "Nothing is recorded: Q-DIX has not changed the disk "
-                                                      "cache or the swap file of this computer. There "
-                                                      "is nothing to undo.");
+                                                    : "Nothing is recorded. Q-DIX records these settings "
+                                                      "before it changes one of them for the first time, so "
+                                                      "there is nothing to put back.");
   entry_list_.Read();
   whole_file_.Read();
 }

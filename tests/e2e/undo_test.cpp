@@ -90,7 +90,7 @@ class UndoSession : public testing::Test {
 TEST_F(UndoSession, NothingRecordedIsSaid) {
   Start();
   EXPECT_EQ(program.Caption(), "Q-DIX Undo");
-  EXPECT_TRUE(program.Text("lblState").starts_with("Nothing is recorded:")) << program.Text("lblState");
+  EXPECT_TRUE(program.Text("lblState").starts_with("Nothing is recorded.")) << program.Text("lblState");
   for (const char* const box : kBoxes) EXPECT_FALSE(program.IsEnabled(box)) << box;
   EXPECT_FALSE(program.IsEnabled("cmdPutBack"));
   EXPECT_FALSE(program.IsEnabled("cmdRestore"));
@@ -249,6 +249,17 @@ TEST_F(UndoSession, KeyboardReachesEverything) {
   EXPECT_EQ(WindowsFile(kSystemIni), kIniAfter);
   PressKey(VK_ESCAPE);
   ExpectEnd();
+}
+
+TEST_F(UndoSession, FramesAreAsGreyAsTheWindow) {
+  Start();
+  ASSERT_TRUE(BringForward(program.MainWindow()));
+  const COLORREF face = GetSysColor(COLOR_3DFACE);
+  for (const char* const name : {"FrameCache", "FrameTemplate", "FrameSwapFile"}) {
+    const RECT frame = program.ScreenRect(name);
+    EXPECT_EQ(ScreenColour({frame.left + 5, frame.bottom - 6}), face) << name;
+  }
+  Close();
 }
 
 TEST_F(UndoSession, EveryControlStandsInTheWindowAndTheWindowOn640By480) {

@@ -48,7 +48,10 @@ LabelPeer::LabelPeer(const PeerContext& context, Label& model, HWND parent, int 
                      .box = context.font.Pixels(model.GetPlace())}) {}
 
 FramePeer::FramePeer(const PeerContext& context, Frame& model, HWND parent, int number)
-    : NativeControl(context, model, parent, number, ButtonDesign(context, model, BS_GROUPBOX | WS_GROUP)) {}
+    : NativeControl(context, model, parent, number, ButtonDesign(context, model, BS_GROUPBOX | WS_GROUP)) {
+  // A group box leaves its inside to the window it stands on, which then must not paint round its controls.
+  SetWindowLongA(parent, GWL_STYLE, GetWindowLongA(parent, GWL_STYLE) & ~static_cast<LONG>(WS_CLIPCHILDREN));
+}
 
 /// The windows of the contents are siblings of the frame's window, so that hiding it does not hide them.
 void FramePeer::ControlChanged(Control& control, Change change) {

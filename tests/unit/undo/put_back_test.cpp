@@ -50,9 +50,9 @@ TEST_F(PutBack, QuestionNamesEachDeedAndProposesNo) {
             "[vcache] ChunkSize: remove\r\n"
             "File system template: put back Desktop\r\n"
             "[386Enh] PagingDrive: put back D:\r\n"
-            "[386Enh] MinPagingFileSize: put back 0, as in system.qdix\r\n"
-            "[386Enh] MaxPagingFileSize: remove, as in system.qdix\r\n"
-            "[386Enh] Paging: remove, as in system.qdix\r\n\r\n"
+            "[386Enh] MinPagingFileSize: put back 0 (from backup)\r\n"
+            "[386Enh] MaxPagingFileSize: remove (not in backup)\r\n"
+            "[386Enh] Paging: remove (not in backup)\r\n\r\n"
             "Do you want to put these settings back?");
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Undo");
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbYesNo | os::kMbIconQuestion | os::kMbDefaultButton2);

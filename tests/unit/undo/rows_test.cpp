@@ -87,8 +87,8 @@ TEST(UndoRows, NothingRecordedLeavesOnlyClose) {
     rig.Change();
     rig.Start();
     EXPECT_EQ(rig.Screen().lblState.Caption(),
-              "Nothing is recorded: Q-DIX has not changed the disk cache or the swap file of this computer. "
-              "There is nothing to undo.");
+              "Nothing is recorded. Q-DIX records these settings before it changes one of them for the first "
+              "time, so there is nothing to put back.");
     EXPECT_EQ(BoxesOf(rig.Screen()), "--------");
     for (const std::string& text : BeforeOf(rig.Screen())) EXPECT_EQ(text, "not recorded");
     EXPECT_FALSE(rig.Screen().cmdPutBack.Enabled());
