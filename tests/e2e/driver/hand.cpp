@@ -95,6 +95,16 @@ bool PressAt(HWND window, POINT inside, Press press) {
   return SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)) == inputs.size();
 }
 
+bool Drag(HWND control, POINT from, int pixels) {
+  if (!BringForward(TopLevelOf(control)) || !PointAt(control, from)) return false;
+  const POINT begin = OnScreen(control, from);
+  INPUT press[] = {PointerMove(begin), PointerButton(MOUSEEVENTF_LEFTDOWN)};
+  INPUT release = PointerButton(MOUSEEVENTF_LEFTUP);
+  if (SendInput(2, press, sizeof(INPUT)) != 2) return false;
+  const bool is_there = PutPointer({begin.x + pixels, begin.y});
+  return SendInput(1, &release, sizeof(INPUT)) == 1 && is_there;
+}
+
 void PressKey(int key) {
   SendKey(key, 0);
   SendKey(key, KEYEVENTF_KEYUP);

@@ -31,6 +31,10 @@ enum class Press {
 /// The same at a place in pixels from the control's upper left corner.
 [[nodiscard]] bool ClickAt(HWND control, POINT inside);
 
+/// Brings a control's window to the front and presses the left button at a place in the control, moves the
+/// pointer so many pixels to the right or, with a negative number, to the left, and lets go of the button.
+[[nodiscard]] bool Drag(HWND control, POINT from, int pixels);
+
 /// Presses and lets go of a key.
 void PressKey(int key);
 /// Presses a key while another is held down.

@@ -70,4 +70,29 @@ void SetRegistryText(const KeyPath& key, const std::string& name, const std::str
   RegCloseKey(handle);
 }
 
+std::optional<std::string> RegistryBytes(const KeyPath& key, const std::string& name) {
+  HKEY handle = nullptr;
+  if (RegOpenKeyExA(key.root, key.path, 0, KEY_QUERY_VALUE, &handle) != ERROR_SUCCESS) return std::nullopt;
+  std::array<BYTE, kLongestText> bytes{};
+  DWORD size = bytes.size();
+  DWORD type = 0;
+  const LONG result = RegQueryValueExA(handle, name.c_str(), nullptr, &type, bytes.data(), &size);
+  RegCloseKey(handle);
+  if (result != ERROR_SUCCESS) return std::nullopt;
+  constexpr const char* kDigits = "0123456789ABCDEF";
+  std::string text = std::to_string(type) + ":";
+  for (DWORD index = 0; index < size; ++index) {
+    text += {' ', kDigits[bytes[index] >> 4U], kDigits[bytes[index] & 0xFU]};
+  }
+  return text;
+}
+
+void SetRegistryBytes(const KeyPath& key, const std::string& name, const std::string& bytes) {
+  HKEY handle = nullptr;
+  RegCreateKeyExA(key.root, key.path, 0, nullptr, 0, KEY_SET_VALUE, nullptr, &handle, nullptr);
+  RegSetValueExA(handle, name.c_str(), 0, REG_BINARY, reinterpret_cast<const BYTE*>(bytes.data()),
+                 static_cast<DWORD>(bytes.size()));
+  RegCloseKey(handle);
+}
+
 }  // namespace qdix::e2e

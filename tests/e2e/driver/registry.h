@@ -26,6 +26,10 @@ using RegistryTexts = std::map<std::string, std::string>;
 [[nodiscard]] RegistryTexts TextsOf(const KeyPath& key);
 void SetRegistryText(const KeyPath& key, const std::string& name, const std::string& text);
 
+/// Type and bytes of a value as "3: 00 18 00 00", or nothing where there is none.
+[[nodiscard]] std::optional<std::string> RegistryBytes(const KeyPath& key, const std::string& name);
+void SetRegistryBytes(const KeyPath& key, const std::string& name, const std::string& bytes);
+
 /// Everything of the program in the registry, as it was when this was made.
 class ProgramRegistry {
  public:

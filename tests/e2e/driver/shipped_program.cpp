@@ -57,6 +57,7 @@ bool ShippedProgram::Start() {
     return false;
   }
   CloseHandle(started.hThread);
+  if (process_ != nullptr) CloseHandle(process_);
   process_ = started.hProcess;
   process_id_ = started.dwProcessId;
   is_ours_ = true;

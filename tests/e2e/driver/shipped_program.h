@@ -28,7 +28,7 @@ class ShippedProgram {
   /// Kills a program that was started and still runs; leaves alone one that was only attached to.
   ~ShippedProgram();
 
-  /// Starts the program under test; false when the system refuses.
+  /// Starts the program under test, also once more after its end; false when the system refuses.
   [[nodiscard]] bool Start();
   /// Attaches to the copy that runs already; false when there is none.
   [[nodiscard]] bool Attach();

@@ -1,0 +1,52 @@
+#include "tests/e2e/driver/ranges.h"
+
+#include "tests/e2e/driver/hand.h"
+#include "tests/e2e/driver/native_windows.h"
+
+// clang-format off
+#include <commctrl.h>
+// clang-format on
+
+namespace qdix::e2e {
+
+namespace {
+
+/// Into an arrow from the edge of the bar that it stands at.
+constexpr LONG kIntoArrowPx = 3;
+
+SIZE SizeOf(HWND window) {
+  RECT rect = {};
+  GetWindowRect(window, &rect);
+  return {rect.right - rect.left, rect.bottom - rect.top};
+}
+
+/// The thumb moves between the ends of the channel, which lies a thumb's half within the window's edges. The
+/// messages that tell those rectangles do not reach into other processes.
+POINT MiddleOfThumb(HWND slider) {
+  constexpr LONG kEdgePx = 8;
+  const auto half_thumb = static_cast<LONG>(Ask(slider, TBM_GETTHUMBLENGTH)) / 4;
+  const int minimum = SliderMinimum(slider);
+  const double share =
+      static_cast<double>(SliderPosition(slider) - minimum) / (SliderMaximum(slider) - minimum);
+  const LONG first = kEdgePx + half_thumb;
+  const LONG way = SizeOf(slider).cx - 2 * first;
+  return {first + static_cast<LONG>(share * static_cast<double>(way)), SizeOf(slider).cy / 3};
+}
+
+}  // namespace
+
+int SliderPosition(HWND slider) { return static_cast<int>(Ask(slider, TBM_GETPOS)); }
+
+int SliderMinimum(HWND slider) { return static_cast<int>(Ask(slider, TBM_GETRANGEMIN)); }
+
+int SliderMaximum(HWND slider) { return static_cast<int>(Ask(slider, TBM_GETRANGEMAX)); }
+
+bool PullThumb(HWND slider, int pixels) { return Drag(slider, MiddleOfThumb(slider), pixels); }
+
+int ScrollPosition(HWND bar) { return static_cast<int>(Ask(bar, SBM_GETPOS)); }
+
+bool ClickUpArrow(HWND bar) { return ClickAt(bar, {SizeOf(bar).cx / 2, kIntoArrowPx}); }
+
+bool ClickDownArrow(HWND bar) { return ClickAt(bar, {SizeOf(bar).cx / 2, SizeOf(bar).cy - kIntoArrowPx}); }
+
+}  // namespace qdix::e2e
