@@ -25,6 +25,24 @@ class Machine {
   /// Whole part of half the whole part.
   [[nodiscard]] int HalfMb() const { return static_cast<int>(std::floor(total_mb_)) / 2; }
 
+  /// Whole megabytes of 1,024,000 bytes: the smallest swap file that is saved.
+  [[nodiscard]] int WholeMb() const { return static_cast<int>(std::floor(total_mb_)); }
+  /// The greatest size of the disk cache that the sliders reach, in kilobytes.
+  [[nodiscard]] int LargestCacheKb() const { return static_cast<int>(std::nearbyint(total_mb_ * 500)); }
+  /// A share of half the memory in kilobytes, to the nearest 512.
+  [[nodiscard]] int CacheKb(double share) const {
+    return static_cast<int>(std::nearbyint(std::floor(total_mb_ * 512 * share) / 512)) * 512;
+  }
+  /// The size that stands on the swap file's tab where system.ini names none: three times the memory.
+  [[nodiscard]] int ProposedSwapMb() const { return static_cast<int>(std::floor(total_mb_ * 3)); }
+  /// The size that beginners are suggested.
+  [[nodiscard]] int SuggestedSwapMb() const {
+    double times = 2.3;
+    if (total_mb_ <= 140) times = 2.5;
+    if (total_mb_ <= 70) times = 3;
+    return static_cast<int>(std::floor(total_mb_ * times));
+  }
+
   /// The amount that is proposed for a release by hand.
   [[nodiscard]] std::string ProposedAmount() const { return LargestOf(kAllAmounts); }
   /// The same for the lists that start at 12 MB.

@@ -1,0 +1,89 @@
+#include "tests/e2e/tuning_session.h"
+
+namespace qdix::e2e {
+
+namespace {
+
+/// Without empty lines, which Wine drops when it writes.
+constexpr const char* kSmallSystemIni =
+    "[boot]\r\n"
+    "shell=Explorer.exe\r\n"
+    "[386Enh]\r\n"
+    "device=*vpowerd\r\n"
+    "[vcache]\r\n"
+    "[drivers]\r\n"
+    "wave=mmsystem.dll\r\n";
+
+}  // namespace
+
+void TuningSession::SetUp() {
+  Session::SetUp();
+  MarkMachineAsKnown();
+  SetWindowsFile(kSystemBackup, std::nullopt);
+  SetSystemIni(kSmallSystemIni);
+  DeleteTree(kTemplates);
+  SetRegistryText(kTemplates, "", "Desktop");
+}
+
+void TuningSession::TearDown() {
+  Session::TearDown();
+  const std::uint32_t count = restarts_.has_value() ? restarts_->Count() : 0;
+  EXPECT_EQ(count, expected_restarts_) << "restarts asked for";
+}
+
+void TuningSession::StartOnTab(int tab) {
+  ASSERT_FALSE(restarts_.has_value() && restarts_->Count() != 0) << "a restart was asked for before";
+  SetRegistryText(kSettings, "LastTab", std::to_string(tab));
+  StartProgram();
+  ASSERT_EQ(program.OpenedTab(), tab);
+  restarts_.emplace(program.Process());
+  ASSERT_TRUE(restarts_->Begin());
+  ASSERT_TRUE(BringForward(program.MainWindow()));
+}
+
+std::string TuningSession::Shown(const std::string& name) const {
+  std::string text = program.Text(name);
+  std::erase(text, '&');
+  return text;
+}
+
+void TuningSession::ExpectBox(const std::string& text) const {
+  ASSERT_TRUE(program.Await([this] { return !program.MessageBoxes().empty(); })) << "no box: " << text;
+  const std::vector<MessageBox> boxes = program.MessageBoxes();
+  ASSERT_EQ(boxes.size(), 1U);
+  EXPECT_EQ(boxes.front().title, "Q-DIX");
+  EXPECT_EQ(boxes.front().text, text);
+}
+
+void TuningSession::Answer(const std::string& text, int button) const {
+  ASSERT_NO_FATAL_FAILURE(ExpectBox(text));
+  ASSERT_TRUE(PressButton(program.MessageBoxes().front(), button)) << text;
+}
+
+int TuningSession::ButtonWithKeyboard() const {
+  const HWND box = program.MessageBoxes().front().window;
+  GUITHREADINFO info = {};
+  info.cbSize = sizeof info;
+  if (GetGUIThreadInfo(GetWindowThreadProcessId(box, nullptr), &info) == 0) return 0;
+  return GetDlgCtrlID(info.hwndFocus);
+}
+
+void TuningSession::ExpectKeyboardOn(const std::string& name) const {
+  EXPECT_TRUE(Becomes([&] { return program.FocusedControl() == name; }))
+      << name << " expected, " << program.FocusedControl() << " has it";
+}
+
+void TuningSession::GoTo(char access_key, const std::string& name) const {
+  PressKeyWith(VK_MENU, access_key);
+  ExpectKeyboardOn(name);
+}
+
+void TuningSession::ExpectRestartAndEnd() {
+  expected_restarts_ = 1;
+  ExpectCleanEnd(program);
+  EXPECT_EQ(restarts_->Count(), 1U);
+  EXPECT_EQ(restarts_->Flags(), EWX_REBOOT);
+  EXPECT_EQ(restarts_->Reserved(), 0U);
+}
+
+}  // namespace qdix::e2e

@@ -1,0 +1,67 @@
+// A machine whose system.ini and registry the tuning tabs may change: a small system.ini and the templates of
+// a Windows 98 machine for each test, the real ones back after it, and restarts seen instead of done.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "tests/e2e/driver/hand.h"
+#include "tests/e2e/driver/restart_watch.h"
+#include "tests/e2e/driver/system_ini_keeper.h"
+#include "tests/e2e/session.h"
+
+namespace qdix::e2e {
+
+inline const KeyPath kOwnTemplate{HKEY_LOCAL_MACHINE,
+                                  "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\FS Templates\\Quondix"};
+
+inline constexpr const char* kRestartQuestion =
+    "You must restart your computer before the new settings take effect.\r\n\r\n"
+    "Do you want to restart your computer now?";
+
+class TuningSession : public Session {
+ protected:
+  void SetUp() override;
+  /// A restart that the test has not expected fails it.
+  void TearDown() override;
+
+  /// Starts the program with this tab open and the window in front, every restart of the machine watched.
+  /// Also once more, after CloseProgram().
+  void StartOnTab(int tab);
+
+  /// Makes system.ini hold these bytes before the program starts.
+  static void SetSystemIni(const std::string& bytes) { SetWindowsFile(kSystemIni, bytes); }
+  [[nodiscard]] static std::string SystemIni() { return WindowsFile(kSystemIni).value_or("(no file)"); }
+
+  /// What a user reads on a control: no marks of access keys.
+  [[nodiscard]] std::string Shown(const std::string& name) const;
+
+  /// Waits until a control, a file, the registry show what a hand has just done.
+  [[nodiscard]] bool Becomes(const std::function<bool()>& condition) const {
+    return program.Await(condition, kHandDeadlineMs);
+  }
+
+  /// Waits for a box, sees what it says, and leaves it open.
+  void ExpectBox(const std::string& text) const;
+  /// The same, and presses one of its buttons.
+  void Answer(const std::string& text, int button) const;
+  /// The number of the button that Enter would press in the open box.
+  [[nodiscard]] int ButtonWithKeyboard() const;
+
+  void ExpectKeyboardOn(const std::string& name) const;
+  /// Presses an access key and sees the keyboard arrive at a control.
+  void GoTo(char access_key, const std::string& name) const;
+
+  /// The program asked for exactly one restart of the machine and ends, its icon gone.
+  void ExpectRestartAndEnd();
+
+ private:
+  static constexpr int kHandDeadlineMs = 5000;
+
+  const SystemIniKeeper keeper_;
+  std::optional<RestartWatch> restarts_;
+  std::uint32_t expected_restarts_ = 0;
+};
+
+}  // namespace qdix::e2e
