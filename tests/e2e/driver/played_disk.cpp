@@ -1,0 +1,48 @@
+// The program finds the question by its name while it runs and imports nothing, so the first bytes of the
+// system's own code, of which each process has its copy, are made a jump.
+#include "tests/e2e/driver/played_disk.h"
+
+namespace qdix::e2e {
+
+namespace {
+
+/// Where the figure is kept in the page, behind the code.
+constexpr std::uint32_t kFigureOffset = 256;
+constexpr std::uint32_t kJumpBytes = 5;
+
+/// Writes the figure wherever the three pointers of the question lead, and answers with TRUE.
+std::string AnswerWithFigure(std::uint32_t figure) {
+  MachineCode code;
+  code.Bytes("\x8B\x0D").Number(figure);      // ecx = lower half
+  code.Bytes("\x8B\x15").Number(figure + 4);  // edx = upper half
+  for (const char argument : {'\x08', '\x0C', '\x10'}) {
+    code.Bytes("\x8B\x44\x24").Bytes({argument});        // eax = pointer
+    code.Bytes({'\x89', 8}).Bytes({'\x89', '\x50', 4});  // [eax] = ecx; [eax + 4] = edx
+  }
+  code.Bytes("\xB8").Number(TRUE).Bytes({'\xC2', 16, 0});  // eax = TRUE; ret 16
+  return code.Text();
+}
+
+}  // namespace
+
+bool PlayedDisk::Play(std::uint64_t free_bytes) {
+  const std::string figure = MachineCode()
+                                 .Number(static_cast<std::uint32_t>(free_bytes))
+                                 .Number(static_cast<std::uint32_t>(free_bytes >> 32U))
+                                 .Text();
+  return page_.Write(kFigureOffset, figure) && (is_redirected_ || Redirect());
+}
+
+bool PlayedDisk::Redirect() {
+  const std::uint32_t function = SystemFunction("kernel32.dll", "GetDiskFreeSpaceExA");
+  const std::string jump = MachineCode().Bytes("\xE9").Number(page_.At(0) - (function + kJumpBytes)).Text();
+  void* const place = reinterpret_cast<void*>(static_cast<std::uintptr_t>(function));
+  DWORD protection = 0;
+  is_redirected_ = page_.Write(0, AnswerWithFigure(page_.At(kFigureOffset))) &&
+                   VirtualProtectEx(process_, place, jump.size(), PAGE_EXECUTE_READWRITE, &protection) != 0 &&
+                   WriteProcessMemory(process_, place, jump.data(), jump.size(), nullptr) != 0 &&
+                   VirtualProtectEx(process_, place, jump.size(), protection, &protection) != 0;
+  return is_redirected_;
+}
+
+}  // namespace qdix::e2e
