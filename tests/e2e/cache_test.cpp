@@ -391,7 +391,7 @@ TEST_F(CacheSession, FilledTabIsPhotographed) {
   StartOnCacheTab();
   ChooseByArrowKeys(multimedia.preset);
   Expect(multimedia);
-  EXPECT_TRUE(Photograph("cache_preset"));
+  PhotographTab("cache_preset");
   CloseProgram();
 }
 

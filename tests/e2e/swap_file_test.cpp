@@ -395,7 +395,7 @@ TEST_F(SwapFileSession, MissingDefragmenterIsAnErrorThatEndsTheProgram) {
 TEST_F(SwapFileSession, FilledTabIsPhotographed) {
   StartWith(kOwnSetup);
   ExpectSize("128", 128);
-  EXPECT_TRUE(Photograph("swapfile_optimised"));
+  PhotographTab("swapfile_optimised");
   CloseProgram();
 }
 

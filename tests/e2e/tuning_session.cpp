@@ -78,6 +78,13 @@ void TuningSession::GoTo(char access_key, const std::string& name) const {
   ExpectKeyboardOn(name);
 }
 
+void TuningSession::PhotographTab(const std::string& name) const {
+  constexpr POINT kOnCaption{200, 10};
+  EXPECT_TRUE(PointAt(program.MainWindow(), kOnCaption));
+  EXPECT_TRUE(Becomes([this] { return !program.ShowsToolTip(); }));
+  EXPECT_TRUE(Photograph(name));
+}
+
 void TuningSession::ExpectRestartAndEnd() {
   expected_restarts_ = 1;
   ExpectCleanEnd(program);

@@ -53,6 +53,9 @@ class TuningSession : public Session {
   /// Presses an access key and sees the keyboard arrive at a control.
   void GoTo(char access_key, const std::string& name) const;
 
+  /// Takes the picture with the pointer on the caption, where no tool tip covers anything.
+  void PhotographTab(const std::string& name) const;
+
   /// The program asked for exactly one restart of the machine and ends, its icon gone.
   void ExpectRestartAndEnd();
 

@@ -112,6 +112,11 @@ bool ShippedProgram::HasIcon() const { return HasNotificationIcon(icon_owner_, k
 
 bool ShippedProgram::TakeIcon() const { return TakeNotificationIcon(icon_owner_, kIconNumber); }
 
+bool ShippedProgram::ShowsToolTip() const {
+  const std::vector<HWND> tips = TopLevelWindows(process_id_, TOOLTIPS_CLASSA);
+  return std::any_of(tips.begin(), tips.end(), [](HWND tip) { return IsWindowVisible(tip) != 0; });
+}
+
 std::vector<HWND> ShippedProgram::OpenMenus() const {
   std::vector<HWND> menus = TopLevelWindows(process_id_, kMenuClass);
   std::erase_if(menus, [](HWND menu) { return IsWindowVisible(menu) == 0; });

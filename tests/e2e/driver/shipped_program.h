@@ -52,6 +52,7 @@ class ShippedProgram {
   [[nodiscard]] bool HasIcon() const;
   /// Takes that icon away without the program's knowledge; false where there was none.
   [[nodiscard]] bool TakeIcon() const;
+  [[nodiscard]] bool ShowsToolTip() const;
   /// The pop-up menus that are open.
   [[nodiscard]] std::vector<HWND> OpenMenus() const;
 
