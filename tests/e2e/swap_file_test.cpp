@@ -41,6 +41,40 @@ double FreeMb(const char* root) {
   return static_cast<double>(free.QuadPart) / 1000000 / 1.024;
 }
 
+/// The system's editor under the name of the defragmenter, which Wine does not have. What it is started with
+/// it takes for a file, and it names it when there is none.
+class StandInDefragmenter {
+ public:
+  StandInDefragmenter() { SetWindowsFile(kFile, WindowsFile("notepad.exe")); }
+  StandInDefragmenter(const StandInDefragmenter&) = delete;
+  StandInDefragmenter& operator=(const StandInDefragmenter&) = delete;
+  ~StandInDefragmenter() {
+    const HANDLE process = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, ProcessId());
+    if (process != nullptr) {
+      TerminateProcess(process, 0);
+      WaitForSingleObject(process, kDeadlineMs);
+      CloseHandle(process);
+    }
+    SetWindowsFile(kFile, std::nullopt);
+  }
+
+  /// What it says about the file; empty where it does not run or says nothing.
+  [[nodiscard]] std::string Says() const {
+    const std::vector<MessageBox> boxes =
+        ProcessId() == 0 ? std::vector<MessageBox>() : MessageBoxesOf(ProcessId());
+    return boxes.empty() ? std::string() : boxes.front().text;
+  }
+
+ private:
+  static constexpr const char* kFile = "defrag.exe";
+
+  [[nodiscard]] static DWORD ProcessId() {
+    DWORD process_id = 0;
+    GetWindowThreadProcessId(FindWindowA("Notepad", nullptr), &process_id);
+    return process_id;
+  }
+};
+
 class SwapFileSession : public TuningSession {
  protected:
   void StartOnSwapFileTab() { StartOnTab(screens::kSwapFileTab); }
@@ -329,6 +363,19 @@ TEST_F(SwapFileSession, SizeBeyondTheBarIsAnErrorThatEndsTheProgram) {
   EXPECT_EQ(SystemIni(), kOwnSetup);
 }
 
+TEST_F(SwapFileSession, AccessKeysReachOptionsDrivesAndSize) {
+  StartWith(kOwnSetup);
+  GoTo('H', "Combo3");
+  GoTo('Z', "Text8");
+  GoTo('W', "optSwap1");
+  ExpectOption("optSwap1");
+  GoTo('T', "optSwap3");
+  ExpectOption("optSwap3");
+  GoTo('O', "optSwap2");
+  ExpectOption("optSwap2");
+  CloseProgram();
+}
+
 TEST_F(SwapFileSession, SuggestionNamesDriveAndSizeAndWritesNothing) {
   StartWith(kOwnSetup);
   PlayedDisk disk(program.Process());
@@ -390,6 +437,18 @@ TEST_F(SwapFileSession, MissingDefragmenterIsAnErrorThatEndsTheProgram) {
   PressKeyWith(VK_MENU, 'D');
   Answer(kDefragQuestion, IDOK);
   ExpectErrorAndEnd("Run-time error '53':\r\n\r\nFile not found");
+}
+
+TEST_F(SwapFileSession, DefragmenterTakesTheProgramsPlaceOnTheSelectedDrive) {
+  const StandInDefragmenter defragmenter;
+  StartWith(kOwnSetup);
+  GoTo('H', "Combo3");
+  ASSERT_TRUE(ChooseByArrows(program.Control("Combo3"), 1));
+  PressKeyWith(VK_MENU, 'D');
+  Answer(kDefragQuestion, IDOK);
+  ExpectCleanEnd(program);
+  EXPECT_TRUE(Eventually([&] { return defragmenter.Says().find("Z:") != std::string::npos; }))
+      << defragmenter.Says();
 }
 
 TEST_F(SwapFileSession, FilledTabIsPhotographed) {
