@@ -342,6 +342,17 @@ TEST_F(SwapFileSession, ArrowsOfTheBarChangeTheSizeByFive) {
   CloseProgram();
 }
 
+TEST_F(SwapFileSession, ArrowsOfTheBarLookAsTheyAre) {
+  StartWith(kOwnSetup);
+  const auto look_enabled = [this] { return ArrowsLookEnabled(program.Control("VScroll4")); };
+  EXPECT_TRUE(Becomes(look_enabled));
+  GoTo('W', "optSwap1");
+  EXPECT_TRUE(Becomes([&] { return !look_enabled(); }));
+  GoTo('O', "optSwap2");
+  EXPECT_TRUE(Becomes(look_enabled));
+  CloseProgram();
+}
+
 TEST_F(SwapFileSession, LettersAreSwallowedAndLeavingTheBoxMovesTheBar) {
   StartWith(kOwnSetup);
   GoTo('Z', "Text8");

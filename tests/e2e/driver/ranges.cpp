@@ -20,6 +20,21 @@ SIZE SizeOf(HWND window) {
   return {rect.right - rect.left, rect.bottom - rect.top};
 }
 
+/// The triangle in the middle of an arrow's button, without the button's edges, which are as dark.
+bool IsDark(HWND bar, LONG middle_px) {
+  constexpr LONG kHalfTrianglePx = 1;
+  RECT place = {};
+  GetWindowRect(bar, &place);
+  const LONG x = (place.left + place.right) / 2;
+  const HDC screen = GetDC(nullptr);
+  bool is_dark = false;
+  for (LONG y = middle_px - kHalfTrianglePx; y <= middle_px + kHalfTrianglePx; ++y) {
+    if (GetPixel(screen, x, place.top + y) == GetSysColor(COLOR_BTNTEXT)) is_dark = true;
+  }
+  ReleaseDC(nullptr, screen);
+  return is_dark;
+}
+
 /// The thumb moves between the ends of the channel, which lies a thumb's half within the window's edges. The
 /// messages that tell those rectangles do not reach into other processes.
 POINT MiddleOfThumb(HWND slider) {
@@ -43,7 +58,14 @@ int SliderMaximum(HWND slider) { return static_cast<int>(Ask(slider, TBM_GETRANG
 
 bool PullThumb(HWND slider, int pixels) { return Drag(slider, MiddleOfThumb(slider), pixels); }
 
+int SliderMarks(HWND slider) { return static_cast<int>(Ask(slider, TBM_GETNUMTICS)); }
+
 int ScrollPosition(HWND bar) { return static_cast<int>(Ask(bar, SBM_GETPOS)); }
+
+bool ArrowsLookEnabled(HWND bar) {
+  const LONG quarter_px = SizeOf(bar).cy / 4;
+  return IsDark(bar, quarter_px) && IsDark(bar, SizeOf(bar).cy - 1 - quarter_px);
+}
 
 bool ClickUpArrow(HWND bar) { return ClickAt(bar, {SizeOf(bar).cx / 2, kIntoArrowPx}); }
 
