@@ -156,6 +156,18 @@ TEST_F(CacheSession, FreshMachineShowsNoSizesAndUserDefined) {
   CloseProgram();
 }
 
+TEST_F(CacheSession, SlidersHaveTenMarksWhateverTheirRange) {
+  // One more where the last part of the way is shorter, and one at the end.
+  constexpr int kMostMarks = 12;
+  StartOnCacheTab();
+  for (const char* const slider : {"Slider1", "Slider2", "Slider3", "Slider4", "Slider5"}) {
+    const int marks = SliderMarks(program.Control(slider));
+    EXPECT_GE(marks, 2) << slider;
+    EXPECT_LE(marks, kMostMarks) << slider;
+  }
+  CloseProgram();
+}
+
 TEST_F(CacheSession, PresetsChosenWithArrowKeysSetSlidersCaptionsAndBoxes) {
   StartOnCacheTab();
   for (const Sizes& preset : {multimedia, standard, low_memory, cd_writer, games}) {

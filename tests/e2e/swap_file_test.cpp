@@ -353,6 +353,12 @@ TEST_F(SwapFileSession, ArrowsOfTheBarLookAsTheyAre) {
   CloseProgram();
 }
 
+TEST_F(SwapFileSession, ArrowsOfTheBarLookDisabledFromTheStart) {
+  StartOnSwapFileTab();
+  EXPECT_TRUE(Becomes([this] { return !ArrowsLookEnabled(program.Control("VScroll4")); }));
+  CloseProgram();
+}
+
 TEST_F(SwapFileSession, LettersAreSwallowedAndLeavingTheBoxMovesTheBar) {
   StartWith(kOwnSetup);
   GoTo('Z', "Text8");
