@@ -25,6 +25,10 @@ class Processes {
   /// and the search goes through this program's folder, the current one, those of Windows, and the path.
   /// The system's code: 0, kErrorFileNotFound, kErrorPathNotFound, kErrorAccessDenied or another.
   [[nodiscard]] virtual std::int32_t CreateProcessA(const std::string& command_line) = 0;
+
+  /// Makes a folder the current one, which programs are started in, and its drive the current drive. A drive
+  /// alone ("D:") means its own current folder. False where there is no such folder.
+  [[nodiscard]] virtual bool SetCurrentDirectoryA(const std::string& folder) = 0;
 };
 
 }  // namespace qdix::os

@@ -32,5 +32,13 @@ TEST_F(ProcessesContract, ProgramThatIsMissingIsNotFound) {
   EXPECT_EQ(system.processes.CreateProcessA("qdix_no_such_program C:"), os::kErrorFileNotFound);
 }
 
+TEST_F(ProcessesContract, FolderThatIsThereBecomesTheCurrentOne) {
+  EXPECT_TRUE(system.processes.SetCurrentDirectoryA("C:"));
+  EXPECT_TRUE(system.processes.SetCurrentDirectoryA("C:\\windows"));
+  EXPECT_FALSE(system.processes.SetCurrentDirectoryA("C:\\qdix no such folder"));
+  EXPECT_FALSE(system.processes.SetCurrentDirectoryA("?:"));
+  EXPECT_TRUE(system.processes.SetCurrentDirectoryA("C:\\"));
+}
+
 }  // namespace
 }  // namespace qdix::contract

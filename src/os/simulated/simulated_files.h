@@ -19,6 +19,16 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   std::uint32_t GetWindowsDirectoryA(char* buffer, std::uint32_t size_bytes) override;
   bool CopyFileA(const char* from, const char* to) override;
   std::uint32_t GetFileAttributesA(const char* path) override;
+  FileHandle CreateFileA(const char* path, std::uint32_t access, std::uint32_t disposition) override;
+  void CloseHandle(FileHandle file) override;
+  std::uint32_t GetFileSize(FileHandle file) override;
+  bool ReadFile(FileHandle file, char* buffer, std::uint32_t size_bytes, std::uint32_t& read_bytes) override;
+  bool WriteFile(FileHandle file, const char* bytes, std::uint32_t size_bytes,
+                 std::uint32_t& written_bytes) override;
+  bool FlushFileBuffers(FileHandle file) override;
+  bool MoveFileA(const char* from, const char* to) override;
+  bool DeleteFileA(const char* path) override;
+
   std::uint32_t GetPrivateProfileStringA(const char* section, const char* key, const char* missing,
                                          char* buffer, std::uint32_t size_bytes, const char* file) override;
   bool WritePrivateProfileStringA(const char* section, const char* key, const char* value,
@@ -29,8 +39,22 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   void Write(const std::string& path, const std::string& content) { files_[UpperPath(path)] = content; }
   [[nodiscard]] std::optional<std::string> Read(const std::string& path) const;
   void Protect(const std::string& path) { read_only_.insert(UpperPath(path)); }
+  /// No file can be made any more, as on a CD; those that are there can be read.
+  void ProtectDisk() { disk_is_protected_ = true; }
+  /// From now on the disk takes this many bytes more.
+  void LimitFreeBytes(std::uint64_t bytes) { free_bytes_ = bytes; }
+  [[nodiscard]] int OpenCount() const { return static_cast<int>(open_.size()); }
 
  private:
+  struct OpenFile {
+    std::string path;
+    std::uint32_t access;
+    std::size_t place;
+  };
+  /// Null, and a misuse, for a handle that is not open.
+  [[nodiscard]] OpenFile* FindOpen(FileHandle file);
+  [[nodiscard]] bool IsProtected(const std::string& upper_path) const;
+
   static std::string UpperPath(const std::string& path);
   /// A bare name is one in the Windows directory.
   [[nodiscard]] std::string ProfilePath(const std::string& file) const;
@@ -42,6 +66,10 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   std::set<std::string> read_only_;
   /// Profile files that the system keeps in memory.
   std::set<std::string> kept_;
+  std::map<FileHandle, OpenFile> open_;
+  FileHandle next_file_ = 0x40;
+  std::uint64_t free_bytes_ = ~std::uint64_t{0};
+  bool disk_is_protected_ = false;
 };
 
 }  // namespace qdix::os::simulated

@@ -144,6 +144,13 @@ std::int32_t SimulatedMachine::CreateProcessA(const std::string& command_line) {
   return kErrorSuccess;
 }
 
+bool SimulatedMachine::SetCurrentDirectoryA(const std::string& folder) {
+  if (log_.RecordAndFail("SetCurrentDirectoryA", folder)) return false;
+  if (!folders_.contains(base::UpperAscii(folder))) return false;
+  current_folder_ = folder;
+  return true;
+}
+
 bool SimulatedMachine::ExitWindowsEx(std::uint32_t flags, std::uint32_t reserved) {
   if (log_.RecordAndFail("ExitWindowsEx", std::to_string(flags) + ", " + std::to_string(reserved))) {
     return false;

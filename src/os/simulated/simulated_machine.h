@@ -67,6 +67,14 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   }
   /// Nobody can write into this file any more.
   void ProtectFile(const std::string& path) { files_.Protect(path); }
+  /// No file can be made any more, as on a CD; those that are there can be read.
+  void ProtectDisk() { files_.ProtectDisk(); }
+  /// From now on the disk takes this many bytes more.
+  void LimitFreeBytes(std::uint64_t bytes) { files_.LimitFreeBytes(bytes); }
+  [[nodiscard]] int OpenFileCount() const { return files_.OpenCount(); }
+  /// A folder that a program can be started in.
+  void AddFolder(const std::string& path) { folders_.insert(base::UpperAscii(path)); }
+  [[nodiscard]] const std::string& CurrentFolder() const { return current_folder_; }
   void SetWindowsDirectory(const std::string& folder) { files_.SetWindowsDirectory(folder); }
 
   // Drives, by their letters in upper case.
@@ -147,6 +155,7 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   bool MutexExistedBefore(const char* name) override;
   std::string ModuleFileName() override;
   std::int32_t CreateProcessA(const std::string& command_line) override;
+  bool SetCurrentDirectoryA(const std::string& folder) override;
   bool ExitWindowsEx(std::uint32_t flags, std::uint32_t reserved) override;
 
   simulated::CallLog log_;
@@ -168,6 +177,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   std::string module_file_name_ = "C:\\Program Files\\QDIX\\QDIX.exe";
   std::set<std::string> programs_{"DEFRAG"};
   std::vector<std::string> started_programs_;
+  std::set<std::string> folders_{"C:", "C:\\", "C:\\WINDOWS"};
+  std::string current_folder_ = "C:\\";
   int restarts_ = 0;
 };
 

@@ -36,4 +36,8 @@ std::int32_t Win32Processes::CreateProcessA(const std::string& command_line) {
   return kErrorSuccess;
 }
 
+bool Win32Processes::SetCurrentDirectoryA(const std::string& folder) {
+  return ::SetCurrentDirectoryA(folder.c_str()) != 0;
+}
+
 }  // namespace qdix::os::win32

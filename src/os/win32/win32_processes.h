@@ -15,6 +15,7 @@ class Win32Processes final : public Processes {
   [[nodiscard]] bool MutexExistedBefore(const char* name) override;
   [[nodiscard]] std::string ModuleFileName() override;
   [[nodiscard]] std::int32_t CreateProcessA(const std::string& command_line) override;
+  [[nodiscard]] bool SetCurrentDirectoryA(const std::string& folder) override;
 
  private:
   struct CloseOwnedHandle {

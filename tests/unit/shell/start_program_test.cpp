@@ -14,6 +14,7 @@ class AnsweringProcesses final : public os::Processes {
   explicit AnsweringProcesses(std::int32_t code) : code_(code) {}
   bool MutexExistedBefore(const char* /*name*/) override { return false; }
   std::string ModuleFileName() override { return {}; }
+  bool SetCurrentDirectoryA(const std::string& /*folder*/) override { return false; }
   std::int32_t CreateProcessA(const std::string& /*command_line*/) override { return code_; }
 
  private:
