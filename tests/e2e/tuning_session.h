@@ -62,7 +62,7 @@ class TuningSession : public Session {
  private:
   static constexpr int kHandDeadlineMs = 5000;
 
-  const SystemIniKeeper keeper_;
+  SystemIniKeeper keeper_;
   std::optional<RestartWatch> restarts_;
   std::uint32_t expected_restarts_ = 0;
 };
