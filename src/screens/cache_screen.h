@@ -43,7 +43,7 @@ struct CacheScreen {
                        .caption = "Enabled",
                        .access_key = 'E',
                        .tool_tip = kSavedSizeTip,
-                       .place = {208, 31, 48, 10}}};
+                       .place = {214, 31, 43, 10}}};
   ui::Label lblMinCache{FrameCache,
                         {.name = "lblMinCache",
                          .caption = "Min Cache Size : ",
@@ -57,7 +57,7 @@ struct CacheScreen {
                        .caption = "Enabled",
                        .access_key = 'b',
                        .tool_tip = kSavedSizeTip,
-                       .place = {208, 61, 48, 10}}};
+                       .place = {214, 61, 43, 10}}};
   ui::Label lblMaxCache{FrameCache,
                         {.name = "lblMaxCache",
                          .caption = "Max Cache Size : ",
@@ -71,7 +71,7 @@ struct CacheScreen {
                        .caption = "Enabled",
                        .access_key = 'l',
                        .tool_tip = kSavedSizeTip,
-                       .place = {208, 91, 48, 10}}};
+                       .place = {214, 91, 43, 10}}};
   ui::Label lblChunkSize{FrameCache,
                          {.name = "lblChunkSize",
                           .caption = "Chunk Size : ",

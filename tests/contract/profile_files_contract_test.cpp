@@ -127,6 +127,21 @@ TEST_F(FilesContract, FlushedProfileFileCanBeReplacedAndIsReadAnew) {
   EXPECT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", nullptr, kFile));
 }
 
+TEST_F(FilesContract, EntryKeepsTheSpellingOfItsKey) {
+  const std::string file = WindowsFolder() + kFile;
+  ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "Key", "1", kFile));
+  ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("S", "KEY", "2", kFile));
+  system.profile_files.WritePrivateProfileStringA(nullptr, nullptr, nullptr, kFile);
+  const os::FileHandle opened = system.files.CreateFileA(file.c_str(), os::kGenericRead, os::kOpenExisting);
+  ASSERT_NE(opened, os::kInvalidFile);
+  std::array<char, 200> content{};
+  std::uint32_t read = 0;
+  EXPECT_TRUE(system.files.ReadFile(opened, content.data(), content.size(), read));
+  system.files.CloseHandle(opened);
+  EXPECT_NE(std::string(content.data(), read).find("Key=2\r\n"), std::string::npos);
+  EXPECT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "Key", nullptr, kFile));
+}
+
 TEST_F(FilesContract, AttributesTellAFileAFolderAndNothing) {
   const std::string folder = WindowsFolder();
   ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "1", kFile));

@@ -117,7 +117,8 @@ void SetEntry(Lines& lines, const char* section, const char* key, const char* va
   }
   const auto entry = FindEntry(lines, *found, key);
   if (entry) {
-    lines[*entry] = line;
+    std::string& old_line = lines[*entry];
+    old_line = std::string(base::Trim(old_line.substr(0, old_line.find('=')))) + "=" + value;
     return;
   }
   lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(PlaceForNewEntry(lines, *found)), line);

@@ -84,7 +84,7 @@ TEST_F(CacheSaving, FirstSaveRecordsThenWritesInOrder) {
   EXPECT_EQ(rig.machine.ReadFile(kBackupPath),
             "[386Enh]\r\nPagingDrive=D:\r\n[vcache]\r\nMinFileCache=1024\r\nChunkSize=512 KB\r\n");
   EXPECT_EQ(rig.SystemIni(),
-            "[386Enh]\r\nPagingDrive=D:\r\n[vcache]\r\nminfilecache=4096\r\nchunksize=4096\r\n"
+            "[386Enh]\r\nPagingDrive=D:\r\n[vcache]\r\nMinFileCache=4096\r\nChunkSize=4096\r\n"
             "maxfilecache=8192\r\n");
   EXPECT_EQ(rig.ValueBytes(kTemplatesPath, ""), "1: 51 75 6F 6E 64 69 78 00");
   EXPECT_EQ(rig.ValueBytes(kOwnTemplatePath, "NameCache"), "3: 00 18 00 00");

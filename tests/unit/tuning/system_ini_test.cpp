@@ -52,12 +52,12 @@ TEST_F(SystemIni, EntriesOf254AndMoreCharactersGive254) {
   }
 }
 
-TEST_F(SystemIni, WriteReplacesTheLineAndNothingElse) {
+TEST_F(SystemIni, WriteReplacesTheValueAndNothingElse) {
   ini.WriteIniValue("vcache", "minfilecache", 1024, "System.ini");
   EXPECT_EQ(
       Content(),
       "[boot]\r\nshell=Explorer.exe\r\n\r\n[386Enh]\r\nPagingDrive=D:\r\nMinPagingFileSize=65536\r\n\r\n"
-      "[vcache]\r\nminfilecache=1024\r\nmaxfilecache= 8192 KB\r\nChunkSize=512\r\n");
+      "[vcache]\r\nMinFileCache=1024\r\nmaxfilecache= 8192 KB\r\nChunkSize=512\r\n");
   EXPECT_EQ(machine.Calls().back(), "WritePrivateProfileStringA(System.ini [vcache] minfilecache 1024)");
 }
 

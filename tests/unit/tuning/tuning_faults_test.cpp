@@ -23,7 +23,7 @@ constexpr std::array<const char*, 13> kSoundLines{"[386Enh]",
                                                   "MaxPagingFileSize=196608",
                                                   "[vcache]",
                                                   "MinFileCache=1024",
-                                                  "minfilecache=4096",
+                                                  "MinFileCache=4096",
                                                   "maxfilecache=8192",
                                                   "chunksize=4096",
                                                   "Other=1",
@@ -160,7 +160,7 @@ INSTANTIATE_TEST_SUITE_P(
     Scenarios, TuningFaults,
     testing::Values(Scenario{"BothTabs", &UseBothTabs,
                              "[386Enh]\r\nEMMExclude=A000\r\nPagingDrive=C:\r\nMinPagingFileSize=196608\r\n"
-                             "MaxPagingFileSize=196608\r\n[vcache]\r\nminfilecache=4096\r\nOther=1\r\n"
+                             "MaxPagingFileSize=196608\r\n[vcache]\r\nMinFileCache=4096\r\nOther=1\r\n"
                              "maxfilecache=8192\r\nchunksize=4096\r\n"},
                     Scenario{"Defaults", &GoBackToDefaults,
                              "[386Enh]\r\nEMMExclude=A000\r\nPaging=on\r\n[vcache]\r\nOther=1\r\n"}));
