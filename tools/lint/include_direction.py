@@ -18,12 +18,14 @@ LAYERS = {
     "memory": {"base", "os", "ui", "controls", "screens", "shell", "cpu"},
     "cpu": {"base", "os", "ui", "controls", "screens", "shell"},
     "tuning": {"base", "os", "ui", "controls", "screens", "shell", "memory"},
-    "app": {"base", "os", "ui", "controls", "screens", "shell", "memory", "cpu", "tuning"},
+    "launcher": {"base", "os", "ui", "controls", "screens", "shell", "memory", "cpu"},
+    "app": {"base", "os", "ui", "controls", "screens", "shell", "memory", "cpu", "tuning", "launcher"},
     "runtime": set(),
 }
 # The companion programs: nothing of each other and nothing of the main program's window.
 COMPANIONS = {
     "undo": {"base", "os", "ui", "shell", "tuning"},
+    "config_launcher": {"base", "os", "ui", "shell", "launcher"},
 }
 ROOTS = {"src": LAYERS, "companions": COMPANIONS}
 SYSTEM_HEADERS = {"windows.h", "commctrl.h", "shellapi.h", "shlobj.h", "commdlg.h", "windowsx.h", "objbase.h", "mmsystem.h"}
