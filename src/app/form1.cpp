@@ -33,6 +33,9 @@ Form1::Form1(const os::System& system)
       swap_save_(system.dialogs, application_, monitor_, swap_file_screen_, swap_file_,
                  {system_ini_, first_save_, restart_}),
       defragmenter_(system, application_, window_.Form1, swap_file_screen_, swap_file_),
+      launch_release_(release_, monitor_, settings_, launcher_screen_, startup_.Check4),
+      program_launcher_(system, application_, {window_.Form1, launcher_screen_, tray_menu_}, launch_release_),
+      config_watch_(system, launcher_screen_, window_.Timer7, program_launcher_),
       up_time_(system.clock, startup_),
       window_modes_(settings_, {window_, quondix_, automatic_, time_intervals_, startup_}),
       tray_icon_(system, window_.Form1, tray_menu_, monitor_, manual_release_) {

@@ -10,6 +10,9 @@
 #include "cpu/cpu_speed.h"
 #include "cpu/cpu_usage.h"
 #include "cpu/processor_identification.h"
+#include "launcher/config_watch.h"
+#include "launcher/launch_release.h"
+#include "launcher/program_launcher.h"
 #include "memory/automatic_release.h"
 #include "memory/manual_release.h"
 #include "memory/memory_monitor.h"
@@ -21,6 +24,7 @@
 #include "screens/about_screen.h"
 #include "screens/automatic_screen.h"
 #include "screens/cache_screen.h"
+#include "screens/launcher_screen.h"
 #include "screens/main_window.h"
 #include "screens/quondix_screen.h"
 #include "screens/startup_screen.h"
@@ -75,6 +79,7 @@ class Form1 {
   [[nodiscard]] screens::AutomaticScreen& Automatic() { return automatic_; }
   [[nodiscard]] screens::TimeIntervalsScreen& TimeIntervals() { return time_intervals_; }
   [[nodiscard]] screens::StartupScreen& Startup() { return startup_; }
+  [[nodiscard]] screens::LauncherScreen& Launcher() { return launcher_screen_; }
   [[nodiscard]] screens::CacheScreen& Cache() { return cache_; }
   [[nodiscard]] screens::SwapFileScreen& SwapFile() { return swap_file_screen_; }
   [[nodiscard]] screens::AboutScreen& About() { return about_; }
@@ -108,6 +113,7 @@ class Form1 {
   screens::AutomaticScreen automatic_{window_.SSTab1.Page(screens::kAutomaticTab)};
   screens::TimeIntervalsScreen time_intervals_{window_.SSTab1.Page(screens::kTimeIntervalsTab)};
   screens::StartupScreen startup_{window_.SSTab1.Page(screens::kStartupTab)};
+  screens::LauncherScreen launcher_screen_{window_.SSTab1.Page(screens::kLauncherTab)};
   screens::CacheScreen cache_{window_.SSTab1.Page(screens::kCacheTab)};
   screens::SwapFileScreen swap_file_screen_{window_.SSTab1.Page(screens::kSwapFileTab)};
   screens::AboutScreen about_{window_.SSTab1.Page(screens::kAboutTab)};
@@ -136,6 +142,9 @@ class Form1 {
   tuning::SwapSuggestion swap_suggestion_;
   tuning::SwapSave swap_save_;
   tuning::Defragmenter defragmenter_;
+  launcher::LaunchRelease launch_release_;
+  launcher::ProgramLauncher program_launcher_;
+  launcher::ConfigWatch config_watch_;
   UpTime up_time_;
   WindowModes window_modes_;
   TrayIcon tray_icon_;

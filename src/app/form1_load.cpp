@@ -45,6 +45,8 @@ base::Status Form1::Form_Load() {
   startup_release_.LoadAmount(total_ram_mb);
   monitor_.ShowTotals();
   startup_release_.LoadAndArmDelay();
+  const base::Status launcher_filled = program_launcher_.FillLauncherMenu();
+  if (!launcher_filled.Ok()) return launcher_filled;
   cache_settings_.CheckCacheStartValues();
   const base::Status activated = Form_Activate();
   load_finished_ = activated.Ok();

@@ -8,6 +8,9 @@ namespace qdix::ui {
 class Label final : public Control {
  public:
   Label(Container& parent, const Design& design) : Control(&parent, Kind::kLabel, design) {}
+
+  /// Paints it now and not when the program comes to it.
+  void Refresh() { Notify(Change::kRepaint); }
 };
 
 /// A group box. Option buttons of one frame belong together; disabling the frame disables what stands in it.

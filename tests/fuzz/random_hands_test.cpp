@@ -22,6 +22,7 @@ class RandomHands {
   void Run() {
     FillSettings();
     FillSystem();
+    FillLauncher();
     rig_.machine.LimitAllocatableBytes(Chance(3) ? 0xFFFFFFFFU : random_() % (600 * kMegabyte));
     rig_.Create();
     ui::VisitControls(rig_.program->Window(), ui::ControlVisitor::To<&RandomHands::Note>(*this));
@@ -38,6 +39,7 @@ class RandomHands {
     // Readings of the load between two updates of the graph leave their keys open.
     EXPECT_LE(rig_.machine.OpenKeyCount(), readings_);
     EXPECT_EQ(rig_.machine.TrayIconCount(), 0);
+    EXPECT_EQ(rig_.machine.OpenFileCount(), 0);
     EXPECT_TRUE(rig_.machine.Misuses().empty());
   }
 
@@ -57,9 +59,11 @@ class RandomHands {
 
   void FillSettings() {
     if (Chance(2)) rig_.SetHasRunBefore();
-    for (const char* key : {"FreeUpRAM", "TryTimes", "MinRAM", "AutoQuondix", "TimeQuondix", "AutoActive",
-                            "AutoSecs", "Warnings", "TimeActive", "TimeUnit", "CPUAutoActive", "AutoCPU",
-                            "CPUTimeActive", "TimeCPU", "CPU", "LastTab", "CounterDate", "CounterValue"}) {
+    for (const char* key :
+         {"FreeUpRAM",     "TryTimes",    "MinRAM",        "AutoQuondix",  "TimeQuondix",
+          "AutoActive",    "AutoSecs",    "Warnings",      "TimeActive",   "TimeUnit",
+          "CPUAutoActive", "AutoCPU",     "CPUTimeActive", "TimeCPU",      "CPU",
+          "LastTab",       "CounterDate", "CounterValue",  "Launcher RAM", "Launcher Retry"}) {
       if (Chance(2)) rig_.Store("Settings", key, RandomText());
     }
     for (const char* key : {"StartDisplay", "StartupRAM", "StartupTime", "TimeMinutes", "TimeHours"}) {
@@ -105,6 +109,17 @@ class RandomHands {
     if (Chance(2)) rig_.machine.RemoveExtendedQuery();
     if (Chance(2)) rig_.machine.RemoveProgram("defrag");
     rig_.machine.WhileBoxIsOpen([this] { AnswerBox(); });
+  }
+
+  /// A list of any bytes and any length: often one that would be read, now and then too long a one.
+  void FillLauncher() {
+    constexpr unsigned kRecordBytes = 565;
+    const unsigned records = Chance(20) ? 26 : Word() % 8;
+    std::string content;
+    while (content.size() < records * kRecordBytes + Word() % kRecordBytes) content += RandomText() + "   ";
+    if (Chance(2)) rig_.machine.WriteFile("C:\\Program Files\\QDIX\\launcher.dat", content);
+    if (Chance(4)) rig_.machine.ProtectDisk();
+    if (Chance(2)) rig_.machine.AddProgram("C:\\Program Files\\QDIX\\configL.exe");
   }
 
   /// Any answer that the box has, so that it is not always the default one.
@@ -157,6 +172,8 @@ class RandomHands {
         control.SetFocus();
         return static_cast<ui::TextBox&>(control).TypeText(RandomText());
       case ui::Kind::kListBox:
+        if (Chance(3)) return static_cast<ui::ListBox&>(control).DoubleClick(number % 32);
+        return static_cast<ui::ListBox&>(control).ChooseIndex(number % 32);
       case ui::Kind::kDropDownList:
         return static_cast<ui::ListControl&>(control).ChooseIndex(number % 32);
       case ui::Kind::kVerticalScrollBar:

@@ -1,5 +1,6 @@
 #include "os/simulated/simulated_machine.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/date.h"
@@ -138,7 +139,10 @@ std::string SimulatedMachine::ModuleFileName() {
 
 std::int32_t SimulatedMachine::CreateProcessA(const std::string& command_line) {
   if (log_.RecordAndFail("CreateProcessA", command_line)) return kErrorFileNotFound;
-  const std::string program = base::UpperAscii(command_line.substr(0, command_line.find(' ')));
+  const bool is_quoted = command_line.starts_with('"');
+  const std::size_t begin = is_quoted ? 1 : 0;
+  const std::size_t end = std::min(command_line.find(is_quoted ? '"' : ' ', begin), command_line.size());
+  const std::string program = base::UpperAscii(command_line.substr(begin, end - begin));
   if (!programs_.contains(program)) return kErrorFileNotFound;
   started_programs_.push_back(command_line);
   return kErrorSuccess;

@@ -128,7 +128,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   void SetOtherCopyRunning(bool is_running) { other_copy_ = is_running; }
   void SetModuleFileName(const std::string& path) { module_file_name_ = path; }
 
-  // Other programs, by the first word of their command line; the disk defragmenter is there from the start.
+  // Other programs, by the first word of their command line, or what stands in quotation marks there; the
+  // disk defragmenter is there from the start.
   void AddProgram(const std::string& name) { programs_.insert(base::UpperAscii(name)); }
   void RemoveProgram(const std::string& name) { programs_.erase(base::UpperAscii(name)); }
   /// The command lines that started one, in order.

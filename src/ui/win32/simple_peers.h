@@ -12,6 +12,7 @@ class LabelPeer final : public NativeControl {
 
  private:
   [[nodiscard]] bool TakesKeyboard() const override { return false; }
+  void PixelsChanged() override { UpdateWindow(Window()); }
 };
 
 class FramePeer final : public NativeControl {

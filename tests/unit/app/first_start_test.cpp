@@ -25,7 +25,9 @@ TEST(FirstStart, StoresByItsEventsExactlyTheDefaultsOfA64MegabyteMachine) {
                                                           {"AutoQuondix", "32"},
                                                           {"TimeQuondix", "32"},
                                                           {"TimeUnit", "1"},
-                                                          {"AutoSecs", "20"}}));
+                                                          {"AutoSecs", "20"},
+                                                          {"Launcher RAM", "1"},
+                                                          {"Launcher Retry", "1"}}));
   const std::map<std::string, std::string> startup =
       rig.machine.RegistryTexts(os::kHkeyCurrentUser, ProgramRig::SectionPath("Startup"));
   EXPECT_EQ(startup, (std::map<std::string, std::string>{

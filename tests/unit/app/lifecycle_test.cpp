@@ -31,7 +31,7 @@ TEST_F(Lifecycle, LoadWritesInItsFixedOrder) {
   EXPECT_EQ(WrittenValues(),
             (Texts{"CounterDate", "CounterValue", "Quondix", "HasRun", "CPUAutoActive", "CPUTimeActive",
                    "FreeUpRAM", "TryTimes", "MinRAM", "AutoQuondix", "TimeQuondix", "TimeUnit", "TimeMinutes",
-                   "AutoSecs", "StartDisplay", "StartupTime"}));
+                   "AutoSecs", "StartDisplay", "StartupTime", "Launcher RAM", "Launcher Retry"}));
 }
 
 TEST_F(Lifecycle, LoadReadsItsSettingsInItsFixedOrder) {
@@ -44,7 +44,7 @@ TEST_F(Lifecycle, LoadReadsItsSettingsInItsFixedOrder) {
                          "TimeCPU",      "LastTab",       "CounterDate", "CounterValue", "FreeUpRAM",
                          "TryTimes",     "MinRAM",        "AutoQuondix", "TimeQuondix",  "AutoActive",
                          "Warnings",     "TimeUnit",      "TimeMinutes", "AutoSecs",     "TimeActive",
-                         "StartDisplay", "StartupRAM",    "StartupTime"}));
+                         "StartDisplay", "StartupRAM",    "StartupTime", "Launcher RAM", "Launcher Retry"}));
 }
 
 TEST_F(Lifecycle, SevenTimersStandAsDesignedBeforeTheLoad) {

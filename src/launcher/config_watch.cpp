@@ -1,0 +1,53 @@
+#include "launcher/config_watch.h"
+
+#include "shell/application_folder.h"
+#include "shell/start_program.h"
+
+namespace qdix::launcher {
+
+namespace {
+
+/// Ticks in which the editor opens its window: nine seconds.
+constexpr std::int16_t kOpeningTicks = 3;
+/// Twelve and a half minutes later nobody waits for the editor any more.
+constexpr std::int16_t kMostTicks = 250;
+
+}  // namespace
+
+ConfigWatch::ConfigWatch(const os::System& system, screens::LauncherScreen& screen, ui::Timer& timer7,
+                         ProgramLauncher& launcher)
+    : system_(system), timer7_(timer7), launcher_(launcher) {
+  screen.Command15.OnClick = ui::Handler::To<&ConfigWatch::Command15_Click>(*this);
+  timer7_.OnTimer = ui::Handler::To<&ConfigWatch::Timer7_Timer>(*this);
+}
+
+os::WindowHandle ConfigWatch::FindEditor() { return system_.windows.FindWindowA(nullptr, "Config Launcher"); }
+
+base::Status ConfigWatch::Command15_Click() {
+  const os::WindowHandle editor = FindEditor();
+  if (editor != 0) {
+    system_.windows.SetForegroundWindow(editor);
+    return base::kDone;
+  }
+  // In quotation marks, since the folder's name may have blanks.
+  const std::string editor_path = shell::ApplicationFolder(system_.processes) + "configL.exe";
+  const base::Status started = shell::StartProgram(system_.processes, '"' + editor_path + '"');
+  if (!started.Ok()) return started;
+  config_watch_ticks_ = 0;
+  timer7_.SetEnabled(true);
+  return base::kDone;
+}
+
+/// The tick in which the watch gives up still looks once.
+base::Status ConfigWatch::Timer7_Timer() {
+  ++config_watch_ticks_;
+  if (config_watch_ticks_ <= kOpeningTicks) return base::kDone;
+  if (config_watch_ticks_ > kMostTicks) timer7_.SetEnabled(false);
+  if (FindEditor() != 0) return base::kDone;
+  launcher_.HideMenu();
+  const base::Status filled = launcher_.FillLauncherMenu();
+  timer7_.SetEnabled(false);
+  return filled;
+}
+
+}  // namespace qdix::launcher

@@ -1,0 +1,114 @@
+#include "launcher/launch_release.h"
+
+#include <algorithm>
+
+#include "base/numbers.h"
+
+namespace qdix::launcher {
+
+namespace {
+
+constexpr const char* kShareKey = "Launcher RAM";
+constexpr const char* kPassesKey = "Launcher Retry";
+constexpr const char* kFirst = "1";
+
+/// Megabytes of 1,040,000 bytes that one pass takes at most.
+constexpr double kMostMb = 250;
+
+}  // namespace
+
+/// The amount of each pass of one release. Without a share it stays what it was: nothing at first.
+struct LaunchRelease::Amount {
+  const LaunchRelease& owner;
+  double mb = 0;
+
+  double Next() {
+    const double total_mb = owner.monitor_.TotalRAM();
+    if (owner.screen_.Option9.Selected()) {
+      mb = base::WholePart(total_mb * 0.33);
+    } else if (owner.screen_.Option8.Selected()) {
+      mb = base::WholePart(total_mb * 0.5);
+    } else if (owner.screen_.Option7.Selected()) {
+      mb = base::WholePart(total_mb * 0.66);
+    }
+    mb = std::min(mb, kMostMb);
+    return mb;
+  }
+};
+
+LaunchRelease::LaunchRelease(memory::MemoryRelease& release, const memory::MemoryMonitor& monitor,
+                             shell::SettingsStore& settings, screens::LauncherScreen& screen,
+                             const ui::CheckBox& warning_silencer)
+    : release_(release),
+      monitor_(monitor),
+      settings_(settings),
+      screen_(screen),
+      warning_silencer_(warning_silencer),
+      passes_handlers_(base::Callback<base::Status(int)>::To<&LaunchRelease::Slider_6_Click>(*this)) {
+  using ui::Handler;
+  screen_.Option6.OnClick = Handler::To<&LaunchRelease::Option6_Click>(*this);
+  screen_.Option7.OnClick = Handler::To<&LaunchRelease::Option7_Click>(*this);
+  screen_.Option8.OnClick = Handler::To<&LaunchRelease::Option8_Click>(*this);
+  screen_.Option9.OnClick = Handler::To<&LaunchRelease::Option9_Click>(*this);
+  int index = 0;
+  for (ui::OptionButton& element : screen_.Slider_6) element.OnClick = passes_handlers_.Of(index++);
+}
+
+void LaunchRelease::LoadSettings() {
+  const std::string share = settings_.GetSetting(shell::kSettingsSection, kShareKey, kFirst);
+  ui::OptionButton* option = &screen_.Option6;
+  if (share == "1") option = &screen_.Option9;
+  if (share == "2") option = &screen_.Option8;
+  if (share == "3") option = &screen_.Option7;
+  option->SetSelected(true);
+  const std::string passes = settings_.GetSetting(shell::kSettingsSection, kPassesKey, kFirst);
+  for (ui::OptionButton& element : screen_.Slider_6) {
+    element.SetSelected(element.Caption() == passes);
+  }
+}
+
+memory::ReleaseOutcome LaunchRelease::FreeMemoryBeforeLaunch() {
+  Amount amount{*this};
+  const memory::ReleaseRequest request{
+      .amount_mb = base::Callback<double()>::To<&Amount::Next>(amount),
+      .passes = static_cast<double>(Passes()),
+      .warning_is_silenced = base::Callback<bool()>::To<&LaunchRelease::WarningIsSilenced>(*this),
+  };
+  return release_.FreeUpMemory(request);
+}
+
+int LaunchRelease::Passes() const {
+  for (int index = 0; index < kMostPasses; ++index) {
+    if (screen_.Slider_6[static_cast<std::size_t>(index)].Selected()) return index + 1;
+  }
+  return 0;
+}
+
+bool LaunchRelease::WarningIsSilenced() { return warning_silencer_.Ticked(); }
+
+base::Status LaunchRelease::Option9_Click() {
+  settings_.SaveSetting(shell::kSettingsSection, kShareKey, "1");
+  return base::kDone;
+}
+
+base::Status LaunchRelease::Option8_Click() {
+  settings_.SaveSetting(shell::kSettingsSection, kShareKey, "2");
+  return base::kDone;
+}
+
+base::Status LaunchRelease::Option7_Click() {
+  settings_.SaveSetting(shell::kSettingsSection, kShareKey, "3");
+  return base::kDone;
+}
+
+base::Status LaunchRelease::Option6_Click() {
+  settings_.SaveSetting(shell::kSettingsSection, kShareKey, "4");
+  return base::kDone;
+}
+
+base::Status LaunchRelease::Slider_6_Click(int index) {
+  settings_.SaveNumber(shell::kSettingsSection, kPassesKey, index + 1);
+  return base::kDone;
+}
+
+}  // namespace qdix::launcher

@@ -1,0 +1,47 @@
+// The release before a program is started: its share of the memory and the number of its passes.
+#pragma once
+
+#include "memory/memory_monitor.h"
+#include "memory/memory_release.h"
+#include "screens/launcher_screen.h"
+#include "shell/settings_store.h"
+#include "ui/control_array.h"
+
+namespace qdix::launcher {
+
+class LaunchRelease {
+ public:
+  /// `warning_silencer` is the box that keeps the warning of low resources from being shown.
+  LaunchRelease(memory::MemoryRelease& release, const memory::MemoryMonitor& monitor,
+                shell::SettingsStore& settings, screens::LauncherScreen& screen,
+                const ui::CheckBox& warning_silencer);
+
+  /// Brings share and number of passes from the settings into their controls.
+  void LoadSettings();
+
+  /// Frees the chosen share of the memory, 250 MB of 1,040,000 bytes at most, once for each pass. A failure
+  /// is told to the user and ends the passes.
+  memory::ReleaseOutcome FreeMemoryBeforeLaunch();
+
+  base::Status Option6_Click();
+  base::Status Option7_Click();
+  base::Status Option8_Click();
+  base::Status Option9_Click();
+  base::Status Slider_6_Click(int index);
+
+ private:
+  static constexpr int kMostPasses = 5;
+
+  struct Amount;
+  [[nodiscard]] int Passes() const;
+  [[nodiscard]] bool WarningIsSilenced();
+
+  memory::MemoryRelease& release_;
+  const memory::MemoryMonitor& monitor_;
+  shell::SettingsStore& settings_;
+  screens::LauncherScreen& screen_;
+  const ui::CheckBox& warning_silencer_;
+  ui::ElementHandlers<kMostPasses> passes_handlers_;
+};
+
+}  // namespace qdix::launcher
