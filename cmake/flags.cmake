@@ -19,7 +19,8 @@ target_compile_options(qdix_arithmetic INTERFACE
 
 # Code that ships: no exceptions, no run-time types.
 add_library(qdix_shipped INTERFACE)
-target_compile_options(qdix_shipped INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Os;-flto;\
+target_compile_options(qdix_shipped INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Os;-flto;-fno-inline-functions-called-once;\
+-mno-stack-arg-probe;-mno-accumulate-outgoing-args;-mpreferred-stack-boundary=2;\
 -fno-exceptions;-fno-rtti;-fno-threadsafe-statics;-fno-use-cxa-atexit;-fno-asynchronous-unwind-tables;\
 -ffunction-sections;-fdata-sections;-Walloca;-Wframe-larger-than=3000;-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
 target_link_libraries(qdix_shipped INTERFACE qdix_windows95 qdix_arithmetic)

@@ -34,6 +34,10 @@ add_executable(planted_cmov ${planted}/planted_cmov.cpp)
 qdix_link(planted_cmov)
 image_finds(planted_cmov "none of the 386: cmov" planted_cmov)
 
+add_executable(planted_frame ${planted}/planted_frame.cpp)
+qdix_link(planted_frame)
+image_finds(planted_frame "could step over the guard page" planted_frame)
+
 # The full import library lets a later function in; the check of the finished exe still finds it.
 add_executable(planted_late_import ${planted}/planted_late_import.cpp)
 qdix_link(planted_late_import /usr/i686-w64-mingw32/lib/libkernel32.a)

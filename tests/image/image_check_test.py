@@ -10,7 +10,7 @@ import tempfile
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools" / "image_check"))
-from image_check import Image, check_header, check_instructions, is_386, is_allowed  # noqa: E402
+from image_check import Image, check_header, check_instructions, frame_bytes, is_386, is_allowed  # noqa: E402
 
 SOUND_EXE = pathlib.Path(sys.argv.pop(1))
 
@@ -46,6 +46,18 @@ class Instructions(unittest.TestCase):
         allowed = [text for text in listed(LATER) if is_allowed(".newcpu", text)]
         self.assertEqual(allowed, ["cpuid", "rdtsc"])
         self.assertEqual([text for text in listed(LATER) if is_allowed(".text", text)], [])
+
+
+class Frames(unittest.TestCase):
+    def test_their_size_is_read_in_each_form(self):
+        self.assertEqual(frame_bytes("sub    $0x1234,%esp"), 0x1234)
+        self.assertEqual(frame_bytes("subl   $0x1234,%esp"), 0x1234)
+        self.assertEqual(frame_bytes("add    $0xffffff80,%esp"), 0x80)
+        self.assertEqual(frame_bytes("lea    -0x1234(%esp),%esp"), 0x1234)
+
+    def test_other_instructions_make_none(self):
+        for text in ("add    $0x10,%esp", "sub    $0x10,%eax", "lea    0x10(%esp),%esp", "push   %ebp"):
+            self.assertEqual(frame_bytes(text), 0)
 
 
 class Header(unittest.TestCase):

@@ -29,6 +29,8 @@ fsubr fsubrp ftst fucom fucomp fucompp fwait fxam fxch fxtract fyl2x fyl2xp1
 ALLOWED = I386 | I387
 # What may stand in this section and nowhere else: the guarded questions to processors that know them.
 NEWER_SECTION = ".newcpu"
+# A page is 4,096 bytes; no probe walks down a larger frame, and a call needs room below it.
+MOST_FRAME_BYTES = 3500
 NEWER = {"cpuid", "rdtsc"}
 PREFIXES = {"rep", "repz", "repnz", "lock", "cs", "ds", "es", "ss", "fs", "gs", "data16", "addr16"}
 EMPTY_LISTS = (b"\xff" * 4 + b"\0" * 4) * 2
@@ -113,6 +115,15 @@ def is_allowed(section, text):
     return is_386(text) or (section == NEWER_SECTION and mnemonic_of(text) in NEWER)
 
 
+def frame_bytes(text):
+    """How far an instruction moves the stack down at once; 0 for any other."""
+    match = re.match(r"\s*(?:sub[lw]?\s+\$0x([0-9a-f]+)|add[lw]?\s+\$0x(f[0-9a-f]{7})|lea[lw]?\s+-0x([0-9a-f]+)\(%esp\)),%esp", text)
+    if not match:
+        return 0
+    sub, add, lea = match.groups()
+    return 0x100000000 - int(add, 16) if add else int(sub or lea, 16)
+
+
 def check_imports(image, exports):
     known = {path.stem: set(path.read_text(encoding="ascii").split()) for path in exports.glob("*.txt")
              if path.stem != "later-than-95"}
@@ -134,6 +145,8 @@ def check_instructions(image):
         count += 1
         if not is_allowed(section, text):
             yield f"instruction at {address} is none of the 386: {text.strip()}"
+        if frame_bytes(text) > MOST_FRAME_BYTES:
+            yield f"frame at {address} of {frame_bytes(text)} bytes could step over the guard page of the stack"
     if count < 10:
         yield "holds no code, or the code could not be read"
 
