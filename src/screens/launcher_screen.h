@@ -21,7 +21,7 @@ struct LauncherScreen {
   ui::Button Command15{page,
                        {.name = "Command15",
                         .caption = "Configure Program List",
-                        .access_key = 'g',
+                        .access_key = 'f',
                         .tool_tip = "Opens the editor of this list",
                         .place = {4, 164, 96, 14}}};
 
@@ -42,7 +42,7 @@ struct LauncherScreen {
   ui::OptionButton Option7{FrameLauncher,
                            {.name = "Option7",
                             .caption = "66% of My Total RAM   (Aggressive)",
-                            .access_key = 'A',
+                            .access_key = 'g',
                             .place = {113, 40, 146, 10}}};
   ui::OptionButton Option6{FrameLauncher,
                            {.name = "Option6",

@@ -77,6 +77,10 @@ void ListBox::DoubleClick(int index) {
   Events().Run(OnDoubleClick);
 }
 
+void ListBox::PressEnter() {
+  if (Reachable() && SelectedIndex() != kNoSelection) Events().Run(OnDoubleClick);
+}
+
 void DropDownList::SetText(std::string_view text) {
   const int index = IndexOf(text);
   if (index != kNoSelection) base::Ignore(SetSelectedIndex(index));  // the row was just seen

@@ -20,7 +20,9 @@ RegistryTexts SettingsOfAFirstStart(const Machine& machine) {
           {"AutoQuondix", machine.ProposedReleaseAmount()},
           {"TimeQuondix", machine.ProposedReleaseAmount()},
           {"TimeUnit", "1"},
-          {"AutoSecs", "20"}};
+          {"AutoSecs", "20"},
+          {"Launcher RAM", "1"},
+          {"Launcher Retry", "1"}};
 }
 
 /// Local time in days since the end of 1899.

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include "ui/control_numbers.h"
+#include "ui/lists.h"
 #include "ui/win32/peer_factory.h"
 #include "ui/win32/popup_menu.h"
 #include "ui/win32/reflection.h"
@@ -213,6 +214,7 @@ std::optional<LRESULT> FormWindow::HandleKeyboard(UINT message, WPARAM wparam, L
       return 0;
     case WM_COMMAND:
       if (LOWORD(wparam) == IDCANCEL) PressCancelButton();
+      if (LOWORD(wparam) == IDOK) PressEnterInList();
       return 0;
     case WM_GETDLGCODE:
       return FormKeys::DialogCode(lparam);
@@ -298,6 +300,14 @@ LRESULT FormWindow::DefaultButtonNumber() const {
 void FormWindow::PressCancelButton() {
   Button* const button = keys_.ReachableButton(ButtonRole::kCancel);
   if (button != nullptr) button->Press();
+}
+
+/// Enter arrives here where no default button takes it.
+void FormWindow::PressEnterInList() {
+  Control* const focused = form_.Focused();
+  if (focused != nullptr && focused->GetKind() == Kind::kListBox) {
+    static_cast<ListBox*>(focused)->PressEnter();
+  }
 }
 
 /// The dialog manager's request to move the keyboard: to a window, or to the next (or, with a target other

@@ -66,6 +66,7 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   void KeepApplicationWindowBehind() const;
   [[nodiscard]] LRESULT DefaultButtonNumber() const;
   void PressCancelButton();
+  void PressEnterInList();
   void MoveDialogFocus(WPARAM target, bool target_is_window) const;
   std::optional<LRESULT> HandleKeyboard(UINT message, WPARAM wparam, LPARAM lparam);
   std::optional<LRESULT> HandleLife(UINT message, WPARAM wparam, LPARAM lparam);

@@ -191,6 +191,21 @@ TEST_F(UiFocus, EnterPressesTheButtonThatHasTheKeyboard) {
   EXPECT_NE(demo.Send(demo.go, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON, 0) << "the default again";
 }
 
+TEST_F(UiFocus, EnterOpensTheSelectedRowWhereNoDefaultButtonIsReachable) {
+  ASSERT_TRUE(demo.tabs.SetTab(1).Ok());
+  demo.list.AddItem("one");
+  demo.list.OnDoubleClick = events.AsHandler();
+  demo.list.SetFocus();
+  demo.Press(VK_RETURN);
+  EXPECT_EQ(events.Count(), 0) << "no row is selected";
+  ASSERT_TRUE(demo.list.SetSelectedIndex(0).Ok());
+  demo.Press(VK_RETURN);
+  EXPECT_EQ(events.Count(), 1);
+  demo.slider.SetFocus();
+  demo.Press(VK_RETURN);
+  EXPECT_EQ(events.Count(), 1);
+}
+
 TEST_F(UiFocus, EnterDoesNothingWhereNoDefaultButtonIsReachable) {
   demo.go.OnClick = events.AsHandler();
   ASSERT_TRUE(demo.tabs.SetTab(1).Ok());

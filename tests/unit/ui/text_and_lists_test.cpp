@@ -267,6 +267,21 @@ TEST_F(ListRules, DoubleClickOutsideTheRowsOrOutOfReachDoesNothing) {
   EXPECT_EQ(clicked.count, 0);
 }
 
+TEST_F(ListRules, EnterOpensTheSelectedRow) {
+  ui::ListBox list(bench.form, {.name = "List"});
+  Fill(list);
+  Handled opened;
+  list.OnDoubleClick = opened.Handler();
+  list.PressEnter();
+  EXPECT_EQ(opened.count, 0);
+  EXPECT_TRUE(list.Choose("10"));
+  list.PressEnter();
+  EXPECT_EQ(opened.count, 1);
+  list.SetEnabled(false);
+  list.PressEnter();
+  EXPECT_EQ(opened.count, 1);
+}
+
 TEST_F(ListRules, UnreachableListTakesNoChoice) {
   ui::ListBox list(bench.form, {.name = "List"});
   Fill(list);
