@@ -81,6 +81,11 @@ void Form::PopUpMenu(MenuItem& menu) {
   if (form_peer_ != nullptr && !unloaded_) form_peer_->PopUp(menu);
 }
 
+void Form::Close() {
+  if (unloading_ || (OnQueryClose && !OnQueryClose())) return;
+  Unload();
+}
+
 void Form::Unload() {
   if (unloading_) return;
   unloading_ = true;

@@ -54,6 +54,9 @@ class Form final : public Container {
 
   void PopUpMenu(MenuItem& menu);
 
+  /// The user closes the window: unloads, unless OnQueryClose refuses.
+  void Close();
+
   /// Fires OnUnload once, stops the dispatcher and tells the peer. Later calls do nothing.
   void Unload();
   [[nodiscard]] bool Unloaded() const { return unloaded_; }
@@ -62,6 +65,8 @@ class Form final : public Container {
   void PointerMoved(int button, int shift, double x_twips, double y_twips);
 
   Handler OnActivate;
+  /// Answers whether a user's wish to close the window is followed; unbound, it is.
+  base::Callback<bool()> OnQueryClose;
   Handler OnUnload;
   base::Callback<base::Status(int, int, double, double)> OnMouseMove;
 

@@ -20,12 +20,13 @@ LAYERS = {
     "tuning": {"base", "os", "ui", "controls", "screens", "shell", "memory"},
     "launcher": {"base", "os", "ui", "controls", "screens", "shell", "memory", "cpu"},
     "app": {"base", "os", "ui", "controls", "screens", "shell", "memory", "cpu", "tuning", "launcher"},
+    "companion": {"base", "os", "ui"},
     "runtime": set(),
 }
 # The companion programs: nothing of each other and nothing of the main program's window.
 COMPANIONS = {
-    "undo": {"base", "os", "ui", "shell", "tuning"},
-    "config_launcher": {"base", "os", "ui", "shell", "launcher"},
+    "undo": {"base", "os", "ui", "shell", "tuning", "companion"},
+    "config_launcher": {"base", "os", "ui", "shell", "launcher", "companion"},
 }
 ROOTS = {"src": LAYERS, "companions": COMPANIONS}
 SYSTEM_HEADERS = {"windows.h", "commctrl.h", "shellapi.h", "shlobj.h", "commdlg.h", "windowsx.h", "objbase.h", "mmsystem.h"}

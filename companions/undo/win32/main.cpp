@@ -1,13 +1,11 @@
-// The entry of undo.exe: puts the program, its window and the real system together and runs the message loop.
-// Decides nothing.
+// The entry of undo.exe: puts the program and the peers of its controls together. Decides nothing.
 #include <windows.h>
 
 #include <memory>
-#include <span>
 
-#include "os/win32/win32_system.h"
+#include "companion/win32/companion_program.h"
 #include "runtime/entry.h"
-#include "ui/win32/form_window.h"
+#include "ui/win32/simple_peers.h"
 #include "undo/undo_form.h"
 #include "undo/win32/resources.h"
 
@@ -15,34 +13,24 @@ namespace qdix::undo::win32 {
 
 namespace {
 
-/// What lives as long as the process runs its loop. On the heap, since the controls alone are more than a
-/// frame of the stack should hold.
-class Program {
- public:
-  explicit Program(HINSTANCE instance)
-      : form_(system_.GetSystem()),
-        window_(instance, kUndoIcon, form_.TheApplication(), form_.Window(), std::span<ui::Timer* const>()) {
-    using Hook = base::Callback<void()>;
-    window_.OnUnloaded = Hook::To<&os::win32::Win32System::Stop>(system_);
-    window_.OnSessionEnding = Hook::To<&UndoForm::EndSession>(form_);
-    system_.SetMainWindow(window_.MainWindow());
-  }
+using Program = companion::win32::CompanionProgram<UndoForm>;
 
-  /// Returns when the window has unloaded; false where the windows could not be made.
-  [[nodiscard]] bool Run() {
-    if (!window_.Complete()) return false;
-    form_.Start();
-    while (system_.EventPump().WaitAndHandle()) {
-    }
-    return true;
+std::unique_ptr<ui::win32::NativeControl> MakeOwnPeer(const ui::win32::PeerContext& context,
+                                                      ui::Control& model, HWND parent, int number) {
+  using namespace ui::win32;
+  switch (model.GetKind()) {
+    case ui::Kind::kFrame:
+      return MakePeerOf<FramePeer, ui::Frame>(context, model, parent, number);
+    case ui::Kind::kLabel:
+      return MakePeerOf<LabelPeer, ui::Label>(context, model, parent, number);
+    case ui::Kind::kButton:
+      return MakePeerOf<ButtonPeer, ui::Button>(context, model, parent, number);
+    case ui::Kind::kCheckBox:
+      return MakePeerOf<CheckBoxPeer, ui::CheckBox>(context, model, parent, number);
+    default:
+      return nullptr;
   }
-
- private:
-  // The windows go first, then the program whose models they show, then the system.
-  os::win32::Win32System system_;
-  UndoForm form_;
-  ui::win32::FormWindow window_;
-};
+}
 
 }  // namespace
 
@@ -51,6 +39,8 @@ class Program {
 /// The system applies the wish of who started the program by itself, when the main window is shown for the
 /// first time.
 extern "C" int QdixMain(void* instance, int /*show_command*/) {
-  const auto program = std::make_unique<qdix::undo::win32::Program>(static_cast<HINSTANCE>(instance));
+  namespace own = qdix::undo::win32;
+  const auto program =
+      std::make_unique<own::Program>(static_cast<HINSTANCE>(instance), own::kUndoIcon, &own::MakeOwnPeer);
   return program->Run() ? 0 : 1;
 }

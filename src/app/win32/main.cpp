@@ -21,7 +21,8 @@ class Program {
   explicit Program(HINSTANCE instance)
       : form1_(system_.GetSystem()),
         timers_(form1_.Timers()),
-        window_(instance, kProgramIcon, form1_.TheApplication(), form1_.Window(), timers_) {
+        window_(instance, kProgramIcon, form1_.TheApplication(), form1_.Window(), timers_,
+                ui::win32::MakePeer) {
     using Hook = base::Callback<void()>;
     window_.OnUnloaded = Hook::To<&Program::Unloaded>(*this);
     window_.OnSessionEnding = Hook::To<&Form1::EndSession>(form1_);

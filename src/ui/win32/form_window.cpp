@@ -4,7 +4,6 @@
 
 #include "ui/control_numbers.h"
 #include "ui/lists.h"
-#include "ui/win32/peer_factory.h"
 #include "ui/win32/popup_menu.h"
 #include "ui/win32/reflection.h"
 
@@ -66,9 +65,10 @@ int ShiftBits(WPARAM buttons) {
 FormWindow::CommonControls::CommonControls() { InitCommonControls(); }
 
 FormWindow::FormWindow(HINSTANCE instance, int icon_id, Application& application, Form& form,
-                       std::span<Timer* const> timers)
+                       std::span<Timer* const> timers, PeerFactory make_peer)
     : application_(application),
       form_(form),
+      make_peer_(make_peer),
       icon_(LoadMainIcon(instance, icon_id)),
       small_icon_(LoadSmallIcon(instance, icon_id)),
       taskbar_created_message_(RegisterWindowMessageA("TaskbarCreated")),
@@ -106,7 +106,7 @@ bool FormWindow::Complete() const {
 }
 
 void FormWindow::MakeControl(Control& control, int number) {
-  peers_.Add(MakePeer(context_, control, StandsOn(control), number));
+  peers_.Add(make_peer_(context_, control, StandsOn(control), number));
   NativeControl* const peer = peers_.ByNumber(number);
   if (peer != nullptr) peer->RefreshVisible();
 }
@@ -248,8 +248,11 @@ std::optional<LRESULT> FormWindow::HandleLife(UINT message, WPARAM wparam, LPARA
     case WM_ENDSESSION:
       if (wparam != FALSE) EndSession();
       return 0;
+    case WM_DROPFILES:
+      if (OnFilesDropped) OnFilesDropped(wparam);
+      return 0;
     case WM_CLOSE:
-      form_.Unload();
+      form_.Close();
       return 0;
     default:
       return std::nullopt;

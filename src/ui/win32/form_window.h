@@ -13,6 +13,7 @@
 #include "ui/win32/focus_keeper.h"
 #include "ui/win32/form_keys.h"
 #include "ui/win32/owned.h"
+#include "ui/win32/peer_factory.h"
 #include "ui/win32/peer_table.h"
 #include "ui/win32/subclass.h"
 #include "ui/win32/tool_tips.h"
@@ -25,9 +26,9 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
  public:
   /// The icon of the main window is that of the resource `icon_id`, or the system's where there is none.
   /// Application, form and timers must outlive this object. The place of the form gives its inner size; the
-  /// window stands in the middle of the screen.
+  /// window stands in the middle of the screen. `make_peer` knows every kind of control that the form has.
   FormWindow(HINSTANCE instance, int icon_id, Application& application, Form& form,
-             std::span<Timer* const> timers);
+             std::span<Timer* const> timers, PeerFactory make_peer);
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
   ~FormWindow() override;
@@ -46,6 +47,9 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   base::Callback<void()> OnSessionEnding;
   /// The taskbar was started anew and has lost the icons in its notification area.
   base::Callback<void()> OnTaskbarCreated;
+  /// Files were dropped on the window, which somebody made ready for it. The word is their HDROP, which the
+  /// receiver frees.
+  base::Callback<void(WPARAM)> OnFilesDropped;
 
  private:
   void PopUp(MenuItem& menu) override;
@@ -78,6 +82,7 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
 
   Application& application_;
   Form& form_;
+  PeerFactory make_peer_;
   CommonControls common_controls_;
   HICON icon_;
   OwnedIcon small_icon_;

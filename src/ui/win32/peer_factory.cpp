@@ -9,49 +9,40 @@
 
 namespace qdix::ui::win32 {
 
-namespace {
-
-template <class Peer, class Model>
-std::unique_ptr<NativeControl> Make(const PeerContext& context, Control& model, HWND parent, int number) {
-  return std::make_unique<Peer>(context, static_cast<Model&>(model), parent, number);
-}
-
-}  // namespace
-
 std::unique_ptr<NativeControl> MakePeer(const PeerContext& context, Control& model, HWND parent, int number) {
   switch (model.GetKind()) {
     case Kind::kForm:
       return nullptr;
     case Kind::kTabStrip:
-      return Make<TabStripPeer, TabStrip>(context, model, parent, number);
+      return MakePeerOf<TabStripPeer, TabStrip>(context, model, parent, number);
     case Kind::kTabPage:
-      return Make<TabPagePeer, TabPage>(context, model, parent, number);
+      return MakePeerOf<TabPagePeer, TabPage>(context, model, parent, number);
     case Kind::kFrame:
-      return Make<FramePeer, Frame>(context, model, parent, number);
+      return MakePeerOf<FramePeer, Frame>(context, model, parent, number);
     case Kind::kLabel:
-      return Make<LabelPeer, Label>(context, model, parent, number);
+      return MakePeerOf<LabelPeer, Label>(context, model, parent, number);
     case Kind::kButton:
-      return Make<ButtonPeer, Button>(context, model, parent, number);
+      return MakePeerOf<ButtonPeer, Button>(context, model, parent, number);
     case Kind::kCheckBox:
-      return Make<CheckBoxPeer, CheckBox>(context, model, parent, number);
+      return MakePeerOf<CheckBoxPeer, CheckBox>(context, model, parent, number);
     case Kind::kOptionButton:
-      return Make<OptionButtonPeer, OptionButton>(context, model, parent, number);
+      return MakePeerOf<OptionButtonPeer, OptionButton>(context, model, parent, number);
     case Kind::kTextBox:
-      return Make<TextBoxPeer, TextBox>(context, model, parent, number);
+      return MakePeerOf<TextBoxPeer, TextBox>(context, model, parent, number);
     case Kind::kListBox:
-      return Make<ListBoxPeer, ListBox>(context, model, parent, number);
+      return MakePeerOf<ListBoxPeer, ListBox>(context, model, parent, number);
     case Kind::kDropDownList:
-      return Make<DropDownListPeer, DropDownList>(context, model, parent, number);
+      return MakePeerOf<DropDownListPeer, DropDownList>(context, model, parent, number);
     case Kind::kDropDownCombo:
-      return Make<DropDownComboPeer, DropDownCombo>(context, model, parent, number);
+      return MakePeerOf<DropDownComboPeer, DropDownCombo>(context, model, parent, number);
     case Kind::kVerticalScrollBar:
-      return Make<ScrollBarPeer, VerticalScrollBar>(context, model, parent, number);
+      return MakePeerOf<ScrollBarPeer, VerticalScrollBar>(context, model, parent, number);
     case Kind::kSlider:
-      return Make<SliderPeer, Slider>(context, model, parent, number);
+      return MakePeerOf<SliderPeer, Slider>(context, model, parent, number);
     case Kind::kDrawing:
-      return Make<DrawingPeer, DrawingControl>(context, model, parent, number);
+      return MakePeerOf<DrawingPeer, DrawingControl>(context, model, parent, number);
     case Kind::kPicture:
-      return Make<PicturePeer, Picture>(context, model, parent, number);
+      return MakePeerOf<PicturePeer, Picture>(context, model, parent, number);
   }
   return nullptr;
 }

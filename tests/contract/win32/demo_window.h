@@ -136,7 +136,7 @@ struct DemoModels {
 /// The demo with its windows, shown, and a hand that works on them.
 class DemoWindow : public DemoModels {
  public:
-  DemoWindow() : window(GetModuleHandleA(nullptr), 1, application, form, timers) {
+  DemoWindow() : window(GetModuleHandleA(nullptr), 1, application, form, timers, ui::win32::MakePeer) {
     pump.SetDialogWindow(window.MainWindow());
   }
 

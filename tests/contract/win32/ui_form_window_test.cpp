@@ -281,7 +281,7 @@ TEST(FormWindow, ModelsThatOutliveTheWindowHaveNoPeerLeft) {
   DemoModels models;
   {
     const ui::win32::FormWindow window(GetModuleHandleA(nullptr), 1, models.application, models.form,
-                                       models.timers);
+                                       models.timers, ui::win32::MakePeer);
     models.form.Show();
   }
   const std::vector<std::string> filled = OverwriteFreedMemory();

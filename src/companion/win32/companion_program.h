@@ -1,0 +1,49 @@
+// What the entries of the companion programs have in common: the real system, the program object, its window,
+// and the message loop. Decides nothing.
+#pragma once
+
+#include <windows.h>
+
+#include <span>
+
+#include "os/win32/win32_system.h"
+#include "ui/win32/form_window.h"
+
+namespace qdix::companion::win32 {
+
+/// `Program` takes the system, and whatever else is given here, and has TheApplication, Window, Start and
+/// EndSession. Lives on the heap, since the controls alone are more than a frame of the stack should hold.
+template <class Program>
+class CompanionProgram {
+ public:
+  template <class... Others>
+  CompanionProgram(HINSTANCE instance, int icon_id, ui::win32::PeerFactory make_peer, Others&... others)
+      : program_(system_.GetSystem(), others...),
+        window_(instance, icon_id, program_.TheApplication(), program_.Window(),
+                std::span<ui::Timer* const>(), make_peer) {
+    using Hook = base::Callback<void()>;
+    window_.OnUnloaded = Hook::To<&os::win32::Win32System::Stop>(system_);
+    window_.OnSessionEnding = Hook::To<&Program::EndSession>(program_);
+    system_.SetMainWindow(window_.MainWindow());
+  }
+
+  [[nodiscard]] Program& TheProgram() { return program_; }
+  [[nodiscard]] ui::win32::FormWindow& Window() { return window_; }
+
+  /// Returns when the window has unloaded; false where the windows could not be made.
+  [[nodiscard]] bool Run() {
+    if (!window_.Complete()) return false;
+    program_.Start();
+    while (system_.EventPump().WaitAndHandle()) {
+    }
+    return true;
+  }
+
+ private:
+  // The windows go first, then the program whose models they show, then the system.
+  os::win32::Win32System system_;
+  Program program_;
+  ui::win32::FormWindow window_;
+};
+
+}  // namespace qdix::companion::win32
