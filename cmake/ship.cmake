@@ -20,7 +20,7 @@ add_custom_command(OUTPUT ${reduced_libgcc}
   COMMAND ${CROSS_OBJCOPY} -R .eh_frame ${libgcc} ${reduced_libgcc}
   COMMENT "Reducing libgcc" VERBATIM)
 
-set(import_dlls kernel32 user32 gdi32 comctl32 shell32 advapi32)
+set(import_dlls kernel32 user32 gdi32 comctl32 comdlg32 shell32 advapi32)
 file(GLOB export_lists CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/cmake/win95-exports/*.txt)
 foreach(dll IN LISTS import_dlls)
   list(APPEND import_libraries ${CMAKE_BINARY_DIR}/imports/lib${dll}.a)

@@ -7,6 +7,7 @@ namespace qdix::os {
 
 /// There is nothing of that name, or nothing is known of it.
 inline constexpr std::uint32_t kInvalidFileAttributes = 0xFFFFFFFFU;
+inline constexpr std::uint32_t kFileAttributeReadOnly = 0x01U;
 inline constexpr std::uint32_t kFileAttributeDirectory = 0x10U;
 
 /// An open file; kInvalidFile is none.

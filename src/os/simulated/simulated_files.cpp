@@ -10,7 +10,6 @@ namespace qdix::os::simulated {
 
 namespace {
 
-constexpr std::uint32_t kReadOnly = 0x01;
 constexpr std::uint32_t kArchive = 0x20;
 
 using Lines = std::vector<std::string>;
@@ -161,7 +160,7 @@ std::uint32_t SimulatedFiles::GetFileAttributesA(const char* path) {
   if (log_.RecordAndFail("GetFileAttributesA", path)) return kInvalidFileAttributes;
   if (UpperPath(path) == UpperPath(windows_directory_)) return kFileAttributeDirectory;
   if (!Read(path)) return kInvalidFileAttributes;
-  return read_only_.contains(UpperPath(path)) ? kReadOnly : kArchive;
+  return read_only_.contains(UpperPath(path)) ? kFileAttributeReadOnly : kArchive;
 }
 
 std::uint32_t SimulatedFiles::GetPrivateProfileStringA(const char* section, const char* key,

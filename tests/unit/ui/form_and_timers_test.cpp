@@ -48,6 +48,38 @@ TEST_F(FormRules, ActivatesAtTheFirstShowAndAtEachShowAfterHiding) {
   EXPECT_EQ(activated.count, 2);
 }
 
+class Refusal {
+ public:
+  [[nodiscard]] base::Callback<bool()> Handler() {
+    return base::Callback<bool()>::To<&Refusal::MayClose>(*this);
+  }
+  bool MayClose() {
+    ++count;
+    return answer;
+  }
+  int count = 0;
+  bool answer = false;
+};
+
+TEST_F(FormRules, ClosingAsksAndUnloadingDoesNot) {
+  Refusal refusal;
+  Handled unloaded;
+  bench.form.OnUnload = unloaded.Handler();
+  bench.form.OnQueryClose = refusal.Handler();
+  bench.form.Close();
+  EXPECT_EQ(refusal.count, 1);
+  EXPECT_FALSE(bench.form.Unloaded());
+  refusal.answer = true;
+  bench.form.Close();
+  EXPECT_TRUE(bench.form.Unloaded());
+  EXPECT_EQ(unloaded.count, 1);
+  bench.form.Close();
+  EXPECT_EQ(refusal.count, 2) << "asked after the end";
+  ControlBench other;
+  other.form.Close();
+  EXPECT_TRUE(other.form.Unloaded()) << "nobody to ask";
+}
+
 TEST_F(FormRules, ShowingAShownFormBringsItsWindowToTheFront) {
   NotingPeer peer;
   bench.form.AttachPeer(&peer);

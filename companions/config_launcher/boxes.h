@@ -1,0 +1,52 @@
+// The questions and messages of the program, all under its title. While one of them or a dialog is open the
+// window is not to be closed from outside: the answer would come too late.
+#pragma once
+
+#include <string>
+
+#include "os/system.h"
+#include "ui/application.h"
+#include "ui/form.h"
+
+namespace qdix::config_launcher {
+
+class Boxes {
+ public:
+  /// A box or a dialog is open for as long as this object lives.
+  class Opened {
+   public:
+    explicit Opened(Boxes& boxes) : boxes_(boxes) { ++boxes_.open_; }
+    Opened(const Opened&) = delete;
+    Opened& operator=(const Opened&) = delete;
+    ~Opened() { --boxes_.open_; }
+
+   private:
+    Boxes& boxes_;
+  };
+
+  Boxes(const os::System& system, const ui::Application& application, const ui::Form& form)
+      : system_(system), application_(application), form_(form) {}
+
+  [[nodiscard]] bool AnyIsOpen() const { return open_ != 0; }
+
+  /// True where the user answers Yes and the program goes on. No is what Enter means.
+  [[nodiscard]] bool Ask(const std::string& question) {
+    const Opened opened(*this);
+    const int answer = system_.dialogs.MessageBoxA(
+        question, application_.Title(), os::kMbYesNo | os::kMbIconQuestion | os::kMbDefaultButton2);
+    return answer == os::kIdYes && !form_.Unloaded();
+  }
+
+  void Tell(const std::string& message) {
+    const Opened opened(*this);
+    system_.dialogs.MessageBoxA(message, application_.Title(), os::kMbOk | os::kMbIconExclamation);
+  }
+
+ private:
+  const os::System& system_;
+  const ui::Application& application_;
+  const ui::Form& form_;
+  int open_ = 0;
+};
+
+}  // namespace qdix::config_launcher

@@ -1,0 +1,115 @@
+#include "config_launcher/config_form.h"
+
+#include "base/numbers.h"
+#include "base/runtime_error.h"
+#include "config_launcher/other_copy.h"
+
+namespace qdix::config_launcher {
+
+namespace {
+
+/// What is not as this program writes it; empty where all is well.
+std::string Remarks(const FoundList& found) {
+  std::string remarks;
+  if (found.is_from_backup) {
+    remarks += "- An earlier save was interrupted. The list was taken from launcher.bak.\r\n";
+  }
+  if (found.has_odd_length) {
+    remarks += "- The file ends in the middle of a program, of which something may be missing.\r\n";
+  }
+  if (found.is_cut) {
+    remarks += "- The file is longer than 100 programs. The rest of it was not read.\r\n";
+  }
+  if (found.entries.size() > launcher::kMostEntries) {
+    remarks += "- It holds " + base::TextOf(static_cast<std::int32_t>(found.entries.size())) +
+               " programs, and the launcher takes 25 at most. Please remove some.\r\n";
+  }
+  if (found.has_control_characters) {
+    remarks += "- Some texts held characters that cannot be shown. They were left out.\r\n";
+  }
+  if (found.has_incomplete_entries) remarks += "- Some programs have no name or no command line.\r\n";
+  return remarks;
+}
+
+}  // namespace
+
+ConfigForm::ConfigForm(const os::System& system, os::FileDialogs& dialogs)
+    : system_(system),
+      boxes_(system, application_, screen_.Window),
+      file_(system),
+      entry_list_(system, screen_, boxes_),
+      browse_(dialogs, screen_, boxes_) {
+  events_.ReportErrorsTo(ui::EventDispatcher::ErrorReporter::To<&ConfigForm::ReportUntrapped>(*this));
+  screen_.cmdOK.OnClick = ui::Handler::To<&ConfigForm::cmdOK_Click>(*this);
+  screen_.cmdCancel.OnClick = ui::Handler::To<&ConfigForm::cmdCancel_Click>(*this);
+  screen_.Window.OnQueryClose = base::Callback<bool()>::To<&ConfigForm::MayClose>(*this);
+}
+
+void ConfigForm::Start() {
+  if (BringOtherCopyForward(system_, application_, screen_.Window)) {
+    screen_.Window.Unload();
+    return;
+  }
+  const FoundList found = file_.Read();
+  if (!found.is_readable) {
+    boxes_.Tell(
+        "The list of programs is there, but it could not be read.\r\n\r\nPlease make sure that no other "
+        "program has launcher.dat open, and start Config Launcher again.");
+    screen_.Window.Unload();
+    return;
+  }
+  entry_list_.Take(found.entries);
+  screen_.Window.Show();
+  const std::string remarks = Remarks(found);
+  if (!remarks.empty()) {
+    boxes_.Tell("The list of programs (launcher.dat) is not as it should be:\r\n\r\n" + remarks +
+                "\r\nNothing is changed on the disk before you press OK.");
+  }
+}
+
+void ConfigForm::EndSession() {
+  application_.SetSessionIsEnding();
+  screen_.Window.Unload();
+}
+
+base::Status ConfigForm::cmdOK_Click() {
+  if (entry_list_.HasUnusedFields() &&
+      !boxes_.Ask("What you typed in the fields is not in the list. \"Add\" or \"Change\" puts it there."
+                  "\r\n\r\nDo you want to save the list without it?")) {
+    return base::kDone;
+  }
+  if (entry_list_.Entries().size() > launcher::kMostEntries) {
+    boxes_.Tell(
+        "The launcher takes 25 programs at most.\r\n\r\nPlease remove some before you save the list.");
+    return base::kDone;
+  }
+  const Saved saved = file_.Write(entry_list_.Entries());
+  if (saved == Saved::kYes) {
+    screen_.Window.Unload();
+    return base::kDone;
+  }
+  boxes_.Tell(
+      std::string("The list of programs could not be saved.\r\n\r\n") +
+      (saved == Saved::kNo ? "The list of before is unchanged." : "The list of before is in launcher.bak.") +
+      " Please make sure that the disk is neither full nor write-protected and that no other program "
+      "has launcher.dat open, and try again.");
+  return base::kDone;
+}
+
+base::Status ConfigForm::cmdCancel_Click() {
+  screen_.Window.Close();
+  return base::kDone;
+}
+
+bool ConfigForm::MayClose() {
+  if (boxes_.AnyIsOpen()) return false;
+  const bool loses_something = entry_list_.IsChanged() || entry_list_.HasUnusedFields();
+  return !loses_something || boxes_.Ask("Discard the changes?");
+}
+
+void ConfigForm::ReportUntrapped(const base::RuntimeError& error) {
+  boxes_.Tell(base::UntrappedErrorText(error));
+  screen_.Window.Unload();
+}
+
+}  // namespace qdix::config_launcher

@@ -1,0 +1,99 @@
+// The window of the program. What a form designer shows; no behaviour.
+#pragma once
+
+#include "launcher/launcher_file.h"
+#include "ui/form.h"
+#include "ui/lists.h"
+#include "ui/simple_controls.h"
+#include "ui/text_box.h"
+
+namespace qdix::config_launcher {
+
+/// Title of the window and of the application.
+inline constexpr const char* kTitle = "Config Launcher";
+
+struct ConfigScreen {
+  explicit ConfigScreen(ui::EventDispatcher& dispatcher) : events(dispatcher) {}
+
+  ui::EventDispatcher& events;
+  ui::Form Window{events, {.name = "ConfigWindow", .caption = kTitle, .place = {0, 0, 263, 217}}};
+
+  ui::Label lblPrograms{Window,
+                        {.name = "lblPrograms",
+                         .caption = "Programs, in the order of the launcher:",
+                         .access_key = 'P',
+                         .place = {7, 7, 140, 8}}};
+  ui::ListBox lstPrograms{Window, {.name = "lstPrograms", .place = {7, 18, 192, 84}}};
+  ui::Label lblCount{Window, {.name = "lblCount", .place = {150, 7, 50, 8}}};
+  ui::Button cmdMoveUp{Window,
+                       {.name = "cmdMoveUp",
+                        .caption = "Move Up",
+                        .access_key = 'U',
+                        .tool_tip = "Move the selected program one place towards the beginning",
+                        .place = {206, 18, 50, 14},
+                        .enabled = false}};
+  ui::Button cmdMoveDown{Window,
+                         {.name = "cmdMoveDown",
+                          .caption = "Move Down",
+                          .access_key = 'D',
+                          .tool_tip = "Move the selected program one place towards the end",
+                          .place = {206, 36, 50, 14},
+                          .enabled = false}};
+  ui::Button cmdRemove{Window,
+                       {.name = "cmdRemove",
+                        .caption = "Remove",
+                        .access_key = 'R',
+                        .tool_tip = "Take the selected program out of the list",
+                        .place = {206, 57, 50, 14},
+                        .enabled = false}};
+
+  ui::Label lblName{Window,
+                    {.name = "lblName", .caption = "Name:", .access_key = 'N', .place = {7, 112, 54, 8}}};
+  ui::TextBox txtName{
+      Window, {.name = "txtName", .place = {64, 109, 135, 14}}, static_cast<int>(launcher::kNameWidth)};
+  ui::Label lblPath{
+      Window, {.name = "lblPath", .caption = "Command Line:", .access_key = 'C', .place = {7, 130, 54, 8}}};
+  ui::TextBox txtPath{
+      Window, {.name = "txtPath", .place = {64, 127, 135, 14}}, static_cast<int>(launcher::kPathWidth)};
+  ui::Button cmdBrowsePath{Window,
+                           {.name = "cmdBrowsePath",
+                            .caption = "Browse...",
+                            .access_key = 'B',
+                            .tool_tip = "Look for the program",
+                            .place = {206, 127, 50, 14}}};
+  ui::Label lblStartIn{
+      Window, {.name = "lblStartIn", .caption = "Start In:", .access_key = 'S', .place = {7, 148, 54, 8}}};
+  ui::TextBox txtStartIn{
+      Window, {.name = "txtStartIn", .place = {64, 145, 135, 14}}, static_cast<int>(launcher::kStartInWidth)};
+  ui::Button cmdBrowseStartIn{Window,
+                              {.name = "cmdBrowseStartIn",
+                               .caption = "Browse...",
+                               .access_key = 'w',
+                               .tool_tip = "Look for the folder that the program is started in",
+                               .place = {206, 145, 50, 14}}};
+  ui::Button cmdAdd{Window,
+                    {.name = "cmdAdd",
+                     .caption = "Add",
+                     .access_key = 'A',
+                     .tool_tip = "Put what is typed here at the end of the list",
+                     .place = {64, 166, 50, 14}}};
+  ui::Button cmdChange{Window,
+                       {.name = "cmdChange",
+                        .caption = "Change",
+                        .access_key = 'h',
+                        .tool_tip = "Give the selected program what is typed here",
+                        .place = {118, 166, 50, 14},
+                        .enabled = false}};
+
+  ui::Button cmdOK{Window,
+                   {.name = "cmdOK",
+                    .caption = "OK",
+                    .tool_tip = "Save the list and close the window",
+                    .place = {152, 196, 50, 14}},
+                   ui::ButtonRole::kDefault};
+  ui::Button cmdCancel{Window,
+                       {.name = "cmdCancel", .caption = "Cancel", .place = {206, 196, 50, 14}},
+                       ui::ButtonRole::kCancel};
+};
+
+}  // namespace qdix::config_launcher

@@ -1,0 +1,34 @@
+// The texts of an entry: what may stand in them, and what a file gives.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "launcher/launcher_file.h"
+
+namespace qdix::config_launcher {
+
+/// True where the text of a field cannot be shown as it is.
+[[nodiscard]] bool HasControlCharacters(std::string_view text);
+
+/// The text as it is shown: up to the first NUL, other control characters as blanks, none of these at either
+/// end.
+[[nodiscard]] std::string Cleaned(std::string_view text);
+[[nodiscard]] launcher::LauncherEntry Cleaned(const launcher::LauncherEntry& entry);
+
+/// The part of a path behind the last backslash, without its extension.
+[[nodiscard]] std::string TitleOfFile(std::string_view path);
+
+/// The part of a path before the last backslash; of a root with it.
+[[nodiscard]] std::string FolderOfFile(std::string_view path);
+
+/// The command line that starts a file: its path, in quotation marks where it has blanks.
+[[nodiscard]] std::string CommandLineOf(const std::string& path);
+
+/// The entry of a file. Its name is cut to what an entry takes, its other texts are not.
+[[nodiscard]] launcher::LauncherEntry EntryOfFile(const std::string& path);
+
+/// True where no text of the entry is longer than a record holds.
+[[nodiscard]] bool Fits(const launcher::LauncherEntry& entry);
+
+}  // namespace qdix::config_launcher

@@ -1,0 +1,29 @@
+#include "config_launcher/other_copy.h"
+
+#include "config_launcher/config_screen.h"
+
+namespace qdix::config_launcher {
+
+namespace {
+
+constexpr const char* kMutexName = "QDIX.ConfigLauncher";
+/// Class of the window that the user sees; the hidden one that owns it has the same title.
+constexpr const char* kWindowClass = "QDIXMain";
+/// Carried by this copy while it looks for the other, so that it cannot find itself.
+constexpr std::string_view kOtherTitle = "second copy";
+
+}  // namespace
+
+bool BringOtherCopyForward(const os::System& system, ui::Application& application, ui::Form& form) {
+  if (!system.processes.MutexExistedBefore(kMutexName)) return false;
+  application.SetTitle(kOtherTitle);
+  form.SetCaption(kOtherTitle);
+  const os::WindowHandle window = system.windows.FindWindowA(kWindowClass, kTitle);
+  if (window != 0) {
+    system.windows.OpenIcon(window);
+    system.windows.SetForegroundWindow(window);
+  }
+  return true;
+}
+
+}  // namespace qdix::config_launcher

@@ -1,0 +1,10 @@
+// Numbers of the program's resources, for the resource compiler and for the code.
+#pragma once
+
+#define QDIX_CONFIG_LAUNCHER_ICON 1
+
+#ifndef RC_INVOKED
+namespace qdix::config_launcher::win32 {
+inline constexpr int kConfigLauncherIcon = QDIX_CONFIG_LAUNCHER_ICON;
+}  // namespace qdix::config_launcher::win32
+#endif

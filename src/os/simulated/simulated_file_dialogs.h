@@ -1,0 +1,42 @@
+// The dialogs of files and folders of the simulated machine: a test says beforehand what the user picks.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "os/file_dialogs.h"
+
+namespace qdix::os::simulated {
+
+class SimulatedFileDialogs final : public FileDialogs {
+ public:
+  std::string GetOpenFileNameA(const FileQuestion& question) override {
+    return Show("GetOpenFileNameA", question.folder);
+  }
+  std::string SHBrowseForFolderA(const std::string& /*title*/, const std::string& folder) override {
+    return Show("SHBrowseForFolderA", folder);
+  }
+
+  /// What is picked in the next dialogs, in order; an empty path, and none, is Cancel.
+  void PickNext(const std::string& path) { picks_.push_back(path); }
+  void WhileOpen(std::function<void()> action) { while_open_ = std::move(action); }
+  /// Which dialogs were shown, each with the folder that was chosen at first.
+  [[nodiscard]] const std::vector<std::string>& Shown() const { return shown_; }
+
+ private:
+  std::string Show(const std::string& name, const std::string& folder) {
+    shown_.push_back(name + "(" + folder + ")");
+    if (while_open_) while_open_();
+    if (picks_.empty()) return {};
+    std::string pick = picks_.front();
+    picks_.erase(picks_.begin());
+    return pick;
+  }
+
+  std::vector<std::string> picks_;
+  std::vector<std::string> shown_;
+  std::function<void()> while_open_;
+};
+
+}  // namespace qdix::os::simulated

@@ -1,0 +1,193 @@
+// Every call of the system that can fail is failed once, and from then on, through whole sessions; disks fill
+// up and are protected. The list of before or the new one is there whole at every end.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+
+#include "tests/unit/config_launcher/config_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+/// What the disk held before.
+enum class Before : std::uint8_t {
+  kNothing,
+  kList,
+  /// A save was interrupted between its two renamings.
+  kBackupOnly,
+  kBackupAndEmptyList,
+  /// A save was interrupted before it threw the copy away.
+  kListAndOldBackup,
+};
+constexpr std::array<Before, 5> kAllBefore{Before::kNothing, Before::kList, Before::kBackupOnly,
+                                           Before::kBackupAndEmptyList, Before::kListAndOldBackup};
+
+const launcher::LauncherEntry kNew{"New", "NEW.EXE", ""};
+
+Entries OldList(Before before) { return SomeEntries(before == Before::kNothing ? 0 : 3); }
+
+Entries NewList(Before before) {
+  Entries entries = OldList(before);
+  entries.push_back(kNew);
+  return entries;
+}
+
+void Prepare(ConfigRig& rig, Before before) {
+  const std::string bytes = BytesOf(OldList(before));
+  const bool has_list = before == Before::kList || before == Before::kListAndOldBackup;
+  const bool has_backup = before == Before::kBackupOnly || before == Before::kBackupAndEmptyList;
+  if (has_list) rig.machine.WriteFile(kListPath, bytes);
+  if (before == Before::kBackupAndEmptyList) rig.machine.WriteFile(kListPath, "");
+  if (has_backup) rig.machine.WriteFile(kListBackupPath, bytes);
+  if (before == Before::kListAndOldBackup) rig.machine.WriteFile(kListBackupPath, BytesOf(SomeEntries(1)));
+}
+
+void RunSession(ConfigRig& rig) {
+  rig.Start();
+  if (rig.form->Window().Unloaded()) return;
+  rig.Type(kNew);
+  rig.Screen().cmdAdd.Press();
+  rig.Screen().cmdOK.Press();
+}
+
+int CallsOfASession(Before before) {
+  ConfigRig rig;
+  Prepare(rig, before);
+  RunSession(rig);
+  return rig.machine.FaultableCallCount();
+}
+
+bool IsKnown(const std::string& message) {
+  constexpr std::array<const char*, 3> kBeginnings{
+      "The list of programs could not be saved.\r\n\r\n", "The list of programs is there, but it could not",
+      "The list of programs (launcher.dat) is not as it should be:"};
+  return std::any_of(kBeginnings.begin(), kBeginnings.end(),
+                     [&message](const char* beginning) { return message.starts_with(beginning); });
+}
+
+/// What the next start of the program shows.
+Entries ListOfNextStart(ConfigRig& rig) {
+  rig.machine.FailCallNumber(0);
+  rig.machine.FailFromCallNumber(0);
+  rig.Restart();
+  EXPECT_FALSE(rig.form->Window().Unloaded());
+  return rig.form->Entries();
+}
+
+void ExpectSound(ConfigRig& rig, Before before, int call) {
+  const std::string trace = std::to_string(static_cast<int>(before)) + ", call " + std::to_string(call);
+  EXPECT_EQ(rig.machine.Misuses(), std::vector<std::string>{}) << trace;
+  EXPECT_EQ(rig.machine.OpenFileCount(), 0) << trace;
+  for (const auto& box : rig.machine.Boxes()) EXPECT_TRUE(IsKnown(box.text)) << trace << ": " << box.text;
+  const bool was_saved = rig.ListOnDisk() == BytesOf(NewList(before));
+  // A window that stays shows everything; one that closed has saved, or has read nothing.
+  if (!rig.form->Window().Unloaded()) {
+    EXPECT_EQ(rig.form->Entries().back(), kNew) << trace;
+  }
+  const Entries next = ListOfNextStart(rig);
+  EXPECT_EQ(next, was_saved ? NewList(before) : OldList(before)) << trace;
+}
+
+TEST(ConfigFaults, SessionsWithoutAFaultSave) {
+  for (const Before before : kAllBefore) {
+    ConfigRig rig;
+    Prepare(rig, before);
+    RunSession(rig);
+    EXPECT_EQ(rig.ListOnDisk(), BytesOf(NewList(before)));
+    EXPECT_EQ(rig.machine.ReadFile(kListBackupPath), std::nullopt);
+    EXPECT_EQ(rig.machine.ReadFile(kListTemporaryPath), std::nullopt);
+    EXPECT_TRUE(rig.form->Window().Unloaded());
+  }
+}
+
+TEST(ConfigFaults, EachCallFailedOnceLosesNothing) {
+  for (const Before before : kAllBefore) {
+    const int calls = CallsOfASession(before);
+    ASSERT_GT(calls, 10);
+    for (int call = 1; call <= calls; ++call) {
+      ConfigRig rig;
+      Prepare(rig, before);
+      rig.machine.FailCallNumber(call);
+      RunSession(rig);
+      ExpectSound(rig, before, call);
+    }
+  }
+}
+
+TEST(ConfigFaults, EachCallFailedFromThenOnLosesNothing) {
+  for (const Before before : kAllBefore) {
+    const int calls = CallsOfASession(before);
+    for (int call = 1; call <= calls; ++call) {
+      ConfigRig rig;
+      Prepare(rig, before);
+      rig.machine.FailFromCallNumber(call);
+      RunSession(rig);
+      ExpectSound(rig, before, call);
+    }
+  }
+}
+
+TEST(ConfigFaults, FullDiskKeepsTheOldListAndTheWindow) {
+  for (const std::uint64_t bytes : {0U, 1U, 564U, 2259U}) {
+    ConfigRig rig(SomeEntries(3));
+    rig.machine.LimitFreeBytes(bytes);
+    RunSession(rig);
+    EXPECT_TRUE(
+        rig.BoxText(1).starts_with("The list of programs could not be saved.\r\n\r\nThe list of "
+                                   "before is unchanged."));
+    EXPECT_FALSE(rig.form->Window().Unloaded());
+    EXPECT_EQ(rig.form->Entries().size(), 4U);
+    EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(3)));
+    EXPECT_EQ(rig.machine.ReadFile(kListTemporaryPath), std::nullopt);
+    rig.machine.LimitFreeBytes(100000);
+    rig.Screen().cmdOK.Press();
+    EXPECT_TRUE(rig.form->Window().Unloaded());
+    EXPECT_EQ(rig.ListOnDisk(), BytesOf(NewList(Before::kList)));
+  }
+}
+
+TEST(ConfigFaults, ProtectedListAndProtectedDiskAreLeftAlone) {
+  for (const bool whole_disk : {false, true}) {
+    ConfigRig rig(SomeEntries(3));
+    if (whole_disk) {
+      rig.machine.ProtectDisk();
+    } else {
+      rig.machine.ProtectFile(kListPath);
+    }
+    RunSession(rig);
+    EXPECT_TRUE(rig.BoxText(1).starts_with("The list of programs could not be saved."));
+    EXPECT_FALSE(rig.form->Window().Unloaded());
+    EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(3)));
+  }
+}
+
+/// The second renaming fails, and so does the way back.
+TEST(ConfigFaults, ListThatCouldNotGetItsNameBackIsFoundAgain) {
+  int renamed = 0;
+  for (int call = 1; call <= CallsOfASession(Before::kList); ++call) {
+    ConfigRig rig(SomeEntries(3));
+    config_launcher::ListFile file(rig.machine.GetSystem());
+    rig.machine.FailFromCallNumber(call);
+    if (file.Write(SomeEntries(4)) != config_launcher::Saved::kNoAndRenamed) continue;
+    ++renamed;
+    EXPECT_EQ(rig.ListOnDisk(), std::nullopt);
+    EXPECT_EQ(rig.machine.ReadFile(kListBackupPath), BytesOf(SomeEntries(3)));
+    rig.machine.FailFromCallNumber(0);
+    EXPECT_EQ(rig.Start().Entries(), SomeEntries(3));
+    EXPECT_NE(rig.BoxText(1).find("The list was taken from launcher.bak."), std::string::npos);
+  }
+  EXPECT_EQ(renamed, 1);
+}
+
+TEST(ConfigFaults, MoreThanTheLauncherTakesIsNeverWritten) {
+  ConfigRig rig(SomeEntries(3));
+  config_launcher::ListFile file(rig.machine.GetSystem());
+  EXPECT_EQ(file.Write(SomeEntries(26)), config_launcher::Saved::kNo);
+  EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(3)));
+  EXPECT_EQ(file.Write(SomeEntries(25)), config_launcher::Saved::kYes);
+  EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(25)));
+}
+
+}  // namespace
+}  // namespace qdix::tests

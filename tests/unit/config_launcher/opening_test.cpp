@@ -1,0 +1,140 @@
+// Whatever lies on the disk is shown as far as it can be, and stays as it is until the user saves.
+#include <gtest/gtest.h>
+
+#include "tests/unit/config_launcher/config_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+using namespace std::string_literals;
+
+using Names = std::vector<std::string>;
+
+class ConfigOpening : public testing::Test {
+ protected:
+  /// Opens what is there and expects one message with this remark, and an untouched disk.
+  void ExpectRemark(ConfigRig& rig, const std::string& remark) {
+    rig.Start();
+    const std::string text = rig.BoxText(1);
+    EXPECT_TRUE(text.starts_with("The list of programs (launcher.dat) is not as it should be:")) << text;
+    EXPECT_NE(text.find(remark), std::string::npos) << text;
+    EXPECT_TRUE(text.ends_with("Nothing is changed on the disk before you press OK.")) << text;
+    EXPECT_TRUE(rig.form->Window().Shown());
+    rig.Screen().cmdCancel.Press();
+    EXPECT_TRUE(rig.form->Window().Unloaded()) << "nothing was changed, so nothing is asked";
+    EXPECT_EQ(rig.Changes(), Names{});
+    EXPECT_EQ(rig.machine.OpenFileCount(), 0);
+  }
+};
+
+TEST_F(ConfigOpening, GoodListsAndNoneSayNothing) {
+  for (const int count : {0, 1, 25}) {
+    ConfigRig rig(SomeEntries(count));
+    rig.Start();
+    EXPECT_EQ(rig.form->Entries(), SomeEntries(count));
+    EXPECT_EQ(rig.machine.Boxes().size(), 0U) << count;
+  }
+  ConfigRig none;
+  none.Start();
+  EXPECT_EQ(none.machine.Boxes().size(), 0U);
+  EXPECT_EQ(none.Rows(), Names{});
+}
+
+TEST_F(ConfigOpening, OddLength) {
+  ConfigRig rig(BytesOf(SomeEntries(2)).substr(0, 848));
+  ExpectRemark(rig, "The file ends in the middle of a program");
+  EXPECT_EQ(rig.form->Entries(), (Entries{SomeEntries(2)[0], {"Program 1", "C:\\P1.EXE /x", ""}}));
+}
+
+TEST_F(ConfigOpening, TooManyAreShownAndNotSaved) {
+  ConfigRig rig(SomeEntries(27));
+  rig.Start();
+  EXPECT_NE(rig.BoxText(1).find("It holds 27 programs"), std::string::npos);
+  EXPECT_EQ(rig.form->Entries(), SomeEntries(27));
+  rig.Screen().cmdRemove.Press();
+  rig.Screen().cmdOK.Press();
+  EXPECT_TRUE(rig.BoxText(2).starts_with("The launcher takes 25 programs at most."));
+  EXPECT_FALSE(rig.form->Window().Unloaded());
+  EXPECT_EQ(rig.Changes(), Names{});
+  rig.Screen().cmdRemove.Press();
+  rig.Screen().cmdOK.Press();
+  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(27)).substr(2 * launcher::kRecordBytes));
+}
+
+TEST_F(ConfigOpening, ControlCharactersAreLeftOut) {
+  ConfigRig rig(Entries{{"Ed\0itor"s, "A.EXE\t/x", "\r\n"}});
+  ExpectRemark(rig, "Some texts held characters that cannot be shown.");
+  EXPECT_EQ(rig.form->Entries(), (Entries{{"Ed", "A.EXE /x", ""}}));
+}
+
+TEST_F(ConfigOpening, ProgramsWithoutNameOrCommandLine) {
+  ConfigRig rig(Entries{{"", "A.EXE", ""}, {"B", "", ""}});
+  ExpectRemark(rig, "Some programs have no name or no command line.");
+  EXPECT_EQ(rig.Rows(), (Names{"(no name)", "B"}));
+}
+
+TEST_F(ConfigOpening, HugeFileIsReadAsFarAsItCanBeShown) {
+  ConfigRig rig(SomeEntries(150));
+  ExpectRemark(rig, "The file is longer than 100 programs.");
+  EXPECT_EQ(rig.form->Entries(), SomeEntries(100));
+}
+
+TEST_F(ConfigOpening, CopyOfAnInterruptedSaveIsTaken) {
+  for (const bool has_empty_list : {false, true}) {
+    ConfigRig rig;
+    rig.machine.WriteFile(kListBackupPath, BytesOf(SomeEntries(3)));
+    if (has_empty_list) rig.machine.WriteFile(kListPath, "");
+    ExpectRemark(rig, "The list was taken from launcher.bak.");
+    EXPECT_EQ(rig.form->Entries(), SomeEntries(3));
+  }
+}
+
+TEST_F(ConfigOpening, CopyBesideAListIsLeftAlone) {
+  ConfigRig rig(SomeEntries(1));
+  rig.machine.WriteFile(kListBackupPath, BytesOf(SomeEntries(3)));
+  rig.Start();
+  EXPECT_EQ(rig.form->Entries(), SomeEntries(1));
+  EXPECT_EQ(rig.machine.Boxes().size(), 0U);
+}
+
+TEST_F(ConfigOpening, ListThatCannotBeReadIsNotWrittenOver) {
+  for (const char* const path : {kListPath, kListBackupPath}) {
+    ConfigRig rig;
+    rig.machine.WriteFile(path, BytesOf(SomeEntries(3)));
+    rig.machine.FailNextCall("ReadFile");
+    rig.Start();
+    EXPECT_TRUE(rig.BoxText(1).starts_with("The list of programs is there, but it could not be read."));
+    EXPECT_TRUE(rig.form->Window().Unloaded());
+    EXPECT_FALSE(rig.form->Window().Shown());
+    EXPECT_EQ(rig.Changes(), Names{});
+  }
+}
+
+TEST_F(ConfigOpening, SecondCopyBringsTheFirstForwardAndEnds) {
+  ConfigRig rig(SomeEntries(3));
+  rig.machine.SetOtherCopyRunning(true);
+  const os::WindowHandle hidden = rig.machine.OpenWindow("ThunderRT6Main", "Config Launcher");
+  const os::WindowHandle other = rig.machine.OpenWindow("QDIXMain", "Config Launcher");
+  rig.machine.OpenWindow("QDIXMain", "12 MB   Q-DIX");
+  rig.machine.Minimise(other);
+  rig.Start();
+  EXPECT_EQ(rig.machine.ForegroundWindow(), other);
+  EXPECT_NE(rig.machine.ForegroundWindow(), hidden);
+  EXPECT_FALSE(rig.machine.IsMinimised(other));
+  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_FALSE(rig.form->Window().Shown());
+  EXPECT_NE(rig.form->Window().Caption(), "Config Launcher") << "it could find itself";
+  EXPECT_NE(rig.form->TheApplication().Title(), "Config Launcher");
+}
+
+TEST_F(ConfigOpening, SecondCopyEndsAlsoWhereTheFirstHasNoWindow) {
+  ConfigRig rig;
+  rig.machine.SetOtherCopyRunning(true);
+  rig.Start();
+  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_EQ(rig.machine.ForegroundWindow(), 0U);
+}
+
+}  // namespace
+}  // namespace qdix::tests

@@ -1,0 +1,68 @@
+// The window as it is drawn: everything in its place and reachable by one key.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "config_launcher/config_screen.h"
+#include "tests/support/screen_rules.h"
+
+namespace qdix::tests {
+namespace {
+
+class ConfigWindow : public testing::Test {
+ protected:
+  ConfigWindow() { Collect(screen.Window, controls); }
+
+  ui::EventDispatcher events;
+  config_launcher::ConfigScreen screen{events};
+  std::vector<ui::Control*> controls;
+};
+
+TEST_F(ConfigWindow, EverythingButOkAndCancelHasAKeyOfItsOwn) {
+  ExpectDifferentAccessKeys(controls);
+  for (std::size_t i = 0; i < controls.size(); ++i) {
+    const ui::Control& control = *controls[i];
+    const bool is_end = &control == &screen.cmdOK || &control == &screen.cmdCancel;
+    if (control.GetKind() == ui::Kind::kButton) {
+      EXPECT_EQ(control.AccessKey() == 0, is_end) << control.Name();
+    }
+  }
+}
+
+/// The key of a label works for what comes next in the tab order.
+TEST_F(ConfigWindow, FieldsAndListHaveTheKeyOfTheLabelBeforeThem) {
+  const std::vector<std::pair<const ui::Control*, const ui::Control*>> pairs{
+      {&screen.lblName, &screen.txtName},
+      {&screen.lblPath, &screen.txtPath},
+      {&screen.lblStartIn, &screen.txtStartIn}};
+  for (const auto& [label, field] : pairs) {
+    const auto place = std::find(controls.begin(), controls.end(), label);
+    ASSERT_NE(place, controls.end());
+    EXPECT_EQ(*std::next(place), field) << label->Name();
+    EXPECT_NE(label->AccessKey(), 0) << label->Name();
+  }
+  EXPECT_NE(screen.lblPrograms.AccessKey(), 0);
+}
+
+TEST_F(ConfigWindow, EverythingStandsInItsPlaceWithinTheMargins) {
+  constexpr std::int16_t kMargin = 7;
+  const ui::Place window = screen.Window.GetPlace();
+  EXPECT_LE(window.width, 263);
+  EXPECT_LE(window.height, 263);
+  ExpectRoomForEach(controls, {.left = kMargin,
+                               .top = kMargin,
+                               .width = static_cast<std::int16_t>(window.width - 2 * kMargin),
+                               .height = static_cast<std::int16_t>(window.height - 2 * kMargin)});
+}
+
+TEST_F(ConfigWindow, TitleRolesAndLengths) {
+  EXPECT_EQ(screen.Window.Caption(), "Config Launcher");
+  EXPECT_EQ(screen.cmdOK.Role(), ui::ButtonRole::kDefault);
+  EXPECT_EQ(screen.cmdCancel.Role(), ui::ButtonRole::kCancel);
+  EXPECT_EQ(screen.txtName.MaxLength(), 55);
+  EXPECT_EQ(screen.txtPath.MaxLength(), 255);
+  EXPECT_EQ(screen.txtStartIn.MaxLength(), 255);
+}
+
+}  // namespace
+}  // namespace qdix::tests
