@@ -47,7 +47,7 @@ std::string CommandLineOf(const std::string& path) {
 
 launcher::LauncherEntry EntryOfFile(const std::string& path) {
   const std::string title = TitleOfFile(path).substr(0, launcher::kNameWidth);
-  return {std::string(base::Trim(title)), CommandLineOf(path), FolderOfFile(path)};
+  return Cleaned(launcher::LauncherEntry{title, CommandLineOf(path), FolderOfFile(path)});
 }
 
 bool Fits(const launcher::LauncherEntry& entry) {

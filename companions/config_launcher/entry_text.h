@@ -25,7 +25,7 @@ namespace qdix::config_launcher {
 /// The command line that starts a file: its path, in quotation marks where it has blanks.
 [[nodiscard]] std::string CommandLineOf(const std::string& path);
 
-/// The entry of a file. Its name is cut to what an entry takes, its other texts are not.
+/// The entry of a file, cleaned. Its name is cut to what an entry takes, its other texts are not.
 [[nodiscard]] launcher::LauncherEntry EntryOfFile(const std::string& path);
 
 /// True where no text of the entry is longer than a record holds.

@@ -29,6 +29,7 @@ TEST(EntryText, FileGivesNameCommandLineAndFolder) {
             (launcher::LauncherEntry{"A", "\\\\SERVER\\SHARE\\A", "\\\\SERVER\\SHARE"}));
   EXPECT_EQ(EntryOfFile("EDIT.COM"), (launcher::LauncherEntry{"EDIT", "EDIT.COM", ""}));
   EXPECT_EQ(EntryOfFile("C:\\.profile").name, ".profile");
+  EXPECT_EQ(EntryOfFile("C:\\A \\ B .EXE"), (launcher::LauncherEntry{"B", "\"C:\\A \\ B .EXE\"", "C:\\A"}));
 }
 
 TEST(EntryText, LongNameIsCutAndLongPathsDoNotFit) {

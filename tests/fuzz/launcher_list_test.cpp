@@ -1,0 +1,133 @@
+// Any bytes as the launcher's list: opened without harm and left alone, and what is saved of them comes back
+// as it was shown. Random hands on the window lose nothing either. A failing run prints its seed.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "tests/unit/config_launcher/config_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+constexpr unsigned kRuns = 300;
+constexpr int kActionsPerRun = 60;
+
+class RandomLists {
+ public:
+  explicit RandomLists(unsigned seed) : random_(seed) {}
+
+  void Run() {
+    const std::string before = RandomFile();
+    rig_.machine.WriteFile(kListPath, before);
+    rig_.Start();
+    ExpectShowable();
+    for (int i = 0; i < kActionsPerRun && !rig_.form->Window().Unloaded(); ++i) {
+      Act();
+      ASSERT_EQ(rig_.ListOnDisk(), before) << "changed before OK";
+    }
+    if (rig_.form->Window().Unloaded()) return;
+    // What is typed and not in the list may be left behind from here on.
+    while (rig_.form->Entries().size() > launcher::kMostEntries) Remove();
+    const Entries shown = rig_.form->Entries();
+    rig_.machine.AnswerNextBox(os::kIdYes);
+    rig_.Screen().cmdOK.Press();
+    ASSERT_TRUE(rig_.form->Window().Unloaded());
+    EXPECT_EQ(rig_.ListOnDisk(), BytesOf(shown));
+    rig_.Restart();
+    EXPECT_TRUE(rig_.form->Entries() == shown);
+    EXPECT_TRUE(rig_.machine.Misuses().empty());
+    EXPECT_EQ(rig_.machine.OpenFileCount(), 0);
+  }
+
+ private:
+  [[nodiscard]] bool Chance(unsigned one_in) { return random_() % one_in == 0; }
+  char AnyByte() { return static_cast<char>(random_() % 256); }
+
+  /// Likely texts, and any bytes.
+  std::string RandomText(std::size_t most) {
+    std::string text;
+    for (auto left = random_() % (most + 1); left > 0; --left) {
+      text += Chance(6) ? AnyByte() : static_cast<char>(' ' + random_() % 95);
+    }
+    return text;
+  }
+
+  std::string RandomFile() {
+    static constexpr std::size_t kCounts[] = {0, 1, 2, 24, 25, 26, 27, 99, 100, 101};
+    std::string file;
+    for (std::size_t left = kCounts[random_() % std::size(kCounts)]; left > 0; --left) {
+      file += launcher::RecordBytes({RandomText(60), RandomText(260), RandomText(260)});
+    }
+    if (Chance(3)) file.resize(random_() % (file.size() + 1));
+    for (auto left = Chance(4) ? random_() % 600 : 0; left > 0; --left) file += AnyByte();
+    return file;
+  }
+
+  /// No text of the list can be longer than its field, be blank at an end, or hold what cannot be shown.
+  void ExpectShowable() {
+    EXPECT_LE(rig_.form->Entries().size(), 100U);
+    for (const launcher::LauncherEntry& entry : rig_.form->Entries()) {
+      EXPECT_EQ(launcher::ReadRecord(launcher::RecordBytes(entry), 0), entry);
+      for (const std::string& text : {entry.name, entry.path, entry.start_in}) {
+        for (const char character : text) EXPECT_GE(static_cast<unsigned char>(character), 0x20U);
+      }
+    }
+  }
+
+  /// Rows of a list are removed by the hand that selects them.
+  void Remove() {
+    rig_.machine.AnswerNextBox(os::kIdYes);
+    rig_.Screen().lstPrograms.ChooseIndex(0);
+    rig_.Screen().cmdRemove.Press();
+  }
+
+  /// One action of a hand; none of them saves or closes.
+  void Act() {
+    config_launcher::ConfigScreen& screen = rig_.Screen();
+    const std::size_t count = rig_.form->Entries().size();
+    switch (random_() % 10) {
+      case 0:
+        return screen.cmdAdd.Press();
+      case 1:
+        return screen.cmdChange.Press();
+      case 2:
+        return screen.cmdRemove.Press();
+      case 3:
+        return screen.cmdMoveUp.Press();
+      case 4:
+        return screen.cmdMoveDown.Press();
+      case 5:
+        rig_.dialogs.PickNext("C:\\" + Printable(RandomText(270)));
+        return Chance(2) ? screen.cmdBrowsePath.Press() : screen.cmdBrowseStartIn.Press();
+      case 6:
+        return rig_.form->FilesDropped({"C:\\" + Printable(RandomText(270)), "D:\\A B.EXE"});
+      case 7:
+        return rig_.Type({Printable(RandomText(60)), Printable(RandomText(260)), Printable(RandomText(9))});
+      default:
+        if (Chance(2)) rig_.machine.AnswerNextBox(os::kIdYes);
+        return screen.lstPrograms.ChooseIndex(count == 0 ? 0 : static_cast<int>(random_() % count));
+    }
+  }
+
+  /// What a keyboard and a disk give: no control characters.
+  static std::string Printable(std::string text) {
+    for (char& character : text) {
+      if (static_cast<unsigned char>(character) < 0x20U) character = '_';
+    }
+    return text;
+  }
+
+  std::mt19937 random_;
+  ConfigRig rig_;
+};
+
+TEST(LauncherListFuzz, AnyBytesAndAnyHands) {
+  for (unsigned seed = 1; seed <= kRuns; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    RandomLists(seed).Run();
+    if (HasFailure()) return;
+  }
+}
+
+}  // namespace
+}  // namespace qdix::tests
