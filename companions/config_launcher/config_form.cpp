@@ -63,7 +63,7 @@ void ConfigForm::Start() {
   const std::string remarks = Remarks(found);
   if (!remarks.empty()) {
     boxes_.Tell("The list of programs (launcher.dat) is not as it should be:\r\n\r\n" + remarks +
-                "\r\nNothing is changed on the disk before you press OK.");
+                "\r\nThe file stays as it is until you save the list.");
   }
 }
 

@@ -48,11 +48,11 @@ struct ConfigScreen {
                         .enabled = false}};
 
   ui::Label lblName{Window,
-                    {.name = "lblName", .caption = "Name:", .access_key = 'N', .place = {7, 112, 54, 8}}};
+                    {.name = "lblName", .caption = "Name:", .access_key = 'N', .place = {7, 111, 54, 8}}};
   ui::TextBox txtName{
       Window, {.name = "txtName", .place = {64, 109, 135, 14}}, static_cast<int>(launcher::kNameWidth)};
   ui::Label lblPath{
-      Window, {.name = "lblPath", .caption = "Command Line:", .access_key = 'C', .place = {7, 130, 54, 8}}};
+      Window, {.name = "lblPath", .caption = "Command Line:", .access_key = 'C', .place = {7, 129, 54, 8}}};
   ui::TextBox txtPath{
       Window, {.name = "txtPath", .place = {64, 127, 135, 14}}, static_cast<int>(launcher::kPathWidth)};
   ui::Button cmdBrowsePath{Window,
@@ -62,7 +62,7 @@ struct ConfigScreen {
                             .tool_tip = "Look for the program",
                             .place = {206, 127, 50, 14}}};
   ui::Label lblStartIn{
-      Window, {.name = "lblStartIn", .caption = "Start In:", .access_key = 'S', .place = {7, 148, 54, 8}}};
+      Window, {.name = "lblStartIn", .caption = "Start In:", .access_key = 'S', .place = {7, 147, 54, 8}}};
   ui::TextBox txtStartIn{
       Window, {.name = "txtStartIn", .place = {64, 145, 135, 14}}, static_cast<int>(launcher::kStartInWidth)};
   ui::Button cmdBrowseStartIn{Window,

@@ -318,7 +318,10 @@ void FormWindow::PressEnterInList() {
 void FormWindow::MoveDialogFocus(WPARAM target, bool target_is_window) const {
   HWND const next = target_is_window ? reinterpret_cast<HWND>(target)
                                      : GetNextDlgTabItem(main_.get(), GetFocus(), target != 0 ? TRUE : FALSE);
-  if (next != nullptr) SetFocus(next);
+  if (next == nullptr) return;
+  SetFocus(next);
+  // As in every dialog: what is typed into a field that was gone to replaces what it holds.
+  if ((SendMessageA(next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0) SendMessageA(next, EM_SETSEL, 0, -1);
 }
 
 }  // namespace qdix::ui::win32

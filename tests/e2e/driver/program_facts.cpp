@@ -4,6 +4,8 @@
 #include <cstdlib>
 
 #include "app/form1.h"
+#include "config_launcher/config_form.h"
+#include "os/simulated/simulated_file_dialogs.h"
 #include "os/simulated/simulated_machine.h"
 #include "undo/undo_form.h"
 
@@ -12,10 +14,10 @@ namespace qdix::e2e {
 namespace {
 
 /// Made on a machine that is never looked at: only the window's controls count.
-template <class Program>
-ScreenMap MapOf() {
+template <class Program, class... Others>
+ScreenMap MapOf(Others&&... others) {
   const os::SimulatedMachine machine;
-  Program program(machine.GetSystem());
+  Program program(machine.GetSystem(), others...);
   return ScreenMap(program.Window());
 }
 
@@ -24,6 +26,11 @@ ScreenMap MapOf() {
 ProgramFacts Qdix() { return {"QDIX.exe", "Q-DIX", MapOf<app::Form1>()}; }
 
 ProgramFacts Undo() { return {"undo.exe", "Q-DIX Undo", MapOf<undo::UndoForm>()}; }
+
+ProgramFacts ConfigLauncher() {
+  os::simulated::SimulatedFileDialogs dialogs;
+  return {"configL.exe", config_launcher::kTitle, MapOf<config_launcher::ConfigForm>(dialogs)};
+}
 
 std::string ProgramPath(const std::string& file_name) {
   const char* const chosen = std::getenv("QDIX_PROGRAM");

@@ -18,7 +18,7 @@ class ConfigOpening : public testing::Test {
     const std::string text = rig.BoxText(1);
     EXPECT_TRUE(text.starts_with("The list of programs (launcher.dat) is not as it should be:")) << text;
     EXPECT_NE(text.find(remark), std::string::npos) << text;
-    EXPECT_TRUE(text.ends_with("Nothing is changed on the disk before you press OK.")) << text;
+    EXPECT_TRUE(text.ends_with("The file stays as it is until you save the list.")) << text;
     EXPECT_TRUE(rig.form->Window().Shown());
     rig.Screen().cmdCancel.Press();
     EXPECT_TRUE(rig.form->Window().Unloaded()) << "nothing was changed, so nothing is asked";

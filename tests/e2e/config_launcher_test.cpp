@@ -1,0 +1,315 @@
+// The shipped configL.exe and the list beside it, which gets back after each test what it held.
+#include <gtest/gtest.h>
+
+#include "base/text.h"
+#include "launcher/launcher_file.h"
+#include "tests/e2e/driver/file_keeper.h"
+#include "tests/e2e/driver/hand.h"
+#include "tests/e2e/driver/native_windows.h"
+#include "tests/e2e/driver/photograph.h"
+#include "tests/e2e/driver/shipped_program.h"
+
+namespace qdix::e2e {
+namespace {
+
+/// Number of the field for the name in the system's dialog of files.
+constexpr int kFileNameField = 0x47C;
+
+std::string ThreeEntries() {
+  return launcher::RecordBytes({"Editor", "C:\\WINDOWS\\NOTEPAD.EXE", "C:\\WINDOWS"}) +
+         launcher::RecordBytes({"Caf\xE9 & Games", "\"C:\\Program Files\\Games\\Big Game.exe\" /full", ""}) +
+         launcher::RecordBytes({"Calculator", "CALC.EXE", ""});
+}
+
+class ConfigSession : public testing::Test {
+ protected:
+  void TearDown() override {
+    if (HasFailure()) {
+      EXPECT_TRUE(
+          Photograph(std::string("failed_") + testing::UnitTest::GetInstance()->current_test_info()->name()));
+    }
+    program.Kill();
+  }
+
+  void Start() {
+    ASSERT_TRUE(program.Start());
+    ASSERT_TRUE(program.WaitForWindow());
+    ASSERT_TRUE(BringForward(program.MainWindow()));
+  }
+  void StartWith(const std::string& bytes) {
+    ASSERT_TRUE(list.SetBytes(bytes));
+    Start();
+  }
+  /// The box or dialog that the program shows now; one that does not come fails the test.
+  [[nodiscard]] MessageBox AwaitBox() {
+    EXPECT_TRUE(program.Await([this] { return program.MessageBoxes().size() == 1; }));
+    const std::vector<MessageBox> boxes = program.MessageBoxes();
+    return boxes.empty() ? MessageBox{} : boxes.front();
+  }
+  void ExpectEnd() { EXPECT_EQ(program.WaitForExit(), 0); }
+  void ExpectKeyboardOn(const std::string& name) {
+    EXPECT_TRUE(program.Await([&] { return program.FocusedControl() == name; }))
+        << name << " expected, " << program.FocusedControl() << " has it";
+  }
+  /// Goes to a field by its key and types over what it holds.
+  void TypeInto(char access_key, const std::string& field, const std::string& text) {
+    PressKeyWith(VK_MENU, access_key);
+    ExpectKeyboardOn(field);
+    TypeText(text);
+    EXPECT_TRUE(program.Await([&] { return program.Text(field) == text; })) << program.Text(field);
+  }
+  [[nodiscard]] bool HasRows(LRESULT count) {
+    return program.Await([&] { return Ask(program.Control("lstPrograms"), LB_GETCOUNT) == count; });
+  }
+  [[nodiscard]] bool HasSelectedRow(LRESULT row) {
+    return program.Await([&] { return Ask(program.Control("lstPrograms"), LB_GETCURSEL) == row; });
+  }
+
+  const FileKeeper list{ProgramPath("launcher.dat")};
+  const FileKeeper backup{ProgramPath("launcher.bak")};
+  const FileKeeper temporary{ProgramPath("launcher.tmp")};
+  ShippedProgram program{ConfigLauncher()};
+};
+
+TEST_F(ConfigSession, ListIsShownAndUnchangedItClosesAtOnce) {
+  StartWith(ThreeEntries());
+  EXPECT_EQ(program.Caption(), "Config Launcher");
+  EXPECT_TRUE(HasRows(3));
+  EXPECT_EQ(program.Text("txtName"), "Editor");
+  EXPECT_EQ(program.Text("txtPath"), "C:\\WINDOWS\\NOTEPAD.EXE");
+  EXPECT_EQ(program.Text("txtStartIn"), "C:\\WINDOWS");
+  EXPECT_FALSE(program.IsEnabled("cmdMoveUp"));
+  EXPECT_TRUE(program.IsEnabled("cmdMoveDown"));
+  ExpectKeyboardOn("lstPrograms");
+  EXPECT_TRUE(Photograph("config_launcher"));
+  program.Press("cmdCancel");
+  ExpectEnd();
+  EXPECT_EQ(list.Bytes(), ThreeEntries());
+}
+
+TEST_F(ConfigSession, ListIsBuiltByKeyboardAndWrittenByteForByte) {
+  Start();
+  EXPECT_TRUE(Photograph("config_launcher_empty"));
+  TypeInto('N', "txtName", "paint");
+  TypeInto('C', "txtPath", "pbrush");
+  TypeInto('S', "txtStartIn", "pictures");
+  PressKeyWith(VK_MENU, 'A');
+  ASSERT_TRUE(HasRows(1));
+  TypeInto('N', "txtName", "calculator");
+  TypeInto('C', "txtPath", "calc");
+  PressKeyWith(VK_MENU, 'S');
+  ExpectKeyboardOn("txtStartIn");
+  PressKey(VK_DELETE);
+  EXPECT_TRUE(program.Await([this] { return program.Text("txtStartIn").empty(); }));
+  PressKeyWith(VK_MENU, 'A');
+  ASSERT_TRUE(HasRows(2));
+  PressKeyWith(VK_MENU, 'U');
+  EXPECT_TRUE(HasSelectedRow(0));
+  EXPECT_EQ(list.Bytes(), std::nullopt) << "written before OK";
+  PressKeyWith(VK_MENU, 'P');
+  ExpectKeyboardOn("lstPrograms");
+  PressKey(VK_RETURN);
+  ExpectEnd();
+  EXPECT_EQ(list.Bytes(), launcher::RecordBytes({"calculator", "calc", ""}) +
+                              launcher::RecordBytes({"paint", "pbrush", "pictures"}));
+  EXPECT_EQ(backup.Bytes(), std::nullopt);
+  EXPECT_EQ(temporary.Bytes(), std::nullopt);
+}
+
+TEST_F(ConfigSession, PointerSelectsChangesMovesAndRemoves) {
+  StartWith(ThreeEntries());
+  const LRESULT row_height = Ask(program.Control("lstPrograms"), LB_GETITEMHEIGHT);
+  ASSERT_TRUE(ClickAt(program.Control("lstPrograms"), {20, static_cast<LONG>(row_height * 5 / 2)}));
+  EXPECT_TRUE(HasSelectedRow(2));
+  EXPECT_TRUE(program.Await([this] { return program.Text("txtName") == "Calculator"; }));
+  ASSERT_TRUE(Click(program.Control("txtName")));
+  PressKey(VK_END);
+  TypeText("2");
+  ASSERT_TRUE(program.Await([this] { return program.Text("txtName") == "Calculator2"; }));
+  ASSERT_TRUE(Click(program.Control("cmdChange")));
+  EXPECT_TRUE(program.Await([this] { return program.HasSelected("lstPrograms", "Calculator2"); }));
+  ASSERT_TRUE(Click(program.Control("cmdMoveUp")));
+  EXPECT_TRUE(HasSelectedRow(1));
+  ASSERT_TRUE(ClickAt(program.Control("lstPrograms"), {20, static_cast<LONG>(row_height / 2)}));
+  EXPECT_TRUE(HasSelectedRow(0));
+  ASSERT_TRUE(Click(program.Control("cmdRemove")));
+  EXPECT_TRUE(HasRows(2));
+  ASSERT_TRUE(Click(program.Control("cmdOK")));
+  ExpectEnd();
+  EXPECT_EQ(
+      list.Bytes(),
+      launcher::RecordBytes({"Calculator2", "CALC.EXE", ""}) +
+          launcher::RecordBytes({"Caf\xE9 & Games", "\"C:\\Program Files\\Games\\Big Game.exe\" /full", ""}));
+}
+
+TEST_F(ConfigSession, CancelAndTheCloseButtonAskBeforeChangesAreLost) {
+  StartWith(ThreeEntries());
+  PressKeyWith(VK_MENU, 'D');
+  ASSERT_TRUE(HasSelectedRow(1));
+  PressKey(VK_ESCAPE);
+  const MessageBox question = AwaitBox();
+  EXPECT_EQ(question.title, "Config Launcher");
+  EXPECT_EQ(question.text, "Discard the changes?");
+  program.Close();
+  PressKey(VK_RETURN);
+  EXPECT_TRUE(program.Await([&] { return IsWindow(question.window) == 0; })) << "No is the default";
+  EXPECT_TRUE(program.IsRunning());
+  program.Close();
+  ASSERT_TRUE(PressButton(AwaitBox(), IDYES));
+  ExpectEnd();
+  EXPECT_EQ(list.Bytes(), ThreeEntries());
+}
+
+TEST_F(ConfigSession, WhatIsTypedIsAskedForBeforeOkSavesWithoutIt) {
+  StartWith(ThreeEntries());
+  TypeInto('N', "txtName", "other");
+  PressKey(VK_RETURN);
+  const MessageBox question = AwaitBox();
+  EXPECT_TRUE(question.text.starts_with("What you typed in the fields is not in the list.")) << question.text;
+  EXPECT_TRUE(Photograph("config_launcher_question"));
+  ASSERT_TRUE(PressButton(question, IDNO));
+  EXPECT_EQ(program.Text("txtName"), "other");
+  PressKeyWith(VK_MENU, 'H');
+  EXPECT_TRUE(program.Await([this] { return program.HasSelected("lstPrograms", "other"); }));
+  program.Press("cmdOK");
+  ExpectEnd();
+  EXPECT_EQ(launcher::ReadRecord(list.Bytes().value_or(""), 0).name, "other");
+}
+
+TEST_F(ConfigSession, RowThatIsRefusedStaysUnselected) {
+  StartWith(ThreeEntries());
+  TypeInto('N', "txtName", "other");
+  PressKeyWith(VK_MENU, 'P');
+  ExpectKeyboardOn("lstPrograms");
+  PressKey(VK_DOWN);
+  ASSERT_TRUE(PressButton(AwaitBox(), IDNO));
+  EXPECT_TRUE(HasSelectedRow(0));
+  EXPECT_EQ(program.Text("txtName"), "other");
+  PressKey(VK_DOWN);
+  ASSERT_TRUE(PressButton(AwaitBox(), IDYES));
+  EXPECT_TRUE(HasSelectedRow(1));
+  EXPECT_TRUE(program.Await([this] { return program.Text("txtName") == "Caf\xE9 & Games"; }));
+  program.Press("cmdCancel");
+  ExpectEnd();
+}
+
+TEST_F(ConfigSession, FieldsTakeNoMoreThanARecordHolds) {
+  Start();
+  TypeInto('N', "txtName", std::string(55, 'n'));
+  TypeText("x");
+  PressKeyWith(VK_MENU, 'C');
+  ExpectKeyboardOn("txtPath");
+  EXPECT_EQ(program.Text("txtName"), std::string(55, 'n'));
+  EXPECT_EQ(Ask(program.Control("txtPath"), EM_GETLIMITTEXT), 255);
+  EXPECT_EQ(Ask(program.Control("txtStartIn"), EM_GETLIMITTEXT), 255);
+}
+
+TEST_F(ConfigSession, ProgramIsLookedForInTheSystemsDialog) {
+  Start();
+  PressKeyWith(VK_MENU, 'B');
+  const MessageBox dialog = AwaitBox();
+  EXPECT_EQ(dialog.title, "Browse");
+  EXPECT_TRUE(Photograph("config_launcher_browse"));
+  ASSERT_TRUE(PressButton(dialog, IDCANCEL));
+  EXPECT_EQ(program.Text("txtPath"), "");
+  PressKeyWith(VK_MENU, 'B');
+  const MessageBox again = AwaitBox();
+  const HWND field = GetDlgItem(again.window, kFileNameField);
+  ASSERT_NE(field, nullptr);
+  Ask(field, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("C:\\windows\\notepad.exe"));
+  ASSERT_TRUE(PressButton(again, IDOK));
+  EXPECT_TRUE(program.Await([this] { return program.Text("txtName") == "notepad"; }))
+      << program.Text("txtName");
+  EXPECT_EQ(program.Text("txtPath"), "C:\\windows\\notepad.exe");
+  EXPECT_EQ(program.Text("txtStartIn"), "C:\\windows");
+}
+
+TEST_F(ConfigSession, FolderIsLookedForInTheSystemsDialog) {
+  StartWith(ThreeEntries());
+  PressKeyWith(VK_MENU, 'W');
+  const MessageBox dialog = AwaitBox();
+  EXPECT_TRUE(Photograph("config_launcher_folder"));
+  ASSERT_TRUE(PressButton(dialog, IDOK));
+  EXPECT_TRUE(program.Await([this] { return IsWindowEnabled(program.MainWindow()) != 0; }));
+  const std::string folder = base::UpperAscii(program.Text("txtStartIn"));
+  EXPECT_EQ(folder, "C:\\WINDOWS") << "the folder that was there is chosen at first";
+}
+
+TEST_F(ConfigSession, DamagedListIsOpenedAndLeftAlone) {
+  const std::string odd = ThreeEntries().substr(0, 848);
+  ASSERT_TRUE(list.SetBytes(odd));
+  ASSERT_TRUE(program.Start());
+  const MessageBox message = AwaitBox();
+  EXPECT_NE(message.text.find("The file ends in the middle of a program"), std::string::npos) << message.text;
+  EXPECT_TRUE(Photograph("config_launcher_damaged"));
+  ASSERT_TRUE(PressButton(message, IDOK));
+  EXPECT_TRUE(HasRows(2));
+  program.Press("cmdCancel");
+  ExpectEnd();
+  EXPECT_EQ(list.Bytes(), odd);
+}
+
+TEST_F(ConfigSession, ListThatAnotherProgramHoldsIsNotLost) {
+  StartWith(ThreeEntries());
+  PressKeyWith(VK_MENU, 'R');
+  ASSERT_TRUE(HasRows(2));
+  const HANDLE held =
+      CreateFileA(list.Path().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  ASSERT_NE(held, INVALID_HANDLE_VALUE);
+  program.Press("cmdOK");
+  const MessageBox message = AwaitBox();
+  EXPECT_TRUE(message.text.starts_with("The list of programs could not be saved.")) << message.text;
+  ASSERT_TRUE(PressButton(message, IDOK));
+  EXPECT_TRUE(HasRows(2));
+  CloseHandle(held);
+  EXPECT_EQ(list.Bytes(), ThreeEntries());
+  EXPECT_EQ(temporary.Bytes(), std::nullopt);
+  program.Press("cmdOK");
+  ExpectEnd();
+  EXPECT_EQ(list.Bytes(), ThreeEntries().substr(launcher::kRecordBytes));
+}
+
+TEST_F(ConfigSession, SecondCopyBringsTheFirstForwardAndEnds) {
+  StartWith(ThreeEntries());
+  ShowWindow(program.MainWindow(), SW_MINIMIZE);
+  ASSERT_TRUE(program.Await([this] { return IsIconic(program.MainWindow()) != 0; }));
+  ShippedProgram second{ConfigLauncher()};
+  ASSERT_TRUE(second.Start());
+  EXPECT_EQ(second.WaitForExit(), 0);
+  EXPECT_TRUE(program.Await([this] {
+    return IsIconic(program.MainWindow()) == 0 && GetForegroundWindow() == program.MainWindow();
+  }));
+  program.Press("cmdCancel");
+  ExpectEnd();
+}
+
+TEST_F(ConfigSession, TabKeyGoesThroughEverythingInOrder) {
+  StartWith(ThreeEntries());
+  PressKeyWith(VK_MENU, 'P');
+  ExpectKeyboardOn("lstPrograms");
+  for (const char* const next :
+       {"cmdMoveDown", "cmdRemove", "txtName", "txtPath", "cmdBrowsePath", "txtStartIn", "cmdBrowseStartIn",
+        "cmdAdd", "cmdChange", "cmdOK", "cmdCancel", "lstPrograms"}) {
+    PressKey(VK_TAB);
+    ExpectKeyboardOn(next);
+  }
+}
+
+TEST_F(ConfigSession, EveryControlStandsInTheWindowAndTheWindowOn640By480) {
+  Start();
+  constexpr int kTaskbarLines = 28;
+  RECT window = {};
+  GetWindowRect(program.MainWindow(), &window);
+  EXPECT_LE(window.right - window.left, 640);
+  EXPECT_LE(window.bottom - window.top, 480 - kTaskbarLines);
+  ASSERT_GT(program.Controls().size(), 15U);
+  for (const ControlAddress& control : program.Controls()) {
+    const RECT place = program.ScreenRect(control.name);
+    RECT common = {};
+    IntersectRect(&common, &window, &place);
+    EXPECT_TRUE(EqualRect(&common, &place)) << control.name;
+  }
+}
+
+}  // namespace
+}  // namespace qdix::e2e
