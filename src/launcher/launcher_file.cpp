@@ -53,17 +53,18 @@ std::optional<std::string> ReadWholeFile(os::Files& files, const std::string& pa
                                          std::uint32_t most_bytes) {
   const os::FileHandle file = files.CreateFileA(path.c_str(), os::kGenericRead, os::kOpenExisting);
   if (file == os::kInvalidFile) return std::nullopt;
-  std::optional<std::string> content;
-  const std::uint32_t size_bytes = files.GetFileSize(file);
-  if (size_bytes != os::kInvalidFileSize) {
-    content.emplace(std::min(size_bytes, most_bytes), '\0');
-    std::uint32_t read_bytes = 0;
-    const bool is_read =
-        files.ReadFile(file, content->data(), static_cast<std::uint32_t>(content->size()), read_bytes);
-    // Fewer bytes than the file has are no content of it.
-    if (!is_read || read_bytes != content->size()) content.reset();
+  std::string content;
+  std::uint32_t read_bytes = 0;
+  const std::uint32_t file_bytes = files.GetFileSize(file);
+  const std::uint32_t size_bytes = std::min(file_bytes, most_bytes);
+  bool is_read = file_bytes != os::kInvalidFileSize;
+  if (is_read) {
+    content.resize(size_bytes);
+    is_read = files.ReadFile(file, content.data(), size_bytes, read_bytes);
   }
   files.CloseHandle(file);
+  // Fewer bytes than the file has are no content of it.
+  if (!is_read || read_bytes != size_bytes) return std::nullopt;
   return content;
 }
 
