@@ -44,6 +44,15 @@ TEST_F(UiFocus, NativeFocusReachesTheModelAndTheModelsFocusTheWindow) {
   EXPECT_TRUE(NativeFocusOn(demo.go));
 }
 
+TEST_F(UiFocus, FieldThatIsGoneToIsSelectedWhole) {
+  demo.text.SetText("abc");
+  SetFocus(demo.Native(demo.check));
+  SendMessageA(demo.Native(demo.text), EM_SETSEL, 1, 1);
+  SendMessageA(demo.Main(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(demo.Native(demo.text)), TRUE);
+  EXPECT_TRUE(NativeFocusOn(demo.text));
+  EXPECT_EQ(SendMessageA(demo.Native(demo.text), EM_GETSEL, 0, 0), MAKELRESULT(0, 3));
+}
+
 TEST_F(UiFocus, ControlThatRefusesKeepsTheKeyboard) {
   Gate gate;
   demo.text.SetFocus();

@@ -115,6 +115,38 @@ TEST(FormWindow, PointerIsReportedInTwipsWithButtonsAndShift) {
   EXPECT_EQ(pointer.y_twips, -45);
 }
 
+struct DropCount {
+  WPARAM drop = 0;
+  void Dropped(WPARAM word) { drop = word; }
+};
+
+struct ClosingGate {
+  bool is_open = false;
+  bool MayClose() { return is_open; }
+};
+
+TEST(FormWindow, DroppedFilesAreHandedOn) {
+  DemoWindow demo;
+  SendMessageA(demo.Main(), WM_DROPFILES, 0, 0);  // nobody there to take them
+  DropCount drops;
+  demo.window.OnFilesDropped = base::Callback<void(WPARAM)>::To<&DropCount::Dropped>(drops);
+  SendMessageA(demo.Main(), WM_DROPFILES, 1234, 0);
+  EXPECT_EQ(drops.drop, 1234U);
+}
+
+TEST(FormWindow, FormThatRefusesToCloseStays) {
+  DemoWindow demo;
+  ClosingGate gate;
+  demo.form.Show();
+  demo.form.OnQueryClose = base::Callback<bool()>::To<&ClosingGate::MayClose>(gate);
+  SendMessageA(demo.Main(), WM_CLOSE, 0, 0);
+  EXPECT_FALSE(demo.form.Unloaded());
+  EXPECT_TRUE(IsWindowVisible(demo.Main()));
+  gate.is_open = true;
+  SendMessageA(demo.Main(), WM_CLOSE, 0, 0);
+  EXPECT_TRUE(demo.form.Unloaded());
+}
+
 TEST(FormWindow, MessageOfATrayIconArrivesAsTheXOfAMouseMove) {
   DemoWindow demo;
   Pointer pointer;
