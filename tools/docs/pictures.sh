@@ -5,7 +5,7 @@ set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 mkdir -p docs/pictures
-for name in quondix automatic cache_preset swapfile_optimised undo; do
+for name in quondix automatic cache_preset swapfile_optimised undo config_launcher; do
   photo=build/photos/$name.png
   [ -f "$photo" ] || { echo "pictures: $photo is missing; run ./test.sh -R e2e first" >&2; exit 1; }
   # The taskbar is cut off, then the empty desktop round the window.
