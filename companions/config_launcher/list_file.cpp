@@ -71,8 +71,8 @@ bool ListFile::WriteTemporary(const std::string& content) {
   if (file == os::kInvalidFile) return false;
   std::uint32_t written_bytes = 0;
   const auto size_bytes = static_cast<std::uint32_t>(content.size());
-  const bool is_written = files_.WriteFile(file, content.data(), size_bytes, written_bytes) &&
-                          written_bytes == size_bytes && files_.FlushFileBuffers(file);
+  const bool is_written =
+      files_.WriteFile(file, content.data(), size_bytes, written_bytes) && files_.FlushFileBuffers(file);
   files_.CloseHandle(file);
   return is_written;
 }
