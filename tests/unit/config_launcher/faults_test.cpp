@@ -180,6 +180,18 @@ TEST(ConfigFaults, ListThatCouldNotGetItsNameBackIsFoundAgain) {
   EXPECT_EQ(renamed, 1);
 }
 
+/// It could be the only whole one, with an older copy beside it.
+TEST(ConfigFaults, ListThatCannotBeLookedAtIsNotTouched) {
+  ConfigRig rig;
+  Prepare(rig, Before::kListAndOldBackup);
+  config_launcher::ListFile file(rig.machine.GetSystem());
+  rig.machine.FailNextCall("ReadFile");
+  EXPECT_EQ(file.Write(SomeEntries(5)), config_launcher::Saved::kNo);
+  EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(3)));
+  EXPECT_EQ(rig.machine.ReadFile(kListBackupPath), BytesOf(SomeEntries(1)));
+  EXPECT_EQ(rig.machine.ReadFile(kListTemporaryPath), std::nullopt);
+}
+
 TEST(ConfigFaults, MoreThanTheLauncherTakesIsNeverWritten) {
   ConfigRig rig(SomeEntries(3));
   config_launcher::ListFile file(rig.machine.GetSystem());
