@@ -20,7 +20,8 @@ SHIPPED_FOLDERS = ("src", "companions")
 CLANG_TIDY = "clang-tidy"
 OWN_INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.MULTILINE)
 # Flags of the one compiler that the other does not know.
-UNKNOWN_TO_CLANG = re.compile(r" -ffloat-store| -fno-tree-loop-distribute-patterns")
+UNKNOWN_TO_CLANG = re.compile(r" -ffloat-store| -fno-tree-loop-distribute-patterns| -fno-inline-functions-called-once"
+                              r"| -mno-accumulate-outgoing-args| -mpreferred-stack-boundary=2")
 CROSS_COMPILER = "i686-w64-mingw32-g++-win32"
 
 
