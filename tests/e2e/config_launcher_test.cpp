@@ -8,6 +8,7 @@
 #include "tests/e2e/driver/native_windows.h"
 #include "tests/e2e/driver/photograph.h"
 #include "tests/e2e/driver/shipped_program.h"
+#include "tests/e2e/window_rules.h"
 
 namespace qdix::e2e {
 namespace {
@@ -297,18 +298,9 @@ TEST_F(ConfigSession, TabKeyGoesThroughEverythingInOrder) {
 
 TEST_F(ConfigSession, EveryControlStandsInTheWindowAndTheWindowOn640By480) {
   Start();
-  constexpr int kTaskbarLines = 28;
-  RECT window = {};
-  GetWindowRect(program.MainWindow(), &window);
-  EXPECT_LE(window.right - window.left, 640);
-  EXPECT_LE(window.bottom - window.top, 480 - kTaskbarLines);
+  ExpectFitsOn640By480(program);
   ASSERT_GT(program.Controls().size(), 15U);
-  for (const ControlAddress& control : program.Controls()) {
-    const RECT place = program.ScreenRect(control.name);
-    RECT common = {};
-    IntersectRect(&common, &window, &place);
-    EXPECT_TRUE(EqualRect(&common, &place)) << control.name;
-  }
+  ExpectControlsInsideTheWindow(program);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <array>
 
 #include "tests/e2e/session.h"
+#include "tests/e2e/window_rules.h"
 
 namespace qdix::e2e {
 namespace {
@@ -104,11 +105,7 @@ TEST_F(TabSession, GaugesKeepTheirFixedSizeAndTheGraphItsInnerHeight) {
 
 TEST_F(TabSession, WholeWindowFitsOn640By480) {
   StartProgram();
-  constexpr int kTaskbarLines = 28;
-  RECT window = {};
-  GetWindowRect(program.MainWindow(), &window);
-  EXPECT_LE(window.right - window.left, 640);
-  EXPECT_LE(window.bottom - window.top, 480 - kTaskbarLines);
+  ExpectFitsOn640By480(program);
   CloseProgram();
 }
 

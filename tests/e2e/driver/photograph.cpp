@@ -1,8 +1,7 @@
 // A Windows program under Wine can start a program of the host by its path.
 #include "tests/e2e/driver/photograph.h"
 
-#include <array>
-
+#include "tests/e2e/driver/file_keeper.h"
 #include "tests/e2e/driver/polling.h"
 
 namespace qdix::e2e {
@@ -46,13 +45,10 @@ COLORREF ScreenColour(POINT place) {
   const std::string command = "import -silent -window root -crop " + crop + " -depth 8 'rgb:" + file +
                               ".new' && mv '" + file + ".new' '" + file + "'";
   if (!MakeFile(command, file)) return CLR_INVALID;
-  const HANDLE opened =
-      CreateFileA(("Z:" + file).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-  std::array<BYTE, 3> bytes{};
-  DWORD count = 0;
-  const bool is_read = ReadFile(opened, bytes.data(), bytes.size(), &count, nullptr) != 0;
-  CloseHandle(opened);
-  return is_read && count == bytes.size() ? RGB(bytes[0], bytes[1], bytes[2]) : CLR_INVALID;
+  const std::string bytes = FileBytes("Z:" + file).value_or("");
+  if (bytes.size() != 3) return CLR_INVALID;
+  const auto part = [&bytes](std::size_t index) { return static_cast<BYTE>(bytes[index]); };
+  return RGB(part(0), part(1), part(2));
 }
 
 }  // namespace qdix::e2e

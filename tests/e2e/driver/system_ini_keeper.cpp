@@ -1,8 +1,8 @@
-// Files are read and written by the system's own calls: the file streams of the library disturb the output of
-// the test program under Wine.
 #include "tests/e2e/driver/system_ini_keeper.h"
 
 #include <array>
+
+#include "tests/e2e/driver/file_keeper.h"
 
 namespace qdix::e2e {
 
@@ -23,29 +23,12 @@ void ForgetWhatWasRead() { WritePrivateProfileStringA(nullptr, nullptr, nullptr,
 
 }  // namespace
 
-std::optional<std::string> WindowsFile(const std::string& name) {
-  const HANDLE file = CreateFileA(PathOf(name).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                  nullptr, OPEN_EXISTING, 0, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return std::nullopt;
-  std::string bytes(GetFileSize(file, nullptr), '\0');
-  DWORD count = 0;
-  const bool is_read = ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr) != 0;
-  CloseHandle(file);
-  if (!is_read || count != bytes.size()) return std::nullopt;
-  return bytes;
-}
+std::optional<std::string> WindowsFile(const std::string& name) { return FileBytes(PathOf(name)); }
 
 void SetWindowsFile(const std::string& name, const std::optional<std::string>& bytes) {
   const std::string path = PathOf(name);
   SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-  if (!bytes.has_value()) {
-    DeleteFileA(path.c_str());
-  } else {
-    const HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    DWORD count = 0;
-    WriteFile(file, bytes->data(), static_cast<DWORD>(bytes->size()), &count, nullptr);
-    CloseHandle(file);
-  }
+  SetFileBytes(path, bytes);
   ForgetWhatWasRead();
 }
 

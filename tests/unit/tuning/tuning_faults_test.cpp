@@ -82,6 +82,19 @@ void ExpectSoundFile(const std::string& content, int call) {
   EXPECT_NE(content.find("Other=1\r\n"), std::string::npos) << call;
 }
 
+/// Each value of the templates is what it was or what a session writes, whole.
+void ExpectSoundTemplate(const TuningRig& rig, int call) {
+  const auto is_one_of = [&](const char* path, const char* name, std::initializer_list<const char*> sound) {
+    const std::string bytes = rig.ValueBytes(path, name);
+    EXPECT_TRUE(std::find(sound.begin(), sound.end(), bytes) != sound.end())
+        << call << ": " << path << ", " << name << " is " << bytes;
+  };
+  is_one_of(kTemplatesPath, "", {"1: 44 65 73 6B 74 6F 70 00", "1: 51 75 6F 6E 64 69 78 00"});
+  is_one_of(kOwnTemplatePath, "", {"none", "1: 51 75 6F 6E 64 69 78 20 53 65 74 74 69 6E 67 73 00"});
+  is_one_of(kOwnTemplatePath, "NameCache", {"none", "3: 00 08 00 00", "3: 00 18 00 00"});
+  is_one_of(kOwnTemplatePath, "PathCache", {"none", "3: 80 00 00 00"});
+}
+
 void ExpectSoundEnd(TuningRig& rig, int call) {
   EXPECT_TRUE(rig.program->Window().Unloaded()) << call;
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << call;
@@ -90,6 +103,7 @@ void ExpectSoundEnd(TuningRig& rig, int call) {
   ExpectSoundFile(rig.SystemIni(), call);
   // The backup is missing where the copy failed, and is taken again where the record cannot be read.
   ExpectSoundFile(rig.machine.ReadFile(kBackupPath).value_or(kBefore), call);
+  ExpectSoundTemplate(rig, call);
   for (const std::string& text : rig.BoxTexts()) {
     EXPECT_TRUE(std::any_of(kKnownBoxes.begin(), kKnownBoxes.end(),
                             [&text](const char* known) { return text.starts_with(known); }))
