@@ -164,18 +164,30 @@ bool EntryList::IsFolder(const std::string& path) const {
   return attributes != os::kInvalidFileAttributes && (attributes & os::kFileAttributeDirectory) != 0;
 }
 
+/// Nothing for what the launcher could not start or a record could not hold.
+std::optional<LauncherEntry> EntryList::EntryOfDropped(const std::string& path) const {
+  if (IsFolder(path)) return std::nullopt;
+  LauncherEntry entry = EntryOfFile(path);
+  if (IsShortcut(path)) {
+    const auto shortcut = system_.shell_files.ReadShortcut(path);
+    if (!shortcut || IsFolder(shortcut->target)) return std::nullopt;
+    entry = EntryOfShortcut(path, *shortcut);
+  }
+  if (!Fits(entry) || entry.name.empty()) return std::nullopt;
+  return entry;
+}
+
 void EntryList::AddFiles(const std::vector<std::string>& paths) {
   if (boxes_.AnyIsOpen()) return;
   const bool keeps_fields = HasUnusedFields();
   std::string refused;
   bool has_room = true;
   for (const std::string& path : paths) {
-    const LauncherEntry entry = EntryOfFile(path);
-    const bool is_usable = Fits(entry) && !entry.name.empty() && !IsFolder(path);
     has_room = entries_.size() < launcher::kMostEntries;
     if (!has_room) break;
-    if (is_usable) {
-      entries_.push_back(entry);
+    const auto entry = EntryOfDropped(path);
+    if (entry) {
+      entries_.push_back(*entry);
     } else {
       refused += path + std::string(base::kLineBreak);
     }
@@ -184,8 +196,9 @@ void EntryList::AddFiles(const std::vector<std::string>& paths) {
   if (!keeps_fields) FillFields();
   if (!refused.empty()) {
     boxes_.Tell(
-        "These could not be added. They are folders, or their paths are too long for the list:"
-        "\r\n\r\n" +
+        "These could not be added. They are folders or shortcuts that lead to no file, or their paths are "
+        "too "
+        "long for the list:\r\n\r\n" +
         refused);
   }
   if (!has_room) boxes_.Tell("The launcher takes 25 programs at most. Not all files were added.");

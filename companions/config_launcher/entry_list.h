@@ -1,6 +1,7 @@
 // The list in the window and the fields below it: adding, changing, removing, moving.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -50,6 +51,7 @@ class EntryList {
   void MoveBy(int places);
   [[nodiscard]] bool CanBeUsed(const launcher::LauncherEntry& entry);
   [[nodiscard]] bool HasRoom();
+  [[nodiscard]] std::optional<launcher::LauncherEntry> EntryOfDropped(const std::string& path) const;
   [[nodiscard]] bool IsFolder(const std::string& path) const;
 
   const os::System& system_;

@@ -50,6 +50,19 @@ launcher::LauncherEntry EntryOfFile(const std::string& path) {
   return Cleaned(launcher::LauncherEntry{title, CommandLineOf(path), FolderOfFile(path)});
 }
 
+launcher::LauncherEntry EntryOfShortcut(const std::string& path, const os::Shortcut& shortcut) {
+  launcher::LauncherEntry entry = EntryOfFile(path);
+  entry.path = Cleaned(CommandLineOf(shortcut.target) + ' ' + shortcut.arguments);
+  entry.start_in = Cleaned(shortcut.folder.empty() ? FolderOfFile(shortcut.target) : shortcut.folder);
+  return entry;
+}
+
+bool IsShortcut(std::string_view path) {
+  constexpr std::string_view kExtension = ".lnk";
+  return path.size() > kExtension.size() &&
+         base::EqualsIgnoringCase(path.substr(path.size() - kExtension.size()), kExtension);
+}
+
 bool Fits(const launcher::LauncherEntry& entry) {
   return entry.name.size() <= launcher::kNameWidth && entry.path.size() <= launcher::kPathWidth &&
          entry.start_in.size() <= launcher::kStartInWidth;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "launcher/launcher_file.h"
+#include "os/shell_files.h"
 
 namespace qdix::config_launcher {
 
@@ -27,6 +28,12 @@ namespace qdix::config_launcher {
 
 /// The entry of a file, cleaned. Its name is cut to what an entry takes, its other texts are not.
 [[nodiscard]] launcher::LauncherEntry EntryOfFile(const std::string& path);
+
+/// The entry of a shortcut, by the name that the shortcut itself has: the launcher can start what it leads
+/// to, not the shortcut.
+[[nodiscard]] launcher::LauncherEntry EntryOfShortcut(const std::string& path, const os::Shortcut& shortcut);
+
+[[nodiscard]] bool IsShortcut(std::string_view path);
 
 /// True where no text of the entry is longer than a record holds.
 [[nodiscard]] bool Fits(const launcher::LauncherEntry& entry);

@@ -14,6 +14,7 @@
 #include "os/registry.h"
 #include "os/session.h"
 #include "os/shell.h"
+#include "os/shell_files.h"
 #include "os/windows.h"
 
 namespace qdix::os {
@@ -27,6 +28,7 @@ struct System {
   Clock& clock;
   Processes& processes;
   Shell& shell;
+  ShellFiles& shell_files;
   Processor& processor;
   Files& files;
   ProfileFiles& profile_files;

@@ -3,6 +3,8 @@
 
 #include "base/text.h"
 #include "launcher/launcher_file.h"
+#include "os/win32/win32_shell_files.h"
+#include "tests/e2e/driver/dropped_files.h"
 #include "tests/e2e/driver/file_keeper.h"
 #include "tests/e2e/driver/hand.h"
 #include "tests/e2e/driver/native_windows.h"
@@ -234,6 +236,25 @@ TEST_F(ConfigSession, FolderIsLookedForInTheSystemsDialog) {
   EXPECT_TRUE(program.Await([this] { return IsWindowEnabled(program.MainWindow()) != 0; }));
   const std::string folder = base::UpperAscii(program.Text("txtStartIn"));
   EXPECT_EQ(folder, "C:\\WINDOWS") << "the folder that was there is chosen at first";
+}
+
+TEST_F(ConfigSession, DroppedFilesAndWhatAShortcutLeadsToAreAdded) {
+  const FileKeeper shortcut{"C:\\windows\\Sums.lnk"};
+  os::win32::Win32ShellFiles shell;
+  ASSERT_TRUE(shell.WriteShortcut(
+      shortcut.Path(), {.target = "C:\\windows\\notepad.exe", .arguments = "sums.txt", .folder = "C:\\"}));
+  StartWith(ThreeEntries());
+  ASSERT_TRUE(DropFiles(program, {"C:\\windows\\regedit.exe", shortcut.Path(), "C:\\windows"}));
+  const MessageBox message = AwaitBox();
+  EXPECT_TRUE(message.text.ends_with("\r\n\r\nC:\\windows\r\n")) << message.text;
+  ASSERT_TRUE(PressButton(message, IDOK));
+  EXPECT_TRUE(HasRows(5));
+  EXPECT_EQ(program.Text("txtName"), "Sums");
+  EXPECT_EQ(base::UpperAscii(program.Text("txtPath")), "C:\\WINDOWS\\NOTEPAD.EXE SUMS.TXT");
+  EXPECT_EQ(program.Text("txtStartIn"), "C:\\");
+  program.Press("cmdOK");
+  ExpectEnd();
+  EXPECT_EQ(launcher::ReadRecord(list.Bytes().value_or(""), 3).path, "C:\\windows\\regedit.exe");
 }
 
 TEST_F(ConfigSession, DamagedListIsOpenedAndLeftAlone) {

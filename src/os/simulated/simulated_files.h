@@ -38,6 +38,8 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   void SetWindowsDirectory(const std::string& folder) { windows_directory_ = folder; }
   void Write(const std::string& path, const std::string& content) { files_[UpperPath(path)] = content; }
   [[nodiscard]] std::optional<std::string> Read(const std::string& path) const;
+  /// False where there is none.
+  bool Erase(const std::string& path) { return files_.erase(UpperPath(path)) == 1; }
   void Protect(const std::string& path) { read_only_.insert(UpperPath(path)); }
   /// No file can be made any more, as on a CD; those that are there can be read.
   void ProtectDisk() { disk_is_protected_ = true; }

@@ -28,8 +28,8 @@ std::vector<std::string> NamesFrom(const Accesses& accesses, std::size_t first_c
 }  // namespace
 
 SimulatedMachine::SimulatedMachine()
-    : system_{memory_, registry_,  *this,  windows_, dialogs_, *this, *this,
-              shell_,  processor_, files_, files_,   drives_,  *this} {}
+    : system_{memory_, registry_,    *this,      windows_, dialogs_, *this,   *this,
+              shell_,  shell_files_, processor_, files_,   files_,   drives_, *this} {}
 
 void SimulatedMachine::SetMemory(std::uint32_t total_physical, std::uint32_t available_physical,
                                  std::uint32_t total_page_file, std::uint32_t available_page_file) {

@@ -15,6 +15,7 @@
 #include "os/simulated/simulated_memory.h"
 #include "os/simulated/simulated_processor.h"
 #include "os/simulated/simulated_registry.h"
+#include "os/simulated/simulated_shell_files.h"
 #include "os/system.h"
 
 namespace qdix::os {
@@ -76,6 +77,15 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   void AddFolder(const std::string& path) { folders_.insert(base::UpperAscii(path)); }
   [[nodiscard]] const std::string& CurrentFolder() const { return current_folder_; }
   void SetWindowsDirectory(const std::string& folder) { files_.SetWindowsDirectory(folder); }
+
+  // The shell's folders, and what it makes of recent documents.
+  void SetSpecialFolder(int number, const std::string& path) { shell_files_.SetFolder(number, path); }
+  /// A shell that makes no shortcuts of recent documents, or names them otherwise.
+  void MakeNoRecentShortcuts() { shell_files_.MakeNoRecentShortcuts(); }
+  void PutShortcut(const std::string& path, const Shortcut& shortcut) { shell_files_.Put(path, shortcut); }
+  [[nodiscard]] std::optional<Shortcut> ShortcutAt(const std::string& path) const {
+    return shell_files_.At(path);
+  }
 
   // Drives, by their letters in upper case.
   void AddDrive(char letter, const simulated::Drive& drive) { drives_.Add(letter, drive); }
@@ -167,6 +177,7 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   simulated::SimulatedShell shell_{log_};
   simulated::SimulatedProcessor processor_{log_};
   simulated::SimulatedFiles files_{log_};
+  simulated::SimulatedShellFiles shell_files_{log_, files_};
   simulated::SimulatedDrives drives_{log_};
   System system_;
   std::function<void(int)> on_pump_;

@@ -16,6 +16,7 @@
 #include "os/win32/win32_registry.h"
 #include "os/win32/win32_session.h"
 #include "os/win32/win32_shell.h"
+#include "os/win32/win32_shell_files.h"
 #include "os/win32/win32_windows.h"
 
 namespace qdix::os::win32 {
@@ -46,6 +47,7 @@ class Win32System {
   Win32Clock clock_;
   Win32Processes processes_;
   Win32Shell shell_;
+  Win32ShellFiles shell_files_;
   Win32Processor processor_;
   Win32Files files_;
   Win32ProfileFiles profile_files_;

@@ -21,14 +21,19 @@ class ForeignMenu {
 
   [[nodiscard]] int Count() const { return AskFor("GetMenuItemCount", {menu_}); }
   [[nodiscard]] int DefaultIndex() const { return AskFor("GetMenuDefaultItem", {menu_, TRUE, 0}); }
+  [[nodiscard]] bool IsDisabled(int index) const { return (State(index) & (MF_GRAYED | MF_DISABLED)) != 0; }
   [[nodiscard]] std::string Entry(int index) const {
     const auto place = static_cast<std::uint32_t>(index);
-    if ((AskFor("GetMenuState", {menu_, place, MF_BYPOSITION}) & MF_SEPARATOR) != 0) return kSeparator;
+    // The upper byte of what has a submenu is the number of its entries.
+    if ((State(index) & (MF_SEPARATOR | MF_POPUP)) == MF_SEPARATOR) return kSeparator;
     const int length = AskFor("GetMenuStringA", {menu_, place, text_.At(0), kLongestEntry, MF_BYPOSITION});
     return length > 0 ? text_.ReadText(0) : std::string();
   }
 
  private:
+  [[nodiscard]] int State(int index) const {
+    return AskFor("GetMenuState", {menu_, static_cast<std::uint32_t>(index), MF_BYPOSITION});
+  }
   [[nodiscard]] int AskFor(const char* function, const std::vector<std::uint32_t>& arguments) const {
     const auto answer = CallInside(process_, SystemFunction("user32.dll", function), arguments);
     return static_cast<int>(answer.value_or(0));
@@ -44,7 +49,11 @@ class ForeignMenu {
 MenuText ReadMenu(HANDLE process, HWND menu_window) {
   const ForeignMenu menu(process, static_cast<std::uint32_t>(Ask(menu_window, kAskForMenu)));
   MenuText text;
-  for (int index = 0; index < menu.Count(); ++index) text.entries.push_back(menu.Entry(index));
+  for (int index = 0; index < menu.Count(); ++index) {
+    text.entries.push_back(menu.Entry(index));
+    if (menu.IsDisabled(index) && text.entries.back() != kSeparator)
+      text.disabled_entries.push_back(text.entries.back());
+  }
   const int default_index = menu.DefaultIndex();
   if (default_index >= 0 && default_index < menu.Count()) {
     text.default_entry = text.entries[static_cast<std::size_t>(default_index)];

@@ -15,6 +15,8 @@ inline constexpr const char* kSeparator = "-";
 struct MenuText {
   /// From top to bottom.
   std::vector<std::string> entries;
+  /// Those of them that are shown grey.
+  std::vector<std::string> disabled_entries;
   /// The one that is shown as the default.
   std::string default_entry;
 };

@@ -21,6 +21,13 @@ ScreenMap MapOf(Others&&... others) {
   return ScreenMap(program.Window());
 }
 
+/// A path of the host, as Wine's programs see it.
+std::string WindowsPath(const std::string& host_path) {
+  std::string path = "Z:" + host_path;
+  std::replace(path.begin(), path.end(), '/', '\\');
+  return path;
+}
+
 }  // namespace
 
 ProgramFacts Qdix() { return {"QDIX.exe", "Q-DIX", MapOf<app::Form1>()}; }
@@ -32,13 +39,18 @@ ProgramFacts ConfigLauncher() {
   return {"configL.exe", config_launcher::kTitle, MapOf<config_launcher::ConfigForm>(dialogs)};
 }
 
+std::string WitnessPath() { return WindowsPath(QDIX_WITNESS); }
+
+std::string WitnessReportPath() {
+  const std::string program = WitnessPath();
+  return program.substr(0, program.rfind('.')) + ".txt";
+}
+
 std::string ProgramPath(const std::string& file_name) {
   const char* const chosen = std::getenv("QDIX_PROGRAM");
   const std::string main_program =
       chosen != nullptr ? std::string(chosen) : std::string(QDIX_SOURCE_DIR) + "/build/win9x/QDIX.exe";
-  std::string path = "Z:" + main_program.substr(0, main_program.rfind('/') + 1) + file_name;
-  std::replace(path.begin(), path.end(), '/', '\\');
-  return path;
+  return WindowsPath(main_program.substr(0, main_program.rfind('/') + 1) + file_name);
 }
 
 }  // namespace qdix::e2e

@@ -18,6 +18,10 @@ struct ProgramFacts {
 [[nodiscard]] ProgramFacts Undo();
 [[nodiscard]] ProgramFacts ConfigLauncher();
 
+/// Path of the program that writes down how it was started, and of what it writes.
+[[nodiscard]] std::string WitnessPath();
+[[nodiscard]] std::string WitnessReportPath();
+
 /// Path of a program under test, as Windows writes it: in the folder of the QDIX.exe that the environment
 /// variable QDIX_PROGRAM names (a path of the host), else in the one that the preset win9x builds into.
 [[nodiscard]] std::string ProgramPath(const std::string& file_name);

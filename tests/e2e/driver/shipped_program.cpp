@@ -64,12 +64,19 @@ bool ShippedProgram::Start() {
   return true;
 }
 
-bool ShippedProgram::Attach() {
+bool ShippedProgram::Open(DWORD access) {
   const HWND application = FindWindowA(kApplicationClass, facts_.title);
   if (application == nullptr) return false;
   GetWindowThreadProcessId(application, &process_id_);
-  process_ = OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ | SYNCHRONIZE, FALSE, process_id_);
+  process_ = OpenProcess(access, FALSE, process_id_);
   return process_ != nullptr;
+}
+
+bool ShippedProgram::Attach() { return Open(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ | SYNCHRONIZE); }
+
+bool ShippedProgram::Adopt() {
+  is_ours_ = Open(PROCESS_ALL_ACCESS);
+  return is_ours_;
 }
 
 void ShippedProgram::Kill() {

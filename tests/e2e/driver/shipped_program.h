@@ -32,6 +32,8 @@ class ShippedProgram {
   [[nodiscard]] bool Start();
   /// Attaches to the copy that runs already; false when there is none.
   [[nodiscard]] bool Attach();
+  /// The same with a copy that another program was made to start: it counts as started here.
+  [[nodiscard]] bool Adopt();
   void Kill();
   [[nodiscard]] bool IsRunning() const;
   /// The exit code once the process has ended within the deadline; -1 otherwise.
@@ -94,6 +96,7 @@ class ShippedProgram {
   std::vector<std::string> AnswerBoxes() const;
 
  private:
+  [[nodiscard]] bool Open(DWORD access);
   [[nodiscard]] HWND FirstWindow(const char* window_class) const;
   [[nodiscard]] const ControlAddress& AddressOf(const std::string& name) const;
 

@@ -205,6 +205,50 @@ TEST(ConfigDroppedFiles, FoldersAndLongPathsAreNamedAndLeftOut) {
   EXPECT_NE(rig.BoxText(1).find("C:\\WINDOWS\r\n" + long_path + "\r\n"), std::string::npos);
 }
 
+TEST(ConfigDroppedFiles, ShortcutBecomesWhatItLeadsToUnderItsOwnName) {
+  ConfigRig rig;
+  const std::string desktop = "C:\\WINDOWS\\Desktop\\";
+  rig.machine.PutShortcut(
+      desktop + "My game.lnk",
+      {.target = "C:\\My Games\\Big Game.exe", .arguments = "/full \"level 2\"", .folder = "D:\\Saved"});
+  rig.machine.PutShortcut(desktop + "Sums.LNK",
+                          {.target = "C:\\WINDOWS\\CALC.EXE", .arguments = {}, .folder = {}});
+  rig.Start();
+  rig.form->FilesDropped({desktop + "My game.lnk", desktop + "Sums.LNK"});
+  EXPECT_EQ(rig.form->Entries(),
+            (Entries{{"My game", "\"C:\\My Games\\Big Game.exe\" /full \"level 2\"", "D:\\Saved"},
+                     {"Sums", "C:\\WINDOWS\\CALC.EXE", "C:\\WINDOWS"}}));
+  EXPECT_EQ(rig.machine.Boxes().size(), 0U);
+}
+
+TEST(ConfigDroppedFiles, ShortcutsThatLeadToNoProgramAreNamedAndLeftOut) {
+  ConfigRig rig;
+  const std::string desktop = "C:\\WINDOWS\\Desktop\\";
+  rig.machine.WriteFile(desktop + "My Computer.lnk", "leads to no file");
+  rig.machine.PutShortcut(desktop + "Windows.lnk", {.target = "C:\\WINDOWS", .arguments = {}, .folder = {}});
+  rig.machine.PutShortcut(
+      desktop + "Long.lnk",
+      {.target = "C:\\A.EXE", .arguments = std::string(launcher::kPathWidth, 'a'), .folder = {}});
+  rig.Start();
+  rig.form->FilesDropped({desktop + "My Computer.lnk", desktop + "Windows.lnk", desktop + "Long.lnk"});
+  EXPECT_EQ(rig.Rows(), Names{});
+  EXPECT_EQ(
+      rig.BoxText(1),
+      "These could not be added. They are folders or shortcuts that lead to no file, or their paths are "
+      "too long for the list:\r\n\r\n" +
+          desktop + "My Computer.lnk\r\n" + desktop + "Windows.lnk\r\n" + desktop + "Long.lnk\r\n");
+}
+
+TEST(ConfigDroppedFiles, ShortcutThatCannotBeReadIsNamedAndLeftOut) {
+  ConfigRig rig;
+  rig.machine.PutShortcut("C:\\A.lnk", {.target = "C:\\A.EXE", .arguments = {}, .folder = {}});
+  rig.Start();
+  rig.machine.FailNextCall("ReadShortcut");
+  rig.form->FilesDropped({"C:\\A.lnk"});
+  EXPECT_EQ(rig.Rows(), Names{});
+  EXPECT_EQ(rig.machine.Boxes().size(), 1U);
+}
+
 TEST(ConfigDroppedFiles, StopAtTwentyFive) {
   ConfigRig rig(SomeEntries(24));
   rig.Start();

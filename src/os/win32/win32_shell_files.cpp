@@ -1,0 +1,69 @@
+#include "os/win32/win32_shell_files.h"
+
+// The later headers do not stand without the first.
+// clang-format off
+#include <windows.h>
+#include <shellapi.h>
+#include <shlobj.h>
+// clang-format on
+
+#include <array>
+
+#include "os/win32/shell_link.h"
+
+namespace qdix::os::win32 {
+
+namespace {
+
+static_assert(kStartupFolder == CSIDL_STARTUP && kRecentFolder == CSIDL_RECENT);
+static_assert(kStartMenuFolder == CSIDL_STARTMENU && kDesktopFolder == CSIDL_DESKTOPDIRECTORY);
+static_assert(kFoCopy == FO_COPY && kFoRename == FO_RENAME);
+static_assert(kFofSilent == FOF_SILENT && kFofNoConfirmation == FOF_NOCONFIRMATION);
+static_assert(kFofNoConfirmMkDir == FOF_NOCONFIRMMKDIR);
+static_assert(kShardPath == SHARD_PATHA);
+
+/// Gives an identifier list back to the shell, which took it from its own allocator.
+void Free(LPITEMIDLIST list) {
+  IMalloc* allocator = nullptr;
+  if (FAILED(SHGetMalloc(&allocator))) return;
+  allocator->Free(list);
+  allocator->Release();
+}
+
+}  // namespace
+
+std::string Win32ShellFiles::SpecialFolder(int number) {
+  LPITEMIDLIST list = nullptr;
+  if (FAILED(SHGetSpecialFolderLocation(owner_, number, &list)) || list == nullptr) return {};
+  std::array<char, MAX_PATH> path{};
+  const bool found = SHGetPathFromIDListA(list, path.data()) != FALSE;
+  Free(list);
+  return found ? std::string(path.data()) : std::string();
+}
+
+bool Win32ShellFiles::SHFileOperationA(std::uint32_t operation, const std::string& from,
+                                       const std::string& to, std::uint16_t flags) {
+  SHFILEOPSTRUCTA request{};
+  request.hwnd = owner_;
+  request.wFunc = operation;
+  request.pFrom = from.c_str();
+  request.pTo = to.c_str();
+  request.fFlags = flags;
+  return ::SHFileOperationA(&request) == 0 && request.fAnyOperationsAborted == FALSE;
+}
+
+void Win32ShellFiles::SHAddToRecentDocs(std::uint32_t kind, const std::string& path) {
+  ::SHAddToRecentDocs(kind, path.c_str());
+}
+
+std::optional<Shortcut> Win32ShellFiles::ReadShortcut(const std::string& path) {
+  ShellLink link;
+  return link.Load(path) ? link.Read() : std::nullopt;
+}
+
+bool Win32ShellFiles::WriteShortcut(const std::string& path, const Shortcut& shortcut) {
+  ShellLink link;
+  return link.Set(shortcut) && link.Save(path);
+}
+
+}  // namespace qdix::os::win32
