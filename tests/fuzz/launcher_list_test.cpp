@@ -2,8 +2,7 @@
 // as it was shown. Random hands on the window lose nothing either. A failing run prints its seed.
 #include <gtest/gtest.h>
 
-#include <random>
-
+#include "tests/fuzz/random_list_maker.h"
 #include "tests/unit/config_launcher/config_rig.h"
 
 namespace qdix::tests {
@@ -12,9 +11,9 @@ namespace {
 constexpr unsigned kRuns = 300;
 constexpr int kActionsPerRun = 60;
 
-class RandomLists {
+class RandomLists : private RandomListMaker {
  public:
-  explicit RandomLists(unsigned seed) : random_(seed) {}
+  using RandomListMaker::RandomListMaker;
 
   void Run() {
     const std::string before = RandomFile();
@@ -40,29 +39,6 @@ class RandomLists {
   }
 
  private:
-  [[nodiscard]] bool Chance(unsigned one_in) { return random_() % one_in == 0; }
-  char AnyByte() { return static_cast<char>(random_() % 256); }
-
-  /// Likely texts, and any bytes.
-  std::string RandomText(std::size_t most) {
-    std::string text;
-    for (auto left = random_() % (most + 1); left > 0; --left) {
-      text += Chance(6) ? AnyByte() : static_cast<char>(' ' + random_() % 95);
-    }
-    return text;
-  }
-
-  std::string RandomFile() {
-    static constexpr std::size_t kCounts[] = {0, 1, 2, 24, 25, 26, 27, 99, 100, 101};
-    std::string file;
-    for (std::size_t left = kCounts[random_() % std::size(kCounts)]; left > 0; --left) {
-      file += launcher::RecordBytes({RandomText(60), RandomText(260), RandomText(260)});
-    }
-    if (Chance(3)) file.resize(random_() % (file.size() + 1));
-    for (auto left = Chance(4) ? random_() % 600 : 0; left > 0; --left) file += AnyByte();
-    return file;
-  }
-
   /// No text of the list can be longer than its field, be blank at an end, or hold what cannot be shown.
   void ExpectShowable() {
     EXPECT_LE(rig_.form->Entries().size(), 100U);
@@ -85,7 +61,7 @@ class RandomLists {
   void Act() {
     config_launcher::ConfigScreen& screen = rig_.Screen();
     const std::size_t count = rig_.form->Entries().size();
-    switch (random_() % 10) {
+    switch (Random() % 10) {
       case 0:
         return screen.cmdAdd.Press();
       case 1:
@@ -105,7 +81,7 @@ class RandomLists {
         return rig_.Type({Printable(RandomText(60)), Printable(RandomText(260)), Printable(RandomText(9))});
       default:
         if (Chance(2)) rig_.machine.AnswerNextBox(os::kIdYes);
-        return screen.lstPrograms.ChooseIndex(count == 0 ? 0 : static_cast<int>(random_() % count));
+        return screen.lstPrograms.ChooseIndex(count == 0 ? 0 : static_cast<int>(Random() % count));
     }
   }
 
@@ -117,7 +93,6 @@ class RandomLists {
     return text;
   }
 
-  std::mt19937 random_;
   ConfigRig rig_;
 };
 

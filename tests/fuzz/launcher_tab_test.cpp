@@ -1,0 +1,98 @@
+// Any bytes as the launcher's list, in the program that shows it and starts what is in it: each record is a
+// row and can be tried, a list of more than 25 ends the program, and the file stays as it is. A failing run
+// prints its seed.
+#include <gtest/gtest.h>
+
+#include "base/text.h"
+#include "tests/fuzz/random_list_maker.h"
+#include "tests/support/program_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+constexpr unsigned kRuns = 150;
+constexpr const char* kPath = "C:\\Program Files\\QDIX\\launcher.dat";
+constexpr std::size_t kFieldWidths[] = {55, 255, 255};
+
+/// The field of a record, worked out here a second time: blanks for what the file lacks, none at the ends,
+/// nothing from the first NUL on.
+std::string FieldOf(const std::string& file, std::size_t record, std::size_t field) {
+  std::size_t begin = record * 565;
+  for (std::size_t before = 0; before < field; ++before) begin += kFieldWidths[before];
+  std::string text = begin < file.size() ? file.substr(begin, kFieldWidths[field]) : std::string();
+  text.resize(kFieldWidths[field], ' ');
+  text.erase(text.find_last_not_of(' ') + 1);
+  text.erase(0, text.find_first_not_of(' '));
+  return std::string(text.c_str());
+}
+
+/// Length by 565, to the nearest whole number; no length is exactly between two.
+std::size_t RecordsOf(const std::string& file) { return (file.size() + 282) / 565; }
+
+class RandomTab {
+ public:
+  explicit RandomTab(unsigned seed) : maker_(seed), file_(maker_.RandomFile()) {}
+
+  void Run() {
+    rig_.SetHasRunBefore();
+    rig_.Store("Settings", "Launcher RAM", "4");
+    rig_.machine.WriteFile(kPath, file_);
+    rig_.Start();
+    if (RecordsOf(file_) > 25) {
+      ExpectEnd();
+    } else {
+      ExpectRows();
+      StartEach();
+      rig_.program->Window().Unload();
+    }
+    EXPECT_EQ(rig_.machine.ReadFile(kPath), file_);
+    EXPECT_TRUE(rig_.machine.Misuses().empty());
+    EXPECT_EQ(rig_.machine.OpenFileCount(), 0);
+  }
+
+ private:
+  void ExpectEnd() {
+    EXPECT_TRUE(rig_.program->Window().Unloaded());
+    ASSERT_FALSE(rig_.machine.Boxes().empty());
+    EXPECT_EQ(rig_.machine.Boxes().back().text,
+              "Run-time error '340':\r\n\r\nControl array element '25' doesn't exist");
+  }
+
+  void ExpectRows() {
+    const ui::ListBox& list = rig_.program->Launcher().List5;
+    ASSERT_EQ(static_cast<std::size_t>(list.Count()), RecordsOf(file_));
+    for (int row = 0; row < list.Count(); ++row) {
+      EXPECT_EQ(list.Item(row), FieldOf(file_, static_cast<std::size_t>(row), 0));
+    }
+  }
+
+  /// Nothing of such a name is there: each launch says so and the next one works.
+  void StartEach() {
+    rig_.program->MainWindow().SSTab1.ChooseTab(screens::kLauncherTab);
+    ui::ListBox& list = rig_.program->Launcher().List5;
+    for (int row = 0; row < list.Count(); ++row) {
+      const std::size_t boxes_before = rig_.machine.Boxes().size();
+      list.ChooseIndex(row);
+      list.PressEnter();
+      const std::string command = FieldOf(file_, static_cast<std::size_t>(row), 1);
+      EXPECT_GT(rig_.machine.Boxes().size(), boxes_before) << command;
+      EXPECT_EQ(rig_.machine.Boxes().back().text,
+                base::Trim(command).empty() ? "Invalid procedure call or argument" : "File not found");
+    }
+  }
+
+  RandomListMaker maker_;
+  const std::string file_;
+  ProgramRig rig_;
+};
+
+TEST(LauncherTabFuzz, AnyBytesAreShownTriedAndLeftAlone) {
+  for (unsigned seed = 1; seed <= kRuns; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    RandomTab(seed).Run();
+    if (HasFailure()) return;
+  }
+}
+
+}  // namespace
+}  // namespace qdix::tests

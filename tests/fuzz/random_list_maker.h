@@ -1,0 +1,44 @@
+// Files as a damaged disk or another program may leave them where the launcher expects its list. The same
+// seed makes the same files.
+#pragma once
+
+#include <random>
+#include <string>
+
+#include "launcher/launcher_file.h"
+
+namespace qdix::tests {
+
+class RandomListMaker {
+ public:
+  explicit RandomListMaker(unsigned seed) : random_(seed) {}
+
+  [[nodiscard]] unsigned Random() { return static_cast<unsigned>(random_()); }
+  [[nodiscard]] bool Chance(unsigned one_in) { return Random() % one_in == 0; }
+  char AnyByte() { return static_cast<char>(Random() % 256); }
+
+  /// Likely texts, and any bytes.
+  std::string RandomText(std::size_t most) {
+    std::string text;
+    for (auto left = Random() % (most + 1); left > 0; --left) {
+      text += Chance(6) ? AnyByte() : static_cast<char>(' ' + Random() % 95);
+    }
+    return text;
+  }
+
+  std::string RandomFile() {
+    static constexpr std::size_t kCounts[] = {0, 1, 2, 24, 25, 26, 27, 99, 100, 101};
+    std::string file;
+    for (std::size_t left = kCounts[Random() % std::size(kCounts)]; left > 0; --left) {
+      file += launcher::RecordBytes({RandomText(60), RandomText(260), RandomText(260)});
+    }
+    if (Chance(3)) file.resize(Random() % (file.size() + 1));
+    for (auto left = Chance(4) ? Random() % 600 : 0; left > 0; --left) file += AnyByte();
+    return file;
+  }
+
+ private:
+  std::mt19937 random_;
+};
+
+}  // namespace qdix::tests
