@@ -22,6 +22,9 @@ Form1::Form1(const os::System& system)
                      application_, scheduled_release_),
       startup_release_(settings_, startup_, window_.Timer3, scheduled_release_),
       startup_registration_(system, startup_),
+      desktop_shortcut_(system, startup_),
+      help_(system, {quondix_, automatic_, time_intervals_, startup_, launcher_screen_, cache_,
+                     swap_file_screen_, about_}),
       system_ini_(system.profile_files, system.files),
       first_save_(system, system_ini_),
       restart_(system, application_, window_.Form1),
@@ -62,9 +65,13 @@ void Form1::EndSession() {
   window_.Form1.Unload();
 }
 
+/// The load calls it as well, so that the display is refreshed behind a hidden window; the first steps are
+/// for a window that can be seen.
 base::Status Form1::Form_Activate() {
   window_.Timer1.SetEnabled(true);
-  return base::kDone;
+  if (!first_help_pending_ || !window_.Form1.Visible()) return base::kDone;
+  first_help_pending_ = false;
+  return help_.FirstHelp();
 }
 
 base::Status Form1::Timer1_Timer() {

@@ -31,6 +31,8 @@
 #include "screens/swap_file_screen.h"
 #include "screens/time_intervals_screen.h"
 #include "screens/tray_menu.h"
+#include "shell/desktop_shortcut.h"
+#include "shell/help.h"
 #include "shell/settings_store.h"
 #include "shell/startup_registration.h"
 #include "tuning/cache/cache_save.h"
@@ -132,6 +134,8 @@ class Form1 {
   memory::TimedRelease timed_release_;
   memory::StartupRelease startup_release_;
   shell::StartupRegistration startup_registration_;
+  shell::DesktopShortcut desktop_shortcut_;
+  shell::Help help_;
   tuning::SystemIni system_ini_;
   tuning::FirstSave first_save_;
   tuning::Restart restart_;
@@ -150,6 +154,7 @@ class Form1 {
   TrayIcon tray_icon_;
 
   bool tip_pending_ = false;
+  bool first_help_pending_ = false;
   bool load_finished_ = false;
 };
 

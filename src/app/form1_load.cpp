@@ -61,6 +61,7 @@ void Form1::ShowVersion() {
 void Form1::RunFirstTimeSteps() {
   automatic_release_.StartCounter();
   tip_pending_ = true;
+  first_help_pending_ = true;
   startup_.Check2.SetTicked(true);
   machine_record_.MarkRun();
 }

@@ -1,8 +1,9 @@
-// The shell: the notification area of the taskbar.
+// The shell: the notification area of the taskbar, and opening files with the programs they belong to.
 #pragma once
 
 #include <array>
 #include <cstdint>
+#include <string>
 
 #include "os/windows.h"
 
@@ -29,12 +30,19 @@ struct NotifyIconData {
   std::array<char, 64> tip{};
 };
 
+/// The program's window fills the screen.
+inline constexpr int kSwShowMaximized = 3;
+
 class Shell {
  public:
   virtual ~Shell() = default;
 
   /// Adds, modifies or deletes an icon. False when the shell refuses or is not there.
   virtual bool Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& data) = 0;
+
+  /// Does to a file what a verb says ("Open"), for no window, with the program's window shown as asked. False
+  /// where the file or a program for it is missing; the shell may have said so itself.
+  virtual bool ShellExecuteA(const char* verb, const std::string& path, int show) = 0;
 };
 
 }  // namespace qdix::os

@@ -11,6 +11,9 @@ using WindowHandle = std::uintptr_t;
 /// Relations of GetWindow: the window directly before another in the window order (nearer to the user).
 inline constexpr std::uint32_t kGwHwndPrev = 3;
 
+/// Asks a window to close.
+inline constexpr std::uint32_t kWmClose = 0x0010U;
+
 class Windows {
  public:
   virtual ~Windows() = default;
@@ -28,6 +31,10 @@ class Windows {
 
   /// Brings a window to the front and gives it the keyboard. False when the system refuses.
   virtual bool SetForegroundWindow(WindowHandle window) = 0;
+
+  /// Leaves a message without parameters for a window and does not wait for what it does. False when there is
+  /// no such window.
+  virtual bool PostMessageA(WindowHandle window, std::uint32_t message) = 0;
 };
 
 }  // namespace qdix::os

@@ -60,7 +60,7 @@ struct AutomaticScreen {
   ui::Label lblAutoCpuUnit{FrameAutoCpu,
                            {.name = "lblAutoCpuUnit", .caption = "%", .place = {245, 122, 12, 8}}};
 
-  ui::Frame FrameCounter{page, {.name = "FrameCounter", .caption = "Counter", .place = {4, 144, 260, 38}}};
+  ui::Frame FrameCounter{page, {.name = "FrameCounter", .caption = "Counter", .place = {4, 144, 260, 37}}};
   ui::Button Command7{
       FrameCounter,
       {.name = "Command7", .caption = "Reset Counter ->", .access_key = 'R', .place = {11, 157, 66, 14}}};
@@ -70,6 +70,13 @@ struct AutomaticScreen {
        .caption =
            "The Auto Detection feature has detected and released RAM 0 times since Q-DIX was started at",
        .place = {84, 154, 172, 25}}};
+
+  ui::Button Command22{page,
+                       {.name = "Command22",
+                        .caption = "Help / Tips",
+                        .access_key = 'T',
+                        .tool_tip = "Opens the help for this tab",
+                        .place = {198, 183, 66, 14}}};
 };
 
 }  // namespace qdix::screens

@@ -112,13 +112,20 @@ struct CacheScreen {
                         .caption = "Save Settings",
                         .access_key = 'S',
                         .tool_tip = "Writes these settings; they take effect when Windows restarts",
-                        .place = {4, 181, 66, 14}}};
+                        .place = {4, 183, 66, 14}}};
   ui::Button Command14{page,
                        {.name = "Command14",
                         .caption = "System Defaults",
                         .access_key = 'y',
                         .tool_tip = "Clears all boxes; the next save gives the sizes back to Windows",
-                        .place = {74, 181, 66, 14}}};
+                        .place = {74, 183, 66, 14}}};
+
+  ui::Button Command19{page,
+                       {.name = "Command19",
+                        .caption = "Help / Tips",
+                        .access_key = 'T',
+                        .tool_tip = "Opens the help for this tab",
+                        .place = {198, 183, 66, 14}}};
 };
 
 }  // namespace qdix::screens

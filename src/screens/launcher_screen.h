@@ -65,6 +65,13 @@ struct LauncherScreen {
                           .caption = "Freeing Up Memory",
                           .place = {107, 104, 120, 8},
                           .visible = false}};
+
+  ui::Button Command16{page,
+                       {.name = "Command16",
+                        .caption = "Help / Tips",
+                        .access_key = 'T',
+                        .tool_tip = "Opens the help for this tab",
+                        .place = {198, 183, 66, 14}}};
 };
 
 }  // namespace qdix::screens

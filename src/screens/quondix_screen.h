@@ -74,6 +74,13 @@ struct QuondixScreen {
                        .access_key = 'H',
                        .tool_tip = "Hide Q-DIX  while running in background",
                        .place = {174, 170, 90, 14}}};
+
+  ui::Button Command21{page,
+                       {.name = "Command21",
+                        .caption = "Help / Tips",
+                        .access_key = 'T',
+                        .tool_tip = "Opens the help for this tab",
+                        .place = {174, 186, 90, 14}}};
 };
 
 }  // namespace qdix::screens

@@ -27,6 +27,12 @@ struct StartupScreen {
                        .access_key = 'l',
                        .tool_tip = "Allow Q-DIX to start when the computer is started",
                        .place = {11, 14, 130, 10}}};
+  ui::Button Command5{FrameStartup,
+                      {.name = "Command5",
+                       .caption = "Create shortcut Icon on desktop",
+                       .access_key = 'C',
+                       .tool_tip = "Place a Q-DIX Shortcut Icon on your Desktop",
+                       .place = {143, 12, 114, 14}}};
   ui::Label lblStartupAmount{FrameStartup,
                              {.name = "lblStartupAmount",
                               .caption = "Amount of RAM to Release:",
@@ -74,11 +80,18 @@ struct StartupScreen {
   ui::Label lblAutoAndTime{
       FrameOther, {.name = "lblAutoAndTime", .caption = "(Auto & Time Only)", .place = {92, 140, 90, 8}}};
 
-  ui::Frame FrameUpTime{page, {.name = "FrameUpTime", .caption = "System", .place = {4, 159, 260, 26}}};
+  ui::Frame FrameUpTime{page, {.name = "FrameUpTime", .caption = "System", .place = {4, 159, 260, 22}}};
   ui::Label lblTimeRunning{FrameUpTime,
                            {.name = "lblTimeRunning",
                             .caption = "Your system has been running for 0  hours and 5 minutes",
-                            .place = {11, 171, 244, 8}}};
+                            .place = {11, 169, 244, 8}}};
+
+  ui::Button Command24{page,
+                       {.name = "Command24",
+                        .caption = "Help / Tips",
+                        .access_key = 'T',
+                        .tool_tip = "Opens the help for this tab",
+                        .place = {198, 183, 66, 14}}};
 };
 
 }  // namespace qdix::screens

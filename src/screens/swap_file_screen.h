@@ -2,6 +2,7 @@
 // shows; no behaviour.
 #pragma once
 
+#include "screens/picture_numbers.h"
 #include "ui/lists.h"
 #include "ui/ranges.h"
 #include "ui/simple_controls.h"
@@ -78,7 +79,16 @@ struct SwapFileScreen {
                         .caption = "Save Changes",
                         .access_key = 'S',
                         .tool_tip = "Writes this configuration; it takes effect when Windows restarts",
-                        .place = {4, 181, 66, 14}}};
+                        .place = {4, 183, 66, 14}}};
+
+  ui::Button Command20{page,
+                       {.name = "Command20",
+                        .caption = "Help / Tips",
+                        .access_key = 'p',
+                        .tool_tip = "Opens the help for this tab",
+                        .place = {198, 183, 66, 14}},
+                       ui::ButtonRole::kPlain,
+                       kLightBulbPicture};
 };
 
 }  // namespace qdix::screens

@@ -45,6 +45,13 @@ struct TimeIntervalsScreen {
   ui::TextBox Text10{FrameTimeCpu, {.name = "Text10", .place = {218, 128, 24, 13}}};
   ui::Label lblTimeCpuUnit{FrameTimeCpu,
                            {.name = "lblTimeCpuUnit", .caption = "%", .place = {245, 130, 12, 8}}};
+
+  ui::Button Command23{page,
+                       {.name = "Command23",
+                        .caption = "Help / Tips",
+                        .access_key = 'T',
+                        .tool_tip = "Opens the help for this tab",
+                        .place = {198, 183, 66, 14}}};
 };
 
 }  // namespace qdix::screens

@@ -76,11 +76,15 @@ bool RegistryPaths::CloseSubkey(std::int32_t handle) {
   return registry_.RegCloseKey(static_cast<os::KeyHandle>(handle)) != os::kErrorSuccess;
 }
 
+void RegistryPaths::DeleteValue(std::string_view path, const char* value_name) {
+  const std::int32_t key = GetSubkeyHandle(path);
+  if (key == kNoKey) return;
+  static_cast<void>(registry_.RegDeleteValueA(static_cast<os::KeyHandle>(key), value_name));
+  CloseSubkey(key);
+}
+
 std::string RegistryPaths::RegDelete() {
-  const std::int32_t run = GetSubkeyHandle(std::string("HKEY_LOCAL_MACHINE\\") + kRunKey);
-  if (run == kNoKey) return {};
-  static_cast<void>(registry_.RegDeleteValueA(static_cast<os::KeyHandle>(run), kRunValue));
-  CloseSubkey(run);
+  DeleteValue(kRunPath, kRunValue);
   return {};
 }
 

@@ -14,6 +14,9 @@ inline constexpr const char* kMachineKey = "SOFTWARE\\QDIX";
 /// Programs that start with Windows, and the program's own entry among them; machine-wide.
 inline constexpr const char* kRunKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 inline constexpr const char* kRunValue = "Quondix";
+/// The same key by its full path.
+inline constexpr const char* kRunPath =
+    "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 
 class RegistryPaths {
  public:
@@ -27,6 +30,9 @@ class RegistryPaths {
 
   /// True where the system reported an error.
   bool CloseSubkey(std::int32_t handle);
+
+  /// Removes a value where key and value exist.
+  void DeleteValue(std::string_view path, const char* value_name);
 
   /// Removes the entry by which the program starts with Windows. Always the empty text.
   std::string RegDelete();

@@ -1,29 +1,62 @@
 #include "shell/startup_registration.h"
 
+#include "shell/application_folder.h"
+#include "shell/module_registry.h"
 #include "shell/registry_key.h"
-#include "shell/registry_paths.h"
+#include "shell/shell_folders.h"
+#include "shell/shortcut_names.h"
 
 namespace qdix::shell {
 
 StartupRegistration::StartupRegistration(const os::System& system, screens::StartupScreen& screen)
-    : system_(system), screen_(screen) {
+    : system_(system), screen_(screen), paths_(system.registry) {
   screen_.Check2.OnClick = ui::Handler::To<&StartupRegistration::Check2_Click>(*this);
 }
 
 void StartupRegistration::CheckStartup() {
-  const auto run = RegistryKey::Open(system_.registry, os::kHkeyLocalMachine, kRunKey, os::kKeyQueryValue);
-  screen_.Check2.SetTicked(run.HasValue(kRunValue));
+  const std::string startup_folder = SpecialFolderPath(system_.shell_files, os::kStartupFolder);
+  const bool has_shortcut =
+      !startup_folder.empty() && system_.files.GetFileAttributesA((startup_folder + kShortcutName).c_str()) !=
+                                     os::kInvalidFileAttributes;
+  if (has_shortcut || RegistryKey::Open(system_.registry, os::kHkeyLocalMachine, kRunKey, os::kKeyQueryValue)
+                          .HasValue(kRunValue)) {
+    screen_.Check2.SetTicked(true);
+    return;
+  }
+  screen_.Check2.SetTicked(false);
+  DeleteStartMenuShortcut("QDIX.exe.lnk");
 }
 
 base::Status StartupRegistration::Check2_Click() {
-  auto run = RegistryKey::Open(system_.registry, os::kHkeyLocalMachine, kRunKey,
-                               os::kKeyQueryValue | os::kKeySetValue);
   if (screen_.Check2.Ticked()) {
-    run.WriteText(kRunValue, system_.processes.ModuleFileName());
-  } else {
-    run.DeleteValue(kRunValue);
+    SetRunEntry();
+    return base::kDone;
   }
+  static_cast<void>(paths_.RegDelete());
+  StartupDelete();
+  DeleteStartMenuShortcut(ApplicationFileName(system_.processes) + kShortcutOfFile);
+  DeleteStartMenuShortcut(kShortcutName);
   return base::kDone;
+}
+
+/// An entry without a path would make Windows complain at each start.
+void StartupRegistration::SetRunEntry() {
+  const std::string path = ProgramPath(system_.processes);
+  const std::int32_t run = path.empty() ? RegistryPaths::kNoKey : paths_.GetSubkeyHandle(kRunPath);
+  if (run == RegistryPaths::kNoKey) return;
+  ModuleRegistry(system_.registry).SetValueEx(static_cast<os::KeyHandle>(run), kRunValue, os::kRegSz, path);
+  paths_.CloseSubkey(run);
+}
+
+/// Once more by the way that older versions took, should they have left an entry of their own.
+void StartupRegistration::StartupDelete() {
+  paths_.DeleteValue("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run", kRunValue);
+}
+
+void StartupRegistration::DeleteStartMenuShortcut(const std::string& name) {
+  const std::string start_menu = SpecialFolderPath(system_.shell_files, os::kStartMenuFolder);
+  if (start_menu.empty()) return;
+  system_.files.DeleteFileA((start_menu + "Programs\\StartUp\\" + name).c_str());
 }
 
 }  // namespace qdix::shell

@@ -38,10 +38,12 @@ enum class ButtonRole : std::uint8_t {
 
 class Button final : public Control {
  public:
-  Button(Container& parent, const Design& design, ButtonRole role = ButtonRole::kPlain)
-      : Control(&parent, Kind::kButton, design), role_(role) {}
+  /// With the number of an icon among the program's resources it shows that before its caption.
+  Button(Container& parent, const Design& design, ButtonRole role = ButtonRole::kPlain, int picture_id = 0)
+      : Control(&parent, Kind::kButton, design), picture_id_(picture_id), role_(role) {}
 
   [[nodiscard]] ButtonRole Role() const { return role_; }
+  [[nodiscard]] int PictureId() const { return picture_id_; }
 
   /// The user's press; nothing when unreachable.
   void Press();
@@ -49,6 +51,7 @@ class Button final : public Control {
   Handler OnClick;
 
  private:
+  int picture_id_;
   ButtonRole role_;
 };
 

@@ -21,6 +21,16 @@ TEST_F(EventPumpContract, RunsWhatIsWaitingBeforeItReturns) {
   EXPECT_EQ(runs, 1);
 }
 
+TEST_F(EventPumpContract, WaitTakesItsTimeAndRunsWhatComesInIt) {
+  int runs = 0;
+  machine->DoInNextPump([&] { ++runs; });
+  const std::uint32_t before_ms = system.clock.GetTickCount();
+  system.event_pump.WaitMs(300);
+  const std::uint32_t passed_ms = system.clock.GetTickCount() - before_ms;
+  EXPECT_EQ(runs, 1);
+  EXPECT_GE(passed_ms, 300U);
+}
+
 TEST_F(EventPumpContract, HandlerPumpsInTurn) {
   std::string order;
   machine->DoInNextPump([&] {

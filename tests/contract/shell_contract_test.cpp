@@ -36,5 +36,9 @@ TEST_F(ShellContract, IconIsNotAddedTwice) {
   EXPECT_TRUE(system.shell.Shell_NotifyIconA(os::kNimDelete, icon));
 }
 
+TEST_F(ShellContract, FileThatIsMissingIsNotOpened) {
+  EXPECT_FALSE(system.shell.ShellExecuteA("Open", "C:\\qdix no such file.htm", os::kSwShowMaximized));
+}
+
 }  // namespace
 }  // namespace qdix::contract

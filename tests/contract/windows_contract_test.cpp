@@ -81,6 +81,14 @@ TEST_F(WindowsContract, ClosedWindowIsNeitherRestoredNorRaised) {
   EXPECT_FALSE(system.windows.SetForegroundWindow(window));
 }
 
+TEST_F(WindowsContract, WindowThatIsAskedToCloseIsGoneSoonAfter) {
+  const os::WindowHandle window = machine->OpenWindow("QdixPosted", "posted");
+  EXPECT_TRUE(system.windows.PostMessageA(window, os::kWmClose));
+  system.event_pump.PumpEvents();
+  EXPECT_EQ(system.windows.FindWindowA("QdixPosted", nullptr), 0U);
+  EXPECT_FALSE(system.windows.PostMessageA(window, os::kWmClose));
+}
+
 TEST_F(WindowsContract, OwnWindowComesToTheFront) {
   const os::WindowHandle window = machine->OpenWindow(kClass, "A Title");
   machine->OpenWindow(kOtherClass, "In front");

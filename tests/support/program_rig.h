@@ -28,6 +28,7 @@ class ProgramRig {
   explicit ProgramRig(std::uint32_t ram_bytes = 64 * kMegabyte) {
     machine.SetMemory(ram_bytes, ram_bytes / 2, ram_bytes, ram_bytes / 4 * 3);
     machine.SetNow(kNoon21November2026);
+    machine.AddProgram("C:\\Program Files\\QDIX\\help.exe");
   }
 
   /// Stores a setting as an earlier run would have left it.

@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
-"""Draws the program's icon: a memory chip with a gauge in its middle.
+"""Draws the program's icons: a memory chip with a gauge in its middle, and a light bulb.
 
-  make_icon.py FILE.ico     writes 32x32 and 16x16 pixels, each in 16 and in 256 colours, as uncompressed bitmaps,
-                            which is what Windows 95 reads
+  make_icon.py chip FILE.ico    writes 32x32 and 16x16 pixels, each in 16 and in 256 colours
+  make_icon.py bulb FILE.ico    writes 16x16 pixels in 16 colours
+
+as uncompressed bitmaps, which is what Windows 95 reads.
 """
 import struct
 import sys
@@ -96,8 +98,34 @@ def rows_bottom_up(picture, bits, value_of):
     return packed
 
 
-def bitmap(size, bits):
-    picture = draw(size, bits == 8)
+# A letter a pixel: outline, glass, shine, socket and its shadow.
+BULB = """
+................
+.....oooooo.....
+....o######o....
+...o##ww####o...
+...o#ww#####o...
+...o#w######o...
+...o########o...
+...o########o...
+....o##oo##o....
+.....o#oo#o.....
+.....o#oo#o.....
+.....ossssd.....
+.....sddddd.....
+.....ossssd.....
+......dddd......
+................
+"""
+BULB_COLOURS = {".": TRANSPARENT, "o": 0, "#": 11, "w": 15, "s": 7, "d": 8}
+
+
+def draw_bulb():
+    return [[BULB_COLOURS[letter] for letter in row] for row in BULB.split()]
+
+
+def bitmap(picture, bits):
+    size = len(picture)
     colours = (VGA + SHADES if bits == 8 else VGA) + [(0, 0, 0)] * 256
     table = b"".join(struct.pack("4B", blue, green, red, 0) for red, green, blue in colours[:1 << bits])
     colour_rows = rows_bottom_up(picture, bits, lambda pixel: max(pixel, 0))
@@ -107,9 +135,18 @@ def bitmap(size, bits):
     return header + table + colour_rows + mask_rows
 
 
-def icon():
-    kinds = [(size, bits) for bits in (4, 8) for size in (32, 16)]
-    images = [bitmap(size, bits) for size, bits in kinds]
+def chip():
+    return icon([(draw(size, bits == 8), bits) for bits in (4, 8) for size in (32, 16)])
+
+
+def bulb():
+    return icon([(draw_bulb(), 4)])
+
+
+def icon(pictures):
+    """The file of pictures, each with the bits of a pixel."""
+    kinds = [(len(picture), bits) for picture, bits in pictures]
+    images = [bitmap(picture, bits) for picture, bits in pictures]
     directory = struct.pack("<HHH", 0, 1, len(kinds))
     offset = len(directory) + 16 * len(kinds)
     for (size, bits), image in zip(kinds, images):
@@ -119,7 +156,7 @@ def icon():
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 2:
+    if len(sys.argv) != 3 or sys.argv[1] not in ("chip", "bulb"):
         sys.exit(__doc__)
-    with open(sys.argv[1], "wb") as file:
-        file.write(icon())
+    with open(sys.argv[2], "wb") as file:
+        file.write(chip() if sys.argv[1] == "chip" else bulb())

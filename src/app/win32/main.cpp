@@ -14,6 +14,8 @@ namespace qdix::app::win32 {
 
 namespace {
 
+static_assert(screens::kProgramPicture == kProgramIcon && screens::kLightBulbPicture == kLightBulbIcon);
+
 /// What lives as long as the process runs its loop. On the heap, since the controls alone are more than a
 /// frame of the stack should hold.
 class Program {

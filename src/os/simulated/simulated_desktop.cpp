@@ -50,6 +50,13 @@ bool SimulatedWindows::SetForegroundWindow(WindowHandle window) {
   return true;
 }
 
+bool SimulatedWindows::PostMessageA(WindowHandle window, std::uint32_t message) {
+  if (log_.RecordAndFail("PostMessageA", std::to_string(message)) || Find(window) == windows_.end())
+    return false;
+  if (message == kWmClose) Close(window);
+  return true;
+}
+
 WindowHandle SimulatedWindows::Open(const std::string& window_class, const std::string& title) {
   windows_.insert(windows_.begin(), {next_handle_, window_class, title, false});
   return next_handle_++;
@@ -96,6 +103,13 @@ bool SimulatedShell::Shell_NotifyIconA(std::uint32_t request, const NotifyIconDa
   if (request == kNimAdd) return icons_.insert(icon).second;
   if (request == kNimDelete) return icons_.erase(icon) == 1;
   return icons_.contains(icon);
+}
+
+bool SimulatedShell::ShellExecuteA(const char* verb, const std::string& path, int show) {
+  const std::string request = std::string(verb) + " " + path + " " + std::to_string(show);
+  if (log_.RecordAndFail("ShellExecuteA", request) || !files_.Read(path)) return false;
+  opened_files_.push_back(request);
+  return true;
 }
 
 }  // namespace qdix::os::simulated

@@ -10,6 +10,7 @@
 #include "os/dialogs.h"
 #include "os/shell.h"
 #include "os/simulated/call_log.h"
+#include "os/simulated/simulated_files.h"
 #include "os/windows.h"
 
 namespace qdix::os::simulated {
@@ -22,6 +23,8 @@ class SimulatedWindows final : public Windows {
   WindowHandle GetWindow(WindowHandle window, std::uint32_t relation) override;
   bool OpenIcon(WindowHandle window) override;
   bool SetForegroundWindow(WindowHandle window) override;
+  /// A window that is asked to close does so at once.
+  bool PostMessageA(WindowHandle window, std::uint32_t message) override;
 
   /// Opens a window in front of all others.
   WindowHandle Open(const std::string& window_class, const std::string& title);
@@ -84,18 +87,24 @@ struct TrayRequest {
 
 class SimulatedShell final : public Shell {
  public:
-  explicit SimulatedShell(CallLog& log) : log_(log) {}
+  SimulatedShell(CallLog& log, const SimulatedFiles& files) : log_(log), files_(files) {}
 
   bool Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& data) override;
+  /// Opens every file that is there.
+  bool ShellExecuteA(const char* verb, const std::string& path, int show) override;
 
   [[nodiscard]] const std::vector<TrayRequest>& Requests() const { return requests_; }
   /// The taskbar ends, and every icon with it.
   void ForgetIcons() { icons_.clear(); }
   [[nodiscard]] int IconCount() const { return static_cast<int>(icons_.size()); }
+  /// Verb, path and way of showing of each file that was opened.
+  [[nodiscard]] const std::vector<std::string>& OpenedFiles() const { return opened_files_; }
 
  private:
   CallLog& log_;
+  const SimulatedFiles& files_;
   std::vector<TrayRequest> requests_;
+  std::vector<std::string> opened_files_;
   /// Owner and number of each icon.
   std::set<std::pair<WindowHandle, std::uint32_t>> icons_;
 };

@@ -103,6 +103,12 @@ void SimulatedMachine::PumpEvents() {
   if (on_pump_) on_pump_(pumps_);
 }
 
+void SimulatedMachine::WaitMs(std::uint32_t ms) {
+  log_.Record("WaitMs", std::to_string(ms));
+  PumpEvents();
+  AdvanceMs(ms);
+}
+
 double SimulatedMachine::Now() {
   log_.Record("Now");
   return now_days_;
@@ -141,11 +147,16 @@ std::int32_t SimulatedMachine::CreateProcessA(const std::string& command_line) {
   if (log_.RecordAndFail("CreateProcessA", command_line)) return kErrorFileNotFound;
   const bool is_quoted = command_line.starts_with('"');
   const std::size_t begin = is_quoted ? 1 : 0;
-  const std::size_t end = std::min(command_line.find(is_quoted ? '"' : ' ', begin), command_line.size());
-  const std::string program = base::UpperAscii(command_line.substr(begin, end - begin));
-  if (!programs_.contains(program)) return kErrorFileNotFound;
-  started_programs_.push_back(command_line);
-  return kErrorSuccess;
+  for (std::size_t end = begin; end < command_line.size();) {
+    end = std::min(command_line.find(is_quoted ? '"' : ' ', end + 1), command_line.size());
+    if (!programs_.contains(base::UpperAscii(command_line.substr(begin, end - begin)))) {
+      if (is_quoted) break;
+      continue;
+    }
+    started_programs_.push_back(command_line);
+    return kErrorSuccess;
+  }
+  return kErrorFileNotFound;
 }
 
 bool SimulatedMachine::SetCurrentDirectoryA(const std::string& folder) {

@@ -92,7 +92,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   /// A system from before the extended query of free space.
   void RemoveExtendedQuery() { drives_.RemoveExtendedQuery(); }
 
-  // Event pump: the action runs inside each pump, with the number of the pump, the first being 1.
+  // Event pump: the action runs inside each pump, with the number of the pump, the first being 1. A wait is
+  // one pump.
   void OnPump(std::function<void(int)> action) { on_pump_ = std::move(action); }
   [[nodiscard]] int PumpCount() const { return pumps_; }
 
@@ -122,6 +123,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   void ForgetTrayIcons() { shell_.ForgetIcons(); }
   [[nodiscard]] int TrayIconCount() const { return shell_.IconCount(); }
 
+  [[nodiscard]] const std::vector<std::string>& OpenedFiles() const { return shell_.OpenedFiles(); }
+
   // The processor: it answers what is set here.
   [[nodiscard]] simulated::SimulatedProcessor& TheProcessor() { return processor_; }
 
@@ -138,8 +141,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   void SetOtherCopyRunning(bool is_running) { other_copy_ = is_running; }
   void SetModuleFileName(const std::string& path) { module_file_name_ = path; }
 
-  // Other programs, by the first word of their command line, or what stands in quotation marks there; the
-  // disk defragmenter is there from the start.
+  // Other programs, by the beginning of their command line up to a blank, or by what stands in quotation
+  // marks there. The disk defragmenter is there from the start.
   void AddProgram(const std::string& name) { programs_.insert(base::UpperAscii(name)); }
   void RemoveProgram(const std::string& name) { programs_.erase(base::UpperAscii(name)); }
   /// The command lines that started one, in order.
@@ -160,6 +163,7 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
 
  private:
   void PumpEvents() override;
+  void WaitMs(std::uint32_t ms) override;
   double Now() override;
   std::uint32_t GetTickCount() override;
   std::string LongDate(double days) override;
@@ -174,9 +178,9 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   simulated::SimulatedRegistry registry_{log_};
   simulated::SimulatedWindows windows_{log_};
   simulated::SimulatedDialogs dialogs_{log_};
-  simulated::SimulatedShell shell_{log_};
   simulated::SimulatedProcessor processor_{log_};
   simulated::SimulatedFiles files_{log_};
+  simulated::SimulatedShell shell_{log_, files_};
   simulated::SimulatedShellFiles shell_files_{log_, files_};
   simulated::SimulatedDrives drives_{log_};
   System system_;

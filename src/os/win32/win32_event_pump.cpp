@@ -2,16 +2,32 @@
 
 namespace qdix::os::win32 {
 
-void Win32EventPump::PumpEvents() {
+void Win32EventPump::PumpEvents() { static_cast<void>(HandleSome()); }
+
+Win32EventPump::Queue Win32EventPump::HandleSome() {
   MSG message;
   for (int count = 0; count < kMessagesPerPump && !stopped_; ++count) {
-    if (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) == 0) return;
+    if (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) == 0) return Queue::kEmpty;
     if (message.message == WM_QUIT) {
       // Meant for the loop that waits; it finds it again when the operation has unwound.
       PostQuitMessage(static_cast<int>(message.wParam));
-      return;
+      return Queue::kEnds;
     }
     Handle(message);
+  }
+  return stopped_ ? Queue::kEnds : Queue::kHasMore;
+}
+
+void Win32EventPump::WaitMs(std::uint32_t ms) {
+  const DWORD begin = GetTickCount();
+  for (;;) {
+    const Queue queue = HandleSome();
+    const DWORD passed_ms = GetTickCount() - begin;
+    if (queue == Queue::kEnds || passed_ms >= ms) return;
+    // It wakes for messages that are new, so none may be left from before.
+    if (queue == Queue::kEmpty) {
+      MsgWaitForMultipleObjects(0, nullptr, FALSE, ms - passed_ms, QS_ALLINPUT);
+    }
   }
 }
 

@@ -19,6 +19,7 @@ class Win32EventPump final : public EventPump {
   void SetDialogWindow(HWND window) { dialog_window_ = window; }
 
   void PumpEvents() override;
+  void WaitMs(std::uint32_t ms) override;
 
   /// Waits for one message and handles it; false when the program has ended or is told to quit.
   [[nodiscard]] bool WaitAndHandle();
@@ -27,6 +28,12 @@ class Win32EventPump final : public EventPump {
   void Stop() { stopped_ = true; }
 
  private:
+  enum class Queue {
+    kEmpty,
+    kHasMore,
+    kEnds
+  };
+  Queue HandleSome();
   void Handle(MSG& message);
 
   HWND dialog_window_ = nullptr;

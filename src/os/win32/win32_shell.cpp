@@ -11,6 +11,7 @@
 namespace qdix::os::win32 {
 
 static_assert(kNimAdd == NIM_ADD && kNimModify == NIM_MODIFY && kNimDelete == NIM_DELETE);
+static_assert(kSwShowMaximized == SW_SHOWMAXIMIZED);
 static_assert(kNifAll == (NIF_MESSAGE | NIF_ICON | NIF_TIP));
 static_assert(sizeof(NOTIFYICONDATAA::szTip) >= sizeof(NotifyIconData::tip));
 
@@ -25,6 +26,13 @@ bool Win32Shell::Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& 
   record.hIcon = reinterpret_cast<HICON>(data.icon);
   std::copy(data.tip.begin(), data.tip.end(), record.szTip);
   return ::Shell_NotifyIconA(request, &record) != FALSE;
+}
+
+bool Win32Shell::ShellExecuteA(const char* verb, const std::string& path, int show) {
+  // Up to this number it is an error and not a program.
+  constexpr INT_PTR kLargestError = 32;
+  return reinterpret_cast<INT_PTR>(::ShellExecuteA(nullptr, verb, path.c_str(), nullptr, nullptr, show)) >
+         kLargestError;
 }
 
 }  // namespace qdix::os::win32

@@ -1,4 +1,4 @@
-// The notification area of the real shell. Forwards and nothing else.
+// The real shell. Forwards and nothing else.
 #pragma once
 
 #include "os/shell.h"
@@ -8,6 +8,7 @@ namespace qdix::os::win32 {
 class Win32Shell final : public Shell {
  public:
   bool Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& data) override;
+  bool ShellExecuteA(const char* verb, const std::string& path, int show) override;
 };
 
 }  // namespace qdix::os::win32

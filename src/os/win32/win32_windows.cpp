@@ -6,7 +6,7 @@ namespace qdix::os::win32 {
 
 namespace {
 
-static_assert(kGwHwndPrev == GW_HWNDPREV);
+static_assert(kGwHwndPrev == GW_HWNDPREV && kWmClose == WM_CLOSE);
 
 HWND Native(WindowHandle window) { return reinterpret_cast<HWND>(window); }
 
@@ -24,6 +24,10 @@ bool Win32Windows::OpenIcon(WindowHandle window) { return ::OpenIcon(Native(wind
 
 bool Win32Windows::SetForegroundWindow(WindowHandle window) {
   return ::SetForegroundWindow(Native(window)) != FALSE;
+}
+
+bool Win32Windows::PostMessageA(WindowHandle window, std::uint32_t message) {
+  return ::PostMessageA(Native(window), message, 0, 0) != FALSE;
 }
 
 }  // namespace qdix::os::win32

@@ -11,6 +11,7 @@ class Win32Windows final : public Windows {
   [[nodiscard]] WindowHandle GetWindow(WindowHandle window, std::uint32_t relation) override;
   bool OpenIcon(WindowHandle window) override;
   bool SetForegroundWindow(WindowHandle window) override;
+  bool PostMessageA(WindowHandle window, std::uint32_t message) override;
 };
 
 }  // namespace qdix::os::win32

@@ -53,6 +53,8 @@ class NativeControl : public ControlPeer, private MessageHandler {
   virtual void OnCommand(UINT /*code*/) {}
   virtual void OnNotify(UINT /*code*/) {}
   virtual void OnScroll(UINT /*code*/) {}
+  /// The window is to be drawn by its owner.
+  virtual void OnDrawItem(const DRAWITEMSTRUCT& /*item*/) {}
   /// Colours for a WM_CTLCOLOR... message; null leaves them to the system.
   virtual HBRUSH Paint(UINT message, HDC device);
 

@@ -2,6 +2,7 @@
 
 #include "ui/win32/drawing_peer.h"
 #include "ui/win32/list_peers.h"
+#include "ui/win32/picture_button_peer.h"
 #include "ui/win32/range_peers.h"
 #include "ui/win32/simple_peers.h"
 #include "ui/win32/tab_strip_peer.h"
@@ -22,6 +23,9 @@ std::unique_ptr<NativeControl> MakePeer(const PeerContext& context, Control& mod
     case Kind::kLabel:
       return MakePeerOf<LabelPeer, Label>(context, model, parent, number);
     case Kind::kButton:
+      if (static_cast<Button&>(model).PictureId() != 0) {
+        return MakePeerOf<PictureButtonPeer, Button>(context, model, parent, number);
+      }
       return MakePeerOf<ButtonPeer, Button>(context, model, parent, number);
     case Kind::kCheckBox:
       return MakePeerOf<CheckBoxPeer, CheckBox>(context, model, parent, number);

@@ -39,6 +39,13 @@ std::optional<LRESULT> ReflectToPeer(const PeerTable& peers, UINT message, WPARA
       peer->OnScroll(LOWORD(wparam));
       return 0;
     }
+    case WM_DRAWITEM: {
+      const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lparam);
+      NativeControl* const peer = peers.ByWindow(item.hwndItem);
+      if (peer == nullptr) return std::nullopt;
+      peer->OnDrawItem(item);
+      return TRUE;
+    }
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORLISTBOX:
     case WM_CTLCOLORSTATIC:

@@ -74,10 +74,11 @@ PicturePeer::PicturePeer(const PeerContext& context, Picture& model, HWND parent
 }
 
 ButtonPeer::ButtonPeer(const PeerContext& context, Button& model, HWND parent, int number)
-    : NativeControl(context, model, parent, number,
-                    ButtonDesign(context, model,
-                                 WS_TABSTOP | (model.Role() == ButtonRole::kDefault ? BS_DEFPUSHBUTTON
-                                                                                    : BS_PUSHBUTTON))),
+    : ButtonPeer(context, model, parent, number,
+                 model.Role() == ButtonRole::kDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) {}
+
+ButtonPeer::ButtonPeer(const PeerContext& context, Button& model, HWND parent, int number, DWORD style)
+    : NativeControl(context, model, parent, number, ButtonDesign(context, model, WS_TABSTOP | style)),
       button_(model) {}
 
 void ButtonPeer::OnCommand(UINT code) {

@@ -32,13 +32,16 @@ class PicturePeer final : public NativeControl {
   [[nodiscard]] bool TakesKeyboard() const override { return false; }
 };
 
-class ButtonPeer final : public NativeControl {
+class ButtonPeer : public NativeControl {
  public:
   ButtonPeer(const PeerContext& context, Button& model, HWND parent, int number);
   void OnCommand(UINT code) override;
 
   /// The heavy border of the button that Enter presses.
-  void ShowAsDefault(bool is_default);
+  virtual void ShowAsDefault(bool is_default);
+
+ protected:
+  ButtonPeer(const PeerContext& context, Button& model, HWND parent, int number, DWORD style);
 
  private:
   LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;

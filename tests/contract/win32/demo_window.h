@@ -94,6 +94,11 @@ struct DemoModels {
                   {.name = "Stop", .caption = "Stop", .access_key = 'p', .place = {60, 100, 50, 14}},
                   ui::ButtonRole::kCancel};
   ui::Button other{tabs.Page(0), {.name = "Other", .caption = "Other", .place = {116, 100, 50, 14}}};
+  /// Its icon is not among the resources of the tests.
+  ui::Button pictured{tabs.Page(0),
+                      {.name = "Pictured", .caption = "With picture", .place = {4, 118, 70, 14}},
+                      ui::ButtonRole::kPlain,
+                      99};
   ui::Picture picture{tabs.Page(0), {.name = "Picture", .place = {190, 120, 21, 20}}, 1};
 
   ui::ListBox list{tabs.Page(1), {.name = "List", .place = {4, 4, 60, 40}}};

@@ -50,6 +50,32 @@ TEST_F(EventPumpWin32, StopEndsAPumpThatIsRunning) {
   EXPECT_EQ(runs, 3);
 }
 
+TEST_F(EventPumpWin32, StopEndsAWait) {
+  machine.DoInNextPump([&] { machine.GetWin32System().Stop(); });
+  const DWORD before_ms = GetTickCount();
+  pump.WaitMs(60000);
+  EXPECT_LT(GetTickCount() - before_ms, 30000U);
+}
+
+TEST_F(EventPumpWin32, WaitGoesOnBehindMoreMessagesThanOnePumpHandles) {
+  int runs = 0;
+  PostActions(200, [&] { ++runs; });
+  pump.WaitMs(1);
+  EXPECT_GT(runs, 0);
+  pump.WaitMs(200);
+  EXPECT_EQ(runs, 200);
+}
+
+TEST_F(EventPumpWin32, WaitLeavesTheEndOfTheLoopToTheLoop) {
+  PostQuitMessage(7);
+  const DWORD before_ms = GetTickCount();
+  pump.WaitMs(60000);
+  EXPECT_LT(GetTickCount() - before_ms, 30000U);
+  MSG message;
+  ASSERT_NE(PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE), 0);
+  EXPECT_EQ(message.wParam, 7U);
+}
+
 int timer_calls = 0;
 
 VOID CALLBACK CountTimerCall(HWND /*window*/, UINT /*message*/, UINT_PTR /*id*/, DWORD /*ticks_ms*/) {

@@ -32,6 +32,7 @@ std::string ListOf(int count) {
 }
 
 void UseTheLauncher(ProgramRig& rig) {
+  rig.SetHasRunBefore();
   rig.machine.AddProgram("game");
   rig.machine.AddProgram("C:\\Program Files\\QDIX\\configL.exe");
   rig.machine.AddFolder("D:");

@@ -1,0 +1,23 @@
+// The window of a button that shows a small icon before its caption, drawn here: the system's own buttons
+// show one or the other.
+#pragma once
+
+#include "ui/win32/simple_peers.h"
+
+namespace qdix::ui::win32 {
+
+class PictureButtonPeer final : public ButtonPeer {
+ public:
+  PictureButtonPeer(const PeerContext& context, Button& model, HWND parent, int number);
+  void ShowAsDefault(bool is_default) override;
+  void OnDrawItem(const DRAWITEMSTRUCT& item) override;
+
+ private:
+  /// The icon, the gap and the caption, together in the middle of the button.
+  void DrawContent(HDC device, const RECT& face, bool is_disabled) const;
+
+  HICON icon_;
+  bool is_default_ = false;
+};
+
+}  // namespace qdix::ui::win32

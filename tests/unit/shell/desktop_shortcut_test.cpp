@@ -1,0 +1,106 @@
+// "Create shortcut Icon on desktop": by way of the recent documents, and directly where that makes none.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/support/program_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+constexpr const char* kProgram = "C:\\Program Files\\QDIX\\QDIX.exe";
+constexpr const char* kOnDesktop = "C:\\WINDOWS\\Desktop\\Quondix.lnk";
+constexpr const char* kInRecent = "C:\\WINDOWS\\Recent\\Quondix.lnk";
+
+using Calls = std::vector<std::string>;
+
+class DesktopShortcutTest : public testing::Test {
+ protected:
+  DesktopShortcutTest() {
+    rig.SetHasRunBefore();
+    rig.Start().MainWindow().SSTab1.ChooseTab(screens::kStartupTab);
+  }
+  void Press() { rig.program->Startup().Command5.Press(); }
+  /// The calls of one press, those that only ask left out.
+  Calls CallsOfAPress() {
+    const std::size_t before = rig.machine.Calls().size();
+    Press();
+    Calls calls(rig.machine.Calls().begin() + static_cast<std::ptrdiff_t>(before), rig.machine.Calls().end());
+    std::erase_if(calls, [](const std::string& call) {
+      return call.starts_with("ModuleFileName") || call.starts_with("GetFileAttributesA");
+    });
+    return calls;
+  }
+  [[nodiscard]] std::string TargetAt(const std::string& path) const {
+    const auto shortcut = rig.machine.ShortcutAt(path);
+    return shortcut ? shortcut->target : "no shortcut";
+  }
+
+  ProgramRig rig;
+};
+
+TEST_F(DesktopShortcutTest, ShellMakesItAmongTheRecentDocumentsAndItIsCopied) {
+  EXPECT_EQ(CallsOfAPress(),
+            (Calls{"SpecialFolder(16)", "SpecialFolder(8)", "DeleteFileA(C:\\WINDOWS\\Recent\\Quondix.lnk)",
+                   "SHAddToRecentDocs(2, C:\\Program Files\\QDIX\\QDIX.exe)",
+                   "SHFileOperationA(4, C:\\WINDOWS\\Recent\\QDIX.exe.lnk||, "
+                   "C:\\WINDOWS\\Recent\\Quondix.lnk||, 20)",
+                   "SHFileOperationA(2, C:\\WINDOWS\\Recent\\Quondix.lnk||, C:\\WINDOWS\\Desktop\\||, 532)",
+                   "WaitMs(2000)"}));
+  EXPECT_EQ(TargetAt(kOnDesktop), kProgram);
+  EXPECT_EQ(TargetAt(kInRecent), kProgram);
+  EXPECT_TRUE(rig.machine.Misuses().empty());
+}
+
+TEST_F(DesktopShortcutTest, PressedTwiceItIsThereOnce) {
+  Press();
+  rig.machine.PutShortcut(kOnDesktop, {.target = "D:\\Old\\QDIX.exe", .arguments = {}, .folder = {}});
+  Press();
+  EXPECT_EQ(TargetAt(kOnDesktop), kProgram);
+  EXPECT_FALSE(rig.machine.ReadFile("C:\\WINDOWS\\Desktop\\QDIX.exe.lnk").has_value());
+  EXPECT_TRUE(rig.machine.Boxes().empty());
+}
+
+TEST_F(DesktopShortcutTest, WhereTheShellMakesNoneItIsWrittenDirectly) {
+  rig.machine.MakeNoRecentShortcuts();
+  EXPECT_EQ(CallsOfAPress(),
+            (Calls{"SpecialFolder(16)", "SpecialFolder(8)", "DeleteFileA(C:\\WINDOWS\\Recent\\Quondix.lnk)",
+                   "SHAddToRecentDocs(2, C:\\Program Files\\QDIX\\QDIX.exe)",
+                   "WriteShortcut(C:\\WINDOWS\\Desktop\\Quondix.lnk, C:\\Program Files\\QDIX\\QDIX.exe)",
+                   "WaitMs(2000)"}));
+  EXPECT_EQ(TargetAt(kOnDesktop), kProgram);
+  EXPECT_EQ(rig.machine.ShortcutAt(kOnDesktop)->folder, "C:\\Program Files\\QDIX\\");
+}
+
+TEST_F(DesktopShortcutTest, RefusedCopyIsMadeUpForDirectly) {
+  rig.machine.FailNextCall("SHFileOperationA");
+  Press();
+  EXPECT_EQ(TargetAt(kOnDesktop), kProgram);
+}
+
+TEST_F(DesktopShortcutTest, ShellWithoutRecentDocumentsGetsTheDirectOne) {
+  rig.machine.SetSpecialFolder(os::kRecentFolder, "");
+  // What a path put together from nothing would find.
+  rig.machine.WriteFile("Quondix.lnk", "somebody's");
+  Press();
+  EXPECT_EQ(TargetAt(kOnDesktop), kProgram);
+  EXPECT_EQ(rig.machine.ReadFile("Quondix.lnk"), "somebody's");
+}
+
+TEST_F(DesktopShortcutTest, ShellWithoutADesktopGetsNone) {
+  rig.machine.SetSpecialFolder(os::kDesktopFolder, "");
+  Press();
+  EXPECT_FALSE(rig.machine.ReadFile("Quondix.lnk").has_value());
+  EXPECT_TRUE(rig.machine.Boxes().empty());
+  EXPECT_TRUE(rig.machine.Misuses().empty());
+}
+
+TEST_F(DesktopShortcutTest, WindowCanBeClosedDuringTheWait) {
+  rig.machine.OnPump([this](int) { rig.program->Window().Unload(); });
+  Press();
+  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_EQ(TargetAt(kOnDesktop), kProgram);
+}
+
+}  // namespace
+}  // namespace qdix::tests
