@@ -8,6 +8,8 @@ readonly packages=(
   g++ cmake ninja-build git python3 clang-format clang-tidy libgtest-dev libgmock-dev googletest
   # the compiler for Windows programs
   g++-mingw-w64-i686-win32 binutils-mingw-w64-i686 mingw-w64-i686-dev
+  # the manual: its Markdown, and a look at its HTML
+  python3-markdown-it opensp w3c-sgml-lib
   # a private screen, a hand on it, and pictures of it
   xvfb xdotool x11-utils imagemagick
   # the private Wine: unpacking it, and making its programs find their own libraries
