@@ -89,6 +89,7 @@ class NativeControl : public ControlPeer, private MessageHandler {
 
  private:
   void FocusChanged();
+  void PlaceChanged();
 
   const PeerContext& context_;
   Control& model_;
