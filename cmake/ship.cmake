@@ -52,11 +52,15 @@ function(qdix_link target)
   add_dependencies(${target} win95_libraries)
 endfunction()
 
-# qdix_ship(<name> LIMIT_KB <n> SOURCES <file>... [LIBRARIES <target>...]): a shipped program under its shipped name, with its image check.
+# qdix_ship(<name> [OUTPUT <name>] LIMIT_KB <n> SOURCES <file>... [LIBRARIES <target>...]): a shipped program with its image check. OUTPUT is
+# its shipped name where CMake keeps that to itself.
 function(qdix_ship name)
-  cmake_parse_arguments(PARSE_ARGV 1 ship "" "LIMIT_KB" "SOURCES;LIBRARIES")
+  cmake_parse_arguments(PARSE_ARGV 1 ship "" "OUTPUT;LIMIT_KB" "SOURCES;LIBRARIES")
   add_executable(${name} ${ship_SOURCES})
   qdix_link(${name} ${ship_LIBRARIES})
+  if(ship_OUTPUT)
+    set_target_properties(${name} PROPERTIES OUTPUT_NAME ${ship_OUTPUT})
+  endif()
   add_test(NAME image.${name}
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tools/image_check/image_check.py
             --exports ${CMAKE_SOURCE_DIR}/cmake/win95-exports --limit-kb ${ship_LIMIT_KB} $<TARGET_FILE:${name}>)

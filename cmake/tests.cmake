@@ -40,6 +40,14 @@ endfunction()
 
 file(GLOB_RECURSE unit_sources CONFIGURE_DEPENDS tests/unit/*.cpp)
 qdix_test(unit_tests SOURCES ${unit_sources} LIBRARIES qdix_simulated ${companion_libraries})
+# The topics of the help as they are made and as they ship, by paths of the system that the tests run on.
+set(host_drive "")
+if(WIN32)
+  set(host_drive "Z:")
+endif()
+set_source_files_properties(tests/unit/help_viewer/shipped_topics_test.cpp PROPERTIES COMPILE_DEFINITIONS
+  "QDIX_TOPIC_STREAM=\"${host_drive}${QDIX_TOPIC_STREAM}\";QDIX_PACKED_TOPICS=\"${host_drive}${QDIX_PACKED_TOPICS}\"")
+add_dependencies(unit_tests qdix_packed_topics)
 
 file(GLOB_RECURSE contract_sources CONFIGURE_DEPENDS tests/contract/*.cpp)
 if(WIN32)

@@ -65,6 +65,12 @@ void Container::NotifyEnabled() {
   for (Control* child : children_) child->NotifyEnabled();
 }
 
+void Control::SetPlace(const Place& place) {
+  if (design_.place == place) return;
+  design_.place = place;
+  Notify(Change::kPlace);
+}
+
 void Control::SetVisible(bool visible) {
   if (visible_ == visible) return;
   visible_ = visible;

@@ -35,6 +35,8 @@ enum class Kind : std::uint8_t {
   kSlider,
   kDrawing,
   kPicture,
+  /// A control of one program alone, whose own factory makes its peer.
+  kOwn,
 };
 
 /// What changed in a model. The peer reads the new state from the model.
@@ -52,6 +54,9 @@ enum class Change : std::uint8_t {
   kWindowState,
   kRepaint,
   kBorder,
+  kPlace,
+  /// The place and size of the form's window on the screen.
+  kBounds,
 };
 
 class ControlPeer {
@@ -67,6 +72,8 @@ struct Place {
   std::int16_t top = 0;
   std::int16_t width = 0;
   std::int16_t height = 0;
+
+  friend bool operator==(const Place&, const Place&) = default;
 };
 
 /// A colour word: blue-green-red, or 0x80000000 + number of a system colour.
@@ -104,6 +111,7 @@ class Control {
   [[nodiscard]] std::string_view ToolTip() const { return design_.tool_tip; }
   [[nodiscard]] char AccessKey() const { return design_.access_key; }
   [[nodiscard]] const Place& GetPlace() const { return design_.place; }
+  void SetPlace(const Place& place);
   /// The container the control stands in; null for the form.
   [[nodiscard]] Container* Parent() const { return parent_; }
   [[nodiscard]] Form& GetForm() const;
@@ -128,6 +136,9 @@ class Control {
   /// focus. An unreachable control takes no focus.
   void SetFocus();
   [[nodiscard]] bool HasFocus() const;
+
+  /// The user's Enter on this control, where no button of the window takes it.
+  virtual void PressEnter() {}
 
   /// One peer or none. The peer must outlive the model's use of it or be detached with null.
   void AttachPeer(ControlPeer* peer) { peer_ = peer; }

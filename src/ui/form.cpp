@@ -2,8 +2,8 @@
 
 namespace qdix::ui {
 
-Form::Form(EventDispatcher& events, const Design& design)
-    : Container(nullptr, Kind::kForm, design), events_(events) {
+Form::Form(EventDispatcher& events, const Design& design, FormSize smallest)
+    : Container(nullptr, Kind::kForm, design), events_(events), smallest_(smallest) {
   SetVisible(false);
 }
 
@@ -94,6 +94,20 @@ void Form::Unload() {
   events_.Stop();
   if (form_peer_ != nullptr) form_peer_->FormUnloaded();
 }
+
+void Form::UserResized(FormSize size) {
+  const Place place{0, 0, size.width, size.height};
+  if (GetPlace() == place) return;
+  SetPlace(place);
+  events_.Run(OnResize);
+}
+
+void Form::SetBounds(const WindowBounds& bounds) {
+  bounds_ = bounds;
+  Notify(Change::kBounds);
+}
+
+void Form::PressEscape() { events_.Run(OnEscape); }
 
 void Form::PointerMoved(int button, int shift, double x_twips, double y_twips) {
   events_.Run(OnMouseMove, button, shift, x_twips, y_twips);

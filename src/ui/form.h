@@ -1,6 +1,8 @@
 // The window of the program: caption, state, focus, activation, closing.
 #pragma once
 
+#include <optional>
+
 #include "ui/control.h"
 #include "ui/menu.h"
 
@@ -11,7 +13,26 @@ inline constexpr double kTwipsPerPixel = 15;
 
 enum class WindowState : std::uint8_t {
   kNormal,
-  kMinimised
+  kMinimised,
+  /// Forms whose size the user can change.
+  kMaximised
+};
+
+/// Inner size of a form in dialog units.
+struct FormSize {
+  std::int16_t width = 0;
+  std::int16_t height = 0;
+};
+
+/// Where a window with its frame stands while it is neither minimised nor maximised: in pixels from the upper
+/// left corner of what the taskbar leaves of the screen.
+struct WindowBounds {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+
+  friend bool operator==(const WindowBounds&, const WindowBounds&) = default;
 };
 
 /// What a form asks of the window that shows it, beyond what a control does.
@@ -26,7 +47,21 @@ class FormPeer {
 
 class Form final : public Container {
  public:
-  Form(EventDispatcher& events, const Design& design);
+  /// The user can change the size of a form that has a smallest size, down to that.
+  Form(EventDispatcher& events, const Design& design, FormSize smallest = {});
+
+  [[nodiscard]] bool IsResizable() const { return smallest_.width != 0; }
+  [[nodiscard]] FormSize Smallest() const { return smallest_; }
+  /// The user gave the window another inner size, or the system did: the place of the form follows, and
+  /// OnResize runs when it differs.
+  void UserResized(FormSize size);
+
+  /// Nothing until a window was placed.
+  [[nodiscard]] const std::optional<WindowBounds>& Bounds() const { return bounds_; }
+  /// Places the window. Its inner size follows from that, by UserResized.
+  void SetBounds(const WindowBounds& bounds);
+  /// The window was placed by the user or the system; copied into the model.
+  void UserMoved(const WindowBounds& bounds) { bounds_ = bounds; }
 
   [[nodiscard]] EventDispatcher& Dispatcher() const { return events_; }
   void AttachFormPeer(FormPeer* peer) { form_peer_ = peer; }
@@ -39,7 +74,7 @@ class Form final : public Container {
 
   [[nodiscard]] WindowState State() const { return state_; }
   void SetState(WindowState state);
-  /// The user minimised or restored the window; copied into the model.
+  /// The user minimised, maximised or restored the window; copied into the model.
   void UserChangedState(WindowState state) { state_ = state; }
 
   /// The control with the keyboard, or null.
@@ -64,7 +99,12 @@ class Form final : public Container {
   /// The pointer moved over the window, or the tray icon called back: button, shift state, x and y in twips.
   void PointerMoved(int button, int shift, double x_twips, double y_twips);
 
+  /// Esc, where no button of the window takes it.
+  void PressEscape();
+
   Handler OnActivate;
+  Handler OnResize;
+  Handler OnEscape;
   /// Answers whether a user's wish to close the window is followed; unbound, it is.
   base::Callback<bool()> OnQueryClose;
   Handler OnUnload;
@@ -77,6 +117,8 @@ class Form final : public Container {
   EventDispatcher& events_;
   FormPeer* form_peer_ = nullptr;
   Control* focused_ = nullptr;
+  std::optional<WindowBounds> bounds_;
+  FormSize smallest_;
   WindowState state_ = WindowState::kNormal;
   bool moving_focus_ = false;
   bool focus_set_by_handler_ = false;

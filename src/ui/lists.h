@@ -72,8 +72,8 @@ class ListBox final : public ListControl {
   /// The user's double click on a row (selects it first), or on the empty part with kNoSelection (selects
   /// nothing new). Nothing when unreachable or no such row.
   void DoubleClick(int index);
-  /// Enter, where no button of the window takes it: like a double click on the selected row.
-  void PressEnter();
+  /// Like a double click on the selected row.
+  void PressEnter() override;
 
   Handler OnDoubleClick;
 

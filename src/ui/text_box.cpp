@@ -27,6 +27,10 @@ void TextBox::SetText(std::string_view text) {
   ReplaceText(text);
 }
 
+void TextBox::PressEnter() {
+  if (Reachable()) Events().Run(OnEnter);
+}
+
 void TextBox::ReplaceText(std::string_view text) {
   text_ = text;
   Notify(Change::kValue);

@@ -35,7 +35,10 @@ class TextBox final : public Control {
   /// The user changed the whole text in the window (typing, pasting): like Type, without OnKeyPress.
   void UserEdited(std::string_view text, int selection_start, int selection_length);
 
+  void PressEnter() override;
+
   Handler OnChange;
+  Handler OnEnter;
   /// Sees each character before it is typed and sets it to 0 to swallow it.
   base::Callback<base::Status(char&)> OnKeyPress;
 

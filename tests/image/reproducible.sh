@@ -6,14 +6,14 @@ source_dir=$1
 shift
 copy=$(mktemp -d)
 trap 'rm -rf "$copy"' EXIT
-cp -r "$source_dir"/{CMakeLists.txt,CMakePresets.json,cmake,companions,src,tools,tests} "$copy"
+cp -r "$source_dir"/{CMakeLists.txt,CMakePresets.json,cmake,companions,help,src,tools,tests} "$copy"
 cd "$copy"
 # A cache of compiler results would compare the first build with itself.
 export CCACHE_DISABLE=1
 cmake --preset win9x >/dev/null
 for built in "$@"; do
   name=$(basename "$built")
-  cmake --build --preset win9x --target "${name%.exe}" >/dev/null
+  cmake --build --preset win9x --target "$name" >/dev/null
   cmp "$built" "build/win9x/$name"
   echo "$name: two builds, the same $(stat -c %s "$built") bytes"
 done

@@ -26,6 +26,7 @@ LAYERS = {
 # The companion programs: nothing of each other and nothing of the main program's window.
 COMPANIONS = {
     "undo": {"base", "os", "ui", "shell", "tuning", "companion"},
+    "help_viewer": {"base", "os", "ui", "shell", "companion"},
     "config_launcher": {"base", "os", "ui", "shell", "launcher", "companion"},
 }
 ROOTS = {"src": LAYERS, "companions": COMPANIONS}

@@ -1,5 +1,6 @@
 #include "ui/win32/dialog_font.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace qdix::ui::win32 {
@@ -38,6 +39,13 @@ void DialogFont::Measure() {
 PixelBox DialogFont::Pixels(const Place& place) const {
   return {MulDiv(place.left, base_width_px_, 4), MulDiv(place.top, base_height_px_, 8),
           MulDiv(place.width, base_width_px_, 4), MulDiv(place.height, base_height_px_, 8)};
+}
+
+/// A side of more units than the model counts is cut to what it counts.
+FormSize DialogFont::Units(int width_px, int height_px) const {
+  constexpr int kMost = 0x7FFF;
+  return {static_cast<std::int16_t>(std::clamp(width_px * 4 / base_width_px_, 0, kMost)),
+          static_cast<std::int16_t>(std::clamp(height_px * 8 / base_height_px_, 0, kMost))};
 }
 
 }  // namespace qdix::ui::win32

@@ -1,7 +1,7 @@
 // The font of the window and the dialog units that follow from it.
 #pragma once
 
-#include "ui/control.h"
+#include "ui/form.h"
 #include "ui/win32/owned.h"
 
 namespace qdix::ui::win32 {
@@ -22,6 +22,8 @@ class DialogFont {
   [[nodiscard]] HFONT Get() const { return font_.get(); }
   /// Dialog units to pixels: a quarter of the average letter's width, an eighth of the font's height.
   [[nodiscard]] PixelBox Pixels(const Place& place) const;
+  /// An inner size in pixels as the dialog units that fit into it.
+  [[nodiscard]] FormSize Units(int width_px, int height_px) const;
 
  private:
   void Measure();

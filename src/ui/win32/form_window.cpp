@@ -3,17 +3,12 @@
 #include <commctrl.h>
 
 #include "ui/control_numbers.h"
-#include "ui/lists.h"
 #include "ui/win32/popup_menu.h"
 #include "ui/win32/reflection.h"
 
 namespace qdix::ui::win32 {
 
 namespace {
-
-constexpr DWORD kMainStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
-/// The application window owns the main window; without this style the taskbar would show neither.
-constexpr DWORD kMainExtendedStyle = WS_EX_APPWINDOW;
 
 HICON LoadMainIcon(HINSTANCE instance, int icon_id) {
   HICON const own = LoadIconA(instance, MAKEINTRESOURCEA(icon_id));
@@ -35,18 +30,15 @@ OwnedWindow MakeApplicationWindow(HINSTANCE instance, const Application& applica
 }
 
 OwnedWindow MakeMainWindow(HINSTANCE instance, HWND owner, const Form& form, const DialogFont& font) {
-  const PixelBox inner = font.Pixels(form.GetPlace());
-  RECT outer{0, 0, inner.width, inner.height};
-  AdjustWindowRectEx(&outer, kMainStyle, FALSE, kMainExtendedStyle);
-  const LONG width = outer.right - outer.left;
-  const LONG height = outer.bottom - outer.top;
+  const Place& inner = form.GetPlace();
+  const SIZE size = FrameRound(form, font, {inner.width, inner.height});
   RECT work{};
   SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
-  const LONG left = work.left + (work.right - work.left - width) / 2;
-  const LONG top = work.top + (work.bottom - work.top - height) / 2;
-  return OwnedWindow(CreateWindowExA(kMainExtendedStyle, kMainWindowClass, form.Caption().c_str(), kMainStyle,
-                                     left, top < work.top ? work.top : top, width, height, owner, nullptr,
-                                     instance, nullptr));
+  const LONG left = work.left + (work.right - work.left - size.cx) / 2;
+  const LONG top = work.top + (work.bottom - work.top - size.cy) / 2;
+  return OwnedWindow(CreateWindowExA(kMainExtendedStyle, kMainWindowClass, form.Caption().c_str(),
+                                     MainStyleOf(form), left, top < work.top ? work.top : top, size.cx,
+                                     size.cy, owner, nullptr, instance, nullptr));
 }
 
 /// Buttons of the mouse and modifier keys in the bits of the classic event.
@@ -81,6 +73,7 @@ FormWindow::FormWindow(HINSTANCE instance, int icon_id, Application& application
       hook_(main_.get(), *this),
       tips_(instance, main_.get()),
       keys_(form),
+      bounds_(main_.get(), form, font_),
       focus_(form, peers_),
       context_{instance, font_, keys_, peers_, focus_, tips_},
       timers_(main_.get(), timers) {
@@ -131,7 +124,10 @@ void FormWindow::ControlChanged(Control& /*control*/, Change change) {
       ShowOrHide();
       break;
     case Change::kWindowState:
-      MinimiseOrRestore();
+      TakeWindowState();
+      break;
+    case Change::kBounds:
+      bounds_.Apply();
       break;
     case Change::kEnabled:
       EnableWindow(main_.get(), form_.Enabled() ? TRUE : FALSE);
@@ -150,18 +146,20 @@ void FormWindow::ShowOrHide() {
     ShowWindow(main_.get(), SW_SHOWMINNOACTIVE);
     return;
   }
-  ShowWindow(main_.get(), IsIconic(main_.get()) != 0 ? SW_RESTORE : SW_SHOW);
+  const bool maximise = form_.State() == WindowState::kMaximised;
+  const int shown = IsIconic(main_.get()) != 0 ? SW_RESTORE : SW_SHOW;
+  ShowWindow(main_.get(), maximise ? SW_SHOWMAXIMIZED : shown);
   SetForegroundWindow(main_.get());
 }
 
 /// A hidden window takes its state when it is shown.
-void FormWindow::MinimiseOrRestore() {
+void FormWindow::TakeWindowState() {
   if (!form_.Shown()) return;
   if (form_.State() == WindowState::kMinimised) {
     ShowWindow(main_.get(), SW_MINIMIZE);
     return;
   }
-  ShowWindow(main_.get(), SW_RESTORE);
+  ShowWindow(main_.get(), form_.State() == WindowState::kMaximised ? SW_SHOWMAXIMIZED : SW_RESTORE);
   SetForegroundWindow(main_.get());
 }
 
@@ -214,7 +212,7 @@ std::optional<LRESULT> FormWindow::HandleKeyboard(UINT message, WPARAM wparam, L
       return 0;
     case WM_COMMAND:
       if (LOWORD(wparam) == IDCANCEL) PressCancelButton();
-      if (LOWORD(wparam) == IDOK) PressEnterInList();
+      if (LOWORD(wparam) == IDOK) PressEnterInControl();
       return 0;
     case WM_GETDLGCODE:
       return FormKeys::DialogCode(lparam);
@@ -236,9 +234,14 @@ std::optional<LRESULT> FormWindow::HandleLife(UINT message, WPARAM wparam, LPARA
       return 0;
     case WM_SIZE:
       SizeChanged(wparam);
+      bounds_.Resized(lparam);
       return 0;
     case WM_WINDOWPOSCHANGED:
       KeepApplicationWindowBehind();
+      bounds_.Moved();
+      return std::nullopt;
+    case WM_GETMINMAXINFO:
+      bounds_.Limit(*reinterpret_cast<MINMAXINFO*>(lparam));
       return std::nullopt;
     case WM_SYSCOLORCHANGE:
       ForwardToControls(message, wparam, lparam);
@@ -269,6 +272,7 @@ void FormWindow::KeepApplicationWindowBehind() const {
 void FormWindow::SizeChanged(WPARAM kind) {
   if (!form_.Shown()) return;
   if (kind == SIZE_MINIMIZED) form_.UserChangedState(WindowState::kMinimised);
+  if (kind == SIZE_MAXIMIZED) form_.UserChangedState(WindowState::kMaximised);
   if (kind == SIZE_RESTORED) form_.UserChangedState(WindowState::kNormal);
 }
 
@@ -302,15 +306,17 @@ LRESULT FormWindow::DefaultButtonNumber() const {
 
 void FormWindow::PressCancelButton() {
   Button* const button = keys_.ReachableButton(ButtonRole::kCancel);
-  if (button != nullptr) button->Press();
+  if (button != nullptr) {
+    button->Press();
+  } else {
+    form_.PressEscape();
+  }
 }
 
 /// Enter arrives here where no default button takes it.
-void FormWindow::PressEnterInList() {
+void FormWindow::PressEnterInControl() {
   Control* const focused = form_.Focused();
-  if (focused != nullptr && focused->GetKind() == Kind::kListBox) {
-    static_cast<ListBox*>(focused)->PressEnter();
-  }
+  if (focused != nullptr) focused->PressEnter();
 }
 
 /// The dialog manager's request to move the keyboard: to a window, or to the next (or, with a target other

@@ -11,6 +11,7 @@
 #include "ui/timer.h"
 #include "ui/win32/dialog_font.h"
 #include "ui/win32/focus_keeper.h"
+#include "ui/win32/form_bounds.h"
 #include "ui/win32/form_keys.h"
 #include "ui/win32/owned.h"
 #include "ui/win32/peer_factory.h"
@@ -62,7 +63,7 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   [[nodiscard]] HWND StandsOn(const Control& control) const;
 
   void ShowOrHide();
-  void MinimiseOrRestore();
+  void TakeWindowState();
   void SizeChanged(WPARAM kind);
   void PointerMoved(WPARAM buttons, LPARAM point);
   void EndSession();
@@ -70,7 +71,7 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   void KeepApplicationWindowBehind() const;
   [[nodiscard]] LRESULT DefaultButtonNumber() const;
   void PressCancelButton();
-  void PressEnterInList();
+  void PressEnterInControl();
   void MoveDialogFocus(WPARAM target, bool target_is_window) const;
   std::optional<LRESULT> HandleKeyboard(UINT message, WPARAM wparam, LPARAM lparam);
   std::optional<LRESULT> HandleLife(UINT message, WPARAM wparam, LPARAM lparam);
@@ -102,6 +103,7 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   ToolTips tips_;
   PeerTable peers_;
   FormKeys keys_;
+  FormBounds bounds_;
   FocusKeeper focus_;
   PeerContext context_;
   WindowTimers timers_;

@@ -101,6 +101,11 @@ std::string NativeControl::NativeCaption() const {
 
 void NativeControl::CaptionChanged() { SetWindowTextA(window_, NativeCaption().c_str()); }
 
+void NativeControl::PlaceChanged() {
+  const PixelBox box = context_.font.Pixels(model_.GetPlace());
+  MoveWindow(window_, box.left, box.top, box.width, box.height, TRUE);
+}
+
 void NativeControl::FocusChanged() { context_.focus.FollowModel(); }
 
 void NativeControl::ControlChanged(Control& /*control*/, Change change) {
@@ -128,7 +133,10 @@ void NativeControl::ControlChanged(Control& /*control*/, Change change) {
       return PixelsChanged();
     case Change::kBorder:
       return BorderChanged();
+    case Change::kPlace:
+      return PlaceChanged();
     case Change::kWindowState:
+    case Change::kBounds:
       return;
   }
 }

@@ -91,6 +91,7 @@ class NativeControl : public ControlPeer, private MessageHandler {
 
  private:
   void FocusChanged();
+  void PlaceChanged();
 
   const PeerContext& context_;
   Control& model_;

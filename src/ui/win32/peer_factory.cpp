@@ -13,6 +13,7 @@ namespace qdix::ui::win32 {
 std::unique_ptr<NativeControl> MakePeer(const PeerContext& context, Control& model, HWND parent, int number) {
   switch (model.GetKind()) {
     case Kind::kForm:
+    case Kind::kOwn:
       return nullptr;
     case Kind::kTabStrip:
       return MakePeerOf<TabStripPeer, TabStrip>(context, model, parent, number);

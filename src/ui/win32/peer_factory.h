@@ -20,7 +20,7 @@ template <class Peer, class Model>
   return std::make_unique<Peer>(context, static_cast<Model&>(model), parent, number);
 }
 
-/// The factory of all kinds.
+/// The factory of all kinds that more than one program has.
 [[nodiscard]] std::unique_ptr<NativeControl> MakePeer(const PeerContext& context, Control& model, HWND parent,
                                                       int number);
 

@@ -1,0 +1,130 @@
+#include "help_viewer/help_form.h"
+
+#include "base/runtime_error.h"
+#include "help_viewer/command_line.h"
+#include "help_viewer/packed_stream.h"
+#include "help_viewer/paper.h"
+#include "help_viewer/plain_text.h"
+
+namespace qdix::help_viewer {
+
+HelpForm::HelpForm(const os::System& system, const Devices& devices, const StartWith& start)
+    : system_(system),
+      devices_(devices),
+      stream_(Unpack(start.packed_stream)),
+      book_(stream_),
+      first_topic_(book_.IndexOf(TopicOfCommandLine(start.command_line).value_or(kNoLink))),
+      reader_(book_, screen_),
+      contents_list_(book_, screen_, reader_),
+      find_page_(book_, screen_, reader_),
+      remembered_place_(system.registry, devices.screen) {
+  events_.ReportErrorsTo(ui::EventDispatcher::ErrorReporter::To<&HelpForm::ReportUntrapped>(*this));
+  Bind();
+}
+
+void HelpForm::Bind() {
+  screen_.cmdContents.OnClick = ui::Handler::To<&HelpForm::cmdContents_Click>(*this);
+  screen_.cmdFind.OnClick = ui::Handler::To<&HelpForm::cmdFind_Click>(*this);
+  screen_.cmdPrint.OnClick = ui::Handler::To<&HelpForm::cmdPrint_Click>(*this);
+  screen_.cmdCopy.OnClick = ui::Handler::To<&HelpForm::cmdCopy_Click>(*this);
+  screen_.paneTopic.OnCopy = ui::Handler::To<&HelpForm::cmdCopy_Click>(*this);
+  screen_.Window.OnResize = ui::Handler::To<&HelpForm::Arrange>(*this);
+  screen_.Window.OnEscape = ui::Handler::To<&HelpForm::Close>(*this);
+  screen_.Window.OnUnload = ui::Handler::To<&HelpForm::Unload>(*this);
+  reader_.OnOpened = base::Callback<void()>::To<&ContentsList::Follow>(contents_list_);
+}
+
+void HelpForm::Start() {
+  remembered_place_.Restore(screen_.Window);
+  reader_.Begin(first_topic_);
+  screen_.Window.Show();
+  if (reader_.Current() == kContentsPage) {
+    screen_.lstContents.SetFocus();
+  } else {
+    screen_.paneTopic.SetFocus();
+  }
+}
+
+void HelpForm::EndSession() {
+  application_.SetSessionIsEnding();
+  screen_.Window.Unload();
+}
+
+void HelpForm::ShowSide(Side side) {
+  const bool finds = side == Side::kFind;
+  // What comes is shown first, so that the keyboard has somewhere to go from what disappears.
+  ui::Control* const find_controls[] = {&screen_.lblWord, &screen_.txtWord, &screen_.lblFound,
+                                        &screen_.lstFound};
+  if (finds) {
+    for (ui::Control* control : find_controls) control->SetVisible(true);
+    screen_.txtWord.SetFocus();
+    screen_.txtWord.SelectAll();
+    screen_.lstContents.SetVisible(false);
+  } else {
+    screen_.lstContents.SetVisible(true);
+    screen_.lstContents.SetFocus();
+    for (ui::Control* control : find_controls) control->SetVisible(false);
+  }
+}
+
+base::Status HelpForm::cmdContents_Click() {
+  ShowSide(Side::kContents);
+  reader_.Open(kContentsPage);
+  return base::kDone;
+}
+
+base::Status HelpForm::cmdFind_Click() {
+  ShowSide(Side::kFind);
+  return base::kDone;
+}
+
+base::Status HelpForm::cmdPrint_Click() {
+  const os::Printer::Choice choice = devices_.printer.PrintDlgA();
+  if (choice == os::Printer::Choice::kCancelled) return base::kDone;
+  bool is_printed = false;
+  if (choice == os::Printer::Choice::kPrint) {
+    // The program may have ended while the dialog was open.
+    is_printed =
+        screen_.Window.Unloaded() || PrintTopic(devices_.printer, screen_.paneTopic.Shown(), kWindowTitle);
+    devices_.printer.DeleteDC();
+  }
+  if (!is_printed && !screen_.Window.Unloaded()) {
+    Tell("The topic could not be printed.\r\n\r\nPlease make sure that a printer is installed and ready.");
+  }
+  return base::kDone;
+}
+
+base::Status HelpForm::cmdCopy_Click() {
+  if (!devices_.clipboard.SetClipboardData(PlainText(screen_.paneTopic.Shown()))) {
+    Tell(
+        "The topic could not be copied.\r\n\r\nAnother program may have the clipboard open. Please try "
+        "again.");
+  }
+  return base::kDone;
+}
+
+void HelpForm::Tell(const std::string& message) const {
+  system_.dialogs.MessageBoxA(message, application_.Title(), os::kMbOk | os::kMbIconExclamation);
+}
+
+base::Status HelpForm::Arrange() {
+  screen_.Arrange();
+  return base::kDone;
+}
+
+base::Status HelpForm::Close() {
+  screen_.Window.Close();
+  return base::kDone;
+}
+
+base::Status HelpForm::Unload() {
+  remembered_place_.Save(screen_.Window);
+  return base::kDone;
+}
+
+void HelpForm::ReportUntrapped(const base::RuntimeError& error) {
+  Tell(base::UntrappedErrorText(error));
+  screen_.Window.Unload();
+}
+
+}  // namespace qdix::help_viewer

@@ -1,0 +1,92 @@
+// The program: owns the book, the window and what works on it.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "help_viewer/book.h"
+#include "help_viewer/contents_list.h"
+#include "help_viewer/find_page.h"
+#include "help_viewer/help_screen.h"
+#include "help_viewer/reader.h"
+#include "help_viewer/remembered_place.h"
+#include "os/clipboard.h"
+#include "os/printer.h"
+#include "os/screen.h"
+#include "os/system.h"
+#include "ui/application.h"
+
+namespace qdix::help_viewer {
+
+/// What this program asks of the machine beside what all programs do.
+struct Devices {
+  os::Clipboard& clipboard;
+  os::Printer& printer;
+  os::Screen& screen;
+};
+
+/// What the program is started with.
+struct StartWith {
+  /// The topics, packed.
+  std::string_view packed_stream;
+  std::string_view command_line;
+};
+
+class HelpForm {
+ public:
+  /// System and devices must outlive this object.
+  HelpForm(const os::System& system, const Devices& devices, const StartWith& start);
+  HelpForm(const HelpForm&) = delete;
+  HelpForm& operator=(const HelpForm&) = delete;
+  ~HelpForm() = default;
+
+  /// Shows the window with the topic of the command line; without one, with the contents.
+  void Start();
+
+  /// The Windows session ends: the window unloads.
+  void EndSession();
+
+  [[nodiscard]] ui::Application& TheApplication() { return application_; }
+  [[nodiscard]] ui::Form& Window() { return screen_.Window; }
+  [[nodiscard]] HelpScreen& Screen() { return screen_; }
+  /// Index of the topic that is shown, or kContentsPage.
+  [[nodiscard]] int Current() const { return reader_.Current(); }
+
+  /// "Contents".
+  base::Status cmdContents_Click();
+  /// "Find".
+  base::Status cmdFind_Click();
+  /// "Print...".
+  base::Status cmdPrint_Click();
+  /// "Copy Topic", and Ctrl+C.
+  base::Status cmdCopy_Click();
+
+ private:
+  enum class Side : bool {
+    kContents,
+    kFind
+  };
+
+  void Bind();
+  void ShowSide(Side side);
+  void Tell(const std::string& message) const;
+  base::Status Arrange();
+  base::Status Close();
+  base::Status Unload();
+  void ReportUntrapped(const base::RuntimeError& error);
+
+  const os::System& system_;
+  const Devices devices_;
+  const std::string stream_;
+  const Book book_;
+  int first_topic_;
+  ui::EventDispatcher events_;
+  ui::Application application_{kTitle};
+  HelpScreen screen_{events_};
+  Reader reader_;
+  ContentsList contents_list_;
+  FindPage find_page_;
+  RememberedPlace remembered_place_;
+};
+
+}  // namespace qdix::help_viewer

@@ -1,0 +1,102 @@
+// The window of the program: what a form designer shows, and how it fits windows of other sizes. No
+// behaviour.
+#pragma once
+
+#include <algorithm>
+
+#include "help_viewer/topic_pane.h"
+#include "ui/form.h"
+#include "ui/lists.h"
+#include "ui/simple_controls.h"
+#include "ui/text_box.h"
+
+namespace qdix::help_viewer {
+
+/// Title of the window, by which the main program finds it. No other window has it.
+inline constexpr const char* kWindowTitle = "Quondix Help";
+/// Title of the application, and of its boxes.
+inline constexpr const char* kTitle = "Q-DIX Help";
+
+/// Dialog units.
+inline constexpr std::int16_t kMargin = 7;
+inline constexpr std::int16_t kGap = 4;
+inline constexpr std::int16_t kButtonHeight = 14;
+inline constexpr std::int16_t kPanesTop = kMargin + kButtonHeight + kMargin;
+inline constexpr std::int16_t kFoundTop = kPanesTop + 41;
+
+/// Lists and pane have no place before Arrange: it follows from the size of the window.
+struct HelpScreen {
+  explicit HelpScreen(ui::EventDispatcher& dispatcher) : events(dispatcher) { Arrange(); }
+
+  ui::EventDispatcher& events;
+  ui::Form Window{events,
+                  {.name = "HelpWindow", .caption = kWindowTitle, .place = {0, 0, 396, 250}},
+                  {.width = 286, .height = 130}};
+
+  ui::Button cmdContents{Window,
+                         {.name = "cmdContents",
+                          .caption = "Contents",
+                          .access_key = 'C',
+                          .tool_tip = "List all topics",
+                          .place = {7, 7, 50, kButtonHeight}}};
+  ui::Button cmdBack{Window,
+                     {.name = "cmdBack",
+                      .caption = "Back",
+                      .access_key = 'B',
+                      .tool_tip = "Return to the topic before this one",
+                      .place = {61, 7, 50, kButtonHeight},
+                      .enabled = false}};
+  ui::Button cmdFind{Window,
+                     {.name = "cmdFind",
+                      .caption = "Find",
+                      .access_key = 'F',
+                      .tool_tip = "List the topics that have a word",
+                      .place = {115, 7, 50, kButtonHeight}}};
+  ui::Button cmdPrint{Window,
+                      {.name = "cmdPrint",
+                       .caption = "Print...",
+                       .access_key = 'P',
+                       .tool_tip = "Print this topic",
+                       .place = {169, 7, 50, kButtonHeight}}};
+  ui::Button cmdCopy{Window,
+                     {.name = "cmdCopy",
+                      .caption = "Copy Topic",
+                      .access_key = 'y',
+                      .tool_tip = "Copy the text of the whole topic to the clipboard (Ctrl+C)",
+                      .place = {223, 7, 50, kButtonHeight}}};
+
+  ui::ListBox lstContents{Window, {.name = "lstContents"}};
+  ui::Label lblWord{Window,
+                    {.name = "lblWord", .caption = "Word to find:", .access_key = 'W', .visible = false}};
+  ui::TextBox txtWord{Window, {.name = "txtWord", .visible = false}, 60};
+  ui::Label lblFound{Window,
+                     {.name = "lblFound", .caption = "Topics found:", .access_key = 'T', .visible = false}};
+  ui::ListBox lstFound{Window,
+                       {.name = "lstFound",
+                        .tool_tip = "Enter or a double click opens a topic, once more goes to the next place",
+                        .visible = false}};
+  TopicPane paneTopic{Window, {.name = "paneTopic"}};
+
+  /// Gives lists and pane their places in the present size of the window.
+  void Arrange() {
+    const ui::Place& window = Window.GetPlace();
+    const auto side = static_cast<std::int16_t>(std::clamp(window.width * 3 / 10, 90, 150));
+    const auto bottom = static_cast<std::int16_t>(window.height - kMargin);
+    lstContents.SetPlace({kMargin, kPanesTop, side, Between(kPanesTop, bottom)});
+    lblWord.SetPlace({kMargin, kPanesTop, side, 8});
+    txtWord.SetPlace({kMargin, kPanesTop + 10, side, 14});
+    lblFound.SetPlace({kMargin, kPanesTop + 30, side, 8});
+    lstFound.SetPlace({kMargin, kFoundTop, side, Between(kFoundTop, bottom)});
+    const auto pane_left = static_cast<std::int16_t>(kMargin + side + kGap);
+    const auto pane_right = static_cast<std::int16_t>(window.width - kMargin);
+    paneTopic.SetPlace({pane_left, kPanesTop, Between(pane_left, pane_right), Between(kPanesTop, bottom)});
+  }
+
+ private:
+  /// A length of at least 1: a window can be smaller than its smallest size while the system arranges it.
+  static std::int16_t Between(std::int16_t begin, std::int16_t end) {
+    return static_cast<std::int16_t>(std::max(end - begin, 1));
+  }
+};
+
+}  // namespace qdix::help_viewer

@@ -1,0 +1,69 @@
+#include "help_viewer/packed_stream.h"
+
+#include <algorithm>
+
+namespace qdix::help_viewer {
+
+namespace {
+
+constexpr std::size_t kSizeBytes = 4;
+constexpr unsigned kItemsOfAGroup = 8;
+constexpr std::size_t kShortest = 3;
+
+class Unpacker {
+ public:
+  explicit Unpacker(std::string_view packed) : rest_(packed) {}
+
+  std::string Unpack() {
+    std::size_t size = 0;
+    for (unsigned byte = 0; byte < kSizeBytes; ++byte) size |= std::size_t{TakeByte()} << (8 * byte);
+    size_ = std::min(size, kMostStreamBytes);
+    stream_.reserve(size_);
+    while (IsUnfinished()) TakeGroup();
+    return std::move(stream_);
+  }
+
+ private:
+  [[nodiscard]] bool IsUnfinished() const { return stream_.size() < size_ && !rest_.empty(); }
+
+  unsigned char TakeByte() {
+    if (rest_.empty()) return 0;
+    const auto byte = static_cast<unsigned char>(rest_.front());
+    rest_.remove_prefix(1);
+    return byte;
+  }
+
+  void TakeGroup() {
+    const unsigned flags = TakeByte();
+    for (unsigned item = 0; item < kItemsOfAGroup && IsUnfinished(); ++item) {
+      if ((flags & (1U << item)) != 0) {
+        stream_ += static_cast<char>(TakeByte());
+      } else {
+        Repeat();
+      }
+    }
+  }
+
+  /// May reach into what it is just writing. What is damaged ends the stream.
+  void Repeat() {
+    const unsigned low = TakeByte();
+    const unsigned high = TakeByte();
+    const std::size_t distance = (low | ((high & 0x0FU) << 8)) + 1;
+    const std::size_t length = std::min<std::size_t>((high >> 4) + kShortest, size_ - stream_.size());
+    if (distance > stream_.size()) {
+      rest_ = {};
+      return;
+    }
+    for (std::size_t copied = 0; copied < length; ++copied) stream_ += stream_[stream_.size() - distance];
+  }
+
+  std::string_view rest_;
+  std::string stream_;
+  std::size_t size_ = 0;
+};
+
+}  // namespace
+
+std::string Unpack(std::string_view packed) { return Unpacker(packed).Unpack(); }
+
+}  // namespace qdix::help_viewer

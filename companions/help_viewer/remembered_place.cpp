@@ -1,0 +1,58 @@
+#include "help_viewer/remembered_place.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/numbers.h"
+
+namespace qdix::help_viewer {
+
+namespace {
+
+constexpr std::string_view kSection = "Help";
+constexpr const char* kMaximised = "Maximised";
+
+struct Side {
+  const char* key;
+  int ui::WindowBounds::*member;
+};
+constexpr std::array<Side, 4> kSides{{{"Left", &ui::WindowBounds::left},
+                                      {"Top", &ui::WindowBounds::top},
+                                      {"Width", &ui::WindowBounds::width},
+                                      {"Height", &ui::WindowBounds::height}}};
+
+/// In pixels. The window itself insists on more.
+constexpr int kLeastSide = 1;
+constexpr int kMostPixels = 32767;
+
+/// Moves and cuts one direction so that it lies within the screen.
+void FitInto(int& begin, int& length, int screen_length) {
+  length = std::clamp(length, kLeastSide, screen_length);
+  begin = std::clamp(begin, 0, screen_length - length);
+}
+
+}  // namespace
+
+void RememberedPlace::Restore(ui::Form& window) const {
+  if (settings_.GetBoolean(kSection, kMaximised, false)) window.SetState(ui::WindowState::kMaximised);
+  ui::WindowBounds bounds;
+  for (const Side& side : kSides) {
+    const std::string text = settings_.GetSetting(kSection, side.key, "");
+    if (!base::IsNumber(text)) return;
+    bounds.*side.member = base::ClampToInt32(base::ParseLeadingNumber(text), -kMostPixels, kMostPixels);
+  }
+  const os::ScreenSize area = screen_.WorkArea();
+  FitInto(bounds.left, bounds.width, area.width);
+  FitInto(bounds.top, bounds.height, area.height);
+  window.SetBounds(bounds);
+}
+
+void RememberedPlace::Save(const ui::Form& window) {
+  if (!window.Bounds().has_value()) return;
+  const ui::WindowBounds& bounds = *window.Bounds();
+  for (const Side& side : kSides) settings_.SaveNumber(kSection, side.key, bounds.*side.member);
+  const bool is_maximised = window.State() == ui::WindowState::kMaximised;
+  settings_.SaveSetting(kSection, kMaximised, is_maximised ? "True" : "False");
+}
+
+}  // namespace qdix::help_viewer

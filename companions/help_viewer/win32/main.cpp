@@ -1,0 +1,81 @@
+// The entry of help.exe: puts the program, the peers of its controls, its devices and its topics together.
+// Decides nothing.
+#include <windows.h>
+
+#include <memory>
+
+#include "companion/win32/companion_program.h"
+#include "help_viewer/help_form.h"
+#include "help_viewer/win32/resources.h"
+#include "help_viewer/win32/topic_pane_peer.h"
+#include "os/win32/win32_clipboard.h"
+#include "os/win32/win32_printer.h"
+#include "os/win32/win32_screen.h"
+#include "runtime/entry.h"
+#include "ui/win32/list_peers.h"
+#include "ui/win32/simple_peers.h"
+#include "ui/win32/text_box_peer.h"
+
+namespace qdix::help_viewer::win32 {
+
+namespace {
+
+std::unique_ptr<ui::win32::NativeControl> MakeOwnPeer(const ui::win32::PeerContext& context,
+                                                      ui::Control& model, HWND parent, int number) {
+  using namespace ui::win32;
+  switch (model.GetKind()) {
+    case ui::Kind::kLabel:
+      return MakePeerOf<LabelPeer, ui::Label>(context, model, parent, number);
+    case ui::Kind::kButton:
+      return MakePeerOf<ButtonPeer, ui::Button>(context, model, parent, number);
+    case ui::Kind::kTextBox:
+      return MakePeerOf<TextBoxPeer, ui::TextBox>(context, model, parent, number);
+    case ui::Kind::kListBox:
+      return MakePeerOf<ListBoxPeer, ui::ListBox>(context, model, parent, number);
+    case ui::Kind::kOwn:
+      return MakePeerOf<TopicPanePeer, TopicPane>(context, model, parent, number);
+    default:
+      return nullptr;
+  }
+}
+
+/// The topics, which stay where they are as long as the program runs; empty where there are none.
+std::string_view PackedTopics(HINSTANCE instance) {
+  // The resource compiler's number of plain data.
+  HRSRC const found = FindResourceA(instance, MAKEINTRESOURCEA(kHelpTopics), MAKEINTRESOURCEA(10));
+  HGLOBAL const loaded = found == nullptr ? nullptr : LoadResource(instance, found);
+  const void* const bytes = loaded == nullptr ? nullptr : LockResource(loaded);
+  if (bytes == nullptr) return {};
+  return {static_cast<const char*>(bytes), SizeofResource(instance, found)};
+}
+
+class Program {
+ public:
+  explicit Program(HINSTANCE instance)
+      : start_{.packed_stream = PackedTopics(instance), .command_line = GetCommandLineA()},
+        program_(instance, kHelpViewerIcon, &MakeOwnPeer, devices_, start_) {
+    clipboard_.SetOwner(program_.Window().MainWindow());
+    printer_.SetOwner(program_.Window().MainWindow());
+  }
+
+  [[nodiscard]] bool Run() { return program_.Run(); }
+
+ private:
+  os::win32::Win32Clipboard clipboard_;
+  os::win32::Win32Printer printer_;
+  os::win32::Win32Screen screen_;
+  Devices devices_{clipboard_, printer_, screen_};
+  StartWith start_;
+  companion::win32::CompanionProgram<HelpForm> program_;
+};
+
+}  // namespace
+
+}  // namespace qdix::help_viewer::win32
+
+/// The system applies the wish of who started the program by itself, when the main window is shown for the
+/// first time.
+extern "C" int QdixMain(void* instance, int /*show_command*/) {
+  const auto program = std::make_unique<qdix::help_viewer::win32::Program>(static_cast<HINSTANCE>(instance));
+  return program->Run() ? 0 : 1;
+}

@@ -1,0 +1,33 @@
+#include "os/win32/win32_clipboard.h"
+
+#include <algorithm>
+
+namespace qdix::os::win32 {
+
+namespace {
+
+/// The text with its closing NUL in memory that the system can take over; null where there is no room.
+HGLOBAL MakeShared(const std::string& text) {
+  HGLOBAL const memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_DDESHARE, text.size() + 1);
+  if (memory == nullptr) return nullptr;
+  auto* const characters = static_cast<char*>(GlobalLock(memory));
+  *std::copy(text.begin(), text.end(), characters) = '\0';
+  GlobalUnlock(memory);
+  return memory;
+}
+
+}  // namespace
+
+bool Win32Clipboard::SetClipboardData(const std::string& text) {
+  HGLOBAL const memory = MakeShared(text);
+  if (memory == nullptr) return false;
+  bool is_taken = false;
+  if (OpenClipboard(owner_) != 0) {
+    is_taken = EmptyClipboard() != 0 && ::SetClipboardData(CF_TEXT, memory) != nullptr;
+    CloseClipboard();
+  }
+  if (!is_taken) GlobalFree(memory);
+  return is_taken;
+}
+
+}  // namespace qdix::os::win32

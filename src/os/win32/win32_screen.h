@@ -1,0 +1,13 @@
+// The screen of the real system.
+#pragma once
+
+#include "os/screen.h"
+
+namespace qdix::os::win32 {
+
+class Win32Screen final : public Screen {
+ public:
+  [[nodiscard]] ScreenSize WorkArea() override;
+};
+
+}  // namespace qdix::os::win32

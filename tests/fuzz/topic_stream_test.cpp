@@ -1,0 +1,152 @@
+// Any bytes as the topics of the help, packed and not, and any hands on the window: nothing crashes, no place
+// is out of bounds. A failing run prints its seed.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "help_viewer/packed_stream.h"
+#include "help_viewer/pane_picture.h"
+#include "tests/unit/help_viewer/help_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+constexpr unsigned kRuns = 250;
+constexpr int kActionsPerRun = 60;
+
+class RandomHelp {
+ public:
+  explicit RandomHelp(unsigned seed) : random_(seed), rig_(RandomStream()) {}
+
+  void Run() {
+    rig_.Start(Chance(2) ? std::to_string(random_() % 8) : RandomText(6));
+    for (int i = 0; i < kActionsPerRun && !rig_.form->Window().Unloaded(); ++i) {
+      Act();
+      ExpectSound();
+    }
+    rig_.form->Window().Close();
+    EXPECT_TRUE(rig_.form->Window().Unloaded());
+    EXPECT_TRUE(rig_.machine.Misuses().empty());
+  }
+
+ private:
+  [[nodiscard]] bool Chance(unsigned one_in) { return random_() % one_in == 0; }
+  [[nodiscard]] int Number(int most) { return static_cast<int>(random_() % static_cast<unsigned>(most + 1)); }
+
+  std::string RandomText(int most) {
+    std::string text;
+    for (int left = Number(most); left > 0; --left) text += RandomCharacter();
+    return text;
+  }
+
+  /// Letters and blanks above all, then the marks, then any byte.
+  char RandomCharacter() {
+    static constexpr std::string_view kMarks = "\x01\x02\x03\x04\x1F\t0123\n";
+    const int kind = Number(9);
+    if (kind < 6) return kind == 0 ? ' ' : static_cast<char>('a' + Number(25));
+    return kind < 9 ? kMarks[random_() % kMarks.size()] : static_cast<char>(random_());
+  }
+
+  std::string RandomStream() {
+    static constexpr std::string_view kKinds = "S@@HPPBNTRRCI?";
+    std::string stream;
+    for (int lines = Number(60); lines > 0; --lines) {
+      const char kind = kKinds[random_() % kKinds.size()];
+      stream += kind;
+      if (kind == '@' || kind == 'N') stream += std::to_string(Number(9)) + "\t";
+      if (Chance(3)) stream += "\x03" + std::to_string(Number(9)) + "\x1F" + RandomText(9) + "\x04";
+      stream += RandomText(120) + "\n";
+    }
+    if (Chance(4)) stream.resize(random_() % (stream.size() + 1));
+    return stream;
+  }
+
+  void Act() {
+    help_viewer::HelpScreen& screen = rig_.Screen();
+    help_viewer::TopicPane& pane = rig_.Pane();
+    switch (Number(15)) {
+      case 0:
+        return screen.cmdContents.Press();
+      case 1:
+        return screen.cmdFind.Press();
+      case 2:
+        return screen.cmdBack.Press();
+      case 3:
+        return screen.cmdPrint.Press();
+      case 4:
+        return screen.cmdCopy.Press();
+      case 5:
+        return screen.lstContents.ChooseIndex(Number(20));
+      case 6:
+        return rig_.TypeWord(RandomText(3));
+      case 7:
+        return screen.txtWord.PressEnter();
+      case 8:
+        return screen.lstFound.DoubleClick(Number(8) - 1);
+      case 9:
+        return pane.SurfaceChanged(Chance(9) ? nullptr : &rig_.device, Number(500), Number(300));
+      case 10:
+        return pane.ScrollBy(static_cast<help_viewer::TopicPane::Scroll>(Number(5)));
+      case 11:
+        return pane.ScrollTo(Number(4000) - 1000);
+      case 12:
+        return pane.FocusNextLink(Chance(2));
+      case 13:
+        return pane.PressEnter();
+      case 14:
+        return pane.Follow(pane.LinkAt(Number(400), Number(300)));
+      default:
+        return rig_.form->Window().UserResized(
+            {static_cast<std::int16_t>(Number(1500)), static_cast<std::int16_t>(Number(1500))});
+    }
+  }
+
+  void ExpectSound() {
+    const help_viewer::TopicPane& pane = rig_.Pane();
+    const help_viewer::Layout& layout = pane.TheLayout();
+    EXPECT_GE(pane.ScrollPosition(), 0);
+    EXPECT_LE(pane.ScrollPosition(), std::max(layout.height - pane.Height(), 0));
+    if (!layout.lines.empty()) {
+      EXPECT_LE(pane.FocusedLink() + 1, static_cast<int>(layout.links.size()));
+    }
+    std::size_t line = 0;
+    for (const help_viewer::Piece& piece : layout.pieces) {
+      EXPECT_GE(piece.line, line) << "not in the order of the lines";
+      line = piece.line;
+      ASSERT_LT(line, layout.lines.size());
+      EXPECT_LE(piece.top + piece.height, layout.height);
+    }
+    DrawLayout(rig_.device, layout,
+               {.first_px = pane.ScrollPosition(), .end_px = pane.ScrollPosition() + 300}, {}, pane.Marked());
+  }
+
+  std::mt19937 random_;
+  HelpRig rig_;
+};
+
+TEST(TopicStreamFuzz, AnyStreamAndAnyHands) {
+  for (unsigned seed = 1; seed <= kRuns; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    RandomHelp(seed).Run();
+    if (testing::Test::HasFailure()) return;
+  }
+}
+
+TEST(TopicStreamFuzz, AnyPackedBytes) {
+  for (unsigned seed = 1; seed <= 20 * kRuns; ++seed) {
+    std::mt19937 random(seed);
+    std::string packed;
+    for (auto left = random() % 400; left > 0; --left) packed += static_cast<char>(random());
+    // Sizes that are possible, mostly.
+    if (packed.size() >= 4 && random() % 4 != 0) packed[2] = packed[3] = '\0';
+    std::size_t size = 0;
+    for (std::size_t byte = 0; byte < 4 && packed.size() >= 4; ++byte) {
+      size |= std::size_t{static_cast<unsigned char>(packed[byte])} << (8 * byte);
+    }
+    EXPECT_LE(help_viewer::Unpack(packed).size(), size) << "seed " << seed;
+  }
+}
+
+}  // namespace
+}  // namespace qdix::tests

@@ -1,0 +1,158 @@
+// The topic on the clipboard and on paper, and what is said where that fails.
+#include <gtest/gtest.h>
+
+#include "help_viewer/paper.h"
+#include "tests/unit/help_viewer/help_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+using Calls = std::vector<std::string>;
+using Choice = os::Printer::Choice;
+
+TEST(HelpCopy, WholeTopicIsPutOnTheClipboardAsText) {
+  HelpRig rig;
+  rig.Start("0");
+  rig.Screen().cmdCopy.Press();
+  EXPECT_EQ(rig.clipboard.text,
+            "Welcome\r\n\r\nShort and bold words, press Enter.\r\n\r\n"
+            "1. See the files.\r\n2. Then the rest and nothing.\r\n");
+  EXPECT_TRUE(rig.machine.Boxes().empty());
+}
+
+TEST(HelpCopy, RowsHaveTabsAndFixedLinesStandTogether) {
+  HelpRig rig;
+  rig.Start("5");
+  rig.Pane().Copy();
+  EXPECT_EQ(rig.clipboard.text,
+            "Files\r\n\r\nSizes\r\n\r\nFile\tSize\r\nQDIX.exe\t100 KB\r\nundo.exe\t40 KB\r\n");
+  HelpRig other;
+  other.Start("11");
+  other.Pane().Copy();
+  EXPECT_EQ(other.clipboard.text, "About\r\n\r\n[section]\r\nkey=value\r\n");
+}
+
+TEST(HelpCopy, BulletsAreHyphens) {
+  HelpRig rig;
+  rig.Start("7");
+  rig.Pane().Copy();
+  EXPECT_TRUE(rig.clipboard.text.ends_with("in it.\r\n\r\n- Back to the start\r\n"));
+}
+
+TEST(HelpCopy, ClipboardThatAnotherProgramHoldsIsTold) {
+  HelpRig rig;
+  rig.clipboard.is_held = true;
+  rig.Start("0");
+  rig.Screen().cmdCopy.Press();
+  ASSERT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_TRUE(rig.machine.Boxes()[0].text.starts_with("The topic could not be copied."));
+  EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Help")
+      << "the title of the window would be found instead of it";
+  EXPECT_FALSE(rig.form->Window().Unloaded());
+}
+
+TEST(HelpPrint, TopicIsPrintedWithMarginsOnOnePage) {
+  HelpRig rig;
+  rig.Start("0");
+  rig.Screen().cmdPrint.Press();
+  EXPECT_EQ(rig.printer.calls,
+            (Calls{"PrintDlgA", "StartDocA", "StartPage", "EndPage", "EndDoc", "DeleteDC"}));
+  EXPECT_EQ(rig.printer.document, "Quondix Help");
+  ASSERT_EQ(rig.printer.pages.size(), 1U);
+  EXPECT_EQ(rig.printer.pages[0][0].text, "Welcome");
+  EXPECT_EQ(rig.printer.pages[0][0].left, 50);
+  EXPECT_EQ(rig.printer.pages[0][0].top, 50);
+  for (const auto& drawn : rig.printer.pages[0]) EXPECT_EQ(drawn.colour, 0U) << "black, links as well";
+  EXPECT_TRUE(rig.machine.Boxes().empty());
+}
+
+TEST(HelpPrint, LongTopicTakesSeveralPagesAndEveryLineStandsWholeOnOne) {
+  HelpRig rig;
+  rig.Start("7");
+  rig.Screen().cmdPrint.Press();
+  EXPECT_TRUE(rig.printer.has_printed);
+  ASSERT_EQ(rig.printer.pages.size(), 2U);
+  std::size_t paragraphs = 0;
+  for (const auto& page : rig.printer.pages) {
+    EXPECT_EQ(page.front().top, 50);
+    for (const auto& drawn : page) {
+      EXPECT_LE(drawn.top + 16, 600 - 50);
+      if (drawn.text.starts_with("Paragraph ")) ++paragraphs;
+    }
+  }
+  EXPECT_EQ(paragraphs, 30U);
+}
+
+TEST(HelpPrint, PagesEndBetweenLines) {
+  help_viewer::Layout layout;
+  for (int line = 0; line < 10; ++line) layout.lines.push_back({.top = line * 10, .height = 10});
+  const std::vector<help_viewer::Page> pages = help_viewer::Paginate(layout, 35);
+  ASSERT_EQ(pages.size(), 4U);
+  EXPECT_EQ(pages[1].first_px, 30);
+  EXPECT_EQ(pages[1].end_px, 60);
+  EXPECT_EQ(help_viewer::Paginate(layout, 5).size(), 10U)
+      << "a line that is higher than the paper has a page";
+  EXPECT_EQ(help_viewer::Paginate({}, 35).size(), 1U);
+}
+
+TEST(HelpPrint, CancelPrintsNothingAndSaysNothing) {
+  HelpRig rig;
+  rig.printer.choice = Choice::kCancelled;
+  rig.Start("0");
+  rig.Screen().cmdPrint.Press();
+  EXPECT_EQ(rig.printer.calls, Calls{"PrintDlgA"});
+  EXPECT_TRUE(rig.machine.Boxes().empty());
+}
+
+TEST(HelpPrint, MissingPrinterIsTold) {
+  HelpRig rig;
+  rig.printer.choice = Choice::kFailed;
+  rig.Start("0");
+  rig.Screen().cmdPrint.Press();
+  EXPECT_EQ(rig.printer.calls, Calls{"PrintDlgA"});
+  ASSERT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_TRUE(rig.machine.Boxes()[0].text.starts_with("The topic could not be printed."));
+}
+
+TEST(HelpPrint, PrinterThatRefusesIsToldAndTheDocumentGivenUp) {
+  for (const char* const call : {"StartDocA", "StartPage", "EndPage", "EndDoc"}) {
+    HelpRig rig;
+    rig.printer.failing_call = call;
+    rig.Start("0");
+    rig.Screen().cmdPrint.Press();
+    EXPECT_FALSE(rig.printer.has_printed) << call;
+    EXPECT_EQ(rig.machine.Boxes().size(), 1U) << call;
+    const bool has_begun = std::string(call) != "StartDocA";
+    const Calls& calls = rig.printer.calls;
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "AbortDoc"), has_begun ? 1 : 0) << call;
+    EXPECT_EQ(calls.back(), "DeleteDC") << call;
+    EXPECT_FALSE(rig.printer.is_open);
+  }
+}
+
+TEST(HelpPrint, ProgramThatEndsBehindTheDialogPrintsNothing) {
+  for (const Choice choice : {Choice::kPrint, Choice::kFailed}) {
+    HelpRig rig;
+    rig.printer.choice = choice;
+    rig.Start("0");
+    rig.printer.while_open = [&rig] { rig.form->Window().Close(); };
+    rig.Screen().cmdPrint.Press();
+    EXPECT_TRUE(rig.form->Window().Unloaded());
+    EXPECT_FALSE(rig.printer.is_open);
+    EXPECT_TRUE(rig.printer.pages.empty());
+    EXPECT_TRUE(rig.machine.Boxes().empty());
+  }
+}
+
+TEST(HelpPrint, TinyPaperIsNoHarm) {
+  for (const int side : {0, 1, 5}) {
+    HelpRig rig;
+    rig.printer.page = {.width_px = side, .height_px = side, .dots_an_inch = 600};
+    rig.Start("4");
+    rig.Screen().cmdPrint.Press();
+    EXPECT_TRUE(rig.printer.has_printed);
+  }
+}
+
+}  // namespace
+}  // namespace qdix::tests

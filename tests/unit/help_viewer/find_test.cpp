@@ -1,0 +1,139 @@
+// Looking for a word: the list follows what is typed, and each Enter goes to the next place.
+#include <gtest/gtest.h>
+
+#include "help_viewer/search.h"
+#include "tests/unit/help_viewer/help_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+using Rows = std::vector<std::string>;
+
+class HelpFind : public testing::Test {
+ protected:
+  HelpFind() {
+    rig.Start("4");
+    rig.Screen().cmdFind.Press();
+  }
+
+  HelpRig rig;
+};
+
+TEST_F(HelpFind, ButtonPutsTheFieldInPlaceOfTheContents) {
+  help_viewer::HelpScreen& screen = rig.Screen();
+  EXPECT_FALSE(screen.lstContents.Visible());
+  EXPECT_TRUE(screen.lblWord.Visible());
+  EXPECT_TRUE(screen.txtWord.HasFocus());
+  EXPECT_TRUE(screen.lstFound.Visible());
+  EXPECT_EQ(rig.Title(), "Memory") << "the topic stays";
+  screen.cmdContents.Press();
+  EXPECT_TRUE(screen.lstContents.Visible());
+  EXPECT_TRUE(screen.lstContents.HasFocus());
+  EXPECT_FALSE(screen.lblWord.Visible());
+  EXPECT_FALSE(screen.txtWord.Visible());
+  EXPECT_FALSE(screen.lblFound.Visible());
+  EXPECT_FALSE(screen.lstFound.Visible());
+}
+
+TEST_F(HelpFind, WordThatWasTypedBeforeIsSelectedToBeTypedOver) {
+  rig.TypeWord("press");
+  rig.Screen().cmdContents.Press();
+  rig.Screen().cmdFind.Press();
+  EXPECT_EQ(rig.Screen().txtWord.SelectionLength(), 5);
+}
+
+TEST_F(HelpFind, ListFollowsTheWord) {
+  EXPECT_EQ(rig.Screen().lblFound.Caption(), "Topics found:");
+  rig.TypeWord("PRESS");
+  EXPECT_EQ(HelpRig::RowsOf(rig.Screen().lstFound), (Rows{"Welcome", "Memory"}));
+  EXPECT_EQ(rig.Screen().lblFound.Caption(), "Topics found: 2");
+  rig.TypeWord(" pressure ");
+  EXPECT_EQ(HelpRig::RowsOf(rig.Screen().lstFound), Rows{});
+  EXPECT_EQ(rig.Screen().lblFound.Caption(), "Topics found: none");
+  rig.TypeWord("");
+  EXPECT_EQ(rig.Screen().lblFound.Caption(), "Topics found:");
+}
+
+TEST_F(HelpFind, TitlesRowsAndFixedLinesAreSearched) {
+  for (const auto& [word, title] : {std::pair{"long one", "A Long One"},
+                                    {"100 kb", "Files"},
+                                    {"[section]", "About"},
+                                    {"sizes", "Files"},
+                                    {"caf\xC9", "A Long One"}}) {
+    rig.TypeWord(word);
+    EXPECT_EQ(HelpRig::RowsOf(rig.Screen().lstFound), Rows{title}) << word;
+  }
+}
+
+TEST_F(HelpFind, WordIsFoundAcrossLooksButNotAcrossTexts) {
+  rig.TypeWord("and bold words");
+  EXPECT_EQ(rig.Screen().lstFound.Count(), 1);
+  rig.TypeWord("QDIX.exe100");
+  EXPECT_EQ(rig.Screen().lstFound.Count(), 0);
+}
+
+TEST_F(HelpFind, EnterInTheFieldOpensTheFirstTopicAtTheWord) {
+  rig.TypeWord("files");
+  rig.Screen().txtWord.PressEnter();
+  EXPECT_EQ(rig.Title(), "Welcome");
+  ASSERT_NE(rig.Pane().Marked(), nullptr);
+  EXPECT_EQ(rig.Pane().MarkedWord(), "files");
+  EXPECT_TRUE(rig.Screen().lstFound.HasFocus());
+  EXPECT_EQ(rig.Screen().lstFound.SelectedIndex(), 0);
+}
+
+TEST_F(HelpFind, EnterWithoutAHitDoesNothing) {
+  rig.TypeWord("nowhere");
+  rig.Screen().txtWord.PressEnter();
+  EXPECT_EQ(rig.Title(), "Memory");
+  EXPECT_TRUE(rig.Screen().txtWord.HasFocus());
+}
+
+TEST_F(HelpFind, EnterAndDoubleClickGoFromPlaceToPlace) {
+  rig.TypeWord("caf\xE9");
+  rig.Screen().lstFound.DoubleClick(0);
+  EXPECT_EQ(rig.Title(), "A Long One");
+  EXPECT_EQ(rig.Pane().Marked()->block, 1U);
+  rig.Screen().lstFound.PressEnter();
+  EXPECT_EQ(rig.Pane().Marked()->block, 2U);
+  rig.Screen().lstFound.DoubleClick(0);
+  EXPECT_EQ(rig.Pane().Marked()->block, 3U);
+  EXPECT_TRUE(rig.Screen().cmdBack.Enabled());
+  rig.Screen().cmdBack.Press();
+  EXPECT_EQ(rig.Title(), "Memory") << "the places of one topic are one step";
+}
+
+TEST_F(HelpFind, AnotherWordInTheSameTopicStartsAtItsFirstPlace) {
+  rig.TypeWord("in it");
+  rig.Screen().lstFound.DoubleClick(0);
+  rig.Screen().lstFound.DoubleClick(0);
+  EXPECT_EQ(rig.Pane().Marked()->block, 2U);
+  rig.TypeWord("paragraph");
+  rig.Screen().lstFound.DoubleClick(0);
+  EXPECT_EQ(rig.Pane().Marked()->block, 1U);
+}
+
+TEST_F(HelpFind, AnotherTopicHasNoMark) {
+  rig.TypeWord("press");
+  rig.Screen().lstFound.DoubleClick(0);
+  rig.Pane().Follow(0);
+  EXPECT_EQ(rig.Pane().Marked(), nullptr);
+}
+
+TEST_F(HelpFind, DoubleClickBelowTheLastRowOpensNothing) {
+  rig.TypeWord("welcome");
+  rig.Screen().lstFound.DoubleClick(ui::ListBox::kNoSelection);
+  EXPECT_EQ(rig.Title(), "Memory");
+}
+
+TEST(HelpSearch, CapitalsOfTheCodePageAreTheirSmallLetters) {
+  const help_viewer::Book book("@1\tOne\nP\xC4pfel \xD7 \xF7 \xDF\n");
+  const help_viewer::Topic topic = book.Read(0);
+  EXPECT_EQ(FindInTopic(topic, "\xE4PFEL").size(), 1U);
+  EXPECT_EQ(FindInTopic(topic, "\xF7").size(), 1U) << "multiplication is not division";
+  EXPECT_EQ(FindInTopic(topic, "\xFF").size(), 0U) << "sharp s has no capital here";
+  EXPECT_EQ(FindInTopic(topic, "").size(), 0U);
+}
+
+}  // namespace
+}  // namespace qdix::tests

@@ -1,0 +1,61 @@
+// The packed form of the stream: repetitions, sizes, and damage.
+#include "help_viewer/packed_stream.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/unit/help_viewer/help_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+using namespace std::string_literals;
+using help_viewer::Unpack;
+
+TEST(PackedHelp, BytesComeBack) {
+  EXPECT_EQ(Unpack(PackPlainly("")), "");
+  EXPECT_EQ(Unpack(PackPlainly("a")), "a");
+  EXPECT_EQ(Unpack(PackPlainly(kBook)), kBook);
+}
+
+TEST(PackedHelp, RepetitionsAreCopied) {
+  // "abc", three bytes from three back, then six bytes of the last one.
+  EXPECT_EQ(Unpack("\x0C\0\0\0\x07"
+                   "abc\x02\x00\x00\x30"s),
+            "abcabccccccc");
+}
+
+TEST(PackedHelp, LongestDistanceAndLength) {
+  std::string stream;
+  for (int i = 0; i < 4096; ++i) stream += static_cast<char>('a' + i % 23 + i / 1024);
+  std::string packed = PackPlainly(stream);
+  packed[0] = '\x12';  // 4096 and 18
+  packed += "\x00\xFF\xFF"s;
+  EXPECT_EQ(Unpack(packed), stream + stream.substr(0, 18));
+}
+
+TEST(PackedHelp, DamageEndsTheStreamEarly) {
+  EXPECT_EQ(Unpack(""), "");
+  EXPECT_EQ(Unpack("\x05"), "");
+  EXPECT_EQ(Unpack("\x05\0\0\0"s), "");
+  EXPECT_EQ(Unpack("\x05\0\0\0\xFF"
+                   "ab"s),
+            "ab");
+  EXPECT_EQ(Unpack("\x05\0\0\0\x00\x00\x00"s), "") << "a repetition of nothing";
+  EXPECT_EQ(Unpack("\x05\0\0\0\x03"
+                   "ab\x02\x00"s),
+            "ab")
+      << "of what was before the beginning";
+  EXPECT_EQ(Unpack("\x03\0\0\0\x01"
+                   "a\x00\xF0"s),
+            "aaa")
+      << "no more than its size";
+}
+
+TEST(PackedHelp, SizeThatCannotBeIsNotBelieved) {
+  EXPECT_EQ(Unpack("\xFF\xFF\xFF\xFF\xFF"
+                   "abc"s),
+            "abc");
+}
+
+}  // namespace
+}  // namespace qdix::tests

@@ -1,0 +1,172 @@
+// The program from its start to its end: topics by number, contents, links, the way back.
+#include <gtest/gtest.h>
+
+#include "tests/unit/help_viewer/help_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+TEST(HelpReading, OpensTheTopicOfItsNumberWithTheKeyboardOnIt) {
+  HelpRig rig;
+  rig.Start("5");
+  EXPECT_TRUE(rig.form->Window().Shown());
+  EXPECT_EQ(rig.form->Window().Caption(), "Quondix Help");
+  EXPECT_EQ(rig.Title(), "Files");
+  EXPECT_EQ(rig.Screen().lstContents.SelectedText(), "    Files");
+  EXPECT_TRUE(rig.Pane().HasFocus());
+  EXPECT_FALSE(rig.Screen().cmdBack.Enabled());
+}
+
+TEST(HelpReading, TopicZeroIsATopic) {
+  HelpRig rig;
+  rig.Start("0");
+  EXPECT_EQ(rig.Title(), "Welcome");
+}
+
+TEST(HelpReading, UnknownMissingAndMalformedNumbersOpenTheContents) {
+  for (const char* const arguments : {"", "1", "12345", "x", "-4", "4x", "4 5", "4.0", "99999999999"}) {
+    HelpRig rig;
+    rig.Start(arguments);
+    EXPECT_EQ(rig.Title(), "Contents") << arguments;
+    EXPECT_EQ(rig.Screen().lstContents.SelectedIndex(), ui::ListBox::kNoSelection) << arguments;
+    EXPECT_TRUE(rig.Screen().lstContents.HasFocus()) << arguments;
+    EXPECT_TRUE(rig.machine.Boxes().empty()) << arguments;
+  }
+}
+
+TEST(HelpReading, TitleOfTheWindowIsThatOfNoOther) {
+  HelpRig rig;
+  rig.Start("4");
+  EXPECT_NE(rig.form->TheApplication().Title(), "Quondix Help")
+      << "the hidden window and boxes have this one";
+}
+
+TEST(HelpReading, ContentsListHasTheTopicsUnderTheirSections) {
+  HelpRig rig;
+  rig.Start("4");
+  EXPECT_EQ(HelpRig::RowsOf(rig.Screen().lstContents),
+            (std::vector<std::string>{"First Steps", "    Welcome", "    Memory", "The Rest", "    Files",
+                                      "    A Long One", "    About"}));
+}
+
+TEST(HelpReading, RowOfTheContentsShowsItsTopicAndAHeadingNothingNew) {
+  HelpRig rig;
+  rig.Start("4");
+  rig.Screen().lstContents.Choose("    About");
+  EXPECT_EQ(rig.Title(), "About");
+  rig.Screen().lstContents.Choose("The Rest");
+  EXPECT_EQ(rig.Title(), "About");
+  EXPECT_EQ(rig.Screen().lstContents.SelectedText(), "The Rest");
+}
+
+TEST(HelpReading, EnterInTheContentsGoesToTheTopicToScrollIt) {
+  HelpRig rig;
+  rig.Start("");
+  rig.Screen().lstContents.PressEnter();
+  EXPECT_TRUE(rig.Screen().lstContents.HasFocus()) << "no row is selected";
+  rig.Screen().lstContents.Choose("The Rest");
+  rig.Screen().lstContents.PressEnter();
+  EXPECT_TRUE(rig.Screen().lstContents.HasFocus()) << "a heading has no topic";
+  rig.Screen().lstContents.Choose("    A Long One");
+  rig.Screen().lstContents.PressEnter();
+  EXPECT_TRUE(rig.Pane().HasFocus());
+}
+
+TEST(HelpReading, LinkAndBackComeToTheSamePlace) {
+  HelpRig rig;
+  rig.Start("7");
+  rig.Pane().ScrollBy(help_viewer::TopicPane::Scroll::kBottom);
+  const int place = rig.Pane().ScrollPosition();
+  rig.Pane().Follow(0);
+  EXPECT_EQ(rig.Title(), "Welcome");
+  EXPECT_EQ(rig.Pane().ScrollPosition(), 0);
+  EXPECT_EQ(rig.Screen().lstContents.SelectedText(), "    Welcome");
+  EXPECT_TRUE(rig.Screen().cmdBack.Enabled());
+  rig.Screen().cmdBack.Press();
+  EXPECT_EQ(rig.Title(), "A Long One");
+  EXPECT_EQ(rig.Pane().ScrollPosition(), place);
+  EXPECT_EQ(rig.Screen().lstContents.SelectedText(), "    A Long One");
+  EXPECT_FALSE(rig.Screen().cmdBack.Enabled());
+}
+
+TEST(HelpReading, BackGoesStepByStep) {
+  HelpRig rig;
+  rig.Start("0");
+  for (const char* const row : {"    Memory", "    Files", "    About"}) rig.Screen().lstContents.Choose(row);
+  for (const char* const title : {"Files", "Memory", "Welcome"}) {
+    rig.Screen().cmdBack.Press();
+    EXPECT_EQ(rig.Title(), title);
+  }
+  rig.Screen().cmdBack.Press();
+  EXPECT_EQ(rig.Title(), "Welcome");
+}
+
+TEST(HelpReading, VeryLongWayBackForgetsItsBeginning) {
+  HelpRig rig;
+  rig.Start("0");
+  for (int i = 0; i < 200; ++i) rig.Screen().lstContents.Choose(i % 2 == 0 ? "    Memory" : "    Files");
+  int steps = 0;
+  while (rig.Screen().cmdBack.Enabled()) {
+    rig.Screen().cmdBack.Press();
+    ++steps;
+  }
+  EXPECT_EQ(steps, 50);
+}
+
+TEST(HelpReading, KeyboardStaysUsableWhenBackHasNoMoreToDo) {
+  HelpRig rig;
+  rig.Start("0");
+  rig.Pane().Follow(0);
+  rig.Screen().cmdBack.SetFocus();
+  rig.Screen().cmdBack.Press();
+  EXPECT_TRUE(rig.Pane().HasFocus());
+}
+
+TEST(HelpReading, ContentsButtonShowsThePageOfAllTopics) {
+  HelpRig rig;
+  rig.Start("4");
+  rig.Screen().cmdContents.Press();
+  EXPECT_EQ(rig.Title(), "Contents");
+  EXPECT_TRUE(rig.Screen().lstContents.HasFocus());
+  EXPECT_EQ(rig.Screen().lstContents.SelectedIndex(), ui::ListBox::kNoSelection);
+  rig.Pane().Follow(1);
+  EXPECT_EQ(rig.Title(), "Memory");
+  rig.Screen().cmdBack.Press();
+  EXPECT_EQ(rig.Title(), "Contents");
+  rig.Screen().cmdBack.Press();
+  EXPECT_EQ(rig.Title(), "Memory");
+}
+
+TEST(HelpReading, TopicThatIsOpenedAgainIsShownFromItsBeginning) {
+  HelpRig rig;
+  rig.Start("");
+  rig.Screen().cmdContents.Press();
+  EXPECT_FALSE(rig.Screen().cmdBack.Enabled()) << "it was shown already";
+}
+
+TEST(HelpReading, EscClosesAndSoDoesTheSystem) {
+  HelpRig rig;
+  rig.Start("4");
+  rig.form->Window().PressEscape();
+  EXPECT_TRUE(rig.form->Window().Unloaded());
+  HelpRig other;
+  other.Start("4");
+  other.form->Window().Close();
+  EXPECT_TRUE(other.form->Window().Unloaded());
+  HelpRig ending;
+  ending.Start("4");
+  ending.form->EndSession();
+  EXPECT_TRUE(ending.form->Window().Unloaded());
+}
+
+TEST(HelpReading, BookWithoutTopicsIsShownAsWell) {
+  for (const char* const stream : {"", "SOnly a section\n", "garbage\n"}) {
+    HelpRig rig(stream);
+    rig.Start("4");
+    EXPECT_EQ(rig.Title(), "Contents");
+    EXPECT_EQ(rig.Screen().lstContents.Count(), 0);
+  }
+}
+
+}  // namespace
+}  // namespace qdix::tests

@@ -1,0 +1,223 @@
+// The pane without a window: scrolling, links by keyboard and pointer, marked places, and its picture.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "help_viewer/pane_picture.h"
+#include "tests/unit/help_viewer/help_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+using help_viewer::TopicPane;
+using Scroll = help_viewer::TopicPane::Scroll;
+
+class HelpPane : public testing::Test {
+ protected:
+  TopicPane& Open(const std::string& topic) {
+    rig.Start(topic);
+    return rig.Pane();
+  }
+  [[nodiscard]] int Bottom() { return rig.Pane().TheLayout().height - 200; }
+
+  HelpRig rig;
+};
+
+TEST_F(HelpPane, LinesAndPagesAreScrolledWithinTheTopic) {
+  TopicPane& pane = Open("7");
+  pane.ScrollBy(Scroll::kLineUp);
+  EXPECT_EQ(pane.ScrollPosition(), 0);
+  pane.ScrollBy(Scroll::kLineDown);
+  EXPECT_EQ(pane.ScrollPosition(), 16);
+  pane.ScrollBy(Scroll::kPageDown);
+  EXPECT_EQ(pane.ScrollPosition(), 16 + 200 - 16) << "one line of the page before stays in view";
+  pane.ScrollBy(Scroll::kPageUp);
+  EXPECT_EQ(pane.ScrollPosition(), 16);
+  pane.ScrollBy(Scroll::kBottom);
+  EXPECT_EQ(pane.ScrollPosition(), Bottom());
+  pane.ScrollBy(Scroll::kLineDown);
+  EXPECT_EQ(pane.ScrollPosition(), Bottom());
+  pane.ScrollLines(-3);
+  EXPECT_EQ(pane.ScrollPosition(), Bottom() - 48);
+  pane.ScrollBy(Scroll::kTop);
+  EXPECT_EQ(pane.ScrollPosition(), 0);
+  pane.ScrollTo(1000000);
+  EXPECT_EQ(pane.ScrollPosition(), Bottom());
+}
+
+TEST_F(HelpPane, ShortTopicDoesNotScroll) {
+  TopicPane& pane = Open("4");
+  pane.ScrollBy(Scroll::kBottom);
+  EXPECT_EQ(pane.ScrollPosition(), 0);
+}
+
+TEST_F(HelpPane, AnotherWidthKeepsTheBlockAtTheTopAndAnotherHeightThePosition) {
+  TopicPane& pane = Open("7");
+  const auto first_block_in_view = [&pane] {
+    const auto& lines = pane.TheLayout().lines;
+    return std::find_if(lines.begin(), lines.end(),
+                        [&pane](const help_viewer::Line& line) { return line.top >= pane.ScrollPosition(); })
+        ->block;
+  };
+  pane.ScrollTo(400);
+  const std::size_t block = first_block_in_view();
+  pane.SurfaceChanged(&rig.device, 120, 200);
+  EXPECT_EQ(first_block_in_view(), block);
+  pane.SurfaceChanged(&rig.device, 300, 200);
+  EXPECT_EQ(first_block_in_view(), block);
+  const int position = pane.ScrollPosition();
+  pane.SurfaceChanged(&rig.device, 300, 150);
+  EXPECT_EQ(pane.ScrollPosition(), position);
+  pane.SurfaceChanged(&rig.device, 300, 100000);
+  EXPECT_EQ(pane.ScrollPosition(), 0);
+}
+
+TEST_F(HelpPane, WithoutASurfaceNothingIsLaidOut) {
+  TopicPane& pane = Open("0");
+  pane.SurfaceChanged(nullptr, 0, 0);
+  EXPECT_TRUE(pane.TheLayout().pieces.empty());
+  EXPECT_FALSE(pane.HasNextLink(false));
+  pane.ScrollBy(Scroll::kPageDown);
+  pane.PressEnter();
+  EXPECT_EQ(rig.Title(), "Welcome");
+}
+
+TEST_F(HelpPane, TabGoesThroughTheLinksAndThenLeaves) {
+  TopicPane& pane = Open("0");
+  EXPECT_EQ(pane.FocusedLink(), -1);
+  EXPECT_TRUE(pane.HasNextLink(false));
+  pane.FocusNextLink(false);
+  EXPECT_EQ(pane.FocusedLink(), 0);
+  pane.FocusNextLink(false);
+  EXPECT_EQ(pane.FocusedLink(), 1);
+  EXPECT_FALSE(pane.HasNextLink(false)) << "a link to nowhere is none";
+  EXPECT_TRUE(pane.HasNextLink(true));
+  pane.FocusNextLink(true);
+  EXPECT_EQ(pane.FocusedLink(), 0);
+  EXPECT_FALSE(pane.HasNextLink(true));
+}
+
+TEST_F(HelpPane, FirstTabTakesTheNearestLinkFromTheViewOnAndScrollsToIt) {
+  TopicPane& pane = Open("7");
+  EXPECT_TRUE(pane.HasNextLink(false));
+  EXPECT_FALSE(pane.HasNextLink(true)) << "there is none in view or above";
+  pane.FocusNextLink(false);
+  EXPECT_EQ(pane.FocusedLink(), 0);
+  EXPECT_EQ(pane.ScrollPosition(), Bottom());
+}
+
+TEST_F(HelpPane, EnterFollowsTheLinkWithTheKeyboard) {
+  TopicPane& pane = Open("0");
+  pane.PressEnter();
+  EXPECT_EQ(rig.Title(), "Welcome");
+  pane.FocusNextLink(false);
+  pane.FocusNextLink(false);
+  pane.PressEnter();
+  EXPECT_EQ(rig.Title(), "A Long One");
+  EXPECT_EQ(pane.FocusedLink(), -1);
+}
+
+TEST_F(HelpPane, LinkIsFoundUnderThePointerAlsoWhenScrolled) {
+  TopicPane& pane = Open("7");
+  pane.ScrollBy(Scroll::kBottom);
+  const auto& pieces = pane.TheLayout().pieces;
+  const auto link =
+      std::find_if(pieces.begin(), pieces.end(), [](const auto& piece) { return piece.link == 0; });
+  ASSERT_NE(link, pieces.end());
+  const int top = link->top - pane.ScrollPosition();
+  EXPECT_EQ(pane.LinkAt(link->left, top), 0);
+  EXPECT_EQ(pane.LinkAt(link->left + link->width - 1, top + link->height - 1), 0);
+  EXPECT_EQ(pane.LinkAt(link->left - 1, top), -1);
+  EXPECT_EQ(pane.LinkAt(link->left + link->width, top), -1);
+  EXPECT_EQ(pane.LinkAt(link->left, top - 1), -1);
+  pane.Follow(pane.LinkAt(link->left, top));
+  EXPECT_EQ(rig.Title(), "Welcome");
+}
+
+TEST_F(HelpPane, FollowingALinkThatIsNotThereOrWithoutAWindowDoesNothing) {
+  TopicPane& pane = Open("0");
+  pane.Follow(2);
+  pane.Follow(-1);
+  EXPECT_EQ(rig.Title(), "Welcome");
+  rig.form->Window().Unload();
+  pane.Follow(0);
+  EXPECT_EQ(rig.Title(), "Welcome");
+}
+
+TEST_F(HelpPane, MarkedPlacesComeInOrderAndIntoView) {
+  TopicPane& pane = Open("7");
+  pane.Mark("cAF\xC9");
+  ASSERT_NE(pane.Marked(), nullptr);
+  EXPECT_EQ(*pane.Marked(), (help_viewer::Passage{1, 0, 16, 4}));
+  EXPECT_EQ(pane.ScrollPosition(), 0);
+  for (int i = 0; i < 20; ++i) pane.MarkNext();
+  EXPECT_EQ(pane.Marked()->block, 21U);
+  const auto& lines = pane.TheLayout().lines;
+  const auto line = std::find_if(lines.begin(), lines.end(), [](const auto& one) { return one.block == 21; });
+  EXPECT_GE(line->top, pane.ScrollPosition());
+  EXPECT_LE(line->top + line->height, pane.ScrollPosition() + 200);
+  for (int i = 0; i < 10; ++i) pane.MarkNext();
+  EXPECT_EQ(pane.Marked()->block, 1U) << "after the last one the first";
+  EXPECT_LE(pane.ScrollPosition(), lines[1].top);
+  pane.Mark("nowhere");
+  EXPECT_EQ(pane.Marked(), nullptr);
+  pane.MarkNext();
+  EXPECT_EQ(pane.Marked(), nullptr);
+}
+
+TEST_F(HelpPane, PictureShowsWhatIsInViewInItsColours) {
+  TopicPane& pane = Open("0");
+  const help_viewer::Palette palette{
+      .background = 1, .text = 2, .link = 3, .marked_background = 4, .marked_text = 5};
+  DrawLayout(rig.device, pane.TheLayout(), {.first_px = 0, .end_px = 200, .left_px = 30, .top_px = 7},
+             palette, nullptr);
+  ASSERT_FALSE(rig.device.texts.empty());
+  EXPECT_EQ(rig.device.texts[0].text, "Welcome");
+  EXPECT_EQ(rig.device.texts[0].left, pane.TheLayout().pieces[0].left + 30);
+  EXPECT_EQ(rig.device.texts[0].top, pane.TheLayout().pieces[0].top + 7);
+  EXPECT_EQ(rig.device.texts[0].colour, 2U);
+  const auto link = std::find_if(rig.device.texts.begin(), rig.device.texts.end(),
+                                 [](const auto& drawn) { return drawn.text == "the files"; });
+  ASSERT_NE(link, rig.device.texts.end());
+  EXPECT_EQ(link->colour, 3U);
+  EXPECT_TRUE(link->look.is_underlined);
+  EXPECT_TRUE(rig.device.boxes.empty());
+}
+
+TEST_F(HelpPane, PictureLeavesOutWhatIsNotInView) {
+  TopicPane& pane = Open("7");
+  DrawLayout(rig.device, pane.TheLayout(), {.first_px = 400, .end_px = 420, .top_px = 0}, {}, nullptr);
+  EXPECT_FALSE(rig.device.texts.empty());
+  EXPECT_LE(rig.device.texts.size(), 3U);
+  for (const auto& drawn : rig.device.texts) {
+    EXPECT_GT(drawn.top, -16);
+    EXPECT_LT(drawn.top, 20);
+  }
+}
+
+TEST_F(HelpPane, MarkedPlaceIsDrawnOnItsOwnBackground) {
+  TopicPane& pane = Open("4");
+  pane.Mark("the");
+  const help_viewer::Palette palette{
+      .background = 1, .text = 2, .link = 3, .marked_background = 4, .marked_text = 5};
+  DrawLayout(rig.device, pane.TheLayout(), {.first_px = 0, .end_px = 200, .top_px = 0}, palette,
+             pane.Marked());
+  ASSERT_EQ(rig.device.boxes.size(), 1U);
+  EXPECT_EQ(rig.device.boxes[0].colour, 4U);
+  EXPECT_EQ(rig.device.boxes[0].width, 3 * 8);
+  EXPECT_EQ(rig.device.texts.back().text, "the");
+  EXPECT_EQ(rig.device.texts.back().colour, 5U);
+  EXPECT_EQ(rig.device.texts.back().left, rig.device.boxes[0].left);
+  EXPECT_EQ(rig.device.boxes[0].left, pane.TheLayout().pieces[1].left + 6 * 8);
+}
+
+TEST_F(HelpPane, RuleOfATableIsDrawn) {
+  TopicPane& pane = Open("5");
+  DrawLayout(rig.device, pane.TheLayout(), {.first_px = 0, .end_px = 200, .top_px = 0}, {.text = 2}, nullptr);
+  ASSERT_EQ(rig.device.boxes.size(), 1U);
+  EXPECT_EQ(rig.device.boxes[0].height, 1);
+  EXPECT_EQ(rig.device.boxes[0].colour, 2U);
+}
+
+}  // namespace
+}  // namespace qdix::tests
