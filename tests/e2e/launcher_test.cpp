@@ -62,7 +62,8 @@ class LauncherSession : public Session {
   /// What the started program wrote: its command line and its folder.
   void ExpectStarted(const std::string& command_line, const std::string& folder) const {
     EXPECT_TRUE(program.Await([this] { return report.Bytes().has_value(); })) << "nothing was started";
-    EXPECT_STRCASEEQ(report.Bytes().value_or("").c_str(), (command_line + "\r\n" + folder + "\r\n").c_str());
+    EXPECT_STRCASEEQ(report.Bytes().value_or("").c_str(),
+                     (command_line + "\r\n" + folder + "\r\nshow 1\r\n").c_str());
     SetFileBytes(report.Path(), std::nullopt);
   }
   /// Waits for a box that the launch opens, reads it and presses its only button.

@@ -1,5 +1,7 @@
 #include "tests/e2e/session.h"
 
+#include "tests/e2e/driver/help_windows.h"
+
 namespace qdix::e2e {
 
 namespace {
@@ -31,6 +33,7 @@ void Session::TearDown() {
   }
   for (const MessageBox& box : program.MessageBoxes()) ADD_FAILURE() << "still open: " << box.text;
   program.Kill();
+  EXPECT_TRUE(CloseHelpWindows()) << "a viewer of the help stays open";
   ProgramRegistry::Clear();
 }
 

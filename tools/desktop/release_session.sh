@@ -176,6 +176,7 @@ main() {
   rm -f "$picture" "${picture%.png}-failed.png"
   start_program
   wait_for_figures
+  run_probe "$close_limit_s" close-help || fail "the first steps could not be closed"
   feed_load
   wait_for_button
   read_figures "$work_dir/before"

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "tests/e2e/driver/cpu_statistics.h"
+#include "tests/e2e/driver/help_windows.h"
 #include "tests/e2e/driver/shipped_program.h"
 
 namespace {
@@ -27,6 +28,8 @@ constexpr const char* kUsage =
     "is\n"
     "                    disabled until it is enabled again\n"
     "  answer-boxes      presses OK in every message box of the program and prints its text\n"
+    "  close-help        closes the first steps, which open with the window of a first start; none is "
+    "right as well\n"
     "  feed-load         plays the load of this machine as the system's statistics, which Wine does not "
     "keep,\n"
     "                    until the program has ended\n"
@@ -34,6 +37,7 @@ constexpr const char* kUsage =
 
 constexpr int kDisablingDeadlineMs = 10000;
 constexpr int kReleaseDeadlineMs = 180000;
+constexpr int kHelpComesMs = 4000;
 
 int Fail(const std::string& why) {
   std::fprintf(stderr, "probe: %s\n", why.c_str());
@@ -93,6 +97,11 @@ int FeedLoad(const ShippedProgram& program) {
   return 0;
 }
 
+int CloseHelp() {
+  static_cast<void>(Eventually([] { return !qdix::e2e::HelpWindows().empty(); }, kHelpComesMs));
+  return qdix::e2e::CloseHelpWindows() ? 0 : Fail("a viewer of the help stays open");
+}
+
 int Close(const ShippedProgram& program) {
   program.Close();
   return Eventually([&] { return !program.IsRunning(); }) ? 0 : Fail("the program goes on");
@@ -115,6 +124,7 @@ int Rect(const ShippedProgram& program, const std::string& name) {
 }
 
 int RunOnProgram(const ShippedProgram& program, const std::string& command) {
+  if (command == "close-help") return CloseHelp();
   if (command == "caption") return Caption(program);
   if (command == "committed") return Committed(program);
   if (command == "peak") return Peak(program);

@@ -54,9 +54,6 @@ TEST_F(UiControls, ButtonPressRunsTheHandlerAndADisabledButtonDoesNot) {
 }
 
 TEST_F(UiControls, ButtonWithAPictureIsPressedAndLooksLikeAButton) {
-  demo.pictured.OnClick = events.AsHandler();
-  demo.Send(demo.pictured, BM_CLICK);
-  EXPECT_EQ(events.Count(), 1);
   EXPECT_EQ(WindowText(demo.Native(demo.pictured)), "With picture");
   HWND const window = demo.Native(demo.pictured);
   RECT inside{};
@@ -77,6 +74,9 @@ TEST_F(UiControls, ButtonWithAPictureIsPressedAndLooksLikeAButton) {
   demo.other.SetFocus();
   UpdateWindow(window);
   EXPECT_EQ(pixel(0, 0), GetSysColor(COLOR_3DHILIGHT));
+  demo.pictured.OnClick = events.AsHandler();
+  demo.Send(demo.pictured, BM_CLICK);
+  EXPECT_EQ(events.Count(), 1);
   demo.pictured.SetEnabled(false);
   demo.Report(demo.pictured, BN_CLICKED);
   EXPECT_EQ(events.Count(), 1);

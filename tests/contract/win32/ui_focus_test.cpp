@@ -113,8 +113,9 @@ TEST_F(UiFocus, TabThatIsRefusedStaysClosed) {
 
 TEST_F(UiFocus, TabKeyWalksThePageThenTheStripAndRoundAgain) {
   demo.text.SetFocus();
-  for (const ui::Control* next : std::initializer_list<const ui::Control*>{
-           &demo.check, &demo.option1, &demo.go, &demo.stop, &demo.other, &demo.tabs, &demo.text}) {
+  for (const ui::Control* next :
+       std::initializer_list<const ui::Control*>{&demo.check, &demo.option1, &demo.go, &demo.stop,
+                                                 &demo.other, &demo.pictured, &demo.tabs, &demo.text}) {
     demo.Press(VK_TAB);
     EXPECT_TRUE(NativeFocusOn(*next)) << next->Name();
     EXPECT_TRUE(next->HasFocus()) << next->Name();

@@ -1,5 +1,5 @@
-// A program for the launcher to start: writes its command line and the folder it was started in, a line each,
-// into the file witness.txt beside itself, and ends.
+// A program for others to start: writes its command line, the folder it was started in and how its window was
+// to be shown, a line each, into the file witness.txt beside itself, and ends.
 #include <windows.h>
 
 #include <array>
@@ -32,10 +32,11 @@ bool Write(const std::string& path, const std::string& text) {
 }  // namespace
 
 /// Whoever waits for the report must not find half of it, so it gets its name when it is whole.
-int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int show) {
   const std::string report = OwnFolder() + "witness.txt";
   const std::string unfinished = OwnFolder() + "witness.tmp";
-  const bool written = Write(unfinished, std::string(GetCommandLineA()) + "\r\n" + CurrentFolder() + "\r\n");
+  const bool written = Write(unfinished, std::string(GetCommandLineA()) + "\r\n" + CurrentFolder() +
+                                             "\r\nshow " + std::to_string(show) + "\r\n");
   DeleteFileA(report.c_str());
   return written && MoveFileA(unfinished.c_str(), report.c_str()) != 0 ? 0 : 1;
 }

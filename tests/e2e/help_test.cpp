@@ -1,0 +1,136 @@
+// The help that the shipped exe opens: the viewer at the topic of each tab, never two of them, and the
+// manual.
+#include <array>
+
+#include "screens/main_window.h"
+#include "tests/e2e/driver/file_keeper.h"
+#include "tests/e2e/driver/hand.h"
+#include "tests/e2e/driver/help_windows.h"
+#include "tests/e2e/driver/registry_tree.h"
+#include "tests/e2e/session.h"
+
+namespace qdix::e2e {
+namespace {
+
+/// Long enough for a second viewer to appear if one were started.
+constexpr int kSecondViewerMs = 1500;
+
+struct TopicOfTab {
+  int tab;
+  const char* button;
+  const char* topic;
+};
+constexpr std::array<TopicOfTab, 8> kTopics{{{screens::kQuondixTab, "Command21", "4"},
+                                             {screens::kAutomaticTab, "Command22", "5"},
+                                             {screens::kTimeIntervalsTab, "Command23", "6"},
+                                             {screens::kStartupTab, "Command24", "7"},
+                                             {screens::kLauncherTab, "Command16", "8"},
+                                             {screens::kCacheTab, "Command19", "9"},
+                                             {screens::kSwapFileTab, "Command20", "10"},
+                                             {screens::kAboutTab, "Command17", "11"}}};
+
+class HelpOfTheProgram : public Session {
+ protected:
+  void SetUp() override {
+    Session::SetUp();
+    MarkMachineAsKnown();
+  }
+  /// One viewer, with this topic, and no second one soon after.
+  void ExpectOneViewer(const std::string& topic) const {
+    const std::string expected = ProgramPath("help.exe") + " " + topic;
+    EXPECT_TRUE(program.Await([&] {
+      const std::vector<HWND> viewers = HelpWindows();
+      return viewers.size() == 1 && CommandLineOf(viewers.front()) == expected;
+    })) << topic
+        << ", viewers: " << HelpWindows().size();
+  }
+};
+
+TEST_F(HelpOfTheProgram, EachTabLeavesExactlyOneViewerAtItsTopic) {
+  StartProgram();
+  for (const TopicOfTab& tab : kTopics) {
+    program.OpenTab(tab.tab);
+    EXPECT_EQ(program.Text(tab.button), tab.tab == screens::kSwapFileTab ? "Hel&p / Tips" : "Help / &Tips");
+    program.Press(tab.button);
+    ExpectOneViewer(tab.topic);
+  }
+  Sleep(kSecondViewerMs);
+  EXPECT_EQ(HelpWindows().size(), 1U);
+  CloseProgram();
+  EXPECT_EQ(HelpWindows().size(), 1U) << "the viewer outlives the program";
+}
+
+TEST_F(HelpOfTheProgram, KeyboardOpensTheTopicOfTheTab) {
+  StartProgram();
+  program.OpenTab(screens::kAboutTab);
+  ASSERT_TRUE(BringForward(program.MainWindow()));
+  PressKeyWith(VK_MENU, 'T');
+  ExpectOneViewer("11");
+  EXPECT_TRUE(program.Await([] { return GetForegroundWindow() == HelpWindows().front(); }));
+  CloseProgram();
+}
+
+TEST_F(HelpOfTheProgram, LightBulbStandsOnTheButtonOfTheSwapFile) {
+  StartProgram();
+  program.OpenTab(screens::kSwapFileTab);
+  ASSERT_TRUE(BringForward(program.MainWindow()));
+  const RECT place = program.ScreenRect("Command20");
+  // The glass of the bulb, in the left half of the button and nowhere in the right.
+  constexpr COLORREF kYellow = RGB(255, 255, 0);
+  const auto has_yellow = [&](LONG left, LONG right) {
+    for (LONG x = left; x < right; ++x) {
+      for (LONG y = place.top; y < place.bottom; ++y) {
+        if (ScreenColour({x, y}) == kYellow) return true;
+      }
+    }
+    return false;
+  };
+  const LONG middle = (place.left + place.right) / 2;
+  EXPECT_TRUE(program.Await([&] { return has_yellow(place.left, middle); }));
+  EXPECT_FALSE(has_yellow(middle, place.right));
+  PressKeyWith(VK_MENU, 'P');
+  ExpectOneViewer("10");
+  CloseProgram();
+}
+
+TEST_F(HelpOfTheProgram, ManualIsHandedToTheShellToBeShownMaximised) {
+  const KeyPath kHtmFiles{HKEY_LOCAL_MACHINE, "Software\\Classes\\.htm"};
+  const KeyPath kWitnessFiles{HKEY_LOCAL_MACHINE, "Software\\Classes\\QdixWitness"};
+  const KeyPath kWitnessOpens{HKEY_LOCAL_MACHINE, "Software\\Classes\\QdixWitness\\shell\\open\\command"};
+  const RegistryTree before(kHtmFiles);
+  SetRegistryText(kHtmFiles, "", "QdixWitness");
+  SetRegistryText(kWitnessOpens, "", '"' + WitnessPath() + "\" \"%1\"");
+  const FileKeeper report{WitnessReportPath()};
+  const FileKeeper manual{ProgramPath("help.htm")};
+  EXPECT_TRUE(manual.SetBytes("<html></html>"));
+  StartProgram();
+  program.OpenTab(screens::kAboutTab);
+  EXPECT_EQ(program.Text("Command6"), "&Help");
+  program.Press("Command6");
+  EXPECT_TRUE(program.Await([&] { return report.Bytes().has_value(); }));
+  const std::string said = report.Bytes().value_or("");
+  EXPECT_TRUE(said.starts_with('"' + WitnessPath() + "\" \"" + ProgramPath("help.htm") + "\"\r\n")) << said;
+  EXPECT_TRUE(said.ends_with("\r\nshow 3\r\n")) << said;
+  EXPECT_TRUE(HelpWindows().empty());
+  CloseProgram();
+  DeleteTree(kWitnessFiles);
+  before.PutBack();
+}
+
+class FirstHelpOfTheProgram : public Session {};
+
+TEST_F(FirstHelpOfTheProgram, FirstStartOpensTheFirstStepsAndTheNextOneDoesNot) {
+  StartProgram();
+  ASSERT_TRUE(program.Await([] { return HelpWindows().size() == 1; }));
+  EXPECT_EQ(CommandLineOf(HelpWindows().front()), ProgramPath("help.exe") + " 0");
+  EXPECT_TRUE(Photograph("first_start"));
+  CloseProgram();
+  ASSERT_TRUE(CloseHelpWindows());
+  StartProgram();
+  Sleep(kSecondViewerMs);
+  EXPECT_TRUE(HelpWindows().empty());
+  CloseProgram();
+}
+
+}  // namespace
+}  // namespace qdix::e2e
