@@ -9,7 +9,7 @@
 
 #include <array>
 
-#include "os/win32/shell_link.h"
+#include "os/win32/shortcut_object.h"
 
 namespace qdix::os::win32 {
 
@@ -57,12 +57,12 @@ void Win32ShellFiles::SHAddToRecentDocs(std::uint32_t kind, const std::string& p
 }
 
 std::optional<Shortcut> Win32ShellFiles::ReadShortcut(const std::string& path) {
-  ShellLink link;
+  ShortcutObject link;
   return link.Load(path) ? link.Read() : std::nullopt;
 }
 
 bool Win32ShellFiles::WriteShortcut(const std::string& path, const Shortcut& shortcut) {
-  ShellLink link;
+  ShortcutObject link;
   return link.Set(shortcut) && link.Save(path);
 }
 

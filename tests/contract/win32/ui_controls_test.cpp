@@ -53,35 +53,6 @@ TEST_F(UiControls, ButtonPressRunsTheHandlerAndADisabledButtonDoesNot) {
   EXPECT_EQ(events.Count(), 1);
 }
 
-TEST_F(UiControls, ButtonWithAPictureIsPressedAndLooksLikeAButton) {
-  EXPECT_EQ(WindowText(demo.Native(demo.pictured)), "With picture");
-  HWND const window = demo.Native(demo.pictured);
-  RECT inside{};
-  GetClientRect(window, &inside);
-  const auto pixel = [&](LONG x, LONG y) {
-    HDC const device = GetDC(window);
-    const COLORREF colour = GetPixel(device, static_cast<int>(x), static_cast<int>(y));
-    ReleaseDC(window, device);
-    return colour;
-  };
-  UpdateWindow(window);
-  EXPECT_EQ(pixel(0, 0), GetSysColor(COLOR_3DHILIGHT));
-  EXPECT_EQ(pixel(inside.right - 1, inside.bottom - 1), GetSysColor(COLOR_3DDKSHADOW));
-  // The heavy border of the button that Enter presses comes and goes with the keyboard.
-  demo.pictured.SetFocus();
-  UpdateWindow(window);
-  EXPECT_EQ(pixel(0, 0), GetSysColor(COLOR_WINDOWFRAME));
-  demo.other.SetFocus();
-  UpdateWindow(window);
-  EXPECT_EQ(pixel(0, 0), GetSysColor(COLOR_3DHILIGHT));
-  demo.pictured.OnClick = events.AsHandler();
-  demo.Send(demo.pictured, BM_CLICK);
-  EXPECT_EQ(events.Count(), 1);
-  demo.pictured.SetEnabled(false);
-  demo.Report(demo.pictured, BN_CLICKED);
-  EXPECT_EQ(events.Count(), 1);
-}
-
 TEST_F(UiControls, CheckBoxFollowsBothWays) {
   demo.check.OnClick = events.AsHandler();
   demo.Send(demo.check, BM_CLICK);

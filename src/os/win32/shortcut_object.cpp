@@ -1,4 +1,4 @@
-#include "os/win32/shell_link.h"
+#include "os/win32/shortcut_object.h"
 
 // The later headers do not stand without the first.
 // clang-format off
@@ -32,7 +32,7 @@ Function FindFunction(HMODULE library, const char* name) {
 
 }  // namespace
 
-ShellLink::ShellLink() : library_(LoadLibraryA("ole32.dll")) {
+ShortcutObject::ShortcutObject() : library_(LoadLibraryA("ole32.dll")) {
   if (library_ == nullptr) return;
   const auto initialize = FindFunction<decltype(&CoInitialize)>(library_, "CoInitialize");
   const auto create = FindFunction<decltype(&CoCreateInstance)>(library_, "CoCreateInstance");
@@ -47,7 +47,7 @@ ShellLink::ShellLink() : library_(LoadLibraryA("ole32.dll")) {
   }
 }
 
-ShellLink::~ShellLink() {
+ShortcutObject::~ShortcutObject() {
   if (file_ != nullptr) file_->Release();
   if (link_ != nullptr) link_->Release();
   if (library_ == nullptr) return;
@@ -56,23 +56,23 @@ ShellLink::~ShellLink() {
   FreeLibrary(library_);
 }
 
-bool ShellLink::Load(const std::string& path) {
+bool ShortcutObject::Load(const std::string& path) {
   WidePath wide;
   return file_ != nullptr && Widen(path, wide) && SUCCEEDED(file_->Load(wide.data(), STGM_READ));
 }
 
-bool ShellLink::Set(const Shortcut& shortcut) {
+bool ShortcutObject::Set(const Shortcut& shortcut) {
   return link_ != nullptr && SUCCEEDED(link_->SetPath(shortcut.target.c_str())) &&
          SUCCEEDED(link_->SetArguments(shortcut.arguments.c_str())) &&
          SUCCEEDED(link_->SetWorkingDirectory(shortcut.folder.c_str()));
 }
 
-bool ShellLink::Save(const std::string& path) {
+bool ShortcutObject::Save(const std::string& path) {
   WidePath wide;
   return file_ != nullptr && Widen(path, wide) && SUCCEEDED(file_->Save(wide.data(), TRUE));
 }
 
-std::optional<Shortcut> ShellLink::Read() const {
+std::optional<Shortcut> ShortcutObject::Read() const {
   if (link_ == nullptr) return std::nullopt;
   std::array<char, MAX_PATH> target{};
   std::array<char, MAX_PATH> arguments{};

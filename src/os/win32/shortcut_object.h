@@ -14,12 +14,12 @@ struct IPersistFile;
 
 namespace qdix::os::win32 {
 
-class ShellLink {
+class ShortcutObject {
  public:
-  ShellLink();
-  ShellLink(const ShellLink&) = delete;
-  ShellLink& operator=(const ShellLink&) = delete;
-  ~ShellLink();
+  ShortcutObject();
+  ShortcutObject(const ShortcutObject&) = delete;
+  ShortcutObject& operator=(const ShortcutObject&) = delete;
+  ~ShortcutObject();
 
   // False, and no other effect, where the system has no such objects.
   [[nodiscard]] bool Load(const std::string& path);
