@@ -57,6 +57,7 @@ function(qdix_ship name)
   cmake_parse_arguments(PARSE_ARGV 1 ship "" "LIMIT_KB" "SOURCES;LIBRARIES")
   add_executable(${name} ${ship_SOURCES})
   qdix_link(${name} ${ship_LIBRARIES})
+  set_property(GLOBAL APPEND PROPERTY QDIX_SHIPPED_PROGRAMS ${name})
   add_test(NAME image.${name}
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tools/image_check/image_check.py
             --exports ${CMAKE_SOURCE_DIR}/cmake/win95-exports --limit-kb ${ship_LIMIT_KB} $<TARGET_FILE:${name}>)
