@@ -67,12 +67,13 @@ def texts_of(version, names):
     def read(path):
         return path.read_text(encoding="utf-8").replace("@VERSION@", version)
 
-    readme, licence, setup = "README.TXT", "LICENSE.TXT", "qdix.inf"
-    listed = sorted([*names, readme, licence, setup], key=str.lower)
+    readme, licence, setup, removal = "README.TXT", "LICENSE.TXT", "qdix.inf", "remove.bat"
+    listed = sorted([*names, readme, licence, setup, removal], key=str.lower)
     setup_text = read(PACKAGING / "qdix.inf.in")
     setup_text = setup_text.replace("@FILES@", "\n".join(listed))
     setup_text = setup_text.replace("@SOURCES@", "\n".join(f"{name}=1" for name in listed))
-    texts = {readme: read(PACKAGING / "README.TXT"), licence: read(ROOT / "LICENSE"), setup: setup_text}
+    texts = {readme: read(PACKAGING / readme), licence: read(ROOT / "LICENSE"), removal: read(PACKAGING / removal),
+             setup: setup_text}
     return {name: as_delivered(text, name) for name, text in texts.items()}
 
 
