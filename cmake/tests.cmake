@@ -58,6 +58,11 @@ if(WIN32)
     target_link_libraries(qdix_probe PRIVATE qdix_warnings e2e_driver)
     target_link_options(qdix_probe PRIVATE -static)
     qdix_test(e2e_tests SOURCES ${e2e_sources} LIBRARIES e2e_driver)
+
+    # On a machine and a desktop of its own, so it need not wait for the others.
+    add_test(NAME wine.install
+      COMMAND ${CMAKE_SOURCE_DIR}/tests/dist/install_test.sh ${CMAKE_SOURCE_DIR}/build/win9x $<TARGET_FILE:qdix_probe>)
+    set_tests_properties(wine.install PROPERTIES TIMEOUT 400)
   endif()
   foreach(desktop_test IN ITEMS wine.contract wine.e2e)
     if(TEST ${desktop_test})

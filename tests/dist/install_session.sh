@@ -49,7 +49,7 @@ expect_no_value() {
 install() {
   wine "${engine[@]}" DefaultInstall 132 'C:\disk\qdix.inf'
   diff -r "$drive/disk" "$folder" || fail "not every file was copied as it is"
-  expect_value "HKLM\\$windows_key\\Uninstall\\QDIX" DisplayName "Q-DIX 2.0.0"
+  expect_value "HKLM\\$windows_key\\Uninstall\\QDIX" DisplayName "$(sed -n '1s/ for .*//p' "$drive/disk/README.TXT")"
   expect_value "HKLM\\$windows_key\\RunOnce" 'QDIX Menu' 'grpconv.exe -o'
   grep -qi '^QDIX=Q-DIX' "$drive/windows/setup.ini" || fail "setup.ini asks for no group in the Start menu"
   grep -qiF '"Q-DIX","C:\PROGRA~1\QDIX\QDIX.exe"' "$drive/windows/setup.ini" || fail "the Start menu lacks Q-DIX"

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the zip by its qdix.inf, uses it and removes it, on a machine of its own:   install_test.sh BUILD PROBE
+# Installs from the floppy disk by its qdix.inf, uses it and removes it, on a machine of its own:   install_test.sh BUILD PROBE
 # BUILD is the folder of the shipped programs, PROBE looks at windows. The machine is a new prefix, laid out as
 # Windows 98 is; packaging/README.md says what in it stands for a part of Windows that Wine lacks.
 set -euo pipefail
@@ -42,7 +42,8 @@ main() {
   export_wine_environment
   lay_out_as_windows_98 "$WINEPREFIX/drive_c"
   "$checkout_dir/tools/dist/make_dist.py" --build "$build" --output "$work_dir/dist" --time 947808000
-  unzip -q "$work_dir"/dist/qdix-*.zip -d "$WINEPREFIX/drive_c/disk"
+  mkdir "$WINEPREFIX/drive_c/disk"
+  MTOOLSRC=/dev/null mcopy -i "$work_dir/dist/qdix.img" '::*' "$WINEPREFIX/drive_c/disk"
   # A desktop of its own, also where the other tests have theirs.
   env -u QDIX_DESKTOP "$checkout_dir/tools/desktop/desktop.sh" run \
     "$here/install_session.sh" "$WINEPREFIX/drive_c" "$probe"
