@@ -33,8 +33,7 @@ HEAD
 - Start: from the request to start the program until its main window is visible, to a millisecond, both in turn.
 - Memory: private committed pages; images and shared pages do not count.
 - Idle minute: user and system time of the process, as it is told itself, in steps of 10 ms; both programs live through the same three
-  minutes. What
-  Wine's server does for them is in neither.
+  minutes. What Wine's server does for them is in neither.
 - Release: processor time, because elapsed time is that of the pumps above all, which wait for Wine's server. A release of 1 MB pumps as
   often as one of 232 MB, so that the difference is one of memory alone. The loop takes the same bytes in one block, writes into every
   page and frees it.
