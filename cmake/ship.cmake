@@ -61,6 +61,7 @@ function(qdix_ship name)
   if(ship_OUTPUT)
     set_target_properties(${name} PROPERTIES OUTPUT_NAME ${ship_OUTPUT})
   endif()
+  set_property(GLOBAL APPEND PROPERTY QDIX_SHIPPED_PROGRAMS ${name})
   add_test(NAME image.${name}
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tools/image_check/image_check.py
             --exports ${CMAKE_SOURCE_DIR}/cmake/win95-exports --limit-kb ${ship_LIMIT_KB} $<TARGET_FILE:${name}>)

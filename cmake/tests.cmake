@@ -72,6 +72,17 @@ if(WIN32)
     target_link_options(witness PRIVATE -static)
     add_dependencies(e2e_tests witness)
     target_compile_definitions(e2e_driver PRIVATE QDIX_WITNESS="$<TARGET_FILE:witness>")
+
+    # Measures what the tests drive; run by bench/run.sh, built with the tests so that it stays in step.
+    file(GLOB bench_sources CONFIGURE_DEPENDS bench/*.cpp)
+    add_executable(qdix_bench ${bench_sources})
+    target_link_libraries(qdix_bench PRIVATE qdix_warnings e2e_driver ${precision_object})
+    target_link_options(qdix_bench PRIVATE -static)
+
+    # On a machine and a desktop of its own, so it need not wait for the others.
+    add_test(NAME wine.install
+      COMMAND ${CMAKE_SOURCE_DIR}/tests/dist/install_test.sh ${CMAKE_SOURCE_DIR}/build/win9x $<TARGET_FILE:qdix_probe>)
+    set_tests_properties(wine.install PROPERTIES TIMEOUT 400)
   endif()
   foreach(desktop_test IN ITEMS wine.contract wine.e2e)
     if(TEST ${desktop_test})

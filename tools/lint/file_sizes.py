@@ -4,7 +4,7 @@ import pathlib
 import sys
 
 MOST_LINES = 500
-FOLDERS = ("src", "companions", "tests", "tools", "cmake")
+FOLDERS = ("src", "companions", "tests", "bench", "tools", "cmake")
 SUFFIXES = {".h", ".cpp", ".py", ".sh", ".cmake"}
 
 

@@ -5,6 +5,6 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 mode=(--dry-run -Werror)
 if [ "${1:-}" = --fix ]; then mode=(-i); fi
-mapfile -t files < <(find src companions tests tools -name '*.h' -o -name '*.cpp' | sort)
+mapfile -t files < <(find src companions tests bench tools -name '*.h' -o -name '*.cpp' | sort)
 clang-format "${mode[@]}" "${files[@]}"
 echo "format: ${#files[@]} files looked at"

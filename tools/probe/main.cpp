@@ -1,5 +1,5 @@
-// Looks at the running program from outside, and acts on it, for scripts:   qdix_probe COMMAND [ARGUMENT...]
-// The exit code is 0 when the answer was found or the deed was done. kUsage has the commands.
+// Looks at a running program from outside, and acts on it, for scripts:   qdix_probe [--undo] COMMAND
+// [ARGUMENT...] The exit code is 0 when the answer was found or the deed was done. kUsage has the commands.
 #include <algorithm>
 #include <cstdio>
 #include <span>
@@ -12,11 +12,12 @@
 namespace {
 
 using qdix::e2e::Eventually;
+using qdix::e2e::ProgramFacts;
 using qdix::e2e::ShippedProgram;
 using Arguments = std::span<const char* const>;
 
 constexpr const char* kUsage =
-    "qdix_probe COMMAND [ARGUMENT...]\n"
+    "qdix_probe [--undo] COMMAND [ARGUMENT...]    looks at QDIX.exe, or at undo.exe\n"
     "  wait-window       waits until the main window is shown\n"
     "  caption           prints the caption of the main window\n"
     "  text NAME         prints the text of a control\n"
@@ -49,9 +50,9 @@ int PrintBytes(std::uint64_t bytes) {
   return 0;
 }
 
-int WaitWindow() {
-  const bool shown = Eventually([] {
-    ShippedProgram program;
+int WaitWindow(const ProgramFacts& facts) {
+  const bool shown = Eventually([&facts] {
+    ShippedProgram program(facts);
     return program.Attach() && IsWindowVisible(program.MainWindow()) != 0;
   });
   return shown ? 0 : Fail("the window is not shown");
@@ -151,12 +152,16 @@ int RunOnControl(const ShippedProgram& program, const std::string& command, Argu
 int main(int argc, char** argv) {
   // A script reads the first line of `peak` while the program still runs.
   std::setvbuf(stdout, nullptr, _IONBF, 0);
-  const Arguments arguments(argv, static_cast<std::size_t>(argc));
-  if (arguments.size() < 2) return Fail(std::string("usage:\n") + kUsage);
-  const std::string command = arguments[1];
-  if (command == "wait-window" && arguments.size() == 2) return WaitWindow();
-  ShippedProgram program;
+  Arguments arguments(argv + 1, static_cast<std::size_t>(argc) - 1);
+  const bool is_undo = !arguments.empty() && arguments.front() == std::string("--undo");
+  if (is_undo) arguments = arguments.subspan(1);
+  if (arguments.empty()) return Fail(std::string("usage:\n") + kUsage);
+  const ProgramFacts facts = is_undo ? qdix::e2e::Undo() : qdix::e2e::Qdix();
+  const std::string command = arguments.front();
+  arguments = arguments.subspan(1);
+  if (command == "wait-window" && arguments.empty()) return WaitWindow(facts);
+  ShippedProgram program(facts);
   if (!program.Attach()) return Fail("the program does not run");
-  if (arguments.size() == 2) return RunOnProgram(program, command);
-  return RunOnControl(program, command, arguments.subspan(2));
+  if (arguments.empty()) return RunOnProgram(program, command);
+  return RunOnControl(program, command, arguments);
 }

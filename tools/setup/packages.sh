@@ -14,6 +14,8 @@ readonly packages=(
   xvfb xdotool x11-utils imagemagick
   # the private Wine: unpacking it, and making its programs find their own libraries
   patchelf xz-utils ca-certificates debian-archive-keyring procps
+  # the downloads: floppy and CD images, and another day to make them on once more
+  mtools xorriso unzip faketime
 )
 readonly attempts=3
 readonly apt_options=(-q -y -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=300 -o Acquire::Retries=3)

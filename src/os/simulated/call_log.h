@@ -32,6 +32,7 @@ class CallLog {
   void Misuse(const std::string& what) { misuses_.push_back(what); }
   void ForgetMisuses() { misuses_.clear(); }
 
+  void ForgetCalls() { calls_.clear(); }
   [[nodiscard]] const std::vector<std::string>& Calls() const { return calls_; }
   [[nodiscard]] const std::vector<std::string>& Misuses() const { return misuses_; }
   [[nodiscard]] int FaultableCalls() const { return faultable_calls_; }

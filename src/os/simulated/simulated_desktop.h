@@ -94,6 +94,7 @@ class SimulatedShell final : public Shell {
   bool ShellExecuteA(const char* verb, const std::string& path, int show) override;
 
   [[nodiscard]] const std::vector<TrayRequest>& Requests() const { return requests_; }
+  void ForgetRequests() { requests_.clear(); }
   /// The taskbar ends, and every icon with it.
   void ForgetIcons() { icons_.clear(); }
   [[nodiscard]] int IconCount() const { return static_cast<int>(icons_.size()); }

@@ -158,6 +158,11 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   [[nodiscard]] int FaultableCallCount() const { return log_.FaultableCalls(); }
   [[nodiscard]] const std::vector<std::string>& Calls() const { return log_.Calls(); }
   [[nodiscard]] const std::vector<std::string>& Misuses() const { return log_.Misuses(); }
+  /// For a run so long that the record of its calls would fill the memory of this machine.
+  void ForgetCalls() {
+    log_.ForgetCalls();
+    shell_.ForgetRequests();
+  }
   /// For a test that misuses the machine on purpose.
   void ForgetMisuses() { log_.ForgetMisuses(); }
 

@@ -371,6 +371,16 @@ TEST_F(SimulatedMachineTest, EveryOtherCallFailsAsTheSystemWould) {
   EXPECT_EQ(system.processes.ModuleFileName(), "");
 }
 
+TEST_F(SimulatedMachineTest, ForgettingCallsTakesNothingElseAway) {
+  EXPECT_TRUE(system.shell.Shell_NotifyIconA(kNimAdd, NotifyIconData{}));
+  const int faultable_calls = machine.FaultableCallCount();
+  machine.ForgetCalls();
+  EXPECT_THAT(machine.Calls(), IsEmpty());
+  EXPECT_THAT(machine.TrayRequests(), IsEmpty());
+  EXPECT_EQ(machine.TrayIconCount(), 1);
+  EXPECT_EQ(machine.FaultableCallCount(), faultable_calls);
+}
+
 TEST_F(SimulatedMachineTest, CopyOverAProfileFileThatIsKeptInMemoryIsMisuse) {
   machine.WriteFile("C:\\WINDOWS\\a.ini", "[s]\r\nk=1\r\n");
   machine.WriteFile("C:\\WINDOWS\\b.ini", "");

@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# Measures the shipped programs beside Wine's own in one run, about eight minutes, and writes docs/benchmarks.md.
+# Nothing else should run on the machine meanwhile.
+set -euo pipefail
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+readonly report=docs/benchmarks.md
+readonly bench=build/win9x-tests/qdix_bench.exe
+
+tools/setup/packages.sh
+tools/wine/get_wine.sh
+tools/setup/build.sh win9x
+tools/setup/build.sh win9x-tests qdix_bench
+tools/wine/prefix.sh
+
+measured=$(tools/desktop/desktop.sh run tools/wine/wine.sh "$bench" | tr -d '\r')
+{
+  cat <<'HEAD'
+# Benchmarks
+
+Made by `bench/run.sh`. The shipped programs beside Wine's own in one run on one machine: the ratios count, the other numbers are this
+machine's. Series show the middle, and the smallest and the largest in brackets; work that is the same each time shows its fastest run,
+because the rest of the machine makes the others slower. A missed budget is reported as missed.
+
+HEAD
+  printf 'Wine %s, %s processors, commit %s of %s.\n\n' "$(tools/wine/wine.sh --version | tr -d '\r' | sed 's/^wine-//')" \
+    "$(nproc)" "$(git rev-parse --short HEAD)" "$(git log -1 --format=%cs)"
+  printf '%s\n' "$measured"
+  cat <<'TAIL'
+
+## How it is measured
+
+- Start: from the request to start the program until its main window is visible, to a millisecond, both in turn.
+- Memory: private committed pages; images and shared pages do not count.
+- Idle minute: user and system time of the process, as it is told itself, in steps of 10 ms; both programs live through the same three
+  minutes. What Wine's server does for them is in neither.
+- Release: processor time, because elapsed time is that of the pumps above all, which wait for Wine's server. A release of 1 MB pumps as
+  often as one of 232 MB, so that the difference is one of memory alone. The loop takes the same bytes in one block, writes into every
+  page and frees it.
+- Ticks: the handler of `Timer1` on the simulated machine, in the arithmetic of the shipped programs.
+- Timers: stopped one by one from inside the process, which tells whether each was there. Top-level windows include those that
+  Wine's input methods add to every program.
+TAIL
+} >"$report.new"
+mv "$report.new" "$report"
+cat "$report"

@@ -1,0 +1,57 @@
+#include <algorithm>
+
+#include "bench/measures.h"
+#include "bench/session.h"
+#include "bench/stopwatch.h"
+#include "tests/support/program_rig.h"
+
+namespace qdix::bench {
+
+namespace {
+
+constexpr int kTicks = 1000000;
+constexpr int kPortion = 100000;
+/// So few that what the simulated machine remembers of them takes no time of its own.
+constexpr int kStep = 1000;
+constexpr double kUsPerMs = 1000;
+/// What two equal portions differ by on a machine that does other things as well.
+constexpr double kMostRatio = 1.1;
+
+ui::Timer& DisplayTimer(app::Form1& program) {
+  for (ui::Timer* timer : program.Timers()) {
+    if (timer->Name() == "Timer1") return *timer;
+  }
+  Require(false, "there is no Timer1");
+  std::abort();
+}
+
+/// Microseconds of a tick, for each step of a portion.
+std::vector<double> TickUs(tests::ProgramRig& rig, ui::Timer& timer, int ticks) {
+  std::vector<double> us;
+  for (int done = 0; done < ticks; done += kStep) {
+    const Stopwatch watch;
+    for (int tick = 0; tick < kStep; ++tick) timer.Elapse();
+    us.push_back(watch.Ms() * kUsPerMs / kStep);
+    rig.machine.ForgetCalls();
+  }
+  return us;
+}
+
+}  // namespace
+
+Row MeasureTicks() {
+  tests::ProgramRig rig;
+  rig.SetHasRunBefore();
+  rig.machine.SetCpuLoad(40);
+  app::Form1& program = rig.Start();
+  ui::Timer& timer = DisplayTimer(program);
+  Require(timer.Running(), "Timer1 does not run");
+  const std::vector<double> first = TickUs(rig, timer, kPortion);
+  TickUs(rig, timer, kTicks - 2 * kPortion);
+  const std::vector<double> last = TickUs(rig, timer, kPortion);
+  return Compared(
+      "a tick of `Timer1`, the last 100,000 of a million beside the first 100,000 (simulated machine)", last,
+      first, "us", kMostRatio, "constant");
+}
+
+}  // namespace qdix::bench

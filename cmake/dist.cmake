@@ -1,0 +1,14 @@
+# What is delivered: the list of the shipped programs for tools/dist/make_dist.py, and the tests of what that makes.
+get_property(shipped_programs GLOBAL PROPERTY QDIX_SHIPPED_PROGRAMS)
+foreach(program IN LISTS shipped_programs)
+  list(APPEND shipped_files "\"$<TARGET_FILE:${program}>\"")
+endforeach()
+list(JOIN shipped_files ", " shipped_files)
+file(GENERATE OUTPUT ${CMAKE_BINARY_DIR}/shipped.json
+     CONTENT "{\"version\": \"${PROJECT_VERSION}\", \"programs\": [${shipped_files}]}\n")
+
+add_test(NAME dist.downloads
+  COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/dist/downloads_test.py ${CMAKE_BINARY_DIR})
+add_test(NAME dist.refusals COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/dist/refusals_test.py)
+add_test(NAME dist.setup_text COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/dist/setup_text_test.py)
+set_tests_properties(dist.downloads PROPERTIES TIMEOUT 120)

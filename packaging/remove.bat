@@ -1,0 +1,21 @@
+@echo off
+rem What Add/Remove Programs starts, with the folder of Q-DIX behind it.
+rem The engine of qdix.inf cannot start a program and wait for its end;
+rem this file can.
+if "%1"=="" goto hint
+echo.
+echo Removing Q-DIX. The window of Q-DIX Undo opens first: put back there
+echo what shall be as it was before Q-DIX changed it, and close it.
+start /w %1\undo.exe
+echo.
+echo Close Q-DIX now, if it is still open. Then its files, its settings and
+echo its record of this machine are deleted. To keep them, press Ctrl+C.
+echo.
+pause
+rem Without waiting, because it deletes this file as well.
+rundll.exe setupx.dll,InstallHinfSection DefaultUninstall 4 %1\qdix.inf
+goto end
+:hint
+echo To remove Q-DIX open Control Panel, Add/Remove Programs.
+pause
+:end

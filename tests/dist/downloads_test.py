@@ -1,0 +1,130 @@
+#!/usr/bin/env python3
+"""What a user downloads is what was built, in forms that the oldest machines read, and the same bytes on any day.
+
+downloads_test.py BUILD [unittest's arguments]    BUILD is the build folder of the shipped programs
+"""
+import hashlib
+import json
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+import zipfile
+
+from downloads import Cd, Floppy, of_zip
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+BUILD = pathlib.Path(sys.argv.pop(1))
+MAKE = ROOT / "tools" / "dist" / "make_dist.py"
+# 14 January 2000, 00:00:00 UTC.
+TIME = 947808000
+COLUMNS = 72
+TEXTS = ("README.TXT", "LICENSE.TXT", "qdix.inf", "remove.bat")
+
+
+def make(output, *before):
+    command = [*before, sys.executable, MAKE, "--build", BUILD, "--output", output, "--time", str(TIME)]
+    subprocess.run(command, check=True, stdout=subprocess.DEVNULL)
+
+
+class Downloads(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.work = pathlib.Path(tempfile.mkdtemp())
+        cls.addClassCleanup(shutil.rmtree, cls.work)
+        cls.made = cls.work / "dist"
+        make(cls.made)
+        listed = json.loads((BUILD / "shipped.json").read_text(encoding="utf-8"))
+        cls.version = listed["version"]
+        cls.programs = {pathlib.Path(path).name: pathlib.Path(path).read_bytes() for path in listed["programs"]}
+        manual = BUILD / "manual"
+        cls.manual = {path.name: path.read_bytes() for path in [*manual.glob("help.htm"), *manual.glob("*.gif")]}
+        cls.zip = cls.made / f"qdix-{cls.version}.zip"
+        cls.files = of_zip(cls.zip)
+
+    def test_there_are_four_of_them_and_nothing_else(self):
+        self.assertEqual(sorted(path.name for path in self.made.iterdir()),
+                         [f"qdix-{self.version}.zip", "qdix.img", "qdix.iso", "sha256sums.txt"])
+
+    def test_the_zip_has_programs_manual_and_texts_and_nothing_else(self):
+        self.assertEqual(sorted(self.files), sorted([*self.programs, *self.manual, *TEXTS]))
+        self.assertEqual({name: self.files[name] for name in self.programs}, self.programs)
+        self.assertEqual({name: self.files[name] for name in self.manual}, self.manual)
+        self.assertLessEqual({"QDIX.exe", "configL.exe", "undo.exe"}, set(self.files))
+
+    def test_the_zip_is_flat_and_plain(self):
+        with zipfile.ZipFile(self.zip) as archive:
+            for entry in archive.infolist():
+                with self.subTest(entry.filename):
+                    self.assertRegex(entry.filename, r"\A[A-Za-z0-9_]{1,8}\.[A-Za-z0-9_]{1,3}\Z")
+                    self.assertEqual(entry.compress_type, zipfile.ZIP_DEFLATED)
+                    self.assertEqual((entry.flag_bits, entry.extra, entry.create_system), (0, b"", 0))
+                    self.assertLessEqual(entry.extract_version, 20)
+                    self.assertEqual(entry.date_time, (2000, 1, 14, 0, 0, 0))
+
+    def test_another_program_unpacks_the_zip(self):
+        subprocess.run(["unzip", "-tqq", self.zip], check=True)
+
+    def test_the_floppy_is_a_whole_disk_with_the_same_files_and_a_third_of_it_free(self):
+        floppy = Floppy(self.made / "qdix.img")
+        self.assertEqual(len(floppy.data), 1474560)
+        self.assertEqual(floppy.sectors, 2880)
+        self.assertEqual(floppy.data[510:512], b"\x55\xaa")
+        self.assertEqual(floppy.files(), {name.upper(): data for name, data in self.files.items()})
+        self.assertGreaterEqual(floppy.free_bytes() * 3, len(floppy.data))
+
+    def test_another_program_reads_the_floppy(self):
+        folder = self.work / "floppy"
+        folder.mkdir()
+        environment = {**os.environ, "MTOOLSRC": os.devnull}
+        subprocess.run(["mcopy", "-i", self.made / "qdix.img", "::*", folder], check=True, env=environment)
+        self.assertEqual({path.name.upper(): path.read_bytes() for path in folder.iterdir()},
+                         {name.upper(): data for name, data in self.files.items()})
+
+    def test_the_cd_is_of_level_1_without_extensions_and_has_the_same_files(self):
+        cd = Cd(self.made / "qdix.iso")
+        primary, terminator = 1, 255
+        self.assertEqual(cd.descriptors, [primary, terminator])
+        for name, extension, _ in cd.records():
+            with self.subTest(name):
+                self.assertRegex(name, r"\A[A-Z0-9_]{1,8}\.[A-Z0-9_]{1,3};1\Z")
+                self.assertEqual(extension, b"")
+        self.assertEqual(cd.files(), {f"{name.upper()};1": data for name, data in self.files.items()})
+
+    def test_the_sums_are_those_of_the_downloads(self):
+        listed = [line.split("  ") for line in (self.made / "sha256sums.txt").read_text(encoding="ascii").splitlines()]
+        self.assertEqual(sorted(name for _, name in listed), sorted([self.zip.name, "qdix.img", "qdix.iso"]))
+        for digest, name in listed:
+            self.assertEqual(digest, hashlib.sha256((self.made / name).read_bytes()).hexdigest(), name)
+
+    def test_another_day_another_time_zone_the_same_bytes(self):
+        again = self.work / "again"
+        # The clock alone is moved: with the times of files faked as well, the tools would see other files.
+        make(again, "env", "TZ=Asia/Tokyo", "NO_FAKE_STAT=1", "faketime", "2031-07-08 09:10:11")
+        for path in self.made.iterdir():
+            self.assertEqual(path.read_bytes(), (again / path.name).read_bytes(), path.name)
+
+    def test_every_time_in_the_images_is_the_given_one(self):
+        date_of_dos, midnight = (2000 - 1980) << 9 | 1 << 5 | 14, 0
+        self.assertEqual(Floppy(self.made / "qdix.img").times(), {(midnight, date_of_dos)})
+        self.assertEqual(Cd(self.made / "qdix.iso").times(), {(100, 1, 14, 0, 0, 0, 0)})
+
+    def test_texts_are_plain_ascii_in_lines_of_windows(self):
+        for name in TEXTS:
+            with self.subTest(name):
+                self.assertRegex(self.files[name], re.compile(rb"\A([\x20-\x7e]*\r\n)+\Z"))
+
+    def test_the_readme_fits_into_72_columns_and_names_every_file(self):
+        text = self.files["README.TXT"].decode("ascii")
+        self.assertLessEqual(max(map(len, text.split("\r\n"))), COLUMNS)
+        self.assertIn(f"Q-DIX {self.version}", text)
+        for name in [*self.programs, *TEXTS]:
+            self.assertRegex(text, rf"(?m)^  {re.escape(name)} ", name)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

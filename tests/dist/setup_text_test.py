@@ -1,0 +1,105 @@
+#!/usr/bin/env python3
+"""qdix.inf stays within the limits of the first Windows 95, hangs together, and removes what the program writes."""
+import pathlib
+import re
+import sys
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "tools" / "dist"))
+from make_dist import texts_of  # noqa: E402
+
+PROGRAMS = ("QDIX.exe", "configL.exe", "undo.exe")
+MOST_SECTION_NAME = 28
+MOST_LINE = 511
+MOST_ADD_REMOVE_NAME = 59
+# One byte of the 128 that DOS has for it ends the command line; the program's own name is not among them.
+MOST_ARGUMENTS = 126
+# What the engine looks up by itself.
+OWN_SECTIONS = {"Version", "DefaultInstall", "DefaultUninstall", "DestinationDirs", "SourceDisksNames",
+                "SourceDisksFiles", "Strings"}
+
+
+def sections_of(text):
+    sections, lines = {}, None
+    for line in text.splitlines():
+        if heading := re.fullmatch(r"\[(.+)\]", line):
+            lines = sections.setdefault(heading[1], [])
+        elif line and not line.startswith(";"):
+            lines.append(line)
+    return sections
+
+
+def constant(path, name):
+    """The text that a constant of the program holds."""
+    found = re.search(rf'\b{name}\s*=\s*"([^"]+)"', (ROOT / path).read_text(encoding="utf-8"))
+    return found[1].replace("\\\\", "\\")
+
+
+class SetupText(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.text = texts_of("1.2.3", PROGRAMS)["qdix.inf"].decode("ascii").replace("\r\n", "\n")
+        cls.sections = sections_of(cls.text)
+        cls.strings = dict(re.fullmatch(r'(\w+)="(.*)"', line).groups() for line in cls.sections["Strings"])
+        cls.plain = sections_of(re.sub(r"%(\w+)%", lambda name: cls.strings.get(name[1], name[0]), cls.text))
+
+    def test_it_is_an_installation_of_windows_95(self):
+        self.assertIn('Signature="$CHICAGO$"', self.sections["Version"])
+
+    def test_names_and_lines_are_not_too_long(self):
+        self.assertLessEqual(max(map(len, self.sections)), MOST_SECTION_NAME)
+        self.assertLessEqual(max(len(line) for lines in self.plain.values() for line in lines), MOST_LINE)
+        key = self.strings["UNINSTALL"].rpartition("\\")[2]
+        name = re.search(r'DisplayName,,"(.+)"', "\n".join(self.plain["QDIX.Entry"]))[1]
+        self.assertLessEqual(max(len(key), len(name)), MOST_ADD_REMOVE_NAME)
+
+    def test_every_section_that_is_named_is_there_and_every_one_there_is_named(self):
+        named = {name for start in ("DefaultInstall", "DefaultUninstall")
+                 for line in self.sections[start] for name in line.partition("=")[2].split(",")}
+        self.assertEqual(named | OWN_SECTIONS, set(self.sections))
+
+    def test_every_list_of_files_has_a_folder(self):
+        folders = {line.partition("=")[0] for line in self.sections["DestinationDirs"]}
+        lists = {name for start in ("DefaultInstall", "DefaultUninstall") for line in self.sections[start]
+                 if line.startswith(("CopyFiles", "DelFiles")) for name in line.partition("=")[2].split(",")}
+        self.assertEqual(folders, lists)
+
+    def test_every_string_is_defined_and_used(self):
+        directories = {"10", "24"}
+        body = self.text.partition("[Strings]")[0].replace("%%", "")
+        body = "\n".join(line for line in body.splitlines() if not line.startswith(";"))
+        self.assertEqual(set(re.findall(r"%(\w+)%", body)) - directories, set(self.strings))
+
+    def test_it_copies_and_finds_every_delivered_file(self):
+        delivered = sorted([*PROGRAMS, *texts_of("1.2.3", PROGRAMS)], key=str.lower)
+        self.assertEqual(self.sections["QDIX.Files"], delivered)
+        self.assertEqual(self.sections["SourceDisksFiles"], [f"{name}=1" for name in delivered])
+
+    def test_folders_have_names_of_dos(self):
+        for line in self.plain["DestinationDirs"]:
+            for part in line.partition(",")[2].split("\\"):
+                self.assertRegex(part, r"\A[A-Za-z0-9~-]{1,8}\Z", line)
+
+    def test_command_lines_fit_into_those_of_dos(self):
+        lines = re.findall(r'command\.com (/c [^"]+)"', "\n".join(self.plain["QDIX.Entry"] + self.plain["QDIX.Rest"]))
+        self.assertEqual(len(lines), 2)
+        for line in lines:
+            self.assertLessEqual(len(line.replace("%24%", "C:").replace("%10%", r"C:\WINDOWS.000")), MOST_ARGUMENTS, line)
+
+    def test_it_removes_what_the_program_writes(self):
+        paths, store = "src/shell/registry_paths.h", "src/shell/settings_store.cpp"
+        keys = "\n".join(self.plain["QDIX.Keys"]).replace('"', "")
+        for line in (f"HKLM,{constant(paths, 'kMachineKey')}",
+                     f"HKLM,{constant(paths, 'kRunKey')},{constant(paths, 'kRunValue')}",
+                     f"HKCU,{constant('src/app/machine_record.cpp', 'kUserKey')}",
+                     f"HKCU,{constant(store, 'path').rstrip(chr(92))}",
+                     f"HKLM,{self.strings['UNINSTALL']}"):
+            self.assertIn(line, keys.splitlines())
+        list_file = (ROOT / "companions/config_launcher/list_file.cpp").read_text(encoding="utf-8")
+        written = {constant("src/launcher/launcher_file.h", "kLauncherFileName"), *re.findall(r'"(launcher\.\w+)"', list_file)}
+        self.assertEqual(set(self.sections["QDIX.Made"]), written)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
