@@ -5,8 +5,12 @@
 
 #include "app/form1.h"
 #include "config_launcher/config_form.h"
+#include "help_viewer/help_form.h"
+#include "os/simulated/simulated_clipboard.h"
 #include "os/simulated/simulated_file_dialogs.h"
 #include "os/simulated/simulated_machine.h"
+#include "os/simulated/simulated_printer.h"
+#include "os/simulated/simulated_screen.h"
 #include "undo/undo_form.h"
 
 namespace qdix::e2e {
@@ -30,6 +34,14 @@ ProgramFacts Undo() { return {"undo.exe", "Q-DIX Undo", MapOf<undo::UndoForm>()}
 ProgramFacts ConfigLauncher() {
   os::simulated::SimulatedFileDialogs dialogs;
   return {"configL.exe", config_launcher::kTitle, MapOf<config_launcher::ConfigForm>(dialogs)};
+}
+
+ProgramFacts HelpViewer() {
+  os::simulated::SimulatedClipboard clipboard;
+  os::simulated::SimulatedPrinter printer;
+  os::simulated::SimulatedScreen screen;
+  const help_viewer::Devices devices{clipboard, printer, screen};
+  return {"help.exe", help_viewer::kTitle, MapOf<help_viewer::HelpForm>(devices, help_viewer::StartWith{})};
 }
 
 std::string ProgramPath(const std::string& file_name) {

@@ -17,6 +17,7 @@ struct ProgramFacts {
 [[nodiscard]] ProgramFacts Qdix();
 [[nodiscard]] ProgramFacts Undo();
 [[nodiscard]] ProgramFacts ConfigLauncher();
+[[nodiscard]] ProgramFacts HelpViewer();
 
 /// Path of a program under test, as Windows writes it: in the folder of the QDIX.exe that the environment
 /// variable QDIX_PROGRAM names (a path of the host), else in the one that the preset win9x builds into.
