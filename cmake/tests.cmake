@@ -40,14 +40,15 @@ endfunction()
 
 file(GLOB_RECURSE unit_sources CONFIGURE_DEPENDS tests/unit/*.cpp)
 qdix_test(unit_tests SOURCES ${unit_sources} LIBRARIES qdix_simulated ${companion_libraries})
+add_dependencies(unit_tests qdix_packed_topics)
 # The topics of the help as they are made and as they ship, by paths of the system that the tests run on.
 set(host_drive "")
 if(WIN32)
   set(host_drive "Z:")
 endif()
-set_source_files_properties(tests/unit/help_viewer/shipped_topics_test.cpp PROPERTIES COMPILE_DEFINITIONS
+set_source_files_properties(tests/unit/help_viewer/shipped_topics_test.cpp tests/e2e/help_viewer_test.cpp
+  PROPERTIES COMPILE_DEFINITIONS
   "QDIX_TOPIC_STREAM=\"${host_drive}${QDIX_TOPIC_STREAM}\";QDIX_PACKED_TOPICS=\"${host_drive}${QDIX_PACKED_TOPICS}\"")
-add_dependencies(unit_tests qdix_packed_topics)
 
 file(GLOB_RECURSE contract_sources CONFIGURE_DEPENDS tests/contract/*.cpp)
 if(WIN32)
@@ -66,6 +67,7 @@ if(WIN32)
     target_link_libraries(qdix_probe PRIVATE qdix_warnings e2e_driver)
     target_link_options(qdix_probe PRIVATE -static)
     qdix_test(e2e_tests SOURCES ${e2e_sources} LIBRARIES e2e_driver qdix_win32)
+    add_dependencies(e2e_tests qdix_packed_topics)
     # What the launcher starts in these tests.
     add_executable(witness WIN32 tests/e2e/witness/main.cpp)
     target_link_libraries(witness PRIVATE qdix_warnings)

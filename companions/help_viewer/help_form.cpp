@@ -79,6 +79,7 @@ base::Status HelpForm::cmdFind_Click() {
 }
 
 base::Status HelpForm::cmdPrint_Click() {
+  screen_.paneTopic.SetFocus();
   const os::Printer::Choice choice = devices_.printer.PrintDlgA();
   if (choice == os::Printer::Choice::kCancelled) return base::kDone;
   bool is_printed = false;
@@ -95,6 +96,7 @@ base::Status HelpForm::cmdPrint_Click() {
 }
 
 base::Status HelpForm::cmdCopy_Click() {
+  screen_.paneTopic.SetFocus();
   if (!devices_.clipboard.SetClipboardData(PlainText(screen_.paneTopic.Shown()))) {
     Tell(
         "The topic could not be copied.\r\n\r\nAnother program may have the clipboard open. Please try "

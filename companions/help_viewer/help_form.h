@@ -56,7 +56,7 @@ class HelpForm {
   base::Status cmdContents_Click();
   /// "Find".
   base::Status cmdFind_Click();
-  /// "Print...".
+  /// "Print...". As with "Copy Topic" and "Back" the keyboard goes to the topic, to scroll it.
   base::Status cmdPrint_Click();
   /// "Copy Topic", and Ctrl+C.
   base::Status cmdCopy_Click();

@@ -33,8 +33,8 @@ base::Status Reader::cmdBack_Click() {
   if (visits_.empty()) return base::kDone;
   const Visit visit = visits_.back();
   visits_.pop_back();
-  // A button that stops working while it has the keyboard would leave the keyboard nowhere.
-  if (visits_.empty() && screen_.cmdBack.HasFocus()) screen_.paneTopic.SetFocus();
+  // As long as the button works: one that stops working would leave the keyboard nowhere.
+  screen_.paneTopic.SetFocus();
   Show(visit.index);
   screen_.paneTopic.ScrollTo(visit.scroll_px);
   return base::kDone;

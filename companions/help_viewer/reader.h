@@ -20,7 +20,7 @@ class Reader {
   /// Shows a topic, or the page of all of them. The one that is shown already is shown from its beginning.
   void Open(int index);
 
-  /// "Back".
+  /// "Back". The keyboard goes to the topic, to scroll it.
   base::Status cmdBack_Click();
 
   /// Another topic is shown.

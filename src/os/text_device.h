@@ -8,7 +8,7 @@ namespace qdix::os {
 
 /// One look of a text: the proportional font of the device, or its fixed-width one.
 struct FontLook {
-  std::uint8_t points = 8;
+  int points = 8;
   bool is_bold = false;
   bool is_fixed = false;
   bool is_underlined = false;

@@ -9,7 +9,10 @@
 #include <string>
 #include <vector>
 
+#include "os/clipboard.h"
+#include "os/screen.h"
 #include "os/system.h"
+#include "os/text_device.h"
 
 namespace qdix::contract {
 
@@ -42,6 +45,16 @@ class Machine {
 
   /// Lets at least this much time pass.
   virtual void LetTimePass(int ms) = 0;
+
+  // What is not part of the system that every program gets.
+  [[nodiscard]] virtual os::Clipboard& TheClipboard() = 0;
+  [[nodiscard]] virtual os::Screen& TheScreen() = 0;
+  [[nodiscard]] virtual os::TextDevice& TheTextDevice() = 0;
+  /// The text that another program would paste.
+  [[nodiscard]] virtual std::string ClipboardText() = 0;
+  /// Another window opens the clipboard, and closes it again.
+  virtual void HoldClipboard() = 0;
+  virtual void ReleaseClipboard() = 0;
 
   /// Deletes a key and everything below it.
   virtual void DeleteRegistryTree(os::KeyHandle root, const std::string& path) = 0;

@@ -16,13 +16,24 @@ HGLOBAL MakeShared(const std::string& text) {
   return memory;
 }
 
+/// Programs that watch the clipboard open it for a moment whenever it changes.
+bool OpenWithPatience(HWND owner) {
+  constexpr int kTries = 10;
+  constexpr DWORD kPauseMs = 20;
+  for (int tried = 1; OpenClipboard(owner) == 0; ++tried) {
+    if (tried == kTries) return false;
+    Sleep(kPauseMs);
+  }
+  return true;
+}
+
 }  // namespace
 
 bool Win32Clipboard::SetClipboardData(const std::string& text) {
   HGLOBAL const memory = MakeShared(text);
   if (memory == nullptr) return false;
   bool is_taken = false;
-  if (OpenClipboard(owner_) != 0) {
+  if (OpenWithPatience(owner_)) {
     is_taken = EmptyClipboard() != 0 && ::SetClipboardData(CF_TEXT, memory) != nullptr;
     CloseClipboard();
   }

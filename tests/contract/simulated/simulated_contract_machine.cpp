@@ -1,4 +1,7 @@
+#include "os/simulated/simulated_clipboard.h"
 #include "os/simulated/simulated_machine.h"
+#include "os/simulated/simulated_screen.h"
+#include "os/simulated/simulated_text_device.h"
 #include "tests/contract/machine.h"
 
 namespace qdix::contract {
@@ -53,11 +56,21 @@ class SimulatedContractMachine final : public Machine {
 
   void LetTimePass(int ms) override { machine_.AdvanceMs(ms); }
 
+  os::Clipboard& TheClipboard() override { return clipboard_; }
+  os::Screen& TheScreen() override { return screen_; }
+  os::TextDevice& TheTextDevice() override { return text_device_; }
+  std::string ClipboardText() override { return clipboard_.text; }
+  void HoldClipboard() override { clipboard_.is_held = true; }
+  void ReleaseClipboard() override { clipboard_.is_held = false; }
+
   /// The registry goes with the machine.
   void DeleteRegistryTree(os::KeyHandle /*root*/, const std::string& /*path*/) override {}
 
  private:
   os::SimulatedMachine machine_;
+  os::simulated::SimulatedClipboard clipboard_;
+  os::simulated::SimulatedScreen screen_;
+  os::simulated::SimulatedTextDevice text_device_;
 };
 
 }  // namespace

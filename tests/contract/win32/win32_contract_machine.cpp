@@ -68,6 +68,7 @@ Win32ContractMachine::Win32ContractMachine() {
     std::abort();
   }
   SetWindowLongA(hidden_, GWL_USERDATA, reinterpret_cast<LONG>(this));
+  clipboard_.SetOwner(hidden_);
 }
 
 Win32ContractMachine::~Win32ContractMachine() {
@@ -130,6 +131,24 @@ void Win32ContractMachine::LetTimePass(int ms) { Sleep(static_cast<DWORD>(ms)); 
 void Win32ContractMachine::DeleteRegistryTree(os::KeyHandle root, const std::string& path) {
   DeleteTree(reinterpret_cast<HKEY>(root), path);
 }
+
+std::string Win32ContractMachine::ClipboardText() {
+  if (OpenClipboard(hidden_) == 0) return "(held)";
+  HANDLE const memory = GetClipboardData(CF_TEXT);
+  std::string text = "(no text)";
+  if (memory != nullptr) {
+    text = static_cast<const char*>(GlobalLock(memory));
+    GlobalUnlock(memory);
+  }
+  CloseClipboard();
+  return text;
+}
+
+void Win32ContractMachine::HoldClipboard() {
+  EXPECT_TRUE(OpenClipboard(Native(OpenWindow("QdixContractHolder", "Holds the clipboard"))));
+}
+
+void Win32ContractMachine::ReleaseClipboard() { EXPECT_TRUE(CloseClipboard()); }
 
 void Win32ContractMachine::LookForBox() {
   HWND box = OpenBox();

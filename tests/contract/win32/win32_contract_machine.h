@@ -3,8 +3,12 @@
 
 #include <windows.h>
 
+#include "os/win32/gdi_text_device.h"
+#include "os/win32/win32_clipboard.h"
+#include "os/win32/win32_screen.h"
 #include "os/win32/win32_system.h"
 #include "tests/contract/machine.h"
+#include "ui/win32/owned.h"
 
 namespace qdix::contract {
 
@@ -30,6 +34,12 @@ class Win32ContractMachine final : public Machine {
   void StopInNextBox() override;
   std::vector<ShownBox> Boxes() override { return boxes_; }
   void LetTimePass(int ms) override;
+  os::Clipboard& TheClipboard() override { return clipboard_; }
+  os::Screen& TheScreen() override { return screen_; }
+  os::TextDevice& TheTextDevice() override { return text_device_; }
+  std::string ClipboardText() override;
+  void HoldClipboard() override;
+  void ReleaseClipboard() override;
   void DeleteRegistryTree(os::KeyHandle root, const std::string& path) override;
 
   /// Something that a hand does to the next box when it is open; what it does must close the box.
@@ -41,6 +51,10 @@ class Win32ContractMachine final : public Machine {
 
   os::win32::Win32System system_;
   HWND hidden_ = nullptr;
+  os::win32::Win32Clipboard clipboard_;
+  os::win32::Win32Screen screen_;
+  ui::win32::OwnedMemoryDevice device_{CreateCompatibleDC(nullptr)};
+  os::win32::GdiTextDevice text_device_{device_.get(), os::win32::kScreenFaces};
   std::vector<HWND> windows_;
   std::vector<std::string> classes_;
   std::vector<std::function<void(HWND)>> hands_;

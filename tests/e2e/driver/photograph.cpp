@@ -21,9 +21,8 @@ bool MakeFile(const std::string& command, const std::string& file) {
                      &started) == 0) {
     return false;
   }
-  CloseHandle(started.hThread);
-  CloseHandle(started.hProcess);
-  // Wine does not wait for programs of the host.
+  // Wine does not wait for programs of the host. Nothing is closed: it gives no handles of them, and what it
+  // leaves in the record can be the handle of something else.
   return Eventually([&] { return GetFileAttributesA(file_in_windows.c_str()) != INVALID_FILE_ATTRIBUTES; });
 }
 
@@ -39,14 +38,22 @@ bool Photograph(const std::string& name) {
                   file);
 }
 
-COLORREF ScreenColour(POINT place) {
-  const std::string file = PhotoFile("pixel.rgb");
-  const std::string crop = "1x1+" + std::to_string(place.x) + "+" + std::to_string(place.y);
+std::string ScreenPixels(const RECT& part) {
+  const std::string file = PhotoFile("pixels.rgb");
+  const LONG width = part.right - part.left;
+  const LONG height = part.bottom - part.top;
+  const std::string crop = std::to_string(width) + "x" + std::to_string(height) + "+" +
+                           std::to_string(part.left) + "+" + std::to_string(part.top);
   const std::string command = "import -silent -window root -crop " + crop + " -depth 8 'rgb:" + file +
                               ".new' && mv '" + file + ".new' '" + file + "'";
-  if (!MakeFile(command, file)) return CLR_INVALID;
+  if (!MakeFile(command, file)) return {};
   const std::string bytes = FileBytes("Z:" + file).value_or("");
-  if (bytes.size() != 3) return CLR_INVALID;
+  return bytes.size() == static_cast<std::size_t>(width * height * 3) ? bytes : std::string();
+}
+
+COLORREF ScreenColour(POINT place) {
+  const std::string bytes = ScreenPixels({place.x, place.y, place.x + 1, place.y + 1});
+  if (bytes.empty()) return CLR_INVALID;
   const auto part = [&bytes](std::size_t index) { return static_cast<BYTE>(bytes[index]); };
   return RGB(part(0), part(1), part(2));
 }

@@ -5,8 +5,12 @@
 
 #include "app/form1.h"
 #include "config_launcher/config_form.h"
+#include "help_viewer/help_form.h"
+#include "os/simulated/simulated_clipboard.h"
 #include "os/simulated/simulated_file_dialogs.h"
 #include "os/simulated/simulated_machine.h"
+#include "os/simulated/simulated_printer.h"
+#include "os/simulated/simulated_screen.h"
 #include "undo/undo_form.h"
 
 namespace qdix::e2e {
@@ -44,6 +48,14 @@ std::string WitnessPath() { return WindowsPath(QDIX_WITNESS); }
 std::string WitnessReportPath() {
   const std::string program = WitnessPath();
   return program.substr(0, program.rfind('.')) + ".txt";
+}
+
+ProgramFacts HelpViewer() {
+  os::simulated::SimulatedClipboard clipboard;
+  os::simulated::SimulatedPrinter printer;
+  os::simulated::SimulatedScreen screen;
+  const help_viewer::Devices devices{clipboard, printer, screen};
+  return {"help.exe", help_viewer::kTitle, MapOf<help_viewer::HelpForm>(devices, help_viewer::StartWith{})};
 }
 
 std::string ProgramPath(const std::string& file_name) {

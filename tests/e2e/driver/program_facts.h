@@ -17,6 +17,7 @@ struct ProgramFacts {
 [[nodiscard]] ProgramFacts Qdix();
 [[nodiscard]] ProgramFacts Undo();
 [[nodiscard]] ProgramFacts ConfigLauncher();
+[[nodiscard]] ProgramFacts HelpViewer();
 
 /// Path of the program that writes down how it was started, and of what it writes.
 [[nodiscard]] std::string WitnessPath();

@@ -7,7 +7,7 @@ namespace qdix::e2e {
 namespace {
 
 /// The program's own keys; of the key of programs that start with Windows one value is its own.
-std::array<KeyPath, 4> OwnKeys() { return {kSettings, kStartup, kMachineKey, kUserKey}; }
+std::array<KeyPath, 5> OwnKeys() { return {kSettings, kStartup, kHelpSettings, kMachineKey, kUserKey}; }
 
 /// Longest name or content of a value that the program writes, with room to spare.
 constexpr std::size_t kLongestText = 4096;

@@ -12,6 +12,7 @@ namespace qdix::e2e {
 
 inline const KeyPath kSettings{HKEY_CURRENT_USER, "Software\\VB and VBA Program Settings\\QDIX\\Settings"};
 inline const KeyPath kStartup{HKEY_CURRENT_USER, "Software\\VB and VBA Program Settings\\QDIX\\Startup"};
+inline const KeyPath kHelpSettings{HKEY_CURRENT_USER, "Software\\VB and VBA Program Settings\\QDIX\\Help"};
 inline const KeyPath kMachineKey{HKEY_LOCAL_MACHINE, "SOFTWARE\\QDIX"};
 /// Stands in for the machine's key where that one cannot be written.
 inline const KeyPath kUserKey{HKEY_CURRENT_USER, "Software\\QDIX"};

@@ -47,11 +47,11 @@ ShippedProgram::~ShippedProgram() {
   if (process_ != nullptr) CloseHandle(process_);
 }
 
-bool ShippedProgram::Start() {
+bool ShippedProgram::Start(const std::string& arguments) {
   STARTUPINFOA startup = {};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION started = {};
-  std::string command_line = "\"" + ProgramPath(facts_.file_name) + "\"";
+  std::string command_line = "\"" + ProgramPath(facts_.file_name) + "\" " + arguments;
   if (CreateProcessA(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
                      &started) == 0) {
     return false;

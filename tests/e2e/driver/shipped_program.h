@@ -28,8 +28,9 @@ class ShippedProgram {
   /// Kills a program that was started and still runs; leaves alone one that was only attached to.
   ~ShippedProgram();
 
-  /// Starts the program under test, also once more after its end; false when the system refuses.
-  [[nodiscard]] bool Start();
+  /// Starts the program under test with these arguments, also once more after its end; false when the system
+  /// refuses.
+  [[nodiscard]] bool Start(const std::string& arguments = {});
   /// Attaches to the copy that runs already; false when there is none.
   [[nodiscard]] bool Attach();
   /// The same with a copy that another program was made to start: it counts as started here.

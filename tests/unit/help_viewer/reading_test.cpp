@@ -113,13 +113,16 @@ TEST(HelpReading, VeryLongWayBackForgetsItsBeginning) {
   EXPECT_EQ(steps, 50);
 }
 
-TEST(HelpReading, KeyboardStaysUsableWhenBackHasNoMoreToDo) {
+TEST(HelpReading, KeyboardIsOnTheTopicAfterBackCopyAndPrint) {
   HelpRig rig;
   rig.Start("0");
   rig.Pane().Follow(0);
-  rig.Screen().cmdBack.SetFocus();
-  rig.Screen().cmdBack.Press();
-  EXPECT_TRUE(rig.Pane().HasFocus());
+  for (ui::Button* const button : {&rig.Screen().cmdCopy, &rig.Screen().cmdPrint, &rig.Screen().cmdBack}) {
+    button->SetFocus();
+    button->Press();
+    EXPECT_TRUE(rig.Pane().HasFocus()) << button->Name();
+  }
+  EXPECT_FALSE(rig.Screen().cmdBack.Enabled());
 }
 
 TEST(HelpReading, ContentsButtonShowsThePageOfAllTopics) {
