@@ -3,6 +3,7 @@
 find_program(CROSS_OBJCOPY i686-w64-mingw32-objcopy REQUIRED)
 find_program(CROSS_OBJDUMP i686-w64-mingw32-objdump REQUIRED)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
+include(cmake/packed_topics.cmake)
 
 file(GLOB runtime_sources CONFIGURE_DEPENDS src/runtime/*.cpp)
 # Whole, not an archive: what calls it is found in any order, and what nothing calls is thrown away by the link.

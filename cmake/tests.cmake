@@ -13,6 +13,7 @@ if(WIN32)
 endif()
 add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
 include(GoogleTest)
+include(cmake/packed_topics.cmake)
 
 add_library(qdix_simulated STATIC ${simulated_sources})
 target_link_libraries(qdix_simulated PRIVATE qdix_warnings PUBLIC qdix_program)
