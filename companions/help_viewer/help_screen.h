@@ -80,7 +80,7 @@ struct HelpScreen {
   /// Gives lists and pane their places in the present size of the window.
   void Arrange() {
     const ui::Place& window = Window.GetPlace();
-    const auto side = static_cast<std::int16_t>(std::clamp(window.width * 3 / 10, 90, 150));
+    const auto side = static_cast<std::int16_t>(std::clamp(window.width * 34 / 100, 90, 160));
     const auto bottom = static_cast<std::int16_t>(window.height - kMargin);
     lstContents.SetPlace({kMargin, kPanesTop, side, Between(kPanesTop, bottom)});
     lblWord.SetPlace({kMargin, kPanesTop, side, 8});
