@@ -258,7 +258,10 @@ TEST_F(UndoSession, FramesAreAsGreyAsTheWindow) {
   const COLORREF face = GetSysColor(COLOR_3DFACE);
   for (const char* const name : {"FrameCache", "FrameTemplate", "FrameSwapFile"}) {
     const RECT frame = program.ScreenRect(name);
-    EXPECT_EQ(ScreenColour({frame.left + 5, frame.bottom - 6}), face) << name;
+    // The window is there before its inside is painted.
+    EXPECT_TRUE(program.Await([&] {
+      return ScreenColour({frame.left + 5, frame.bottom - 6}) == face;
+    })) << name;
   }
   Close();
 }
