@@ -72,6 +72,14 @@ class Changes(unittest.TestCase):
         self.assertTrue(changes_of(binding + " a = Handler::To<1>(b); b = a; }\n") & {
             ("order", binding + " b = a; a = Handler::To<1>(b); }\n")})
 
+    def test_order_of_two_assignments_counts_where_one_reads_the_other(self):
+        for one, other in (("a = 1;", "b = c;"), ("s.a = 1;", "s.b = c;"), ("a = c + 2;", "b = c - 1;")):
+            self.assertFalse(operators.order_matters(one, other), one + other)
+        for one, other in (("a = 1;", "b = a;"), ("a = b;", "b = 1;"), ("a = 1;", "a = 2;"), ("a = F();", "b = 1;"),
+                           ("s = t;", "s.a = 1;"), ("s.a = s.b;", "s.b = 1;"),
+                           ("a = *p;", "b = 1;"), ("s.a = t;", "t.b = 1;"), ("a = c++;", "b = c;")):
+            self.assertTrue(operators.order_matters(one, other), one + other)
+
 
 class LeftAlone(unittest.TestCase):
     def expect_none(self, source):

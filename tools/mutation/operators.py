@@ -29,12 +29,32 @@ REPLACEMENTS = {"comparison": COMPARISONS, "arithmetic": ARITHMETIC, "logic": LO
 STEPS = {"++": "--", "--": "++"}
 # The order in which handlers are bound is seen by nobody: none runs before all are bound.
 BINDING = re.compile(r"^\S+\s*=\s*[\w:]*(Handler|Callback<[^;]*>)::To<", re.DOTALL)
+# An assignment that calls nothing and reads no memory but by name.
+PATH = r"[\w.]+"
+PLAIN_ASSIGNMENT = re.compile(r"([\w.]+)\s*=\s*([\w.:?<>!&|+/ -]*);")
 # Characters of a change that a report shows.
 LONGEST_SHOWN = 120
 
 
 def shortened(text):
     return textwrap.shorten(text, LONGEST_SHOWN, placeholder=" ...")
+
+
+def overlap(one, other):
+    """True where one of two variables is the other or a part of it: a and a.b."""
+    return one == other or one.startswith(other + ".") or other.startswith(one + ".")
+
+
+def order_matters(one, other):
+    """False where nobody can tell the order of two statements by their kind alone."""
+    if BINDING.match(one) and BINDING.match(other):
+        return False
+    first, second = PLAIN_ASSIGNMENT.fullmatch(one), PLAIN_ASSIGNMENT.fullmatch(other)
+    if not first or not second or any(step in one + other for step in STEPS):
+        return True
+    read_first, read_second = re.findall(PATH, first[2]), re.findall(PATH, second[2])
+    return (any(overlap(first[1], path) for path in [second[1], *read_second])
+            or any(overlap(second[1], path) for path in read_first))
 
 
 @dataclasses.dataclass(frozen=True, order=True)
@@ -207,7 +227,7 @@ class Finder:
                 continue
             (start, first_end), (second_start, end) = self.bounds(first), self.bounds(second)
             one, other = self.text_of(start, first_end), self.text_of(second_start, end)
-            if one != other and not (BINDING.match(one) and BINDING.match(other)):
+            if one != other and order_matters(one, other):
                 swapped = other + self.text_of(first_end, second_start) + one
                 self.add("order", start, end, swapped, first.extent.start.line)
 

@@ -56,6 +56,13 @@ TEST(LeadingNumberText, UpToFifteenDigitsAreReadCorrectlyRounded) {
   }
 }
 
+TEST(LeadingNumberText, SmallestNumbersAreReadAndNotTakenForNothing) {
+  for (const char* text : {"1E-310", "123456789E-315", "5E-300", "1E-22"}) {
+    const double expected = std::strtod(text, nullptr);
+    EXPECT_NEAR(base::ParseLeadingNumber(text) / expected, 1, 1e-9) << text;
+  }
+}
+
 TEST(IsNumber, TakesTheWholeText) {
   for (const char* text : {"1", " 1.5 ", "-2E3", ".5", "46347.5"}) EXPECT_TRUE(base::IsNumber(text)) << text;
   for (const char* text : {"", " ", "x", "1x", "1 2", "--1", ".", "12 o'clock"})

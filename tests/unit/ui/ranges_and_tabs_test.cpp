@@ -38,6 +38,11 @@ TEST_F(Ranges, NarrowerRangeMovesTheValueWithoutFiring) {
   bar.SetRange(16, 1);
   EXPECT_EQ(bar.Value(), 16);
   EXPECT_EQ(changed.count, 0);
+  bar.SetRange(40, 25);
+  EXPECT_EQ(bar.Minimum(), 40);
+  EXPECT_EQ(bar.Maximum(), 25);
+  EXPECT_EQ(bar.Value(), 25);
+  EXPECT_EQ(changed.count, 0);
 }
 
 TEST_F(Ranges, HandStepsPagesAndDragsInsideTheRange) {
