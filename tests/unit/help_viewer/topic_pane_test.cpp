@@ -120,6 +120,26 @@ TEST_F(HelpPane, FirstTabTakesTheNearestLinkFromTheViewOnAndScrollsToIt) {
   EXPECT_EQ(pane.ScrollPosition(), Bottom());
 }
 
+TEST_F(HelpPane, LinkThatEndsWhereTheViewBeginsOrBeginsWhereItEndsIsNotInView) {
+  constexpr int kHeightPx = 20;
+  const std::vector<help_viewer::LinkTarget> links = Open("0").TheLayout().links;
+  ASSERT_EQ(links.size(), 2U);
+  const auto next_from = [this](int scroll_px, bool backward) {
+    TopicPane& pane = Open("0");
+    pane.SurfaceChanged(&rig.device, 300, kHeightPx);
+    pane.ScrollTo(scroll_px);
+    EXPECT_EQ(pane.ScrollPosition(), scroll_px);
+    pane.FocusNextLink(backward);
+    return pane.FocusedLink();
+  };
+  const int below_first_px = links[0].top + links[0].height;
+  EXPECT_EQ(next_from(below_first_px, false), 1);
+  EXPECT_EQ(next_from(below_first_px - 1, false), 0);
+  const int above_last_px = links[1].top - kHeightPx;
+  EXPECT_EQ(next_from(above_last_px, true), 0);
+  EXPECT_EQ(next_from(above_last_px + 1, true), 1);
+}
+
 TEST_F(HelpPane, EnterFollowsTheLinkWithTheKeyboard) {
   TopicPane& pane = Open("0");
   pane.PressEnter();

@@ -153,6 +153,7 @@ TEST_F(Ranges, PeerOfASliderFindsTheValueInsideTheNewRange) {
   slider.SetMaximum(40);
   slider.SetMaximum(40);
   slider.SetValue(7);
+  slider.SetValue(7);
   EXPECT_EQ(reader.changes, (std::vector<ui::Change>{ui::Change::kRange, ui::Change::kValue}));
   EXPECT_EQ(reader.values, (std::vector<std::int32_t>{40, 7}));
 }
