@@ -341,6 +341,8 @@ TEST_F(Lifecycle, UntrappedErrorShowsItsNumberAndUnloads) {
   auto& program = Start();
   // A bar of height zero has no scale: dividing by it is an error that the button's handler does not trap.
   program.Quondix().XGraphMeter1.SetMax(0);
+  rig.machine.WhileBoxIsOpen(
+      [&program] { EXPECT_FALSE(program.Window().Unloaded()) << "not before it was read"; });
   program.Quondix().Command1.Press();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "Run-time error '11':\r\n\r\nDivision by zero");

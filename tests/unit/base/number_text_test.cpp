@@ -25,14 +25,15 @@ TEST_P(LeadingNumber, IsRead) {
 }
 INSTANTIATE_TEST_SUITE_P(
     Texts, LeadingNumber,
-    testing::Values(Parsed{"64 MB", 64}, Parsed{"12 3", 12}, Parsed{"1,234", 1}, Parsed{"2.5", 2.5},
-                    Parsed{"", 0}, Parsed{"abc", 0}, Parsed{"   7", 7}, Parsed{"-3", -3}, Parsed{"+3", 3},
-                    Parsed{"- 3", 0}, Parsed{".5", 0.5}, Parsed{"5.", 5}, Parsed{".", 0}, Parsed{"-", 0},
-                    Parsed{"1.2.3", 1.2}, Parsed{"1E3", 1000}, Parsed{"1d3", 1000}, Parsed{"1D+2x", 100},
-                    Parsed{"1e-2", 0.01}, Parsed{"1E", 1}, Parsed{"1E+", 1}, Parsed{"1Ex", 1},
-                    Parsed{"0x10", 0}, Parsed{"\t5", 0}, Parsed{"007", 7}, Parsed{"0.1", 0.1},
-                    Parsed{"23.45", 23.45}, Parsed{"123456789012345", 123456789012345.0},
-                    Parsed{"1E400", kLargest}, Parsed{"-1E400", -kLargest}, Parsed{"1E99999999999", kLargest},
+    testing::Values(Parsed{"64 MB", 64}, Parsed{"12 3", 12}, Parsed{"12:30", 12}, Parsed{"1/2", 1},
+                    Parsed{"1,234", 1}, Parsed{"2.5", 2.5}, Parsed{"", 0}, Parsed{"abc", 0},
+                    Parsed{"   7", 7}, Parsed{"-3", -3}, Parsed{"+3", 3}, Parsed{"- 3", 0}, Parsed{".5", 0.5},
+                    Parsed{"5.", 5}, Parsed{".", 0}, Parsed{"-", 0}, Parsed{"1.2.3", 1.2},
+                    Parsed{"1E3", 1000}, Parsed{"1d3", 1000}, Parsed{"1D+2x", 100}, Parsed{"1e-2", 0.01},
+                    Parsed{"1E", 1}, Parsed{"1E+", 1}, Parsed{"1Ex", 1}, Parsed{"0x10", 0}, Parsed{"\t5", 0},
+                    Parsed{"007", 7}, Parsed{"0.1", 0.1}, Parsed{"23.45", 23.45},
+                    Parsed{"123456789012345", 123456789012345.0}, Parsed{"1E400", kLargest},
+                    Parsed{"-1E400", -kLargest}, Parsed{"1E99999999999", kLargest},
                     Parsed{"1E-99999999999", 0}, Parsed{"1E-400", 0}, Parsed{"0E99999", 0}, Parsed{"E5", 0}));
 
 TEST(LeadingNumberText, TooLongSaturatesAndNeverFails) {
@@ -53,6 +54,13 @@ TEST(LeadingNumberText, UpToFifteenDigitsAreReadCorrectlyRounded) {
     const int exponent = static_cast<int>(random() % 45) - 22;
     const std::string text = std::to_string(digits) + "E" + std::to_string(exponent);
     ASSERT_EQ(base::ParseLeadingNumber(text), std::strtod(text.c_str(), nullptr)) << text;
+  }
+}
+
+TEST(LeadingNumberText, SmallestNumbersAreReadAndNotTakenForNothing) {
+  for (const char* text : {"1E-310", "123456789E-315", "5E-300", "1E-22"}) {
+    const double expected = std::strtod(text, nullptr);
+    EXPECT_NEAR(base::ParseLeadingNumber(text) / expected, 1, 1e-9) << text;
   }
 }
 

@@ -134,5 +134,23 @@ TEST(CpuSpeedAtLoad, ClockIsMeasuredOnce) {
   EXPECT_EQ(std::count(rig.machine.Calls().begin(), rig.machine.Calls().end(), "CountCycles(30)"), 1);
 }
 
+TEST(CpuSpeedAtLoad, ClockIsMeasuredBeforeTheStatisticIsStarted) {
+  ProgramRig rig;
+  rig.SetHasRunBefore();
+  rig.machine.SetCpuLoad(10);
+  auto& processor = rig.machine.TheProcessor();
+  processor.SetLeaf(0, {.eax = 1, .ebx = 0x756e6547, .ecx = 0x6c65746e, .edx = 0x49656e69});
+  processor.SetLeaf(1, {.eax = 0x52C, .edx = 0x1BF});
+  rig.Start();
+  const std::vector<std::string>& calls = rig.machine.Calls();
+  const auto measured = std::find(calls.begin(), calls.end(), "CountCycles(30)");
+  const auto is_start = [](const std::string& call) {
+    return call.starts_with("RegOpenKeyExA(HKDD\\PerfStats\\StartStat");
+  };
+  ASSERT_NE(measured, calls.end());
+  EXPECT_TRUE(std::none_of(calls.begin(), measured, is_start));
+  EXPECT_TRUE(std::any_of(measured, calls.end(), is_start));
+}
+
 }  // namespace
 }  // namespace qdix::tests

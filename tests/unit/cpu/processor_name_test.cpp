@@ -187,6 +187,7 @@ TEST_F(OneProcessor, TellsMakerNameAndSignature) {
   cpu::TextBuffer vendor{};
   cpu::TextBuffer description{};
   cpu::TextBuffer signature{};
+  for (cpu::TextBuffer* buffer : {&vendor, &description, &signature}) buffer->fill('#');
   identification.GetProcessor(vendor, description, signature);
   EXPECT_STREQ(vendor.data(), "GenuineIntel");
   EXPECT_STREQ(description.data(), "Intel Pentium MMX");

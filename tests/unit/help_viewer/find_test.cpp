@@ -135,5 +135,24 @@ TEST(HelpSearch, CapitalsOfTheCodePageAreTheirSmallLetters) {
   EXPECT_EQ(FindInTopic(topic, "").size(), 0U);
 }
 
+bool IsCapital(int code) {
+  return (code >= 'A' && code <= 'Z') || (code >= 0xC0 && code <= 0xDE && code != 0xD7);
+}
+
+TEST(HelpSearch, EachCapitalFindsItsSmallLetterAndNothingElse) {
+  constexpr int kCodes = 256;
+  constexpr int kFromCapitalToSmall = 32;
+  for (int code = 1; code < kCodes; ++code) {
+    help_viewer::Topic topic;
+    topic.blocks.push_back({.cells = {{.characters = {static_cast<char>(code)}}}});
+    for (int other = 1; other < kCodes; ++other) {
+      const bool same = code == other || (IsCapital(code) && other == code + kFromCapitalToSmall) ||
+                        (IsCapital(other) && code == other + kFromCapitalToSmall);
+      const std::string word(1, static_cast<char>(other));
+      ASSERT_EQ(FindInTopic(topic, word).size(), same ? 1U : 0U) << code << " and " << other;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace qdix::tests

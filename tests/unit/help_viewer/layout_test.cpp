@@ -52,6 +52,13 @@ TEST_F(HelpLayout, ParagraphIsWrappedAtBlanks) {
   EXPECT_EQ(Lines(), (Texts{"aaa", "bbb cc", "dddd"}));
 }
 
+TEST_F(HelpLayout, MarginIsKeptOnBothSides) {
+  LayOut("Paaa bbb cc dddd\n", 10 + 7 * 8 + 10, 10);
+  EXPECT_EQ(Lines(), (Texts{"aaa bbb", "cc dddd"}));
+  LayOut("Paaa bbb cc dddd\n", 10 + 7 * 8 + 10 - 1, 10);
+  EXPECT_EQ(Lines(), (Texts{"aaa", "bbb cc", "dddd"}));
+}
+
 TEST_F(HelpLayout, BlanksRoundABreakBelongToNoLine) {
   LayOut("P  aaa   bbb  \n", 5 * 8);
   EXPECT_EQ(Lines(), (Texts{"aaa", "bbb"}));

@@ -59,6 +59,21 @@ TEST(HelpReading, RowOfTheContentsShowsItsTopicAndAHeadingNothingNew) {
   EXPECT_EQ(rig.Screen().lstContents.SelectedText(), "The Rest");
 }
 
+TEST(HelpReading, LinkToTheTopicThatItStandsInGoesBackToItsTop) {
+  std::string stream = "@3\tOne\n";
+  for (int i = 0; i < 30; ++i) stream += "PText.\n";
+  HelpRig rig(stream +
+              "P\x03"
+              "3\x1F"
+              "top\x04\n");
+  rig.Start("3");
+  rig.Pane().ScrollTo(100);
+  ASSERT_EQ(rig.Pane().ScrollPosition(), 100);
+  rig.Pane().Follow(0);
+  EXPECT_EQ(rig.Pane().ScrollPosition(), 0);
+  EXPECT_FALSE(rig.Screen().cmdBack.Enabled()) << "it is no step to come back from";
+}
+
 TEST(HelpReading, EnterInTheContentsGoesToTheTopicToScrollIt) {
   HelpRig rig;
   rig.Start("");

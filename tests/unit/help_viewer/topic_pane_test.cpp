@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "help_viewer/pane_picture.h"
+#include "tests/support/control_bench.h"
 #include "tests/unit/help_viewer/help_rig.h"
 
 namespace qdix::tests {
@@ -72,6 +73,15 @@ TEST_F(HelpPane, AnotherWidthKeepsTheBlockAtTheTopAndAnotherHeightThePosition) {
   EXPECT_EQ(pane.ScrollPosition(), 0);
 }
 
+TEST_F(HelpPane, AnotherHeightAloneIsToldToThePeer) {
+  TopicPane& pane = Open("7");
+  NotingPeer peer;
+  pane.AttachPeer(&peer);
+  pane.SurfaceChanged(&rig.device, 300, 150);
+  EXPECT_EQ(peer.changes, std::vector<ui::Change>{ui::Change::kValue})
+      << "its scroll bar has longer pages now";
+}
+
 TEST_F(HelpPane, WithoutASurfaceNothingIsLaidOut) {
   TopicPane& pane = Open("0");
   pane.SurfaceChanged(nullptr, 0, 0);
@@ -92,9 +102,13 @@ TEST_F(HelpPane, TabGoesThroughTheLinksAndThenLeaves) {
   EXPECT_EQ(pane.FocusedLink(), 1);
   EXPECT_FALSE(pane.HasNextLink(false)) << "a link to nowhere is none";
   EXPECT_TRUE(pane.HasNextLink(true));
+  pane.FocusNextLink(false);
+  EXPECT_EQ(pane.FocusedLink(), 1) << "where there is no further one, the last keeps the focus";
   pane.FocusNextLink(true);
   EXPECT_EQ(pane.FocusedLink(), 0);
   EXPECT_FALSE(pane.HasNextLink(true));
+  pane.FocusNextLink(true);
+  EXPECT_EQ(pane.FocusedLink(), 0);
 }
 
 TEST_F(HelpPane, FirstTabTakesTheNearestLinkFromTheViewOnAndScrollsToIt) {
@@ -104,6 +118,26 @@ TEST_F(HelpPane, FirstTabTakesTheNearestLinkFromTheViewOnAndScrollsToIt) {
   pane.FocusNextLink(false);
   EXPECT_EQ(pane.FocusedLink(), 0);
   EXPECT_EQ(pane.ScrollPosition(), Bottom());
+}
+
+TEST_F(HelpPane, LinkThatEndsWhereTheViewBeginsOrBeginsWhereItEndsIsNotInView) {
+  constexpr int kHeightPx = 20;
+  const std::vector<help_viewer::LinkTarget> links = Open("0").TheLayout().links;
+  ASSERT_EQ(links.size(), 2U);
+  const auto next_from = [this](int scroll_px, bool backward) {
+    TopicPane& pane = Open("0");
+    pane.SurfaceChanged(&rig.device, 300, kHeightPx);
+    pane.ScrollTo(scroll_px);
+    EXPECT_EQ(pane.ScrollPosition(), scroll_px);
+    pane.FocusNextLink(backward);
+    return pane.FocusedLink();
+  };
+  const int below_first_px = links[0].top + links[0].height;
+  EXPECT_EQ(next_from(below_first_px, false), 1);
+  EXPECT_EQ(next_from(below_first_px - 1, false), 0);
+  const int above_last_px = links[1].top - kHeightPx;
+  EXPECT_EQ(next_from(above_last_px, true), 0);
+  EXPECT_EQ(next_from(above_last_px + 1, true), 1);
 }
 
 TEST_F(HelpPane, EnterFollowsTheLinkWithTheKeyboard) {

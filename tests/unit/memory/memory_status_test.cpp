@@ -57,6 +57,10 @@ TEST(MemoryStatus, AvailableAboveTotalShowsAsTheFigureDividedBy102Point4) {
   rig.Start();  // total 66
   rig.machine.SetMemory(64 * kMegabyte, 512 * kMegabyte, 1000, 1000);
   EXPECT_DOUBLE_EQ(rig.program->Monitor().MemStatus(), 5);  // 524.29 / 102.4 = 5.12
+  rig.SetAvailableMb(1793);
+  EXPECT_DOUBLE_EQ(rig.program->Monitor().MemStatus(), 18);  // 17.51
+  rig.SetAvailableMb(1791);
+  EXPECT_DOUBLE_EQ(rig.program->Monitor().MemStatus(), 17);  // 17.49
 }
 
 TEST(MemoryStatus, AvailableEqualToTotalIsLeftAlone) {

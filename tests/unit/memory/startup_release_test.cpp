@@ -115,6 +115,16 @@ TEST_F(StartupRelease, PauseDropsItForThisRun) {
   EXPECT_EQ(Allocations(), Sizes{});
 }
 
+TEST_F(StartupRelease, ErrorOfTheBarIsShownAndNothingIsReleased) {
+  StartWithDelay("1");
+  rig.program->Quondix().XGraphMeter1.SetMax(0);
+  rig.AdvanceMs(kSecondMs);
+  EXPECT_EQ(Allocations(), Sizes{});
+  ASSERT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_EQ(rig.machine.Boxes()[0].text, "Run-time error '11':\r\n\r\nDivision by zero");
+  EXPECT_TRUE(rig.program->Window().Unloaded());
+}
+
 TEST_F(StartupRelease, CloseInTheMiddleKeepsNoBlock) {
   StartWithDelay("1");
   rig.machine.OnPump([this](int) { rig.program->Window().Unload(); });

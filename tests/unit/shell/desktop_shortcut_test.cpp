@@ -82,7 +82,10 @@ TEST_F(DesktopShortcutTest, ShellWithoutRecentDocumentsGetsTheDirectOne) {
   rig.machine.SetSpecialFolder(os::kRecentFolder, "");
   // What a path put together from nothing would find.
   rig.machine.WriteFile("Quondix.lnk", "somebody's");
-  Press();
+  const Calls calls = CallsOfAPress();
+  EXPECT_TRUE(
+      std::count(calls.begin(), calls.end(), "SHAddToRecentDocs(2, C:\\Program Files\\QDIX\\QDIX.exe)"))
+      << "the shell is asked all the same";
   EXPECT_EQ(TargetAt(kOnDesktop), kProgram);
   EXPECT_EQ(rig.machine.ReadFile("Quondix.lnk"), "somebody's");
 }

@@ -38,6 +38,11 @@ TEST_F(Ranges, NarrowerRangeMovesTheValueWithoutFiring) {
   bar.SetRange(16, 1);
   EXPECT_EQ(bar.Value(), 16);
   EXPECT_EQ(changed.count, 0);
+  bar.SetRange(40, 25);
+  EXPECT_EQ(bar.Minimum(), 40);
+  EXPECT_EQ(bar.Maximum(), 25);
+  EXPECT_EQ(bar.Value(), 25);
+  EXPECT_EQ(changed.count, 0);
 }
 
 TEST_F(Ranges, HandStepsPagesAndDragsInsideTheRange) {
@@ -147,6 +152,7 @@ TEST_F(Ranges, PeerOfASliderFindsTheValueInsideTheNewRange) {
   slider.AttachPeer(&reader);
   slider.SetMaximum(40);
   slider.SetMaximum(40);
+  slider.SetValue(7);
   slider.SetValue(7);
   EXPECT_EQ(reader.changes, (std::vector<ui::Change>{ui::Change::kRange, ui::Change::kValue}));
   EXPECT_EQ(reader.values, (std::vector<std::int32_t>{40, 7}));

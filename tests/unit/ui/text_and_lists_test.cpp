@@ -402,6 +402,17 @@ TEST_F(ListRules, CombosPeerNeverFindsTheOldTextAfterTheUserEditedIt) {
   for (const std::string& read : reader.read) EXPECT_EQ(read, "2/");
 }
 
+TEST_F(ListRules, ComboShowsItsNewTextBeforeItsHandlerRuns) {
+  ui::DropDownCombo combo(bench.form, {.name = "Combo"});
+  ComboReader reader;
+  combo.AttachPeer(&reader);
+  Handled changed;
+  changed.action = [&reader] { EXPECT_EQ(reader.read, std::vector<std::string>{"7/"}); };
+  combo.OnChange = changed.Handler();
+  combo.SetText("7");
+  EXPECT_EQ(changed.count, 1);
+}
+
 TEST_F(ListRules, ClearingTheSelectionOfAComboKeepsItsText) {
   ui::DropDownCombo combo(bench.form, {.name = "Combo"});
   Fill(combo);

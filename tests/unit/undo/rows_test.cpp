@@ -185,6 +185,8 @@ TEST(UndoRows, ButtonFollowsTheBoxes) {
 TEST(UndoRows, UntrappedErrorIsShownAndEndsTheProgram) {
   UndoRig rig;
   rig.Start();
+  rig.machine.WhileBoxIsOpen(
+      [&rig] { EXPECT_FALSE(rig.form->Window().Unloaded()) << "not before it was read"; });
   rig.form->Window().Dispatcher().Report(base::kOverflow);
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Undo");

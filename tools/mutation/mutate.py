@@ -1,0 +1,80 @@
+#!/usr/bin/python3
+"""How much do the unit tests notice?   mutate.py --sample 300 --seed 1 [FILE[:LINE] or FOLDER...]
+
+Changes the portable sources in one place at a time (a constant, an operator, the order of two statements, a statement
+left out), a random sample of all such changes, and counts what the unit tests catch. The report names each survivor;
+build/mutation/report.txt keeps it. One that never ends counts as caught. Headers are left alone: a change there would
+compile most of the tests again. The same seed draws the same sample from the same sources.
+"""
+import argparse
+import collections
+import concurrent.futures
+import pathlib
+import random
+import sys
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
+import operators  # noqa: E402
+import workshop  # noqa: E402
+
+FOLDERS = ("src", "companions")
+LEFT_OUT = {"win32", "simulated", "runtime"}
+
+
+def sources():
+    found = (path for folder in FOLDERS for path in (workshop.ROOT / folder).rglob("*.cpp"))
+    return sorted(path for path in found if not LEFT_OUT & set(path.relative_to(workshop.ROOT).parts))
+
+
+def is_asked_for(mutant, places):
+    return not places or any(mutant.file == place or mutant.file.startswith(place.rstrip("/") + "/")
+                             or f"{mutant.file}:{mutant.line}" == place for place in places)
+
+
+def may_hold(name, places):
+    """True where a file can have mutants that are asked for."""
+    return not places or any(f"{name}/".startswith(place.split(":")[0].rstrip("/") + "/") for place in places)
+
+
+def report(results, total):
+    """The lines of the report; `results` are pairs of a verdict and a description."""
+    count = collections.Counter(verdict for verdict, _ in results)
+    judged = count["caught"] + count["survived"]
+    yield from (f"survived: {text}" for verdict, text in results if verdict == "survived")
+    yield (f"mutation: {len(results)} of {total}: {count['caught']} caught, {count['survived']} survived, "
+           f"{count['did not compile']} did not compile")
+    yield f"mutation: {100 * count['caught'] / judged:.1f} percent caught" if judged else "mutation: nothing to judge"
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--sample", type=int, default=300)
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("places", nargs="*", help="only in these: folder, file, or file:line, from the root of the tree")
+    asked = parser.parse_args()
+
+    shop = workshop.Workshop()
+    mutants = []
+    for path in sources():
+        name = path.relative_to(workshop.ROOT).as_posix()
+        if not may_hold(name, asked.places):
+            continue
+        mutants.extend(operators.mutants_of(path, name, shop.parse_arguments(path)))
+    mutants = [mutant for mutant in mutants if is_asked_for(mutant, asked.places)]
+    sample = random.Random(asked.seed).sample(mutants, min(asked.sample, len(mutants)))
+
+    def judge(mutant):
+        verdict = shop.verdict(mutant)
+        text = mutant.described((workshop.ROOT / mutant.file).read_bytes())
+        print(f"{verdict:16}{text}", flush=True)
+        return verdict, text
+
+    with concurrent.futures.ThreadPoolExecutor(workshop.JOBS) as pool:
+        results = list(pool.map(judge, sample))
+    lines = list(report(sorted(results), len(mutants)))
+    (workshop.BUILD / "report.txt").write_text("\n".join(lines) + "\n", encoding="utf-8")
+    print("\n".join(lines))
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,245 @@
+"""Finds the small changes ("mutants") that can be made in a source file, with libclang's view of the program.
+
+Only what runs is changed: bodies of functions, and initialisers of variables. Comments, directives, texts, types and
+declarations stay as they are.
+"""
+import dataclasses
+import re
+import textwrap
+
+from clang.cindex import CursorKind, Index
+
+FUNCTIONS = {CursorKind.FUNCTION_DECL, CursorKind.CXX_METHOD, CursorKind.CONSTRUCTOR, CursorKind.DESTRUCTOR,
+             CursorKind.CONVERSION_FUNCTION, CursorKind.FUNCTION_TEMPLATE}
+VARIABLES = {CursorKind.VAR_DECL, CursorKind.FIELD_DECL}
+BINARY = {CursorKind.BINARY_OPERATOR, CursorKind.COMPOUND_ASSIGNMENT_OPERATOR}
+# Statements that may be left out or change places. A return with a value or a declaration may not.
+MOVABLE = {CursorKind.IF_STMT, CursorKind.FOR_STMT, CursorKind.CXX_FOR_RANGE_STMT, CursorKind.WHILE_STMT,
+           CursorKind.DO_STMT, CursorKind.SWITCH_STMT}
+JUMPS = {CursorKind.BREAK_STMT, CursorKind.CONTINUE_STMT}
+BODY_HOLDERS = {CursorKind.IF_STMT, CursorKind.FOR_STMT, CursorKind.CXX_FOR_RANGE_STMT, CursorKind.WHILE_STMT}
+# What stands in front of a variable's initialiser: types, not values.
+REFERENCES = {CursorKind.TYPE_REF, CursorKind.TEMPLATE_REF, CursorKind.NAMESPACE_REF}
+
+COMPARISONS = {"<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">", "<"), "==": ("!=",), "!=": ("==",)}
+ARITHMETIC = {"+": ("-",), "-": ("+",), "*": ("/",), "/": ("*",), "%": ("*",), "<<": (">>",), ">>": ("<<",),
+              "+=": ("-=",), "-=": ("+=",), "*=": ("/=",), "/=": ("*=",), ">>=": ("<<=",), "<<=": (">>=",)}
+LOGIC = {"&&": ("||",), "||": ("&&",), "&": ("|",), "|": ("&",), "|=": ("&=",), "&=": ("|=",), "^": ("&",)}
+REPLACEMENTS = {"comparison": COMPARISONS, "arithmetic": ARITHMETIC, "logic": LOGIC}
+STEPS = {"++": "--", "--": "++"}
+# The order in which handlers are bound is seen by nobody: none runs before all are bound.
+BINDING = re.compile(r"^\S+\s*=\s*[\w:]*(Handler|Callback<[^;]*>)::To<", re.DOTALL)
+# An assignment that calls nothing and reads no memory but by name.
+PATH = r"[\w.]+"
+PLAIN_ASSIGNMENT = re.compile(r"([\w.]+)\s*=\s*([\w.:?<>!&|+/ -]*);")
+# Characters of a change that a report shows.
+LONGEST_SHOWN = 120
+
+
+def shortened(text):
+    return textwrap.shorten(text, LONGEST_SHOWN, placeholder=" ...")
+
+
+def overlap(one, other):
+    """True where one of two variables is the other or a part of it: a and a.b."""
+    return one == other or one.startswith(other + ".") or other.startswith(one + ".")
+
+
+def order_matters(one, other):
+    """False where nobody can tell the order of two statements by their kind alone."""
+    if BINDING.match(one) and BINDING.match(other):
+        return False
+    first, second = PLAIN_ASSIGNMENT.fullmatch(one), PLAIN_ASSIGNMENT.fullmatch(other)
+    if not first or not second or any(step in one + other for step in STEPS):
+        return True
+    read_first, read_second = re.findall(PATH, first[2]), re.findall(PATH, second[2])
+    return (any(overlap(first[1], path) for path in [second[1], *read_second])
+            or any(overlap(second[1], path) for path in read_first))
+
+
+@dataclasses.dataclass(frozen=True, order=True)
+class Mutant:
+    """The bytes from `start` to `end` of the file become `text`."""
+    file: str
+    start: int
+    end: int
+    text: str
+    operator: str
+    line: int
+
+    def applied(self, source):
+        return source[:self.start] + self.text.encode() + source[self.end:]
+
+    def described(self, source):
+        before = shortened(source[self.start:self.end].decode())
+        return f"{self.file}:{self.line}: {self.operator}: {before} -> {shortened(self.text) or 'nothing'}"
+
+
+def changed_number(literal):
+    """The other values that stand for a number: its last digit one up, and for whole numbers one down as well."""
+    match = re.fullmatch(r"(0[xX][0-9a-fA-F]+|\d+)([uUlL]*)", literal)
+    if match:
+        value = int(match[1], 0) if match[1][:2] in ("0x", "0X") else int(match[1])
+        return [f"{other}{match[2]}" for other in (value + 1, value - 1) if other >= 0]
+    match = re.fullmatch(r"(\d*\.?\d*?)(\d)(\.?)((?:[eE][-+]?\d+)?[fFlL]?)", literal)
+    if not match:
+        return []
+    return [f"{match[1]}{(int(match[2]) + 1) % 10}{match[3]}{match[4]}"]
+
+
+def changed_character(literal):
+    match = re.fullmatch(r"'([a-zA-Z0-9 .,:;_/-])'", literal)
+    return [f"'{chr(ord(match[1]) + 1)}'"] if match else ["'x'"]
+
+
+class Finder:
+    """Collects the mutants of one file."""
+
+    def __init__(self, path, name):
+        self.path = str(path)
+        self.name = name
+        self.source = path.read_bytes()
+        self.mutants = set()
+
+    def text_of(self, start, end):
+        return self.source[start:end].decode()
+
+    def add(self, operator, start, end, text, line):
+        self.mutants.add(Mutant(self.name, start, end, text, operator, line))
+
+    def find(self, arguments):
+        unit = Index.create().parse(self.path, args=arguments)
+        faults = [fault for fault in unit.diagnostics if fault.severity >= fault.Error]
+        if faults:
+            raise ValueError(f"{self.name} does not compile: {faults[0].spelling}")
+        for cursor in unit.cursor.get_children():
+            if cursor.location.file and cursor.location.file.name == self.path:
+                self.declaration(cursor)
+        return sorted(self.mutants)
+
+    def declaration(self, cursor):
+        """Looks for what runs, through namespaces and classes."""
+        if cursor.kind in FUNCTIONS:
+            for child in cursor.get_children():
+                if child.kind == CursorKind.COMPOUND_STMT or child.kind.is_expression():
+                    self.code(child)
+        elif cursor.kind in VARIABLES:
+            self.initialiser(cursor)
+        elif cursor.kind in {CursorKind.NAMESPACE, CursorKind.CLASS_DECL, CursorKind.STRUCT_DECL}:
+            for child in cursor.get_children():
+                self.declaration(child)
+
+    def initialiser(self, variable):
+        """Values of a variable, which stand behind its name; what stands before, or between [ and ] or as a width, is its type."""
+        for child in variable.get_children():
+            start = child.extent.start.offset
+            is_type = child.kind in REFERENCES or start < variable.location.offset
+            if not is_type and self.source[:start].rstrip()[-1:] not in (b"[", b":"):
+                self.code(child)
+
+    def code(self, cursor):
+        if cursor.kind in VARIABLES:
+            self.initialiser(cursor)
+            return
+        if cursor.kind.is_declaration() and cursor.kind != CursorKind.LAMBDA_EXPR:
+            self.declaration(cursor)
+            return
+        children = list(cursor.get_children())
+        self.value(cursor)
+        self.binary(cursor, children)
+        self.unary(cursor, children)
+        if cursor.kind == CursorKind.COMPOUND_STMT:
+            self.statements(children)
+        elif cursor.kind in BODY_HOLDERS:
+            self.bodies(cursor, children)
+        for child in children:
+            self.code(child)
+
+    def value(self, cursor):
+        start, end, line = cursor.extent.start.offset, cursor.extent.end.offset, cursor.extent.start.line
+        text = self.text_of(start, end)
+        if cursor.kind in {CursorKind.INTEGER_LITERAL, CursorKind.FLOATING_LITERAL}:
+            for other in changed_number(text):
+                self.add("constant", start, end, other, line)
+        elif cursor.kind == CursorKind.CXX_BOOL_LITERAL_EXPR and text in ("true", "false"):
+            self.add("constant", start, end, "false" if text == "true" else "true", line)
+        elif cursor.kind == CursorKind.CHARACTER_LITERAL:
+            for other in changed_character(text):
+                self.add("constant", start, end, other, line)
+
+    def binary(self, cursor, children):
+        """An operator between two operands; one that a class defines comes as a call with three parts."""
+        if cursor.kind in BINARY and len(children) == 2:
+            left, right = children
+        elif cursor.kind == CursorKind.CALL_EXPR and len(children) == 3 and children[1].spelling.startswith("operator"):
+            left, right = children[0], children[2]
+        else:
+            return
+        between_start, between_end = left.extent.end.offset, right.extent.start.offset
+        between = self.text_of(between_start, between_end)
+        match = re.fullmatch(r"[\s)]*([-+*/%<>=!&|^]+)[\s(]*", between)
+        if not match:
+            return
+        start = between_start + match.start(1)
+        line = self.source[:start].count(b"\n") + 1
+        for operator, table in REPLACEMENTS.items():
+            for other in table.get(match[1], ()):
+                self.add(operator, start, start + len(match[1]), other, line)
+
+    def unary(self, cursor, children):
+        if cursor.kind != CursorKind.UNARY_OPERATOR or len(children) != 1:
+            return
+        start, end = cursor.extent.start.offset, cursor.extent.end.offset
+        line = cursor.extent.start.line
+        text = self.text_of(start, end)
+        for step, other in STEPS.items():
+            if text.startswith(step):
+                self.add("arithmetic", start, start + 2, other, line)
+                return
+            if text.endswith(step):
+                self.add("arithmetic", end - 2, end, other, line)
+                return
+        if text.startswith("!"):
+            self.add("logic", start, start + 1, "", line)
+        elif text.startswith("-"):
+            self.add("arithmetic", start, start + 1, "", line)
+
+    def bounds(self, statement):
+        """From the first byte of a statement to behind its semicolon."""
+        start, end = statement.extent.start.offset, statement.extent.end.offset
+        behind = re.match(rb"\s*;", self.source[end:])
+        return start, end + (behind.end() if behind else 0)
+
+    def is_movable(self, statement):
+        return statement.kind.is_expression() or statement.kind in MOVABLE
+
+    def leave_out(self, statement):
+        is_bare_return = statement.kind == CursorKind.RETURN_STMT and not list(statement.get_children())
+        if self.is_movable(statement) or statement.kind in JUMPS or is_bare_return:
+            start, end = self.bounds(statement)
+            self.add("statement left out", start, end, ";", statement.extent.start.line)
+
+    def statements(self, children):
+        for statement in children:
+            self.leave_out(statement)
+        for first, second in zip(children, children[1:]):
+            if not self.is_movable(first) or not self.is_movable(second):
+                continue
+            (start, first_end), (second_start, end) = self.bounds(first), self.bounds(second)
+            one, other = self.text_of(start, first_end), self.text_of(second_start, end)
+            if one != other and order_matters(one, other):
+                swapped = other + self.text_of(first_end, second_start) + one
+                self.add("order", start, end, swapped, first.extent.start.line)
+
+    def bodies(self, holder, children):
+        """Bodies without braces: they are statements too, and the condition in front is none."""
+        for child in children[1:]:
+            is_body = re.match(rb"\s*;", self.source[child.extent.end.offset:]) is not None
+            before = self.source[holder.extent.start.offset:child.extent.start.offset].rstrip()
+            if is_body and (before.endswith(b")") or before.endswith(b"else")):
+                self.leave_out(child)
+
+
+def mutants_of(path, name, arguments):
+    """All mutants of the file at `path`, sorted; `name` is what they call it."""
+    return Finder(path, name).find(arguments)
