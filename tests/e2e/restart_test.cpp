@@ -41,16 +41,19 @@ TEST_F(RestartSession, ChoicesOfEveryTabSurvive) {
   EXPECT_EQ(again.OpenedTab(), 3);
   EXPECT_TRUE(again.IsVisible("Option1")) << "the page of the last run is open";
   EXPECT_FALSE(again.IsVisible("Command1"));
+  EXPECT_TRUE(again.HasSelected("Combo1", "16 MB"));
+  EXPECT_TRUE(again.IsChecked("Check4"));
+  again.OpenTab(0);
   EXPECT_TRUE(again.HasSelected("List1", "24 MB"));
+  again.OpenTab(1);
   EXPECT_TRUE(again.HasSelected("List2", "60"));
   EXPECT_TRUE(again.HasSelected("List4", "48 MB"));
   EXPECT_FALSE(again.IsChecked("Check9"));
   EXPECT_FALSE(again.IsEnabled("Text9"));
+  again.OpenTab(2);
   EXPECT_TRUE(again.IsChecked("Option5"));
   EXPECT_TRUE(again.HasSelected("lstTime", "12"));
   EXPECT_TRUE(again.HasSelected("List3", "72 MB"));
-  EXPECT_TRUE(again.HasSelected("Combo1", "16 MB"));
-  EXPECT_TRUE(again.IsChecked("Check4"));
   CloseCopy(again);
 }
 
@@ -81,9 +84,10 @@ TEST_F(RestartSession, StoredTextsComeBackAsTheyAre) {
   SetRegistryText(kSettings, "LastTab", "17");
   StartProgram();
   EXPECT_EQ(program.Text("Text1"), "2.5 times");
-  EXPECT_EQ(program.Text("Text2"), "none");
   EXPECT_EQ(Ask(program.Control("List1"), LB_GETCURSEL), LB_ERR) << "33 MB is no entry";
   EXPECT_EQ(program.OpenedTab(), 0);
+  program.OpenTab(1);
+  EXPECT_EQ(program.Text("Text2"), "none");
   EXPECT_EQ(RegistryText(kSettings, "FreeUpRAM"), "33");
   CloseProgram();
 }
@@ -124,6 +128,7 @@ TEST_F(RestartSession, AnUnknownDisplayModeShowsTheWindow) {
   SetRegistryText(kStartup, "StartDisplay", "9");
   StartProgram();
   EXPECT_FALSE(IsIconic(program.MainWindow()));
+  program.OpenTab(3);
   for (const char* const option : {"Option1", "Option2", "Option3"}) {
     EXPECT_FALSE(program.IsChecked(option)) << option;
   }

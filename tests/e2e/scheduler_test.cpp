@@ -68,6 +68,7 @@ TEST_F(SchedulerSession, AutomaticReleaseFiresBelowTheThresholdAndCounts) {
   SetRegistryText(kSettings, "MinRAM", "100000");
   SetRegistryText(kSettings, "CPUAutoActive", "0");
   StartProgram();
+  program.OpenTab(1);
   EXPECT_TRUE(program.Text("lblCounter").find(" released RAM 0 times ") != std::string::npos);
   EXPECT_TRUE(program.Await([] { return RegistryText(kSettings, "CounterValue") == "2"; }));
   EXPECT_TRUE(
@@ -116,6 +117,7 @@ TEST_F(SchedulerSession, TimedReleaseCountsDown) {
 
 TEST_F(SchedulerSession, UpTimeIsShownFromTheStart) {
   StartProgram();
+  program.OpenTab(3);
   const std::string text = program.Text("lblTimeRunning");
   EXPECT_TRUE(text.starts_with("Your system has been running for ")) << text;
   EXPECT_TRUE(text.ends_with(" minutes.")) << text;

@@ -1,4 +1,5 @@
 // How the shipped exe shows itself when it starts, and its pause.
+#include "tests/e2e/driver/notification_area.h"
 #include "tests/e2e/driver/played_memory.h"
 #include "tests/e2e/session.h"
 
@@ -63,6 +64,8 @@ TEST_F(StartModeSession, TwoMinimisesTheWindowWithTheMemoryInItsCaption) {
   ASSERT_TRUE(memory.Play(kBytesOf100Mb));
   ExpectCaption("100 MB   Q-DIX");
   EXPECT_TRUE(IsMinimised(program));
+  ShowWindow(program.MainWindow(), SW_RESTORE);
+  ASSERT_TRUE(program.Await([this] { return !IsMinimised(program); }));
   program.OpenTab(3);
   EXPECT_TRUE(program.IsChecked("Option2"));
   CloseProgram();
@@ -73,6 +76,8 @@ TEST_F(StartModeSession, ThreeShowsTheIconOnly) {
   EXPECT_FALSE(IsShown(program));
   EXPECT_TRUE(program.HasIcon());
   EXPECT_EQ(TaskbarButtonCount(), 0);
+  ASSERT_TRUE(PressIcon(Press::kLeftTwice));
+  ASSERT_TRUE(program.Await([this] { return IsShown(program); }));
   program.OpenTab(3);
   EXPECT_TRUE(program.IsChecked("Option3"));
   CloseProgram();
@@ -136,6 +141,9 @@ TEST_F(StartModeSession, PauseStopsTheFiguresAndResumeSetsThemGoing) {
 
 TEST_F(StartModeSession, PauseDisablesBothActivitiesAndResumeEnablesThem) {
   StartProgram();
+  program.OpenTab(1);
+  program.OpenTab(2);
+  program.OpenTab(0);
   const auto both_enabled = [this](bool enabled) {
     return program.Await([this, enabled] {
       return program.IsEnabled("Check1") == enabled && program.IsEnabled("Check3") == enabled;

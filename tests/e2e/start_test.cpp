@@ -70,6 +70,7 @@ TEST_F(StartSession, LaterStartsAreNoFirstRuns) {
   StartProgram();
   EXPECT_EQ(RegistryText(kSettings, "CounterValue"), std::nullopt);
   EXPECT_EQ(RegistryText(kRunKey, kRunValue), std::nullopt);
+  program.OpenTab(3);
   EXPECT_FALSE(program.IsChecked("Check2"));
   CloseProgram();
 }
@@ -114,6 +115,7 @@ TEST_F(StartSession, FiguresOfTheWindowAgreeWithTheMachine) {
   EXPECT_TRUE(program.Text("lblTotalMem").ends_with(" KB"));
   EXPECT_TRUE(program.Text("lblSwapfile").starts_with("Virtual Memory (Swapfile) :  "));
   EXPECT_TRUE(program.Text("lblSwapfile").ends_with(" MB"));
+  program.OpenTab(7);
   EXPECT_EQ(program.Text("lblVersion"), "v2.00");
   CloseProgram();
 }

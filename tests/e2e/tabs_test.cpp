@@ -1,4 +1,5 @@
 // The tabs of the shipped exe: each is opened and photographed; the tip of the first run; sizes and places.
+#include <algorithm>
 #include <array>
 
 #include "tests/e2e/session.h"
@@ -78,6 +79,7 @@ TEST_F(TabSession, EveryControlOfTheScreensHasItsWindowWithinItsPage) {
   StartProgram();
   ASSERT_GT(program.Controls().size(), 60U);
   for (const ControlAddress& control : program.Controls()) {
+    if (control.tab >= 0) program.OpenTab(control.tab);
     const HWND window = program.Control(control.name);
     ASSERT_NE(window, nullptr) << control.name;
     if (control.tab < 0) continue;
@@ -86,6 +88,26 @@ TEST_F(TabSession, EveryControlOfTheScreensHasItsWindowWithinItsPage) {
     RECT common = {};
     IntersectRect(&common, &page, &place);
     EXPECT_TRUE(EqualRect(&common, &place)) << control.name;
+  }
+  CloseProgram();
+}
+
+TEST_F(TabSession, WindowsOfATabAreMadeWhenItIsFirstOpened) {
+  SetRegistryText(kSettings, "LastTab", "7");
+  StartProgram();
+  const auto count_on = [this](int tab) {
+    const auto& all = program.Controls();
+    return static_cast<int>(
+        std::count_if(all.begin(), all.end(), [tab](const ControlAddress& at) { return at.tab == tab; }));
+  };
+  EXPECT_EQ(program.WindowsOnTab(-1), count_on(-1));
+  EXPECT_EQ(program.WindowsOnTab(0), count_on(0)) << "the graph on it is drawn whether it is seen or not";
+  EXPECT_EQ(program.WindowsOnTab(7), count_on(7)) << "the tab of the last run";
+  for (int tab = 1; tab < 7; ++tab) {
+    EXPECT_EQ(program.WindowsOnTab(tab), 1) << "only the page itself of " << tab;
+    program.OpenTab(tab);
+    EXPECT_GT(program.WindowsOnTab(tab), 1) << tab;
+    EXPECT_EQ(program.WindowsOnTab(tab), count_on(tab)) << tab;
   }
   CloseProgram();
 }

@@ -2,7 +2,6 @@
 
 #include <commctrl.h>
 
-#include "ui/control_numbers.h"
 #include "ui/win32/popup_menu.h"
 #include "ui/win32/reflection.h"
 
@@ -60,7 +59,6 @@ FormWindow::FormWindow(HINSTANCE instance, int icon_id, Application& application
                        std::span<Timer* const> timers, PeerFactory make_peer)
     : application_(application),
       form_(form),
-      make_peer_(make_peer),
       icon_(LoadMainIcon(instance, icon_id)),
       small_icon_(LoadSmallIcon(instance, icon_id)),
       taskbar_created_message_(RegisterWindowMessageA("TaskbarCreated")),
@@ -75,11 +73,12 @@ FormWindow::FormWindow(HINSTANCE instance, int icon_id, Application& application
       keys_(form),
       bounds_(main_.get(), form, font_),
       focus_(form, peers_),
-      context_{instance, font_, keys_, peers_, focus_, tips_},
+      maker_(form, main_.get(), make_peer, context_),
+      context_{instance, font_, keys_, peers_, focus_, tips_, maker_},
       timers_(main_.get(), timers) {
   focus_.SetMainWindow(main_.get());
   SendMessageA(main_.get(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(SmallIcon()));
-  VisitControls(form_, ControlVisitor::To<&FormWindow::MakeControl>(*this));
+  maker_.MakeDue();
   form_.AttachPeer(this);
   form_.AttachFormPeer(this);
   application_.OnTitleChanged = base::Callback<void()>::To<&FormWindow::TitleChanged>(*this);
@@ -92,25 +91,7 @@ FormWindow::~FormWindow() {
 }
 
 bool FormWindow::Complete() const {
-  for (const std::unique_ptr<NativeControl>& peer : peers_.All()) {
-    if (peer == nullptr || peer->Window() == nullptr) return false;
-  }
-  return main_ != nullptr && application_window_ != nullptr;
-}
-
-void FormWindow::MakeControl(Control& control, int number) {
-  peers_.Add(make_peer_(context_, control, StandsOn(control), number));
-  NativeControl* const peer = peers_.ByNumber(number);
-  if (peer != nullptr) peer->RefreshVisible();
-}
-
-HWND FormWindow::StandsOn(const Control& control) const {
-  for (const Control* above = control.Parent(); above != nullptr; above = above->Parent()) {
-    if (above->GetKind() != Kind::kTabPage) continue;
-    const NativeControl* const page = peers_.ByModel(*above);
-    if (page != nullptr) return page->Window();
-  }
-  return main_.get();
+  return main_ != nullptr && application_window_ != nullptr && maker_.Complete();
 }
 
 void FormWindow::TitleChanged() { SetWindowTextA(application_window_.get(), application_.Title().c_str()); }
@@ -142,6 +123,7 @@ void FormWindow::ShowOrHide() {
     ShowWindow(main_.get(), SW_HIDE);
     return;
   }
+  maker_.MakeDue();
   if (form_.State() == WindowState::kMinimised) {
     ShowWindow(main_.get(), SW_SHOWMINNOACTIVE);
     return;
@@ -237,6 +219,7 @@ std::optional<LRESULT> FormWindow::HandleLife(UINT message, WPARAM wparam, LPARA
       bounds_.Resized(lparam);
       return 0;
     case WM_WINDOWPOSCHANGED:
+      if ((reinterpret_cast<const WINDOWPOS*>(lparam)->flags & SWP_SHOWWINDOW) != 0) maker_.MakeDue();
       KeepApplicationWindowBehind();
       bounds_.Moved();
       return std::nullopt;
@@ -293,7 +276,7 @@ void FormWindow::EndSession() {
 
 void FormWindow::ForwardToControls(UINT message, WPARAM wparam, LPARAM lparam) const {
   for (const std::unique_ptr<NativeControl>& peer : peers_.All()) {
-    SendMessageA(peer->Window(), message, wparam, lparam);
+    if (peer != nullptr) SendMessageA(peer->Window(), message, wparam, lparam);
   }
   InvalidateRect(main_.get(), nullptr, TRUE);
 }

@@ -1,6 +1,6 @@
-// The windows of the program: the hidden application window, the main window that it owns, and all controls
-// on it. Everything exists, hidden, from the construction on, so that the program's load sets windows that
-// are there.
+// The windows of the program: the hidden application window, the main window that it owns, and the controls
+// on it. Both main windows exist, hidden, from the construction on; the controls of a tab page come when the
+// page is first seen (PeerMaker).
 #pragma once
 
 #include <optional>
@@ -15,6 +15,7 @@
 #include "ui/win32/form_keys.h"
 #include "ui/win32/owned.h"
 #include "ui/win32/peer_factory.h"
+#include "ui/win32/peer_maker.h"
 #include "ui/win32/peer_table.h"
 #include "ui/win32/subclass.h"
 #include "ui/win32/tool_tips.h"
@@ -34,7 +35,7 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   FormWindow& operator=(const FormWindow&) = delete;
   ~FormWindow() override;
 
-  /// False where the system could not make one of the windows: the program cannot run.
+  /// False where the system could not make one of the windows that are needed now: the program cannot run.
   [[nodiscard]] bool Complete() const;
 
   [[nodiscard]] HWND MainWindow() const { return main_.get(); }
@@ -59,8 +60,6 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
 
   void TitleChanged();
-  void MakeControl(Control& control, int number);
-  [[nodiscard]] HWND StandsOn(const Control& control) const;
 
   void ShowOrHide();
   void TakeWindowState();
@@ -83,7 +82,6 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
 
   Application& application_;
   Form& form_;
-  PeerFactory make_peer_;
   CommonControls common_controls_;
   HICON icon_;
   OwnedIcon small_icon_;
@@ -105,6 +103,7 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   FormKeys keys_;
   FormBounds bounds_;
   FocusKeeper focus_;
+  PeerMaker maker_;
   PeerContext context_;
   WindowTimers timers_;
 };

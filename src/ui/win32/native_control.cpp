@@ -1,6 +1,7 @@
 #include "ui/win32/native_control.h"
 
 #include "ui/access_key.h"
+#include "ui/tab_strip.h"
 #include "ui/win32/focus_keeper.h"
 #include "ui/win32/form_keys.h"
 #include "ui/win32/tool_tips.h"
@@ -9,9 +10,25 @@ namespace qdix::ui::win32 {
 
 namespace {
 
-HWND MakeWindow(const PeerContext& context, HWND parent, int number, const NativeDesign& design) {
+/// A tab page is a window of its own that hides what stands on it; a frame is not, so what stands in a hidden
+/// frame hides by itself.
+bool ShouldShow(const Control& model) {
+  if (model.GetKind() == Kind::kTabPage && !static_cast<const TabPage&>(model).Open()) return false;
+  if (!model.Visible()) return false;
+  for (const Control* above = model.Parent(); above != nullptr; above = above->Parent()) {
+    if (above->GetKind() == Kind::kTabPage || above->GetKind() == Kind::kForm) return true;
+    if (!above->Visible()) return false;
+  }
+  return true;
+}
+
+/// Shown and enabled from the beginning, or not: each later change is a message to the window.
+HWND MakeWindow(const PeerContext& context, const Control& model, HWND parent, int number,
+                const NativeDesign& design) {
+  const DWORD state =
+      (ShouldShow(model) ? WS_VISIBLE : 0UL) | (model.EffectivelyEnabled() ? 0UL : WS_DISABLED);
   return CreateWindowExA(design.extended_style, design.window_class, design.text.c_str(),
-                         design.style | WS_CHILD, design.box.left, design.box.top, design.box.width,
+                         design.style | state | WS_CHILD, design.box.left, design.box.top, design.box.width,
                          design.box.height, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(number)),
                          context.instance, nullptr);
 }
@@ -22,10 +39,9 @@ NativeControl::NativeControl(const PeerContext& context, Control& model, HWND pa
                              const NativeDesign& design)
     : context_(context),
       model_(model),
-      window_(MakeWindow(context, parent, number, design)),
+      window_(MakeWindow(context, model, parent, number, design)),
       hook_(window_, *this) {
   Send(WM_SETFONT, reinterpret_cast<WPARAM>(context_.font.Get()), FALSE);
-  EnableWindow(window_, model_.EffectivelyEnabled() ? TRUE : FALSE);
   context_.tips.Add(window_, model_.ToolTip());
   model_.AttachPeer(this);
 }
@@ -72,17 +88,8 @@ HBRUSH NativeControl::Paint(UINT /*message*/, HDC device) {
   return background_.For(model_.BackColour());
 }
 
-bool NativeControl::ShouldShow() const {
-  // A tab page is a window of its own; a frame is not, so what stands in a hidden frame hides by itself.
-  for (const Control* control = &model_; control != nullptr; control = control->Parent()) {
-    if (control->GetKind() == Kind::kTabPage || control->GetKind() == Kind::kForm) return true;
-    if (!control->Visible()) return false;
-  }
-  return true;
-}
-
 void NativeControl::RefreshVisible() {
-  const bool show = ShouldShow();
+  const bool show = ShouldShow(model_);
   if (!show && OwnsNativeFocus()) context_.focus.Leaving(*this);
   ShowWindow(window_, show ? SW_SHOWNA : SW_HIDE);
   if (show) context_.focus.Returned(*this);

@@ -13,6 +13,7 @@ namespace qdix::ui::win32 {
 
 class FocusKeeper;
 class FormKeys;
+class PeerMaker;
 class PeerTable;
 class ToolTips;
 
@@ -24,6 +25,7 @@ struct PeerContext {
   PeerTable& peers;
   FocusKeeper& focus;
   ToolTips& tips;
+  const PeerMaker& maker;
 };
 
 /// How the native window of a control is made.
@@ -66,7 +68,8 @@ class NativeControl : public ControlPeer, private MessageHandler {
 
  protected:
   /// Makes the window on `parent` with the caption of the design, in the dialog font, shown and enabled as
-  /// the model says.
+  /// the model says. A peer may be made at any time of its model's life: its constructor copies all of the
+  /// model that the window shows.
   NativeControl(const PeerContext& context, Control& model, HWND parent, int number,
                 const NativeDesign& design);
 
@@ -78,7 +81,6 @@ class NativeControl : public ControlPeer, private MessageHandler {
   /// False for what the keyboard only passes by, as when the dialog manager goes from a label to its
   /// neighbour.
   [[nodiscard]] virtual bool TakesKeyboard() const { return true; }
-  [[nodiscard]] virtual bool ShouldShow() const;
   /// The text that the window carries for the model's caption.
   [[nodiscard]] std::string NativeCaption() const;
   virtual void ValueChanged() {}

@@ -4,7 +4,11 @@
 
 namespace qdix::ui::win32 {
 
-void PeerTable::Add(std::unique_ptr<NativeControl> peer) { peers_.push_back(std::move(peer)); }
+void PeerTable::Put(int number, std::unique_ptr<NativeControl> peer) {
+  const auto index = static_cast<std::size_t>(number - kFirstControlNumber);
+  if (index >= peers_.size()) peers_.resize(index + 1);
+  peers_[index] = std::move(peer);
+}
 
 NativeControl* PeerTable::ByNumber(int number) const {
   const int index = number - kFirstControlNumber;
@@ -19,7 +23,7 @@ NativeControl* PeerTable::ByWindow(HWND window) const {
 
 NativeControl* PeerTable::ByModel(const Control& model) const {
   for (const std::unique_ptr<NativeControl>& peer : peers_) {
-    if (&peer->Model() == &model) return peer.get();
+    if (peer != nullptr && &peer->Model() == &model) return peer.get();
   }
   return nullptr;
 }

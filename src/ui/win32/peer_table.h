@@ -12,15 +12,16 @@ namespace qdix::ui::win32 {
 
 class PeerTable {
  public:
-  /// In the order of the controls' numbers, the first one first.
-  void Add(std::unique_ptr<NativeControl> peer);
+  /// The number is that of its control, which has no peer yet.
+  void Put(int number, std::unique_ptr<NativeControl> peer);
 
-  /// Each is null where there is no such peer; windows of other programs, and inner windows of controls, have
-  /// none.
+  /// Each is null where there is no such peer: windows of other programs and inner windows of controls have
+  /// none, and what stands on a page that was never open has none yet.
   [[nodiscard]] NativeControl* ByNumber(int number) const;
   [[nodiscard]] NativeControl* ByWindow(HWND window) const;
   [[nodiscard]] NativeControl* ByModel(const Control& model) const;
 
+  /// By number; null for what has no peer yet.
   [[nodiscard]] const std::vector<std::unique_ptr<NativeControl>>& All() const { return peers_; }
 
  private:

@@ -18,7 +18,8 @@ HICON LoadSmallIcon(HINSTANCE instance, int number) {
 
 PictureButtonPeer::PictureButtonPeer(const PeerContext& context, Button& model, HWND parent, int number)
     : ButtonPeer(context, model, parent, number, BS_OWNERDRAW),
-      icon_(LoadSmallIcon(context.instance, model.PictureId())) {}
+      icon_(LoadSmallIcon(context.instance, model.PictureId())),
+      is_default_(model.Role() == ButtonRole::kDefault) {}
 
 /// Another style would take the drawing away.
 void PictureButtonPeer::ShowAsDefault(bool is_default) {

@@ -17,7 +17,7 @@ class PictureButtonPeer final : public ButtonPeer {
   void DrawContent(HDC device, const RECT& face, bool is_disabled) const;
 
   HICON icon_;
-  bool is_default_ = false;
+  bool is_default_;
 };
 
 }  // namespace qdix::ui::win32

@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include "ui/win32/peer_maker.h"
 #include "ui/win32/peer_table.h"
 #include "ui/win32/reflection.h"
 #include "ui/win32/window_class.h"
@@ -52,6 +53,7 @@ void TabStripPeer::OnNotify(UINT code) {
 
 void TabStripPeer::ValueChanged() {
   if (Send(TCM_GETCURSEL) != strip_.Tab()) Send(TCM_SETCURSEL, static_cast<WPARAM>(strip_.Tab()));
+  Context().maker.MakeDue();
   NativeControl* const opened = Context().peers.ByModel(strip_.Page(strip_.Tab()));
   if (opened != nullptr) opened->RefreshVisible();
   for (int index = 0; index < strip_.Count(); ++index) {
@@ -68,8 +70,7 @@ TabPagePeer::TabPagePeer(const PeerContext& context, TabPage& model, HWND parent
                     {.window_class = kPageWindowClass,
                      .style = WS_CLIPSIBLINGS,
                      .extended_style = WS_EX_CONTROLPARENT,
-                     .box = AreaOf(context, model)}),
-      page_(model) {
+                     .box = AreaOf(context, model)}) {
   // Above the strip: it paints on top of it, and the Tab key walks the page before the strip.
   SetWindowPos(Window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
@@ -78,7 +79,4 @@ LRESULT TabPagePeer::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   const std::optional<LRESULT> answer = ReflectToPeer(Context().peers, message, wparam, lparam);
   return answer.has_value() ? *answer : NativeControl::HandleMessage(message, wparam, lparam);
 }
-
-bool TabPagePeer::ShouldShow() const { return page_.Open() && page_.Visible(); }
-
 }  // namespace qdix::ui::win32

@@ -29,10 +29,7 @@ class TabPagePeer final : public NativeControl {
  private:
   LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   [[nodiscard]] bool TakesKeyboard() const override { return false; }
-  [[nodiscard]] bool ShouldShow() const override;
   void CaptionChanged() override {}
-
-  TabPage& page_;
 };
 
 }  // namespace qdix::ui::win32

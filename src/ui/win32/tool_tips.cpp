@@ -20,7 +20,7 @@ ToolTips::ToolTips(HINSTANCE instance, HWND main)
                               instance, nullptr)) {}
 
 void ToolTips::Add(HWND control, std::string_view text) {
-  if (text.empty()) return;
+  if (text.empty() || control == nullptr) return;
   std::string terminated(text);
   TOOLINFOA tool{};
   tool.cbSize = kToolInfoBytes;

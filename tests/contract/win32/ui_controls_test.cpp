@@ -40,6 +40,7 @@ TEST_F(UiControls, AllControlsWearTheDialogFont) {
   ASSERT_NE(GetObjectA(font, sizeof(description), &description), 0);
   EXPECT_STREQ(description.lfFaceName, "MS Sans Serif");
   EXPECT_EQ(description.lfHeight, -11);
+  OpenPage(1);
   EXPECT_EQ(demo.Send(demo.list, WM_GETFONT), reinterpret_cast<LRESULT>(font));
 }
 

@@ -6,11 +6,11 @@
 namespace qdix::contract {
 namespace {
 
-TEST(FormWindow, AllWindowsExistAndNoneIsVisibleBeforeTheFormIsShown) {
+TEST(FormWindow, IsCompleteAndHiddenBeforeTheFormIsShown) {
   const DemoWindow demo;
   EXPECT_TRUE(demo.window.Complete());
   EXPECT_FALSE(IsWindowVisible(demo.Main()));
-  EXPECT_NE(demo.Native(demo.text), nullptr);
+  EXPECT_NE(demo.Native(demo.tabs), nullptr);
   EXPECT_NE(demo.Native(demo.sunken), nullptr);
 }
 

@@ -6,6 +6,16 @@
 namespace qdix::contract {
 namespace {
 
+/// No icon of this number is among the resources of the tests.
+constexpr int kMissingPicture = 99;
+
+COLORREF PixelOf(HWND window, LONG x, LONG y) {
+  HDC const device = GetDC(window);
+  const COLORREF colour = GetPixel(device, static_cast<int>(x), static_cast<int>(y));
+  ReleaseDC(window, device);
+  return colour;
+}
+
 class UiPictureButton : public testing::Test {
  protected:
   UiPictureButton() { demo.form.Show(); }
@@ -19,12 +29,7 @@ TEST_F(UiPictureButton, IsPressedAndLooksLikeAButton) {
   HWND const window = demo.Native(demo.pictured);
   RECT inside{};
   GetClientRect(window, &inside);
-  const auto pixel = [&](LONG x, LONG y) {
-    HDC const device = GetDC(window);
-    const COLORREF colour = GetPixel(device, static_cast<int>(x), static_cast<int>(y));
-    ReleaseDC(window, device);
-    return colour;
-  };
+  const auto pixel = [&](LONG x, LONG y) { return PixelOf(window, x, y); };
   UpdateWindow(window);
   EXPECT_EQ(pixel(0, 0), GetSysColor(COLOR_3DHILIGHT));
   EXPECT_EQ(pixel(inside.right - 1, inside.bottom - 1), GetSysColor(COLOR_3DDKSHADOW));
@@ -41,6 +46,22 @@ TEST_F(UiPictureButton, IsPressedAndLooksLikeAButton) {
   demo.pictured.SetEnabled(false);
   demo.Report(demo.pictured, BN_CLICKED);
   EXPECT_EQ(events.Count(), 1);
+}
+
+TEST(UiDefaultPictureButton, HasTheHeavyBorderFromTheBeginning) {
+  ui::EventDispatcher events;
+  ui::Application application{"Title"};
+  ui::Form form{events, {.name = "Form", .place = {0, 0, 100, 50}}};
+  ui::TextBox text{form, {.name = "Text", .place = {4, 4, 60, 13}}};
+  ui::Button button{
+      form, {.name = "Button", .place = {4, 24, 60, 14}}, ui::ButtonRole::kDefault, kMissingPicture};
+  const ui::win32::FormWindow window(GetModuleHandleA(nullptr), 1, application, form, {},
+                                     ui::win32::MakePeer);
+  form.Show();
+  text.SetFocus();
+  HWND const native = GetDlgItem(window.MainWindow(), ui::NumberOf(form, "Button"));
+  UpdateWindow(native);
+  EXPECT_EQ(PixelOf(native, 0, 0), GetSysColor(COLOR_WINDOWFRAME));
 }
 
 }  // namespace

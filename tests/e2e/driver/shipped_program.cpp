@@ -150,19 +150,38 @@ const ControlAddress& ShippedProgram::AddressOf(const std::string& name) const {
   return *address;
 }
 
-HWND ShippedProgram::Control(const std::string& name) const {
-  const int number = AddressOf(name).number;
+HWND ShippedProgram::WindowOf(const ControlAddress& address) const {
   const std::vector<HWND> windows = WindowsInside(MainWindow());
   const auto found = std::find_if(windows.begin(), windows.end(),
-                                  [number](HWND window) { return GetDlgCtrlID(window) == number; });
+                                  [&address](HWND window) { return GetDlgCtrlID(window) == address.number; });
   return found == windows.end() ? nullptr : *found;
+}
+
+HWND ShippedProgram::Control(const std::string& name) const {
+  const ControlAddress& address = AddressOf(name);
+  const HWND window = WindowOf(address);
+  if (window == nullptr && address.tab >= 0 && IsRunning() && OpenedTab() != address.tab) {
+    std::fprintf(stderr, "driver: %s has no window, since its tab %d was never open\n", name.c_str(),
+                 address.tab);
+    std::abort();
+  }
+  return window;
+}
+
+int ShippedProgram::WindowsOnTab(int tab) const {
+  const auto has_window = [this, tab](const ControlAddress& control) {
+    return control.tab == tab && WindowOf(control) != nullptr;
+  };
+  return static_cast<int>(std::count_if(Controls().begin(), Controls().end(), has_window));
 }
 
 std::string ShippedProgram::Text(const std::string& name) const { return TextOf(Control(name)); }
 
 bool ShippedProgram::IsEnabled(const std::string& name) const { return IsWindowEnabled(Control(name)) != 0; }
 
-bool ShippedProgram::IsVisible(const std::string& name) const { return IsWindowVisible(Control(name)) != 0; }
+bool ShippedProgram::IsVisible(const std::string& name) const {
+  return IsWindowVisible(WindowOf(AddressOf(name))) != 0;
+}
 
 bool ShippedProgram::IsChecked(const std::string& name) const {
   return Ask(Control(name), BM_GETCHECK) == BST_CHECKED;

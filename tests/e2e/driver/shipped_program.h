@@ -59,11 +59,14 @@ class ShippedProgram {
   /// The pop-up menus that are open.
   [[nodiscard]] std::vector<HWND> OpenMenus() const;
 
-  // A control is asked for by the name that its screen gives it; one that no screen has ends the test
-  // program, since a check of a control that is not there could not fail.
+  // A control is asked for by the name that its screen gives it. One that no screen has ends the test
+  // program, and so does one on a tab that was never open, whose window is made with the first opening: a
+  // check of a control that is not there could not fail. What was never made counts as not visible.
   [[nodiscard]] bool HasControl(const std::string& name) const { return facts_.map.Find(name) != nullptr; }
   [[nodiscard]] const std::vector<ControlAddress>& Controls() const { return facts_.map.All(); }
   [[nodiscard]] HWND Control(const std::string& name) const;
+  /// How many of the controls of this tab, or with -1 of those on no tab, have a window.
+  [[nodiscard]] int WindowsOnTab(int tab) const;
   /// The text of its window: access keys are marked with "&".
   [[nodiscard]] std::string Text(const std::string& name) const;
   [[nodiscard]] bool IsEnabled(const std::string& name) const;
@@ -100,6 +103,8 @@ class ShippedProgram {
   [[nodiscard]] bool Open(DWORD access);
   [[nodiscard]] HWND FirstWindow(const char* window_class) const;
   [[nodiscard]] const ControlAddress& AddressOf(const std::string& name) const;
+  /// Null where the window is not made.
+  [[nodiscard]] HWND WindowOf(const ControlAddress& address) const;
 
   const ProgramFacts facts_;
   HANDLE process_ = nullptr;

@@ -1,0 +1,82 @@
+#include "ui/win32/peer_maker.h"
+
+#include "ui/control_numbers.h"
+#include "ui/win32/peer_table.h"
+
+namespace qdix::ui::win32 {
+
+namespace {
+
+/// The page that a control stands on, or null.
+const TabPage* PageOf(const Control& control) {
+  for (const Control* above = control.Parent(); above != nullptr; above = above->Parent()) {
+    if (above->GetKind() == Kind::kTabPage) return static_cast<const TabPage*>(above);
+  }
+  return nullptr;
+}
+
+bool HoldsDrawing(const Container& container) {
+  for (const Control* child : container.Children()) {
+    if (child->GetKind() == Kind::kDrawing) return true;
+    if (child->IsContainer() && HoldsDrawing(static_cast<const Container&>(*child))) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+/// One walk over all controls.
+struct PeerMaker::DueWindows {
+  const PeerMaker& maker;
+  bool any_made = false;
+  bool any_missing = false;
+
+  void MakeMissing(Control& control, int number) {
+    const NativeControl* const peer = maker.context_.peers.ByNumber(number);
+    if (peer == nullptr) {
+      if (maker.IsDue(control) && maker.Make(control, number)) any_made = true;
+    } else if (any_made && PageOf(control) != nullptr) {
+      // A new window is the last of its page. Those of an earlier attempt go behind it: the keyboard walks
+      // them in the order of the screen.
+      SetWindowPos(peer->Window(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+  }
+
+  void LookForMissing(Control& control, int number) {
+    if (maker.context_.peers.ByNumber(number) == nullptr && maker.IsDue(control)) any_missing = true;
+  }
+};
+
+void PeerMaker::MakeDue() const {
+  DueWindows walk{*this};
+  VisitControls(form_, ControlVisitor::To<&DueWindows::MakeMissing>(walk));
+}
+
+bool PeerMaker::Complete() const {
+  DueWindows walk{*this};
+  VisitControls(form_, ControlVisitor::To<&DueWindows::LookForMissing>(walk));
+  return !walk.any_missing;
+}
+
+/// Another program can show the window without the form's knowledge.
+bool PeerMaker::IsDue(const Control& control) const {
+  const TabPage* const page = PageOf(control);
+  if (page == nullptr) return true;
+  if (page->Open() && (form_.Shown() || IsWindowVisible(main_) != 0)) return true;
+  return HoldsDrawing(*page);
+}
+
+bool PeerMaker::Make(Control& control, int number) const {
+  std::unique_ptr<NativeControl> peer = make_peer_(context_, control, StandsOn(control), number);
+  if (peer == nullptr || peer->Window() == nullptr) return false;
+  context_.peers.Put(number, std::move(peer));
+  return true;
+}
+
+HWND PeerMaker::StandsOn(const Control& control) const {
+  const TabPage* const page = PageOf(control);
+  const NativeControl* const peer = page == nullptr ? nullptr : context_.peers.ByModel(*page);
+  return peer == nullptr ? main_ : peer->Window();
+}
+
+}  // namespace qdix::ui::win32
