@@ -28,14 +28,15 @@ bool HoldsDrawing(const Container& container) {
 /// One walk over all controls.
 struct PeerMaker::DueWindows {
   const PeerMaker& maker;
-  bool any_made = false;
+  /// Where the latest window was made, or null.
+  const TabPage* made_on = nullptr;
   bool any_missing = false;
 
   void MakeMissing(Control& control, int number) {
     const NativeControl* const peer = maker.context_.peers.ByNumber(number);
     if (peer == nullptr) {
-      if (maker.IsDue(control) && maker.Make(control, number)) any_made = true;
-    } else if (any_made && PageOf(control) != nullptr) {
+      if (maker.IsDue(control) && maker.Make(control, number)) made_on = PageOf(control);
+    } else if (made_on != nullptr && PageOf(control) == made_on) {
       // A new window is the last of its page. Those of an earlier attempt go behind it: the keyboard walks
       // them in the order of the screen.
       SetWindowPos(peer->Window(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
