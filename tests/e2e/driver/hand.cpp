@@ -64,8 +64,11 @@ void SendKey(int key, DWORD flags) {
 }  // namespace
 
 bool BringForward(HWND top_level) {
-  SetForegroundWindow(top_level);
-  return Eventually([top_level] { return GetForegroundWindow() == top_level; });
+  // Asked for again and again: a window that has just been opened may take the front after the first time.
+  return Eventually([top_level] {
+    return GetForegroundWindow() == top_level ||
+           (SetForegroundWindow(top_level) != 0 && GetForegroundWindow() == top_level);
+  });
 }
 
 bool Click(HWND control) {
