@@ -5,7 +5,7 @@ set -euo pipefail
 
 readonly packages=(
   # the compiler of this machine, the build and its checks
-  g++ cmake ninja-build git python3 clang-format clang-tidy libgtest-dev libgmock-dev googletest
+  g++ cmake ninja-build git python3 clang-format clang-tidy libgtest-dev libgmock-dev googletest gcovr
   # the compiler for Windows programs
   g++-mingw-w64-i686-win32 binutils-mingw-w64-i686 mingw-w64-i686-dev
   # the manual: its Markdown, and a look at its HTML
