@@ -124,7 +124,9 @@ void Days::HandOnAutomatic() {
   const int row = static_cast<int>(Random(static_cast<unsigned>(tab.List2.Count())));
   if (forecast_->CanBeMet(std::stod(tab.List2.Item(row)))) tab.List2.ChooseIndex(row);
   tab.List4.ChooseIndex(static_cast<int>(Random(static_cast<unsigned>(tab.List4.Count()))));
-  tab.VScroll2.Drag(static_cast<int>(Random(131)));
+  // Often right at what is free now.
+  const int threshold_mb = Chance(2) ? static_cast<int>(Random(131)) : conditions_.available_mb - 1;
+  tab.VScroll2.Drag(threshold_mb + static_cast<int>(Random(3)));
   if (Chance(3)) tab.Check9.Press();
   // Mostly on.
   if (!tab.Check1.Ticked() || Chance(6)) tab.Check1.Press();
