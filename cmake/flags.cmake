@@ -31,3 +31,10 @@ if(QDIX_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(qdix_sanitizers INTERFACE -fsanitize=address,undefined)
 endif()
+
+# Counts what runs. Without exceptions, as the program ships: a call that cannot throw has no branch for it.
+add_library(qdix_coverage INTERFACE)
+if(QDIX_COVERAGE)
+  target_compile_options(qdix_coverage INTERFACE --coverage -fno-exceptions)
+  target_link_options(qdix_coverage INTERFACE --coverage)
+endif()

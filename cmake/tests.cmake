@@ -98,6 +98,8 @@ else()
   qdix_test(contract_tests SOURCES ${contract_sources} LIBRARIES qdix_simulated)
   file(GLOB fuzz_sources CONFIGURE_DEPENDS tests/fuzz/*.cpp)
   qdix_test(fuzz_tests SOURCES ${fuzz_sources} LIBRARIES qdix_simulated ${companion_libraries})
+  file(GLOB soak_sources CONFIGURE_DEPENDS tests/soak/*.cpp)
+  qdix_test(soak_tests SOURCES ${soak_sources} LIBRARIES qdix_simulated)
 
   # The self-test of the shipped programs' run time, with this machine's C library.
   add_executable(runtime_probe tests/image/runtime_probe.cpp tests/image/runtime_probe_host.cpp)

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/fuzz/random_list_maker.h"
+#include "tests/support/run_length.h"
 #include "tests/unit/config_launcher/config_rig.h"
 
 namespace qdix::tests {

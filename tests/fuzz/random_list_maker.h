@@ -2,20 +2,16 @@
 // seed makes the same files.
 #pragma once
 
-#include <random>
 #include <string>
 
 #include "launcher/launcher_file.h"
+#include "tests/fuzz/random_source.h"
 
 namespace qdix::tests {
 
-class RandomListMaker {
+class RandomListMaker : public RandomSource {
  public:
-  explicit RandomListMaker(unsigned seed) : random_(seed) {}
-
-  [[nodiscard]] unsigned Random() { return static_cast<unsigned>(random_()); }
-  [[nodiscard]] bool Chance(unsigned one_in) { return Random() % one_in == 0; }
-  char AnyByte() { return static_cast<char>(Random() % 256); }
+  using RandomSource::RandomSource;
 
   /// Likely texts, and any bytes.
   std::string RandomText(std::size_t most) {
@@ -36,9 +32,6 @@ class RandomListMaker {
     for (auto left = Chance(4) ? Random() % 600 : 0; left > 0; --left) file += AnyByte();
     return file;
   }
-
- private:
-  std::mt19937 random_;
 };
 
 }  // namespace qdix::tests

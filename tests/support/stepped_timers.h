@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
+#include <optional>
 #include <vector>
 
 #include "ui/timer.h"
@@ -35,6 +37,13 @@ class SteppedTimers final : public ui::TimerPeer {
   }
 
   [[nodiscard]] std::int64_t NowMs() const { return now_ms_; }
+
+  /// How long until the next tick falls due, 0 where one is late; nothing where no timer runs.
+  [[nodiscard]] std::optional<std::int64_t> MsToNextTick() {
+    const Count* const next = NextDue(std::numeric_limits<std::int64_t>::max());
+    if (next == nullptr) return std::nullopt;
+    return std::max<std::int64_t>(next->due_ms - now_ms_, 0);
+  }
 
  private:
   struct Count {

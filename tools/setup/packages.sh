@@ -6,6 +6,8 @@ set -euo pipefail
 readonly packages=(
   # the compiler of this machine, the build and its checks
   g++ cmake ninja-build git python3 clang-format clang-tidy libgtest-dev libgmock-dev googletest
+  # how much of the sources the tests run
+  gcovr
   # the mutation check: reading sources as the compiler does, and limits on what it runs
   python3-clang util-linux
   # the compiler for Windows programs

@@ -28,11 +28,13 @@ class CallLog {
   void FailNumber(int number) { fail_number_ = number; }
   void FailFrom(int number) { fail_from_ = number; }
 
+  /// Empties the record of calls; the count of those that can fail goes on.
+  void ForgetCalls() { calls_.clear(); }
+
   /// Something that a correct program never does.
   void Misuse(const std::string& what) { misuses_.push_back(what); }
   void ForgetMisuses() { misuses_.clear(); }
 
-  void ForgetCalls() { calls_.clear(); }
   [[nodiscard]] const std::vector<std::string>& Calls() const { return calls_; }
   [[nodiscard]] const std::vector<std::string>& Misuses() const { return misuses_; }
   [[nodiscard]] int FaultableCalls() const { return faultable_calls_; }

@@ -69,6 +69,7 @@ class SimulatedDialogs final : public Dialogs {
   /// The program ends: a box that is open closes unanswered, and no further one opens.
   void End() { ended_ = true; }
   [[nodiscard]] const std::vector<Box>& Boxes() const { return boxes_; }
+  void ForgetBoxes() { boxes_.clear(); }
 
  private:
   CallLog& log_;

@@ -152,7 +152,16 @@ bool SimulatedFiles::CopyFileA(const char* from, const char* to) {
   }
   const auto content = Read(from);
   if (!content || read_only_.contains(UpperPath(to))) return false;
-  Write(to, *content);
+  return WriteWithinFreeBytes(UpperPath(to), *content);
+}
+
+/// What does not fit leaves the file as it is.
+bool SimulatedFiles::WriteWithinFreeBytes(const std::string& upper_path, const std::string& content) {
+  const std::size_t before_bytes = Read(upper_path).value_or("").size();
+  const std::size_t growth_bytes = content.size() - std::min(content.size(), before_bytes);
+  if (growth_bytes > free_bytes_) return false;
+  free_bytes_ -= growth_bytes;
+  files_[upper_path] = content;
   return true;
 }
 
@@ -202,8 +211,7 @@ bool SimulatedFiles::WritePrivateProfileStringA(const char* section, const char*
   } else {
     SetEntry(lines, section, key, value);
   }
-  Write(path, ContentOf(lines));
-  return true;
+  return WriteWithinFreeBytes(path, ContentOf(lines));
 }
 
 }  // namespace qdix::os::simulated

@@ -57,6 +57,7 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   [[nodiscard]] OpenFile* FindOpen(FileHandle file);
   [[nodiscard]] bool IsProtected(const std::string& upper_path) const;
 
+  bool WriteWithinFreeBytes(const std::string& upper_path, const std::string& content);
   static std::string UpperPath(const std::string& path);
   /// A bare name is one in the Windows directory.
   [[nodiscard]] std::string ProfilePath(const std::string& file) const;

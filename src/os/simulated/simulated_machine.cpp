@@ -81,6 +81,14 @@ std::vector<std::string> SimulatedMachine::QueriedValueNames() const {
   return NamesFrom(registry_.QueriedValues(), 0);
 }
 
+void SimulatedMachine::ForgetRecords() {
+  log_.ForgetCalls();
+  registry_.ForgetAccesses();
+  memory_.ForgetAllocations();
+  dialogs_.ForgetBoxes();
+  shell_.ForgetRequests();
+}
+
 void SimulatedMachine::SetCpuLoad(std::uint32_t percent) {
   std::string bytes;
   for (unsigned shift = 0; shift < 32; shift += 8) bytes += static_cast<char>((percent >> shift) & 0xFFU);

@@ -57,6 +57,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   }
   void DenyWrites(KeyHandle root, const std::string& path) { registry_.DenyWrites(root, path); }
   [[nodiscard]] int OpenKeyCount() const { return registry_.OpenKeyCount(); }
+  /// Closes every handle of this key behind the program's back; returns how many there were.
+  int CloseHandlesOf(KeyHandle root, const std::string& path) { return registry_.CloseHandlesOf(root, path); }
   /// Names of the values written, in order, from the given number of recorded calls on.
   [[nodiscard]] std::vector<std::string> WrittenValueNames(std::size_t first_call = 0) const;
   [[nodiscard]] std::vector<std::string> QueriedValueNames() const;
@@ -158,11 +160,9 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   [[nodiscard]] int FaultableCallCount() const { return log_.FaultableCalls(); }
   [[nodiscard]] const std::vector<std::string>& Calls() const { return log_.Calls(); }
   [[nodiscard]] const std::vector<std::string>& Misuses() const { return log_.Misuses(); }
-  /// For a run so long that the record of its calls would fill the memory of this machine.
-  void ForgetCalls() {
-    log_.ForgetCalls();
-    shell_.ForgetRequests();
-  }
+  /// Empties the records of calls, values read and written, allocations, boxes and requests for icons, which
+  /// would fill the memory of a long run. What is held at the moment is not forgotten, nor are misuses.
+  void ForgetRecords();
   /// For a test that misuses the machine on purpose.
   void ForgetMisuses() { log_.ForgetMisuses(); }
 

@@ -24,6 +24,7 @@ class SimulatedMemory final : public Memory {
   void LimitAllocatableBytes(std::uint64_t bytes) { limit_bytes_ = bytes; }
 
   [[nodiscard]] const std::vector<std::uint32_t>& AllAllocations() const { return all_; }
+  void ForgetAllocations() { all_.clear(); }
   [[nodiscard]] std::vector<std::uint32_t> OutstandingBlocks() const;
   /// Pages written, block by block, of the blocks that are outstanding.
   [[nodiscard]] std::vector<std::uint32_t> TouchedPages() const;

@@ -195,6 +195,13 @@ std::optional<RegistryValue> SimulatedRegistry::Value(KeyHandle root, const std:
   return value->second;
 }
 
+int SimulatedRegistry::CloseHandlesOf(KeyHandle root, const std::string& path) {
+  const std::string full_path = Join(RootName(root), path);
+  return static_cast<int>(std::erase_if(open_, [&full_path](const auto& open) {
+    return base::EqualsIgnoringCase(open.second.path, full_path);
+  }));
+}
+
 void SimulatedRegistry::DenyWrites(KeyHandle root, const std::string& path) {
   write_protected_.insert(Join(RootName(root), path));
 }

@@ -48,6 +48,9 @@ class SimulatedRegistry final : public Registry {
 
   [[nodiscard]] int OpenKeyCount() const { return static_cast<int>(open_.size()); }
 
+  /// Closes every handle of this key behind the program's back; returns how many there were.
+  int CloseHandlesOf(KeyHandle root, const std::string& path);
+
   struct ValueAccess {
     /// How many calls had been recorded when it happened.
     std::size_t call;
@@ -55,6 +58,10 @@ class SimulatedRegistry final : public Registry {
   };
   [[nodiscard]] const std::vector<ValueAccess>& WrittenValues() const { return written_; }
   [[nodiscard]] const std::vector<ValueAccess>& QueriedValues() const { return queried_; }
+  void ForgetAccesses() {
+    written_.clear();
+    queried_.clear();
+  }
 
  private:
   struct NoCase {

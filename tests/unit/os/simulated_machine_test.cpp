@@ -371,16 +371,6 @@ TEST_F(SimulatedMachineTest, EveryOtherCallFailsAsTheSystemWould) {
   EXPECT_EQ(system.processes.ModuleFileName(), "");
 }
 
-TEST_F(SimulatedMachineTest, ForgettingCallsTakesNothingElseAway) {
-  EXPECT_TRUE(system.shell.Shell_NotifyIconA(kNimAdd, NotifyIconData{}));
-  const int faultable_calls = machine.FaultableCallCount();
-  machine.ForgetCalls();
-  EXPECT_THAT(machine.Calls(), IsEmpty());
-  EXPECT_THAT(machine.TrayRequests(), IsEmpty());
-  EXPECT_EQ(machine.TrayIconCount(), 1);
-  EXPECT_EQ(machine.FaultableCallCount(), faultable_calls);
-}
-
 TEST_F(SimulatedMachineTest, CopyOverAProfileFileThatIsKeptInMemoryIsMisuse) {
   machine.WriteFile("C:\\WINDOWS\\a.ini", "[s]\r\nk=1\r\n");
   machine.WriteFile("C:\\WINDOWS\\b.ini", "");
@@ -394,6 +384,52 @@ TEST_F(SimulatedMachineTest, CopyOverAProfileFileThatIsKeptInMemoryIsMisuse) {
   EXPECT_TRUE(system.files.CopyFileA("C:\\WINDOWS\\b.ini", "C:\\windows\\a.ini"));
   EXPECT_EQ(machine.Misuses().size(), 1U);
   machine.ForgetMisuses();
+}
+
+TEST_F(SimulatedMachineTest, FullDiskTakesNeitherCopiesNorEntriesThatMakeAFileGrow) {
+  machine.WriteFile("C:\\WINDOWS\\system.ini", "[a]\r\nkey=12345\r\n");
+  machine.LimitFreeBytes(3);
+  EXPECT_FALSE(system.files.CopyFileA("C:\\WINDOWS\\system.ini", "C:\\COPY"));
+  EXPECT_FALSE(machine.ReadFile("C:\\COPY").has_value());
+  EXPECT_FALSE(system.profile_files.WritePrivateProfileStringA("a", "key", "123456789", "system.ini"));
+  EXPECT_EQ(machine.ReadFile("C:\\WINDOWS\\system.ini"), "[a]\r\nkey=12345\r\n");
+  EXPECT_TRUE(system.profile_files.WritePrivateProfileStringA("a", "key", "1", "system.ini"));
+  EXPECT_TRUE(system.profile_files.WritePrivateProfileStringA("a", "key", "1234", "system.ini"));
+  EXPECT_FALSE(system.profile_files.WritePrivateProfileStringA("a", "key", "12345", "system.ini"));
+}
+
+// Long runs.
+
+TEST_F(SimulatedMachineTest, ForgetsWhatWasAskedAndNothingThatIsHeld) {
+  machine.CreateRegistryKey(kHkeyCurrentUser, "A");
+  KeyHandle key = 0;
+  ASSERT_EQ(system.registry.RegOpenKeyExA(kHkeyCurrentUser, "A", kKeyAllAccess, key), kErrorSuccess);
+  ASSERT_EQ(system.registry.RegSetValueExA(key, "N", kRegSz, nullptr, 0), kErrorSuccess);
+  ASSERT_NE(system.memory.VirtualAlloc(5000), nullptr);
+  system.dialogs.MessageBoxA("text", "title", kMbOk);
+  ASSERT_TRUE(system.shell.Shell_NotifyIconA(kNimAdd, {}));
+  const int calls = machine.FaultableCallCount();
+  machine.ForgetRecords();
+  EXPECT_THAT(machine.Calls(), IsEmpty());
+  EXPECT_THAT(machine.WrittenValueNames(), IsEmpty());
+  EXPECT_THAT(machine.AllAllocations(), IsEmpty());
+  EXPECT_THAT(machine.Boxes(), IsEmpty());
+  EXPECT_THAT(machine.TrayRequests(), IsEmpty());
+  EXPECT_EQ(machine.FaultableCallCount(), calls);
+  EXPECT_EQ(machine.OpenKeyCount(), 1);
+  EXPECT_THAT(machine.OutstandingBlocks(), ElementsAre(5000U));
+  EXPECT_EQ(machine.TrayIconCount(), 1);
+}
+
+TEST_F(SimulatedMachineTest, ClosesTheHandlesOfOneKeyAndNoOther) {
+  machine.CreateRegistryKey(kHkeyDynData, "A\\B");
+  KeyHandle key = 0;
+  for (const char* path : {"A", "A\\B", "a\\b"}) {
+    ASSERT_EQ(system.registry.RegOpenKeyExA(kHkeyDynData, path, kKeyQueryValue, key), kErrorSuccess);
+  }
+  EXPECT_EQ(machine.CloseHandlesOf(kHkeyDynData, "A\\B"), 2);
+  EXPECT_EQ(machine.OpenKeyCount(), 1);
+  EXPECT_EQ(machine.CloseHandlesOf(kHkeyDynData, "A\\B"), 0);
 }
 
 }  // namespace

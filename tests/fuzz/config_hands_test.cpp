@@ -1,0 +1,79 @@
+// Random hands on all controls of the editor of the program list, OK and Cancel among them, on disks that
+// fill up: the list on the disk is at each moment the one from before or the one that was saved, whole. A
+// failing run prints its seed.
+#include <gtest/gtest.h>
+
+#include "tests/fuzz/random_hand.h"
+#include "tests/fuzz/random_list_maker.h"
+#include "tests/unit/config_launcher/config_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+constexpr unsigned long kEvents = 12000;
+
+class ConfigHands : private RandomListMaker {
+ public:
+  using RandomListMaker::RandomListMaker;
+
+  unsigned long Run() {
+    if (!Chance(4)) rig_.machine.WriteFile(kListPath, RandomFile());
+    on_disk_ = rig_.ListOnDisk();
+    rig_.machine.WhileBoxIsOpen([this] { hand_.Answer(rig_.machine); });
+    rig_.Start();
+    hand_.Take(rig_.form->Window());
+    for (unsigned long events = 0; events < kEventsPerRun; ++events) {
+      Act();
+      CheckInvariants();
+      if (!rig_.form->Window().Unloaded()) continue;
+      rig_.Restart();
+      hand_.Take(rig_.form->Window());
+    }
+    return kEventsPerRun;
+  }
+
+ private:
+  void Act() {
+    if (Chance(20)) rig_.machine.LimitFreeBytes(Random() % 20000);
+    if (Chance(10)) rig_.machine.LimitFreeBytes(10000000);
+    if (Chance(8)) rig_.dialogs.PickNext("C:\\" + Printable(RandomText(270)));
+    if (Chance(15)) rig_.form->FilesDropped({"C:\\" + Printable(RandomText(270)), "D:\\A B.EXE"});
+    if (Chance(4)) rig_.Type({Printable(RandomText(60)), Printable(RandomText(260)), ""});
+    if (Chance(60)) rig_.form->Window().Close();
+    if (Chance(60)) rig_.form->Window().PressEscape();
+    hand_.UseAny();
+  }
+
+  /// What a keyboard and a disk give: no control characters.
+  static std::string Printable(std::string text) {
+    for (char& character : text) {
+      if (static_cast<unsigned char>(character) < 0x20U) character = '_';
+    }
+    return text;
+  }
+
+  void CheckInvariants() {
+    const auto list = rig_.ListOnDisk();
+    if (list != on_disk_) {
+      EXPECT_EQ(list, BytesOf(rig_.form->Entries())) << "neither the old list nor the new one";
+      EXPECT_LE(rig_.form->Entries().size(), std::size_t{launcher::kMostEntries});
+      EXPECT_TRUE(rig_.form->Window().Unloaded()) << "saved, and open all the same";
+      on_disk_ = list;
+    }
+    EXPECT_EQ(rig_.machine.ReadFile(kListTemporaryPath), std::nullopt);
+    EXPECT_EQ(rig_.Rows().size(), rig_.form->Entries().size());
+    EXPECT_EQ(rig_.machine.OpenFileCount(), 0);
+    EXPECT_EQ(rig_.machine.OpenKeyCount(), 0);
+    EXPECT_TRUE(rig_.machine.Misuses().empty());
+    rig_.machine.ForgetRecords();
+  }
+
+  ConfigRig rig_;
+  RandomHand hand_{*this};
+  std::optional<std::string> on_disk_;
+};
+
+TEST(ConfigHands, KeepTheListWholeAtEachMoment) { RunHands<ConfigHands>(kEvents); }
+
+}  // namespace
+}  // namespace qdix::tests

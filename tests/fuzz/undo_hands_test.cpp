@@ -1,0 +1,91 @@
+// Random hands on the program that puts settings back, on machines whose record, file and disk are in any
+// state: record and backup are never touched, nothing that other programs keep in system.ini is lost, nothing
+// is left open. A failing run prints its seed.
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "tests/fuzz/random_hand.h"
+#include "tests/unit/undo/undo_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+constexpr unsigned long kEvents = 12000;
+constexpr std::array<const char*, 6> kFailingCalls{"WritePrivateProfileStringA",
+                                                   "GetPrivateProfileStringA",
+                                                   "RegSetValueExA",
+                                                   "RegOpenKeyExA",
+                                                   "CopyFileA",
+                                                   "ExitWindowsEx"};
+
+class UndoHands : private RandomSource {
+ public:
+  using RandomSource::RandomSource;
+
+  unsigned long Run() {
+    FillMachine();
+    rig_.machine.WhileBoxIsOpen([this] { hand_.Answer(rig_.machine); });
+    Start();
+    for (unsigned long events = 0; events < kEventsPerRun; ++events) {
+      Act();
+      CheckInvariants();
+      if (rig_.form->Window().Unloaded()) Start();
+    }
+    return kEventsPerRun;
+  }
+
+ private:
+  void FillMachine() {
+    if (!Chance(8)) rig_.TakeRecord();
+    if (!Chance(4)) rig_.Change();
+    for (const char* name : {"MinFileCache", "PagingDrive", "PathCache"}) {
+      if (Chance(4)) rig_.SetRecord(name, hand_.SomeText());
+    }
+    if (Chance(8)) rig_.machine.ProtectFile(kIniPath);
+  }
+
+  void Start() {
+    rig_.machine.EndProcess();
+    rig_.Start();
+    hand_.Take(rig_.form->Window());
+  }
+
+  void Act() {
+    if (Chance(10)) rig_.machine.FailNextCall(kFailingCalls[Random() % kFailingCalls.size()]);
+    if (Chance(20)) rig_.machine.LimitFreeBytes(Random() % 100);
+    if (Chance(20)) rig_.machine.LimitFreeBytes(1000000);
+    // Another program changes what this one puts back.
+    if (Chance(15)) rig_.SetTemplate(Chance(2) ? "Quondix" : "Desktop");
+    if (Chance(60)) rig_.form->EndSession();
+    if (Chance(60)) rig_.form->Window().Close();
+    hand_.UseAny();
+  }
+
+  void CheckInvariants() {
+    EXPECT_TRUE(rig_.RecordIsUntouched());
+    EXPECT_NE(rig_.Ini().find("[boot]\r\nshell=Explorer.exe\r\n"), std::string::npos) << rig_.Ini();
+    EXPECT_EQ(rig_.machine.OpenKeyCount(), 0);
+    EXPECT_EQ(rig_.machine.OpenFileCount(), 0);
+    EXPECT_TRUE(rig_.machine.Misuses().empty());
+    bool some_are_ticked = false;
+    for (EntryRow* const row : rig_.Screen().Rows()) {
+      EXPECT_TRUE(row->box.Enabled() || !row->box.Ticked()) << row->box.Name();
+      some_are_ticked = some_are_ticked || row->box.Ticked();
+    }
+    if (!rig_.form->Window().Unloaded()) {
+      EXPECT_EQ(rig_.Screen().cmdPutBack.Enabled(), some_are_ticked);
+    }
+    rig_.machine.ForgetRecords();
+  }
+
+  using EntryRow = undo::EntryRow;
+
+  UndoRig rig_;
+  RandomHand hand_{*this};
+};
+
+TEST(UndoHands, LoseNothingAndTouchNoRecord) { RunHands<UndoHands>(kEvents); }
+
+}  // namespace
+}  // namespace qdix::tests

@@ -1,0 +1,107 @@
+// Every call of the system that can fail is failed once, and from then on, while the program registers itself
+// to start with Windows, puts its shortcut on the desktop and opens its help.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+
+#include "tests/support/program_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+constexpr const char* kRunKey = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+constexpr const char* kProgram = "C:\\Program Files\\QDIX\\QDIX.exe";
+constexpr const char* kOnDesktop = "C:\\WINDOWS\\Desktop\\Quondix.lnk";
+constexpr const char* kInStartUp = "C:\\WINDOWS\\Start Menu\\Programs\\StartUp\\Quondix.lnk";
+constexpr const char* kManual = "C:\\Program Files\\QDIX\\help.htm";
+constexpr const char* kForeignShortcut = "C:\\WINDOWS\\Start Menu\\Programs\\StartUp\\Other.lnk";
+constexpr const char* kMissingViewer = "Run-time error '53':\r\n\r\nFile not found";
+
+void PressAllHelpButtons(app::Form1& program) {
+  struct HelpButton {
+    screens::Tab tab;
+    ui::Button& button;
+  };
+  const std::array<HelpButton, 9> buttons{{{screens::kQuondixTab, program.Quondix().Command21},
+                                           {screens::kAutomaticTab, program.Automatic().Command22},
+                                           {screens::kTimeIntervalsTab, program.TimeIntervals().Command23},
+                                           {screens::kStartupTab, program.Startup().Command24},
+                                           {screens::kLauncherTab, program.Launcher().Command16},
+                                           {screens::kCacheTab, program.Cache().Command19},
+                                           {screens::kSwapFileTab, program.SwapFile().Command20},
+                                           {screens::kAboutTab, program.About().Command17},
+                                           {screens::kAboutTab, program.About().Command6}}};
+  for (const HelpButton& help : buttons) {
+    program.MainWindow().SSTab1.ChooseTab(help.tab);
+    help.button.Press();
+  }
+}
+
+/// Registers, with a shortcut in the StartUp folder besides; unregisters; registers again. A shortcut on the
+/// desktop by way of the recent documents, and one without. Every help button, with a viewer open at first.
+void UseShell(ProgramRig& rig) {
+  rig.SetHasRunBefore();
+  rig.machine.CreateRegistryKey(os::kHkeyLocalMachine, kRunKey);
+  rig.machine.SetRegistryValue(os::kHkeyLocalMachine, kRunKey, "Other", "other.exe");
+  rig.machine.PutShortcut(kInStartUp, {.target = kProgram, .arguments = {}, .folder = {}});
+  rig.machine.WriteFile(kForeignShortcut, "somebody's");
+  rig.machine.WriteFile(kManual, "<html>");
+  rig.Start();
+  if (rig.program->Window().Unloaded()) return;
+  rig.program->MainWindow().SSTab1.ChooseTab(screens::kStartupTab);
+  for (int press = 0; press < 3; ++press) rig.program->Startup().Check2.Press();
+  rig.program->Startup().Command5.Press();
+  rig.machine.MakeNoRecentShortcuts();
+  rig.program->Startup().Command5.Press();
+  rig.machine.OpenWindow("QDIXMain", "Quondix Help");
+  PressAllHelpButtons(*rig.program);
+  rig.program->Window().Unload();
+}
+
+void ExpectSoundEnd(ProgramRig& rig, int call) {
+  EXPECT_TRUE(rig.program->Window().Unloaded()) << call;
+  EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << call;
+  EXPECT_TRUE(rig.machine.Misuses().empty()) << call;
+  EXPECT_EQ(rig.machine.TrayIconCount(), 0) << call;
+  // What the program registers is its own path or nothing, and other programs' entries stay.
+  const auto entry = rig.machine.RegistryText(os::kHkeyLocalMachine, kRunKey, "Quondix");
+  EXPECT_EQ(entry.value_or(kProgram), kProgram) << call;
+  EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine, kRunKey, "Other"), "other.exe") << call;
+  EXPECT_EQ(rig.machine.ReadFile(kForeignShortcut), "somebody's") << call;
+  const auto shortcut = rig.machine.ShortcutAt(kOnDesktop);
+  EXPECT_EQ(shortcut.has_value() ? shortcut->target : kProgram, kProgram) << call;
+  EXPECT_EQ(rig.machine.ReadFile(kOnDesktop).has_value(), shortcut.has_value()) << call;
+  for (const auto& box : rig.machine.Boxes()) EXPECT_EQ(box.text, kMissingViewer) << call;
+}
+
+/// Runs the session once for each call of the sound one, with the fault that `plan` sets up.
+template <class Plan>
+void RunWithFaults(const Plan& plan) {
+  ProgramRig sound;
+  UseShell(sound);
+  ExpectSoundEnd(sound, 0);
+  EXPECT_TRUE(sound.machine.Boxes().empty());
+  ASSERT_EQ(sound.machine.StartedPrograms().size(), 8U);
+  ASSERT_EQ(sound.machine.OpenedFiles().size(), 1U);
+  ASSERT_TRUE(sound.machine.ShortcutAt(kOnDesktop).has_value());
+  const int calls = sound.machine.FaultableCallCount();
+  ASSERT_GT(calls, 100);
+  for (int call = 1; call <= calls; ++call) {
+    ProgramRig rig;
+    plan(rig.machine, call);
+    UseShell(rig);
+    ExpectSoundEnd(rig, call);
+  }
+}
+
+TEST(ShellFaults, EachCallFailedOnceLeavesNothingHalfRegistered) {
+  RunWithFaults([](os::SimulatedMachine& machine, int call) { machine.FailCallNumber(call); });
+}
+
+TEST(ShellFaults, EachCallFailedFromThenOnLeavesNothingHalfRegistered) {
+  RunWithFaults([](os::SimulatedMachine& machine, int call) { machine.FailFromCallNumber(call); });
+}
+
+}  // namespace
+}  // namespace qdix::tests
