@@ -57,8 +57,8 @@ FileStates StatesBelow(const std::string& folder) {
   return states;
 }
 
-/// Wine makes this key, and puts nothing into it, when a program asks for the first time in a session how
-/// long the pointer has to rest. So it is there before, and everything else can be compared.
+/// Wine itself makes this key, and puts nothing into it, when windows like those of the program open for the
+/// first time in a session. So it is there before, and everything else can be compared.
 void MakeKeyOfWine() {
   HKEY key = nullptr;
   ASSERT_EQ(

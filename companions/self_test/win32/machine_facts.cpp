@@ -10,7 +10,7 @@ namespace qdix::self_test::win32 {
 
 namespace {
 
-constexpr std::uint32_t kKbBytes = 1024;
+constexpr double kKbBytes = 1024;
 
 std::string KbOf(std::uint32_t bytes) { return base::FormatThousands(bytes / kKbBytes) + " KB"; }
 
