@@ -56,7 +56,8 @@ class QuietShellFiles final : public os::ShellFiles {
   }
 };
 
-/// The first copy of a program that lies in a folder of its own and finds no other to start.
+/// The first copy of a program that lies in a folder of its own. It starts others and nothing comes of it: a
+/// start that fails would be an error of the program.
 class QuietProcesses final : public os::Processes {
  public:
   explicit QuietProcesses(const std::string& program_path) : program_path_(program_path) {}
@@ -64,7 +65,7 @@ class QuietProcesses final : public os::Processes {
   [[nodiscard]] bool MutexExistedBefore(const char* /*name*/) override { return false; }
   [[nodiscard]] std::string ModuleFileName() override { return program_path_; }
   [[nodiscard]] std::int32_t CreateProcessA(const std::string& /*command_line*/) override {
-    return os::kErrorFileNotFound;
+    return os::kErrorSuccess;
   }
   [[nodiscard]] bool SetCurrentDirectoryA(const std::string& /*folder*/) override { return false; }
 
