@@ -65,5 +65,5 @@ link_refuses(planted_constructor "a global object has a constructor")
 # The same sources give the same bytes, wherever they lie.
 add_test(NAME image.build_is_reproducible
   COMMAND ${planted}/reproducible.sh ${CMAKE_SOURCE_DIR} $<TARGET_FILE:QDIX> $<TARGET_FILE:undo>
-          $<TARGET_FILE:configL> $<TARGET_FILE:help_viewer>)
+          $<TARGET_FILE:configL> $<TARGET_FILE:help_viewer> $<TARGET_FILE:self_test>)
 set_tests_properties(image.build_is_reproducible PROPERTIES TIMEOUT 600)

@@ -23,6 +23,7 @@ MAKE = ROOT / "tools" / "dist" / "make_dist.py"
 # 14 January 2000, 00:00:00 UTC.
 TIME = 947808000
 COLUMNS = 72
+CD_ONLY = ("QDIXTEST.exe",)
 TEXTS = ("README.TXT", "LICENSE.TXT", "qdix.inf", "remove.bat")
 
 
@@ -51,8 +52,9 @@ class Downloads(unittest.TestCase):
                          [f"qdix-{self.version}.zip", "qdix.img", "qdix.iso", "sha256sums.txt"])
 
     def test_the_zip_has_programs_manual_and_texts_and_nothing_else(self):
-        self.assertEqual(sorted(self.files), sorted([*self.programs, *self.manual, *TEXTS]))
-        self.assertEqual({name: self.files[name] for name in self.programs}, self.programs)
+        delivered = set(self.programs) - set(CD_ONLY)
+        self.assertEqual(sorted(self.files), sorted([*delivered, *self.manual, *TEXTS]))
+        self.assertEqual({name: self.files[name] for name in delivered}, {name: self.programs[name] for name in delivered})
         self.assertEqual({name: self.files[name] for name in self.manual}, self.manual)
         self.assertLessEqual({"QDIX.exe", "configL.exe", "undo.exe"}, set(self.files))
 
@@ -85,7 +87,7 @@ class Downloads(unittest.TestCase):
         self.assertEqual({path.name.upper(): path.read_bytes() for path in folder.iterdir()},
                          {name.upper(): data for name, data in self.files.items()})
 
-    def test_the_cd_is_of_level_1_without_extensions_and_has_the_same_files(self):
+    def test_the_cd_is_of_level_1_without_extensions_and_has_the_same_files_and_its_own(self):
         cd = Cd(self.made / "qdix.iso")
         primary, terminator = 1, 255
         self.assertEqual(cd.descriptors, [primary, terminator])
@@ -93,7 +95,12 @@ class Downloads(unittest.TestCase):
             with self.subTest(name):
                 self.assertRegex(name, r"\A[A-Z0-9_]{1,8}\.[A-Z0-9_]{1,3};1\Z")
                 self.assertEqual(extension, b"")
-        self.assertEqual(cd.files(), {f"{name.upper()};1": data for name, data in self.files.items()})
+        on_the_cd = {**self.files, **{name: self.programs[name] for name in CD_ONLY}}
+        self.assertEqual(cd.files(), {f"{name.upper()};1": data for name, data in on_the_cd.items()})
+
+    def test_the_installation_leaves_alone_what_only_the_cd_has(self):
+        for name in CD_ONLY:
+            self.assertNotIn(name.lower(), self.files["qdix.inf"].decode("ascii").lower())
 
     def test_the_sums_are_those_of_the_downloads(self):
         listed = [line.split("  ") for line in (self.made / "sha256sums.txt").read_text(encoding="ascii").splitlines()]

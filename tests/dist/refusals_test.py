@@ -8,7 +8,7 @@ import tempfile
 import unittest
 
 MAKE = pathlib.Path(__file__).resolve().parents[2] / "tools" / "dist" / "make_dist.py"
-PROGRAMS = ("QDIX.exe", "configL.exe", "help.exe", "undo.exe")
+PROGRAMS = ("QDIX.exe", "QDIXTEST.exe", "configL.exe", "help.exe", "undo.exe")
 
 
 class Refusals(unittest.TestCase):

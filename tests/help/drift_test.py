@@ -10,9 +10,10 @@ from source_texts import (captions_of_operated_controls, captions_of_screens, in
 TOPIC_OF_SCREEN = {"quondix": 4, "automatic": 5, "time_intervals": 6, "startup": 7, "launcher": 8, "cache": 9,
                    "swap_file": 10, "about": 11}
 MESSAGE_TOPICS = (22, 23)
-# Folders without texts for the user: forwarding, control models, and what a form designer shows.
+# Folders without texts for the user: forwarding, control models, and what a form designer shows. The self-test writes
+# into a log, of which README.TXT tells.
 WITHOUT_MESSAGES = ("src/os/", "src/ui/", "src/screens/", "src/controls/", "src/base/text", "_screen.h",
-                    "win32/resources.h")
+                    "win32/resources.h", "companions/self_test/")
 # Long texts of the program that are no messages.
 NOT_IN_A_BOX = {
     # captions and labels that are written while the program runs

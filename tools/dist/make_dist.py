@@ -18,9 +18,9 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 PACKAGING = ROOT / "packaging"
 
 # A build that lacks one of these is not delivered.
-REQUIRED = ("QDIX.exe", "configL.exe", "undo.exe", "help.exe")
+REQUIRED = ("QDIX.exe", "configL.exe", "undo.exe", "help.exe", "QDIXTEST.exe")
 # Programs of the build that only the CD carries, beside everything else.
-CD_ONLY = ()
+CD_ONLY = ("QDIXTEST.exe",)
 # The manual, where the build has made one: one page and its pictures in this folder of the build.
 MANUAL = "manual"
 MANUAL_FILES = ("help.htm", "*.gif")

@@ -23,11 +23,14 @@ LAYERS = {
     "companion": {"base", "os", "ui"},
     "runtime": set(),
 }
-# The companion programs: nothing of each other and nothing of the main program's window.
+# The companion programs: nothing of each other and nothing of the main program's window, but for the self-test, which
+# opens the windows of all.
 COMPANIONS = {
     "undo": {"base", "os", "ui", "shell", "tuning", "companion"},
     "help_viewer": {"base", "os", "ui", "shell", "companion"},
     "config_launcher": {"base", "os", "ui", "shell", "launcher", "companion"},
+    "self_test": {"base", "os", "ui", "controls", "screens", "shell", "memory", "cpu", "launcher", "app", "undo",
+                  "help_viewer", "config_launcher"},
 }
 ROOTS = {"src": LAYERS, "companions": COMPANIONS}
 SYSTEM_HEADERS = {"windows.h", "commctrl.h", "shellapi.h", "shlobj.h", "commdlg.h", "windowsx.h", "objbase.h", "mmsystem.h"}

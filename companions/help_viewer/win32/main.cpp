@@ -6,6 +6,7 @@
 
 #include "companion/win32/companion_program.h"
 #include "help_viewer/help_form.h"
+#include "help_viewer/win32/packed_topics.h"
 #include "help_viewer/win32/resources.h"
 #include "help_viewer/win32/topic_pane_peer.h"
 #include "os/win32/win32_clipboard.h"
@@ -39,20 +40,10 @@ std::unique_ptr<ui::win32::NativeControl> MakeOwnPeer(const ui::win32::PeerConte
   }
 }
 
-/// The topics, which stay where they are as long as the program runs; empty where there are none.
-std::string_view PackedTopics(HINSTANCE instance) {
-  // The resource compiler's number of plain data.
-  HRSRC const found = FindResourceA(instance, MAKEINTRESOURCEA(kHelpTopics), MAKEINTRESOURCEA(10));
-  HGLOBAL const loaded = found == nullptr ? nullptr : LoadResource(instance, found);
-  const void* const bytes = loaded == nullptr ? nullptr : LockResource(loaded);
-  if (bytes == nullptr) return {};
-  return {static_cast<const char*>(bytes), SizeofResource(instance, found)};
-}
-
 class Program {
  public:
   explicit Program(HINSTANCE instance)
-      : start_{.packed_stream = PackedTopics(instance), .command_line = GetCommandLineA()},
+      : start_{.packed_stream = PackedTopics(instance, kHelpTopics), .command_line = GetCommandLineA()},
         program_(instance, kHelpViewerIcon, &MakeOwnPeer, devices_, start_) {
     clipboard_.SetOwner(program_.Window().MainWindow());
     printer_.SetOwner(program_.Window().MainWindow());

@@ -1,0 +1,33 @@
+// The real memory, of which no more than one small release can be taken at a time; counts what is taken and
+// given back.
+#pragma once
+
+#include "os/memory.h"
+
+namespace qdix::self_test {
+
+class LimitedMemory final : public os::Memory {
+ public:
+  /// One release of 1 MB is a little below that.
+  static constexpr std::uint32_t kMostBytes = 2000000;
+
+  explicit LimitedMemory(os::Memory& real) : real_(real) {}
+
+  [[nodiscard]] os::MemoryStatus GlobalMemoryStatus() override { return real_.GlobalMemoryStatus(); }
+  /// Null for a block above kMostBytes.
+  [[nodiscard]] void* VirtualAlloc(std::uint32_t bytes) override;
+  void TouchPages(void* block, std::uint32_t bytes) override;
+  void VirtualFree(void* block) override;
+
+  [[nodiscard]] std::uint32_t TouchedBytes() const { return touched_bytes_; }
+  [[nodiscard]] int Taken() const { return taken_; }
+  [[nodiscard]] int GivenBack() const { return given_back_; }
+
+ private:
+  os::Memory& real_;
+  std::uint32_t touched_bytes_ = 0;
+  int taken_ = 0;
+  int given_back_ = 0;
+};
+
+}  // namespace qdix::self_test

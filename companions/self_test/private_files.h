@@ -1,0 +1,59 @@
+// Files of which only those in one folder can be changed. That folder is the folder of Windows for whoever
+// asks, so system.ini is one of its own. Everything else can be read.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "os/files.h"
+#include "os/profile_files.h"
+
+namespace qdix::self_test {
+
+/// True for a file directly in the folder, which has no backslash at its end.
+[[nodiscard]] bool LiesIn(std::string_view folder, std::string_view path);
+
+class PrivateFiles final : public os::Files {
+ public:
+  /// The real files must outlive this; whoever makes the folder deletes it.
+  PrivateFiles(os::Files& real, const std::string& folder) : real_(real), folder_(folder) {}
+
+  [[nodiscard]] std::uint32_t GetWindowsDirectoryA(char* buffer, std::uint32_t size_bytes) override;
+  bool CopyFileA(const char* from, const char* to) override;
+  [[nodiscard]] std::uint32_t GetFileAttributesA(const char* path) override;
+  [[nodiscard]] os::FileHandle CreateFileA(const char* path, std::uint32_t access,
+                                           std::uint32_t disposition) override;
+  void CloseHandle(os::FileHandle file) override;
+  [[nodiscard]] std::uint32_t GetFileSize(os::FileHandle file) override;
+  [[nodiscard]] bool ReadFile(os::FileHandle file, char* buffer, std::uint32_t size_bytes,
+                              std::uint32_t& read_bytes) override;
+  [[nodiscard]] bool WriteFile(os::FileHandle file, const char* bytes, std::uint32_t size_bytes,
+                               std::uint32_t& written_bytes) override;
+  [[nodiscard]] bool FlushFileBuffers(os::FileHandle file) override;
+  [[nodiscard]] bool MoveFileA(const char* from, const char* to) override;
+  bool DeleteFileA(const char* path) override;
+
+ private:
+  os::Files& real_;
+  const std::string folder_;
+};
+
+class PrivateProfileFiles final : public os::ProfileFiles {
+ public:
+  PrivateProfileFiles(os::ProfileFiles& real, const std::string& folder) : real_(real), folder_(folder) {}
+
+  [[nodiscard]] std::uint32_t GetPrivateProfileStringA(const char* section, const char* key,
+                                                       const char* missing, char* buffer,
+                                                       std::uint32_t size_bytes, const char* file) override;
+  bool WritePrivateProfileStringA(const char* section, const char* key, const char* value,
+                                  const char* file) override;
+
+ private:
+  /// A bare name is one in the folder of Windows, and that is this one.
+  [[nodiscard]] std::string PathOf(const char* file) const;
+
+  os::ProfileFiles& real_;
+  const std::string folder_;
+};
+
+}  // namespace qdix::self_test

@@ -1,0 +1,127 @@
+// Stand-ins for what would be seen or heard outside of the self-test: boxes, the notification area, other
+// programs, the shell's folders, the end of the session. Each refuses or does nothing.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "os/clipboard.h"
+#include "os/dialogs.h"
+#include "os/file_dialogs.h"
+#include "os/printer.h"
+#include "os/processes.h"
+#include "os/session.h"
+#include "os/shell.h"
+#include "os/shell_files.h"
+#include "os/windows.h"
+
+namespace qdix::self_test {
+
+/// Nothing is asked and nothing agreed; what was said is kept.
+class QuietDialogs final : public os::Dialogs {
+ public:
+  int MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) override;
+
+  /// What was said since the last question, the texts parted by a slash; it is forgotten then.
+  [[nodiscard]] std::string TakeTexts();
+
+ private:
+  std::string texts_;
+};
+
+/// The notification area takes every icon and shows none.
+class QuietShell final : public os::Shell {
+ public:
+  bool Shell_NotifyIconA(std::uint32_t /*request*/, const os::NotifyIconData& /*data*/) override {
+    return true;
+  }
+  bool ShellExecuteA(const char* /*verb*/, const std::string& /*path*/, int /*show*/) override {
+    return false;
+  }
+};
+
+class QuietShellFiles final : public os::ShellFiles {
+ public:
+  [[nodiscard]] std::string SpecialFolder(int /*number*/) override { return {}; }
+  bool SHFileOperationA(std::uint32_t /*operation*/, const std::string& /*from*/, const std::string& /*to*/,
+                        std::uint16_t /*flags*/) override {
+    return false;
+  }
+  void SHAddToRecentDocs(std::uint32_t /*kind*/, const std::string& /*path*/) override {}
+  [[nodiscard]] std::optional<os::Shortcut> ReadShortcut(const std::string& /*path*/) override {
+    return std::nullopt;
+  }
+  [[nodiscard]] bool WriteShortcut(const std::string& /*path*/, const os::Shortcut& /*shortcut*/) override {
+    return false;
+  }
+};
+
+/// The first copy of a program that lies in a folder of its own. It starts others and nothing comes of it: a
+/// start that fails would be an error of the program.
+class QuietProcesses final : public os::Processes {
+ public:
+  explicit QuietProcesses(const std::string& program_path) : program_path_(program_path) {}
+
+  [[nodiscard]] bool MutexExistedBefore(const char* /*name*/) override { return false; }
+  [[nodiscard]] std::string ModuleFileName() override { return program_path_; }
+  [[nodiscard]] std::int32_t CreateProcessA(const std::string& /*command_line*/) override {
+    return os::kErrorSuccess;
+  }
+  [[nodiscard]] bool SetCurrentDirectoryA(const std::string& /*folder*/) override { return false; }
+
+ private:
+  const std::string program_path_;
+};
+
+class QuietWindows final : public os::Windows {
+ public:
+  [[nodiscard]] os::WindowHandle FindWindowA(const char* /*window_class*/, const char* /*title*/) override {
+    return 0;
+  }
+  [[nodiscard]] os::WindowHandle GetWindow(os::WindowHandle /*window*/, std::uint32_t /*relation*/) override {
+    return 0;
+  }
+  bool OpenIcon(os::WindowHandle /*window*/) override { return false; }
+  bool SetForegroundWindow(os::WindowHandle /*window*/) override { return false; }
+  bool PostMessageA(os::WindowHandle /*window*/, std::uint32_t /*message*/) override { return false; }
+};
+
+class QuietSession final : public os::Session {
+ public:
+  bool ExitWindowsEx(std::uint32_t /*flags*/, std::uint32_t /*reserved*/) override { return false; }
+};
+
+class QuietClipboard final : public os::Clipboard {
+ public:
+  [[nodiscard]] bool SetClipboardData(const std::string& /*text*/) override { return false; }
+};
+
+class QuietFileDialogs final : public os::FileDialogs {
+ public:
+  [[nodiscard]] std::string GetOpenFileNameA(const os::FileQuestion& /*question*/) override { return {}; }
+  [[nodiscard]] std::string SHBrowseForFolderA(const std::string& /*title*/,
+                                               const std::string& /*folder*/) override {
+    return {};
+  }
+};
+
+/// There is no printer, so nothing but the choice is ever asked of it.
+class QuietPrinter final : public os::Printer {
+ public:
+  explicit QuietPrinter(os::TextDevice& device) : device_(device) {}
+
+  [[nodiscard]] Choice PrintDlgA() override { return Choice::kCancelled; }
+  void DeleteDC() override {}
+  [[nodiscard]] os::PrinterPage GetDeviceCaps() override { return {}; }
+  [[nodiscard]] os::TextDevice& Device() override { return device_; }
+  [[nodiscard]] bool StartDocA(const std::string& /*title*/) override { return false; }
+  [[nodiscard]] bool StartPage() override { return false; }
+  [[nodiscard]] bool EndPage() override { return false; }
+  [[nodiscard]] bool EndDoc() override { return false; }
+  void AbortDoc() override {}
+
+ private:
+  os::TextDevice& device_;
+};
+
+}  // namespace qdix::self_test

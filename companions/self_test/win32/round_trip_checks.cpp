@@ -1,0 +1,131 @@
+#include "self_test/win32/round_trip_checks.h"
+
+#include <commctrl.h>
+
+#include "config_launcher/config_form.h"
+#include "launcher/launcher_file.h"
+#include "shell/settings_store.h"
+
+namespace qdix::self_test::win32 {
+
+namespace {
+
+using MainProgram = OpenProgram<app::Form1>;
+
+constexpr const char* kDelayText = "30";
+constexpr int kSliderPosition = 3;
+constexpr const char* kProgramName = "Self-test";
+constexpr int kTextRoom = 256;
+
+std::string TextOf(HWND window) {
+  std::array<char, kTextRoom> text{};
+  GetWindowTextA(window, text.data(), kTextRoom);
+  return text.data();
+}
+
+std::string RowOf(HWND list, int row) {
+  if (SendMessageA(list, LB_GETTEXTLEN, static_cast<WPARAM>(row), 0) >= kTextRoom) return {};
+  std::array<char, kTextRoom> text{};
+  SendMessageA(list, LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
+  return text.data();
+}
+
+Outcome Stored(const Bench& bench, std::string_view section, const char* key, const char* expected) {
+  const shell::SettingsStore settings(bench.system.GetSystem().registry);
+  const std::string stored = settings.GetSetting(section, key, "nothing");
+  if (stored == expected) return Outcome::Ok();
+  return Outcome::Failed(std::string(key) + " holds " + stored + ", not " + expected);
+}
+
+/// Adds a program to the list of the launcher and saves it.
+Outcome SaveProgramList(const Bench& bench) {
+  QuietFileDialogs dialogs;
+  const auto open = std::make_unique<OpenProgram<config_launcher::ConfigForm>>(bench, dialogs);
+  Outcome started = open->Start();
+  if (!started.is_ok) return started;
+  config_launcher::ConfigScreen& screen = open->TheProgram().Screen();
+  SetWindowTextA(open->WindowOf(screen.txtName), kProgramName);
+  SetWindowTextA(open->WindowOf(screen.txtPath), "C:\\NOTHING.EXE");
+  open->Notify(screen.cmdAdd, BN_CLICKED);
+  open->Notify(screen.cmdOK, BN_CLICKED);
+  const bool is_saved = open->TheProgram().Window().Unloaded();
+  return is_saved ? Outcome::Ok() : Outcome::Failed("it said: " + bench.system.Dialogs().TakeTexts());
+}
+
+Outcome TickBox(const Bench& bench, MainProgram& open) {
+  const ui::CheckBox& box = open.TheProgram().Startup().Check4;
+  open.Notify(box, BN_CLICKED);
+  if (SendMessageA(open.WindowOf(box), BM_GETCHECK, 0, 0) != BST_CHECKED) {
+    return Outcome::Failed("the window shows no tick");
+  }
+  return Stored(bench, shell::kSettingsSection, "Warnings", "1");
+}
+
+Outcome TypeText(const Bench& bench, MainProgram& open) {
+  SetWindowTextA(open.WindowOf(open.TheProgram().Startup().Text3), kDelayText);
+  return Stored(bench, shell::kStartupSection, "StartupTime", kDelayText);
+}
+
+Outcome DragSlider(const Bench& bench, MainProgram& open) {
+  HWND const slider = open.WindowOf(open.TheProgram().Startup().Slider7);
+  SendMessageA(slider, TBM_SETPOS, TRUE, kSliderPosition);
+  SendMessageA(GetParent(slider), WM_HSCROLL, TB_ENDTRACK, reinterpret_cast<LPARAM>(slider));
+  return Stored(bench, shell::kSettingsSection, "CPU", "3");
+}
+
+Outcome FindAgain(MainProgram& open) {
+  Outcome started = open.Start();
+  if (!started.is_ok) return started;
+  app::Form1& form1 = open.TheProgram();
+  if (form1.MainWindow().SSTab1.Tab() != screens::kStartupTab) return Outcome::Failed("another tab is open");
+  const screens::StartupScreen& startup = form1.Startup();
+  if (SendMessageA(open.WindowOf(startup.Check4), BM_GETCHECK, 0, 0) != BST_CHECKED) {
+    return Outcome::Failed("the tick is lost");
+  }
+  if (TextOf(open.WindowOf(startup.Text3)) != kDelayText) return Outcome::Failed("the text is lost");
+  if (SendMessageA(open.WindowOf(startup.Slider7), TBM_GETPOS, 0, 0) != kSliderPosition) {
+    return Outcome::Failed("the position of the slider is lost");
+  }
+  return Outcome::Expect(RowOf(open.WindowOf(form1.Launcher().List5), 0) == kProgramName,
+                         "the list of programs is lost");
+}
+
+struct OneMegabyte {
+  [[nodiscard]] double Amount() const { return amount_mb; }
+  double amount_mb = 1;
+};
+
+Outcome ReleaseOneMegabyte(const Bench& bench, MainProgram& open) {
+  constexpr std::uint32_t kLeastBytes = 1000000;
+  const LimitedMemory& memory = bench.system.Memory();
+  const int taken_before = memory.Taken();
+  const std::uint32_t touched_before = memory.TouchedBytes();
+  OneMegabyte one;
+  const memory::ReleaseOutcome outcome = open.TheProgram().Release().FreeUpMemory(
+      {.amount_mb = base::Callback<double()>::To<&OneMegabyte::Amount>(one), .passes = 1});
+  if (outcome != memory::ReleaseOutcome::kFinished) {
+    return Outcome::Failed("it did not finish: " + bench.system.Dialogs().TakeTexts());
+  }
+  if (memory.Taken() != taken_before + 1) return Outcome::Failed("it took no block");
+  if (memory.TouchedBytes() - touched_before < kLeastBytes) return Outcome::Failed("the block is too small");
+  return Outcome::Expect(memory.GivenBack() == memory.Taken(), "the block was not given back");
+}
+
+}  // namespace
+
+void RunRoundTripChecks(const Bench& bench) {
+  Report& report = bench.report;
+  report.Run("Saving the list of programs", [&bench] { return SaveProgramList(bench); });
+  auto open = std::make_unique<MainProgram>(bench);
+  report.Run("QDIX with this list", [&open] { return open->Start(); });
+  report.Run("Releasing 1 MB", [&bench, &open] { return ReleaseOneMegabyte(bench, *open); });
+  base::Ignore(open->TheProgram().MainWindow().SSTab1.SetTab(screens::kStartupTab));
+  report.Run("Ticking a box", [&bench, &open] { return TickBox(bench, *open); });
+  report.Run("Typing a text", [&bench, &open] { return TypeText(bench, *open); });
+  report.Run("Dragging a slider", [&bench, &open] { return DragSlider(bench, *open); });
+  open.reset();
+  open = std::make_unique<MainProgram>(bench);
+  report.Run("Finding all of it again", [&open] { return FindAgain(*open); });
+}
+
+}  // namespace qdix::self_test::win32

@@ -1,0 +1,10 @@
+// Checks that every window of the programs can be made, is what its models say, and goes again.
+#pragma once
+
+#include "self_test/win32/open_program.h"
+
+namespace qdix::self_test::win32 {
+
+void RunWindowChecks(const Bench& bench);
+
+}  // namespace qdix::self_test::win32

@@ -1,0 +1,186 @@
+// The shipped self-test: what it finds under Wine, and that it leaves nothing but its log.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <map>
+#include <sstream>
+#include <utility>
+
+#include "screens/main_window.h"
+#include "tests/e2e/driver/cpu_statistics.h"
+#include "tests/e2e/driver/file_keeper.h"
+#include "tests/e2e/driver/message_boxes.h"
+#include "tests/e2e/driver/photograph.h"
+#include "tests/e2e/driver/polling.h"
+#include "tests/e2e/driver/program_facts.h"
+#include "tests/e2e/driver/registry.h"
+
+namespace qdix::e2e {
+namespace {
+
+/// Opens a dozen windows and pumps ten thousand times.
+constexpr int kRunDeadlineMs = 240000;
+constexpr const char* kProgram = "QDIXTEST.exe";
+constexpr const char* kLog = "QDIXTEST.LOG";
+constexpr const char* kOk = "ok";
+
+std::string TemporaryFolder() {
+  std::array<char, MAX_PATH> folder{};
+  return {folder.data(), GetTempPathA(folder.size(), folder.data())};
+}
+
+/// Every file below a folder with its length and the time of its last change.
+using FileStates = std::map<std::string, std::pair<DWORD, std::uint64_t>>;
+
+void AddStates(const std::string& folder, FileStates& states) {
+  WIN32_FIND_DATAA found{};
+  HANDLE const search = FindFirstFileA((folder + "*").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return;
+  do {
+    const std::string name = static_cast<const char*>(found.cFileName);
+    const bool is_folder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    if (name == "." || name == "..") continue;
+    const FILETIME& time = found.ftLastWriteTime;
+    // The time of a folder changes with every file that came and went.
+    states[folder + name] =
+        is_folder ? std::pair<DWORD, std::uint64_t>()
+                  : std::pair(found.nFileSizeLow,
+                              static_cast<std::uint64_t>(time.dwHighDateTime) << 32U | time.dwLowDateTime);
+    if (is_folder) AddStates(folder + name + "\\", states);
+  } while (FindNextFileA(search, &found) != 0);
+  FindClose(search);
+}
+
+FileStates StatesBelow(const std::string& folder) {
+  FileStates states;
+  AddStates(folder, states);
+  return states;
+}
+
+/// Wine itself makes this key, and puts nothing into it, when windows like those of the program open for the
+/// first time in a session. So it is there before, and everything else can be compared.
+void MakeKeyOfWine() {
+  HKEY key = nullptr;
+  ASSERT_EQ(
+      RegCreateKeyExA(HKEY_CURRENT_USER, "Software\\Wine\\Temporary System Parameters\\Control Panel\\Mouse",
+                      0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr, &key, nullptr),
+      ERROR_SUCCESS);
+  RegCloseKey(key);
+}
+
+/// What came of each check, by its name: "ok", or what the log says else.
+using Results = std::map<std::string, std::string>;
+
+Results ResultsIn(const std::string& log) {
+  Results results;
+  std::istringstream lines(log);
+  for (std::string line; std::getline(lines, line);) {
+    const std::size_t dots = line.find(" ..");
+    if (dots == std::string::npos) continue;
+    const std::string result = line.substr(line.find(". ", dots) + 2);
+    results[line.substr(0, dots)] = result.starts_with(kOk) ? kOk : result;
+  }
+  return results;
+}
+
+class SelfTest : public testing::Test {
+ protected:
+  SelfTest() { SetCpuLoad(7); }
+  ~SelfTest() override {
+    RemoveCpuStatistics();
+    if (process_.hProcess == nullptr) return;
+    TerminateProcess(process_.hProcess, 1);
+    CloseHandle(process_.hThread);
+    CloseHandle(process_.hProcess);
+  }
+
+  /// Runs the program until it says where its log is, and answers that.
+  void Run(const char* photograph) {
+    STARTUPINFOA start{};
+    start.cb = sizeof start;
+    std::string command = '"' + ProgramPath(kProgram) + '"';
+    ASSERT_NE(CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                             &process_),
+              0);
+    ASSERT_TRUE(Eventually([this] { return !MessageBoxesOf(process_.dwProcessId).empty(); }, kRunDeadlineMs));
+    EXPECT_TRUE(Photograph(photograph));
+    const MessageBox box = MessageBoxesOf(process_.dwProcessId).front();
+    said = box.text;
+    ASSERT_TRUE(PressButton(box, IDOK));
+    ASSERT_EQ(WaitForSingleObject(process_.hProcess, kDeadlineMs), WAIT_OBJECT_0);
+    GetExitCodeProcess(process_.hProcess, &exit_code);
+  }
+
+  std::string said;
+  DWORD exit_code = STILL_ACTIVE;
+
+ private:
+  PROCESS_INFORMATION process_{};
+};
+
+TEST_F(SelfTest, FindsEverythingInOrderAndLeavesNothingButItsLog) {
+  const FileKeeper log(ProgramPath(kLog));
+  ASSERT_NO_FATAL_FAILURE(MakeKeyOfWine());
+  const RegistryTree user_before{{HKEY_CURRENT_USER, ""}};
+  const RegistryTree machine_before{{HKEY_LOCAL_MACHINE, "Software"}};
+  const FileStates files_before = StatesBelow("C:\\");
+  ASSERT_FALSE(files_before.empty());
+
+  ASSERT_NO_FATAL_FAILURE(Run("self_test_ok"));
+
+  EXPECT_EQ(StatesBelow("C:\\"), files_before);
+  EXPECT_TRUE(RegistryTree({HKEY_CURRENT_USER, ""}) == user_before) << "the user's registry has changed";
+  EXPECT_TRUE(RegistryTree({HKEY_LOCAL_MACHINE, "Software"}) == machine_before)
+      << "the machine's registry has changed";
+  EXPECT_EQ(exit_code, 0U);
+  const std::string text = log.Bytes().value_or("");
+  const Results results = ResultsIn(text);
+  for (const auto& [name, result] : results) EXPECT_EQ(result, kOk) << name;
+  for (const ui::Design& page : screens::kTabPages) {
+    EXPECT_TRUE(results.contains(std::string("QDIX: tab \"") + page.caption + "\"")) << page.caption;
+  }
+  for (const char* const name :
+       {"Processor load", "Reading an INI file", "Drawing the graph", "undo: controls", "configL: controls",
+        "help: controls", "Releasing 1 MB", "Typing a text", "Finding all of it again",
+        "Taking everything away again"}) {
+    EXPECT_TRUE(results.contains(name)) << name;
+  }
+  const std::string count = std::to_string(results.size());
+  EXPECT_EQ(said, "All " + count + " checks are ok.\r\n\r\nThe log is " + ProgramPath(kLog));
+  EXPECT_NE(text.find("\r\n" + count + " checks, " + count + " ok, 0 failed, "), std::string::npos) << text;
+  EXPECT_NE(text.find("\r\nSystem               Windows 4.10"), std::string::npos) << text;
+}
+
+/// The file that one check would write is held by somebody else, and beside the program there is no room for
+/// a log, as on a CD.
+TEST_F(SelfTest, TellsWhatFailsInALogInTheFolderForTemporaryFiles) {
+  const std::string own_folder = TemporaryFolder() + "QDIXTEST";
+  const std::string held_path = own_folder + "\\READ.INI";
+  const FileKeeper log(TemporaryFolder() + kLog);
+  const FileKeeper unused_log(ProgramPath(kLog));
+  ASSERT_NE(CreateDirectoryA(ProgramPath(kLog).c_str(), nullptr), 0);
+  ASSERT_NE(CreateDirectoryA(own_folder.c_str(), nullptr), 0);
+  HANDLE const held =
+      CreateFileA(held_path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, CREATE_ALWAYS, 0, nullptr);
+  ASSERT_NE(held, INVALID_HANDLE_VALUE);
+
+  Run("self_test_failed");
+
+  CloseHandle(held);
+  DeleteFileA(held_path.c_str());
+  EXPECT_NE(RemoveDirectoryA(own_folder.c_str()), 0) << "something else was left in it";
+  EXPECT_NE(RemoveDirectoryA(ProgramPath(kLog).c_str()), 0);
+  EXPECT_EQ(exit_code, 1U);
+  Results failed;
+  const Results results = ResultsIn(log.Bytes().value_or(""));
+  for (const auto& [name, result] : results) {
+    if (result != kOk) failed[name] = result.substr(0, result.rfind(','));
+  }
+  EXPECT_EQ(failed, (Results{{"Reading an INI file", "FAILED: " + held_path + " cannot be made"},
+                             {"Taking everything away again", "FAILED: " + own_folder + " stays"}}));
+  EXPECT_EQ(said,
+            "2 of " + std::to_string(results.size()) + " checks failed.\r\n\r\nThe log is " + log.Path());
+}
+
+}  // namespace
+}  // namespace qdix::e2e

@@ -1,0 +1,176 @@
+// The programs on the private system of the self-test: whatever they do, the machine outside of one key and
+// one folder stays as it was.
+#include "self_test/private_system.h"
+
+#include <gtest/gtest.h>
+
+#include "app/form1.h"
+#include "memory/memory_block.h"
+#include "os/simulated/simulated_machine.h"
+#include "shell/registry_key.h"
+#include "shell/registry_paths.h"
+#include "shell/settings_store.h"
+
+namespace qdix::tests {
+namespace {
+
+constexpr const char* kOwnKey = "Software\\VB and VBA Program Settings\\QDIX Self-Test";
+constexpr const char* kSettingsKey = "Software\\VB and VBA Program Settings\\QDIX\\Settings";
+constexpr const char* kOwnFolder = "C:\\TEMP\\QDIXTEST";
+constexpr const char* kIni = "[vcache]\r\nMinFileCache=2048\r\n";
+constexpr std::uint32_t kMegabyte = 1024 * 1024;
+
+std::string InOwnKey(const char* root, const std::string& path) {
+  return std::string(kOwnKey) + "\\" + root + "\\" + path;
+}
+
+class PrivateSystem : public testing::Test {
+ protected:
+  PrivateSystem() {
+    machine.SetMemory(64 * kMegabyte, 32 * kMegabyte, 64 * kMegabyte, 48 * kMegabyte);
+    machine.WriteFile("C:\\WINDOWS\\system.ini", kIni);
+    machine.SetRegistryValue(os::kHkeyCurrentUser, kSettingsKey, "Warnings", "0");
+  }
+  ~PrivateSystem() override {
+    EXPECT_EQ(machine.ReadFile("C:\\WINDOWS\\system.ini"), kIni);
+    EXPECT_FALSE(machine.ReadFile("C:\\WINDOWS\\system.qdix").has_value());
+    EXPECT_FALSE(machine.KeyExists(os::kHkeyLocalMachine, "SOFTWARE"));
+    EXPECT_EQ(machine.RegistryTexts(os::kHkeyCurrentUser, kSettingsKey),
+              (std::map<std::string, std::string>{{"Warnings", "0"}}));
+    EXPECT_EQ(machine.OpenKeyCount(), 0);
+    EXPECT_EQ(machine.OpenFileCount(), 0);
+    EXPECT_TRUE(machine.Misuses().empty());
+  }
+
+  [[nodiscard]] os::Registry& Registry() const { return system.GetSystem().registry; }
+  [[nodiscard]] os::Files& Files() const { return system.GetSystem().files; }
+  [[nodiscard]] os::ProfileFiles& ProfileFiles() const { return system.GetSystem().profile_files; }
+
+  os::SimulatedMachine machine;
+  self_test::PrivateSystem system{machine.GetSystem(), {.key = kOwnKey, .folder = kOwnFolder}};
+};
+
+TEST_F(PrivateSystem, EveryRootOfTheRegistryLiesInTheOwnKey) {
+  EXPECT_TRUE(
+      shell::RegistryKey::Create(Registry(), os::kHkeyLocalMachine, "SOFTWARE\\QDIX").WriteText("A", "1"));
+  EXPECT_TRUE(
+      shell::RegistryKey::Create(Registry(), os::kHkeyCurrentUser, "Software\\QDIX").WriteText("B", "2"));
+  EXPECT_EQ(machine.RegistryText(os::kHkeyCurrentUser, InOwnKey("Root2", "SOFTWARE\\QDIX"), "A"), "1");
+  EXPECT_EQ(machine.RegistryText(os::kHkeyCurrentUser, InOwnKey("Root1", "Software\\QDIX"), "B"), "2");
+  const auto read =
+      shell::RegistryKey::Open(Registry(), os::kHkeyLocalMachine, "SOFTWARE\\QDIX", os::kKeyQueryValue);
+  EXPECT_EQ(read.ReadText("A"), "1");
+}
+
+TEST_F(PrivateSystem, TheOldCallsOfTheRegistryLeadThereAsWell) {
+  os::KeyHandle key = 0;
+  ASSERT_EQ(Registry().RegCreateKeyA(os::kHkeyUsers, "A", key), os::kErrorSuccess);
+  EXPECT_EQ(Registry().RegCloseKey(key), os::kErrorSuccess);
+  ASSERT_EQ(Registry().RegOpenKeyA(os::kHkeyUsers, "A", key), os::kErrorSuccess);
+  EXPECT_EQ(Registry().RegCloseKey(key), os::kErrorSuccess);
+  EXPECT_TRUE(machine.KeyExists(os::kHkeyCurrentUser, InOwnKey("Root3", "A")));
+  EXPECT_FALSE(machine.KeyExists(os::kHkeyUsers, "A"));
+}
+
+TEST_F(PrivateSystem, APathByNamesLeadsThereStepByStep) {
+  shell::RegistryPaths paths(Registry());
+  paths.CreateRegistryKey("A\\B", os::kHkeyLocalMachine);
+  const std::int32_t key = paths.GetSubkeyHandle("HKEY_LOCAL_MACHINE\\A\\B");
+  ASSERT_NE(key, shell::RegistryPaths::kNoKey);
+  EXPECT_FALSE(paths.CloseSubkey(key));
+}
+
+TEST_F(PrivateSystem, TheRootsThemselvesTakeAndHaveNothing) {
+  std::uint8_t byte = 0;
+  std::uint32_t type = 0;
+  std::uint32_t size_bytes = 1;
+  EXPECT_EQ(Registry().RegSetValueExA(os::kHkeyCurrentUser, "A", os::kRegBinary, &byte, 1),
+            os::kErrorAccessDenied);
+  EXPECT_EQ(Registry().RegDeleteValueA(os::kHkeyCurrentUser, "A"), os::kErrorAccessDenied);
+  EXPECT_EQ(Registry().RegQueryValueExA(os::kHkeyCurrentUser, "A", type, &byte, size_bytes),
+            os::kErrorFileNotFound);
+}
+
+TEST_F(PrivateSystem, TheStatisticIsTheRealOneAndCanOnlyBeRead) {
+  machine.CreateRegistryKey(os::kHkeyDynData, "PerfStats\\StatData");
+  os::KeyHandle key = 0;
+  ASSERT_EQ(Registry().RegOpenKeyExA(os::kHkeyDynData, "PerfStats\\StatData", os::kKeyQueryValue, key),
+            os::kErrorSuccess);
+  EXPECT_EQ(Registry().RegCloseKey(key), os::kErrorSuccess);
+  EXPECT_EQ(Registry().RegOpenKeyExA(os::kHkeyDynData, "PerfStats\\StatData", os::kKeyAllAccess, key),
+            os::kErrorAccessDenied);
+}
+
+TEST_F(PrivateSystem, FilesAreChangedInTheOwnFolderOnly) {
+  machine.WriteFile("C:\\A.TXT", "a");
+  EXPECT_FALSE(Files().DeleteFileA("C:\\A.TXT"));
+  EXPECT_FALSE(Files().DeleteFileA("A.TXT"));
+  EXPECT_FALSE(Files().CopyFileA("C:\\A.TXT", "C:\\B.TXT"));
+  EXPECT_FALSE(Files().MoveFileA("C:\\A.TXT", "C:\\TEMP\\QDIXTEST\\A.TXT"));
+  EXPECT_EQ(Files().CreateFileA("C:\\A.TXT", os::kGenericWrite, os::kOpenExisting), os::kInvalidFile);
+  EXPECT_EQ(Files().CreateFileA("C:\\N.TXT", os::kGenericRead, os::kOpenAlways), os::kInvalidFile);
+  EXPECT_EQ(Files().CreateFileA("C:\\TEMP\\QDIXTEST\\..\\N.TXT", os::kGenericWrite, os::kCreateAlways),
+            os::kInvalidFile);
+  EXPECT_EQ(machine.ReadFile("C:\\A.TXT"), "a");
+
+  EXPECT_TRUE(Files().CopyFileA("C:\\A.TXT", "C:\\TEMP\\QDIXTEST\\A.TXT"));
+  EXPECT_TRUE(Files().MoveFileA("c:\\temp\\qdixtest\\A.TXT", "C:\\TEMP\\QDIXTEST\\B.TXT"));
+  EXPECT_EQ(machine.ReadFile("C:\\TEMP\\QDIXTEST\\B.TXT"), "a");
+  EXPECT_TRUE(Files().DeleteFileA("C:\\TEMP\\QDIXTEST\\B.TXT"));
+}
+
+TEST_F(PrivateSystem, SystemIniIsOneOfItsOwn) {
+  char text[16] = {};
+  EXPECT_TRUE(ProfileFiles().WritePrivateProfileStringA("vcache", "MinFileCache", "1", "system.ini"));
+  EXPECT_EQ(
+      ProfileFiles().GetPrivateProfileStringA("vcache", "MinFileCache", "", text, sizeof text, "system.ini"),
+      1U);
+  EXPECT_EQ(text[0], '1');
+  EXPECT_FALSE(ProfileFiles().WritePrivateProfileStringA("vcache", "A", "1", "C:\\WINDOWS\\system.ini"));
+  EXPECT_TRUE(machine.ReadFile("C:\\TEMP\\QDIXTEST\\system.ini").has_value());
+}
+
+TEST_F(PrivateSystem, TheFolderOfWindowsIsItsOwn) {
+  char folder[32] = {};
+  EXPECT_EQ(Files().GetWindowsDirectoryA(folder, sizeof folder), std::string_view(kOwnFolder).size());
+  EXPECT_STREQ(folder, kOwnFolder);
+  EXPECT_EQ(Files().GetWindowsDirectoryA(folder, 4), std::string_view(kOwnFolder).size() + 1);
+}
+
+TEST_F(PrivateSystem, MemoryIsTakenInSmallBlocksAndCounted) {
+  os::Memory& memory = system.GetSystem().memory;
+  EXPECT_EQ(memory.VirtualAlloc(self_test::LimitedMemory::kMostBytes + 1), nullptr);
+  {
+    memory::MemoryBlock block(memory);
+    EXPECT_TRUE(block.Allocate(999999).Ok());
+    EXPECT_EQ(system.Memory().Taken(), 1);
+    EXPECT_EQ(system.Memory().GivenBack(), 0);
+  }
+  EXPECT_EQ(system.Memory().GivenBack(), 1);
+  EXPECT_EQ(system.Memory().TouchedBytes(), 1000000U);
+}
+
+TEST_F(PrivateSystem, WhatIsSaidIsKeptInOneLineUntilItIsAskedFor) {
+  os::Dialogs& dialogs = system.GetSystem().dialogs;
+  EXPECT_EQ(dialogs.MessageBoxA("one\r\ntwo", "", os::kMbYesNo), os::kIdNone);
+  EXPECT_EQ(dialogs.MessageBoxA("three", "", os::kMbOk), os::kIdNone);
+  EXPECT_EQ(system.Dialogs().TakeTexts(), "one  two / three");
+  EXPECT_EQ(system.Dialogs().TakeTexts(), "");
+}
+
+TEST_F(PrivateSystem, AFirstStartAndAHandOnEverythingLeaveTheMachineAlone) {
+  const auto form1 = std::make_unique<app::Form1>(system.GetSystem());
+  form1->Start();
+  ASSERT_FALSE(form1->Window().Unloaded()) << system.Dialogs().TakeTexts();
+  for (int tab = 0; tab < form1->MainWindow().SSTab1.Count(); ++tab) {
+    form1->MainWindow().SSTab1.ChooseTab(tab);
+    for (ui::Button* button : {&form1->Startup().Command5, &form1->Quondix().Command21}) button->Press();
+    form1->Startup().Check2.Press();
+    form1->Startup().Check4.Press();
+  }
+  form1->Window().Unload();
+  EXPECT_EQ(shell::SettingsStore(Registry()).GetNumber(shell::kSettingsSection, "LastTab", -1), 7);
+}
+
+}  // namespace
+}  // namespace qdix::tests
