@@ -2,22 +2,31 @@
 
 namespace qdix::shell {
 
-std::string ApplicationFolder(os::Processes& processes) {
-  std::string folder = processes.ModuleFileName();
-  const std::size_t last = folder.rfind('\\');
-  folder.resize(last == std::string::npos ? 0 : last);
-  return folder + '\\';
+namespace {
+
+std::string FolderOf(std::string path) {
+  const std::size_t last = path.rfind('\\');
+  path.resize(last == std::string::npos ? 0 : last);
+  return path + '\\';
 }
 
-std::string ApplicationFileName(os::Processes& processes) {
-  const std::string path = processes.ModuleFileName();
+std::string NameWithoutExtension(const std::string& path) {
   const std::string file = path.substr(path.rfind('\\') + 1);
   return file.substr(0, file.rfind('.'));
 }
 
+}  // namespace
+
+std::string ApplicationFolder(os::Processes& processes) { return FolderOf(processes.ModuleFileName()); }
+
+std::string ApplicationFileName(os::Processes& processes) {
+  return NameWithoutExtension(processes.ModuleFileName());
+}
+
 std::string ProgramPath(os::Processes& processes) {
-  const std::string name = ApplicationFileName(processes);
-  return name.empty() ? std::string() : ApplicationFolder(processes) + name + ".exe";
+  const std::string path = processes.ModuleFileName();
+  const std::string name = NameWithoutExtension(path);
+  return name.empty() ? std::string() : FolderOf(path) + name + ".exe";
 }
 
 }  // namespace qdix::shell

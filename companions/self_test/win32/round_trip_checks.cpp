@@ -86,6 +86,7 @@ Outcome FindAgain(MainProgram& open) {
   if (SendMessageA(open.WindowOf(startup.Slider7), TBM_GETPOS, 0, 0) != kSliderPosition) {
     return Outcome::Failed("the position of the slider is lost");
   }
+  form1.MainWindow().SSTab1.ChooseTab(screens::kLauncherTab);
   return Outcome::Expect(RowOf(open.WindowOf(form1.Launcher().List5), 0) == kProgramName,
                          "the list of programs is lost");
 }

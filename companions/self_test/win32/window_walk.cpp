@@ -20,14 +20,17 @@ HWND StandsOn(HWND main, const ui::Form& form, const ui::Control& control) {
   return page == nullptr ? main : GetDlgItem(main, ui::NumberOf(form, page->Name()));
 }
 
+bool IsOnOpenPage(const ui::Control& control) {
+  const ui::Control* const page = PageOf(control);
+  return page == nullptr || static_cast<const ui::TabPage*>(page)->Open();
+}
+
 bool ShouldBeSeen(const ui::Control& control) {
   for (const ui::Control* level = &control; level != nullptr; level = level->Parent()) {
     if (!level->Visible()) return false;
-    if (level->GetKind() == ui::Kind::kTabPage && !static_cast<const ui::TabPage*>(level)->Open()) {
-      return false;
-    }
   }
-  return true;
+  const bool is_page = control.GetKind() == ui::Kind::kTabPage;
+  return is_page ? static_cast<const ui::TabPage&>(control).Open() : IsOnOpenPage(control);
 }
 
 bool CarriesCaption(ui::Kind kind) {
@@ -72,7 +75,7 @@ class WindowWalk {
  private:
   [[nodiscard]] const char* FaultOf(const ui::Control& control) const {
     HWND const window = WindowOf(main_, form_, control);
-    if (window == nullptr) return "has no window";
+    if (window == nullptr) return IsOnOpenPage(control) ? "has no window" : nullptr;
     if ((IsWindowVisible(window) != FALSE) != ShouldBeSeen(control)) return "is shown or hidden by mistake";
     const auto caption_length = static_cast<int>(control.Caption().size());
     if (CarriesCaption(control.GetKind()) && GetWindowTextLengthA(window) < caption_length) {
