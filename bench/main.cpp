@@ -17,7 +17,7 @@ int main() {
   using namespace qdix::bench;
   const qdix::e2e::ProgramRegistry before;
   std::vector<Row> rows = MeasureSizes();
-  rows.push_back(MeasureStart());
+  Add(rows, MeasureStart());
   Add(rows, MeasureIdle());
   rows.push_back(MeasureRelease());
   rows.push_back(MeasureTicks());

@@ -10,7 +10,7 @@ namespace qdix::bench {
 /// Bytes of the shipped exes.
 [[nodiscard]] std::vector<Row> MeasureSizes();
 /// From the request to start a program until its window is shown.
-[[nodiscard]] Row MeasureStart();
+[[nodiscard]] std::vector<Row> MeasureStart();
 /// Private committed memory, and processor time over a minute with the window shown and with it hidden.
 [[nodiscard]] std::vector<Row> MeasureIdle();
 /// A large release less a small one, which pumps as often, beside a loop that takes, touches and frees as

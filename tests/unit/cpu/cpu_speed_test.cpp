@@ -131,7 +131,7 @@ TEST(CpuSpeedAtLoad, ClockIsMeasuredOnce) {
   processor.SetLeaf(0, {.eax = 1, .ebx = 0x756e6547, .ecx = 0x6c65746e, .edx = 0x49656e69});
   processor.SetLeaf(1, {.eax = 0x52C, .edx = 0x1BF});
   rig.Start();
-  EXPECT_EQ(std::count(rig.machine.Calls().begin(), rig.machine.Calls().end(), "CountCycles(30)"), 1);
+  EXPECT_EQ(std::count(rig.machine.Calls().begin(), rig.machine.Calls().end(), "CountCycles(10)"), 1);
 }
 
 TEST(CpuSpeedAtLoad, ClockIsMeasuredBeforeTheStatisticIsStarted) {
@@ -143,7 +143,7 @@ TEST(CpuSpeedAtLoad, ClockIsMeasuredBeforeTheStatisticIsStarted) {
   processor.SetLeaf(1, {.eax = 0x52C, .edx = 0x1BF});
   rig.Start();
   const std::vector<std::string>& calls = rig.machine.Calls();
-  const auto measured = std::find(calls.begin(), calls.end(), "CountCycles(30)");
+  const auto measured = std::find(calls.begin(), calls.end(), "CountCycles(10)");
   const auto is_start = [](const std::string& call) {
     return call.starts_with("RegOpenKeyExA(HKDD\\PerfStats\\StartStat");
   };
