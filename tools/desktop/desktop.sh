@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# A private screen of 800 x 600 with a Windows desktop, its taskbar and its notification area on it.
+# A private screen with a Windows desktop, its taskbar and its notification area on it: 800 x 600 in true colour, or
+# what QDIX_SCREEN (640x480) and QDIX_DEPTH (8 bits for each pixel, few colours that nobody can change) say.
 #   desktop.sh run COMMAND [ARGUMENT...]   runs the command in there (DISPLAY set) and passes its exit code on
 #   desktop.sh photo FILE.png              takes a picture of the whole screen; called by a command that runs in there
 # Programs started with tools/wine/wine.sh appear in the desktop and get a button in the taskbar. When the command
@@ -9,7 +10,10 @@ set -euo pipefail
 tools_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 readonly tools_dir
 readonly wine="$tools_dir/wine/wine.sh"
-readonly screen=800x600
+readonly screen=${QDIX_SCREEN:-800x600}
+readonly depth=${QDIX_DEPTH:-24}
+# Where colours are few, a palette that programs can change would be empty at first: the X server's class 2 has a fixed one.
+readonly colour_class=$((depth > 8 ? 4 : 2))
 readonly start_limit_s=60
 readonly lock_limit_s=1800
 readonly leftover_limit_s=20
@@ -54,8 +58,8 @@ clean_up() {
 
 # Starts the X server on a number that it finds free itself, and sets DISPLAY.
 start_screen() {
-  "${with_this_script[@]}" Xvfb -displayfd 3 -screen 0 "${screen}x24" -dpi 96 -nolisten tcp -noreset 3>"$state_dir/number" \
-    >"$state_dir/screen.log" 2>&1 9>&- </dev/null &
+  "${with_this_script[@]}" Xvfb -displayfd 3 -screen 0 "${screen}x$depth" -cc "$colour_class" -dpi 96 -nolisten tcp -noreset \
+    3>"$state_dir/number" >"$state_dir/screen.log" 2>&1 9>&- </dev/null &
   screen_pid=$!
   local deadline=$((SECONDS + start_limit_s))
   until [ -s "$state_dir/number" ]; do
@@ -75,7 +79,8 @@ start_screen() {
 taskbar_is_there() {
   local id
   for id in $(xwininfo -root -tree 2>/dev/null |
-    awk '/"explorer.exe"/ && / 800x[0-9]+\+0\+/ && !/800x600/ { print $1 }'); do
+    awk -v screen="$screen" '/"explorer.exe"/ && $0 ~ " " substr(screen, 1, index(screen, "x")) "[0-9]+\\+0\\+" &&
+      !index($0, screen) { print $1 }'); do
     if xwininfo -id "$id" 2>/dev/null | grep -q 'Map State: IsViewable'; then return 0; fi
   done
   return 1
@@ -170,7 +175,7 @@ case "${1:-}" in
     photo "$2"
     ;;
   *)
-    sed -n '2,6s/^# \{0,1\}//p' "${BASH_SOURCE[0]}" >&2
+    sed -n '2,7s/^# \{0,1\}//p' "${BASH_SOURCE[0]}" >&2
     exit 2
     ;;
 esac

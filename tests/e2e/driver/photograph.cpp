@@ -1,6 +1,8 @@
 // A Windows program under Wine can start a program of the host by its path.
 #include "tests/e2e/driver/photograph.h"
 
+#include <cstdlib>
+
 #include "tests/e2e/driver/file_keeper.h"
 #include "tests/e2e/driver/polling.h"
 
@@ -27,7 +29,8 @@ bool MakeFile(const std::string& command, const std::string& file) {
 }
 
 std::string PhotoFile(const std::string& name) {
-  return std::string(QDIX_SOURCE_DIR) + "/build/photos/" + name;
+  const char* const folder = std::getenv("QDIX_PHOTOS");
+  return std::string(QDIX_SOURCE_DIR) + "/build/photos/" + (folder != nullptr ? folder : ".") + "/" + name;
 }
 
 }  // namespace

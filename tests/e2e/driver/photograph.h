@@ -9,7 +9,7 @@
 
 namespace qdix::e2e {
 
-/// Leaves build/photos/NAME.png; false when no picture could be taken.
+/// Leaves build/photos/NAME.png, or build/photos/$QDIX_PHOTOS/NAME.png; false when no picture could be taken.
 [[nodiscard]] bool Photograph(const std::string& name);
 
 /// What a user sees in this part of the screen, three bytes a pixel, line by line: red, green, blue. Empty
