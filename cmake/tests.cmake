@@ -98,6 +98,7 @@ else()
   qdix_test(contract_tests SOURCES ${contract_sources} LIBRARIES qdix_simulated)
   file(GLOB fuzz_sources CONFIGURE_DEPENDS tests/fuzz/*.cpp)
   qdix_test(fuzz_tests SOURCES ${fuzz_sources} LIBRARIES qdix_simulated ${companion_libraries})
+  target_compile_definitions(fuzz_tests PRIVATE QDIX_CORPUS="${CMAKE_SOURCE_DIR}/tests/fuzz/corpus")
   file(GLOB soak_sources CONFIGURE_DEPENDS tests/soak/*.cpp)
   qdix_test(soak_tests SOURCES ${soak_sources} LIBRARIES qdix_simulated)
 

@@ -2,6 +2,7 @@
 // as it was shown. Random hands on the window lose nothing either. A failing run prints its seed.
 #include <gtest/gtest.h>
 
+#include "tests/fuzz/corpus.h"
 #include "tests/fuzz/random_list_maker.h"
 #include "tests/support/run_length.h"
 #include "tests/unit/config_launcher/config_rig.h"
@@ -16,8 +17,9 @@ class RandomLists : private RandomListMaker {
  public:
   using RandomListMaker::RandomListMaker;
 
-  void Run() {
-    const std::string before = RandomFile();
+  void Run() { RunWith(RandomFile()); }
+
+  void RunWith(const std::string& before) {
     rig_.machine.WriteFile(kListPath, before);
     rig_.Start();
     ExpectShowable();
@@ -101,6 +103,20 @@ TEST(LauncherListFuzz, AnyBytesAndAnyHands) {
   for (unsigned seed = 1; seed <= kRuns; ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     RandomLists(seed).Run();
+    if (HasFailure()) return;
+  }
+}
+
+TEST(LauncherListFuzz, CorpusWholeAndDamagedAndAnyHands) {
+  constexpr unsigned kDamages = 6;
+  for (const CorpusFile& file : CorpusOf("launcher")) {
+    SCOPED_TRACE(file.name);
+    RandomLists(FirstSeed()).RunWith(file.bytes);
+    RandomSource random(FirstSeed());
+    for (unsigned i = 0; i < kDamages; ++i) {
+      SCOPED_TRACE("damage " + std::to_string(i) + " of seed " + std::to_string(FirstSeed()));
+      RandomLists(FirstSeed() + i).RunWith(Damaged(file.bytes, random));
+    }
     if (HasFailure()) return;
   }
 }

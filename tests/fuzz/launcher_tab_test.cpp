@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "base/text.h"
+#include "tests/fuzz/corpus.h"
 #include "tests/fuzz/random_list_maker.h"
 #include "tests/support/program_rig.h"
+#include "tests/support/run_length.h"
 
 namespace qdix::tests {
 namespace {
@@ -29,9 +31,9 @@ std::string FieldOf(const std::string& file, std::size_t record, std::size_t fie
 /// Length by 565, to the nearest whole number; no length is exactly between two.
 std::size_t RecordsOf(const std::string& file) { return (file.size() + 282) / 565; }
 
-class RandomTab {
+class TabWithFile {
  public:
-  explicit RandomTab(unsigned seed) : maker_(seed), file_(maker_.RandomFile()) {}
+  explicit TabWithFile(std::string file) : file_(std::move(file)) {}
 
   void Run() {
     rig_.SetHasRunBefore();
@@ -81,7 +83,6 @@ class RandomTab {
     }
   }
 
-  RandomListMaker maker_;
   const std::string file_;
   ProgramRig rig_;
 };
@@ -89,7 +90,21 @@ class RandomTab {
 TEST(LauncherTabFuzz, AnyBytesAreShownTriedAndLeftAlone) {
   for (unsigned seed = 1; seed <= kRuns; ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
-    RandomTab(seed).Run();
+    TabWithFile(RandomListMaker(seed).RandomFile()).Run();
+    if (HasFailure()) return;
+  }
+}
+
+TEST(LauncherTabFuzz, CorpusIsShownTriedAndLeftAloneWholeAndDamaged) {
+  constexpr int kDamages = 6;
+  for (const CorpusFile& file : CorpusOf("launcher")) {
+    SCOPED_TRACE(file.name);
+    TabWithFile(file.bytes).Run();
+    RandomSource random(FirstSeed());
+    for (int i = 0; i < kDamages; ++i) {
+      SCOPED_TRACE("damage " + std::to_string(i) + " of seed " + std::to_string(FirstSeed()));
+      TabWithFile(Damaged(file.bytes, random)).Run();
+    }
     if (HasFailure()) return;
   }
 }

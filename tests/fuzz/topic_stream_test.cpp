@@ -7,6 +7,8 @@
 
 #include "help_viewer/packed_stream.h"
 #include "help_viewer/pane_picture.h"
+#include "tests/fuzz/corpus.h"
+#include "tests/support/run_length.h"
 #include "tests/unit/help_viewer/help_rig.h"
 
 namespace qdix::tests {
@@ -18,6 +20,7 @@ constexpr int kActionsPerRun = 60;
 class RandomHelp {
  public:
   explicit RandomHelp(unsigned seed) : random_(seed), rig_(RandomStream()) {}
+  RandomHelp(unsigned seed, const std::string& stream) : random_(seed), rig_(stream) {}
 
   void Run() {
     rig_.Start(Chance(2) ? std::to_string(random_() % 8) : RandomText(6));
@@ -129,6 +132,20 @@ TEST(TopicStreamFuzz, AnyStreamAndAnyHands) {
   for (unsigned seed = 1; seed <= kRuns; ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     RandomHelp(seed).Run();
+    if (testing::Test::HasFailure()) return;
+  }
+}
+
+TEST(TopicStreamFuzz, CorpusWholeAndDamagedAndAnyHands) {
+  constexpr unsigned kDamages = 20;
+  for (const CorpusFile& file : CorpusOf("topics")) {
+    SCOPED_TRACE(file.name);
+    RandomHelp(FirstSeed(), file.bytes).Run();
+    RandomSource random(FirstSeed());
+    for (unsigned i = 0; i < kDamages; ++i) {
+      SCOPED_TRACE("damage " + std::to_string(i) + " of seed " + std::to_string(FirstSeed()));
+      RandomHelp(FirstSeed() + i, Damaged(file.bytes, random)).Run();
+    }
     if (testing::Test::HasFailure()) return;
   }
 }

@@ -1,0 +1,90 @@
+// Any system.ini under the tuning tabs and under the program that puts their changes back: whatever stands in
+// it, what other programs keep there stays, the backup is what the file was, and nothing is left open. A
+// failing run prints its seed.
+#include <gtest/gtest.h>
+
+#include "tests/fuzz/corpus.h"
+#include "tests/support/run_length.h"
+#include "tests/support/tuning_rig.h"
+#include "undo/undo_form.h"
+
+namespace qdix::tests {
+namespace {
+
+constexpr const char* kOthers = "[OtherProgram]\r\nKeep=this line\r\n";
+
+/// A machine whose system.ini is `ini` with the lines of another program behind.
+class MachineWithIni {
+ public:
+  explicit MachineWithIni(const std::string& ini) : before_(ini + "\r\n" + kOthers) {
+    rig_.WriteSystemIni(before_);
+    rig_.machine.WhileBoxIsOpen([this] { AnswerBox(); });
+  }
+
+  void Run() {
+    Tune();
+    EXPECT_NE(rig_.SystemIni(), before_);
+    ExpectSound();
+    PutBack();
+    ExpectSound();
+  }
+
+ private:
+  /// Every question is answered with Yes but that for the restart.
+  void AnswerBox() {
+    const auto& box = rig_.machine.Boxes().back();
+    const bool asks = (box.flags & os::kMbYesNo) != 0;
+    const bool restarts = box.text.find("restart") != std::string::npos;
+    rig_.machine.AnswerNextBox(!asks ? os::kIdOk : restarts ? os::kIdNo : os::kIdYes);
+  }
+
+  void Tune() {
+    rig_.StartAt(screens::kCacheTab);
+    ASSERT_FALSE(rig_.program->Window().Unloaded());
+    rig_.program->Cache().Combo2.Choose("Multimedia (Win95)");
+    rig_.program->Cache().Command11.Press();
+    rig_.program->MainWindow().SSTab1.ChooseTab(screens::kSwapFileTab);
+    rig_.program->SwapFile().optSwap2.Press();
+    rig_.program->SwapFile().Text8.SetText("192");
+    rig_.program->SwapFile().Command18.Press();
+    rig_.End();
+  }
+
+  void PutBack() {
+    rig_.machine.SetModuleFileName("C:\\Program Files\\QDIX\\undo.exe");
+    undo::UndoForm form(rig_.machine.GetSystem());
+    form.Start();
+    form.Screen().cmdPutBack.Press();
+    form.Window().Unload();
+    rig_.machine.EndProcess();
+  }
+
+  void ExpectSound() {
+    const std::string now = rig_.SystemIni();
+    EXPECT_NE(now.find(kOthers), std::string::npos) << now;
+    EXPECT_EQ(rig_.machine.ReadFile(kBackupPath), before_);
+    EXPECT_EQ(rig_.machine.OpenKeyCount(), 0);
+    EXPECT_EQ(rig_.machine.OpenFileCount(), 0);
+    EXPECT_TRUE(rig_.machine.Misuses().empty());
+  }
+
+  TuningRig rig_;
+  const std::string before_;
+};
+
+TEST(SystemIniFuzz, CorpusWholeAndDamagedIsTunedAndPutBack) {
+  constexpr int kDamages = 25;
+  for (const CorpusFile& file : CorpusOf("system_ini")) {
+    SCOPED_TRACE(file.name);
+    MachineWithIni(file.bytes).Run();
+    RandomSource random(FirstSeed());
+    for (int i = 0; i < kDamages; ++i) {
+      SCOPED_TRACE("damage " + std::to_string(i) + " of seed " + std::to_string(FirstSeed()));
+      MachineWithIni(Damaged(file.bytes, random)).Run();
+    }
+    if (HasFailure()) return;
+  }
+}
+
+}  // namespace
+}  // namespace qdix::tests
