@@ -17,16 +17,17 @@ struct TimeIntervalsScreen {
                        .access_key = 'A',
                        .tool_tip = "Must be ticked for Timed freeups to take place",
                        .place = {11, 14, 120, 10}}};
-  ui::Label lblUnit{FrameTime,
-                    {.name = "lblUnit", .caption = "Release RAM every:", .place = {11, 32, 66, 8}}};
+  ui::Label lblUnit{
+      FrameTime,
+      {.name = "lblUnit", .caption = "Release RAM every:", .access_key = 'R', .place = {11, 32, 66, 8}}};
+  ui::ListBox lstTime{
+      FrameTime,
+      {.name = "lstTime", .tool_tip = "Time interval at which RAM is Released", .place = {11, 42, 60, 51}}};
   ui::Frame FrameUnit{FrameTime, {.name = "FrameUnit", .caption = "Unit", .place = {78, 38, 62, 38}}};
   ui::OptionButton Option4{
       FrameUnit, {.name = "Option4", .caption = "Minutes", .access_key = 'n', .place = {84, 49, 50, 10}}};
   ui::OptionButton Option5{
       FrameUnit, {.name = "Option5", .caption = "Hours", .access_key = 'o', .place = {84, 62, 50, 10}}};
-  ui::ListBox lstTime{
-      FrameTime,
-      {.name = "lstTime", .tool_tip = "Time interval at which RAM is Released", .place = {11, 42, 60, 51}}};
   ui::Label lblTimeAmount{FrameTime,
                           {.name = "lblTimeAmount",
                            .caption = "Amount of RAM to Release:",

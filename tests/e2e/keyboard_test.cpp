@@ -1,4 +1,6 @@
 // The shipped exe under the real keyboard.
+#include <algorithm>
+
 #include "tests/e2e/driver/hand.h"
 #include "tests/e2e/session.h"
 
@@ -98,6 +100,35 @@ TEST_F(KeyboardSession, ControlTabWalksAllTabsAndBack) {
   }
   PressKeyWith(VK_CONTROL, VK_PRIOR);
   EXPECT_TRUE(program.Await([&] { return program.OpenedTab() == 7; }, kKeyDeadlineMs));
+  CloseProgram();
+}
+
+/// What is greyed at the start, and all but the chosen one of a group of options, is passed over.
+TEST_F(KeyboardSession, TabKeyReachesEveryControlOfEachTabInReadingOrder) {
+  const std::vector<std::vector<std::string>> orders{
+      {"List1", "Text1", "VScroll1", "Command1", "Command3", "Command4", "Command2", "Command21"},
+      {"Check1", "Text2", "VScroll2", "List2", "List4", "Check9", "Text9", "Command7", "Command22"},
+      {"Check3", "lstTime", "Option4", "List3", "Check10", "Text10", "Command23"},
+      {"Check2", "Command5", "Combo1", "Text3", "VScroll3", "Option1", "Slider7", "Check4", "Command24"},
+      {"List5", "Command15", "Option9", "Slider_6(0)", "Command16"},
+      {"Combo2", "Check5", "Check6", "Check7", "Check8", "Command11", "Command14", "Command19"},
+      {"optSwap1", "Command26", "Command18", "Command20"},
+      {"Command6", "Command17"}};
+  StartInFront();
+  PutKeyboardOn("List1");
+  PressKeyWith(VK_SHIFT, VK_TAB);
+  for (std::size_t tab = 0; tab < orders.size(); ++tab) {
+    ExpectKeyboardOn("SSTab1");
+    for (const std::string& name : orders[tab]) {
+      PressKey(VK_TAB);
+      ExpectKeyboardOn(name);
+    }
+    PressKey(VK_TAB);
+    ExpectKeyboardOn("SSTab1");
+    PressKey(VK_RIGHT);
+    const auto next = static_cast<int>(std::min(tab + 1, orders.size() - 1));
+    EXPECT_TRUE(program.Await([&] { return program.OpenedTab() == next; }, kKeyDeadlineMs)) << next;
+  }
   CloseProgram();
 }
 
