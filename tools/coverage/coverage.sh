@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Measures how much of the portable program (src/ and companions/ without what is Windows' own or simulated)
-# the unit, contract, fuzz and soak tests run:   coverage.sh [BUILD_DIRECTORY]
-# Fails below 95 % of lines or 90 % of branches. The report of each file goes to build/coverage/report.txt, its
-# lines to build/coverage/report/index.html.
+# the unit, contract, fuzz and soak tests run. Fails below 95 % of lines or 90 % of branches. The figures of each file go
+# to build/coverage/lines.txt, its lines to build/coverage/report/index.html. The self-test's checks of a real machine
+# count as not run.
 #
 # Branches are counted in code compiled without exceptions, as it ships, and unoptimised. Left out are those that
 # gcov marks as made by the compiler for exceptions, and lines that can only be reached by a wrong program.
