@@ -93,6 +93,33 @@ TEST(HelpPrint, PagesEndBetweenLines) {
   EXPECT_EQ(help_viewer::Paginate(layout, 5).size(), 10U)
       << "a line that is higher than the paper has a page";
   EXPECT_EQ(help_viewer::Paginate({}, 35).size(), 1U);
+  EXPECT_EQ(help_viewer::Paginate(layout, 30).size(), 4U) << "three lines fill it to the last pixel";
+  EXPECT_EQ(help_viewer::Paginate(layout, 29).size(), 5U);
+}
+
+TEST(HelpPrint, MarginIsHalfAnInchOrAQuarterOfSmallPaper) {
+  const auto margin_px = [](const os::PrinterPage& paper) {
+    HelpRig rig;
+    rig.printer.page = paper;
+    rig.Start("4");
+    rig.Screen().cmdPrint.Press();
+    EXPECT_EQ(rig.printer.pages.at(0).at(0).left, rig.printer.pages.at(0).at(0).top);
+    return rig.printer.pages.at(0).at(0).left;
+  };
+  EXPECT_EQ(margin_px({.width_px = 800, .height_px = 600, .dots_an_inch = 100}), 50);
+  EXPECT_EQ(margin_px({.width_px = 160, .height_px = 600, .dots_an_inch = 100}), 40);
+  EXPECT_EQ(margin_px({.width_px = 800, .height_px = 120, .dots_an_inch = 100}), 30);
+}
+
+TEST(HelpPrint, LinesAreWrappedWithinBothMargins) {
+  // 100 pixels less two margins of 25 leave room for six letters and not for seven.
+  HelpRig rig("@3\tOne\nPab cde f\n");
+  rig.printer.page = {.width_px = 100, .height_px = 600, .dots_an_inch = 100};
+  rig.Start("3");
+  rig.Screen().cmdPrint.Press();
+  std::vector<std::string> texts;
+  for (const auto& drawn : rig.printer.pages.at(0)) texts.push_back(drawn.text);
+  EXPECT_EQ(texts, (std::vector<std::string>{"One", "ab cde", "f"}));
 }
 
 TEST(HelpPrint, CancelPrintsNothingAndSaysNothing) {

@@ -74,6 +74,18 @@ TEST(HelpReading, LinkToTheTopicThatItStandsInGoesBackToItsTop) {
   EXPECT_FALSE(rig.Screen().cmdBack.Enabled()) << "it is no step to come back from";
 }
 
+TEST(HelpReading, FiftyStepsBackAreRememberedAndStayingIsNone) {
+  HelpRig rig;
+  rig.Start("4");
+  const auto open = [&rig](const char* row) { rig.Screen().lstContents.Choose(row); };
+  open("    Files");
+  for (int step = 1; step < 50; ++step) open(step % 2 == 0 ? "    Files" : "    About");
+  open(rig.Title() == "Files" ? "    Files" : "    About");
+  for (int step = 0; step < 50; ++step) rig.Screen().cmdBack.Press();
+  EXPECT_EQ(rig.Title(), "Memory");
+  EXPECT_FALSE(rig.Screen().cmdBack.Enabled());
+}
+
 TEST(HelpReading, EnterInTheContentsGoesToTheTopicToScrollIt) {
   HelpRig rig;
   rig.Start("");
