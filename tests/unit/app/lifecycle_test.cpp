@@ -284,16 +284,6 @@ INSTANTIATE_TEST_SUITE_P(Values, CpuLimits,
                                          Limit{"100", false}, Limit{"", false}, Limit{"4.9", false},
                                          Limit{"99.5", false}, Limit{"50", true}));
 
-TEST_F(Lifecycle, LimitBoxTakesDigitsAndBackspaceOnly) {
-  auto& program = Start();
-  program.MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
-  auto& box = program.Automatic().Text9;
-  box.SetFocus();
-  box.SelectAll();
-  box.TypeText("a6-.5x\b7");
-  EXPECT_EQ(box.Text(), "67");
-}
-
 TEST_F(Lifecycle, PauseStopsTheTimersAndResumeStartsThoseThatAreTicked) {
   auto& program = Start();
   auto& window = program.MainWindow();

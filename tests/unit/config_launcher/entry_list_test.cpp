@@ -64,6 +64,23 @@ TEST(ConfigEntryList, ChangeReplacesTheSelectedOne) {
   EXPECT_EQ(rig.Screen().lstPrograms.SelectedIndex(), 1);
 }
 
+TEST(ConfigEntryList, NothingMovesBeyondTheEndsOrWithoutASelection) {
+  ConfigRig rig(SomeEntries(2));
+  rig.Start();
+  // As an accelerator that comes late would, past the disabled buttons.
+  EXPECT_TRUE(rig.Screen().cmdMoveUp.OnClick().Ok());
+  EXPECT_EQ(rig.form->Entries(), SomeEntries(2));
+  rig.Screen().lstPrograms.ChooseIndex(1);
+  EXPECT_TRUE(rig.Screen().cmdMoveDown.OnClick().Ok());
+  EXPECT_EQ(rig.form->Entries(), SomeEntries(2));
+  rig.Type(kGame);
+  rig.Screen().cmdRemove.Press();
+  EXPECT_EQ(rig.Screen().lstPrograms.SelectedIndex(), ui::ListBox::kNoSelection);
+  EXPECT_TRUE(rig.Screen().cmdMoveDown.OnClick().Ok());
+  EXPECT_TRUE(rig.Screen().cmdMoveUp.OnClick().Ok());
+  EXPECT_EQ(rig.form->Entries(), SomeEntries(1));
+}
+
 TEST(ConfigEntryList, RemoveSelectsWhatComesNext) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();

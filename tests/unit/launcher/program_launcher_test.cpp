@@ -235,6 +235,23 @@ TEST_F(Launcher, MenuLeavesLabelAndListAlone) {
   EXPECT_GT(rig.machine.PumpCount(), 0);
 }
 
+TEST_F(Launcher, DrivesAreTheLettersFromAToZInEitherCase) {
+  const std::string letters = "AZaz";
+  const std::string others = "@[`{1";
+  std::vector<LauncherEntry> entries;
+  for (const char drive : letters + others) {
+    entries.push_back({std::string(1, drive), "calc", std::string(1, drive) + ":\\X"});
+  }
+  StartWith(entries);
+  for (std::size_t row = 0; row < entries.size(); ++row) Tab().List5.DoubleClick(static_cast<int>(row));
+  std::vector<std::string> drives_asked;
+  for (const std::string& call : Starts()) {
+    if (call.ends_with(":)")) drives_asked.push_back(call);
+  }
+  EXPECT_THAT(drives_asked, ElementsAre("SetCurrentDirectoryA(A:)", "SetCurrentDirectoryA(Z:)",
+                                        "SetCurrentDirectoryA(a:)", "SetCurrentDirectoryA(z:)"));
+}
+
 TEST_F(Launcher, MissingDriveIsToldAndTheRestGoesOn) {
   StartWith({{"Calculator", "calc", "X:\\GAMES"}});
   Tab().List5.DoubleClick(0);

@@ -38,6 +38,17 @@ TEST_F(DriveInfo, ExtendedQueryIsProbedOnDriveC) {
   EXPECT_FALSE(info.HasDiskFreeSpaceEx());
 }
 
+TEST_F(DriveInfo, ListIsLeftBehindTheLastDrive) {
+  AddFixed('C', 0);
+  AddFixed('D', 0);
+  EXPECT_EQ(Listed().size(), 2U);
+  Texts asked;
+  for (const std::string& call : machine.Calls()) {
+    if (call.starts_with("GetDriveTypeA")) asked.push_back(call);
+  }
+  EXPECT_EQ(asked, (Texts{"GetDriveTypeA(C:\\)", "GetDriveTypeA(D:\\)"}));
+}
+
 TEST_F(DriveInfo, ExtendedQueryTellsWholeByteCountsOfAnySize) {
   AddFixed('D', 3 * kGigabyte + 1, 40 * kGigabyte);
   info.SetUseDiskFreeSpaceEx(true);
