@@ -81,6 +81,23 @@ TEST(ConfigEntryList, NothingMovesBeyondTheEndsOrWithoutASelection) {
   EXPECT_EQ(rig.form->Entries(), SomeEntries(1));
 }
 
+TEST(ConfigEntryList, FieldThatIsMissingGetsTheKeyboardAfterTheMessage) {
+  ConfigRig rig;
+  rig.Start();
+  const auto focus_after = [&rig](const launcher::LauncherEntry& typed, const ui::TextBox& missing) {
+    rig.Type(typed);
+    rig.Screen().cmdAdd.SetFocus();
+    bool was_early = false;
+    rig.machine.WhileBoxIsOpen([&] { was_early = missing.HasFocus(); });
+    rig.Screen().cmdAdd.Press();
+    EXPECT_FALSE(was_early) << "the box would give it back to the button";
+    return missing.HasFocus();
+  };
+  EXPECT_TRUE(focus_after({"", "A.EXE", ""}, rig.Screen().txtName));
+  EXPECT_TRUE(focus_after({"A", "", ""}, rig.Screen().txtPath));
+  EXPECT_EQ(rig.machine.Boxes().size(), 2U);
+}
+
 TEST(ConfigEntryList, RemoveSelectsWhatComesNext) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();

@@ -110,6 +110,32 @@ TEST_F(HelpPicture, MarkedPlaceOfSeveralPiecesIsMarkedInEach) {
   EXPECT_EQ(rig.device.boxes[2].left, rig.device.boxes[1].left + 4 * 9);
 }
 
+/// Notes in which order boxes and texts are drawn.
+class OrderDevice final : public os::TextDevice {
+ public:
+  int GetTextExtentPoint32A(const os::FontLook& /*look*/, std::string_view text) override {
+    return static_cast<int>(text.size());
+  }
+  os::FontHeight GetTextMetricsA(const os::FontLook& /*look*/) override { return {}; }
+  void TextOutA(int /*left_px*/, int /*top_px*/, const os::FontLook& /*look*/, std::uint32_t /*colour*/,
+                std::string_view text) override {
+    drawn.emplace_back(text);
+  }
+  void FillRect(int /*left_px*/, int /*top_px*/, int /*width_px*/, int /*height_px*/,
+                std::uint32_t /*colour*/) override {
+    drawn.emplace_back("(box)");
+  }
+  std::vector<std::string> drawn;
+};
+
+TEST_F(HelpPicture, MarkedTextStandsOnItsBackgroundAndThatOnTheText) {
+  TopicPane& pane = Open("4");
+  pane.Mark("button");
+  OrderDevice device;
+  DrawLayout(device, pane.TheLayout(), {.first_px = 0, .end_px = 200}, {}, pane.Marked());
+  EXPECT_EQ(device.drawn, (std::vector<std::string>{"Memory", "Press the button.", "(box)", "button"}));
+}
+
 TEST_F(HelpPicture, MarkedCellIsNotTheOneBesideIt) {
   TopicPane& pane = Open("5");
   pane.Mark("100");

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "tests/support/control_bench.h"
 #include "tests/unit/help_viewer/help_rig.h"
@@ -120,6 +121,34 @@ TEST_F(HelpPane, LinkThatIsInViewToItsLastPixelIsNotScrolledTo) {
   EXPECT_EQ(scrolled_from(0, top_px + height_px - 1), 16 + 1) << "a line more than needed";
   EXPECT_EQ(scrolled_from(top_px, height_px), top_px);
   EXPECT_EQ(scrolled_from(top_px + 1, height_px), top_px - 16);
+}
+
+/// Notes where the pane stands at each change.
+class StandReader final : public ui::ControlPeer {
+ public:
+  void ControlChanged(ui::Control& control, ui::Change /*change*/) override {
+    const auto& pane = static_cast<const TopicPane&>(control);
+    stands.emplace_back(pane.ScrollPosition(), pane.FocusedLink());
+  }
+  std::vector<std::pair<int, int>> stands;
+};
+
+TEST_F(HelpPane, PeerFindsTheNewPositionAndTheNewLink) {
+  using Stands = std::vector<std::pair<int, int>>;
+  TopicPane& pane = Open("7");
+  StandReader reader;
+  pane.AttachPeer(&reader);
+  pane.ScrollTo(48);
+  pane.FocusLink(0);
+  EXPECT_EQ(reader.stands, (Stands{{48, -1}, {48, 0}}));
+  reader.stands.clear();
+  pane.Show(help_viewer::Topic(pane.Shown()));
+  EXPECT_EQ(reader.stands, (Stands{{0, -1}}));
+  pane.ScrollBy(Scroll::kBottom);
+  reader.stands.clear();
+  pane.SurfaceChanged(&rig.device, 2000, 200);
+  for (const auto& [position, link] : reader.stands) EXPECT_LE(position, Bottom());
+  EXPECT_FALSE(reader.stands.empty());
 }
 
 TEST_F(HelpPane, WithoutASurfaceNothingIsLaidOut) {
@@ -242,17 +271,17 @@ TEST_F(HelpPane, MarkedPlacesComeInOrderAndIntoView) {
 
 TEST_F(HelpPane, MarkedPlaceIsLookedForInThePieceThatHasIt) {
   constexpr int kLetterPx = 8;
-  HelpRig rig("@3\tOne\nPabcdefgh\n");
-  rig.Start("3");
-  rig.Pane().SurfaceChanged(&rig.device, 4 * kLetterPx + 16, 16);
-  const auto& pieces = rig.Pane().TheLayout().pieces;
+  HelpRig broken_word("@3\tOne\nPabcdefgh\n");
+  broken_word.Start("3");
+  broken_word.Pane().SurfaceChanged(&broken_word.device, 4 * kLetterPx + 16, 16);
+  const auto& pieces = broken_word.Pane().TheLayout().pieces;
   const auto second = std::find_if(pieces.begin(), pieces.end(), [](const help_viewer::Piece& piece) {
     return piece.characters == "efgh";
   });
   ASSERT_NE(second, pieces.end());
-  rig.Pane().Mark("ef");
+  broken_word.Pane().Mark("ef");
   // With a line above it.
-  EXPECT_EQ(rig.Pane().ScrollPosition(), second->top - 16)
+  EXPECT_EQ(broken_word.Pane().ScrollPosition(), second->top - 16)
       << "and not the piece that ends where the word begins";
 }
 

@@ -186,6 +186,70 @@ TEST_F(PeerReadsTheModel, BoundsOfAFormAndTheBorderOfADrawing) {
   EXPECT_EQ(meter_peer.seen, Seen{"none"});
 }
 
+TEST_F(PeerReadsTheModel, BeforeTheHandlerRuns) {
+  NotingPeer peer;
+  std::vector<std::size_t> told;
+  Handled handled;
+  handled.action = [&] { told.push_back(peer.changes.size()); };
+  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 0, .maximum = 10});
+  ui::TextBox text(bench.form, {.name = "Text"});
+  ui::ListBox list(bench.form, {.name = "List"});
+  ui::OptionButton option(bench.form, {.name = "Option"});
+  bar.OnChange = text.OnChange = list.OnClick = option.OnClick = bench.form.OnActivate = handled.Handler();
+  list.AddItem("a");
+  bench.form.Hide();
+  for (ui::Control* control :
+       {static_cast<ui::Control*>(&bar), static_cast<ui::Control*>(&text), static_cast<ui::Control*>(&list),
+        static_cast<ui::Control*>(&option), static_cast<ui::Control*>(&bench.form)}) {
+    control->AttachPeer(&peer);
+  }
+  EXPECT_TRUE(bar.SetValue(1).Ok());
+  text.SetText("a");
+  EXPECT_TRUE(list.SetSelectedIndex(0).Ok());
+  option.SetSelected(true);
+  bench.form.Show();
+  EXPECT_EQ(told, (std::vector<std::size_t>{1, 2, 3, 4, 5}));
+}
+
+TEST_F(PeerReadsTheModel, TabIsOpenAndTheFocusGoneBeforeItsHandlerRuns) {
+  constexpr ui::Design kPages[] = {{.name = "One"}, {.name = "Two"}};
+  ui::TabStrip strip(bench.form, {.name = "Tabs"}, kPages);
+  ui::Button button(strip.Page(0), {.name = "Button"});
+  button.SetFocus();
+  Seen order;
+  ReadingPeer peer([&] {
+    order.emplace_back("told");
+    return std::string();
+  });
+  strip.AttachPeer(&peer);
+  Handled lost;
+  lost.action = [&] { order.emplace_back("lost"); };
+  button.OnLostFocus = lost.Handler();
+  struct Opened {
+    Seen& order;
+    base::Status Run(int /*left*/) {
+      order.emplace_back("opened");
+      return base::kDone;
+    }
+  } opened{order};
+  strip.OnClick = base::Callback<base::Status(int)>::To<&Opened::Run>(opened);
+  EXPECT_TRUE(strip.SetTab(1).Ok());
+  EXPECT_EQ(order, (Seen{"told", "lost", "opened"}));
+}
+
+TEST_F(PeerReadsTheModel, WindowGoesWhenTheFormIsUnloadedAndNoHandlerRunsAnyMore) {
+  struct Window final : ui::FormPeer {
+    explicit Window(const ui::Form& its_form) : form(its_form) {}
+    void PopUp(ui::MenuItem& /*menu*/) override {}
+    void FormUnloaded() override { was_over = form.Unloaded() && form.Dispatcher().Stopped(); }
+    const ui::Form& form;
+    bool was_over = false;
+  } window(bench.form);
+  bench.form.AttachFormPeer(&window);
+  bench.form.Unload();
+  EXPECT_TRUE(window.was_over);
+}
+
 /// Reads a timer as the system's timer would be set.
 struct ReadingTimerPeer final : ui::TimerPeer {
   void TimerRestarted(ui::Timer& timer) override {
