@@ -305,13 +305,28 @@ TEST_F(Lifecycle, PauseStopsTheTimersAndResumeStartsThoseThatAreTicked) {
   EXPECT_FALSE(window.Timer2.Enabled()) << "its box is not ticked";
   EXPECT_FALSE(window.Timer3.Enabled()) << "a paused start-up release is lost";
   EXPECT_TRUE(window.Timer4.Enabled());
+  EXPECT_TRUE(program.Automatic().Check1.Enabled());
+  EXPECT_TRUE(program.TimeIntervals().Check3.Enabled());
   EXPECT_TRUE(program.TimeIntervals().lblNextRelease.Visible());
+}
+
+TEST_F(Lifecycle, ResumeLooksForLittleMemoryAgainWhereThatIsTicked) {
+  auto& program = Start();
+  program.MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
+  program.Automatic().Check1.Press();
+  ASSERT_TRUE(program.MainWindow().Timer2.Enabled());
+  program.MainWindow().SSTab1.ChooseTab(screens::kQuondixTab);
+  program.Quondix().Command3.Press();
+  EXPECT_FALSE(program.MainWindow().Timer2.Enabled());
+  program.Quondix().Command3.Press();
+  EXPECT_TRUE(program.MainWindow().Timer2.Enabled());
 }
 
 TEST_F(Lifecycle, ResumeWithoutTimedReleasesLeavesTheirLabelOff) {
   auto& program = Start();
   program.Quondix().Command3.Press();
   program.Quondix().Command3.Press();
+  EXPECT_TRUE(program.TimeIntervals().Check3.Enabled());
   EXPECT_FALSE(program.MainWindow().Timer4.Enabled());
   EXPECT_FALSE(program.TimeIntervals().lblNextRelease.Visible());
 }
