@@ -96,6 +96,7 @@ TEST(ConfigEntryList, FieldThatIsMissingGetsTheKeyboardAfterTheMessage) {
   EXPECT_TRUE(focus_after({"", "A.EXE", ""}, rig.Screen().txtName));
   EXPECT_TRUE(focus_after({"A", "", ""}, rig.Screen().txtPath));
   EXPECT_EQ(rig.machine.Boxes().size(), 2U);
+  EXPECT_TRUE(focus_after({"", "", ""}, rig.Screen().txtName)) << "one after the other";
 }
 
 TEST(ConfigEntryList, RemoveSelectsWhatComesNext) {

@@ -48,6 +48,24 @@ TEST_P(RecordedProcessor, HasItsName) {
   EXPECT_EQ(cpu::SignatureOf(identity), GetParam().signature_text);
 }
 
+TEST(ProcessorBrand, IsReadWhereTheHighestLeafSaysSo) {
+  const auto name_with_highest = [](std::uint32_t highest_leaf) {
+    os::simulated::CallLog log;
+    os::simulated::SimulatedProcessor processor(log);
+    processor.SetLeaf(0, Maker("GenuineIntel"));
+    processor.SetLeaf(1, {.eax = 0x0F12});
+    processor.SetLeaf(0x80000000U, {.eax = highest_leaf});
+    processor.SetLeaf(0x80000002U, {.eax = 0x444E4142U});  // "BAND"
+    return cpu::NameOf(cpu::Identify(processor));
+  };
+  for (const std::uint32_t highest_leaf : {0x80000004U, 0x80000008U, 0x8000FFFFU}) {
+    EXPECT_EQ(name_with_highest(highest_leaf), "BAND") << highest_leaf;
+  }
+  for (const std::uint32_t highest_leaf : {0U, 2U, 0x80000000U, 0x80000003U, 0x80010000U, 0xFFFFFFFFU}) {
+    EXPECT_EQ(name_with_highest(highest_leaf), "Intel Pentium 4") << highest_leaf;
+  }
+}
+
 TEST(ProcessorSignature, EachNumberHasItsOwnBits) {
   const auto identified = [](std::uint32_t signature, std::uint32_t brand) {
     os::simulated::CallLog log;

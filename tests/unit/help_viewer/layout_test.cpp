@@ -143,9 +143,17 @@ TEST_F(HelpLayout, BulletsAndStepsHangBeforeTheirText) {
   EXPECT_EQ(PieceOf("aaa").left, 32);
   EXPECT_EQ(PieceOf("bbb").left, 32);
   EXPECT_EQ(PieceOf("ccc").left, 32);
-  EXPECT_LT(PieceOf("\x95").left, 32);
+  EXPECT_EQ(PieceOf("\x95").left + PieceOf("\x95").width, 24) << "half a line before the text";
   EXPECT_EQ(PieceOf("12.").left + PieceOf("12.").width, PieceOf("\x95").left + PieceOf("\x95").width);
   EXPECT_EQ(PieceOf("12.").source.length, 0U) << "a label is no text of the topic";
+}
+
+TEST_F(HelpLayout, WideLabelBeginsAtTheMargin) {
+  LayOut("N12\tx\nN12345\ty\n", 400, 5);
+  EXPECT_EQ(PieceOf("12.").left, 5);
+  EXPECT_EQ(PieceOf("12345.").left, 5);
+  EXPECT_EQ(PieceOf("x").left, 5 + 32);
+  EXPECT_EQ(PieceOf("y").left, 5 + 32);
 }
 
 TEST_F(HelpLayout, FixedLinesAreNotWrappedAndStandClose) {

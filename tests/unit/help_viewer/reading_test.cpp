@@ -95,6 +95,15 @@ TEST(HelpReading, FiftyStepsBackAreRememberedAndStayingIsNone) {
   EXPECT_FALSE(rig.Screen().cmdBack.Enabled());
 }
 
+TEST(HelpReading, NothingToComeBackToIsNoHarm) {
+  HelpRig rig;
+  rig.Start("4");
+  // As an accelerator that comes late would, past the disabled button.
+  EXPECT_TRUE(rig.Screen().cmdBack.OnClick().Ok());
+  EXPECT_EQ(rig.Title(), "Memory");
+  EXPECT_FALSE(rig.Screen().cmdBack.Enabled());
+}
+
 /// Notes at each change what a test asks for.
 class AskingPeer final : public ui::ControlPeer {
  public:

@@ -95,6 +95,16 @@ TEST_F(HelpPane, LineThatBeginsWhereTheViewBeginsIsTheOneToComeBackTo) {
   EXPECT_EQ(pane.ScrollPosition(), top_of_block(9));
 }
 
+TEST_F(HelpPane, AnotherWidthKeepsTheTopOfTheTopic) {
+  constexpr int kMarginPx = 8;
+  TopicPane& pane = Open("7");
+  pane.SurfaceChanged(&rig.device, 120, 200);
+  EXPECT_EQ(pane.ScrollPosition(), 0) << "with the margin above the title";
+  pane.ScrollTo(1);
+  pane.SurfaceChanged(&rig.device, 300, 200);
+  EXPECT_EQ(pane.ScrollPosition(), kMarginPx) << "the title is the first line in view";
+}
+
 TEST_F(HelpPane, LosingTheSurfaceGoesBackToTheTop) {
   TopicPane& pane = Open("7");
   pane.ScrollTo(300);
@@ -138,6 +148,8 @@ TEST_F(HelpPane, PeerFindsTheNewPositionAndTheNewLink) {
   TopicPane& pane = Open("7");
   StandReader reader;
   pane.AttachPeer(&reader);
+  pane.ScrollTo(48);
+  pane.FocusLink(0);
   pane.ScrollTo(48);
   pane.FocusLink(0);
   EXPECT_EQ(reader.stands, (Stands{{48, -1}, {48, 0}}));

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "launcher/launcher_file.h"
+#include "tests/support/control_bench.h"
 #include "tests/support/program_rig.h"
 
 namespace qdix::tests {
@@ -223,6 +224,19 @@ TEST_F(Launcher, LabelShowsAndListRestsWhileMemoryIsFreed) {
   EXPECT_EQ(Tab().txtFreeLabel.Caption(), "Freeing Up Memory");
   EXPECT_FALSE(Tab().txtFreeLabel.Visible());
   EXPECT_TRUE(Tab().List5.Enabled());
+}
+
+TEST_F(Launcher, LabelIsPaintedAtOnceBothTimes) {
+  using Changes = std::vector<ui::Change>;
+  StartWith({{"Calculator", "calc", ""}});
+  NotingPeer peer;
+  Tab().txtFreeLabel.AttachPeer(&peer);
+  Changes at_the_release;
+  rig.machine.OnPump([&](int) { at_the_release = peer.changes; });
+  Tab().List5.DoubleClick(0);
+  EXPECT_EQ(at_the_release, (Changes{ui::Change::kVisible, ui::Change::kRepaint}));
+  EXPECT_EQ(peer.changes, (Changes{ui::Change::kVisible, ui::Change::kRepaint, ui::Change::kVisible,
+                                   ui::Change::kRepaint}));
 }
 
 TEST_F(Launcher, MenuLeavesLabelAndListAlone) {

@@ -184,6 +184,15 @@ TEST_F(TextBoxRules, SelectionOfAnEditInTheWindowIsKeptInsideTheText) {
   EXPECT_EQ(box.SelectionLength(), 0);
 }
 
+TEST(DigitKeys, AreTheTenDigitsAndBackspace) {
+  std::string taken;
+  for (int code = 1; code < 256; ++code) {
+    const auto character = static_cast<char>(code);
+    if (ui::IsDigitKey(character)) taken += character;
+  }
+  EXPECT_EQ(taken, "\b0123456789");
+}
+
 class ListRules : public testing::Test {
  protected:
   void Fill(ui::ListControl& list) {
