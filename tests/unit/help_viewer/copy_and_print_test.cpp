@@ -46,6 +46,7 @@ TEST(HelpCopy, ClipboardThatAnotherProgramHoldsIsTold) {
   rig.Screen().cmdCopy.Press();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_TRUE(rig.machine.Boxes()[0].text.starts_with("The topic could not be copied."));
+  EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk | os::kMbIconExclamation);
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Help")
       << "the title of the window would be found instead of it";
   EXPECT_FALSE(rig.form->Window().Unloaded());
@@ -109,6 +110,19 @@ TEST(HelpPrint, MarginIsHalfAnInchOrAQuarterOfSmallPaper) {
   EXPECT_EQ(margin_px({.width_px = 800, .height_px = 600, .dots_an_inch = 100}), 50);
   EXPECT_EQ(margin_px({.width_px = 160, .height_px = 600, .dots_an_inch = 100}), 40);
   EXPECT_EQ(margin_px({.width_px = 800, .height_px = 120, .dots_an_inch = 100}), 30);
+}
+
+TEST(HelpPrint, PageIsFilledToItsLowerMargin) {
+  // The title with the space below it is 40 pixels high, and a fixed line 18.
+  const auto pages_of_height = [](int height_px) {
+    HelpRig rig("@3\tOne\nC1\nC2\nC3\nC4\nC5\n");
+    rig.printer.page = {.width_px = 800, .height_px = height_px, .dots_an_inch = 100};
+    rig.Start("3");
+    rig.Screen().cmdPrint.Press();
+    return rig.printer.pages.size();
+  };
+  EXPECT_EQ(pages_of_height(50 + 40 + 5 * 18 + 50), 1U);
+  EXPECT_EQ(pages_of_height(50 + 40 + 5 * 18 + 50 - 1), 2U);
 }
 
 TEST(HelpPrint, LinesAreWrappedWithinBothMargins) {

@@ -148,6 +148,13 @@ TEST_F(HelpLayout, BulletsAndStepsHangBeforeTheirText) {
   EXPECT_EQ(PieceOf("12.").source.length, 0U) << "a label is no text of the topic";
 }
 
+TEST_F(HelpLayout, ColumnHasAPixelAtLeast) {
+  LayOut("Rab\t\tcd\tef\n", 1);
+  EXPECT_EQ(PieceOf("a").left, 0);
+  EXPECT_EQ(PieceOf("c").left, 2 * (1 + 16)) << "behind an empty column";
+  EXPECT_EQ(PieceOf("e").left, 3 * (1 + 16));
+}
+
 TEST_F(HelpLayout, WideLabelBeginsAtTheMargin) {
   LayOut("N12\tx\nN12345\ty\n", 400, 5);
   EXPECT_EQ(PieceOf("12.").left, 5);

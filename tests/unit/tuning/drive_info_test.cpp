@@ -114,6 +114,7 @@ TEST(DriveInfoOfAnyDriver, EachProductMayOverflowAndLeavesTheRestOut) {
   };
   using Bytes = std::vector<std::int64_t>;
   EXPECT_EQ(space_of({65536, 65536, 1, 2}, 0), (Bytes{0, 0, 0, 0}));
+  EXPECT_EQ(space_of({65536, 65536, 0, 0}, 0), (Bytes{0, 0, 0, 0}));
   EXPECT_EQ(space_of({65536, 16384, 1, 2}, 0), (Bytes{0, 0, 0, 0}));
   EXPECT_EQ(space_of({65536, 16384, 2, 1}, 0), (Bytes{1073741824, 0, 0, 0}));
   EXPECT_EQ(space_of({65536, 16384, 1, 1}, 1), (Bytes{1073741824, 1073741824, 1073741824, 0}));

@@ -114,6 +114,20 @@ TEST_F(SwapSaving, RecordComesBeforeTheQuestion) {
   EXPECT_GT(changes_at_question, 5U);
 }
 
+class SwapSavingOf : public SwapSaving, public testing::WithParamInterface<const char*> {};
+
+TEST_P(SwapSavingOf, EitherSetupOffersTheRestartWhenEverythingIsWritten) {
+  StartWithRecord(GetParam());
+  std::vector<std::size_t> changes_at_boxes;
+  rig.machine.WhileBoxIsOpen([&] { changes_at_boxes.push_back(Changes().size()); });
+  Save({os::kIdYes, os::kIdNo});
+  const std::size_t changes = Changes().size();
+  EXPECT_GT(changes, 0U);
+  EXPECT_THAT(changes_at_boxes, ElementsAre(0U, changes));
+}
+
+INSTANTIATE_TEST_SUITE_P(Both, SwapSavingOf, testing::Values(kOptimised, "[386Enh]\r\nEMMExclude=A000\r\n"));
+
 TEST_F(SwapSaving, BoxThatWasNotAnsweredWritesNothing) {
   StartWithRecord(kOptimised);
   rig.machine.WhileBoxIsOpen([this] { rig.machine.EndBoxes(); });
