@@ -103,6 +103,8 @@ TEST_F(SwapSaving, NoWritesNothingButTheRecord) {
   EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine, kMachineKeyPath, "OldPagingDrive"), "C:");
   EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine, kMachineKeyPath, "OldMinPagingFileSize"),
             "131072");
+  EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine, kMachineKeyPath, "OldMaxPagingFileSize"),
+            "131072");
 }
 
 TEST_F(SwapSaving, RecordComesBeforeTheQuestion) {
