@@ -284,16 +284,6 @@ INSTANTIATE_TEST_SUITE_P(Values, CpuLimits,
                                          Limit{"100", false}, Limit{"", false}, Limit{"4.9", false},
                                          Limit{"99.5", false}, Limit{"50", true}));
 
-TEST_F(Lifecycle, LimitBoxTakesDigitsAndBackspaceOnly) {
-  auto& program = Start();
-  program.MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
-  auto& box = program.Automatic().Text9;
-  box.SetFocus();
-  box.SelectAll();
-  box.TypeText("a6-.5x\b7");
-  EXPECT_EQ(box.Text(), "67");
-}
-
 TEST_F(Lifecycle, PauseStopsTheTimersAndResumeStartsThoseThatAreTicked) {
   auto& program = Start();
   auto& window = program.MainWindow();
@@ -315,13 +305,28 @@ TEST_F(Lifecycle, PauseStopsTheTimersAndResumeStartsThoseThatAreTicked) {
   EXPECT_FALSE(window.Timer2.Enabled()) << "its box is not ticked";
   EXPECT_FALSE(window.Timer3.Enabled()) << "a paused start-up release is lost";
   EXPECT_TRUE(window.Timer4.Enabled());
+  EXPECT_TRUE(program.Automatic().Check1.Enabled());
+  EXPECT_TRUE(program.TimeIntervals().Check3.Enabled());
   EXPECT_TRUE(program.TimeIntervals().lblNextRelease.Visible());
+}
+
+TEST_F(Lifecycle, ResumeLooksForLittleMemoryAgainWhereThatIsTicked) {
+  auto& program = Start();
+  program.MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
+  program.Automatic().Check1.Press();
+  ASSERT_TRUE(program.MainWindow().Timer2.Enabled());
+  program.MainWindow().SSTab1.ChooseTab(screens::kQuondixTab);
+  program.Quondix().Command3.Press();
+  EXPECT_FALSE(program.MainWindow().Timer2.Enabled());
+  program.Quondix().Command3.Press();
+  EXPECT_TRUE(program.MainWindow().Timer2.Enabled());
 }
 
 TEST_F(Lifecycle, ResumeWithoutTimedReleasesLeavesTheirLabelOff) {
   auto& program = Start();
   program.Quondix().Command3.Press();
   program.Quondix().Command3.Press();
+  EXPECT_TRUE(program.TimeIntervals().Check3.Enabled());
   EXPECT_FALSE(program.MainWindow().Timer4.Enabled());
   EXPECT_FALSE(program.TimeIntervals().lblNextRelease.Visible());
 }

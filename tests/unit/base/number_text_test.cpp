@@ -85,7 +85,9 @@ INSTANTIATE_TEST_SUITE_P(
                     Shown{1.5e15, "1.5E+15"}, Shown{-1e300, "-1E+300"}, Shown{1e-15, "0.000000000000001"},
                     Shown{1e-16, "1E-16"}, Shown{1.5e-15, "1.5E-15"}, Shown{0.00012, "0.00012"},
                     Shown{1e100, "1E+100"}, Shown{46347.5, "46347.5"}, Shown{5e-324, "4.94065645841247E-324"},
-                    Shown{kLargest, "1.79769313486232E+308"}, Shown{999999999999999.9, "1E+15"}));
+                    Shown{kLargest, "1.79769313486232E+308"},
+                    Shown{1.23456789012345e-9, "1.23456789012345E-09"},
+                    Shown{1.23456789012345e-10, "1.23456789012345E-10"}, Shown{999999999999999.9, "1E+15"}));
 
 TEST(ShortestTextOf, WhatIsNoNumber) {
   EXPECT_EQ(base::ShortestText(std::numeric_limits<double>::quiet_NaN()), "NaN");

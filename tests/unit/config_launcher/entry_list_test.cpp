@@ -64,6 +64,41 @@ TEST(ConfigEntryList, ChangeReplacesTheSelectedOne) {
   EXPECT_EQ(rig.Screen().lstPrograms.SelectedIndex(), 1);
 }
 
+TEST(ConfigEntryList, NothingMovesBeyondTheEndsOrWithoutASelection) {
+  ConfigRig rig(SomeEntries(2));
+  rig.Start();
+  // As an accelerator that comes late would, past the disabled buttons.
+  EXPECT_TRUE(rig.Screen().cmdMoveUp.OnClick().Ok());
+  EXPECT_EQ(rig.form->Entries(), SomeEntries(2));
+  rig.Screen().lstPrograms.ChooseIndex(1);
+  EXPECT_TRUE(rig.Screen().cmdMoveDown.OnClick().Ok());
+  EXPECT_EQ(rig.form->Entries(), SomeEntries(2));
+  rig.Type(kGame);
+  rig.Screen().cmdRemove.Press();
+  EXPECT_EQ(rig.Screen().lstPrograms.SelectedIndex(), ui::ListBox::kNoSelection);
+  EXPECT_TRUE(rig.Screen().cmdMoveDown.OnClick().Ok());
+  EXPECT_TRUE(rig.Screen().cmdMoveUp.OnClick().Ok());
+  EXPECT_EQ(rig.form->Entries(), SomeEntries(1));
+}
+
+TEST(ConfigEntryList, FieldThatIsMissingGetsTheKeyboardAfterTheMessage) {
+  ConfigRig rig;
+  rig.Start();
+  const auto focus_after = [&rig](const launcher::LauncherEntry& typed, const ui::TextBox& missing) {
+    rig.Type(typed);
+    rig.Screen().cmdAdd.SetFocus();
+    bool was_early = false;
+    rig.machine.WhileBoxIsOpen([&] { was_early = missing.HasFocus(); });
+    rig.Screen().cmdAdd.Press();
+    EXPECT_FALSE(was_early) << "the box would give it back to the button";
+    return missing.HasFocus();
+  };
+  EXPECT_TRUE(focus_after({"", "A.EXE", ""}, rig.Screen().txtName));
+  EXPECT_TRUE(focus_after({"A", "", ""}, rig.Screen().txtPath));
+  EXPECT_EQ(rig.machine.Boxes().size(), 2U);
+  EXPECT_TRUE(focus_after({"", "", ""}, rig.Screen().txtName)) << "one after the other";
+}
+
 TEST(ConfigEntryList, RemoveSelectsWhatComesNext) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();

@@ -90,6 +90,56 @@ TEST_F(ConfigOpening, CopyOfAnInterruptedSaveIsTaken) {
   }
 }
 
+TEST_F(ConfigOpening, SeveralRemarksStandInOneMessageInTheirOrder) {
+  Entries entries = SomeEntries(27);
+  entries[3] = {"Tab\there", "", ""};
+  const auto remarks_on = [](const std::string& bytes) {
+    ConfigRig rig;
+    rig.machine.WriteFile(kListBackupPath, bytes);
+    rig.Start();
+    std::vector<std::string> beginnings;
+    const std::string text = rig.BoxText(1);
+    for (std::size_t at = text.find("- "); at != std::string::npos; at = text.find("\n- ", at)) {
+      if (text[at] == '\n') ++at;
+      beginnings.push_back(text.substr(at + 2, 11));
+    }
+    return beginnings;
+  };
+  EXPECT_EQ(remarks_on(BytesOf(entries) + std::string(launcher::kRecordBytes - 1, ' ')),
+            (Names{"An earlier ", "The file en", "It holds 28", "Some texts ", "Some progra"}));
+  entries.resize(101, SomeEntries(1)[0]);
+  EXPECT_EQ(remarks_on(BytesOf(entries)),
+            (Names{"An earlier ", "The file is", "It holds 10", "Some texts ", "Some progra"}));
+}
+
+/// Reads the list when the window is told to show itself.
+struct ShowingPeer final : ui::ControlPeer {
+  explicit ShowingPeer(ConfigRig& the_rig) : rig(the_rig) {}
+  void ControlChanged(ui::Control& /*control*/, ui::Change change) override {
+    if (change == ui::Change::kVisible) rows_shown.push_back(rig.Screen().lstPrograms.Count());
+  }
+  ConfigRig& rig;
+  std::vector<int> rows_shown;
+};
+
+TEST_F(ConfigOpening, WindowShowsItselfWithItsList) {
+  ConfigRig rig(SomeEntries(3));
+  ShowingPeer peer(rig);
+  rig.form.emplace(rig.machine.GetSystem(), rig.dialogs);
+  rig.form->Window().AttachPeer(&peer);
+  rig.form->Start();
+  EXPECT_EQ(peer.rows_shown, std::vector<int>{3});
+}
+
+TEST_F(ConfigOpening, UntrappedErrorIsShownAndEndsTheProgram) {
+  ConfigRig rig(SomeEntries(3));
+  rig.Start();
+  rig.machine.WhileBoxIsOpen([&rig] { EXPECT_FALSE(rig.form->Window().Unloaded()); });
+  rig.form->Window().Dispatcher().Report(base::kOverflow);
+  EXPECT_TRUE(rig.BoxText(1).starts_with("Run-time error '6':"));
+  EXPECT_TRUE(rig.form->Window().Unloaded());
+}
+
 TEST_F(ConfigOpening, CopyBesideAListIsLeftAlone) {
   ConfigRig rig(SomeEntries(1));
   rig.machine.WriteFile(kListBackupPath, BytesOf(SomeEntries(3)));
@@ -103,6 +153,7 @@ TEST_F(ConfigOpening, ListThatCannotBeReadIsNotWrittenOver) {
     ConfigRig rig;
     rig.machine.WriteFile(path, BytesOf(SomeEntries(3)));
     rig.machine.FailNextCall("ReadFile");
+    rig.machine.WhileBoxIsOpen([&rig] { EXPECT_FALSE(rig.form->Window().Unloaded()); });
     rig.Start();
     EXPECT_TRUE(rig.BoxText(1).starts_with("The list of programs is there, but it could not be read."));
     EXPECT_TRUE(rig.form->Window().Unloaded());

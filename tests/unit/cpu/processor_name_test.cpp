@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "cpu/processor_identification.h"
 #include "os/simulated/simulated_processor.h"
 
@@ -44,6 +46,43 @@ TEST_P(RecordedProcessor, HasItsName) {
   EXPECT_EQ(identity.vendor, GetParam().maker);
   EXPECT_EQ(cpu::NameOf(identity), GetParam().name);
   EXPECT_EQ(cpu::SignatureOf(identity), GetParam().signature_text);
+}
+
+TEST(ProcessorBrand, IsReadWhereTheHighestLeafSaysSo) {
+  const auto name_with_highest = [](std::uint32_t highest_leaf) {
+    os::simulated::CallLog log;
+    os::simulated::SimulatedProcessor processor(log);
+    processor.SetLeaf(0, Maker("GenuineIntel"));
+    processor.SetLeaf(1, {.eax = 0x0F12});
+    processor.SetLeaf(0x80000000U, {.eax = highest_leaf});
+    processor.SetLeaf(0x80000002U, {.eax = 0x444E4142U});  // "BAND"
+    return cpu::NameOf(cpu::Identify(processor));
+  };
+  for (const std::uint32_t highest_leaf : {0x80000004U, 0x80000008U, 0x8000FFFFU}) {
+    EXPECT_EQ(name_with_highest(highest_leaf), "BAND") << highest_leaf;
+  }
+  for (const std::uint32_t highest_leaf : {0U, 2U, 0x80000000U, 0x80000003U, 0x80010000U, 0xFFFFFFFFU}) {
+    EXPECT_EQ(name_with_highest(highest_leaf), "Intel Pentium 4") << highest_leaf;
+  }
+}
+
+TEST(ProcessorSignature, EachNumberHasItsOwnBits) {
+  const auto identified = [](std::uint32_t signature, std::uint32_t brand) {
+    os::simulated::CallLog log;
+    os::simulated::SimulatedProcessor processor(log);
+    processor.SetLeaf(0, Maker("GenuineIntel"));
+    processor.SetLeaf(1, {.eax = signature, .ebx = brand});
+    const cpu::ProcessorIdentity identity = cpu::Identify(processor);
+    return std::vector<std::uint32_t>{identity.family, identity.model, identity.stepping,
+                                      identity.brand_index};
+  };
+  using Numbers = std::vector<std::uint32_t>;
+  EXPECT_EQ(identified(0xFFFFFFFFU, 0xFFFFFFFFU), (Numbers{15 + 255, 255, 15, 255}));
+  EXPECT_EQ(identified(0xF000F000U, 0xFFFFFF00U), (Numbers{0, 0, 0, 0}));
+  EXPECT_EQ(identified(0x00100F00U, 0), (Numbers{16, 0, 0, 0}));
+  EXPECT_EQ(identified(0x00010F00U, 0), (Numbers{15, 16, 0, 0}));
+  EXPECT_EQ(identified(0x00010610U, 0), (Numbers{6, 17, 0, 0}));
+  EXPECT_EQ(identified(0x00110510U, 0), (Numbers{5, 1, 0, 0})) << "other families have no more bits";
 }
 
 INSTANTIATE_TEST_SUITE_P(

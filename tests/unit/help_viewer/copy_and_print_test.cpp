@@ -46,6 +46,7 @@ TEST(HelpCopy, ClipboardThatAnotherProgramHoldsIsTold) {
   rig.Screen().cmdCopy.Press();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_TRUE(rig.machine.Boxes()[0].text.starts_with("The topic could not be copied."));
+  EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk | os::kMbIconExclamation);
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Help")
       << "the title of the window would be found instead of it";
   EXPECT_FALSE(rig.form->Window().Unloaded());
@@ -93,6 +94,46 @@ TEST(HelpPrint, PagesEndBetweenLines) {
   EXPECT_EQ(help_viewer::Paginate(layout, 5).size(), 10U)
       << "a line that is higher than the paper has a page";
   EXPECT_EQ(help_viewer::Paginate({}, 35).size(), 1U);
+  EXPECT_EQ(help_viewer::Paginate(layout, 30).size(), 4U) << "three lines fill it to the last pixel";
+  EXPECT_EQ(help_viewer::Paginate(layout, 29).size(), 5U);
+}
+
+TEST(HelpPrint, MarginIsHalfAnInchOrAQuarterOfSmallPaper) {
+  const auto margin_px = [](const os::PrinterPage& paper) {
+    HelpRig rig;
+    rig.printer.page = paper;
+    rig.Start("4");
+    rig.Screen().cmdPrint.Press();
+    EXPECT_EQ(rig.printer.pages.at(0).at(0).left, rig.printer.pages.at(0).at(0).top);
+    return rig.printer.pages.at(0).at(0).left;
+  };
+  EXPECT_EQ(margin_px({.width_px = 800, .height_px = 600, .dots_an_inch = 100}), 50);
+  EXPECT_EQ(margin_px({.width_px = 160, .height_px = 600, .dots_an_inch = 100}), 40);
+  EXPECT_EQ(margin_px({.width_px = 800, .height_px = 120, .dots_an_inch = 100}), 30);
+}
+
+TEST(HelpPrint, PageIsFilledToItsLowerMargin) {
+  // The title with the space below it is 40 pixels high, and a fixed line 18.
+  const auto pages_of_height = [](int height_px) {
+    HelpRig rig("@3\tOne\nC1\nC2\nC3\nC4\nC5\n");
+    rig.printer.page = {.width_px = 800, .height_px = height_px, .dots_an_inch = 100};
+    rig.Start("3");
+    rig.Screen().cmdPrint.Press();
+    return rig.printer.pages.size();
+  };
+  EXPECT_EQ(pages_of_height(50 + 40 + 5 * 18 + 50), 1U);
+  EXPECT_EQ(pages_of_height(50 + 40 + 5 * 18 + 50 - 1), 2U);
+}
+
+TEST(HelpPrint, LinesAreWrappedWithinBothMargins) {
+  // 100 pixels less two margins of 25 leave room for six letters and not for seven.
+  HelpRig rig("@3\tOne\nPab cde f\n");
+  rig.printer.page = {.width_px = 100, .height_px = 600, .dots_an_inch = 100};
+  rig.Start("3");
+  rig.Screen().cmdPrint.Press();
+  std::vector<std::string> texts;
+  for (const auto& drawn : rig.printer.pages.at(0)) texts.push_back(drawn.text);
+  EXPECT_EQ(texts, (std::vector<std::string>{"One", "ab cde", "f"}));
 }
 
 TEST(HelpPrint, CancelPrintsNothingAndSaysNothing) {

@@ -120,6 +120,18 @@ TEST_F(HelpFind, AnotherTopicHasNoMark) {
   EXPECT_EQ(rig.Pane().Marked(), nullptr);
 }
 
+TEST_F(HelpFind, TopicThatWasComeBackToIsMarkedAnew) {
+  rig.TypeWord("press");
+  rig.Screen().lstFound.DoubleClick(0);
+  ASSERT_EQ(rig.Title(), "Welcome");
+  rig.Pane().Follow(0);
+  rig.Screen().cmdBack.Press();
+  ASSERT_EQ(rig.Title(), "Welcome");
+  EXPECT_EQ(rig.Pane().Marked(), nullptr);
+  rig.Screen().lstFound.DoubleClick(0);
+  EXPECT_NE(rig.Pane().Marked(), nullptr);
+}
+
 TEST_F(HelpFind, DoubleClickBelowTheLastRowOpensNothing) {
   rig.TypeWord("welcome");
   rig.Screen().lstFound.DoubleClick(ui::ListBox::kNoSelection);

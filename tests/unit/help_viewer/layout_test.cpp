@@ -103,6 +103,38 @@ TEST_F(HelpLayout, LinesDoNotOverlapAndFillTheHeight) {
   EXPECT_EQ(layout_.height, bottom + 5);
 }
 
+TEST_F(HelpLayout, SpaceBetweenBlocksIsInQuartersOfABodyLine) {
+  // From one block to the next, the first of which is the title.
+  const auto gaps_px = [this](const std::string& body) {
+    LayOut(body, 400);
+    std::vector<int> gaps;
+    for (std::size_t line = 1; line < layout_.lines.size(); ++line) {
+      const Line& above = layout_.lines[line - 1];
+      gaps.push_back(layout_.lines[line].top - above.top - above.height);
+    }
+    return gaps;
+  };
+  using Gaps = std::vector<int>;
+  EXPECT_EQ(gaps_px("Pp\nPp\nHh\nPp\n"), (Gaps{12, 8, 16, 4}));
+  EXPECT_EQ(gaps_px("Hh\nHh\nBb\n"), (Gaps{16, 16, 4}));
+  EXPECT_EQ(gaps_px("Bb\nBb\nN1\tn\nN2\tn\nPp\nBb\n"), (Gaps{12, 4, 4, 4, 8, 8}));
+  EXPECT_EQ(gaps_px("Cc\nCc\nPp\nCc\n"), (Gaps{12, 0, 8, 8}));
+  EXPECT_EQ(gaps_px("Ra\tb\nRc\td\nPp\nRe\tf\nBb\n"), (Gaps{12, 4, 8, 8, 8}));
+  EXPECT_EQ(gaps_px("Ta\tb\nRc\td\n"), (Gaps{12, 5})) << "with the rule of a pixel";
+}
+
+TEST_F(HelpLayout, EachKindHasItsLook) {
+  LayOut("Hhead\nPpara\nCfixed\nTcell\tc\nRrow\tr\n", 400);
+  const auto points_of = [this](const char* text) { return PieceOf(text).look.points; };
+  EXPECT_EQ(points_of("T"), 14);
+  EXPECT_EQ(points_of("head"), 10);
+  EXPECT_EQ(points_of("para"), 8);
+  EXPECT_EQ(points_of("fixed"), 9);
+  EXPECT_EQ(points_of("cell"), 8);
+  for (const char* const bold : {"T", "head", "cell"}) EXPECT_TRUE(PieceOf(bold).look.is_bold) << bold;
+  for (const char* const plain : {"para", "fixed", "row"}) EXPECT_FALSE(PieceOf(plain).look.is_bold) << plain;
+}
+
 TEST_F(HelpLayout, BulletsAndStepsHangBeforeTheirText) {
   LayOut("Baaa bbb\nN12\tccc\n", 32 + 3 * 8);
   EXPECT_EQ(Lines(), (Texts{"\x95"
@@ -111,9 +143,24 @@ TEST_F(HelpLayout, BulletsAndStepsHangBeforeTheirText) {
   EXPECT_EQ(PieceOf("aaa").left, 32);
   EXPECT_EQ(PieceOf("bbb").left, 32);
   EXPECT_EQ(PieceOf("ccc").left, 32);
-  EXPECT_LT(PieceOf("\x95").left, 32);
+  EXPECT_EQ(PieceOf("\x95").left + PieceOf("\x95").width, 24) << "half a line before the text";
   EXPECT_EQ(PieceOf("12.").left + PieceOf("12.").width, PieceOf("\x95").left + PieceOf("\x95").width);
   EXPECT_EQ(PieceOf("12.").source.length, 0U) << "a label is no text of the topic";
+}
+
+TEST_F(HelpLayout, ColumnHasAPixelAtLeast) {
+  LayOut("Rab\t\tcd\tef\n", 1);
+  EXPECT_EQ(PieceOf("a").left, 0);
+  EXPECT_EQ(PieceOf("c").left, 2 * (1 + 16)) << "behind an empty column";
+  EXPECT_EQ(PieceOf("e").left, 3 * (1 + 16));
+}
+
+TEST_F(HelpLayout, WideLabelBeginsAtTheMargin) {
+  LayOut("N12\tx\nN12345\ty\n", 400, 5);
+  EXPECT_EQ(PieceOf("12.").left, 5);
+  EXPECT_EQ(PieceOf("12345.").left, 5);
+  EXPECT_EQ(PieceOf("x").left, 5 + 32);
+  EXPECT_EQ(PieceOf("y").left, 5 + 32);
 }
 
 TEST_F(HelpLayout, FixedLinesAreNotWrappedAndStandClose) {

@@ -89,6 +89,11 @@ TEST_F(HelpPlace, WindowOfALargerScreenIsCut) {
   EXPECT_EQ(Restored(), (ui::WindowBounds{0, 0, 640, 452}));
 }
 
+TEST_F(HelpPlace, WindowWithoutASizeHasAPixel) {
+  Store("10", "20", "0", "-5");
+  EXPECT_EQ(Restored(), (ui::WindowBounds{10, 20, 1, 1}));
+}
+
 TEST_F(HelpPlace, AnyNumbersAreNoHarm) {
   for (const char* const text : {"1E+300", "-1E+300", "2147483647", "-2147483648", "0.5", "-0"}) {
     Store(text, text, text, text);

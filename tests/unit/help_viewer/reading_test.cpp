@@ -1,6 +1,9 @@
 // The program from its start to its end: topics by number, contents, links, the way back.
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
+
 #include "tests/unit/help_viewer/help_rig.h"
 
 namespace qdix::tests {
@@ -72,6 +75,91 @@ TEST(HelpReading, LinkToTheTopicThatItStandsInGoesBackToItsTop) {
   rig.Pane().Follow(0);
   EXPECT_EQ(rig.Pane().ScrollPosition(), 0);
   EXPECT_FALSE(rig.Screen().cmdBack.Enabled()) << "it is no step to come back from";
+}
+
+TEST(HelpReading, FiftyStepsBackAreRememberedAndStayingIsNone) {
+  // Each topic leads to itself and to the other.
+  HelpRig rig(
+      "@1\tOne\nP\x03"
+      "1\x1Fhere\x04 \x03"
+      "2\x1Fthere\x04\n"
+      "@2\tTwo\nP\x03"
+      "2\x1Fhere\x04 \x03"
+      "1\x1Fthere\x04\n");
+  rig.Start("1");
+  for (int step = 0; step < 50; ++step) rig.Pane().Follow(1);
+  ASSERT_EQ(rig.Title(), "One");
+  rig.Pane().Follow(0);
+  for (int step = 0; step < 50; ++step) rig.Screen().cmdBack.Press();
+  EXPECT_EQ(rig.Title(), "One");
+  EXPECT_FALSE(rig.Screen().cmdBack.Enabled());
+}
+
+TEST(HelpReading, NothingToComeBackToIsNoHarm) {
+  HelpRig rig;
+  rig.Start("4");
+  // As an accelerator that comes late would, past the disabled button.
+  EXPECT_TRUE(rig.Screen().cmdBack.OnClick().Ok());
+  EXPECT_EQ(rig.Title(), "Memory");
+  EXPECT_FALSE(rig.Screen().cmdBack.Enabled());
+}
+
+/// Notes at each change what a test asks for.
+class AskingPeer final : public ui::ControlPeer {
+ public:
+  explicit AskingPeer(std::function<std::string()> ask) : ask_(std::move(ask)) {}
+  void ControlChanged(ui::Control& /*control*/, ui::Change change) override {
+    answers.emplace_back(change, ask_());
+  }
+  std::vector<std::pair<ui::Change, std::string>> answers;
+
+ private:
+  std::function<std::string()> ask_;
+};
+
+using Answers = std::vector<std::pair<ui::Change, std::string>>;
+
+TEST(HelpReading, WindowShowsItselfWithItsTopic) {
+  HelpRig rig;
+  rig.Make("4");
+  AskingPeer peer([&rig] { return rig.Title(); });
+  rig.form->Window().AttachPeer(&peer);
+  rig.form->Start();
+  EXPECT_EQ(peer.answers, (Answers{{ui::Change::kVisible, "Memory"}}));
+}
+
+TEST(HelpReading, KeyboardIsElsewhereBeforeItsControlGoes) {
+  HelpRig rig;
+  rig.Start("4");
+  const auto focused = [&rig] { return std::string(rig.form->Window().Focused()->Name()); };
+  rig.Pane().Follow(0);
+  rig.Screen().lstContents.Choose("    About");
+  AskingPeer back(focused);
+  rig.Screen().cmdBack.SetFocus();
+  rig.Screen().cmdBack.AttachPeer(&back);
+  rig.Screen().cmdBack.Press();
+  EXPECT_EQ(back.answers, (Answers{{ui::Change::kEnabled, std::string(rig.Pane().Name())}}));
+
+  AskingPeer contents(focused);
+  AskingPeer word(focused);
+  rig.Screen().lstContents.SetFocus();
+  rig.Screen().lstContents.AttachPeer(&contents);
+  rig.Screen().cmdFind.Press();
+  EXPECT_EQ(contents.answers, (Answers{{ui::Change::kVisible, std::string(rig.Screen().txtWord.Name())}}));
+  rig.Screen().lstContents.AttachPeer(nullptr);
+  rig.Screen().txtWord.AttachPeer(&word);
+  rig.Screen().cmdContents.Press();
+  EXPECT_EQ(word.answers, (Answers{{ui::Change::kVisible, std::string(rig.Screen().lstContents.Name())}}));
+}
+
+TEST(HelpReading, UntrappedErrorIsShownAndEndsTheProgram) {
+  HelpRig rig;
+  rig.Start("4");
+  rig.machine.WhileBoxIsOpen([&rig] { EXPECT_FALSE(rig.form->Window().Unloaded()); });
+  rig.form->Window().Dispatcher().Report(base::kOverflow);
+  ASSERT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_TRUE(rig.machine.Boxes()[0].text.starts_with("Run-time error '6':"));
+  EXPECT_TRUE(rig.form->Window().Unloaded());
 }
 
 TEST(HelpReading, EnterInTheContentsGoesToTheTopicToScrollIt) {

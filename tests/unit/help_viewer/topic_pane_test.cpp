@@ -1,9 +1,9 @@
-// The pane without a window: scrolling, links by keyboard and pointer, marked places, and its picture.
+// The pane without a window: scrolling, links by keyboard and pointer, and marked places.
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
-#include "help_viewer/pane_picture.h"
 #include "tests/support/control_bench.h"
 #include "tests/unit/help_viewer/help_rig.h"
 
@@ -80,6 +80,87 @@ TEST_F(HelpPane, AnotherHeightAloneIsToldToThePeer) {
   pane.SurfaceChanged(&rig.device, 300, 150);
   EXPECT_EQ(peer.changes, std::vector<ui::Change>{ui::Change::kValue})
       << "its scroll bar has longer pages now";
+}
+
+TEST_F(HelpPane, LineThatBeginsWhereTheViewBeginsIsTheOneToComeBackTo) {
+  TopicPane& pane = Open("7");
+  const auto top_of_block = [&pane](std::size_t block) {
+    const auto& lines = pane.TheLayout().lines;
+    return std::find_if(lines.begin(), lines.end(),
+                        [block](const help_viewer::Line& line) { return line.block == block; })
+        ->top;
+  };
+  pane.ScrollTo(top_of_block(9));
+  pane.SurfaceChanged(&rig.device, 120, 200);
+  EXPECT_EQ(pane.ScrollPosition(), top_of_block(9));
+}
+
+TEST_F(HelpPane, AnotherWidthKeepsTheTopOfTheTopic) {
+  constexpr int kMarginPx = 8;
+  TopicPane& pane = Open("7");
+  pane.SurfaceChanged(&rig.device, 120, 200);
+  EXPECT_EQ(pane.ScrollPosition(), 0) << "with the margin above the title";
+  pane.ScrollTo(1);
+  pane.SurfaceChanged(&rig.device, 300, 200);
+  EXPECT_EQ(pane.ScrollPosition(), kMarginPx) << "the title is the first line in view";
+}
+
+TEST_F(HelpPane, LosingTheSurfaceGoesBackToTheTop) {
+  TopicPane& pane = Open("7");
+  pane.ScrollTo(300);
+  pane.SurfaceChanged(nullptr, 0, 0);
+  EXPECT_EQ(pane.ScrollPosition(), 0);
+  pane.SurfaceChanged(&rig.device, 300, 200);
+  EXPECT_EQ(pane.ScrollPosition(), 0);
+}
+
+TEST_F(HelpPane, LinkThatIsInViewToItsLastPixelIsNotScrolledTo) {
+  const int height_px = Open("0").TheLayout().links[0].height;
+  const int top_px = rig.Pane().TheLayout().links[0].top;
+  const auto scrolled_from = [this](int scroll_px, int view_px) {
+    TopicPane& pane = Open("0");
+    pane.SurfaceChanged(&rig.device, 300, view_px);
+    pane.ScrollTo(scroll_px);
+    EXPECT_EQ(pane.ScrollPosition(), scroll_px);
+    pane.FocusLink(-1);
+    pane.FocusNextLink(false);
+    EXPECT_EQ(pane.FocusedLink(), 0);
+    return pane.ScrollPosition();
+  };
+  EXPECT_EQ(scrolled_from(0, top_px + height_px), 0);
+  EXPECT_EQ(scrolled_from(0, top_px + height_px - 1), 16 + 1) << "a line more than needed";
+  EXPECT_EQ(scrolled_from(top_px, height_px), top_px);
+  EXPECT_EQ(scrolled_from(top_px + 1, height_px), top_px - 16);
+}
+
+/// Notes where the pane stands at each change.
+class StandReader final : public ui::ControlPeer {
+ public:
+  void ControlChanged(ui::Control& control, ui::Change /*change*/) override {
+    const auto& pane = static_cast<const TopicPane&>(control);
+    stands.emplace_back(pane.ScrollPosition(), pane.FocusedLink());
+  }
+  std::vector<std::pair<int, int>> stands;
+};
+
+TEST_F(HelpPane, PeerFindsTheNewPositionAndTheNewLink) {
+  using Stands = std::vector<std::pair<int, int>>;
+  TopicPane& pane = Open("7");
+  StandReader reader;
+  pane.AttachPeer(&reader);
+  pane.ScrollTo(48);
+  pane.FocusLink(0);
+  pane.ScrollTo(48);
+  pane.FocusLink(0);
+  EXPECT_EQ(reader.stands, (Stands{{48, -1}, {48, 0}}));
+  reader.stands.clear();
+  pane.Show(help_viewer::Topic(pane.Shown()));
+  EXPECT_EQ(reader.stands, (Stands{{0, -1}}));
+  pane.ScrollBy(Scroll::kBottom);
+  reader.stands.clear();
+  pane.SurfaceChanged(&rig.device, 2000, 200);
+  for (const auto& [position, link] : reader.stands) EXPECT_LE(position, Bottom());
+  EXPECT_FALSE(reader.stands.empty());
 }
 
 TEST_F(HelpPane, WithoutASurfaceNothingIsLaidOut) {
@@ -164,6 +245,7 @@ TEST_F(HelpPane, LinkIsFoundUnderThePointerAlsoWhenScrolled) {
   EXPECT_EQ(pane.LinkAt(link->left - 1, top), -1);
   EXPECT_EQ(pane.LinkAt(link->left + link->width, top), -1);
   EXPECT_EQ(pane.LinkAt(link->left, top - 1), -1);
+  EXPECT_EQ(pane.LinkAt(link->left, top + link->height), -1);
   pane.Follow(pane.LinkAt(link->left, top));
   EXPECT_EQ(rig.Title(), "Welcome");
 }
@@ -199,58 +281,20 @@ TEST_F(HelpPane, MarkedPlacesComeInOrderAndIntoView) {
   EXPECT_EQ(pane.Marked(), nullptr);
 }
 
-TEST_F(HelpPane, PictureShowsWhatIsInViewInItsColours) {
-  TopicPane& pane = Open("0");
-  const help_viewer::Palette palette{
-      .background = 1, .text = 2, .link = 3, .marked_background = 4, .marked_text = 5};
-  DrawLayout(rig.device, pane.TheLayout(), {.first_px = 0, .end_px = 200, .left_px = 30, .top_px = 7},
-             palette, nullptr);
-  ASSERT_FALSE(rig.device.texts.empty());
-  EXPECT_EQ(rig.device.texts[0].text, "Welcome");
-  EXPECT_EQ(rig.device.texts[0].left, pane.TheLayout().pieces[0].left + 30);
-  EXPECT_EQ(rig.device.texts[0].top, pane.TheLayout().pieces[0].top + 7);
-  EXPECT_EQ(rig.device.texts[0].colour, 2U);
-  const auto link = std::find_if(rig.device.texts.begin(), rig.device.texts.end(),
-                                 [](const auto& drawn) { return drawn.text == "the files"; });
-  ASSERT_NE(link, rig.device.texts.end());
-  EXPECT_EQ(link->colour, 3U);
-  EXPECT_TRUE(link->look.is_underlined);
-  EXPECT_TRUE(rig.device.boxes.empty());
-}
-
-TEST_F(HelpPane, PictureLeavesOutWhatIsNotInView) {
-  TopicPane& pane = Open("7");
-  DrawLayout(rig.device, pane.TheLayout(), {.first_px = 400, .end_px = 420, .top_px = 0}, {}, nullptr);
-  EXPECT_FALSE(rig.device.texts.empty());
-  EXPECT_LE(rig.device.texts.size(), 3U);
-  for (const auto& drawn : rig.device.texts) {
-    EXPECT_GT(drawn.top, -16);
-    EXPECT_LT(drawn.top, 20);
-  }
-}
-
-TEST_F(HelpPane, MarkedPlaceIsDrawnOnItsOwnBackground) {
-  TopicPane& pane = Open("4");
-  pane.Mark("the");
-  const help_viewer::Palette palette{
-      .background = 1, .text = 2, .link = 3, .marked_background = 4, .marked_text = 5};
-  DrawLayout(rig.device, pane.TheLayout(), {.first_px = 0, .end_px = 200, .top_px = 0}, palette,
-             pane.Marked());
-  ASSERT_EQ(rig.device.boxes.size(), 1U);
-  EXPECT_EQ(rig.device.boxes[0].colour, 4U);
-  EXPECT_EQ(rig.device.boxes[0].width, 3 * 8);
-  EXPECT_EQ(rig.device.texts.back().text, "the");
-  EXPECT_EQ(rig.device.texts.back().colour, 5U);
-  EXPECT_EQ(rig.device.texts.back().left, rig.device.boxes[0].left);
-  EXPECT_EQ(rig.device.boxes[0].left, pane.TheLayout().pieces[1].left + 6 * 8);
-}
-
-TEST_F(HelpPane, RuleOfATableIsDrawn) {
-  TopicPane& pane = Open("5");
-  DrawLayout(rig.device, pane.TheLayout(), {.first_px = 0, .end_px = 200, .top_px = 0}, {.text = 2}, nullptr);
-  ASSERT_EQ(rig.device.boxes.size(), 1U);
-  EXPECT_EQ(rig.device.boxes[0].height, 1);
-  EXPECT_EQ(rig.device.boxes[0].colour, 2U);
+TEST_F(HelpPane, MarkedPlaceIsLookedForInThePieceThatHasIt) {
+  constexpr int kLetterPx = 8;
+  HelpRig broken_word("@3\tOne\nPabcdefgh\n");
+  broken_word.Start("3");
+  broken_word.Pane().SurfaceChanged(&broken_word.device, 4 * kLetterPx + 16, 16);
+  const auto& pieces = broken_word.Pane().TheLayout().pieces;
+  const auto second = std::find_if(pieces.begin(), pieces.end(), [](const help_viewer::Piece& piece) {
+    return piece.characters == "efgh";
+  });
+  ASSERT_NE(second, pieces.end());
+  broken_word.Pane().Mark("ef");
+  // With a line above it.
+  EXPECT_EQ(broken_word.Pane().ScrollPosition(), second->top - 16)
+      << "and not the piece that ends where the word begins";
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "launcher/launcher_file.h"
+#include "tests/support/control_bench.h"
 #include "tests/support/program_rig.h"
 
 namespace qdix::tests {
@@ -225,6 +226,19 @@ TEST_F(Launcher, LabelShowsAndListRestsWhileMemoryIsFreed) {
   EXPECT_TRUE(Tab().List5.Enabled());
 }
 
+TEST_F(Launcher, LabelIsPaintedAtOnceBothTimes) {
+  using Changes = std::vector<ui::Change>;
+  StartWith({{"Calculator", "calc", ""}});
+  NotingPeer peer;
+  Tab().txtFreeLabel.AttachPeer(&peer);
+  Changes at_the_release;
+  rig.machine.OnPump([&](int) { at_the_release = peer.changes; });
+  Tab().List5.DoubleClick(0);
+  EXPECT_EQ(at_the_release, (Changes{ui::Change::kVisible, ui::Change::kRepaint}));
+  EXPECT_EQ(peer.changes, (Changes{ui::Change::kVisible, ui::Change::kRepaint, ui::Change::kVisible,
+                                   ui::Change::kRepaint}));
+}
+
 TEST_F(Launcher, MenuLeavesLabelAndListAlone) {
   StartWith({{"Calculator", "calc", ""}});
   rig.machine.OnPump([&](int) {
@@ -233,6 +247,23 @@ TEST_F(Launcher, MenuLeavesLabelAndListAlone) {
   });
   Menu().mnuProgram[0].Choose();
   EXPECT_GT(rig.machine.PumpCount(), 0);
+}
+
+TEST_F(Launcher, DrivesAreTheLettersFromAToZInEitherCase) {
+  const std::string letters = "AZaz";
+  const std::string others = "@[`{1";
+  std::vector<LauncherEntry> entries;
+  for (const char drive : letters + others) {
+    entries.push_back({std::string(1, drive), "calc", std::string(1, drive) + ":\\X"});
+  }
+  StartWith(entries);
+  for (std::size_t row = 0; row < entries.size(); ++row) Tab().List5.DoubleClick(static_cast<int>(row));
+  std::vector<std::string> drives_asked;
+  for (const std::string& call : Starts()) {
+    if (call.ends_with(":)")) drives_asked.push_back(call);
+  }
+  EXPECT_THAT(drives_asked, ElementsAre("SetCurrentDirectoryA(A:)", "SetCurrentDirectoryA(Z:)",
+                                        "SetCurrentDirectoryA(a:)", "SetCurrentDirectoryA(z:)"));
 }
 
 TEST_F(Launcher, MissingDriveIsToldAndTheRestGoesOn) {

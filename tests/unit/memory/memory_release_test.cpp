@@ -283,6 +283,13 @@ TEST_F(Release, CloseWhileTheWarningIsOpenShowsNothingMore) {
   EXPECT_FALSE(Button().Enabled());
 }
 
+TEST_F(Release, AfterTheCloseNoPassBegins) {
+  rig.program->Window().Unload();
+  EXPECT_EQ(FreeUp(12, 1), memory::ReleaseOutcome::kUnloaded);
+  EXPECT_EQ(FreeUp(12, 0), memory::ReleaseOutcome::kUnloaded);
+  EXPECT_TRUE(rig.machine.AllAllocations().empty());
+}
+
 TEST_F(Release, DisabledButtonStartsNothing) {
   Button().SetEnabled(false);
   Button().Press();

@@ -88,6 +88,7 @@ TEST(MemoryStatus, WithoutSwapFileTheGaugeKeepsItsValueAndTheLabelShowsIt) {
   (void)rig.program->Monitor().MemStatus();
   EXPECT_EQ(rig.program->Quondix().Gauge2.Value(), 30);
   EXPECT_EQ(rig.program->Quondix().lblSwapfileUsed.Caption(), "60% Used");
+  EXPECT_TRUE(rig.machine.Boxes().empty()) << "it is no error";
 }
 
 TEST(MemoryStatus, PercentagesShownAreAlwaysEven) {

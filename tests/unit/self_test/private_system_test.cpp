@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
+
 #include "app/form1.h"
 #include "memory/memory_block.h"
 #include "os/simulated/simulated_machine.h"
@@ -111,6 +114,9 @@ TEST_F(PrivateSystem, FilesAreChangedInTheOwnFolderOnly) {
   EXPECT_EQ(Files().CreateFileA("C:\\N.TXT", os::kGenericRead, os::kOpenAlways), os::kInvalidFile);
   EXPECT_EQ(Files().CreateFileA("C:\\TEMP\\QDIXTEST\\..\\N.TXT", os::kGenericWrite, os::kCreateAlways),
             os::kInvalidFile);
+  EXPECT_EQ(Files().CreateFileA("C:\\TEMP\\QDIXTEST\\", os::kGenericWrite, os::kCreateAlways),
+            os::kInvalidFile)
+      << "a folder is no file in itself";
   EXPECT_EQ(machine.ReadFile("C:\\A.TXT"), "a");
 
   EXPECT_TRUE(Files().CopyFileA("C:\\A.TXT", "C:\\TEMP\\QDIXTEST\\A.TXT"));
@@ -131,23 +137,33 @@ TEST_F(PrivateSystem, SystemIniIsOneOfItsOwn) {
 }
 
 TEST_F(PrivateSystem, TheFolderOfWindowsIsItsOwn) {
-  char folder[32] = {};
-  EXPECT_EQ(Files().GetWindowsDirectoryA(folder, sizeof folder), std::string_view(kOwnFolder).size());
+  const std::size_t length = std::string_view(kOwnFolder).size();
+  char folder[32];
+  std::fill(std::begin(folder), std::end(folder), '?');
+  EXPECT_EQ(Files().GetWindowsDirectoryA(folder, static_cast<std::uint32_t>(length) + 1), length);
   EXPECT_STREQ(folder, kOwnFolder);
-  EXPECT_EQ(Files().GetWindowsDirectoryA(folder, 4), std::string_view(kOwnFolder).size() + 1);
+  EXPECT_EQ(folder[length + 1], '?') << "written beyond its room";
+  folder[0] = '?';
+  EXPECT_EQ(Files().GetWindowsDirectoryA(folder, static_cast<std::uint32_t>(length)), length + 1);
+  EXPECT_EQ(folder[0], '?');
 }
 
 TEST_F(PrivateSystem, MemoryIsTakenInSmallBlocksAndCounted) {
   os::Memory& memory = system.GetSystem().memory;
   EXPECT_EQ(memory.VirtualAlloc(self_test::LimitedMemory::kMostBytes + 1), nullptr);
+  void* const largest = memory.VirtualAlloc(self_test::LimitedMemory::kMostBytes);
+  EXPECT_NE(largest, nullptr);
+  memory.TouchPages(largest, self_test::LimitedMemory::kMostBytes);
+  EXPECT_EQ(system.Memory().TouchedBytes(), self_test::LimitedMemory::kMostBytes);
+  memory.VirtualFree(largest);
   {
     memory::MemoryBlock block(memory);
     EXPECT_TRUE(block.Allocate(999999).Ok());
-    EXPECT_EQ(system.Memory().Taken(), 1);
-    EXPECT_EQ(system.Memory().GivenBack(), 0);
+    EXPECT_EQ(system.Memory().Taken(), 2);
+    EXPECT_EQ(system.Memory().GivenBack(), 1);
   }
-  EXPECT_EQ(system.Memory().GivenBack(), 1);
-  EXPECT_EQ(system.Memory().TouchedBytes(), 1000000U);
+  EXPECT_EQ(system.Memory().GivenBack(), 2);
+  EXPECT_EQ(system.Memory().TouchedBytes(), self_test::LimitedMemory::kMostBytes + 1000000U);
 }
 
 TEST_F(PrivateSystem, WhatIsSaidIsKeptInOneLineUntilItIsAskedFor) {

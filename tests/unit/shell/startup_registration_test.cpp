@@ -95,6 +95,14 @@ TEST_F(StartupRegistrationTest, ClearWithNothingThereIsSilent) {
   EXPECT_TRUE(rig.machine.Boxes().empty());
 }
 
+TEST_F(StartupRegistrationTest, EntryThatIsRefusedOnceGoesAtTheSecondTry) {
+  SetEntry(kProgram);
+  StartOnTab();
+  rig.machine.FailNextCall("RegDeleteValueA");
+  Check2().Press();
+  EXPECT_EQ(Entry(), std::nullopt);
+}
+
 TEST_F(StartupRegistrationTest, ClearRemovesTheShortcutOfTheProgramsOwnFileName) {
   rig.machine.SetModuleFileName("C:\\RAM\\MEMORY.EXE");
   SetEntry("C:\\RAM\\MEMORY.exe");

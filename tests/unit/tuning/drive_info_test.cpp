@@ -38,6 +38,17 @@ TEST_F(DriveInfo, ExtendedQueryIsProbedOnDriveC) {
   EXPECT_FALSE(info.HasDiskFreeSpaceEx());
 }
 
+TEST_F(DriveInfo, ListIsLeftBehindTheLastDrive) {
+  AddFixed('C', 0);
+  AddFixed('D', 0);
+  EXPECT_EQ(Listed().size(), 2U);
+  Texts asked;
+  for (const std::string& call : machine.Calls()) {
+    if (call.starts_with("GetDriveTypeA")) asked.push_back(call);
+  }
+  EXPECT_EQ(asked, (Texts{"GetDriveTypeA(C:\\)", "GetDriveTypeA(D:\\)"}));
+}
+
 TEST_F(DriveInfo, ExtendedQueryTellsWholeByteCountsOfAnySize) {
   AddFixed('D', 3 * kGigabyte + 1, 40 * kGigabyte);
   info.SetUseDiskFreeSpaceEx(true);
@@ -72,6 +83,41 @@ TEST_F(DriveInfo, VolumeOf2GigabytesOverflowsTheClassicQuery) {
   EXPECT_EQ(space.total_bytes, 0);
   AddFixed('C', 1000, 2 * kGigabyte - 4096);
   EXPECT_EQ(info.GetDiskSpace("C:\\", space), 1);
+}
+
+/// A driver that tells any figures.
+class TellingDrives final : public os::Drives {
+ public:
+  explicit TellingDrives(const os::DiskClusters& figures) : figures_(figures) {}
+  std::int32_t GetDiskFreeSpaceExA(const char* /*root*/, os::DiskBytes& /*bytes*/) override { return 0; }
+  std::int32_t GetDiskFreeSpaceA(const char* /*root*/, os::DiskClusters& clusters) override {
+    clusters = figures_;
+    return 1;
+  }
+  std::uint32_t GetDriveTypeA(const char* /*root*/) override { return os::kDriveFixed; }
+  std::uint32_t GetLogicalDriveStringsA(std::uint32_t /*room*/, char* /*buffer*/) override { return 0; }
+  std::int32_t GetVolumeInformationA(const char* /*root*/, std::uint32_t& /*flags*/) override { return 0; }
+
+ private:
+  os::DiskClusters figures_;
+};
+
+TEST(DriveInfoOfAnyDriver, EachProductMayOverflowAndLeavesTheRestOut) {
+  const auto space_of = [](const os::DiskClusters& figures, std::int32_t result) {
+    TellingDrives drives(figures);
+    tuning::DriveInfo info(drives);
+    tuning::DriveSpaceInfo space;
+    EXPECT_EQ(info.GetDiskSpace("C:\\", space), result);
+    EXPECT_EQ(space.total_clusters, static_cast<std::int32_t>(figures.total_clusters));
+    return std::vector<std::int64_t>{space.total_bytes, space.free_bytes, space.available_bytes,
+                                     space.used_bytes};
+  };
+  using Bytes = std::vector<std::int64_t>;
+  EXPECT_EQ(space_of({65536, 65536, 1, 2}, 0), (Bytes{0, 0, 0, 0}));
+  EXPECT_EQ(space_of({65536, 65536, 0, 0}, 0), (Bytes{0, 0, 0, 0}));
+  EXPECT_EQ(space_of({65536, 16384, 1, 2}, 0), (Bytes{0, 0, 0, 0}));
+  EXPECT_EQ(space_of({65536, 16384, 2, 1}, 0), (Bytes{1073741824, 0, 0, 0}));
+  EXPECT_EQ(space_of({65536, 16384, 1, 1}, 1), (Bytes{1073741824, 1073741824, 1073741824, 0}));
 }
 
 TEST_F(DriveInfo, FailedQueriesGiveNothing) {

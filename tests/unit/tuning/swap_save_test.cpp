@@ -103,6 +103,8 @@ TEST_F(SwapSaving, NoWritesNothingButTheRecord) {
   EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine, kMachineKeyPath, "OldPagingDrive"), "C:");
   EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine, kMachineKeyPath, "OldMinPagingFileSize"),
             "131072");
+  EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine, kMachineKeyPath, "OldMaxPagingFileSize"),
+            "131072");
 }
 
 TEST_F(SwapSaving, RecordComesBeforeTheQuestion) {
@@ -113,6 +115,20 @@ TEST_F(SwapSaving, RecordComesBeforeTheQuestion) {
   EXPECT_EQ(changes_at_question, Changes().size());
   EXPECT_GT(changes_at_question, 5U);
 }
+
+class SwapSavingOf : public SwapSaving, public testing::WithParamInterface<const char*> {};
+
+TEST_P(SwapSavingOf, EitherSetupOffersTheRestartWhenEverythingIsWritten) {
+  StartWithRecord(GetParam());
+  std::vector<std::size_t> changes_at_boxes;
+  rig.machine.WhileBoxIsOpen([&] { changes_at_boxes.push_back(Changes().size()); });
+  Save({os::kIdYes, os::kIdNo});
+  const std::size_t changes = Changes().size();
+  EXPECT_GT(changes, 0U);
+  EXPECT_THAT(changes_at_boxes, ElementsAre(0U, changes));
+}
+
+INSTANTIATE_TEST_SUITE_P(Both, SwapSavingOf, testing::Values(kOptimised, "[386Enh]\r\nEMMExclude=A000\r\n"));
 
 TEST_F(SwapSaving, BoxThatWasNotAnsweredWritesNothing) {
   StartWithRecord(kOptimised);

@@ -103,6 +103,16 @@ TEST_F(FocusHandlers, LostFocusMaySendTheFocusWhereItIsGoingAnyway) {
   EXPECT_EQ(got.count, 1);
 }
 
+TEST_F(FocusHandlers, ControlWhosePageClosesMaySendTheFocusElsewhere) {
+  lost.action = [&] {
+    EXPECT_EQ(bench.form.Focused(), nullptr);
+    other.SetFocus();
+  };
+  EXPECT_TRUE(strip.SetTab(1).Ok());
+  EXPECT_EQ(lost.count, 1);
+  EXPECT_TRUE(other.HasFocus());
+}
+
 TEST_F(FocusHandlers, GotFocusMaySendTheFocusOn) {
   got.action = [&] { other.SetFocus(); };
   EXPECT_FALSE(bench.form.MoveFocus(&target));

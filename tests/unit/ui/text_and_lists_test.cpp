@@ -100,6 +100,10 @@ TEST_F(TextBoxRules, SameTextKeepsTheSelection) {
   box.SelectAll();
   box.SetText("80");
   EXPECT_EQ(box.SelectionLength(), 2);
+  box.UserEdited("80", 1, 1);
+  box.SetText("80");
+  EXPECT_EQ(box.SelectionStart(), 1);
+  EXPECT_EQ(box.SelectionLength(), 1);
 }
 
 TEST_F(TextBoxRules, SelectionAndTextAreToldToThePeer) {
@@ -180,6 +184,15 @@ TEST_F(TextBoxRules, SelectionOfAnEditInTheWindowIsKeptInsideTheText) {
   EXPECT_EQ(box.SelectionLength(), 0);
 }
 
+TEST(DigitKeys, AreTheTenDigitsAndBackspace) {
+  std::string taken;
+  for (int code = 1; code < 256; ++code) {
+    const auto character = static_cast<char>(code);
+    if (ui::IsDigitKey(character)) taken += character;
+  }
+  EXPECT_EQ(taken, "\b0123456789");
+}
+
 class ListRules : public testing::Test {
  protected:
   void Fill(ui::ListControl& list) {
@@ -220,8 +233,10 @@ TEST_F(ListRules, IndexOutsideTheListIsRefused) {
   EXPECT_EQ(list.SetSelectedIndex(3).Error(), base::kInvalidPropertyValue);
   EXPECT_EQ(list.SetSelectedIndex(-2).Error(), base::kInvalidPropertyValue);
   EXPECT_EQ(list.SelectedIndex(), ui::ListControl::kNoSelection);
-  EXPECT_EQ(list.Item(7), "");
-  EXPECT_EQ(list.ItemData(-1), 0);
+  for (const int outside : {-1, 3, 7}) {
+    EXPECT_EQ(list.Item(outside), "") << outside;
+    EXPECT_EQ(list.ItemData(outside), 0) << outside;
+  }
 }
 
 TEST_F(ListRules, UsersClickOnTheSelectedRowOfAListFiresAgain) {
