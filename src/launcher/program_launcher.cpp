@@ -63,7 +63,6 @@ base::Status ProgramLauncher::ShowRecords(const std::string& content) {
     const std::string_view shown_name = base::CutAtNul(entry.name);
     menu.mnuProgram[element].SetCaption(shown_name);
     base::Ignore(menu.mnuProgram[element].SetVisible(true));  // only hiding can be refused
-    launcher_names_[index] = entry.name;
     launcher_paths_[index] = entry.path;
     launcher_start_in_[index] = entry.start_in;
     screens_.launcher.List5.AddItem(shown_name, element);

@@ -60,7 +60,6 @@ class ProgramLauncher {
   Screens screens_;
   LaunchRelease& release_;
   ui::ElementHandlers<screens::TrayMenu::kProgramCount> menu_handlers_;
-  Table launcher_names_;
   Table launcher_paths_;
   Table launcher_start_in_;
 };

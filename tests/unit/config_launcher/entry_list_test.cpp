@@ -295,6 +295,15 @@ TEST(ConfigDroppedFiles, StopAtTwentyFive) {
   EXPECT_EQ(rig.BoxText(1), "The launcher takes 25 programs at most. Not all files were added.");
 }
 
+TEST(ConfigDroppedFiles, WhatIsRefusedIsNamedBeforeTheLackOfRoom) {
+  ConfigRig rig(SomeEntries(24));
+  rig.Start();
+  rig.form->FilesDropped({"C:\\WINDOWS", "C:\\A.EXE", "C:\\B.EXE"});
+  ASSERT_EQ(rig.machine.Boxes().size(), 2U);
+  EXPECT_TRUE(rig.machine.Boxes()[0].text.starts_with("These could not be added."));
+  EXPECT_EQ(rig.machine.Boxes()[1].text, "The launcher takes 25 programs at most. Not all files were added.");
+}
+
 TEST(ConfigDroppedFiles, NothingHappensUnderAQuestion) {
   ConfigRig rig(SomeEntries(2));
   rig.Start();
