@@ -46,19 +46,21 @@ double LoopMs(SIZE_T bytes) {
 Row MeasureRelease() {
   e2e::ShippedProgram program;
   StartAndSettle(program);
-  std::vector<double> ours;
-  std::vector<double> theirs;
+  std::vector<double> large;
+  std::vector<double> small;
+  std::vector<double> loop;
   for (int round = 0; round < kRounds; ++round) {
-    // Both pump equally often, so that the difference has no pumps in it.
-    const double small_ms = PassMs(program, kSmallMb);
-    ours.push_back(PassMs(program, kLargeMb) - small_ms);
-    theirs.push_back(LoopMs((kLargeMb - kSmallMb) * kBytesPerMb));
+    small.push_back(PassMs(program, kSmallMb));
+    large.push_back(PassMs(program, kLargeMb));
+    loop.push_back(LoopMs((kLargeMb - kSmallMb) * kBytesPerMb));
   }
   CloseAndWait(program);
+  // Both pump equally often, so that the difference has no pumps in it.
   return Compared(
-      "processor time of a release of 232 MB less one of 1 MB, beside a loop that takes, touches and frees "
-      "231 MB",
-      ours, theirs, "ms", kMostRatio, "at most 1.1 x the loop");
+      "processor time of a release of 232 MB less one of 1 MB, fastest of 7, beside a loop that takes, "
+      "touches "
+      "and frees 231 MB",
+      {Fastest(large) - Fastest(small)}, {Fastest(loop)}, "ms", kMostRatio, "at most 1.1 x the loop");
 }
 
 }  // namespace qdix::bench

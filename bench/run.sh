@@ -37,7 +37,7 @@ HEAD
 - Idle minute: user and system time of the process, as it is told itself, in steps of 10 ms; both programs live through the same three
   minutes. What Wine's server does for them is in neither.
 - Release: processor time, because elapsed time is that of the pumps above all, which wait for Wine's server. A release of 1 MB pumps as
-  often as one of 232 MB, so that the difference is one of memory alone. The loop takes the same bytes in one block, writes into every
+  often as one of 232 MB, so that the difference between the fastest of each is one of memory alone. The loop takes the same bytes in one block, writes into every
   page and frees it.
 - Ticks: the handler of `Timer1` on the simulated machine, in the arithmetic of the shipped programs.
 - Timers: stopped one by one from inside the process, which tells whether each was there. Top-level windows include those that
