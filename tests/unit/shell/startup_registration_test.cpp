@@ -122,6 +122,13 @@ TEST_F(StartupRegistrationTest, MissingRunKeyIsNotMade) {
   EXPECT_TRUE(bare.machine.Boxes().empty());
 }
 
+TEST_F(StartupRegistrationTest, FirstStartThatCouldNotRegisterShowsTheBoxClear) {
+  ProgramRig bare;
+  bare.Start();
+  EXPECT_FALSE(bare.machine.KeyExists(os::kHkeyLocalMachine, kRunKey));
+  EXPECT_FALSE(bare.program->Startup().Check2.Ticked());
+}
+
 TEST_F(StartupRegistrationTest, ProgramInARootHasASingleSeparator) {
   rig.machine.SetModuleFileName("A:\\QDIX.exe");
   StartOnTab();

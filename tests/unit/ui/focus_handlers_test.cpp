@@ -48,6 +48,13 @@ TEST_F(FocusHandlers, TakingTheFocusFromAllControlsValidatesAndTellsTheOneLeft) 
   EXPECT_EQ(lost.count, 1);
 }
 
+TEST_F(FocusHandlers, ControlThatCannotBeReachedRefusesAndTheOneWithTheFocusKeepsIt) {
+  target.SetEnabled(false);
+  EXPECT_FALSE(bench.form.MoveFocus(&target));
+  EXPECT_TRUE(left.HasFocus());
+  EXPECT_EQ(validations, 0);
+}
+
 TEST_F(FocusHandlers, ControlThatGetsTheFocusTellsItsPeerBeforeItsHandlerRuns) {
   NotingPeer peer;
   target.AttachPeer(&peer);

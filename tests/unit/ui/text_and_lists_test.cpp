@@ -44,6 +44,13 @@ TEST_F(TextBoxRules, BackspaceTakesTheSelectionOrTheCharacterBefore) {
   EXPECT_FALSE(box.Type('\b')) << "nothing before it";
 }
 
+TEST_F(TextBoxRules, BackspaceTakesOneCharacterAndLeavesWhatIsBehind) {
+  box.UserEdited("abcd", 2, 0);
+  EXPECT_TRUE(box.Type('\b'));
+  EXPECT_EQ(box.Text(), "acd");
+  EXPECT_EQ(box.SelectionStart(), 1);
+}
+
 TEST_F(TextBoxRules, FullBoxTakesNoMore) {
   box.TypeText("abcdefg");
   EXPECT_EQ(box.Text(), "abcde");
