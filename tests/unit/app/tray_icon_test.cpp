@@ -92,6 +92,12 @@ TEST_F(Tray, RightButtonOpensTheMenuAndALeftClickDoesNothing) {
   EXPECT_EQ(menus.shown, (std::vector<std::string>{"mnuTray"}));
 }
 
+TEST_F(Tray, DoubleClickIsMarkedAsTheEntryOfTheSameEffect) {
+  for (const ui::MenuItem* item : rig.program->TheTrayMenu().mnuTray.Children()) {
+    EXPECT_EQ(item->IsDefault(), item->Caption() == "Display Q-DIX") << item->Caption();
+  }
+}
+
 TEST_F(Tray, MenuHoldsItsEntriesInOrder) {
   std::vector<std::string> captions;
   for (const ui::MenuItem* item : rig.program->TheTrayMenu().mnuTray.Children())

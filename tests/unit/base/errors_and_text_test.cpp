@@ -63,6 +63,7 @@ TEST(Texts, AreCutAtTheFirstNul) {
 
 TEST(Texts, OnlyAsciiLettersChangeCase) {
   EXPECT_EQ(base::UpperAscii("hKey_\xE4z09"), "HKEY_\xE4Z09");
+  EXPECT_EQ(base::UpperAscii("`a{z"), "`A{Z");
   EXPECT_TRUE(base::EqualsIgnoringCase("ThunderRT6Main", "THUNDERRT6MAIN"));
   EXPECT_FALSE(base::EqualsIgnoringCase("\xE4", "\xC4"));
   EXPECT_FALSE(base::EqualsIgnoringCase("a", "ab"));

@@ -134,6 +134,7 @@ TEST(ConfigClosing, EndOfTheSessionAsksAndWritesNothing) {
   rig.Screen().cmdMoveDown.Press();
   rig.Type(kEditor);
   rig.form->EndSession();
+  EXPECT_TRUE(rig.form->TheApplication().SessionIsEnding());
   EXPECT_TRUE(rig.form->Window().Unloaded());
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
   EXPECT_EQ(rig.Changes(), Names{});

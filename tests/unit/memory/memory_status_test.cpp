@@ -141,6 +141,15 @@ TEST(MemoryStatus, GaugeLevelOutsideItsRangeIsReportedLikeAnyError) {
             std::string(kReportBeginning) + "\r\nAvailable RAM : 23.45\r\nVM : -10\r\nTotal Ram : 66");
 }
 
+TEST(MemoryDisplay, SwapFileGaugeShowsHalfThePercentageRounded) {
+  ProgramRig rig;
+  rig.Start();
+  rig.machine.SetMemory(64 * kMegabyte, 24012345, 1000, 388);  // 61.2 % are used
+  rig.AdvanceMs(750);
+  EXPECT_EQ(rig.program->Quondix().Gauge2.Value(), 31);
+  EXPECT_EQ(rig.program->Quondix().lblSwapfileUsed.Caption(), "62% Used");
+}
+
 TEST(MemoryDisplay, TickShowsCaptionGaugeAndPercentage) {
   ProgramRig rig;
   rig.Start();

@@ -26,6 +26,13 @@ TEST_F(TextBoxRules, AssignmentIsCutToTheMostCharacters) {
   EXPECT_EQ(box.Text(), "abcde");
 }
 
+TEST_F(TextBoxRules, AssignmentPutsTheInsertionPointInFront) {
+  box.TypeText("ab");
+  box.SetText("abc");
+  EXPECT_EQ(box.SelectionStart(), 0);
+  EXPECT_EQ(box.SelectionLength(), 0);
+}
+
 TEST_F(TextBoxRules, EachTypedCharacterReplacesTheSelectionAndFires) {
   box.SetText("80");
   box.SelectAll();
