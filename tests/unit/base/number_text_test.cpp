@@ -66,7 +66,7 @@ TEST(LeadingNumberText, SmallestNumbersAreReadAndNotTakenForNothing) {
 
 TEST(IsNumber, TakesTheWholeText) {
   for (const char* text : {"1", " 1.5 ", "-2E3", ".5", "46347.5"}) EXPECT_TRUE(base::IsNumber(text)) << text;
-  for (const char* text : {"", " ", "x", "1x", "1 2", "--1", ".", "12 o'clock"})
+  for (const char* text : {"e5", "-E3", "", " ", "x", "1x", "1 2", "--1", ".", "12 o'clock"})
     EXPECT_FALSE(base::IsNumber(text)) << text;
 }
 
