@@ -4,13 +4,11 @@
 
 #include "tests/fuzz/corpus.h"
 #include "tests/fuzz/random_list_maker.h"
-#include "tests/support/run_length.h"
 #include "tests/unit/config_launcher/config_rig.h"
 
 namespace qdix::tests {
 namespace {
 
-constexpr unsigned kRuns = 300;
 constexpr int kActionsPerRun = 60;
 
 class RandomLists : private RandomListMaker {
@@ -100,25 +98,11 @@ class RandomLists : private RandomListMaker {
 };
 
 TEST(LauncherListFuzz, AnyBytesAndAnyHands) {
-  for (unsigned seed = 1; seed <= kRuns; ++seed) {
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    RandomLists(seed).Run();
-    if (HasFailure()) return;
-  }
+  RunSeeds(300, [](unsigned seed) { RandomLists(seed).Run(); });
 }
 
 TEST(LauncherListFuzz, CorpusWholeAndDamagedAndAnyHands) {
-  constexpr unsigned kDamages = 6;
-  for (const CorpusFile& file : CorpusOf("launcher")) {
-    SCOPED_TRACE(file.name);
-    RandomLists(FirstSeed()).RunWith(file.bytes);
-    RandomSource random(FirstSeed());
-    for (unsigned i = 0; i < kDamages; ++i) {
-      SCOPED_TRACE("damage " + std::to_string(i) + " of seed " + std::to_string(FirstSeed()));
-      RandomLists(FirstSeed() + i).RunWith(Damaged(file.bytes, random));
-    }
-    if (HasFailure()) return;
-  }
+  RunCorpus("launcher", 6, [](unsigned seed, const std::string& bytes) { RandomLists(seed).RunWith(bytes); });
 }
 
 }  // namespace

@@ -7,12 +7,10 @@
 #include "tests/fuzz/corpus.h"
 #include "tests/fuzz/random_list_maker.h"
 #include "tests/support/program_rig.h"
-#include "tests/support/run_length.h"
 
 namespace qdix::tests {
 namespace {
 
-constexpr unsigned kRuns = 150;
 constexpr const char* kPath = "C:\\Program Files\\QDIX\\launcher.dat";
 constexpr std::size_t kFieldWidths[] = {55, 255, 255};
 
@@ -88,25 +86,11 @@ class TabWithFile {
 };
 
 TEST(LauncherTabFuzz, AnyBytesAreShownTriedAndLeftAlone) {
-  for (unsigned seed = 1; seed <= kRuns; ++seed) {
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    TabWithFile(RandomListMaker(seed).RandomFile()).Run();
-    if (HasFailure()) return;
-  }
+  RunSeeds(150, [](unsigned seed) { TabWithFile(RandomListMaker(seed).RandomFile()).Run(); });
 }
 
 TEST(LauncherTabFuzz, CorpusIsShownTriedAndLeftAloneWholeAndDamaged) {
-  constexpr int kDamages = 6;
-  for (const CorpusFile& file : CorpusOf("launcher")) {
-    SCOPED_TRACE(file.name);
-    TabWithFile(file.bytes).Run();
-    RandomSource random(FirstSeed());
-    for (int i = 0; i < kDamages; ++i) {
-      SCOPED_TRACE("damage " + std::to_string(i) + " of seed " + std::to_string(FirstSeed()));
-      TabWithFile(Damaged(file.bytes, random)).Run();
-    }
-    if (HasFailure()) return;
-  }
+  RunCorpus("launcher", 6, [](unsigned /*seed*/, const std::string& bytes) { TabWithFile(bytes).Run(); });
 }
 
 }  // namespace

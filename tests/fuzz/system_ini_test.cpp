@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "tests/fuzz/corpus.h"
-#include "tests/support/run_length.h"
 #include "tests/support/tuning_rig.h"
 #include "undo/undo_form.h"
 
@@ -73,17 +72,8 @@ class MachineWithIni {
 };
 
 TEST(SystemIniFuzz, CorpusWholeAndDamagedIsTunedAndPutBack) {
-  constexpr int kDamages = 25;
-  for (const CorpusFile& file : CorpusOf("system_ini")) {
-    SCOPED_TRACE(file.name);
-    MachineWithIni(file.bytes).Run();
-    RandomSource random(FirstSeed());
-    for (int i = 0; i < kDamages; ++i) {
-      SCOPED_TRACE("damage " + std::to_string(i) + " of seed " + std::to_string(FirstSeed()));
-      MachineWithIni(Damaged(file.bytes, random)).Run();
-    }
-    if (HasFailure()) return;
-  }
+  RunCorpus("system_ini", 25,
+            [](unsigned /*seed*/, const std::string& bytes) { MachineWithIni(bytes).Run(); });
 }
 
 }  // namespace

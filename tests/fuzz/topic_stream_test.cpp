@@ -8,13 +8,11 @@
 #include "help_viewer/packed_stream.h"
 #include "help_viewer/pane_picture.h"
 #include "tests/fuzz/corpus.h"
-#include "tests/support/run_length.h"
 #include "tests/unit/help_viewer/help_rig.h"
 
 namespace qdix::tests {
 namespace {
 
-constexpr unsigned kRuns = 250;
 constexpr int kActionsPerRun = 60;
 
 class RandomHelp {
@@ -129,29 +127,15 @@ class RandomHelp {
 };
 
 TEST(TopicStreamFuzz, AnyStreamAndAnyHands) {
-  for (unsigned seed = 1; seed <= kRuns; ++seed) {
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    RandomHelp(seed).Run();
-    if (testing::Test::HasFailure()) return;
-  }
+  RunSeeds(250, [](unsigned seed) { RandomHelp(seed).Run(); });
 }
 
 TEST(TopicStreamFuzz, CorpusWholeAndDamagedAndAnyHands) {
-  constexpr unsigned kDamages = 20;
-  for (const CorpusFile& file : CorpusOf("topics")) {
-    SCOPED_TRACE(file.name);
-    RandomHelp(FirstSeed(), file.bytes).Run();
-    RandomSource random(FirstSeed());
-    for (unsigned i = 0; i < kDamages; ++i) {
-      SCOPED_TRACE("damage " + std::to_string(i) + " of seed " + std::to_string(FirstSeed()));
-      RandomHelp(FirstSeed() + i, Damaged(file.bytes, random)).Run();
-    }
-    if (testing::Test::HasFailure()) return;
-  }
+  RunCorpus("topics", 20, [](unsigned seed, const std::string& bytes) { RandomHelp(seed, bytes).Run(); });
 }
 
 TEST(TopicStreamFuzz, AnyPackedBytes) {
-  for (unsigned seed = 1; seed <= 20 * kRuns; ++seed) {
+  RunSeeds(5000, [](unsigned seed) {
     std::mt19937 random(seed);
     std::string packed;
     for (auto left = random() % 400; left > 0; --left) packed += static_cast<char>(random());
@@ -161,8 +145,8 @@ TEST(TopicStreamFuzz, AnyPackedBytes) {
     for (std::size_t byte = 0; byte < 4 && packed.size() >= 4; ++byte) {
       size |= std::size_t{static_cast<unsigned char>(packed[byte])} << (8 * byte);
     }
-    EXPECT_LE(help_viewer::Unpack(packed).size(), size) << "seed " << seed;
-  }
+    EXPECT_LE(help_viewer::Unpack(packed).size(), size);
+  });
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# The reliability runs of the tests, made long:   long_runs.sh [hands|days|exe]...   (all of them by default)
+# The reliability runs of the tests, made long:   long_runs.sh [hands|fuzz|days|exe]...   (all of them by default)
 #   hands   random hands on every program         QDIX_EVENTS=1000000
+#   fuzz    any bytes as files and topics         QDIX_FUZZ_RUNS=5000
 #   days    days of the program on stepped time   QDIX_SOAK_DAYS=60
 #   exe     the shipped exe under Wine            QDIX_TIPS=10000 QDIX_MENUS=1000
 # The variables change the length, QDIX_SEED the chance. A failing run prints its seed.
@@ -8,17 +9,22 @@ set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 export QDIX_EVENTS=${QDIX_EVENTS:-1000000} QDIX_SOAK_DAYS=${QDIX_SOAK_DAYS:-60}
+export QDIX_FUZZ_RUNS=${QDIX_FUZZ_RUNS:-5000}
 export QDIX_TIPS=${QDIX_TIPS:-10000} QDIX_MENUS=${QDIX_MENUS:-1000}
 
 runs=("$@")
-if ((${#runs[@]} == 0)); then runs=(hands days exe); fi
+if ((${#runs[@]} == 0)); then runs=(hands fuzz days exe); fi
 
 for run in "${runs[@]}"; do
   case $run in
     hands)
       # Without sanitizers, which take ten times as long.
       tools/setup/build.sh host fuzz_tests
-      build/host/fuzz_tests --gtest_filter='*Hands*'
+      build/host/fuzz_tests --gtest_filter='*Hands*:-*Fuzz*'
+      ;;
+    fuzz)
+      tools/setup/build.sh host fuzz_tests
+      build/host/fuzz_tests --gtest_filter='*Fuzz*'
       ;;
     days)
       tools/setup/build.sh host soak_tests
@@ -32,7 +38,7 @@ for run in "${runs[@]}"; do
       tools/desktop/desktop.sh run tools/wine/wine.sh build/win9x-tests/e2e_tests.exe --gtest_filter='SoakSession.*'
       ;;
     *)
-      sed -n '2,7s/^# //p' "${BASH_SOURCE[0]}" >&2
+      sed -n '2,8s/^# //p' "${BASH_SOURCE[0]}" >&2
       exit 2
       ;;
   esac
