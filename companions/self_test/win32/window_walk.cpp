@@ -60,7 +60,7 @@ class WindowWalk {
   WindowWalk(HWND main, const ui::Form& form) : main_(main), form_(form) {}
 
   void Visit(ui::Control& control, int /*number*/) {
-    ++count_;
+    if (WindowOf(main_, form_, control) != nullptr) ++count_;
     const char* const fault = FaultOf(control);
     if (fault == nullptr) return;
     if (!faults_.empty()) faults_ += "; ";

@@ -15,7 +15,7 @@ namespace qdix::self_test::win32 {
 
 /// Every control has a window, which is shown as the model says, carries its caption, and lies inside of the
 /// window that it stands on. Those of a page that is not open may have none: they are made when it is opened.
-/// `main` is the window of the form. Tells how many controls there are.
+/// `main` is the window of the form. Tells how many windows it saw.
 [[nodiscard]] Outcome WalkWindows(HWND main, ui::Form& form);
 
 }  // namespace qdix::self_test::win32
