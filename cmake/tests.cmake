@@ -57,7 +57,7 @@ if(WIN32)
   qdix_test(contract_tests SOURCES ${contract_sources} LIBRARIES qdix_win32 comctl32)
 
   file(GLOB driver_sources CONFIGURE_DEPENDS tests/e2e/driver/*.cpp)
-  file(GLOB e2e_sources CONFIGURE_DEPENDS tests/e2e/*.cpp)
+  file(GLOB e2e_sources CONFIGURE_DEPENDS tests/e2e/*.cpp tests/e2e/supervisor/*.cpp)
   file(GLOB probe_sources CONFIGURE_DEPENDS tools/probe/*.cpp)
   if(driver_sources)
     add_library(e2e_driver STATIC ${driver_sources})

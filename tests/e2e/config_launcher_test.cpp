@@ -293,7 +293,7 @@ TEST_F(ConfigSession, ListThatAnotherProgramHoldsIsNotLost) {
 
 TEST_F(ConfigSession, SecondCopyBringsTheFirstForwardAndEnds) {
   StartWith(ThreeEntries());
-  ShowWindow(program.MainWindow(), SW_MINIMIZE);
+  ShowWindowAsync(program.MainWindow(), SW_MINIMIZE);
   ASSERT_TRUE(program.Await([this] { return IsIconic(program.MainWindow()) != 0; }));
   ShippedProgram second{ConfigLauncher()};
   ASSERT_TRUE(second.Start());

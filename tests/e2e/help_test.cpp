@@ -7,6 +7,7 @@
 #include "tests/e2e/driver/file_keeper.h"
 #include "tests/e2e/driver/hand.h"
 #include "tests/e2e/driver/help_windows.h"
+#include "tests/e2e/driver/process_parameters.h"
 #include "tests/e2e/driver/registry_tree.h"
 #include "tests/e2e/session.h"
 
@@ -65,8 +66,7 @@ TEST_F(HelpOfTheProgram, EachTabLeavesExactlyOneViewerAtItsTopic) {
     program.Press(tab.button);
     ExpectOneViewer(tab.topic);
   }
-  Sleep(kSecondViewerMs);
-  EXPECT_EQ(HelpWindows().size(), 1U);
+  EXPECT_FALSE(Eventually([] { return HelpWindows().size() != 1; }, kSecondViewerMs));
   CloseProgram();
   EXPECT_EQ(HelpWindows().size(), 1U) << "the viewer outlives the program";
 }
@@ -130,8 +130,7 @@ TEST_F(FirstHelpOfTheProgram, FirstStartOpensTheFirstStepsAndTheNextOneDoesNot) 
   CloseProgram();
   ASSERT_TRUE(CloseHelpWindows());
   StartProgram();
-  Sleep(kSecondViewerMs);
-  EXPECT_TRUE(HelpWindows().empty());
+  EXPECT_FALSE(Eventually([] { return !HelpWindows().empty(); }, kSecondViewerMs));
   CloseProgram();
 }
 

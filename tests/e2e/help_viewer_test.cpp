@@ -165,7 +165,7 @@ TEST_F(HelpSession, WindowThatIsFoundByItsTitleIsTheOnlyOneAndClosesTheProgram) 
 
 TEST_F(HelpSession, ClosesAlsoWhileItIsMinimisedAndWhileABoxIsOpen) {
   Start("4");
-  ShowWindow(program.MainWindow(), SW_MINIMIZE);
+  ShowWindowAsync(program.MainWindow(), SW_MINIMIZE);
   ASSERT_TRUE(program.Await([this] { return IsIconic(program.MainWindow()) != 0; }));
   PostMessageA(FindWindowA(nullptr, kWindowTitle), WM_CLOSE, 0, 0);
   EXPECT_EQ(program.WaitForExit(), 0);
@@ -197,7 +197,7 @@ TEST_F(HelpSession, LinksAreFollowedByKeyboardAndBackReturns) {
 TEST_F(HelpSession, KeysScrollTheTopic) {
   Start("0");
   // The smallest window has the most to scroll.
-  SetWindowPos(program.MainWindow(), nullptr, 20, 20, 10, 10, SWP_NOZORDER);
+  SetWindowPos(program.MainWindow(), nullptr, 20, 20, 10, 10, SWP_NOZORDER | SWP_ASYNCWINDOWPOS);
   const std::string top = AwaitOtherPane("");
   PressKey(VK_DOWN);
   const std::string line = AwaitOtherPane(top);
@@ -297,7 +297,7 @@ TEST_F(HelpSession, BothPanesFollowTheSizeOfTheWindow) {
   RECT window = {};
   GetWindowRect(program.MainWindow(), &window);
   SetWindowPos(program.MainWindow(), nullptr, 0, 0, window.right - window.left + 120,
-               window.bottom - window.top + 80, SWP_NOZORDER);
+               window.bottom - window.top + 80, SWP_NOZORDER | SWP_ASYNCWINDOWPOS);
   EXPECT_TRUE(program.Await([&] {
     const RECT now = program.ScreenRect("paneTopic");
     return now.right - now.left > pane.right - pane.left + 60 &&
@@ -311,7 +311,12 @@ TEST_F(HelpSession, BothPanesFollowTheSizeOfTheWindow) {
 
 TEST_F(HelpSession, PlaceIsRememberedOverARestart) {
   Start("4");
-  SetWindowPos(program.MainWindow(), nullptr, 33, 44, 555, 366, SWP_NOZORDER);
+  SetWindowPos(program.MainWindow(), nullptr, 33, 44, 555, 366, SWP_NOZORDER | SWP_ASYNCWINDOWPOS);
+  ASSERT_TRUE(program.Await([this] {
+    RECT place = {};
+    GetWindowRect(program.MainWindow(), &place);
+    return place.left == 33 && place.top == 44 && place.right == 33 + 555 && place.bottom == 44 + 366;
+  }));
   CloseAndExpectEnd();
   EXPECT_EQ(TextsOf(kHelpSettings),
             (RegistryTexts{

@@ -93,10 +93,11 @@ class LauncherSession : public Session {
     return {};
   }
   void CloseMenus() const {
-    while (!program.OpenMenus().empty()) {
+    ASSERT_TRUE(program.Await([this] {
+      if (program.OpenMenus().empty()) return true;
       PressKey(VK_ESCAPE);
-      Sleep(50);
-    }
+      return false;
+    }));
   }
 
   /// Goes to a field of the editor by its key and types over what it holds.

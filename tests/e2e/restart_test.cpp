@@ -118,7 +118,7 @@ TEST_F(RestartSession, MinimisedStart) {
   ASSERT_TRUE(program.WaitForFirstReading());
   EXPECT_TRUE(program.Await([&] { return IsIconic(program.MainWindow()) != 0; }));
   EXPECT_TRUE(IsWindowVisible(program.MainWindow()));
-  ShowWindow(program.MainWindow(), SW_RESTORE);
+  ShowWindowAsync(program.MainWindow(), SW_RESTORE);
   EXPECT_TRUE(program.Await([&] { return IsIconic(program.MainWindow()) == 0; }));
   EXPECT_TRUE(program.IsVisible("Command1"));
   CloseProgram();

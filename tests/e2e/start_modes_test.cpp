@@ -64,7 +64,7 @@ TEST_F(StartModeSession, TwoMinimisesTheWindowWithTheMemoryInItsCaption) {
   ASSERT_TRUE(memory.Play(kBytesOf100Mb));
   ExpectCaption("100 MB   Q-DIX");
   EXPECT_TRUE(IsMinimised(program));
-  ShowWindow(program.MainWindow(), SW_RESTORE);
+  ShowWindowAsync(program.MainWindow(), SW_RESTORE);
   ASSERT_TRUE(program.Await([this] { return !IsMinimised(program); }));
   program.OpenTab(3);
   EXPECT_TRUE(program.IsChecked("Option2"));

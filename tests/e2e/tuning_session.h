@@ -39,7 +39,7 @@ class TuningSession : public Session {
 
   /// Waits until a control, a file, the registry show what a hand has just done.
   [[nodiscard]] bool Becomes(const std::function<bool()>& condition) const {
-    return program.Await(condition, kHandDeadlineMs);
+    return program.Await(condition);
   }
 
   /// Waits for a box, sees what it says, and leaves it open.
@@ -60,7 +60,6 @@ class TuningSession : public Session {
   void ExpectRestartAndEnd();
 
  private:
-  static constexpr int kHandDeadlineMs = 5000;
 
   SystemIniKeeper keeper_;
   std::optional<RestartWatch> restarts_;

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "tests/e2e/driver/native_windows.h"
 #include "tests/e2e/driver/polling.h"
 
 namespace qdix::e2e {
@@ -65,9 +66,10 @@ void SendKey(int key, DWORD flags) {
 
 bool BringForward(HWND top_level) {
   // Asked for again and again: a window that has just been opened may take the front after the first time.
+  // Only of a window that answers, because the system waits for the window without a limit.
   return Eventually([top_level] {
     return GetForegroundWindow() == top_level ||
-           (SetForegroundWindow(top_level) != 0 && GetForegroundWindow() == top_level);
+           (Answers(top_level) && SetForegroundWindow(top_level) != 0 && GetForegroundWindow() == top_level);
   });
 }
 

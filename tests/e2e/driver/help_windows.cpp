@@ -1,17 +1,8 @@
 #include "tests/e2e/driver/help_windows.h"
 
-#include <array>
-
-#include "tests/e2e/driver/inside_process.h"
 #include "tests/e2e/driver/polling.h"
 
 namespace qdix::e2e {
-
-namespace {
-
-constexpr std::size_t kLongestCommandLine = 300;
-
-}  // namespace
 
 std::vector<HWND> HelpWindows() {
   std::vector<HWND> windows;
@@ -20,21 +11,6 @@ std::vector<HWND> HelpWindows() {
     if (IsWindowVisible(window) != 0) windows.push_back(window);
   }
   return windows;
-}
-
-std::string CommandLineOf(HWND window) {
-  DWORD id = 0;
-  GetWindowThreadProcessId(window, &id);
-  const HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, id);
-  if (process == nullptr) return {};
-  const auto place = CallInside(process, SystemFunction("kernel32.dll", "GetCommandLineA"), {});
-  std::array<char, kLongestCommandLine + 1> text{};
-  if (place) {
-    ReadProcessMemory(process, reinterpret_cast<const void*>(static_cast<std::uintptr_t>(*place)),
-                      text.data(), kLongestCommandLine, nullptr);
-  }
-  CloseHandle(process);
-  return text.data();
 }
 
 bool CloseHelpWindows() {

@@ -55,6 +55,7 @@ std::uint32_t SystemFunction(const char* library, const char* name) {
 
 std::optional<std::uint32_t> CallInside(HANDLE process, std::uint32_t function,
                                         const std::vector<std::uint32_t>& arguments) {
+  if (WaitForSingleObject(process, 0) != WAIT_TIMEOUT) return std::nullopt;
   MachineCode code;
   for (auto argument = arguments.rbegin(); argument != arguments.rend(); ++argument) {
     code.Bytes("\x68").Number(*argument);  // push

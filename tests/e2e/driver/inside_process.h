@@ -44,7 +44,8 @@ class ForeignPage {
 [[nodiscard]] std::uint32_t SystemFunction(const char* library, const char* name);
 
 /// Calls a function of the system in that process, on a thread of its own; nothing when it does not come
-/// back.
+/// back. Only for a process that nobody has asked to end: a thread that starts while the process ends can
+/// keep a lock of it for ever.
 [[nodiscard]] std::optional<std::uint32_t> CallInside(HANDLE process, std::uint32_t function,
                                                       const std::vector<std::uint32_t>& arguments);
 

@@ -41,6 +41,11 @@ LRESULT Ask(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
   return static_cast<LRESULT>(answer);
 }
 
+bool Answers(HWND window) {
+  DWORD_PTR answer = 0;
+  return SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_NORMAL, kAnswerTimeoutMs, &answer) != 0;
+}
+
 std::string ClassOf(HWND window) {
   std::array<char, 64> name{};
   GetClassNameA(window, name.data(), static_cast<int>(name.size()));

@@ -14,6 +14,9 @@ namespace qdix::e2e {
 /// since a window that hangs must fail a test and not hang it.
 LRESULT Ask(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0);
 
+/// True where the window takes messages within the limit of Ask().
+[[nodiscard]] bool Answers(HWND window);
+
 [[nodiscard]] std::string ClassOf(HWND window);
 [[nodiscard]] std::string TextOf(HWND window);
 

@@ -6,19 +6,13 @@
 #include <vector>
 
 #include "tests/e2e/driver/native_windows.h"
+#include "tests/e2e/driver/process_parameters.h"
 
 namespace qdix::e2e {
 
 namespace {
 
 constexpr int kNotCounted = -1;
-
-/// The system call of that name in the lowest system library; they are not declared for programs.
-template <typename Call>
-Call SystemCall(const char* name) {
-  const FARPROC found = GetProcAddress(GetModuleHandleA("ntdll.dll"), name);
-  return reinterpret_cast<Call>(reinterpret_cast<void*>(found));
-}
 
 int CountWindows(DWORD process_id) {
   std::size_t count = 0;
@@ -29,9 +23,6 @@ int CountWindows(DWORD process_id) {
 /// Wine does not answer the documented question for drawing objects. Their table, though, is part of the
 /// process, where its environment block points.
 int CountDrawingObjects(HANDLE process) {
-  using QueryProcess = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
-  constexpr int kBasicInformation = 0;
-  constexpr std::size_t kBlockIndex = 1;
   constexpr std::uintptr_t kTableOffset = 0x94;
   struct Entry {
     std::uint64_t object;
@@ -43,12 +34,9 @@ int CountDrawingObjects(HANDLE process) {
   };
   static_assert(sizeof(Entry) == 24);
 
-  std::array<std::uintptr_t, 6> basic{};
-  const auto query = SystemCall<QueryProcess>("NtQueryInformationProcess");
-  if (query(process, kBasicInformation, basic.data(), sizeof basic, nullptr) != 0) return kNotCounted;
   std::uintptr_t table = 0;
-  if (ReadProcessMemory(process, reinterpret_cast<void*>(basic[kBlockIndex] + kTableOffset), &table,
-                        sizeof table, nullptr) == 0) {
+  const std::uintptr_t place = EnvironmentBlock(process) + kTableOffset;
+  if (ReadProcessMemory(process, reinterpret_cast<void*>(place), &table, sizeof table, nullptr) == 0) {
     return kNotCounted;
   }
   std::vector<Entry> entries(0x4000);
@@ -79,7 +67,9 @@ int CountHandles(DWORD process_id) {
   };
 
   std::vector<Table> table(1);
-  const auto query = SystemCall<QuerySystem>("NtQuerySystemInformation");
+  // Not declared for programs.
+  const FARPROC found = GetProcAddress(GetModuleHandleA("ntdll.dll"), "NtQuerySystemInformation");
+  const auto query = reinterpret_cast<QuerySystem>(reinterpret_cast<void*>(found));
   if (query(kHandleInformation, table.data(), sizeof(Table), nullptr) != 0) {
     return kNotCounted;
   }

@@ -45,7 +45,7 @@ void SetSystemIniText(const std::string& section, const std::string& key, const 
   ForgetWhatWasRead();
 }
 
-SystemIniKeeper::~SystemIniKeeper() {
+void SystemIniKeeper::PutBack() const {
   SetWindowsFile(kSystemIni, system_ini_);
   SetWindowsFile(kSystemBackup, backup_);
   record_.PutBack();

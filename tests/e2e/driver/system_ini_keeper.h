@@ -29,7 +29,8 @@ class SystemIniKeeper {
   SystemIniKeeper(const SystemIniKeeper&) = delete;
   SystemIniKeeper& operator=(const SystemIniKeeper&) = delete;
   /// Puts everything back. The programs of the test must have ended.
-  ~SystemIniKeeper();
+  ~SystemIniKeeper() { PutBack(); }
+  void PutBack() const;
 
   /// True while all of it is as it was kept.
   [[nodiscard]] bool NothingChanged() const;
