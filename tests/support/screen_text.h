@@ -3,7 +3,6 @@
 
 #include <string>
 
-#include "controls/x_graph_meter.h"
 #include "ui/access_key.h"
 #include "ui/simple_controls.h"
 
@@ -32,7 +31,7 @@ inline std::string KindName(const ui::Control& control) {
     case ui::Kind::kSlider:
       return "Slider";
     case ui::Kind::kDrawing:
-      return dynamic_cast<const controls::XGraphMeter*>(&control) != nullptr ? "Graph" : "Meter";
+      return "Drawing";
     case ui::Kind::kPicture:
       return "Picture";
     case ui::Kind::kOwn:
@@ -45,13 +44,14 @@ inline std::string KindName(const ui::Control& control) {
 /// What tells a button or picture from the others of its kind.
 inline std::string Traits(const ui::Control& control) {
   std::string traits;
-  if (const auto* const button = dynamic_cast<const ui::Button*>(&control)) {
-    if (button->Role() == ui::ButtonRole::kDefault) traits += " default";
-    if (button->Role() == ui::ButtonRole::kCancel) traits += " cancel";
-    if (button->PictureId() != 0) traits += " picture=" + std::to_string(button->PictureId());
+  if (control.GetKind() == ui::Kind::kButton) {
+    const auto& button = static_cast<const ui::Button&>(control);
+    if (button.Role() == ui::ButtonRole::kDefault) traits += " default";
+    if (button.Role() == ui::ButtonRole::kCancel) traits += " cancel";
+    if (button.PictureId() != 0) traits += " picture=" + std::to_string(button.PictureId());
   }
-  if (const auto* const picture = dynamic_cast<const ui::Picture*>(&control)) {
-    traits += " picture=" + std::to_string(picture->ResourceId());
+  if (control.GetKind() == ui::Kind::kPicture) {
+    traits += " picture=" + std::to_string(static_cast<const ui::Picture&>(control).ResourceId());
   }
   return traits;
 }

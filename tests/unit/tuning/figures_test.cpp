@@ -48,6 +48,8 @@ struct SliderEnd {
   std::int32_t largest_kb;
 };
 
+void PrintTo(const SliderEnd& end, std::ostream* out) { *out << end.memory_bytes << " bytes"; }
+
 class SliderEnds : public testing::TestWithParam<SliderEnd> {};
 
 /// 500 KB for each 1,024,000 bytes: 2998.25, 2998.75, 2999.25 and 2999.75.
@@ -93,6 +95,8 @@ struct Room {
   double free_mb;
   bool is_enough;
 };
+
+void PrintTo(const Room& room, std::ostream* out) { *out << room.free_mb << " MB free"; }
 
 class SuggestionRoom : public testing::TestWithParam<Room> {};
 
