@@ -75,13 +75,10 @@ def messages_below(*folders: str, without: tuple[str, ...] = ()) -> set[str]:
     return found
 
 
-def captions_of_screens() -> set[str]:
-    found: set[str] = set()
-    for path in sorted((ROOT / "src/screens").glob("*.h")):
-        code = path.read_text(encoding="utf-8")
-        found |= {texts_of(literals)[0].strip() for literals in _CAPTION.findall(code)}
-        found |= set(_MENU_CAPTION.findall(code))
-    return found
+def captions_of_screen(screen: Path) -> set[str]:
+    """Captions of controls, tabs and entries of menus."""
+    code = screen.read_text(encoding="utf-8")
+    return {texts_of(literals)[0].strip() for literals in _CAPTION.findall(code)} | set(_MENU_CAPTION.findall(code))
 
 
 def captions_of_operated_controls(screen: Path) -> set[str]:

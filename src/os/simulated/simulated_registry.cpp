@@ -29,6 +29,11 @@ std::string RootName(KeyHandle root) {
   }
 }
 
+/// A key as the record of calls names it, with the rights that were asked for.
+std::string ShownKey(const std::optional<std::string>& path, std::uint32_t access) {
+  return path.value_or("invalid") + ", " + std::to_string(access);
+}
+
 std::string Join(const std::string& parent, const std::string& subkey) {
   return subkey.empty() ? parent : parent + "\\" + subkey;
 }
@@ -74,7 +79,7 @@ void SimulatedRegistry::Create(const std::string& path) {
 std::int32_t SimulatedRegistry::RegOpenKeyExA(KeyHandle parent, const char* subkey, std::uint32_t access,
                                               KeyHandle& opened) {
   const auto path = FullPath(parent, subkey);
-  if (log_.RecordAndFail("RegOpenKeyExA", path.value_or("invalid"))) return kErrorAccessDenied;
+  if (log_.RecordAndFail("RegOpenKeyExA", ShownKey(path, access))) return kErrorAccessDenied;
   if (!path) return kErrorInvalidHandle;
   if (!keys_.contains(*path) && path->find('\\') != std::string::npos) return kErrorFileNotFound;
   if (RefusesWrites(*path, access)) return kErrorAccessDenied;
@@ -85,7 +90,7 @@ std::int32_t SimulatedRegistry::RegOpenKeyExA(KeyHandle parent, const char* subk
 std::int32_t SimulatedRegistry::RegCreateKeyExA(KeyHandle parent, const char* subkey, std::uint32_t access,
                                                 KeyHandle& opened) {
   const auto path = FullPath(parent, subkey);
-  if (log_.RecordAndFail("RegCreateKeyExA", path.value_or("invalid"))) return kErrorAccessDenied;
+  if (log_.RecordAndFail("RegCreateKeyExA", ShownKey(path, access))) return kErrorAccessDenied;
   if (!path) return kErrorInvalidHandle;
   if (RefusesWrites(*path, access)) return kErrorAccessDenied;
   Create(*path);

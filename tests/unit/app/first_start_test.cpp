@@ -8,8 +8,6 @@
 namespace qdix::tests {
 namespace {
 
-using Names = std::vector<std::string>;
-
 TEST(FirstStart, StoresByItsEventsExactlyTheDefaultsOfA64MegabyteMachine) {
   ProgramRig rig(64 * kMegabyte);
   rig.Start();
@@ -184,29 +182,6 @@ INSTANTIATE_TEST_SUITE_P(
                     MachineSize{96, "48 MB", "48 MB", "6"}, MachineSize{128, "64 MB", "64 MB", "6"},
                     MachineSize{129, "64 MB", "64 MB", "8"}, MachineSize{256, "120 MB", "120 MB", "8"},
                     MachineSize{512, "232 MB", "232 MB", "8"}, MachineSize{1024, "512 MB", "512 MB", "8"}));
-
-TEST(Amounts, ManualListHoldsItsThirtyItemsInOrder) {
-  ProgramRig rig;
-  auto& list = rig.Start().Quondix().List1;
-  ASSERT_EQ(list.Count(), 30);
-  Names names;
-  for (int i = 0; i < list.Count(); ++i) names.push_back(list.Item(i));
-  EXPECT_EQ(names, (Names{"1 MB",   "2 MB",   "4 MB",   "6 MB",   "8 MB",   "12 MB",  "16 MB",  "20 MB",
-                          "24 MB",  "28 MB",  "32 MB",  "40 MB",  "48 MB",  "56 MB",  "64 MB",  "72 MB",
-                          "88 MB",  "104 MB", "120 MB", "136 MB", "168 MB", "200 MB", "232 MB", "264 MB",
-                          "296 MB", "328 MB", "360 MB", "424 MB", "480 MB", "512 MB"}));
-}
-
-TEST(Amounts, ReleaseListsHoldTheTwentyFiveItemsFrom12Megabytes) {
-  ProgramRig rig;
-  auto& program = rig.Start();
-  for (const ui::ListControl* list : std::initializer_list<const ui::ListControl*>{
-           &program.Automatic().List4, &program.TimeIntervals().List3, &program.Startup().Combo1}) {
-    ASSERT_EQ(list->Count(), 25);
-    EXPECT_EQ(list->Item(0), "12 MB");
-    EXPECT_EQ(list->Item(24), "512 MB");
-  }
-}
 
 }  // namespace
 }  // namespace qdix::tests

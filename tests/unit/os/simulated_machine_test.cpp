@@ -302,7 +302,7 @@ TEST_F(SimulatedMachineTest, RecordsCallsWithTheirArguments) {
   EXPECT_EQ(system.registry.RegOpenKeyExA(kHkeyCurrentUser, "Missing\\Key", kKeyQueryValue, key),
             kErrorFileNotFound);
   static_cast<void>(system.memory.VirtualAlloc(4096));
-  EXPECT_THAT(machine.Calls(), ElementsAre("RegOpenKeyExA(HKCU\\Missing\\Key)", "VirtualAlloc(4096)"));
+  EXPECT_THAT(machine.Calls(), ElementsAre("RegOpenKeyExA(HKCU\\Missing\\Key, 1)", "VirtualAlloc(4096)"));
 }
 
 TEST_F(SimulatedMachineTest, FailsTheNextCallOfAName) {

@@ -32,10 +32,10 @@ class RegistryPaths : public testing::Test {
 TEST_F(RegistryPaths, OpensElementByElementWithAllRights) {
   machine.CreateRegistryKey(os::kHkeyLocalMachine, "Software\\A\\B");
   EXPECT_TRUE(Opens("HKEY_LOCAL_MACHINE\\Software\\A\\B"));
-  EXPECT_EQ(machine.Calls(),
-            (std::vector<std::string>{"RegOpenKeyExA(HKLM\\Software)", "RegOpenKeyExA(HKLM\\Software\\A)",
-                                      "RegOpenKeyExA(HKLM\\Software\\A\\B)", "RegCloseKey()", "RegCloseKey()",
-                                      "RegCloseKey()"}));
+  EXPECT_EQ(machine.Calls(), (std::vector<std::string>{"RegOpenKeyExA(HKLM\\Software, 63)",
+                                                       "RegOpenKeyExA(HKLM\\Software\\A, 63)",
+                                                       "RegOpenKeyExA(HKLM\\Software\\A\\B, 63)",
+                                                       "RegCloseKey()", "RegCloseKey()", "RegCloseKey()"}));
 }
 
 TEST_F(RegistryPaths, RootInLowerCaseOpens) {

@@ -1,0 +1,84 @@
+// The list of programs read again while the program runs: the settings with it, and not under a launch.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "launcher/launcher_file.h"
+#include "tests/support/program_rig.h"
+
+namespace qdix::tests {
+namespace {
+
+using testing::ElementsAre;
+
+/// Ticks of three seconds until the watch looks for the editor for the first time.
+constexpr std::int64_t kUntilReloadMs = 4 * 3000;
+
+class LauncherReload : public testing::Test {
+ protected:
+  LauncherReload() {
+    rig.SetHasRunBefore();
+    for (const char* const program : {"game1", "game2", "C:\\Program Files\\QDIX\\configL.exe"}) {
+      rig.machine.AddProgram(program);
+    }
+    for (const char* const folder : {"D:", "D:\\FIRST", "E:", "E:\\SECOND"}) rig.machine.AddFolder(folder);
+    WriteList({"First", "game1", "D:\\FIRST"});
+    rig.Start().MainWindow().SSTab1.ChooseTab(screens::kLauncherTab);
+    rig.TakeGraphAway();
+    rig.program->Launcher().Command15.Press();
+  }
+  void WriteList(const launcher::LauncherEntry& entry) {
+    rig.machine.WriteFile("C:\\Program Files\\QDIX\\launcher.dat", launcher::RecordBytes(entry));
+  }
+  void ReloadAtTheFirstPump() {
+    rig.machine.OnPump([this](int number) {
+      if (number != 1) return;
+      WriteList({"Second", "game2", "E:\\SECOND"});
+      rig.AdvanceMs(kUntilReloadMs);
+      listed_in_pump = rig.program->Launcher().List5.Item(0);
+    });
+  }
+  /// What was asked of the system from here on to change folder and start a program.
+  [[nodiscard]] std::vector<std::string> Starts(std::size_t first_call) const {
+    std::vector<std::string> calls;
+    for (std::size_t i = first_call; i < rig.machine.Calls().size(); ++i) {
+      const std::string& call = rig.machine.Calls()[i];
+      const bool is_start = call.starts_with("SetCurrentDirectoryA") || call.starts_with("CreateProcessA");
+      if (is_start) calls.push_back(call);
+    }
+    return calls;
+  }
+
+  ProgramRig rig;
+  std::string listed_in_pump;
+};
+
+TEST_F(LauncherReload, ReadsTheSettingsOfTheReleaseAgain) {
+  ASSERT_TRUE(rig.program->Launcher().Option9.Selected());
+  ASSERT_TRUE(rig.program->Launcher().Slider_6[0].Selected());
+  rig.Store("Settings", "Launcher RAM", "3");
+  rig.Store("Settings", "Launcher Retry", "4");
+  rig.AdvanceMs(kUntilReloadMs);
+  EXPECT_TRUE(rig.program->Launcher().Option7.Selected());
+  EXPECT_TRUE(rig.program->Launcher().Slider_6[3].Selected());
+}
+
+TEST_F(LauncherReload, ProgramOfTheListKeepsItsPathAndFolderUnderItsRelease) {
+  ReloadAtTheFirstPump();
+  const std::size_t before = rig.machine.Calls().size();
+  rig.program->Launcher().List5.DoubleClick(0);
+  EXPECT_EQ(listed_in_pump, "Second") << "the list was read again";
+  EXPECT_THAT(Starts(before), ElementsAre("SetCurrentDirectoryA(D:)", "SetCurrentDirectoryA(D:\\FIRST)",
+                                          "CreateProcessA(game1)"));
+}
+
+TEST_F(LauncherReload, ProgramOfTheMenuKeepsItsPathAndFolderUnderItsRelease) {
+  ReloadAtTheFirstPump();
+  const std::size_t before = rig.machine.Calls().size();
+  rig.program->TheTrayMenu().mnuProgram[0].Choose();
+  EXPECT_EQ(listed_in_pump, "Second") << "the list was read again";
+  EXPECT_THAT(Starts(before), ElementsAre("SetCurrentDirectoryA(D:)", "SetCurrentDirectoryA(D:\\FIRST)",
+                                          "CreateProcessA(game1)"));
+}
+
+}  // namespace
+}  // namespace qdix::tests
