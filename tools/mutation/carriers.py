@@ -30,6 +30,7 @@ class Carriers:
         self.objects = objects
         self.texts = {path: path.read_text(encoding="utf-8") for path in [*objects, *headers]}
         self.headers = headers
+        self.known = {}
 
     @functools.cached_property
     def symbols(self):
@@ -59,10 +60,11 @@ class Carriers:
 
     def of(self, owner):
         """The sources to compile for a change in a header; see Mutant.owner."""
-        holder, name = owner
-        if holder:
-            return self.smallest_with(f"{holder}::{name}") or self.users_of(holder)
-        return self.users_of(name)
+        if owner not in self.known:
+            holder, name = owner
+            with_the_function = self.smallest_with(f"{holder}::{name}") if holder else []
+            self.known[owner] = with_the_function or self.users_of(holder or name)
+        return self.known[owner]
 
 
 def include_name(header, folders):

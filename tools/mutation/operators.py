@@ -40,7 +40,7 @@ STATUS = "qdix::base::Result<void>"
 # Constants of the system come in kinds, such as kMb...: flags, access rights, keys, messages.
 SYSTEM_CONSTANTS = ("src", "os")
 KIND_OF_CONSTANT = re.compile(r"k[A-Z][a-z0-9]*(?=[A-Z])")
-# The name of a control is for those who read the design; the program never looks at it.
+# No user sees the name of a control; tests find it by that name.
 NAME_OF_CONTROL = re.compile(rb"\.name =\s*$")
 # The order in which handlers are bound is seen by nobody: none runs before all are bound.
 BINDING = re.compile(r"^\S+\s*=\s*[\w:]*(Handler|Callback<[^;]*>)::To<", re.DOTALL)
