@@ -100,9 +100,10 @@ class Workshop:
         return [word for word in command if word.startswith(("-I", "-D", "-std="))]
 
     def command_with(self, header):
-        """The command of a source that includes a header."""
-        line = f'#include "{self.name_of(header)}"'
-        return next(self.commands[source] for source in self.carriers.objects if line in self.carriers.texts[source])
+        """The command of a source of the same program: src or one of the companions."""
+        parts = 2 if header.is_relative_to(ROOT / "companions") else 1
+        program = ROOT.joinpath(*header.relative_to(ROOT).parts[:parts])
+        return next(self.commands[source] for source in self.carriers.objects if source.is_relative_to(program))
 
     @staticmethod
     def name_of(header):
