@@ -5,11 +5,11 @@ rem this file can.
 if "%1"=="" goto hint
 echo.
 echo Removing Q-DIX. The window of Q-DIX Undo opens first: put back there
-echo what shall be as it was before Q-DIX changed it, and close it.
+echo the settings that you want to have as before, and close it.
 start /w %1\undo.exe
 echo.
-echo Close Q-DIX now, if it is still open. Then its files, its settings and
-echo its record of this machine are deleted. To keep them, press Ctrl+C.
+echo Close Q-DIX now if it is still open. Its files, its settings and its
+echo record of this machine are then deleted. To keep them, press Ctrl+C.
 echo.
 pause
 rem Without waiting, because it deletes this file as well.

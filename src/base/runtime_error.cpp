@@ -9,6 +9,7 @@ namespace qdix::base {
 
 namespace {
 
+/// One for each error that the program raises.
 struct Description {
   int number;
   std::string_view text;
@@ -16,27 +17,17 @@ struct Description {
 
 constexpr int kNoSuchControlElement = 340;
 
-constexpr std::array<Description, 21> kDescriptions{{
+constexpr std::array<Description, 11> kDescriptions{{
     {5, "Invalid procedure call or argument"},
     {6, "Overflow"},
     {7, "Out of memory"},
     {9, "Subscript out of range"},
     {11, "Division by zero"},
-    {13, "Type mismatch"},
-    {52, "Bad file name or number"},
     {53, "File not found"},
-    {55, "File already open"},
-    {57, "Device I/O error"},
-    {61, "Disk full"},
-    {62, "Input past end of file"},
-    {67, "Too many files"},
     {68, "Device unavailable"},
     {70, "Permission denied"},
-    {71, "Disk not ready"},
-    {75, "Path/File access error"},
     {76, "Path not found"},
     {380, "Invalid property value"},
-    {383, "Property is read-only"},
     {387, "Set not permitted"},
 }};
 

@@ -25,13 +25,11 @@ inline constexpr RuntimeError kOverflow{6};
 inline constexpr RuntimeError kOutOfMemory{7};
 inline constexpr RuntimeError kSubscriptOutOfRange{9};
 inline constexpr RuntimeError kDivisionByZero{11};
-inline constexpr RuntimeError kTypeMismatch{13};
 inline constexpr RuntimeError kFileNotFound{53};
 inline constexpr RuntimeError kDeviceUnavailable{68};
 inline constexpr RuntimeError kPermissionDenied{70};
 inline constexpr RuntimeError kPathNotFound{76};
 inline constexpr RuntimeError kInvalidPropertyValue{380};
-inline constexpr RuntimeError kPropertyIsReadOnly{383};
 inline constexpr RuntimeError kSetNotPermitted{387};
 
 /// The text of the box for an error that nothing traps: "Run-time error 'N':", an empty line, the

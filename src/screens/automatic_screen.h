@@ -9,8 +9,7 @@
 
 namespace qdix::screens {
 
-/// Range of the low-water mark in megabytes of 1,024,000 bytes; its upper end is narrowed to the machine's
-/// memory at load.
+/// Range of the low-water mark in megabytes of 1,024,000 bytes.
 inline constexpr ui::ScrollRange kMinRamRange{
     .minimum = 32, .maximum = 1, .small_change = 1, .large_change = 4};
 inline constexpr const char* kMinRamTip = "Free up memory when RAM drops below this level";

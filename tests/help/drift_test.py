@@ -1,11 +1,12 @@
 """The manual quotes the program: what it marks as literal stands in the sources so, and what the program can say
 stands in the manual."""
 
+import re
 import unittest
 
 from manual_parts import ROOT, ManualCase
 from source_texts import (captions_of_operated_controls, captions_of_screen, in_one_line, messages_below,
-                          texts_below, texts_of)
+                          sources, texts_below, texts_of)
 
 TOPIC_OF_SCREEN = {"quondix": 4, "automatic": 5, "time_intervals": 6, "startup": 7, "launcher": 8, "cache": 9,
                    "swap_file": 10, "about": 11}
@@ -34,6 +35,8 @@ NOT_IN_A_BOX = {
     "The drive type cannot be determined.", "The root directory does not exist.", "Hard drive; can not be removed.",
     # titles
     "Quondix Tip", "Start the program in this folder:", "unwanted instance",
+    # errors that the program handles without their description, and one for numbers that it does not raise
+    "Out of memory", "Division by zero", "Set not permitted", "Application-defined error",
     # names
     "Software\\VB and VBA Program Settings\\QDIX\\", "Quondix Settings",
     "Programs\0*.exe;*.com;*.bat;*.pif;*.lnk\0All files\0*.*\0",
@@ -73,6 +76,15 @@ class DriftTest(ManualCase):
         messages = messages_below("src", "companions", without=WITHOUT_MESSAGES)
         self.assertGreater(len(messages), 60)
         self.assertEqual(messages - quoted - NOT_IN_A_BOX, set())
+
+    def test_every_error_that_is_described_is_raised(self):
+        header, table = (ROOT / f"src/base/runtime_error.{kind}" for kind in ("h", "cpp"))
+        numbers = dict(re.findall(r"RuntimeError (k\w+)\{(\d+)\}", header.read_text(encoding="utf-8")))
+        self.assertGreater(len(numbers), 8)
+        code = "".join(sources("src", "companions", without=("src/base/runtime_error.", "src/os/simulated/")))
+        raised = {number for name, number in numbers.items() if re.search(rf"\b{name}\b", code)}
+        described = re.findall(r"\{(\d+), \"", table.read_text(encoding="utf-8"))
+        self.assertEqual(sorted(described, key=int), sorted(raised, key=int))
 
     def test_no_exception_is_needless(self):
         self.assertEqual(NOT_IN_A_BOX - messages_below("src", "companions", without=WITHOUT_MESSAGES), set())

@@ -27,7 +27,7 @@ second](07_second.md) & back.
 
     cd \\windows
 
-![A "window"](pictures/window.gif)
+![A "window"](pictures/window.gif "With a frame & more")
 """
 SECOND = "# Second\n\nText of the second.\n"
 # The head of a picture, 258 pixels wide and 3 high; nobody looks at the rest.
@@ -67,7 +67,8 @@ class MadeTest(SmallBook):
                         "<H3>Lists</H3>", "<UL>\r\n<LI>one</LI>\r\n<LI>two</LI>\r\n</UL>",
                         "<OL>\r\n<LI>do</LI>\r\n<LI>look</LI>\r\n</OL>", "1 &lt; 2</TD></TR>",
                         '<TR><TD ALIGN="LEFT" VALIGN="TOP">&nbsp;</TD>', "<PRE>\r\ncd \\windows\r\n</PRE>",
-                        '<IMG SRC="window.gif" ALT="A &#34;window&#34;" WIDTH="258" HEIGHT="3">'):
+                        '<IMG SRC="window.gif" ALT="A &#34;window&#34;" WIDTH="258" HEIGHT="3">'
+                        "<BR>With a frame &amp; more</P>"):
             self.assertIn(element, page)
         self.assertEqual((self.target / "window.gif").read_bytes(), PICTURE)
 
@@ -169,10 +170,10 @@ class RefusedTest(SmallBook):
         self.assert_refused("no contents", "contents.md", 1, "is missing")
 
     def test_stream_that_is_too_long(self):
-        self.write("07_second.md", "# Second\n\n" + "Many words. " * 4000)
+        self.write("07_second.md", "# Second\n\n" + "Many words. " * 5000)
         done = make_help(self.source, "--topics", str(self.target))
         self.assertEqual(done.returncode, 1)
-        self.assertIn("the viewer takes 40000 at most", done.stderr)
+        self.assertIn("the viewer takes 48000 at most", done.stderr)
 
     def test_nothing_to_make(self):
         self.assertEqual(make_help(self.source).returncode, 2)

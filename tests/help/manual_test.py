@@ -10,7 +10,7 @@ TOPICS_OF_THE_PROGRAM = {0: "First Steps", 4: "Quondix", 5: "Automatic", 6: "Tim
 # A topic pane of 300 pixels, in a font of about 6 pixels a character.
 PANE_CHARACTERS = 50
 CODE_CHARACTERS = 60
-MOST_BYTES = 40000
+MOST_BYTES = 48000
 
 
 class ManualTest(ManualCase):

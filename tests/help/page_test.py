@@ -47,6 +47,15 @@ def book_of_contents() -> tuple[str, str]:
     return texts[0], "".join(texts[1:])
 
 
+def captions_of_pictures() -> dict[str, str]:
+    """By the names of the pictures; empty for one without."""
+    found: dict[str, str] = {}
+    for path in HELP.glob("*.md"):
+        for name, caption in re.findall(r'^!\[[^]]*\]\(pictures/([^ )]+)(?: "([^"]*)")?\)$', path.read_text("utf-8"), re.M):
+            found[name] = caption
+    return found
+
+
 def complaints(page: bytes) -> str:
     """What the validator says; empty for a valid page."""
     with tempfile.NamedTemporaryFile(suffix=".htm") as file:
@@ -94,14 +103,15 @@ class PageTest(ManualCase):
         in_contents = self.read.links[:len(self.topics)]
         self.assertEqual(in_contents, [f"#topic{topic.number}" for topic in self.topics])
 
-    def test_page_says_what_the_viewer_says_and_no_more(self):
+    def test_page_says_what_the_viewer_says_and_no_more_but_captions_of_pictures(self):
         expected = ""
+        captions = captions_of_pictures()
         for topic in self.topics:
             expected += without_blanks(topic.title)
             for kind, line in topic.lines:
-                # The browser numbers the steps itself, and shows pictures instead of texts.
+                # The browser numbers the steps itself, and shows pictures with their captions instead of texts.
                 text = line.split("\t", 1)[1] if kind == "N" else line
-                expected += "" if kind == "I" else without_blanks(plain(text))
+                expected += without_blanks(captions[line.split("\t")[0]] if kind == "I" else plain(text))
             expected += "Contents"
         self.assertTrue(self.read.text.endswith(expected), "the texts differ")
         before = self.read.text.removesuffix(expected)

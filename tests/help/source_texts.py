@@ -20,6 +20,8 @@ _OPERATED = re.compile(r'ui::(?:Button|CheckBox|OptionButton)\s+\w+\{.*?\.captio
 _SHOWS_BOXES = re.compile(r"MessageBoxA\(|\bTell\(|\bAsk\(|UntrappedErrorText|kLowResourcesWarning =")
 _MENU_CAPTION = re.compile(r'ui::MenuItem \w+\{\w+, "\w+", "([^"]+)"\}')
 
+_MENU_TITLE = re.compile(r'ui::MenuItem \w+\{events, "\w+", "([^"]+)"\}')
+
 # A text of so many words is a sentence wherever it stands; a piece of a sentence that is no longer says nothing.
 SENTENCE_WORDS = 5
 SHORT_TEXT = 8
@@ -76,9 +78,15 @@ def messages_below(*folders: str, without: tuple[str, ...] = ()) -> set[str]:
 
 
 def captions_of_screen(screen: Path) -> set[str]:
-    """Captions of controls, tabs and entries of menus."""
+    """Captions of controls and tabs, and entries of menus."""
     code = screen.read_text(encoding="utf-8")
     return {texts_of(literals)[0].strip() for literals in _CAPTION.findall(code)} | set(_MENU_CAPTION.findall(code))
+
+
+def menu_captions() -> set[str]:
+    """Of the menu of the tray icon, its own included."""
+    code = (ROOT / "src/screens/tray_menu.h").read_text(encoding="utf-8")
+    return set(_MENU_CAPTION.findall(code)) | set(_MENU_TITLE.findall(code))
 
 
 def captions_of_operated_controls(screen: Path) -> set[str]:

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
-"""The mutation check changes what it says, and neither comments nor texts, types or declarations."""
+"""The mutation check changes what it says, and neither comments nor types, declarations, names or places of controls."""
 import pathlib
+import subprocess
 import sys
 import tempfile
 import unittest
@@ -8,6 +9,7 @@ import unittest
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools" / "mutation"))
 import mutate  # noqa: E402
 import operators  # noqa: E402
+from carriers import Carriers, plain_name  # noqa: E402
 
 
 def changes_of(source):
@@ -81,6 +83,62 @@ class Changes(unittest.TestCase):
             self.assertTrue(operators.order_matters(one, other), one + other)
 
 
+    def test_texts(self):
+        self.expect("const char* const a = \"It's  two\\r\\n\"\n    \"zz\";\n", "text",
+                    'const char* const a = "";\n',
+                    "const char* const a = \"It's  txo\\r\\n\"\n    \"zz\";\n",
+                    "const char* const a = \"It's two\\r\\n\"\n    \"zz\";\n")
+        self.expect('const char* const a = "";\n', "text")
+        self.expect('const char* const a = "\\r\\x41\\0";\n', "text", 'const char* const a = "";\n')
+
+    def test_entries_of_tables(self):
+        for table in ("const int a[] = {};\n", "#include <array>\nconstexpr std::array<int, 3> a{};\n"):
+            self.expect(table.replace("{}", "{x, 12, y}").replace("const", "const int x = 1, y = 1; const", 1),
+                        "entry left out",
+                        *(table.replace("{}", "{" + entries + "}").replace("const", "const int x = 1, y = 1; const", 1)
+                          for entries in ("12, y", "x, y", "x, 12")))
+        self.expect("struct P { int b; };\nconst P a[] = {{1}, {2}, {2}};\n", "order of entries",
+                    "struct P { int b; };\nconst P a[] = {{2}, {1}, {2}};\n")
+
+    def test_members_of_a_record_are_no_table(self):
+        for operator in ("entry left out", "order of entries"):
+            self.expect("struct P { int b; int c; };\nconst P a{1, 2};\nconst P d{.b = 3, .c = 4};\n", operator)
+
+    def test_ends_of_a_range(self):
+        record = "struct R { int minimum; int maximum; int step; };\n"
+        self.expect(record + "const R a{.minimum = 32, .maximum = 1, .step = 1};\n", "range",
+                    record + "const R a{.minimum = 1, .maximum = 32, .step = 1};\n")
+
+    def test_flags(self):
+        self.expect("enum E { kA, kB, kC };\nE F() { return kC; }\n", "flag",
+                    "enum E { kA, kB, kC };\nE F() { return kA; }\n")
+        self.expect("int F(int a, int b) { return a | b; }\n", "flag left out",
+                    "int F(int a, int b) { return a; }\n", "int F(int a, int b) { return b; }\n")
+
+    def test_labels_stay(self):
+        self.expect("enum E { kA, kB };\nvoid F(E e) { switch (e) { case kA: break; default: break; } }\n", "flag")
+
+    def test_constants_of_the_system_change_within_their_kind(self):
+        with tempfile.TemporaryDirectory() as folder:
+            header = pathlib.Path(folder) / "src" / "os" / "box.h"
+            header.parent.mkdir(parents=True)
+            header.write_text("namespace os {\ninline constexpr int kMbOk = 0;\ninline constexpr int kMbYesNo = 4;\n"
+                              "inline constexpr int kWmClose = 16;\n}\n", encoding="utf-8")
+            path = header.with_name("a.cpp")
+            path.write_text('#include "box.h"\nint F() { return os::kMbYesNo; }\nint G() { return os::kWmClose; }\n',
+                            encoding="utf-8")
+            found = [mutant for mutant in operators.mutants_of(path, "a.cpp", ["-std=c++20"])]
+            self.assertEqual([(mutant.operator, mutant.text, mutant.line) for mutant in found], [("flag", "kMbOk", 2)])
+
+    def test_call_left_out(self):
+        code = "int T(int); struct S { int Do(); int Look() const; void Go(); };\n"
+        self.expect(code + "int F(int a) { return T(a + 1); }\n", "call left out",
+                    code + "int F(int a) { return (a + 1); }\n")
+        self.expect(code + "int F(S s) { return s.Do() + s.Look(); }\n", "call left out",
+                    code + "int F(S s) { return decltype(s.Do()){} + s.Look(); }\n")
+        self.expect(code + "void F(S s) { s.Do(); s.Go(); }\n", "call left out")
+
+
 class LeftAlone(unittest.TestCase):
     def expect_none(self, source):
         self.assertEqual(changes_of(source), set())
@@ -91,8 +149,10 @@ class LeftAlone(unittest.TestCase):
     def test_directives(self):
         self.expect_none("#include <stddef.h>\n#define LIMIT 12\n")
 
-    def test_texts(self):
-        self.expect_none('const char* const a = "1 < 2 && true";\n')
+    def test_names_and_places_of_controls(self):
+        self.expect_none('struct D { const char* name; };\nconst D a{.name = "lblCPU"};\n')
+        self.expect_none("namespace ui { struct Place { int left, top; }; }\nconst ui::Place a{.left = 1, .top = 2};\n"
+                         "struct S { ui::Place b{3, 4}; };\n")
 
     def test_declarations_and_types(self):
         self.expect_none("int F(int a = 3);\nextern int b[4];\nstatic_assert(1 < 2);\nenum class E { kOne = 1 };\n"
@@ -130,7 +190,62 @@ class Report(unittest.TestCase):
         self.assertFalse(mutate.may_hold(mutant.file, ["src/bas"]))
 
 
+class ObjectsOfHeaders(unittest.TestCase):
+    """Three small objects, of which two have the class of a header and one the value of a number."""
+
+    SOURCES = {
+        "page.h": "inline constexpr int kMost = 4;\ninline constexpr int kTable[] = {1, 2};\nstruct Page {\n"
+                  "  Page() {}\n  int first{kMost};\n  int second = 3;\n  int Twice() { return 2 * first; }\n};\n",
+        "window.cpp": '#include "page.h"\nint Window() { Page page; return page.Twice(); }\n',
+        "other.cpp": '#include "page.h"\nint Other() { Page page; return page.first + Other(); }\nint Pad[9] = {1};\n',
+        "number.cpp": '#include "page.h"\nint Number() { return kMost; }\n',
+    }
+
+    @classmethod
+    def setUpClass(cls):
+        folder = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(folder.cleanup)
+        cls.folder = pathlib.Path(folder.name)
+        for name, code in cls.SOURCES.items():
+            (cls.folder / name).write_text(code, encoding="utf-8")
+        objects = {}
+        for path in sorted(cls.folder.glob("*.cpp")):
+            objects[path] = path.with_suffix(".o")
+            subprocess.run(["g++", "-std=c++20", "-O0", "-c", path, "-o", objects[path]], check=True)
+        cls.carriers = Carriers(objects, [cls.folder / "page.h"])
+
+    def expect(self, owner, *names):
+        self.assertEqual([path.name for path in self.carriers.of(owner)], list(names))
+
+    def test_one_object_with_the_function_is_enough(self):
+        self.expect(("Page", "Twice"), "window.cpp")
+        self.assertEqual(len(self.carriers.of(("Page", "Page"))), 1)
+
+    def test_number_is_in_every_object_that_uses_it(self):
+        by_itself, with_the_class = "number.cpp", self.carriers.of(("Page", "Page"))[0].name
+        self.expect(("", "kMost"), *sorted([by_itself, with_the_class]))
+
+    def test_what_no_object_has_is_left_alone(self):
+        self.expect(("", "kNothing"))
+
+    def test_mutants_of_a_header_know_what_they_are_compiled_with(self):
+        found = operators.mutants_of(self.folder / "page.h", "page.h", ["-std=c++20"])
+        owners = {(mutant.line, mutant.owner) for mutant in found}
+        self.assertEqual(owners, {(1, ("", "kMost")), (2, ("", "kTable")), (6, ("Page", "Page")), (7, ("Page", "Twice"))})
+
+    def test_names_of_symbols(self):
+        for symbol, name in (("qdix::ui::Page::Page(qdix::ui::Container&)", "Page::Page"), ("qdix::ui::Find(int)", "Find"),
+                             ("qdix::screens::kTabPages", "kTabPages"), ("qdix::ui::Page::Twice() const", "Page::Twice")):
+            self.assertEqual(plain_name(symbol), name)
+
+
 class Sources(unittest.TestCase):
+    def test_screens_are_the_headers(self):
+        names = [path.relative_to(mutate.workshop.ROOT).as_posix() for path in mutate.sources() if path.suffix == ".h"]
+        self.assertIn("src/screens/automatic_screen.h", names)
+        self.assertIn("companions/undo/undo_screen.h", names)
+        self.assertFalse([name for name in names if "creen" not in name])
+
     def test_only_what_unit_tests_can_reach(self):
         names = [path.relative_to(mutate.workshop.ROOT).as_posix() for path in mutate.sources()]
         self.assertIn("src/base/decimal.cpp", names)

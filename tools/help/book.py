@@ -59,6 +59,7 @@ class CodeLine:
 class Picture:
     path: Path
     alternative: str
+    caption: str  # for those who see the picture, empty for none
     width: int
     height: int
 

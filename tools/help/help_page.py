@@ -64,9 +64,10 @@ def _block(block: Block) -> str:
             return f"<TR>{inner}</TR>"
         case CodeLine(text):
             return _escaped(text)
-        case Picture(path, alternative, width, height):
+        case Picture(path, alternative, caption, width, height):
+            below = f"<BR>{_escaped(caption)}" if caption else ""
             return (f'<P><IMG SRC="{path.name}" ALT="{_attribute(alternative)}" '
-                    f'WIDTH="{width}" HEIGHT="{height}"></P>')
+                    f'WIDTH="{width}" HEIGHT="{height}">{below}</P>')
     raise TypeError(block)
 
 

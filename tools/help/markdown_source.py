@@ -1,7 +1,7 @@
 """Reads one Markdown file into blocks and refuses whatever the manual has no form for.
 
 Allowed are one "# title" first, "## subheadings", paragraphs, bullets, numbered steps, simple tables, **bold**,
-`literal`, code, links to other topics and pictures that stand alone.
+`literal`, code, links to other topics and pictures that stand alone. The title of a picture is its caption.
 """
 
 import re
@@ -119,15 +119,15 @@ class MarkdownSource:
     def _picture(self, image: SyntaxTreeNode, line: int) -> Picture:
         source = str(image.attrs["src"])
         path = self._path.parent / source
-        if not PICTURE_FILE.fullmatch(source) or "title" in image.attrs or not image.content:
-            raise self.fail(line, "a picture is ![text](pictures/name.gif) with a name of 8 characters at most")
+        if not PICTURE_FILE.fullmatch(source) or not image.content:
+            raise self.fail(line, "a picture is ![text](pictures/name.gif \"caption\") with a name of 8 characters at most")
         if not path.is_file():
             raise self.fail(line, f"{source} is missing")
         head = path.read_bytes()[:GIF_SIZE_OFFSET + 4]
         if head[:6] not in (b"GIF87a", b"GIF89a"):
             raise self.fail(line, f"{source} is no GIF picture")
         width, height = struct.unpack_from("<HH", head, GIF_SIZE_OFFSET)
-        return Picture(path, image.content, width, height)
+        return Picture(path, image.content, str(image.attrs.get("title", "")), width, height)
 
     def spans(self, inline: SyntaxTreeNode) -> Spans:
         """Running text; a line break of the source is a blank."""

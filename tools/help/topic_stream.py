@@ -1,4 +1,5 @@
-"""The book as the help viewer takes it: one line a block, its first byte says what it is.
+"""The book as the help viewer takes it: one line a block, its first byte says what it is. The viewer shows no pictures,
+and a caption is left out with them.
 
 Inside a text \\x01 switches bold, \\x02 literal; \\x03 number \\x1F text \\x04 is a link.
 """
@@ -7,7 +8,7 @@ from book import Block, Book, Bullet, CodeLine, Heading, Paragraph, Picture, Row
 from markdown_source import ENCODING
 
 # The viewer carries the stream inside itself, and it has to stay small.
-MOST_BYTES = 40000
+MOST_BYTES = 48000
 
 
 class StreamTooLong(Exception):

@@ -1,10 +1,12 @@
 #!/usr/bin/python3
 """How much do the unit tests notice?   mutate.py --sample 300 --seed 1 [FILE[:LINE] or FOLDER...]
 
-Changes the portable sources in one place at a time (a constant, an operator, the order of two statements, a statement
-left out), a random sample of all such changes, and counts what the unit tests catch. The report names each survivor;
-build/mutation/report.txt keeps it. One that never ends counts as caught. Headers are left alone: a change there would
-compile most of the tests again. The same seed draws the same sample from the same sources.
+Changes the portable sources in one place at a time (a constant, a text, a flag, an operator, the ends of a range; an
+entry of a table left out or in another place; two statements in the other order; a statement or a call left out), a
+random sample of all such changes, and counts what the unit tests catch. The report names each survivor;
+build/mutation/report.txt keeps it. One that never ends counts as caught. Of the headers the screens are changed; the
+others hold little that runs, and a change there would compile most of the program again. The same seed draws the same
+sample from the same sources.
 """
 import argparse
 import collections
@@ -17,14 +19,15 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 import operators  # noqa: E402
 import workshop  # noqa: E402
 
-FOLDERS = ("src", "companions")
+SCREENS = ("src/screens/*.h", "companions/*/*_screen.h")
 LEFT_OUT = {"win32", "simulated", "runtime"}
 # The checks of a real machine: no unit test runs them, because a simulated machine answers as they expect by construction.
 ON_REAL_MACHINES = {"companions/self_test/reading_checks.cpp"}
 
 
 def sources():
-    found = (path for folder in FOLDERS for path in (workshop.ROOT / folder).rglob("*.cpp"))
+    found = [path for folder in workshop.FOLDERS for path in (workshop.ROOT / folder).rglob("*.cpp")]
+    found += [path for screens in SCREENS for path in workshop.ROOT.glob(screens)]
     names = sorted(path.relative_to(workshop.ROOT) for path in found)
     return [workshop.ROOT / name for name in names
             if not LEFT_OUT & set(name.parts) and name.as_posix() not in ON_REAL_MACHINES]
@@ -50,6 +53,16 @@ def report(results, total):
     yield f"mutation: {100 * count['caught'] / judged:.1f} percent caught" if judged else "mutation: nothing to judge"
 
 
+def all_mutants(shop, places):
+    """In the order of the sources. Reading one as the compiler does takes about a second, so they are read side by side."""
+    names = {path: path.relative_to(workshop.ROOT).as_posix() for path in sources()}
+    wanted = [path for path, name in names.items() if may_hold(name, places)]
+    with concurrent.futures.ProcessPoolExecutor(workshop.JOBS) as pool:
+        found = pool.map(operators.mutants_of, wanted, map(names.get, wanted), map(shop.parse_arguments, wanted))
+        return [mutant for mutants in found for mutant in mutants
+                if is_asked_for(mutant, places) and shop.sources_of(mutant)]
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--sample", type=int, default=300)
@@ -58,13 +71,7 @@ def main():
     asked = parser.parse_args()
 
     shop = workshop.Workshop()
-    mutants = []
-    for path in sources():
-        name = path.relative_to(workshop.ROOT).as_posix()
-        if not may_hold(name, asked.places):
-            continue
-        mutants.extend(operators.mutants_of(path, name, shop.parse_arguments(path)))
-    mutants = [mutant for mutant in mutants if is_asked_for(mutant, asked.places)]
+    mutants = all_mutants(shop, asked.places)
     sample = random.Random(asked.seed).sample(mutants, min(asked.sample, len(mutants)))
 
     def judge(mutant):

@@ -1,17 +1,22 @@
 """Finds the small changes ("mutants") that can be made in a source file, with libclang's view of the program.
 
-Only what runs is changed: bodies of functions, and initialisers of variables. Comments, directives, texts, types and
-declarations stay as they are.
+Only what runs is changed: bodies of functions, and initialisers of variables and members. Comments, directives, types
+and declarations stay as they are, and so do names and places of controls.
 """
 import dataclasses
+import pathlib
 import re
 import textwrap
 
-from clang.cindex import CursorKind, Index
+from clang.cindex import CursorKind, Index, TypeKind
+
+from literals import changed_character, changed_number, changed_text
+from tables import entry_changes, is_place, is_table, turned_range
 
 FUNCTIONS = {CursorKind.FUNCTION_DECL, CursorKind.CXX_METHOD, CursorKind.CONSTRUCTOR, CursorKind.DESTRUCTOR,
              CursorKind.CONVERSION_FUNCTION, CursorKind.FUNCTION_TEMPLATE}
 VARIABLES = {CursorKind.VAR_DECL, CursorKind.FIELD_DECL}
+CLASSES = {CursorKind.CLASS_DECL, CursorKind.STRUCT_DECL}
 BINARY = {CursorKind.BINARY_OPERATOR, CursorKind.COMPOUND_ASSIGNMENT_OPERATOR}
 # Statements that may be left out or change places. A return with a value or a declaration may not.
 MOVABLE = {CursorKind.IF_STMT, CursorKind.FOR_STMT, CursorKind.CXX_FOR_RANGE_STMT, CursorKind.WHILE_STMT,
@@ -27,6 +32,16 @@ ARITHMETIC = {"+": ("-",), "-": ("+",), "*": ("/",), "/": ("*",), "%": ("*",), "
 LOGIC = {"&&": ("||",), "||": ("&&",), "&": ("|",), "|": ("&",), "|=": ("&=",), "&=": ("|=",), "^": ("&",)}
 REPLACEMENTS = {"comparison": COMPARISONS, "arithmetic": ARITHMETIC, "logic": LOGIC}
 STEPS = {"++": "--", "--": "++"}
+CONSTRUCTED = {CursorKind.CONSTRUCTOR, CursorKind.CONVERSION_FUNCTION}
+SCALARS = {TypeKind.BOOL, TypeKind.CHAR_S, TypeKind.SHORT, TypeKind.USHORT, TypeKind.INT, TypeKind.UINT, TypeKind.LONG,
+           TypeKind.ULONG, TypeKind.LONGLONG, TypeKind.ULONGLONG, TypeKind.DOUBLE, TypeKind.ENUM, TypeKind.POINTER}
+# The result of an operation without a value; one that was left out has succeeded.
+STATUS = "qdix::base::Result<void>"
+# Constants of the system come in kinds, such as kMb...: flags, access rights, keys, messages.
+SYSTEM_CONSTANTS = ("src", "os")
+KIND_OF_CONSTANT = re.compile(r"k[A-Z][a-z0-9]*(?=[A-Z])")
+# No user sees the name of a control; tests find it by that name.
+NAME_OF_CONTROL = re.compile(rb"\.name =\s*$")
 # The order in which handlers are bound is seen by nobody: none runs before all are bound.
 BINDING = re.compile(r"^\S+\s*=\s*[\w:]*(Handler|Callback<[^;]*>)::To<", re.DOTALL)
 # An assignment that calls nothing and reads no memory but by name.
@@ -59,13 +74,15 @@ def order_matters(one, other):
 
 @dataclasses.dataclass(frozen=True, order=True)
 class Mutant:
-    """The bytes from `start` to `end` of the file become `text`."""
+    """The bytes from `start` to `end` of the file become `text`. `owner` names what is compiled with them: a class and its
+    function (for an initialiser of a member its constructor), or the empty text and a name of the file."""
     file: str
     start: int
     end: int
     text: str
     operator: str
     line: int
+    owner: tuple = ("", "")
 
     def applied(self, source):
         return source[:self.start] + self.text.encode() + source[self.end:]
@@ -75,21 +92,26 @@ class Mutant:
         return f"{self.file}:{self.line}: {self.operator}: {before} -> {shortened(self.text) or 'nothing'}"
 
 
-def changed_number(literal):
-    """The other values that stand for a number: its last digit one up, and for whole numbers one down as well."""
-    match = re.fullmatch(r"(0[xX][0-9a-fA-F]+|\d+)([uUlL]*)", literal)
-    if match:
-        value = int(match[1], 0) if match[1][:2] in ("0x", "0X") else int(match[1])
-        return [f"{other}{match[2]}" for other in (value + 1, value - 1) if other >= 0]
-    match = re.fullmatch(r"(\d*\.?\d*?)(\d)(\.?)((?:[eE][-+]?\d+)?[fFlL]?)", literal)
-    if not match:
+def plain_type(kind):
+    return kind.get_canonical().spelling.replace("const ", "").rstrip("& ")
+
+
+def siblings_of(declaration):
+    """Names of the constants of the kind of a constant, itself included, in their order."""
+    if declaration is None:
         return []
-    return [f"{match[1]}{(int(match[2]) + 1) % 10}{match[3]}{match[4]}"]
-
-
-def changed_character(literal):
-    match = re.fullmatch(r"'([a-zA-Z0-9 .,:;_/-])'", literal)
-    return [f"'{chr(ord(match[1]) + 1)}'"] if match else ["'x'"]
+    if declaration.kind == CursorKind.ENUM_CONSTANT_DECL:
+        return [child.spelling for child in declaration.semantic_parent.get_children()
+                if child.kind == CursorKind.ENUM_CONSTANT_DECL]
+    kind = KIND_OF_CONSTANT.match(declaration.spelling)
+    file = declaration.location.file
+    if declaration.kind != CursorKind.VAR_DECL or not kind or not file:
+        return []
+    if pathlib.PurePath(file.name).parts[-3:-1] != SYSTEM_CONSTANTS:
+        return []
+    return [child.spelling for child in declaration.lexical_parent.get_children()
+            if child.kind == CursorKind.VAR_DECL and child.type.spelling == declaration.type.spelling
+            and KIND_OF_CONSTANT.match(child.spelling) and KIND_OF_CONSTANT.match(child.spelling)[0] == kind[0]]
 
 
 class Finder:
@@ -99,16 +121,19 @@ class Finder:
         self.path = str(path)
         self.name = name
         self.source = path.read_bytes()
+        self.owner = ("", "")
+        # Where statements begin and end: a call that is one is left out as one.
+        self.whole = set()
         self.mutants = set()
 
     def text_of(self, start, end):
         return self.source[start:end].decode()
 
     def add(self, operator, start, end, text, line):
-        self.mutants.add(Mutant(self.name, start, end, text, operator, line))
+        self.mutants.add(Mutant(self.name, start, end, text, operator, line, self.owner))
 
     def find(self, arguments):
-        unit = Index.create().parse(self.path, args=arguments)
+        unit = Index.create().parse(self.path, args=[*arguments, "-x", "c++"])
         faults = [fault for fault in unit.diagnostics if fault.severity >= fault.Error]
         if faults:
             raise ValueError(f"{self.name} does not compile: {faults[0].spelling}")
@@ -119,13 +144,17 @@ class Finder:
 
     def declaration(self, cursor):
         """Looks for what runs, through namespaces and classes."""
+        if cursor.kind in FUNCTIONS | VARIABLES:
+            is_member = cursor.semantic_parent.kind in CLASSES
+            holder = cursor.semantic_parent.spelling if is_member else ""
+            self.owner = (holder, holder if cursor.kind == CursorKind.FIELD_DECL else cursor.spelling)
         if cursor.kind in FUNCTIONS:
             for child in cursor.get_children():
                 if child.kind == CursorKind.COMPOUND_STMT or child.kind.is_expression():
                     self.code(child)
         elif cursor.kind in VARIABLES:
             self.initialiser(cursor)
-        elif cursor.kind in {CursorKind.NAMESPACE, CursorKind.CLASS_DECL, CursorKind.STRUCT_DECL}:
+        elif cursor.kind in {CursorKind.NAMESPACE} | CLASSES:
             for child in cursor.get_children():
                 self.declaration(child)
 
@@ -144,8 +173,15 @@ class Finder:
         if cursor.kind.is_declaration() and cursor.kind != CursorKind.LAMBDA_EXPR:
             self.declaration(cursor)
             return
+        if cursor.kind == CursorKind.INIT_LIST_EXPR and is_place(cursor):
+            return
         children = list(cursor.get_children())
+        if cursor.kind == CursorKind.CASE_STMT and self.is_name(children[0]):
+            children = children[1:]
         self.value(cursor)
+        self.name_of_constant(cursor)
+        self.table(cursor, children)
+        self.call(cursor)
         self.binary(cursor, children)
         self.unary(cursor, children)
         if cursor.kind == CursorKind.COMPOUND_STMT:
@@ -166,6 +202,52 @@ class Finder:
         elif cursor.kind == CursorKind.CHARACTER_LITERAL:
             for other in changed_character(text):
                 self.add("constant", start, end, other, line)
+        elif cursor.kind == CursorKind.STRING_LITERAL and not NAME_OF_CONTROL.search(self.source[:start]):
+            for other in changed_text(text):
+                self.add("text", start, end, other, line)
+
+    def is_name(self, cursor):
+        return re.fullmatch(r"[\w:]+", self.text_of(cursor.extent.start.offset, cursor.extent.end.offset)) is not None
+
+    def name_of_constant(self, cursor):
+        """A constant of an enumeration or of the system becomes the next of its kind."""
+        if cursor.kind != CursorKind.DECL_REF_EXPR or not self.is_name(cursor):
+            return
+        siblings = siblings_of(cursor.referenced)
+        if len(siblings) > 1:
+            other = siblings[(siblings.index(cursor.spelling) + 1) % len(siblings)]
+            end = cursor.extent.end.offset
+            self.add("flag", end - len(cursor.spelling), end, other, cursor.extent.start.line)
+
+    def table(self, cursor, children):
+        if cursor.kind != CursorKind.INIT_LIST_EXPR:
+            return
+        start, end, line = cursor.extent.start.offset, cursor.extent.end.offset, cursor.extent.start.line
+        turned = turned_range(self.text_of(start, end))
+        if turned:
+            self.add("range", start, end, turned, line)
+        if is_table(cursor, self.source, children):
+            entries = [(child.extent.start.offset, child.extent.end.offset) for child in children]
+            for operator, first, last, text in entry_changes(self.source, entries):
+                self.add(operator, first, last, text, self.source[:first].count(b"\n") + 1)
+
+    def call(self, cursor):
+        """A call inside of an expression that is not made: its argument in its place, or a value without one."""
+        called = cursor.referenced
+        if cursor.kind != CursorKind.CALL_EXPR or called is None or called.kind in CONSTRUCTED:
+            return
+        start, end = cursor.extent.start.offset, cursor.extent.end.offset
+        if called.spelling.startswith("operator") or (start, end) in self.whole:
+            return
+        line = cursor.extent.start.line
+        arguments = list(cursor.get_arguments())
+        if len(arguments) == 1 and plain_type(arguments[0].type) == plain_type(cursor.type):
+            inner = self.text_of(arguments[0].extent.start.offset, arguments[0].extent.end.offset)
+            self.add("call left out", start, end, f"({inner})", line)
+        result = cursor.type.get_canonical()
+        changes_something = called.kind == CursorKind.CXX_METHOD and not called.is_const_method()
+        if changes_something and (result.kind in SCALARS or result.spelling == STATUS):
+            self.add("call left out", start, end, f"decltype({self.text_of(start, end)}){{}}", line)
 
     def binary(self, cursor, children):
         """An operator between two operands; one that a class defines comes as a call with three parts."""
@@ -182,6 +264,10 @@ class Finder:
             return
         start = between_start + match.start(1)
         line = self.source[:start].count(b"\n") + 1
+        if match[1] == "|":
+            for side in (left, right):
+                text = self.text_of(side.extent.start.offset, side.extent.end.offset)
+                self.add("flag left out", left.extent.start.offset, right.extent.end.offset, text, line)
         for operator, table in REPLACEMENTS.items():
             for other in table.get(match[1], ()):
                 self.add(operator, start, start + len(match[1]), other, line)
@@ -214,6 +300,7 @@ class Finder:
         return statement.kind.is_expression() or statement.kind in MOVABLE
 
     def leave_out(self, statement):
+        self.whole.add((statement.extent.start.offset, statement.extent.end.offset))
         is_bare_return = statement.kind == CursorKind.RETURN_STMT and not list(statement.get_children())
         if self.is_movable(statement) or statement.kind in JUMPS or is_bare_return:
             start, end = self.bounds(statement)

@@ -1,7 +1,8 @@
-"""Builds the unit tests once, and then again and again with one object file exchanged; tells which mutants they catch.
+"""Builds the unit tests once, and then again and again with one object file exchanged, or a few for a header; tells
+which mutants they catch.
 
 The sources of the tree are never touched: a mutant is compiled from a file of its own, and its object goes to the
-linker in front of the library that holds the true one.
+linker in front of the library that holds the true one. A changed header hides the true one from the compiler.
 """
 import dataclasses
 import json
@@ -12,6 +13,8 @@ import shutil
 import subprocess
 import tempfile
 
+from carriers import Carriers, include_name
+
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = ROOT / "build" / "mutation"
 JOBS = max(1, min(2, os.cpu_count() or 1))
@@ -21,6 +24,11 @@ SLOW_S = 0.25
 LIMIT_FACTOR = 3
 LIMIT_LEAST_S = 4
 MEMORY_LIMIT = 4 << 30
+FOLDERS = ("src", "companions")
+# Tests of what a screen shows.
+SCREEN_TESTS = ("screen", "tool_tips")
+# A header whose change would compile more is left alone.
+MOST_CARRIERS = 6
 # A little behind whoever else works on the machine.
 NICE = ["nice", "-n", "1"]
 
@@ -34,6 +42,11 @@ def must(command, **options):
     if done.returncode != 0:
         raise SystemExit(f"mutation: '{' '.join(map(str, command))}' failed:\n{(done.stdout + done.stderr)[-4000:]}")
     return done.stdout
+
+
+def without_cache(command):
+    """A changed source is compiled once: asking the compiler's cache costs time and finds nothing."""
+    return command[1:] if pathlib.PurePath(command[0]).name == "ccache" else command
 
 
 def cpu_limited(seconds, command):
@@ -51,10 +64,21 @@ class Workshop:
     def __init__(self):
         self.build()
         entries = json.loads((BUILD / "compile_commands.json").read_text(encoding="utf-8"))
-        self.commands = {pathlib.Path(entry["file"]): shlex.split(entry["command"]) for entry in entries}
+        self.commands = {pathlib.Path(entry["file"]): without_cache(shlex.split(entry["command"])) for entry in entries}
         steps = must(["ninja", "-C", BUILD, "-t", "commands", "unit_tests"]).splitlines()
         self.link = shlex.split(steps[-1].removeprefix(": && ").removesuffix(" && :"))
         self.tests = self.measure()
+        self.carriers = Carriers(self.objects(), sorted(path for folder in FOLDERS for path in (ROOT / folder).rglob("*.h")))
+
+    def objects(self):
+        """The objects of the portable program and its companions, by their sources."""
+        found = {}
+        for source, command in self.commands.items():
+            path = BUILD / command[command.index("-o") + 1]
+            is_own = any(source.is_relative_to(ROOT / folder) for folder in FOLDERS)
+            if is_own and "simulated" not in source.parts and path.exists():
+                found[source] = path
+        return found
 
     def build(self):
         must(["cmake", "-S", ROOT, "-B", BUILD, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=None", "-DCMAKE_CXX_FLAGS=-O0 -w",
@@ -72,17 +96,36 @@ class Workshop:
 
     def parse_arguments(self, source):
         """What libclang has to know of the way in which a source is compiled."""
-        command = self.commands[source]
+        command = self.commands[source] if source in self.commands else self.command_with(source)
         return [word for word in command if word.startswith(("-I", "-D", "-std="))]
+
+    def command_with(self, header):
+        """The command of a source of the same program: src or one of the companions."""
+        parts = 2 if header.is_relative_to(ROOT / "companions") else 1
+        program = ROOT.joinpath(*header.relative_to(ROOT).parts[:parts])
+        return next(self.commands[source] for source in self.carriers.objects if source.is_relative_to(program))
+
+    @staticmethod
+    def name_of(header):
+        return include_name(header, [ROOT / folder for folder in FOLDERS])
+
+    def sources_of(self, mutant):
+        """What has to be compiled for a mutant; empty for one that is left alone."""
+        changed = ROOT / mutant.file
+        if changed in self.commands:
+            return [changed]
+        sources = self.carriers.of(mutant.owner)
+        return sources if len(sources) <= MOST_CARRIERS else []
 
     def rounds(self, source):
         """The tests in the order in which they are likely to notice: of this file, of its folder, the rest, the slow."""
         folder = source.relative_to(ROOT).parts[1]
+        is_header = source.suffix == ".h"
         own, near, rest, slow = [], [], [], []
         for test in self.tests:
             if test.seconds > SLOW_S:
                 slow.append(test)
-            elif test.file.stem == f"{source.stem}_test":
+            elif test.file.stem == f"{source.stem}_test" or is_header and test.file.stem.startswith(SCREEN_TESTS):
                 own.append(test)
             else:
                 (near if test.file.parent.name == folder else rest).append(test)
@@ -100,21 +143,31 @@ class Workshop:
 
     def verdict(self, mutant):
         """"caught", "survived" or "did not compile"."""
-        source = ROOT / mutant.file
+        original = ROOT / mutant.file
         folder = pathlib.Path(tempfile.mkdtemp(dir=BUILD, prefix="mutant-"))
         try:
-            changed = folder / source.name
-            changed.write_bytes(mutant.applied(source.read_bytes()))
-            replaced = {str(source): str(changed)}
-            command = [replaced.get(word, word) for word in self.commands[source]]
-            command[command.index("-o") + 1] = str(folder / "mutant.o")
-            if run([*NICE, *command], cwd=BUILD).returncode != 0:
-                return "did not compile"
+            changed = folder / (self.name_of(original) if original.suffix == ".h" else original.name)
+            changed.parent.mkdir(exist_ok=True)
+            changed.write_bytes(mutant.applied(original.read_bytes()))
+            objects = []
+            for source in self.sources_of(mutant):
+                objects.append(str(folder / f"{len(objects)}.o"))
+                if run([*NICE, *self.changed_command(source, original, changed, objects[-1])], cwd=BUILD).returncode != 0:
+                    return "did not compile"
             link = list(self.link)
             output = link.index("-o") + 1
-            link[output:output + 1] = [str(folder / "unit_tests"), str(folder / "mutant.o")]
+            link[output:output + 1] = [str(folder / "unit_tests"), *objects]
             if run([*NICE, *link], cwd=BUILD).returncode != 0:
                 return "did not compile"
-            return "caught" if self.is_caught(folder / "unit_tests", source, folder) else "survived"
+            return "caught" if self.is_caught(folder / "unit_tests", original, folder) else "survived"
         finally:
             shutil.rmtree(folder)
+
+    def changed_command(self, source, original, changed, output):
+        """Compiles the changed source in place of the original, or a source with the changed header before all others."""
+        command = list(self.commands[source])
+        command[command.index("-o") + 1] = output
+        if source == original:
+            return [str(changed) if word == str(source) else word for word in command]
+        folder = str(changed).removesuffix(str(self.name_of(original)))
+        return [command[0], f"-I{folder}", *command[1:]]

@@ -196,6 +196,14 @@ TEST_F(Launcher, ProgramWithoutAFolderStartsInTheCurrentOne) {
   EXPECT_THAT(Starts(), ElementsAre("CreateProcessA(calc)"));
 }
 
+TEST_F(Launcher, FolderOfTheLastProgramStaysTheCurrentOne) {
+  StartWith({{"Game", "game1", "D:\\GAMES"}, {"Calculator", "calc", ""}});
+  Tab().List5.DoubleClick(0);
+  Tab().List5.DoubleClick(1);
+  EXPECT_THAT(Starts(), ElementsAre("SetCurrentDirectoryA(D:)", "SetCurrentDirectoryA(D:\\GAMES)",
+                                    "CreateProcessA(game1)", "CreateProcessA(calc)"));
+}
+
 TEST_F(Launcher, MenuStartsTheSameProgram) {
   StartWith({{"Calculator", "calc", ""}, {"Game", "game2", "D:\\GAMES"}});
   Menu().mnuProgram[1].Choose();

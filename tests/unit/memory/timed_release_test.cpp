@@ -120,6 +120,35 @@ TEST_F(TimedGate, RetryGoesOnWhilePaused) {
   EXPECT_FALSE(rig.program->MainWindow().Timer4.Enabled());
 }
 
+/// A release that is due, was held back by the processor and is tried again in a second; the processor is
+/// idle.
+class WaitingRelease : public TimedGate {
+ protected:
+  void SetUp() override {
+    TimedGate::SetUp();
+    rig.machine.SetCpuLoad(0);
+    rig.AdvanceMs(4 * kMinuteMs);
+    rig.machine.SetCpuLoad(100);
+    rig.AdvanceMs(kMinuteMs);
+    rig.machine.SetCpuLoad(0);
+    rig.AdvanceMs(9000);
+  }
+};
+
+TEST_F(WaitingRelease, RunsInSpiteOfAPause) {
+  rig.program->Quondix().Command3.Press();
+  EXPECT_EQ(Allocations(), Sizes{});
+  rig.AdvanceMs(1000);
+  EXPECT_EQ(Allocations(), Sizes{kBytesOf40Mb});
+}
+
+TEST_F(WaitingRelease, IsCalledBackByUnticking) {
+  rig.program->MainWindow().SSTab1.ChooseTab(screens::kTimeIntervalsTab);
+  rig.program->TimeIntervals().Check3.Press();
+  rig.AdvanceMs(10 * kMinuteMs);
+  EXPECT_EQ(Allocations(), Sizes{});
+}
+
 TEST_F(TimedRelease, ChangingTheUnitGoesOnCountingWhereItWas) {
   rig.Store("Startup", "TimeMinutes", "30");
   rig.Start();

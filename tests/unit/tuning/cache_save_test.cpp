@@ -154,6 +154,15 @@ TEST_F(CacheSaving, BoxesNotTickedRemoveTheEntriesAndStillNameTheTemplate) {
   EXPECT_EQ(Value(kOwnTemplatePath, ""), "Quondix Settings");
 }
 
+TEST_F(CacheSaving, SizesThatTheTabCannotShowAreRemoved) {
+  rig.WriteSystemIni("[vcache]\r\nMinFileCache=256\r\nMaxFileCache=99999\r\nChunkSize=512\r\n");
+  Start();
+  EXPECT_FALSE(Tab().Check5.Ticked());
+  EXPECT_FALSE(Tab().Check6.Ticked());
+  Save({os::kIdYes, os::kIdNo});
+  EXPECT_EQ(rig.SystemIni(), "[vcache]\r\nChunkSize=512\r\n");
+}
+
 TEST_F(CacheSaving, SystemDefaultsClearsTheBoxesAndWritesNothing) {
   Start();
   Tab().Combo2.Choose("Multimedia (Win98/ME)");

@@ -188,6 +188,16 @@ TEST_F(SwapSaving, With500FreeASizeOf480IsAcceptedAnd481Refused) {
   EXPECT_TRUE(Changes().empty());
 }
 
+// The file counts megabytes of 1,048,576 bytes, the disk those of 1,024,000.
+TEST_F(SwapSaving, LargestSizeThatIsAcceptedCanExceedTheFreeSpace) {
+  SetFree(1000);
+  StartWithRecord(kOptimised);
+  SetSize("980");
+  Save({os::kIdYes, os::kIdNo});
+  EXPECT_THAT(Changes(), testing::Contains(Ini("MinPagingFileSize 1003520")));
+  EXPECT_GT(1003520ULL * 1024, FreeBytes(1000));
+}
+
 // 499.5 rounds to the even 500, 500.5 to 500 as well.
 TEST_F(SwapSaving, FreeSpaceIsRoundedHalfToEven) {
   StartWithRecord(kOptimised);

@@ -117,9 +117,9 @@ TEST_F(FormRules, HandlerThatPutsTheFocusBackKeepsIt) {
 
 TEST_F(FormRules, ErrorOfAValidationIsReportedAndLetsTheFocusGo) {
   box.SetFocus();
-  answer = base::kTypeMismatch;
+  answer = base::kPathNotFound;
   EXPECT_TRUE(bench.form.MoveFocus(&button));
-  EXPECT_EQ(bench.errors, (std::vector<int>{13}));
+  EXPECT_EQ(bench.errors, (std::vector<int>{76}));
 }
 
 TEST_F(FormRules, FocusOnItselfValidatesNothing) {
