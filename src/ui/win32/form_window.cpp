@@ -226,6 +226,7 @@ std::optional<LRESULT> FormWindow::HandleLife(UINT message, WPARAM wparam, LPARA
     case WM_GETMINMAXINFO:
       bounds_.Limit(*reinterpret_cast<MINMAXINFO*>(lparam));
       return std::nullopt;
+    case WM_DISPLAYCHANGE:
     case WM_SYSCOLORCHANGE:
       ForwardToControls(message, wparam, lparam);
       return 0;
