@@ -9,11 +9,11 @@ Form1::Form1(const os::System& system)
       settings_(system.registry),
       single_instance_(system, application_, window_.Form1),
       machine_record_(system.registry),
-      monitor_(system, application_, window_.Form1, quondix_),
-      release_(system, application_, window_.Form1),
       processor_(system.processor),
       cpu_speed_(processor_, quondix_),
       cpu_usage_(system, application_, settings_, quondix_, startup_),
+      monitor_(system, application_, window_.Form1, quondix_, cpu_usage_),
+      release_(system, application_, window_.Form1),
       manual_release_(release_, settings_, quondix_),
       scheduled_release_(release_, monitor_, cpu_usage_, manual_release_, {quondix_, startup_}),
       automatic_release_(system, settings_, automatic_, window_.SSTab1, window_.Timer2, application_,
@@ -75,10 +75,8 @@ base::Status Form1::Form_Activate() {
 }
 
 base::Status Form1::Timer1_Timer() {
-  const base::Status refreshed = monitor_.RefreshMemoryDisplay();
-  if (!refreshed.Ok()) return refreshed;
-  cpu_usage_.CPUUsage();
   tray_icon_.RetryAdd();
+  monitor_.RefreshMemoryDisplay();
   return base::kDone;
 }
 

@@ -138,6 +138,14 @@ TEST_F(TrayAtLogOn, RefusedAddIsAskedForAgainAtTheNextRefreshAndThenNoMore) {
   EXPECT_EQ(rig.machine.TrayRequests().size(), asked);
 }
 
+TEST_F(TrayAtLogOn, RefusedAddIsAskedForAgainWhateverTheDisplayMeets) {
+  rig.machine.SetMemory(0, 512 * kMegabyte, 0x7FFFFFFFU, 0xFFFFFFFEU);  // reported in a box, and not shown
+  int icons_in_box = -1;
+  rig.machine.WhileBoxIsOpen([&] { icons_in_box = rig.machine.TrayIconCount(); });
+  rig.AdvanceMs(kRefreshMs);
+  EXPECT_EQ(icons_in_box, 1);
+}
+
 TEST_F(TrayAtLogOn, RefusedAddIsAskedForAgainAlsoWhilePaused) {
   rig.program->Quondix().Command3.Press();
   rig.AdvanceMs(64999);
