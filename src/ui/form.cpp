@@ -19,6 +19,12 @@ void Form::Show() {
 
 void Form::Hide() { SetVisible(false); }
 
+void Form::UserChangedVisible(bool visible) {
+  if (visible_ == visible || unloaded_) return;
+  visible_ = visible;
+  if (visible) events_.Run(OnActivate);
+}
+
 void Form::SetState(WindowState state) {
   if (state_ == state || unloaded_) return;
   state_ = state;

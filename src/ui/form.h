@@ -71,6 +71,9 @@ class Form final : public Container {
   [[nodiscard]] bool Shown() const { return Visible(); }
   void Show();
   void Hide();
+  /// The system or another program showed or hid the window; copied into the model. Fires OnActivate as Show
+  /// does.
+  void UserChangedVisible(bool visible);
 
   [[nodiscard]] WindowState State() const { return state_; }
   void SetState(WindowState state);

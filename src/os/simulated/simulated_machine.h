@@ -110,6 +110,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
     windows_.PlaceDirectlyBehind(window, front);
   }
   [[nodiscard]] bool IsMinimised(WindowHandle window) const { return windows_.IsMinimised(window); }
+  void HideWindow(WindowHandle window) { windows_.Hide(window); }
+  [[nodiscard]] bool IsWindowShown(WindowHandle window) const { return windows_.IsShown(window); }
   [[nodiscard]] WindowHandle ForegroundWindow() const { return windows_.Foreground(); }
 
   // Message boxes.

@@ -85,6 +85,21 @@ TEST_F(Tray, DoubleClickRestoresAMinimisedWindow) {
   EXPECT_EQ(rig.program->Window().State(), ui::WindowState::kNormal);
 }
 
+TEST_F(Tray, WindowThatAnotherProgramBringsBackWorksAsAfterDisplay) {
+  auto& program = *rig.program;
+  program.Quondix().Command3.Press();
+  program.Quondix().Command4.Press();
+  program.TheTrayMenu().mnuTrayHide.Choose();
+  program.Window().UserChangedState(ui::WindowState::kNormal);
+  program.Window().UserChangedVisible(true);
+  EXPECT_TRUE(program.MainWindow().Timer1.Enabled()) << "every activation starts the display";
+  program.MainWindow().SSTab1.ChooseTab(screens::kStartupTab);
+  EXPECT_EQ(program.MainWindow().SSTab1.Tab(), screens::kStartupTab);
+  program.Window().UserChangedVisible(false);
+  program.MainWindow().SSTab1.ChooseTab(screens::kAboutTab);
+  EXPECT_EQ(program.MainWindow().SSTab1.Tab(), screens::kStartupTab) << "no hand reaches a hidden window";
+}
+
 TEST_F(Tray, RightButtonOpensTheMenuAndALeftClickDoesNothing) {
   MouseOnIcon(kLeftButton);
   EXPECT_TRUE(menus.shown.empty());

@@ -48,6 +48,32 @@ TEST_F(FormRules, ActivatesAtTheFirstShowAndAtEachShowAfterHiding) {
   EXPECT_EQ(activated.count, 2);
 }
 
+TEST_F(FormRules, WindowThatOthersShowAndHideActivatesLikeTheFormsOwnAndIsLeftAlone) {
+  ui::EventDispatcher events;
+  ui::Form form(events, {.name = "Form"});
+  ui::Button inside{form, {.name = "Inside"}};
+  NotingPeer peer;
+  Handled activated;
+  form.AttachPeer(&peer);
+  form.OnActivate = activated.Handler();
+  form.UserChangedVisible(true);
+  EXPECT_TRUE(form.Shown());
+  EXPECT_TRUE(inside.Reachable());
+  EXPECT_EQ(activated.count, 1);
+  form.UserChangedVisible(true);
+  EXPECT_EQ(activated.count, 1);
+  form.UserChangedVisible(false);
+  EXPECT_FALSE(form.Shown());
+  EXPECT_EQ(activated.count, 1);
+  form.UserChangedVisible(true);
+  EXPECT_EQ(activated.count, 2);
+  EXPECT_TRUE(peer.changes.empty());
+  form.Unload();
+  form.UserChangedVisible(false);
+  form.UserChangedVisible(true);
+  EXPECT_EQ(activated.count, 2);
+}
+
 class Refusal {
  public:
   [[nodiscard]] base::Callback<bool()> Handler() {
