@@ -71,7 +71,7 @@ base::Status Form1::Form_Activate() {
   window_.Timer1.SetEnabled(true);
   if (!first_help_pending_ || !window_.Form1.Visible()) return base::kDone;
   first_help_pending_ = false;
-  return help_.FirstHelp();
+  return help_.HasViewer() ? help_.FirstHelp() : base::kDone;
 }
 
 base::Status Form1::Timer1_Timer() {
