@@ -62,7 +62,7 @@ void Form1::Start() {
 
 void Form1::EndSession() {
   application_.SetSessionIsEnding();
-  window_.Form1.Unload();
+  window_.Form1.UnloadAtOnce();
 }
 
 /// The load calls it as well, so that the display is refreshed behind a hidden window; the first steps are
@@ -120,13 +120,16 @@ base::Status Form1::Form_Unload() {
   return saved;
 }
 
+/// A refused limit opens a box. Where the session ends while it is open, everything has been stored by then.
 base::Status Form1::SaveAtExit() {
   const base::Status amount = startup_release_.Combo1_LostFocus();
   if (!amount.Ok()) return amount;
   const base::Result<bool> auto_limit = automatic_release_.Text9_Validate();
   if (!auto_limit.Ok()) return auto_limit.Error();
+  if (window_.Form1.Unloaded()) return base::kDone;
   const base::Result<bool> time_limit = timed_release_.Text10_Validate();
   if (!time_limit.Ok()) return time_limit.Error();
+  if (window_.Form1.Unloaded()) return base::kDone;
   settings_.SaveNumber(shell::kSettingsSection, "LastTab", window_.SSTab1.Tab());
   return base::kDone;
 }

@@ -93,9 +93,13 @@ void Form::Close() {
 }
 
 void Form::Unload() {
-  if (unloading_) return;
+  if (!unloading_) UnloadAtOnce();
+}
+
+void Form::UnloadAtOnce() {
   unloading_ = true;
   events_.Run(OnUnload);
+  if (unloaded_) return;  // the session ended in a box of the handler
   unloaded_ = true;
   events_.Stop();
   if (form_peer_ != nullptr) form_peer_->FormUnloaded();

@@ -74,6 +74,24 @@ TEST_F(FormRules, WindowThatOthersShowAndHideActivatesLikeTheFormsOwnAndIsLeftAl
   EXPECT_EQ(activated.count, 2);
 }
 
+TEST_F(FormRules, UnloadAtOnceOvertakesAnUnloadThatItsHandlerHoldsUp) {
+  Handled unloading;
+  unloading.action = [&] {
+    if (unloading.count > 1) return;
+    bench.form.Unload();
+    EXPECT_FALSE(bench.form.Unloaded()) << "the unload is still running";
+    bench.form.UnloadAtOnce();
+    EXPECT_TRUE(bench.form.Unloaded());
+  };
+  unloading.answer = base::kDivisionByZero;
+  bench.form.OnUnload = unloading.Handler();
+  bench.form.Unload();
+  EXPECT_EQ(unloading.count, 2);
+  EXPECT_EQ(bench.errors.size(), 1U) << "the first one came to its end after the stop";
+  bench.form.UnloadAtOnce();
+  EXPECT_EQ(unloading.count, 2);
+}
+
 class Refusal {
  public:
   [[nodiscard]] base::Callback<bool()> Handler() {
