@@ -82,6 +82,7 @@ class QuietWindows final : public os::Windows {
     return 0;
   }
   bool OpenIcon(os::WindowHandle /*window*/) override { return false; }
+  bool ShowWindow(os::WindowHandle /*window*/, int /*way*/) override { return false; }
   bool SetForegroundWindow(os::WindowHandle /*window*/) override { return false; }
   bool PostMessageA(os::WindowHandle /*window*/, std::uint32_t /*message*/) override { return false; }
 };

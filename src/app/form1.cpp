@@ -9,11 +9,11 @@ Form1::Form1(const os::System& system)
       settings_(system.registry),
       single_instance_(system, application_, window_.Form1),
       machine_record_(system.registry),
-      monitor_(system, application_, window_.Form1, quondix_),
-      release_(system, application_, window_.Form1),
       processor_(system.processor),
       cpu_speed_(processor_, quondix_),
       cpu_usage_(system, application_, settings_, quondix_, startup_),
+      monitor_(system, application_, window_.Form1, quondix_, cpu_usage_),
+      release_(system, application_, window_.Form1),
       manual_release_(release_, settings_, quondix_),
       scheduled_release_(release_, monitor_, cpu_usage_, manual_release_, {quondix_, startup_}),
       automatic_release_(system, settings_, automatic_, window_.SSTab1, window_.Timer2, application_,
@@ -62,7 +62,7 @@ void Form1::Start() {
 
 void Form1::EndSession() {
   application_.SetSessionIsEnding();
-  window_.Form1.Unload();
+  window_.Form1.UnloadAtOnce();
 }
 
 /// The load calls it as well, so that the display is refreshed behind a hidden window; the first steps are
@@ -71,14 +71,12 @@ base::Status Form1::Form_Activate() {
   window_.Timer1.SetEnabled(true);
   if (!first_help_pending_ || !window_.Form1.Visible()) return base::kDone;
   first_help_pending_ = false;
-  return help_.FirstHelp();
+  return help_.HasViewer() ? help_.FirstHelp() : base::kDone;
 }
 
 base::Status Form1::Timer1_Timer() {
-  const base::Status refreshed = monitor_.RefreshMemoryDisplay();
-  if (!refreshed.Ok()) return refreshed;
-  cpu_usage_.CPUUsage();
   tray_icon_.RetryAdd();
+  monitor_.RefreshMemoryDisplay();
   return base::kDone;
 }
 
@@ -122,13 +120,16 @@ base::Status Form1::Form_Unload() {
   return saved;
 }
 
+/// A refused limit opens a box. Where the session ends while it is open, everything has been stored by then.
 base::Status Form1::SaveAtExit() {
   const base::Status amount = startup_release_.Combo1_LostFocus();
   if (!amount.Ok()) return amount;
   const base::Result<bool> auto_limit = automatic_release_.Text9_Validate();
   if (!auto_limit.Ok()) return auto_limit.Error();
+  if (window_.Form1.Unloaded()) return base::kDone;
   const base::Result<bool> time_limit = timed_release_.Text10_Validate();
   if (!time_limit.Ok()) return time_limit.Error();
+  if (window_.Form1.Unloaded()) return base::kDone;
   settings_.SaveNumber(shell::kSettingsSection, "LastTab", window_.SSTab1.Tab());
   return base::kDone;
 }

@@ -123,11 +123,11 @@ class Form1 {
 
   SingleInstance single_instance_;
   MachineRecord machine_record_;
-  memory::MemoryMonitor monitor_;
-  memory::MemoryRelease release_;
   cpu::ProcessorIdentification processor_;
   cpu::CpuSpeed cpu_speed_;
   cpu::CpuUsage cpu_usage_;
+  memory::MemoryMonitor monitor_;
+  memory::MemoryRelease release_;
   memory::ManualRelease manual_release_;
   memory::ScheduledRelease scheduled_release_;
   memory::AutomaticRelease automatic_release_;

@@ -29,6 +29,7 @@ base::Status Form1::Form_Load() {
   cpu_usage_.LoadUpdateInterval();
   timed_release_.LoadCpuLimit();
   SelectStoredTab();
+  if (window_.Form1.Unloaded()) return base::kDone;  // the same for the tip that this can show
   cache_settings_.SetupCache();
   startup_registration_.CheckStartup();
   automatic_release_.LoadCounter();

@@ -27,6 +27,8 @@ void SingleInstance::ActivatePrevInstance() {
       system_.dialogs.MessageBoxA("error in ActivatePrecInstance", title, os::kMbOk);
     } else {
       system_.windows.OpenIcon(window);
+      // Not SW_SHOW, which Windows replaces by the way of showing that this copy was started with.
+      system_.windows.ShowWindow(window, os::kSwShowNa);
       system_.windows.SetForegroundWindow(window);
     }
   }

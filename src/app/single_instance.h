@@ -15,9 +15,9 @@ class SingleInstance {
   /// True where another copy had started before.
   [[nodiscard]] bool AnotherIsRunning();
 
-  /// Finds the running copy by its hidden application window, restores and raises the window that stands
-  /// before it, and unloads this copy's window. Where no such window is found this copy is unloaded all the
-  /// same: two copies would fight over settings and icon.
+  /// Finds the running copy by its hidden application window, restores, shows and raises the window that
+  /// stands before it, and unloads this copy's window. Where no such window is found this copy is unloaded
+  /// all the same: two copies would fight over settings and icon.
   void ActivatePrevInstance();
 
  private:

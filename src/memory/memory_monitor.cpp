@@ -95,14 +95,16 @@ void MemoryMonitor::ReportOnce(const os::MemoryStatus& status) {
   system_.dialogs.MessageBoxA(text, application_.Title(), os::kMbOk);
 }
 
-base::Status MemoryMonitor::RefreshMemoryDisplay() {
+void MemoryMonitor::RefreshMemoryDisplay() {
   const double available_mb = MemStatus();
-  form_.SetCaption(base::ShortestText(available_mb) + " MB   Q-DIX");
-  if (!ShowAvailable(available_mb).Ok()) {
-    form_.SetCaption(base::ShortestText(available_mb) +
-                     " MB   Q-DIX - This reading is Incorrect. See our support page.");
+  if (form_.Unloaded()) return;  // closed while the report of an error was open
+  const std::string caption = base::ShortestText(available_mb) + " MB   Q-DIX";
+  form_.SetCaption(caption);
+  if (ShowAvailable(available_mb).Ok()) {
+    cpu_usage_.CPUUsage();
+  } else {
+    form_.SetCaption(caption + " - This reading is Incorrect. See our support page.");
   }
-  return base::kDone;
 }
 
 base::Status MemoryMonitor::ShowAvailable(double available_mb) {

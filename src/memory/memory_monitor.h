@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "cpu/cpu_usage.h"
 #include "os/system.h"
 #include "screens/quondix_screen.h"
 #include "ui/application.h"
@@ -14,8 +15,8 @@ namespace qdix::memory {
 class MemoryMonitor {
  public:
   MemoryMonitor(const os::System& system, const ui::Application& application, ui::Form& form,
-                screens::QuondixScreen& screen)
-      : system_(system), application_(application), form_(form), screen_(screen) {}
+                screens::QuondixScreen& screen, cpu::CpuUsage& cpu_usage)
+      : system_(system), application_(application), form_(form), screen_(screen), cpu_usage_(cpu_usage) {}
 
   /// Total physical memory in MB with fractions, unrounded. Totals of 2 GB and above read negative.
   [[nodiscard]] double TotalRAM() const;
@@ -37,8 +38,9 @@ class MemoryMonitor {
   /// failed is skipped.
   double MemStatus();
 
-  /// Shows the available memory in the caption, the gauge and the percentage.
-  base::Status RefreshMemoryDisplay();
+  /// Shows the available memory in the caption, the gauge and the percentage, then takes a reading of the
+  /// processor load. Where the memory cannot be shown the caption says so, and there is no reading.
+  void RefreshMemoryDisplay();
 
  private:
   base::Result<double> CorrectImplausible(double available_mb) const;
@@ -50,6 +52,7 @@ class MemoryMonitor {
   const ui::Application& application_;
   ui::Form& form_;
   screens::QuondixScreen& screen_;
+  cpu::CpuUsage& cpu_usage_;
   std::int16_t total_ram_mb_ = 0;
   bool memory_error_shown_ = false;
 };

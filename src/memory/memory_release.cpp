@@ -25,7 +25,9 @@ ReleaseOutcome MemoryRelease::FreeUpMemory(const ReleaseRequest& request) {
   for (std::int32_t done = 0; done < passes; ++done) {
     if (form_.Unloaded()) return ReleaseOutcome::kUnloaded;
     const double amount_mb = request.amount_mb();
-    if (request.enough_is_free && request.enough_is_free(amount_mb)) return ReleaseOutcome::kFinished;
+    // The question can open a box, in which the window may be closed.
+    if (request.enough_is_free && request.enough_is_free(amount_mb)) break;
+    if (form_.Unloaded()) break;
     const ReleaseOutcome outcome = RunPass(request, amount_mb);
     if (outcome != ReleaseOutcome::kFinished) return outcome;
   }

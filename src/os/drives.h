@@ -1,4 +1,5 @@
-// The machine's drives. Roots are texts such as "C:\"; each call sees the root as its caller gives it.
+// The machine's drives. Roots are texts such as "C:\"; each call sees the root as its caller gives it. What
+// is asked about a volume brings no box of the system where its drive is not ready.
 #pragma once
 
 #include <cstdint>
@@ -26,11 +27,12 @@ class Drives {
  public:
   virtual ~Drives() = default;
 
-  /// 1 and the figures, or 0 where the volume cannot be asked or the system (the first Windows 95) lacks the
-  /// query.
+  /// 1 and the figures, or 0 where the volume cannot be asked, the root lacks its backslash, or the system
+  /// (the first Windows 95) lacks the query.
   [[nodiscard]] virtual std::int32_t GetDiskFreeSpaceExA(const char* root, DiskBytes& bytes) = 0;
 
-  /// 1 and the figures, or 0. Windows 95 tells at most 2 GB.
+  /// 1 and the figures, or 0 where the volume cannot be asked or the root lacks its backslash. Windows 95
+  /// tells at most 2 GB.
   [[nodiscard]] virtual std::int32_t GetDiskFreeSpaceA(const char* root, DiskClusters& clusters) = 0;
 
   /// 0 unknown, 1 no such root, 2 removable, 3 fixed, 4 network, 5 CD-ROM, 6 RAM disk.

@@ -11,6 +11,9 @@ using WindowHandle = std::uintptr_t;
 /// Relations of GetWindow: the window directly before another in the window order (nearer to the user).
 inline constexpr std::uint32_t kGwHwndPrev = 3;
 
+/// Shows a window in its present state and place, without the keyboard.
+inline constexpr int kSwShowNa = 8;
+
 /// Asks a window to close.
 inline constexpr std::uint32_t kWmClose = 0x0010U;
 
@@ -25,9 +28,12 @@ class Windows {
   /// The window that stands in this relation to `window`, or 0.
   [[nodiscard]] virtual WindowHandle GetWindow(WindowHandle window, std::uint32_t relation) = 0;
 
-  /// Restores a minimised window to its former size and place; no effect on others. False when there is no
-  /// such window.
+  /// Restores a minimised window to its former size and place, and shows it where it is hidden; no effect on
+  /// others. False when there is no such window.
   virtual bool OpenIcon(WindowHandle window) = 0;
+
+  /// Shows a window. True where it was visible before.
+  virtual bool ShowWindow(WindowHandle window, int way) = 0;
 
   /// Brings a window to the front and gives it the keyboard. False when the system refuses.
   virtual bool SetForegroundWindow(WindowHandle window) = 0;

@@ -22,6 +22,11 @@ void Help::CloseHelpFile() {
   if (viewer != 0) system_.windows.PostMessageA(viewer, os::kWmClose);
 }
 
+bool Help::HasViewer() const {
+  return system_.files.GetFileAttributesA((ApplicationFolder(system_.processes) + "help.exe").c_str()) !=
+         os::kInvalidFileAttributes;
+}
+
 /// Without quotation marks, since it is this text that the system is given: it tries the blanks of the folder
 /// from the left.
 base::Status Help::OpenTopic(const char* command) {

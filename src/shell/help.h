@@ -31,6 +31,9 @@ class Help {
   /// Asks an open viewer to close, and does not wait for it.
   void CloseHelpFile();
 
+  /// True where the viewer lies beside this program.
+  [[nodiscard]] bool HasViewer() const;
+
   /// The first steps, in place of an open viewer. A viewer that is not there is the error of a missing file.
   base::Status FirstHelp();
 

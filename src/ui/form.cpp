@@ -19,6 +19,12 @@ void Form::Show() {
 
 void Form::Hide() { SetVisible(false); }
 
+void Form::UserChangedVisible(bool visible) {
+  if (visible_ == visible || unloaded_) return;
+  visible_ = visible;
+  if (visible) events_.Run(OnActivate);
+}
+
 void Form::SetState(WindowState state) {
   if (state_ == state || unloaded_) return;
   state_ = state;
@@ -87,9 +93,13 @@ void Form::Close() {
 }
 
 void Form::Unload() {
-  if (unloading_) return;
+  if (!unloading_) UnloadAtOnce();
+}
+
+void Form::UnloadAtOnce() {
   unloading_ = true;
   events_.Run(OnUnload);
+  if (unloaded_) return;  // the session ended in a box of the handler
   unloaded_ = true;
   events_.Stop();
   if (form_peer_ != nullptr) form_peer_->FormUnloaded();

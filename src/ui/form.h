@@ -71,6 +71,9 @@ class Form final : public Container {
   [[nodiscard]] bool Shown() const { return Visible(); }
   void Show();
   void Hide();
+  /// The system or another program showed or hid the window; copied into the model. Fires OnActivate as Show
+  /// does.
+  void UserChangedVisible(bool visible);
 
   [[nodiscard]] WindowState State() const { return state_; }
   void SetState(WindowState state);
@@ -94,6 +97,9 @@ class Form final : public Container {
 
   /// Fires OnUnload once, stops the dispatcher and tells the peer. Later calls do nothing.
   void Unload();
+  /// The same, also while a box of OnUnload holds up an earlier call: then OnUnload runs a second time and
+  /// must not ask. For the end of the session, after which the process may stop at any moment.
+  void UnloadAtOnce();
   [[nodiscard]] bool Unloaded() const { return unloaded_; }
 
   /// The pointer moved over the window, or the tray icon called back: button, shift state, x and y in twips.

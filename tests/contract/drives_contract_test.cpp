@@ -43,11 +43,15 @@ TEST_F(DrivesContract, BothQueriesKnowTheSystemsDriveAndNotAnUnknownOne) {
   ASSERT_EQ(system.drives.GetDiskFreeSpaceA(kSystemRoot, clusters), 1);
   EXPECT_GT(clusters.bytes_per_sector, 0U);
   EXPECT_GT(clusters.total_clusters, 0U);
-  os::DiskClusters of_bare_root;
-  EXPECT_EQ(system.drives.GetDiskFreeSpaceA("C:", of_bare_root), 1);
-  EXPECT_EQ(of_bare_root.total_clusters, clusters.total_clusters);
   EXPECT_EQ(system.drives.GetDiskFreeSpaceExA("Q:\\", bytes), 0);
   EXPECT_EQ(system.drives.GetDiskFreeSpaceA("Q:\\", clusters), 0);
+}
+
+TEST_F(DrivesContract, RootWithoutItsBackslashIsRefusedByBothQueries) {
+  os::DiskBytes bytes;
+  os::DiskClusters clusters;
+  EXPECT_EQ(system.drives.GetDiskFreeSpaceExA("C:", bytes), 0);
+  EXPECT_EQ(system.drives.GetDiskFreeSpaceA("C:", clusters), 0);
 }
 
 TEST_F(DrivesContract, VolumeOfTheSystemsDriveCanBeAsked) {

@@ -33,6 +33,8 @@ class Machine {
   virtual void PlaceDirectlyBehind(os::WindowHandle window, os::WindowHandle front) = 0;
   virtual void Minimise(os::WindowHandle window) = 0;
   [[nodiscard]] virtual bool IsMinimised(os::WindowHandle window) = 0;
+  virtual void Hide(os::WindowHandle window) = 0;
+  [[nodiscard]] virtual bool IsShown(os::WindowHandle window) = 0;
 
   /// Something that happens inside the next pump.
   virtual void DoInNextPump(std::function<void()> action) = 0;

@@ -74,10 +74,32 @@ TEST_F(WindowsContract, MinimisedWindowIsRestored) {
   EXPECT_FALSE(machine->IsMinimised(window));
 }
 
-TEST_F(WindowsContract, ClosedWindowIsNeitherRestoredNorRaised) {
+TEST_F(WindowsContract, HiddenWindowIsShownAsItIs) {
+  const os::WindowHandle window = machine->OpenWindow(kClass, "A Title");
+  machine->Hide(window);
+  ASSERT_FALSE(machine->IsShown(window));
+  EXPECT_TRUE(system.windows.OpenIcon(window));
+  EXPECT_FALSE(machine->IsShown(window)) << "it is not minimised, so there is nothing to restore";
+  EXPECT_FALSE(system.windows.ShowWindow(window, os::kSwShowNa));
+  EXPECT_TRUE(machine->IsShown(window));
+  EXPECT_TRUE(system.windows.ShowWindow(window, os::kSwShowNa)) << "shown already";
+  EXPECT_TRUE(machine->IsShown(window));
+}
+
+TEST_F(WindowsContract, HiddenMinimisedWindowIsRestoredAndShownByOneCall) {
+  const os::WindowHandle window = machine->OpenWindow(kClass, "A Title");
+  machine->Minimise(window);
+  machine->Hide(window);
+  EXPECT_TRUE(system.windows.OpenIcon(window));
+  EXPECT_FALSE(machine->IsMinimised(window));
+  EXPECT_TRUE(machine->IsShown(window));
+}
+
+TEST_F(WindowsContract, ClosedWindowIsNeitherRestoredNorShownNorRaised) {
   const os::WindowHandle window = machine->OpenWindow(kClass, "A Title");
   machine->CloseWindow(window);
   EXPECT_FALSE(system.windows.OpenIcon(window));
+  EXPECT_FALSE(system.windows.ShowWindow(window, os::kSwShowNa));
   EXPECT_FALSE(system.windows.SetForegroundWindow(window));
 }
 

@@ -122,6 +122,18 @@ TEST_F(HelpOfTheProgram, ManualIsHandedToTheShellToBeShownMaximised) {
 
 class FirstHelpOfTheProgram : public Session {};
 
+TEST_F(FirstHelpOfTheProgram, FirstStartWithoutTheViewerShowsTheWindowAndNoBox) {
+  const FileKeeper viewer{ProgramPath("help.exe")};
+  StartProgram();
+  EXPECT_FALSE(program.Await([this] { return !program.MessageBoxes().empty(); }, kSecondViewerMs));
+  EXPECT_TRUE(IsWindowVisible(program.MainWindow()));
+  EXPECT_TRUE(program.IsRunning());
+  program.Press("Command21");
+  ASSERT_TRUE(program.Await([this] { return !program.MessageBoxes().empty(); }));
+  EXPECT_EQ(program.AnswerBoxes(), std::vector<std::string>{"Run-time error '53':\r\n\r\nFile not found"});
+  ExpectCleanEnd(program);
+}
+
 TEST_F(FirstHelpOfTheProgram, FirstStartOpensTheFirstStepsAndTheNextOneDoesNot) {
   StartProgram();
   ASSERT_TRUE(program.Await([] { return HelpWindows().size() == 1; }));

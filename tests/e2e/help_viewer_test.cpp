@@ -133,6 +133,22 @@ class HelpSession : public testing::Test {
   ShippedProgram program{HelpViewer()};
 };
 
+TEST_F(HelpSession, PaneShowsItsTopicAndScrollsAfterAChangeOfTheScreen) {
+  Start("4");
+  ExpectKeyboardOn("paneTopic");
+  const std::string before = PanePixels();
+  ASSERT_FALSE(before.empty());
+  Ask(program.MainWindow(), WM_DISPLAYCHANGE, 16, MAKELPARAM(800, 600));
+  EXPECT_TRUE(program.Await([&] { return PanePixels() == before; }));
+  PressKey(VK_NEXT);
+  const std::string below = AwaitOtherPane(before);
+  Ask(program.MainWindow(), WM_DISPLAYCHANGE, 16, MAKELPARAM(800, 600));
+  PressKey(VK_HOME);
+  EXPECT_TRUE(program.Await([&] { return PanePixels() == before; }));
+  EXPECT_NE(below, before);
+  CloseAndExpectEnd();
+}
+
 TEST_F(HelpSession, OpensTheTopicOfEachNumber) {
   for (const int number : {0, 4, 9}) {
     Start(std::to_string(number));

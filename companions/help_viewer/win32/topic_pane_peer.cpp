@@ -37,13 +37,17 @@ TopicPanePeer::TopicPanePeer(const ui::win32::PeerContext& context, TopicPane& m
                      .style = WS_TABSTOP | WS_VSCROLL,
                      .extended_style = WS_EX_CLIENTEDGE,
                      .box = context.font.Pixels(model.GetPlace())}),
-      pane_(model),
-      device_(CreateCompatibleDC(nullptr)),
-      text_(device_.get(), os::win32::kScreenFaces) {
-  SizeChanged();
+      pane_(model) {
+  MakeMemoryDevice();
 }
 
 TopicPanePeer::~TopicPanePeer() { pane_.SurfaceChanged(nullptr, 0, 0); }
+
+void TopicPanePeer::MakeMemoryDevice() {
+  const std::unique_ptr<MemoryDevice> former = std::move(memory_);
+  memory_ = std::make_unique<MemoryDevice>();
+  SizeChanged();
+}
 
 LRESULT TopicPanePeer::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
@@ -54,6 +58,9 @@ LRESULT TopicPanePeer::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam)
       return 1;  // the picture covers everything
     case WM_SIZE:
       SizeChanged();
+      return 0;
+    case WM_DISPLAYCHANGE:
+      MakeMemoryDevice();
       return 0;
     case WM_GETDLGCODE:
       return NativeControl::HandleMessage(message, wparam, lparam) | DialogCode(lparam);
@@ -198,7 +205,7 @@ void TopicPanePeer::ScrollBarMoved(UINT code) {
 void TopicPanePeer::SizeChanged() {
   RECT inner{};
   GetClientRect(Window(), &inner);
-  pane_.SurfaceChanged(&text_, static_cast<int>(inner.right), static_cast<int>(inner.bottom));
+  pane_.SurfaceChanged(&memory_->text, static_cast<int>(inner.right), static_cast<int>(inner.bottom));
 }
 
 /// A scroll bar that comes and goes would change the width of the text, so it stays and is disabled.
@@ -222,12 +229,12 @@ void TopicPanePeer::PaintWindow() {
   const LONG height = part.bottom - part.top;
   if (width > 0 && height > 0) {
     const ui::win32::OwnedGdiObject<HBITMAP> bitmap(CreateCompatibleBitmap(window, width, height));
-    HGDIOBJ const former = SelectObject(device_.get(), bitmap.get());
-    SetWindowOrgEx(device_.get(), part.left, part.top, nullptr);
+    HGDIOBJ const former = SelectObject(Device(), bitmap.get());
+    SetWindowOrgEx(Device(), part.left, part.top, nullptr);
     Draw(part);
-    BitBlt(window, part.left, part.top, width, height, device_.get(), part.left, part.top, SRCCOPY);
-    SetWindowOrgEx(device_.get(), 0, 0, nullptr);
-    SelectObject(device_.get(), former);
+    BitBlt(window, part.left, part.top, width, height, Device(), part.left, part.top, SRCCOPY);
+    SetWindowOrgEx(Device(), 0, 0, nullptr);
+    SelectObject(Device(), former);
   }
   EndPaint(Window(), &paint);
 }
@@ -236,10 +243,10 @@ void TopicPanePeer::Draw(const RECT& part) {
   const int top = static_cast<int>(part.top);
   const int bottom = static_cast<int>(part.bottom);
   const Palette palette = SystemPalette(pane_.BackColour());
-  text_.FillRect(static_cast<int>(part.left), top, static_cast<int>(part.right - part.left), bottom - top,
-                 palette.background);
+  memory_->text.FillRect(static_cast<int>(part.left), top, static_cast<int>(part.right - part.left),
+                         bottom - top, palette.background);
   const int scroll = pane_.ScrollPosition();
-  DrawLayout(text_, pane_.TheLayout(),
+  DrawLayout(memory_->text, pane_.TheLayout(),
              {.first_px = scroll + top, .end_px = scroll + bottom, .left_px = 0, .top_px = top}, palette,
              pane_.Marked());
   if (GetFocus() == Window()) DrawFocus(scroll);
@@ -247,20 +254,20 @@ void TopicPanePeer::Draw(const RECT& part) {
 
 /// Round the link with the keyboard or, without one, round the pane.
 void TopicPanePeer::DrawFocus(int down_px) const {
-  SetTextColor(device_.get(), GetSysColor(COLOR_WINDOWTEXT));
-  SetBkColor(device_.get(), ui::win32::ResolveColour(pane_.BackColour()));
+  SetTextColor(Device(), GetSysColor(COLOR_WINDOWTEXT));
+  SetBkColor(Device(), ui::win32::ResolveColour(pane_.BackColour()));
   if (pane_.FocusedLink() < 0) {
     RECT inner{};
     GetClientRect(Window(), &inner);
     InflateRect(&inner, -1, -1);
-    DrawFocusRect(device_.get(), &inner);
+    DrawFocusRect(Device(), &inner);
     return;
   }
   for (const Piece& piece : pane_.TheLayout().pieces) {
     if (piece.link != pane_.FocusedLink()) continue;
     const RECT box{piece.left - 1, piece.top - down_px, piece.left + piece.width + 1,
                    piece.top + piece.height - down_px};
-    DrawFocusRect(device_.get(), &box);
+    DrawFocusRect(Device(), &box);
   }
 }
 

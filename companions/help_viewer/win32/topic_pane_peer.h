@@ -1,6 +1,8 @@
 // The window of the pane: paints the topic, and hands keys, wheel, scroll bar and pointer to the model.
 #pragma once
 
+#include <memory>
+
 #include "help_viewer/topic_pane.h"
 #include "os/win32/gdi_text_device.h"
 #include "ui/win32/native_control.h"
@@ -30,10 +32,18 @@ class TopicPanePeer final : public ui::win32::NativeControl {
   void Draw(const RECT& part);
   void DrawFocus(int down_px) const;
 
-  TopicPane& pane_;
   /// Measures at any time; has a bitmap only while the window is painted.
-  ui::win32::OwnedMemoryDevice device_;
-  os::win32::GdiTextDevice text_;
+  struct MemoryDevice {
+    ui::win32::OwnedMemoryDevice device{CreateCompatibleDC(nullptr)};
+    os::win32::GdiTextDevice text{device.get(), os::win32::kScreenFaces};
+  };
+
+  [[nodiscard]] HDC Device() const { return memory_->device.get(); }
+  /// Makes the memory device for the screen as it is now. The topic is laid out on it.
+  void MakeMemoryDevice();
+
+  TopicPane& pane_;
+  std::unique_ptr<MemoryDevice> memory_;
   int pressed_link_ = -1;
   /// What the wheel has turned and not scrolled yet.
   int wheel_rest_ = 0;

@@ -40,8 +40,15 @@ bool SimulatedWindows::OpenIcon(WindowHandle window) {
   if (log_.RecordAndFail("OpenIcon")) return false;
   const auto found = Find(window);
   if (found == windows_.end()) return false;
-  found->is_minimised = false;
+  if (std::exchange(found->is_minimised, false)) found->is_shown = true;
   return true;
+}
+
+bool SimulatedWindows::ShowWindow(WindowHandle window, int way) {
+  if (log_.RecordAndFail("ShowWindow", std::to_string(way))) return false;
+  const auto found = Find(window);
+  if (found == windows_.end()) return false;
+  return std::exchange(found->is_shown, true);
 }
 
 bool SimulatedWindows::SetForegroundWindow(WindowHandle window) {
@@ -58,7 +65,7 @@ bool SimulatedWindows::PostMessageA(WindowHandle window, std::uint32_t message) 
 }
 
 WindowHandle SimulatedWindows::Open(const std::string& window_class, const std::string& title) {
-  windows_.insert(windows_.begin(), {next_handle_, window_class, title, false});
+  windows_.insert(windows_.begin(), {next_handle_, window_class, title});
   return next_handle_++;
 }
 
@@ -73,6 +80,13 @@ void SimulatedWindows::Minimise(WindowHandle window) { Find(window)->is_minimise
 bool SimulatedWindows::IsMinimised(WindowHandle window) const {
   return std::any_of(windows_.begin(), windows_.end(),
                      [window](const Window& entry) { return entry.handle == window && entry.is_minimised; });
+}
+
+void SimulatedWindows::Hide(WindowHandle window) { Find(window)->is_shown = false; }
+
+bool SimulatedWindows::IsShown(WindowHandle window) const {
+  return std::any_of(windows_.begin(), windows_.end(),
+                     [window](const Window& entry) { return entry.handle == window && entry.is_shown; });
 }
 
 void SimulatedWindows::PlaceDirectlyBehind(WindowHandle window, WindowHandle front) {

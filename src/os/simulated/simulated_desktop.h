@@ -22,6 +22,7 @@ class SimulatedWindows final : public Windows {
   WindowHandle FindWindowA(const char* window_class, const char* title) override;
   WindowHandle GetWindow(WindowHandle window, std::uint32_t relation) override;
   bool OpenIcon(WindowHandle window) override;
+  bool ShowWindow(WindowHandle window, int way) override;
   bool SetForegroundWindow(WindowHandle window) override;
   /// A window that is asked to close does so at once.
   bool PostMessageA(WindowHandle window, std::uint32_t message) override;
@@ -33,6 +34,8 @@ class SimulatedWindows final : public Windows {
   void Minimise(WindowHandle window);
   void PlaceDirectlyBehind(WindowHandle window, WindowHandle front);
   [[nodiscard]] bool IsMinimised(WindowHandle window) const;
+  void Hide(WindowHandle window);
+  [[nodiscard]] bool IsShown(WindowHandle window) const;
   [[nodiscard]] WindowHandle Foreground() const { return foreground_; }
 
  private:
@@ -40,7 +43,8 @@ class SimulatedWindows final : public Windows {
     WindowHandle handle;
     std::string window_class;
     std::string title;
-    bool is_minimised;
+    bool is_minimised = false;
+    bool is_shown = true;
   };
   [[nodiscard]] std::vector<Window>::iterator Find(WindowHandle window);
 

@@ -21,15 +21,19 @@ const Drive* SimulatedDrives::Find(const std::string& root) const {
   return found == drives_.end() ? nullptr : &found->second;
 }
 
+const Drive* SimulatedDrives::FindWhole(const std::string& root) const {
+  return root.ends_with('\\') ? Find(root) : nullptr;
+}
+
 std::int32_t SimulatedDrives::GetDiskFreeSpaceExA(const char* root, DiskBytes& bytes) {
-  const Drive* const drive = Find(root);
+  const Drive* const drive = FindWhole(root);
   if (log_.RecordAndFail("GetDiskFreeSpaceExA", root) || !has_extended_query_ || drive == nullptr) return 0;
   bytes = {.available = drive->free_bytes, .total = drive->total_bytes, .total_free = drive->free_bytes};
   return 1;
 }
 
 std::int32_t SimulatedDrives::GetDiskFreeSpaceA(const char* root, DiskClusters& clusters) {
-  const Drive* const drive = Find(root);
+  const Drive* const drive = FindWhole(root);
   if (log_.RecordAndFail("GetDiskFreeSpaceA", root) || drive == nullptr) return 0;
   constexpr std::uint64_t kClusterBytes = kBytesPerSector * kSectorsPerCluster;
   clusters = {.sectors_per_cluster = kSectorsPerCluster,

@@ -37,6 +37,9 @@ class SimulatedDrives final : public Drives {
   /// The drive that a root names, in either case, with or without its backslash.
   [[nodiscard]] const Drive* Find(const std::string& root) const;
 
+  /// The same, with its backslash only.
+  [[nodiscard]] const Drive* FindWhole(const std::string& root) const;
+
   CallLog& log_;
   std::map<char, Drive> drives_;
   bool has_extended_query_ = true;

@@ -151,6 +151,16 @@ std::string SimulatedMachine::ModuleFileName() {
   return log_.RecordAndFail("ModuleFileName") ? std::string() : module_file_name_;
 }
 
+void SimulatedMachine::AddProgram(const std::string& name) {
+  programs_.insert(base::UpperAscii(name));
+  if (name.find('\\') != std::string::npos) files_.Write(name, "MZ");
+}
+
+void SimulatedMachine::RemoveProgram(const std::string& name) {
+  programs_.erase(base::UpperAscii(name));
+  files_.Erase(name);
+}
+
 std::int32_t SimulatedMachine::CreateProcessA(const std::string& command_line) {
   if (log_.RecordAndFail("CreateProcessA", command_line)) return kErrorFileNotFound;
   const bool is_quoted = command_line.starts_with('"');

@@ -110,6 +110,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
     windows_.PlaceDirectlyBehind(window, front);
   }
   [[nodiscard]] bool IsMinimised(WindowHandle window) const { return windows_.IsMinimised(window); }
+  void HideWindow(WindowHandle window) { windows_.Hide(window); }
+  [[nodiscard]] bool IsWindowShown(WindowHandle window) const { return windows_.IsShown(window); }
   [[nodiscard]] WindowHandle ForegroundWindow() const { return windows_.Foreground(); }
 
   // Message boxes.
@@ -144,9 +146,9 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   void SetModuleFileName(const std::string& path) { module_file_name_ = path; }
 
   // Other programs, by the beginning of their command line up to a blank, or by what stands in quotation
-  // marks there. The disk defragmenter is there from the start.
-  void AddProgram(const std::string& name) { programs_.insert(base::UpperAscii(name)); }
-  void RemoveProgram(const std::string& name) { programs_.erase(base::UpperAscii(name)); }
+  // marks there. A name with a folder is also a file. The disk defragmenter is there from the start.
+  void AddProgram(const std::string& name);
+  void RemoveProgram(const std::string& name);
   /// The command lines that started one, in order.
   [[nodiscard]] const std::vector<std::string>& StartedPrograms() const { return started_programs_; }
 

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include <string>
+#include <string_view>
 
 namespace qdix::os::win32 {
 
@@ -16,35 +16,45 @@ ExtendedQuery FindExtendedQuery() {
       reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("kernel32.dll"), "GetDiskFreeSpaceExA")));
 }
 
-/// The classic query wants a root with its backslash and takes a bare "C:" for the current folder there, or
-/// for nothing at all, by the system.
-std::string WithBackslash(const char* root) {
-  std::string completed = root;
-  if (completed.size() == 2 && completed[1] == ':') completed += '\\';
-  return completed;
-}
+/// Later systems take a bare "C:" for the current folder there.
+bool IsWhole(std::string_view root) { return root.ends_with('\\'); }
+
+/// Keeps the system from asking the user for a disk. Only for the time of a question: programs started from
+/// here inherit the mode.
+class NoDiskRequest {
+ public:
+  NoDiskRequest() : former_(SetErrorMode(SEM_FAILCRITICALERRORS)) {}
+  NoDiskRequest(const NoDiskRequest&) = delete;
+  NoDiskRequest& operator=(const NoDiskRequest&) = delete;
+  ~NoDiskRequest() { SetErrorMode(former_); }
+
+ private:
+  UINT former_;
+};
 
 }  // namespace
 
 std::int32_t Win32Drives::GetDiskFreeSpaceExA(const char* root, DiskBytes& bytes) {
   const ExtendedQuery query = FindExtendedQuery();
-  if (query == nullptr) return 0;
+  if (query == nullptr || !IsWhole(root)) return 0;
+  const NoDiskRequest quiet;
   ULARGE_INTEGER available{};
   ULARGE_INTEGER total{};
   ULARGE_INTEGER total_free{};
-  const BOOL result = query(root, &available, &total, &total_free);
-  if (result == 0) return 0;
+  if (query(root, &available, &total, &total_free) == 0) return 0;
   bytes = {.available = available.QuadPart, .total = total.QuadPart, .total_free = total_free.QuadPart};
   return 1;
 }
 
 std::int32_t Win32Drives::GetDiskFreeSpaceA(const char* root, DiskClusters& clusters) {
+  if (!IsWhole(root)) return 0;
+  const NoDiskRequest quiet;
   DWORD sectors_per_cluster = 0;
   DWORD bytes_per_sector = 0;
   DWORD free_clusters = 0;
   DWORD total_clusters = 0;
-  if (::GetDiskFreeSpaceA(WithBackslash(root).c_str(), &sectors_per_cluster, &bytes_per_sector,
-                          &free_clusters, &total_clusters) == 0) {
+  if (::GetDiskFreeSpaceA(root, &sectors_per_cluster, &bytes_per_sector, &free_clusters, &total_clusters) ==
+      0) {
     return 0;
   }
   clusters = {.sectors_per_cluster = sectors_per_cluster,
@@ -61,6 +71,7 @@ std::uint32_t Win32Drives::GetLogicalDriveStringsA(std::uint32_t room, char* buf
 }
 
 std::int32_t Win32Drives::GetVolumeInformationA(const char* root, std::uint32_t& flags) {
+  const NoDiskRequest quiet;
   DWORD found_flags = 0;
   if (::GetVolumeInformationA(root, nullptr, 0, nullptr, nullptr, &found_flags, nullptr, 0) == 0) return 0;
   flags = found_flags;

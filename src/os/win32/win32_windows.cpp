@@ -6,7 +6,7 @@ namespace qdix::os::win32 {
 
 namespace {
 
-static_assert(kGwHwndPrev == GW_HWNDPREV && kWmClose == WM_CLOSE);
+static_assert(kGwHwndPrev == GW_HWNDPREV && kSwShowNa == SW_SHOWNA && kWmClose == WM_CLOSE);
 
 HWND Native(WindowHandle window) { return reinterpret_cast<HWND>(window); }
 
@@ -21,6 +21,10 @@ WindowHandle Win32Windows::GetWindow(WindowHandle window, std::uint32_t relation
 }
 
 bool Win32Windows::OpenIcon(WindowHandle window) { return ::OpenIcon(Native(window)) != FALSE; }
+
+bool Win32Windows::ShowWindow(WindowHandle window, int way) {
+  return ::ShowWindow(Native(window), way) != FALSE;
+}
 
 bool Win32Windows::SetForegroundWindow(WindowHandle window) {
   return ::SetForegroundWindow(Native(window)) != FALSE;

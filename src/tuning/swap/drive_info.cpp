@@ -43,9 +43,10 @@ bool DriveInfo::HasDiskFreeSpaceEx() {
 }
 
 std::int32_t DriveInfo::GetDiskSpace(const std::string& root, DriveSpaceInfo& info) {
-  if (!use_disk_free_space_ex_) return QueryClusters(root, info).Ok() ? 1 : 0;
+  const std::string whole_root = root.ends_with(':') ? root + '\\' : root;
+  if (!use_disk_free_space_ex_) return QueryClusters(whole_root, info).Ok() ? 1 : 0;
   os::DiskBytes bytes;
-  if (drives_.GetDiskFreeSpaceExA(root.c_str(), bytes) != 1) return 0;
+  if (drives_.GetDiskFreeSpaceExA(whole_root.c_str(), bytes) != 1) return 0;
   info.total_bytes = static_cast<std::int64_t>(bytes.total);
   info.free_bytes = static_cast<std::int64_t>(bytes.total_free);
   info.available_bytes = static_cast<std::int64_t>(bytes.available);

@@ -32,8 +32,8 @@ class DriveInfo {
   /// Which of the two queries GetDiskSpace makes; the classic one at first.
   void SetUseDiskFreeSpaceEx(bool use) { use_disk_free_space_ex_ = use; }
 
-  /// 1 where the volume could be asked, else 0. The classic query counts in 32 bits: a volume of 2 GB and
-  /// more gives 0, and the record stays as far as it was filled.
+  /// 1 where the volume could be asked, else 0. The root may lack its backslash. The classic query counts in
+  /// 32 bits: a volume of 2 GB and more gives 0, and the record stays as far as it was filled.
   std::int32_t GetDiskSpace(const std::string& root, DriveSpaceInfo& info);
 
   /// Free space in megabytes of 1,024,000 bytes, with fractions; 0 where it cannot be told.

@@ -33,6 +33,17 @@ BitmapCanvas::BitmapCanvas(int width_px, int height_px) : width_px_(width_px), h
   if (bitmap_ != nullptr && device_ != nullptr) SelectObject(device_.get(), bitmap_.get());
 }
 
+bool BitmapCanvas::FollowScreen() {
+  BitmapCanvas renewed(width_px_, height_px_);
+  if (bitmap_ == nullptr || renewed.bitmap_ == nullptr ||
+      BitBlt(renewed.Device(), 0, 0, width_px_, height_px_, Device(), 0, 0, SRCCOPY) == 0) {
+    return false;
+  }
+  device_.swap(renewed.device_);
+  bitmap_.swap(renewed.bitmap_);
+  return true;
+}
+
 void BitmapCanvas::CopyOntoSelf(int to_x, int to_y, int width, int height, int from_x, int from_y) {
   const CopySpan across(to_x, from_x, width, width_px_);
   const CopySpan down(to_y, from_y, height, height_px_);

@@ -14,6 +14,10 @@ class BitmapCanvas final : public Canvas {
   BitmapCanvas& operator=(const BitmapCanvas&) = delete;
   ~BitmapCanvas() override = default;
 
+  /// The screen has other colours now: goes over to a bitmap for them, with the same picture. False where
+  /// that cannot be, and nothing changes.
+  [[nodiscard]] bool FollowScreen();
+
   [[nodiscard]] HDC Device() const { return device_.get(); }
 
   [[nodiscard]] int Width() const override { return width_px_; }

@@ -54,6 +54,10 @@ LRESULT DrawingPeer::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       return 0;
     case WM_ERASEBKGND:
       return 1;  // the canvas covers everything
+    case WM_DISPLAYCHANGE:
+      if (!canvas_.has_value() || !canvas_->FollowScreen()) MakeCanvas();
+      PixelsChanged();
+      return 0;
     case WM_SYSCOLORCHANGE:
       MakeCanvas();
       PixelsChanged();

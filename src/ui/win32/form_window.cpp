@@ -215,17 +215,19 @@ std::optional<LRESULT> FormWindow::HandleLife(UINT message, WPARAM wparam, LPARA
       PointerMoved(wparam, lparam);
       return 0;
     case WM_SIZE:
-      SizeChanged(wparam);
+      FollowWindow();
       bounds_.Resized(lparam);
       return 0;
     case WM_WINDOWPOSCHANGED:
       if ((reinterpret_cast<const WINDOWPOS*>(lparam)->flags & SWP_SHOWWINDOW) != 0) maker_.MakeDue();
       KeepApplicationWindowBehind();
       bounds_.Moved();
+      FollowWindow();
       return std::nullopt;
     case WM_GETMINMAXINFO:
       bounds_.Limit(*reinterpret_cast<MINMAXINFO*>(lparam));
       return std::nullopt;
+    case WM_DISPLAYCHANGE:
     case WM_SYSCOLORCHANGE:
       ForwardToControls(message, wparam, lparam);
       return 0;
@@ -252,11 +254,14 @@ void FormWindow::KeepApplicationWindowBehind() const {
                SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_NOSENDCHANGING);
 }
 
-void FormWindow::SizeChanged(WPARAM kind) {
-  if (!form_.Shown()) return;
-  if (kind == SIZE_MINIMIZED) form_.UserChangedState(WindowState::kMinimised);
-  if (kind == SIZE_MAXIMIZED) form_.UserChangedState(WindowState::kMaximised);
-  if (kind == SIZE_RESTORED) form_.UserChangedState(WindowState::kNormal);
+/// A hidden window may be in another state than the form, whose state it takes when it is shown.
+void FormWindow::FollowWindow() {
+  const bool shown = IsWindowVisible(main_.get()) != 0;
+  if (shown) {
+    const WindowState restored = IsZoomed(main_.get()) != 0 ? WindowState::kMaximised : WindowState::kNormal;
+    form_.UserChangedState(IsIconic(main_.get()) != 0 ? WindowState::kMinimised : restored);
+  }
+  form_.UserChangedVisible(shown);
 }
 
 /// Also the call back of an icon in the notification area, whose position carries a number and not a place.

@@ -63,7 +63,8 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
 
   void ShowOrHide();
   void TakeWindowState();
-  void SizeChanged(WPARAM kind);
+  /// Whoever showed, hid, minimised or restored the window, another program perhaps: the form follows.
+  void FollowWindow();
   void PointerMoved(WPARAM buttons, LPARAM point);
   void EndSession();
   void ForwardToControls(UINT message, WPARAM wparam, LPARAM lparam) const;

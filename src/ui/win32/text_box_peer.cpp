@@ -35,9 +35,14 @@ LRESULT TextBoxPeer::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   return NativeControl::HandleMessage(message, wparam, lparam);
 }
 
-/// A disabled box asks for its colours as a label does and keeps the system's disabled look.
+/// A disabled box asks for its colours as a label does. It keeps the system's disabled look unless it was
+/// given a colour of its own.
 HBRUSH TextBoxPeer::Paint(UINT message, HDC device) {
-  return message == WM_CTLCOLOREDIT ? NativeControl::Paint(message, device) : nullptr;
+  const bool is_disabled = message == WM_CTLCOLORSTATIC;
+  if (is_disabled && text_box_.BackColour() == kWindowBackground) return nullptr;
+  HBRUSH const background = NativeControl::Paint(message, device);
+  if (is_disabled) SetTextColor(device, GetSysColor(COLOR_GRAYTEXT));
+  return background;
 }
 
 void TextBoxPeer::ValueChanged() {

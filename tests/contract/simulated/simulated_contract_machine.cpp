@@ -35,6 +35,8 @@ class SimulatedContractMachine final : public Machine {
   }
   void Minimise(os::WindowHandle window) override { machine_.Minimise(window); }
   bool IsMinimised(os::WindowHandle window) override { return machine_.IsMinimised(window); }
+  void Hide(os::WindowHandle window) override { machine_.HideWindow(window); }
+  bool IsShown(os::WindowHandle window) override { return machine_.IsWindowShown(window); }
 
   void DoInNextPump(std::function<void()> action) override {
     machine_.OnPump([this, action = std::move(action)](int) {

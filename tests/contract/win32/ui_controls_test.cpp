@@ -188,6 +188,24 @@ TEST_F(UiControls, BackColoursAreThoseOfTheModel) {
   EXPECT_EQ(BackgroundOf(demo, demo.label, WM_CTLCOLORSTATIC), GetSysColor(COLOR_BTNFACE));
 }
 
+TEST_F(UiControls, DisabledTextBoxHasTheColourThatItWasGivenAndGreyText) {
+  demo.text.SetBackColour(ui::kMenuBackground);
+  demo.text.SetEnabled(false);
+  HWND const native = demo.Native(demo.text);
+  HDC const device = GetDC(native);
+  const LRESULT brush = SendMessageA(GetParent(native), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(device),
+                                     reinterpret_cast<LPARAM>(native));
+  EXPECT_EQ(reinterpret_cast<HBRUSH>(brush), GetSysColorBrush(COLOR_MENU));
+  EXPECT_EQ(GetBkColor(device), GetSysColor(COLOR_MENU));
+  EXPECT_EQ(GetTextColor(device), GetSysColor(COLOR_GRAYTEXT));
+  ReleaseDC(native, device);
+}
+
+TEST_F(UiControls, DisabledTextBoxWithoutAColourOfItsOwnKeepsTheSystemsLook) {
+  demo.text.SetEnabled(false);
+  EXPECT_NE(BackgroundOf(demo, demo.text, WM_CTLCOLORSTATIC), GetSysColor(COLOR_WINDOW));
+}
+
 TEST_F(UiControls, ListBoxFollowsBothWays) {
   OpenPage(1);
   demo.list.OnClick = events.AsHandler();
@@ -409,63 +427,6 @@ TEST_F(UiControls, PagesStandInTheDisplayAreaAboveTheStrip) {
   for (HWND above = GetWindow(strip, GW_HWNDPREV); above != page; above = GetWindow(above, GW_HWNDPREV)) {
     ASSERT_NE(above, nullptr) << "the page is below the strip";
   }
-}
-
-TEST_F(UiControls, DrawingControlShowsItsCanvasInsideItsBorder) {
-  OpenPage(2);
-  demo.Handle();
-  ASSERT_NE(demo.sunken.Canvas(), nullptr);
-  EXPECT_EQ(demo.sunken.Canvas()->Width(), 100);
-  EXPECT_EQ(demo.sunken.Canvas()->Height(), 20);
-  RECT outer{};
-  GetWindowRect(demo.Native(demo.sunken), &outer);
-  EXPECT_EQ(outer.right - outer.left, 104);
-  EXPECT_EQ(outer.bottom - outer.top, 24);
-  EXPECT_EQ(demo.flat.Canvas()->Width(), 60 * 6 / 4 - 2);
-  const auto pixel = [&](int x, int y) {
-    HDC const device = GetDC(demo.Native(demo.sunken));
-    const COLORREF colour = GetPixel(device, x, y);
-    ReleaseDC(demo.Native(demo.sunken), device);
-    return colour;
-  };
-  EXPECT_EQ(pixel(50, 10), PaintedControl::kFill);
-  demo.sunken.PushBar();
-  demo.sunken.PushBar();
-  demo.Handle();
-  EXPECT_EQ(pixel(99, 0), PaintedControl::kBar);
-  EXPECT_EQ(pixel(96, 19), PaintedControl::kBar);
-  EXPECT_EQ(pixel(95, 19), PaintedControl::kFill);
-}
-
-TEST_F(UiControls, CanvasIsCutAtItsEdgesAndTakesAnyCoordinates) {
-  ui::Canvas& canvas = *demo.flat.Canvas();
-  constexpr int kFar = 2000000000;
-  canvas.FillBox(-kFar, -kFar, kFar, kFar, 0x00112233U);
-  canvas.FillBorderedBox(5, 5, 2, 2, 0x00FFFFFFU, 0);
-  canvas.CopyOntoSelf(-kFar, 0, kFar, kFar, kFar, 0);
-  canvas.CopyOntoSelf(-1, 0, canvas.Width(), canvas.Height(), 0, 0);
-  OpenPage(2);
-  demo.Handle();
-  HDC const device = GetDC(demo.Native(demo.flat));
-  EXPECT_EQ(GetPixel(device, 0, 0), 0x00112233U);
-  EXPECT_EQ(GetPixel(device, 1, 2), 0U) << "moved one to the left";
-  EXPECT_EQ(GetPixel(device, 2, 3), 0x00FFFFFFU);
-  EXPECT_EQ(GetPixel(device, 4, 5), 0U);
-  EXPECT_EQ(GetPixel(device, 5, 5), 0x00112233U);
-  ReleaseDC(demo.Native(demo.flat), device);
-}
-
-TEST_F(UiControls, DrawingControlDrawsAnewWhenSystemColoursOrItsBorderChange) {
-  demo.flat.PushBar();
-  SendMessageA(demo.Main(), WM_SYSCOLORCHANGE, 0, 0);
-  OpenPage(2);
-  demo.Handle();
-  HDC const device = GetDC(demo.Native(demo.flat));
-  EXPECT_EQ(GetPixel(device, demo.flat.Canvas()->Width() - 1, 0), PaintedControl::kFill);
-  ReleaseDC(demo.Native(demo.flat), device);
-  const int width = demo.flat.Canvas()->Width();
-  demo.flat.SetBorder(ui::BorderStyle::kThreeD);
-  EXPECT_EQ(demo.flat.Canvas()->Width(), width - 2);
 }
 
 BOOL CALLBACK FindToolTips(HWND window, LPARAM found) {

@@ -89,6 +89,62 @@ TEST(FormWindow, StateThatTheUserChangesArrivesInTheModel) {
   EXPECT_EQ(demo.form.State(), ui::WindowState::kNormal);
 }
 
+/// As another program does: no call of the form's own.
+TEST(FormWindow, WindowThatOthersShowHideAndMinimiseIsFollowedByTheForm) {
+  DemoWindow demo;
+  EventCount activated;
+  demo.form.OnActivate = activated.AsHandler();
+  ShowWindow(demo.Main(), SW_SHOWNA);
+  EXPECT_TRUE(demo.form.Shown());
+  EXPECT_EQ(activated.Count(), 1);
+  EXPECT_TRUE(demo.go.Reachable());
+  EXPECT_NE(demo.Native(demo.go), nullptr);
+  ShowWindow(demo.Main(), SW_MINIMIZE);
+  EXPECT_EQ(demo.form.State(), ui::WindowState::kMinimised);
+  ShowWindow(demo.Main(), SW_HIDE);
+  EXPECT_FALSE(demo.form.Shown());
+  OpenIcon(demo.Main());
+  EXPECT_TRUE(demo.form.Shown());
+  EXPECT_EQ(demo.form.State(), ui::WindowState::kNormal);
+  EXPECT_EQ(activated.Count(), 2);
+  SetWindowPos(demo.Main(), nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_HIDEWINDOW);
+  EXPECT_FALSE(demo.form.Shown());
+  ShowWindow(demo.Main(), SW_SHOW);
+  EXPECT_TRUE(demo.form.Shown());
+  EXPECT_EQ(activated.Count(), 3);
+}
+
+TEST(FormWindow, MinimisedWindowThatTheFormHidWorksWhenAnotherProgramRestoresIt) {
+  DemoWindow demo;
+  demo.form.Show();
+  demo.form.SetState(ui::WindowState::kMinimised);
+  demo.form.Hide();
+  OpenIcon(demo.Main());
+  EXPECT_TRUE(IsWindowVisible(demo.Main()));
+  EXPECT_TRUE(demo.go.Reachable());
+  demo.form.Hide();
+  EXPECT_FALSE(IsWindowVisible(demo.Main())) << "the form's own calls go on working";
+  demo.form.Show();
+  EXPECT_TRUE(IsWindowVisible(demo.Main()));
+  EXPECT_FALSE(IsIconic(demo.Main()));
+}
+
+TEST(FormWindow, OwnCallsActivateOnce) {
+  DemoWindow demo;
+  EventCount activated;
+  demo.form.OnActivate = activated.AsHandler();
+  demo.form.SetState(ui::WindowState::kMinimised);
+  demo.form.Show();
+  EXPECT_EQ(activated.Count(), 1);
+  EXPECT_EQ(demo.form.State(), ui::WindowState::kMinimised);
+  demo.form.SetState(ui::WindowState::kNormal);
+  demo.form.Show();
+  EXPECT_EQ(activated.Count(), 1);
+  demo.form.Hide();
+  demo.form.Show();
+  EXPECT_EQ(activated.Count(), 2);
+}
+
 struct Pointer {
   int button = -1;
   int shift = -1;

@@ -108,6 +108,12 @@ void Win32ContractMachine::Minimise(os::WindowHandle window) { ShowWindow(Native
 
 bool Win32ContractMachine::IsMinimised(os::WindowHandle window) { return IsIconic(Native(window)) != FALSE; }
 
+void Win32ContractMachine::Hide(os::WindowHandle window) { ShowWindow(Native(window), SW_HIDE); }
+
+bool Win32ContractMachine::IsShown(os::WindowHandle window) {
+  return IsWindowVisible(Native(window)) != FALSE;
+}
+
 void Win32ContractMachine::DoInNextPump(std::function<void()> action) {
   auto* owned = new std::function<void()>(std::move(action));
   PostMessageA(hidden_, kRunAction, 0, reinterpret_cast<LPARAM>(owned));

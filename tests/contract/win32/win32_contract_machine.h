@@ -29,6 +29,8 @@ class Win32ContractMachine final : public Machine {
   void PlaceDirectlyBehind(os::WindowHandle window, os::WindowHandle front) override;
   void Minimise(os::WindowHandle window) override;
   bool IsMinimised(os::WindowHandle window) override;
+  void Hide(os::WindowHandle window) override;
+  bool IsShown(os::WindowHandle window) override;
   void DoInNextPump(std::function<void()> action) override;
   void AnswerNextBox(int button) override;
   void StopInNextBox() override;

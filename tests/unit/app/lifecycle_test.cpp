@@ -107,6 +107,25 @@ TEST_P(SecondCopyByClass, RestoresAndRaisesTheFirstAndEnds) {
 INSTANTIATE_TEST_SUITE_P(Classes, SecondCopyByClass,
                          testing::Values("ThunderRTMain", "ThunderRT5Main", "ThunderRT6Main"));
 
+TEST_F(SecondCopy, ShowsAFirstThatIsMerelyHidden) {
+  const os::WindowHandle behind = rig.machine.OpenWindow("ThunderRT6Main", "Q-DIX");
+  rig.machine.PlaceDirectlyBehind(behind, first_window);
+  rig.machine.HideWindow(first_window);
+  rig.Start();
+  EXPECT_TRUE(rig.machine.IsWindowShown(first_window));
+  EXPECT_EQ(rig.machine.ForegroundWindow(), first_window);
+  EXPECT_TRUE(rig.machine.Boxes().empty());
+}
+
+TEST_F(SecondCopy, RestoresThenShowsThenRaises) {
+  rig.machine.PlaceDirectlyBehind(rig.machine.OpenWindow("ThunderRT6Main", "Q-DIX"), first_window);
+  rig.Start();
+  const Texts& calls = rig.machine.Calls();
+  const auto found = std::find(calls.begin(), calls.end(), "GetWindow(3)");
+  ASSERT_GE(calls.end() - found, 4);
+  EXPECT_EQ(Texts(found + 1, found + 4), (Texts{"OpenIcon()", "ShowWindow(8)", "SetForegroundWindow()"}));
+}
+
 TEST_F(SecondCopy, TriesTheClassesInOrderAndStopsAtTheFirstFound) {
   rig.machine.OpenWindow("ThunderRT5Main", "Q-DIX");
   rig.Start();
@@ -201,6 +220,65 @@ TEST_F(Lifecycle, EndOfTheSessionInABoxOfTheLoadLeavesNoIconAndStoresNothing) {
   EXPECT_TRUE(rig.program->Window().Unloaded());
   EXPECT_EQ(rig.machine.TrayIconCount(), 0);
   EXPECT_EQ(WrittenValues(), Texts{});
+}
+
+/// What the system was asked from the given call on.
+Texts CallsAfter(const os::SimulatedMachine& machine, std::size_t first) {
+  return {machine.Calls().begin() + static_cast<std::ptrdiff_t>(first), machine.Calls().end()};
+}
+
+TEST(LoadOfAFirstRun, GoesNoFurtherWhenTheSessionEndsInTheTip) {
+  ProgramRig rig;
+  rig.Store("Settings", "LastTab", "1");
+  std::size_t at_the_end = 0;
+  rig.machine.WhileBoxIsOpen([&] {
+    rig.program->EndSession();
+    at_the_end = rig.machine.Calls().size();
+  });
+  rig.Start();
+  ASSERT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_EQ(rig.machine.Boxes()[0].title, "Quondix Tip");
+  EXPECT_EQ(CallsAfter(rig.machine, at_the_end), Texts{});
+  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_FALSE(rig.program->Window().Shown());
+}
+
+TEST_F(Lifecycle, EndOfTheSessionInTheBoxOfACloseSavesAndEndsAtOnce) {
+  rig.Store("Settings", "AutoCPU", "70");
+  auto& program = Start();
+  program.Automatic().Text9.SetText("4");
+  program.TimeIntervals().Text10.SetText("33");
+  std::size_t at_the_end = 0;
+  rig.machine.WhileBoxIsOpen([&] {
+    EXPECT_EQ(rig.Stored("Settings", "LastTab"), std::nullopt);
+    program.EndSession();
+    EXPECT_TRUE(program.Window().Unloaded()) << "the process may stop now";
+    EXPECT_EQ(rig.Stored("Settings", "TimeCPU"), "33");
+    EXPECT_EQ(rig.Stored("Settings", "LastTab"), "1") << "the refusal opened the tab of the limit";
+    EXPECT_EQ(rig.machine.TrayIconCount(), 0);
+    at_the_end = rig.machine.Calls().size();
+  });
+  program.Window().Unload();
+  EXPECT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_EQ(CallsAfter(rig.machine, at_the_end), Texts{});
+  EXPECT_EQ(rig.Stored("Settings", "AutoCPU"), "70");
+}
+
+TEST_F(Lifecycle, EndOfTheSessionInTheSecondBoxOfACloseSavesAndEndsAtOnce) {
+  auto& program = Start();
+  program.Automatic().Text9.SetText("33");
+  program.TimeIntervals().Text10.SetText("4");
+  std::size_t at_the_end = 0;
+  rig.machine.WhileBoxIsOpen([&] {
+    program.EndSession();
+    EXPECT_EQ(rig.Stored("Settings", "LastTab"), "2");
+    at_the_end = rig.machine.Calls().size();
+  });
+  program.Window().Unload();
+  EXPECT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_EQ(CallsAfter(rig.machine, at_the_end), Texts{});
+  EXPECT_EQ(rig.Stored("Settings", "AutoCPU"), "33");
+  EXPECT_EQ(rig.Stored("Settings", "TimeCPU"), std::nullopt);
 }
 
 TEST_F(Lifecycle, CloseHappensOnce) {

@@ -85,6 +85,21 @@ TEST_F(Tray, DoubleClickRestoresAMinimisedWindow) {
   EXPECT_EQ(rig.program->Window().State(), ui::WindowState::kNormal);
 }
 
+TEST_F(Tray, WindowThatAnotherProgramBringsBackWorksAsAfterDisplay) {
+  auto& program = *rig.program;
+  program.Quondix().Command3.Press();
+  program.Quondix().Command4.Press();
+  program.TheTrayMenu().mnuTrayHide.Choose();
+  program.Window().UserChangedState(ui::WindowState::kNormal);
+  program.Window().UserChangedVisible(true);
+  EXPECT_TRUE(program.MainWindow().Timer1.Enabled()) << "every activation starts the display";
+  program.MainWindow().SSTab1.ChooseTab(screens::kStartupTab);
+  EXPECT_EQ(program.MainWindow().SSTab1.Tab(), screens::kStartupTab);
+  program.Window().UserChangedVisible(false);
+  program.MainWindow().SSTab1.ChooseTab(screens::kAboutTab);
+  EXPECT_EQ(program.MainWindow().SSTab1.Tab(), screens::kStartupTab) << "no hand reaches a hidden window";
+}
+
 TEST_F(Tray, RightButtonOpensTheMenuAndALeftClickDoesNothing) {
   MouseOnIcon(kLeftButton);
   EXPECT_TRUE(menus.shown.empty());
@@ -136,6 +151,14 @@ TEST_F(TrayAtLogOn, RefusedAddIsAskedForAgainAtTheNextRefreshAndThenNoMore) {
   const std::size_t asked = rig.machine.TrayRequests().size();
   rig.AdvanceMs(10 * kRefreshMs);
   EXPECT_EQ(rig.machine.TrayRequests().size(), asked);
+}
+
+TEST_F(TrayAtLogOn, RefusedAddIsAskedForAgainWhateverTheDisplayMeets) {
+  rig.machine.SetMemory(0, 512 * kMegabyte, 0x7FFFFFFFU, 0xFFFFFFFEU);  // reported in a box, and not shown
+  int icons_in_box = -1;
+  rig.machine.WhileBoxIsOpen([&] { icons_in_box = rig.machine.TrayIconCount(); });
+  rig.AdvanceMs(kRefreshMs);
+  EXPECT_EQ(icons_in_box, 1);
 }
 
 TEST_F(TrayAtLogOn, RefusedAddIsAskedForAgainAlsoWhilePaused) {

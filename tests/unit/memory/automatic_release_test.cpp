@@ -160,6 +160,27 @@ TEST_F(AutomaticRelease, CompanionThatOnlyStandsThereDisturbsNothing) {
   EXPECT_EQ(Count(), "1");
 }
 
+class ReleaseEndedInABox : public AutomaticRelease, public testing::WithParamInterface<double> {};
+
+TEST_P(ReleaseEndedInABox, NeitherCountsNorTakesMemoryAgain) {
+  rig.Store("Settings", "TryTimes", "3");
+  rig.Start();
+  rig.machine.OnPump([this](int pump) {
+    if (pump != 8000) return;
+    rig.machine.SetMemory(64 * kMegabyte, static_cast<std::uint32_t>(GetParam() * 1024000), 0x7FFFFFFFU,
+                          0xFFFFFFFEU);  // the question before the second attempt reports an error
+  });
+  rig.machine.WhileBoxIsOpen([this] { rig.program->EndSession(); });
+  RunChecks(1);
+  ASSERT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_EQ(Allocations(), Sizes{kBytesOf24Mb});
+  EXPECT_EQ(Count(), "none");
+  EXPECT_TRUE(CounterText().starts_with("Auto Detection feature has detected and released RAM 0 times"))
+      << CounterText();
+}
+
+INSTANTIATE_TEST_SUITE_P(AvailableMb, ReleaseEndedInABox, testing::Values(5, 24.01));
+
 TEST_F(AutomaticRelease, EveryAttemptLooksAfreshAndStopsWhenEnoughIsFree) {
   rig.Store("Settings", "TryTimes", "3");
   rig.Start();

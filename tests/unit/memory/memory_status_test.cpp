@@ -1,6 +1,8 @@
 // The memory figures and how they are shown.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/support/program_rig.h"
 
 namespace qdix::tests {
@@ -191,10 +193,59 @@ TEST_P(MisreadMemory, SaysSoInTheCaptionAndGoesOn) {
   EXPECT_TRUE(rig.machine.Boxes().empty());
 }
 
+TEST_P(MisreadMemory, EndsTheTickWithoutPercentageAndReadingOfTheProcessor) {
+  ProgramRig rig;
+  rig.machine.SetMemory(GetParam().total, GetParam().available, 1000, 1000);
+  rig.machine.SetCpuLoad(50);
+  rig.Start();
+  rig.machine.SetCpuLoad(90);
+  const std::string percent = rig.program->Quondix().lblPercentFree.Caption();
+  const std::string usage = rig.program->Quondix().lblUSAGE.Caption();
+  const std::int32_t average = rig.program->Cpu().AverageCpuUsage();
+  const std::size_t before = rig.machine.QueriedValueNames().size();
+  rig.AdvanceMs(8 * kRefreshMs);
+  EXPECT_EQ(rig.machine.QueriedValueNames().size(), before);
+  EXPECT_EQ(rig.program->Cpu().AverageCpuUsage(), average);
+  EXPECT_EQ(rig.program->Quondix().lblUSAGE.Caption(), usage);
+  EXPECT_EQ(rig.NewestBarPx(), 0);
+  EXPECT_EQ(rig.program->Quondix().lblPercentFree.Caption(), percent);
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Totals, MisreadMemory,
     testing::Values(Misread{"zero by zero", 0, 0, "0"}, Misread{"division by zero", 0, 512 * kMegabyte, "5"},
                     Misread{"negative available", 64 * kMegabyte, 0xF0000000U, "-262.14"}));
+
+TEST(MemoryDisplay, TickReadsTheMemoryAndThenTheProcessorLoad) {
+  ProgramRig rig;
+  rig.machine.SetCpuLoad(50);
+  rig.Start();
+  const std::size_t before = rig.machine.Calls().size();
+  rig.AdvanceMs(kRefreshMs);
+  const auto first = rig.machine.Calls().begin() + static_cast<std::ptrdiff_t>(before);
+  const auto memory = std::find(first, rig.machine.Calls().end(), "GlobalMemoryStatus()");
+  const auto load = std::find_if(first, rig.machine.Calls().end(),
+                                 [](const std::string& call) { return call.starts_with("RegOpenKeyExA"); });
+  ASSERT_NE(memory, rig.machine.Calls().end());
+  ASSERT_NE(load, rig.machine.Calls().end());
+  EXPECT_LT(memory, load);
+}
+
+TEST(MemoryDisplay, TickThatIsEndedByTheReportOfAnErrorReadsNoProcessorLoad) {
+  ProgramRig rig;
+  rig.machine.SetCpuLoad(50);
+  rig.Start();
+  rig.machine.SetMemory(64 * kMegabyte, 24012345, 0x7FFFFFFFU, 0xFFFFFFFEU);
+  std::size_t at_the_end = 0;
+  rig.machine.WhileBoxIsOpen([&] {
+    rig.program->EndSession();
+    at_the_end = rig.machine.Calls().size();
+  });
+  rig.AdvanceMs(kRefreshMs);
+  ASSERT_EQ(rig.machine.Boxes().size(), 1U);
+  EXPECT_EQ(rig.machine.Calls().size(), at_the_end);
+  EXPECT_EQ(rig.program->Window().Caption(), "Q-DIX");
+}
 
 TEST(MemoryDisplay, TickGoesOnEvery750MsWhileTheWindowIsHidden) {
   ProgramRig rig;

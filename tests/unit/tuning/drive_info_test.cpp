@@ -61,6 +61,17 @@ TEST_F(DriveInfo, ExtendedQueryTellsWholeByteCountsOfAnySize) {
   EXPECT_EQ(space.sectors_per_cluster, 0);
 }
 
+TEST_F(DriveInfo, BothQueriesAskForTheRootWithItsBackslash) {
+  AddFixed('D', 4096 * 100, 4096 * 1000);
+  tuning::DriveSpaceInfo space;
+  for (const char* const root : {"D:", "D:\\"}) EXPECT_EQ(info.GetDiskSpace(root, space), 1) << root;
+  info.SetUseDiskFreeSpaceEx(true);
+  for (const char* const root : {"D:", "D:\\"}) EXPECT_EQ(info.GetDiskSpace(root, space), 1) << root;
+  EXPECT_EQ(machine.Calls(), (Texts{"GetDiskFreeSpaceA(D:\\)", "GetDiskFreeSpaceA(D:\\)",
+                                    "GetDiskFreeSpaceExA(D:\\)", "GetDiskFreeSpaceExA(D:\\)"}));
+  EXPECT_EQ(space.free_bytes, 409600);
+}
+
 TEST_F(DriveInfo, ClassicQueryMultipliesItsFigures) {
   AddFixed('C', 4096 * 100, 4096 * 1000);
   tuning::DriveSpaceInfo space;

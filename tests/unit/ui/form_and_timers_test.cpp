@@ -48,6 +48,50 @@ TEST_F(FormRules, ActivatesAtTheFirstShowAndAtEachShowAfterHiding) {
   EXPECT_EQ(activated.count, 2);
 }
 
+TEST_F(FormRules, WindowThatOthersShowAndHideActivatesLikeTheFormsOwnAndIsLeftAlone) {
+  ui::EventDispatcher events;
+  ui::Form form(events, {.name = "Form"});
+  ui::Button inside{form, {.name = "Inside"}};
+  NotingPeer peer;
+  Handled activated;
+  form.AttachPeer(&peer);
+  form.OnActivate = activated.Handler();
+  form.UserChangedVisible(true);
+  EXPECT_TRUE(form.Shown());
+  EXPECT_TRUE(inside.Reachable());
+  EXPECT_EQ(activated.count, 1);
+  form.UserChangedVisible(true);
+  EXPECT_EQ(activated.count, 1);
+  form.UserChangedVisible(false);
+  EXPECT_FALSE(form.Shown());
+  EXPECT_EQ(activated.count, 1);
+  form.UserChangedVisible(true);
+  EXPECT_EQ(activated.count, 2);
+  EXPECT_TRUE(peer.changes.empty());
+  form.Unload();
+  form.UserChangedVisible(false);
+  form.UserChangedVisible(true);
+  EXPECT_EQ(activated.count, 2);
+}
+
+TEST_F(FormRules, UnloadAtOnceOvertakesAnUnloadThatItsHandlerHoldsUp) {
+  Handled unloading;
+  unloading.action = [&] {
+    if (unloading.count > 1) return;
+    bench.form.Unload();
+    EXPECT_FALSE(bench.form.Unloaded()) << "the unload is still running";
+    bench.form.UnloadAtOnce();
+    EXPECT_TRUE(bench.form.Unloaded());
+  };
+  unloading.answer = base::kDivisionByZero;
+  bench.form.OnUnload = unloading.Handler();
+  bench.form.Unload();
+  EXPECT_EQ(unloading.count, 2);
+  EXPECT_EQ(bench.errors.size(), 1U) << "the first one came to its end after the stop";
+  bench.form.UnloadAtOnce();
+  EXPECT_EQ(unloading.count, 2);
+}
+
 class Refusal {
  public:
   [[nodiscard]] base::Callback<bool()> Handler() {
