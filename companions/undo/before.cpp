@@ -34,8 +34,10 @@ Before NumberFromRecord(const std::string& recorded) {
   return {.known = Before::Known::kFromRecord, .text = std::string(base::Trim(recorded)), .is_exact = false};
 }
 
-/// Of a longer entry the record holds the beginning.
-std::string RecordedPartOf(const std::string& text) { return text.substr(0, kLongestText); }
+/// Of a longer entry the record holds the beginning, or the number of it.
+std::optional<std::string> RecordedPartOf(const std::optional<std::string>& text) {
+  return text.has_value() ? std::optional(text->substr(0, kLongestText)) : std::nullopt;
+}
 
 }  // namespace
 
@@ -78,8 +80,9 @@ bool Agree(const Entry& entry, const std::optional<std::string>& recorded, bool 
     return entry.recorded == Recorded::kAsNumber || !is_record_complete || can_be_missing;
   }
   if (!FromRecord(entry, recorded).IsKnown()) return true;  // it says nothing of any time
-  if (entry.recorded == Recorded::kAsNumber) return NumberOf(recorded) == RecordedNumberOf(backup_text);
-  return backup_text.has_value() && RecordedPartOf(*backup_text) == *recorded;
+  const std::optional<std::string> part = RecordedPartOf(backup_text);
+  return entry.recorded == Recorded::kAsNumber ? NumberOf(recorded) == RecordedNumberOf(part)
+                                               : part == recorded;
 }
 
 bool IsAsBefore(const Before& before, const std::optional<std::string>& now) {

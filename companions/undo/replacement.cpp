@@ -1,6 +1,6 @@
 #include "undo/replacement.h"
 
-#include "launcher/launcher_file.h"
+#include "shell/file_content.h"
 #include "tuning/cache/system_ini.h"
 
 namespace qdix::undo {
@@ -55,7 +55,7 @@ class SystemIniFiles {
     const bool is_written =
         files_.WriteFile(file, content.data(), size_bytes, written_bytes) && files_.FlushFileBuffers(file);
     files_.CloseHandle(file);
-    return is_written && launcher::ReadWholeFile(files_, path, size_bytes + 1) == content;
+    return is_written && shell::ReadWholeFile(files_, path, size_bytes + 1) == content;
   }
 
   Replacement ChangeNames(bool is_there) {

@@ -1,7 +1,7 @@
 #include "undo/settings.h"
 
 #include "base/text.h"
-#include "launcher/launcher_file.h"
+#include "shell/file_content.h"
 #include "shell/registry_key.h"
 
 namespace qdix::undo {
@@ -32,7 +32,7 @@ void Settings::Read() {
 }
 
 IniFile Settings::ReadFile(const std::string& path) const {
-  const std::optional<std::string> bytes = launcher::ReadWholeFile(system_.files, path, kMaxIniBytes);
+  const std::optional<std::string> bytes = shell::ReadWholeFile(system_.files, path, kMaxIniBytes);
   if (bytes.has_value()) return {.state = StateOfIni(*bytes), .bytes = *bytes};
   const std::uint32_t attributes = system_.files.GetFileAttributesA(path.c_str());
   const bool is_file =

@@ -4,21 +4,19 @@ namespace qdix::undo {
 
 namespace {
 
-std::string RecordText(const Record& record, const Backup& backup) {
+const char* RecordText(const Record& record, const Backup& backup) {
   if (record.HasValues()) {
     return "These settings were recorded before Q-DIX changed this computer for the first time. Tick those "
            "that "
            "are to be put back.";
   }
   if (record.IsTaken()) {
-    return backup.IsWhole() ? "Q-DIX has begun a record, but it holds no values. What can be put "
-                              "back is taken from the backup."
-                            : "Q-DIX has begun a record, but it holds no values, and there is no "
-                              "backup to go by.";
+    return backup.IsWhole() ? "The record holds no values. What can be put back is taken from the backup."
+                            : "The record holds no values, and there is no backup to go by.";
   }
   return backup.IsWhole()
              ? "Nothing is recorded, so single settings cannot be put back. The whole of system.ini "
-               "can be restored from its backup."
+               "can be."
              : "Nothing is recorded. Q-DIX records these settings before it changes one of them for "
                "the first time, so there is nothing to put back.";
 }
@@ -27,11 +25,11 @@ std::string RecordText(const Record& record, const Backup& backup) {
 const char* Fault(IniState state) {
   switch (state) {
     case IniState::kWithoutBoot:
-      return "it has no section [boot].";
+      return "has no section [boot]";
     case IniState::kWithout386Enh:
-      return "it has no section [386Enh].";
+      return "has no section [386Enh]";
     default:
-      return "it ends in the middle of a line.";
+      return "ends in the middle of a line";
   }
 }
 
@@ -42,31 +40,21 @@ std::string WholeBackupText(const Backup& backup, bool is_of_another_time, os::C
   if (!date.empty()) text += ", a copy of system.ini as it was on " + date;
   text += '.';
   if (is_of_another_time)
-    text += " It does not agree with the record: single settings are not taken from it.";
+    text += " It is not of the time of the record: single settings are not taken from it.";
   return text;
 }
 
 }  // namespace
 
 std::string StateText(const Settings& settings) {
-  const bool is_whole = settings.TheBackup().IsWhole();
-  switch (settings.SystemIniState()) {
-    case IniState::kMissing:
-      return is_whole
-                 ? "Warning: system.ini is missing, and Windows does not start without it. Restore the whole "
-                   "file before you restart."
-                 : "Warning: system.ini is missing, and Windows does not start without it. Put a copy of it "
-                   "into the Windows folder before you restart.";
-    case IniState::kWithoutBoot:
-      return is_whole
-                 ? "Warning: system.ini has no section [boot], and Windows does not start without it. "
-                   "Restore "
-                   "the whole file before you restart."
-                 : "Warning: system.ini has no section [boot], and Windows does not start without it. Repair "
-                   "the file before you restart.";
-    default:
-      return RecordText(settings.TheRecord(), settings.TheBackup());
-  }
+  std::string fault;
+  if (settings.SystemIniState() == IniState::kMissing) fault = "is missing";
+  if (settings.SystemIniState() == IniState::kWithoutBoot) fault = "has no section [boot]";
+  if (fault.empty()) return RecordText(settings.TheRecord(), settings.TheBackup());
+  return "Warning: system.ini " + fault + ". Windows does not start without it. " +
+         (settings.TheBackup().IsWhole()
+              ? "Restore the whole file before you restart."
+              : "Put a whole copy of it into the Windows folder before you restart.");
 }
 
 std::string BackupText(const Backup& backup, const Record& record, os::Clock& clock) {
@@ -74,14 +62,13 @@ std::string BackupText(const Backup& backup, const Record& record, os::Clock& cl
     case IniState::kMissing:
       return "There is no backup of system.ini (system.qdix in the Windows folder).";
     case IniState::kUnreadable:
-      return "The backup of system.ini (system.qdix in the Windows folder) cannot be read. Close other "
-             "programs, "
-             "and start Q-DIX Undo again.";
+      return "system.qdix in the Windows folder cannot be read. Close other programs and start Q-DIX Undo "
+             "again.";
     case IniState::kWhole:
       return WholeBackupText(backup, record.IsTaken() && !backup.agrees, clock);
     default:
-      return std::string("The backup of system.ini (system.qdix in the Windows folder) is damaged: ") +
-             Fault(backup.state) + " Nothing is taken from it.";
+      return "system.qdix in the Windows folder is damaged: it " + std::string(Fault(backup.state)) +
+             ". Nothing is taken from it.";
   }
 }
 

@@ -47,7 +47,7 @@ std::string WholeFile::Question() const {
       "by other "
       "programs. The present file is kept under another name.\r\n\r\n";
   if (settings_.TheRecord().IsTaken() && !backup.agrees) {
-    question += "The copy does not agree with the record of Q-DIX: it is of another time.\r\n\r\n";
+    question += "The copy is not of the time of the record.\r\n\r\n";
   }
   return question + "Do you want to replace system.ini?";
 }
@@ -58,17 +58,17 @@ void WholeFile::TellSuccess(const std::string& kept_name) {
   if (!kept_name.empty()) {
     const std::string folder = settings_.WindowsFolder();
     const std::string system_ini = folder + tuning::kSystemIni;
-    text += " The previous file is " + kept_name +
-            " in the Windows folder.\r\n\r\nIf Windows does not start with the new file, start the computer "
-            "at the "
-            "command prompt and type:\r\n\r\nattrib -r " +
-            system_ini + "\r\ncopy /y " + folder + kept_name + " " + system_ini;
+    text +=
+        " The old file is now " + kept_name +
+        ".\r\n\r\nIf Windows does not start with the new one, start the computer at the command prompt and "
+        "type:\r\n\r\nattrib -r " +
+        system_ini + "\r\ncopy /y " + folder + kept_name + " " + system_ini;
   }
   if (entry_list_.ChooseOwnTemplate()) {
     text +=
-        "\r\n\r\nThe file system template \"Quondix\" is still in force, because it is not in system.ini. To "
-        "put the "
-        "previous one back too, answer No to the next question and press \"Put Back\".";
+        "\r\n\r\nThe file system template is still \"Quondix\". To put the old one back too, answer No to "
+        "the next "
+        "question and press \"Put Back\".";
   }
   system_.dialogs.MessageBoxA(text, application_.Title(), os::kMbOk | os::kMbIconInformation);
 }

@@ -121,6 +121,8 @@ TEST(RecordAndBackup, AgreeWhereTheEntriesAreTheSame) {
   EXPECT_TRUE(Agree(kSize, "0", true, std::nullopt));
   EXPECT_TRUE(Agree(kSize, "0", true, "none"));
   EXPECT_TRUE(Agree(kSize, "1.23456789012346E+16", true, "12345678901234567"));
+  const std::string long_number(300, '1');
+  EXPECT_TRUE(Agree(kSize, "1.11111111111111E+253", true, long_number)) << "of 254 digits the record knows";
   EXPECT_TRUE(Agree(kDrive, "D:", true, "D:"));
   EXPECT_TRUE(Agree(kDrive, "", true, ""));
   EXPECT_TRUE(Agree(kDrive, std::nullopt, true, std::nullopt));

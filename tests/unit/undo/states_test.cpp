@@ -41,8 +41,8 @@ class UndoState : public testing::Test {
   void ExpectDamaged(const std::string& bytes, const std::string& fault) {
     rig.machine.WriteFile(kBackupPath, bytes);
     Start();
-    EXPECT_EQ(Backup(), "The backup of system.ini (system.qdix in the Windows folder) is damaged: " + fault +
-                            " Nothing is taken from it.");
+    EXPECT_EQ(Backup(),
+              "system.qdix in the Windows folder is damaged: it " + fault + ". Nothing is taken from it.");
     EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
     EXPECT_EQ(rig.Screen().MinPagingFileSize.before.Caption(), "not recorded");
     EXPECT_EQ(rig.Screen().Paging.before.Caption(), "not recorded");
@@ -75,9 +75,7 @@ TEST_F(UndoState, RecordWithoutValues) {
   RemoveRecordValues();
   rig.machine.WriteFile(kBackupPath, kIniBefore);
   Start();
-  EXPECT_EQ(
-      State(),
-      "Q-DIX has begun a record, but it holds no values. What can be put back is taken from the backup.");
+  EXPECT_EQ(State(), "The record holds no values. What can be put back is taken from the backup.");
   EXPECT_EQ(Backup(), kDatedBackup);
   EXPECT_EQ(rig.Screen().MinFileCache.before.Caption(), "not recorded; backup: 2048");
   EXPECT_TRUE(rig.Screen().MinFileCache.box.Ticked());
@@ -88,7 +86,7 @@ TEST_F(UndoState, RecordWithoutValues) {
 TEST_F(UndoState, RecordWithoutValuesAndWithoutBackup) {
   RemoveRecordValues();
   Start();
-  EXPECT_EQ(State(), "Q-DIX has begun a record, but it holds no values, and there is no backup to go by.");
+  EXPECT_EQ(State(), "The record holds no values, and there is no backup to go by.");
   EXPECT_EQ(Backup(), kNoBackup);
   EXPECT_EQ(RowsToPutBack(), 0);
   EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
@@ -97,10 +95,8 @@ TEST_F(UndoState, RecordWithoutValuesAndWithoutBackup) {
 TEST_F(UndoState, BackupWithoutRecordServesTheWholeFile) {
   rig.machine.WriteFile(kBackupPath, kIniBefore);
   Start();
-  EXPECT_EQ(
-      State(),
-      "Nothing is recorded, so single settings cannot be put back. The whole of system.ini can be restored "
-      "from its backup.");
+  EXPECT_EQ(State(),
+            "Nothing is recorded, so single settings cannot be put back. The whole of system.ini can be.");
   EXPECT_EQ(Backup(), kDatedBackup);
   EXPECT_EQ(RowsToPutBack(), 0);
   EXPECT_TRUE(rig.Screen().cmdRestore.Enabled());
@@ -119,14 +115,14 @@ TEST_F(UndoState, BackupOfAnotherTimeIsNotBelievedEntryByEntry) {
   rig.TakeRecord();
   Start();
   EXPECT_EQ(Backup(), std::string(kDatedBackup) +
-                          " It does not agree with the record: single settings are not taken from it.");
+                          " It is not of the time of the record: single settings are not taken from it.");
   EXPECT_EQ(rig.Screen().PagingDrive.before.Caption(), "D:");
   EXPECT_EQ(rig.Screen().Paging.before.Caption(), "not recorded");
   EXPECT_EQ(RowsToPutBack(), 5);
   EXPECT_TRUE(rig.Screen().cmdRestore.Enabled());
   rig.Screen().cmdRestore.Press();
-  EXPECT_NE(rig.machine.Boxes()[0].text.find("\r\n\r\nThe copy does not agree with the record of Q-DIX: it "
-                                             "is of another time.\r\n\r\nDo you want"),
+  EXPECT_NE(rig.machine.Boxes()[0].text.find(
+                "\r\n\r\nThe copy is not of the time of the record.\r\n\r\nDo you want"),
             std::string::npos)
       << rig.machine.Boxes()[0].text;
 }
@@ -146,12 +142,12 @@ TEST_F(UndoState, NoTextCallsAnOldWriteProtectedCopyOneOfTheFirstChange) {
 
 TEST_F(UndoState, BackupWithoutBootIsDamaged) {
   rig.TakeRecord();
-  ExpectDamaged("[386Enh]\r\nPagingDrive=D:\r\n", "it has no section [boot].");
+  ExpectDamaged("[386Enh]\r\nPagingDrive=D:\r\n", "has no section [boot]");
 }
 
 TEST_F(UndoState, BackupWithout386EnhIsDamaged) {
   rig.TakeRecord();
-  ExpectDamaged("[boot]\r\nshell=Explorer.exe\r\n", "it has no section [386Enh].");
+  ExpectDamaged("[boot]\r\nshell=Explorer.exe\r\n", "has no section [386Enh]");
 }
 
 TEST_F(UndoState, BackupCutOnAFullDiskIsDamaged) {
@@ -160,7 +156,7 @@ TEST_F(UndoState, BackupCutOnAFullDiskIsDamaged) {
   rig.machine.LimitFreeBytes(1000000);
   const std::string cut = rig.machine.ReadFile(kBackupPath).value_or("none");
   EXPECT_EQ(cut.size(), std::string(kIniBefore).size() - 4);
-  ExpectDamaged(cut, "it ends in the middle of a line.");
+  ExpectDamaged(cut, "ends in the middle of a line");
 }
 
 TEST_F(UndoState, BackupThatCannotBeReadOffersNothing) {
@@ -169,8 +165,7 @@ TEST_F(UndoState, BackupThatCannotBeReadOffersNothing) {
   Start();
   EXPECT_EQ(
       Backup(),
-      "The backup of system.ini (system.qdix in the Windows folder) cannot be read. Close other programs, "
-      "and start Q-DIX Undo again.");
+      "system.qdix in the Windows folder cannot be read. Close other programs and start Q-DIX Undo again.");
   EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
   EXPECT_EQ(rig.Screen().Paging.before.Caption(), "not recorded");
   EXPECT_EQ(RowsToPutBack(), 5);
@@ -188,34 +183,30 @@ TEST_F(UndoState, MissingSystemIniIsWarnedOf) {
   rig.machine.EraseFile(kIniPath);
   rig.SetTemplate("Quondix");
   rig.Start();
-  EXPECT_EQ(
-      State(),
-      "Warning: system.ini is missing, and Windows does not start without it. Restore the whole file before "
-      "you restart.");
+  EXPECT_EQ(State(),
+            "Warning: system.ini is missing. Windows does not start without it. Restore the whole file "
+            "before you restart.");
   EXPECT_EQ(RowsToPutBack(), 1) << "the template; an entry would make a system.ini without anything else";
   EXPECT_TRUE(rig.Screen().Template.box.Ticked());
   rig.machine.EraseFile(kBackupPath);
   rig.Start();
-  EXPECT_EQ(
-      State(),
-      "Warning: system.ini is missing, and Windows does not start without it. Put a copy of it into the "
-      "Windows folder before you restart.");
+  EXPECT_EQ(State(),
+            "Warning: system.ini is missing. Windows does not start without it. Put a whole copy of it into "
+            "the Windows folder before you restart.");
 }
 
 TEST_F(UndoState, SystemIniWithoutBootIsWarnedOf) {
   rig.TakeRecord();
   rig.machine.WriteFile(kIniPath, "[386Enh]\r\nPagingDrive=C:\r\n");
   rig.Start();
-  EXPECT_EQ(
-      State(),
-      "Warning: system.ini has no section [boot], and Windows does not start without it. Restore the whole "
-      "file before you restart.");
+  EXPECT_EQ(State(),
+            "Warning: system.ini has no section [boot]. Windows does not start without it. Restore the whole "
+            "file before you restart.");
   rig.machine.EraseFile(kBackupPath);
   rig.Start();
-  EXPECT_EQ(
-      State(),
-      "Warning: system.ini has no section [boot], and Windows does not start without it. Repair the file "
-      "before you restart.");
+  EXPECT_EQ(State(),
+            "Warning: system.ini has no section [boot]. Windows does not start without it. Put a whole copy "
+            "of it into the Windows folder before you restart.");
 }
 
 }  // namespace

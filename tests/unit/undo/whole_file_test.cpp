@@ -13,14 +13,14 @@ using testing::IsEmpty;
 constexpr double kThirdOfMay1999 = 36283.4;
 constexpr const char* kKeptPath = "C:\\WINDOWS\\SYSTEM.Q01";
 constexpr const char* kReplaced =
-    "system.ini has been replaced. The previous file is SYSTEM.Q01 in the Windows folder.\r\n\r\n"
-    "If Windows does not start with the new file, start the computer at the command prompt and type:\r\n\r\n"
+    "system.ini has been replaced. The old file is now SYSTEM.Q01.\r\n\r\n"
+    "If Windows does not start with the new one, start the computer at the command prompt and type:\r\n\r\n"
     "attrib -r C:\\WINDOWS\\system.ini\r\n"
     "copy /y C:\\WINDOWS\\SYSTEM.Q01 C:\\WINDOWS\\system.ini";
 constexpr const char* kTemplateIsStillOwn =
-    "\r\n\r\nThe file system template \"Quondix\" is still in force, because it is not in system.ini. To put "
-    "the "
-    "previous one back too, answer No to the next question and press \"Put Back\".";
+    "\r\n\r\nThe file system template is still \"Quondix\". To put the old one back too, answer No to the "
+    "next "
+    "question and press \"Put Back\".";
 
 class WholeFile : public testing::Test {
  protected:
