@@ -37,7 +37,7 @@ std::string WholeBackupText(const Backup& backup, bool is_of_another_time, os::C
   std::string text = "Backup: system.qdix in the Windows folder";
   if (backup.found.has_value()) text += " (" + backup.found->dos_name + " at the command prompt)";
   const std::string date = DateOf(backup, clock);
-  if (!date.empty()) text += ", a copy of system.ini as it was on " + date;
+  if (!date.empty()) text += ", system.ini as of " + date;
   text += '.';
   if (is_of_another_time)
     text += " It is not of the time of the record: single settings are not taken from it.";

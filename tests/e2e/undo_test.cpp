@@ -121,8 +121,7 @@ TEST_F(UndoSession, RecordIsShownBesideWhatStandsNow) {
   }
   const std::string backup = program.Text("lblBackup");
   EXPECT_TRUE(backup.starts_with("Backup: system.qdix in the Windows folder (")) << backup;
-  EXPECT_NE(backup.find(" at the command prompt), a copy of system.ini as it was on "), std::string::npos)
-      << backup;
+  EXPECT_NE(backup.find(" at the command prompt), system.ini as of "), std::string::npos) << backup;
   ASSERT_TRUE(BringForward(program.MainWindow()));
   EXPECT_TRUE(Photograph("undo"));
   Close();

@@ -12,9 +12,9 @@ constexpr const char* kRecorded =
     "put back.";
 constexpr const char* kNoBackup = "There is no backup of system.ini (system.qdix in the Windows folder).";
 constexpr const char* kDatedBackup =
-    "Backup: system.qdix in the Windows folder (SYSTEM~1.QDI at the command prompt), a copy of system.ini as "
-    "it was "
-    "on Monday, May 3, 1999.";
+    "Backup: system.qdix in the Windows folder (SYSTEM~1.QDI at the command prompt), system.ini as of "
+    "Monday, May 3, "
+    "1999.";
 constexpr double kThirdOfMay1999 = 36283.4;
 
 class UndoState : public testing::Test {
