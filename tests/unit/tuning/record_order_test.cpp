@@ -14,7 +14,7 @@ constexpr const char* kFlush = "RegFlushKey(HKLM\\SOFTWARE\\QDIX)";
 class RecordOrder : public testing::Test {
  protected:
   void Start(screens::Tab tab) {
-    rig.WriteSystemIni("[386Enh]\r\nPagingDrive=D:\r\n[vcache]\r\nMinFileCache=1024\r\n");
+    rig.WriteSystemIni("[386Enh]\r\nPagingDrive=C:\r\n[vcache]\r\nMinFileCache=1024\r\n");
     rig.StartAt(tab);
     first_call = rig.machine.Calls().size();
     rig.Answer({os::kIdYes, os::kIdNo});

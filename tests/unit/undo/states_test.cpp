@@ -115,7 +115,7 @@ TEST_F(UndoState, BackupOfAnotherTimeIsNotBelievedEntryByEntry) {
   rig.TakeRecord();
   Start();
   EXPECT_EQ(Backup(), std::string(kDatedBackup) +
-                          " It is not of the time of the record: single settings are not taken from it.");
+                          " It is not of the time of the record: no single setting is taken from it.");
   EXPECT_EQ(rig.Screen().PagingDrive.before.Caption(), "D:");
   EXPECT_EQ(rig.Screen().Paging.before.Caption(), "not recorded");
   EXPECT_EQ(RowsToPutBack(), 5);
