@@ -39,8 +39,7 @@ std::string WholeBackupText(const Backup& backup, bool is_of_another_time, os::C
   const std::string date = DateOf(backup, clock);
   if (!date.empty()) text += ", system.ini as of " + date;
   text += '.';
-  if (is_of_another_time)
-    text += " It is not of the time of the record: no single setting is taken from it.";
+  if (is_of_another_time) text += " It is not of the time of the record: no single setting is taken from it.";
   return text;
 }
 
