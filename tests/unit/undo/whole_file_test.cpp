@@ -116,6 +116,7 @@ TEST_F(WholeFile, OwnTemplateCanBeRemovedAlsoWithoutARecord) {
   EXPECT_TRUE(other.Screen().Template.box.Ticked());
   for (const int answer : {os::kIdYes, os::kIdNo}) other.machine.AnswerNextBox(answer);
   other.Screen().cmdPutBack.Press();
+  ASSERT_EQ(other.machine.Boxes().size(), 5U) << "question, news and restart, question and restart";
   EXPECT_EQ(other.machine.Boxes()[3].text,
             "The following will be done:\r\n\r\nFile system template: remove (not recorded)\r\n\r\n"
             "Do you want to put these settings back?");
