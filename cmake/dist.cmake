@@ -11,4 +11,5 @@ add_test(NAME dist.downloads
   COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/dist/downloads_test.py ${CMAKE_BINARY_DIR})
 add_test(NAME dist.refusals COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/dist/refusals_test.py)
 add_test(NAME dist.setup_text COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/dist/setup_text_test.py)
+add_test(NAME dist.rescue COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/dist/rescue_test.py)
 set_tests_properties(dist.downloads PROPERTIES TIMEOUT 120)

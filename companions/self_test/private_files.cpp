@@ -25,6 +25,10 @@ bool PrivateFiles::CopyFileA(const char* from, const char* to) {
 
 std::uint32_t PrivateFiles::GetFileAttributesA(const char* path) { return real_.GetFileAttributesA(path); }
 
+bool PrivateFiles::FindFirstFileA(const char* path, os::FoundFile& found) {
+  return real_.FindFirstFileA(path, found);
+}
+
 os::FileHandle PrivateFiles::CreateFileA(const char* path, std::uint32_t access, std::uint32_t disposition) {
   const bool changes = access != os::kGenericRead || disposition != os::kOpenExisting;
   if (changes && !LiesIn(folder_, path)) return os::kInvalidFile;

@@ -21,6 +21,7 @@ class PrivateFiles final : public os::Files {
   [[nodiscard]] std::uint32_t GetWindowsDirectoryA(char* buffer, std::uint32_t size_bytes) override;
   bool CopyFileA(const char* from, const char* to) override;
   [[nodiscard]] std::uint32_t GetFileAttributesA(const char* path) override;
+  [[nodiscard]] bool FindFirstFileA(const char* path, os::FoundFile& found) override;
   [[nodiscard]] os::FileHandle CreateFileA(const char* path, std::uint32_t access,
                                            std::uint32_t disposition) override;
   void CloseHandle(os::FileHandle file) override;

@@ -61,6 +61,10 @@ std::int32_t PrivateRegistry::RegDeleteValueA(os::KeyHandle key, const char* val
   return real_.RegDeleteValueA(key, value_name);
 }
 
+std::int32_t PrivateRegistry::RegFlushKey(os::KeyHandle key) {
+  return IsRoot(key) ? os::kErrorSuccess : real_.RegFlushKey(key);
+}
+
 /// The system takes the closing of a root as done.
 std::int32_t PrivateRegistry::RegCloseKey(os::KeyHandle key) {
   return IsRoot(key) ? os::kErrorSuccess : real_.RegCloseKey(key);

@@ -26,6 +26,7 @@ class PrivateRegistry final : public os::Registry {
   std::int32_t RegSetValueExA(os::KeyHandle key, const char* value_name, std::uint32_t type,
                               const std::uint8_t* data, std::uint32_t size_bytes) override;
   std::int32_t RegDeleteValueA(os::KeyHandle key, const char* value_name) override;
+  std::int32_t RegFlushKey(os::KeyHandle key) override;
   std::int32_t RegCloseKey(os::KeyHandle key) override;
 
  private:

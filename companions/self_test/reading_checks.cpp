@@ -167,6 +167,19 @@ Outcome OwnPathIsKnown(const os::System& real) {
   return is_file ? Outcome::Ok(path) : Outcome::Failed("there is no file \"" + path + "\"");
 }
 
+Outcome FileIsLookedUp(const os::System& real) {
+  constexpr std::size_t kDosNameLength = 12;
+  os::FoundFile found;
+  if (!real.files.FindFirstFileA(real.processes.ModuleFileName().c_str(), found)) {
+    return Outcome::Failed("this program is not found");
+  }
+  if (found.dos_name.empty() || found.dos_name.size() > kDosNameLength) {
+    return Outcome::Failed("\"" + found.dos_name + "\" is no name of DOS");
+  }
+  const std::string date = real.clock.LongDate(found.changed_days);
+  return date.empty() ? Outcome::Failed("it has no date") : Outcome::Ok(found.dos_name + ", " + date);
+}
+
 Outcome WindowsAreFound(const os::System& real) {
   if (real.windows.FindWindowA("QDIXTEST has no such class", nullptr) != 0) {
     return Outcome::Failed("a window that nobody made is there");
@@ -206,7 +219,7 @@ void RunReadingChecks(Report& report, const os::System& real, const std::string&
     const char* name;
     Outcome (*check)(const os::System& real);
   };
-  constexpr std::array<Reading, 12> kReadings{{
+  constexpr std::array<Reading, 13> kReadings{{
       {"Date and time", &ClockTells},
       {"Event pump", &PumpWaits},
       {"Memory status", &MemoryTells},
@@ -218,6 +231,7 @@ void RunReadingChecks(Report& report, const os::System& real, const std::string&
       {"Processor", &ProcessorTells},
       {"Folders of the shell", &ShellFoldersAreThere},
       {"Path of this program", &OwnPathIsKnown},
+      {"Looking up a file", &FileIsLookedUp},
       {"Windows of other programs", &WindowsAreFound},
   }};
   for (const Reading& reading : kReadings) {

@@ -18,15 +18,25 @@ bool CanStandInOneLine(const std::string& text) {
   return text.size() <= kLongestText && std::none_of(text.begin(), text.end(), IsControl);
 }
 
-/// The record holds numbers of this kind only.
 double NumberOf(const std::optional<std::string>& text) {
   return text.has_value() ? base::ParseLeadingNumber(*text) : 0;
 }
 
+/// The number as the record holds it, with at most 15 digits.
+double RecordedNumberOf(const std::optional<std::string>& text) {
+  return base::ParseLeadingNumber(base::ShortestText(NumberOf(text)));
+}
+
 Before NumberFromRecord(const std::string& recorded) {
   if (!base::IsNumber(recorded)) return {.unusable = recorded};
-  if (base::ParseLeadingNumber(recorded) == 0) return {.known = Before::Known::kFromRecord};
-  return {.known = Before::Known::kFromRecord, .text = std::string(base::Trim(recorded))};
+  if (base::ParseLeadingNumber(recorded) == 0)
+    return {.known = Before::Known::kFromRecord, .is_exact = false};
+  return {.known = Before::Known::kFromRecord, .text = std::string(base::Trim(recorded)), .is_exact = false};
+}
+
+/// Of a longer entry the record holds the beginning, or the number of it.
+std::optional<std::string> RecordedPartOf(const std::optional<std::string>& text) {
+  return text.has_value() ? std::optional(text->substr(0, kLongestText)) : std::nullopt;
 }
 
 }  // namespace
@@ -46,10 +56,37 @@ Before FromBackup(const std::optional<std::string>& text) {
   return {.known = Before::Known::kFromBackup, .text = text};
 }
 
-/// A size was recorded as the number that it begins with, so it is compared as such.
-bool StandsAsBefore(const Entry& entry, const Before& before, const std::optional<std::string>& now) {
-  const bool is_size = entry.recorded == Recorded::kAsNumber && before.known == Before::Known::kFromRecord;
-  return is_size ? NumberOf(before.text) == NumberOf(now) : before.text == now;
+Before FromBoth(const Entry& entry, const std::optional<std::string>& recorded, bool is_record_complete,
+                const std::optional<std::string>& backup_text) {
+  if (!recorded.has_value()) {
+    // The record of a missing entry is to have none.
+    const bool was_missing = entry.recorded == Recorded::kAsTextOrMissing && !backup_text.has_value();
+    if (was_missing && is_record_complete) return {.known = Before::Known::kFromRecord};
+    return FromBackup(backup_text);
+  }
+  Before before = FromRecord(entry, recorded);
+  if (!before.IsKnown()) return before;
+  if (backup_text.has_value() && !CanStandInOneLine(*backup_text)) return {.unusable = *backup_text};
+  before.text = backup_text;
+  before.is_exact = true;
+  return before;
+}
+
+bool Agree(const Entry& entry, const std::optional<std::string>& recorded, bool is_record_complete,
+           const std::optional<std::string>& backup_text) {
+  if (entry.recorded == Recorded::kNever || !entry.IsInSystemIni()) return true;
+  if (!recorded.has_value()) {
+    const bool can_be_missing = !backup_text.has_value() || backup_text->size() == 1;
+    return entry.recorded == Recorded::kAsNumber || !is_record_complete || can_be_missing;
+  }
+  if (!FromRecord(entry, recorded).IsKnown()) return true;  // it says nothing of any time
+  const std::optional<std::string> part = RecordedPartOf(backup_text);
+  return entry.recorded == Recorded::kAsNumber ? NumberOf(recorded) == RecordedNumberOf(part)
+                                               : part == recorded;
+}
+
+bool IsAsBefore(const Before& before, const std::optional<std::string>& now) {
+  return before.is_exact ? before.text == now : NumberOf(before.text) == RecordedNumberOf(now);
 }
 
 std::string Shown(const std::optional<std::string>& text, std::size_t most) {
@@ -70,6 +107,8 @@ std::string ShownBefore(const Before& before, std::size_t most) {
       return Shown(before.text, most);
     case Before::Known::kFromBackup:
       return "not recorded; backup: " + Shown(before.text, most);
+    case Before::Known::kFromItsName:
+      return "not recorded";
     case Before::Known::kNot:
       break;
   }

@@ -11,13 +11,27 @@ namespace {
 /// Characters of a text in a question.
 constexpr std::size_t kQuestionCharacters = 60;
 
+/// Of the template.
+constexpr std::size_t kTemplateRow = 3;
+static_assert(!kEntries[kTemplateRow].IsInSystemIni());
+
+const char* ReasonOfRemoval(Before::Known known) {
+  switch (known) {
+    case Before::Known::kFromBackup:
+      return "remove (not in backup)";
+    case Before::Known::kFromItsName:
+      return "remove (not recorded)";
+    default:
+      return "remove";
+  }
+}
+
 /// One line of the question.
-std::string Deed(const Entry& entry, const Before& before) {
-  const bool is_from_backup = before.known == Before::Known::kFromBackup;
-  const std::string deed = NameOf(entry) + ": ";
-  if (!before.text.has_value()) return deed + (is_from_backup ? "remove (not in backup)" : "remove");
-  return deed + "put back " + Shown(before.text, kQuestionCharacters) +
-         (is_from_backup ? " (from backup)" : "");
+std::string ActionText(const Entry& entry, const Before& before) {
+  const std::string name = NameOf(entry) + ": ";
+  if (!before.text.has_value()) return name + ReasonOfRemoval(before.known);
+  return name + "put back " + Shown(before.text, kQuestionCharacters) +
+         (before.known == Before::Known::kFromBackup ? " (from backup)" : "");
 }
 
 }  // namespace
@@ -29,13 +43,15 @@ EntryList::EntryList(const os::System& system, const ui::Application& applicatio
   for (EntryRow* const row : screen_.Rows()) row->box.OnClick = ui::Handler::To<&EntryList::Box_Click>(*this);
 }
 
-void EntryList::Read() {
-  const bool has_record = settings_.HasRecord();
+void EntryList::Show() {
+  // Writing an entry would make a system.ini of that entry alone, and hide that there is none.
+  const bool has_system_ini = settings_.SystemIniState() != IniState::kMissing;
   for (std::size_t row = 0; row < kEntries.size(); ++row) {
     State& state = states_[row];
-    state.before = has_record ? settings_.ReadBefore(kEntries[row]) : Before{};
+    state.before = settings_.BeforeOf(row);
     state.now = settings_.ReadNow(kEntries[row]);
-    state.differs = state.before.IsKnown() && !StandsAsBefore(kEntries[row], state.before, state.now);
+    state.can_be_put_back = state.before.IsKnown() && !IsAsBefore(state.before, state.now) &&
+                            (has_system_ini || !kEntries[row].IsInSystemIni());
     ShowRow(row);
   }
   base::Ignore(Box_Click());
@@ -47,14 +63,22 @@ void EntryList::ShowRow(std::size_t row) {
   const bool is_from_backup = state.before.known == Before::Known::kFromBackup;
   shown.before.SetCaption(ShownBefore(state.before, is_from_backup ? kBackupCharacters : kBeforeCharacters));
   shown.now.SetCaption(Shown(state.now, kNowCharacters));
-  shown.box.SetEnabled(state.differs);
-  if (!state.differs) shown.box.SetTicked(false);
+  shown.box.SetEnabled(state.can_be_put_back);
+  if (!state.can_be_put_back) shown.box.SetTicked(false);
 }
 
-void EntryList::ChooseAll() {
+void EntryList::ChooseCertain() {
   for (std::size_t row = 0; row < kEntries.size(); ++row) {
-    screen_.Rows()[row]->box.SetTicked(states_[row].differs);
+    const State& state = states_[row];
+    screen_.Rows()[row]->box.SetTicked(state.can_be_put_back && !state.before.IsUncertain());
   }
+}
+
+bool EntryList::ChooseOwnTemplate() {
+  const State& state = states_[kTemplateRow];
+  if (!state.can_be_put_back || state.now != tuning::kOwnTemplate) return false;
+  screen_.Template.box.SetTicked(true);
+  return true;
 }
 
 base::Status EntryList::Box_Click() {
@@ -72,7 +96,7 @@ EntryList::Choice EntryList::Chosen() {
 /// Another program may have changed the settings since they were read, so the question is about what is there
 /// now.
 base::Status EntryList::cmdPutBack_Click() {
-  Read();
+  ReadAgain();
   const Choice chosen = Chosen();
   if (!screen_.cmdPutBack.Enabled()) return base::kDone;
   const int answer = system_.dialogs.MessageBoxA(Question(chosen), application_.Title(),
@@ -80,7 +104,7 @@ base::Status EntryList::cmdPutBack_Click() {
   if (answer != os::kIdYes || screen_.Window.Unloaded()) return base::kDone;
   const States earlier = states_;
   PutBack(chosen);
-  Read();
+  ReadAgain();
   NameFailures(chosen);
   const bool is_changed = !std::equal(states_.begin(), states_.end(), earlier.begin(),
                                       [](const State& a, const State& b) { return a.now == b.now; });
@@ -91,7 +115,8 @@ base::Status EntryList::cmdPutBack_Click() {
 std::string EntryList::Question(const Choice& chosen) const {
   std::string question = "The following will be done:\r\n\r\n";
   for (std::size_t row = 0; row < kEntries.size(); ++row) {
-    if (chosen[row]) question += Deed(kEntries[row], states_[row].before) + std::string(base::kLineBreak);
+    if (chosen[row])
+      question += ActionText(kEntries[row], states_[row].before) + std::string(base::kLineBreak);
   }
   return question + "\r\nDo you want to put these settings back?";
 }
@@ -106,7 +131,8 @@ void EntryList::PutBack(const Choice& chosen) {
 void EntryList::NameFailures(const Choice& chosen) {
   std::string names;
   for (std::size_t row = 0; row < kEntries.size(); ++row) {
-    if (chosen[row] && states_[row].differs) names += NameOf(kEntries[row]) + std::string(base::kLineBreak);
+    if (chosen[row] && states_[row].can_be_put_back)
+      names += NameOf(kEntries[row]) + std::string(base::kLineBreak);
   }
   if (names.empty()) return;
   system_.dialogs.MessageBoxA(

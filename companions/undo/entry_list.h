@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "base/callback.h"
 #include "os/system.h"
 #include "tuning/restart.h"
 #include "ui/application.h"
@@ -17,11 +18,16 @@ class EntryList {
   EntryList(const os::System& system, const ui::Application& application, UndoScreen& screen,
             Settings& settings, tuning::Restart& restart);
 
-  /// Reads everything anew and shows it. A row that stands as before, or that nothing is known of, cannot be
-  /// chosen.
-  void Read();
-  /// Ticks every row that can be chosen.
-  void ChooseAll();
+  /// Shows what `Settings` found and what the system holds now. A row that is as before, or of which nothing
+  /// is known, cannot be chosen.
+  void Show();
+  /// Ticks the rows that can be chosen, but for removals that are uncertain: those are the user's to tick.
+  void ChooseCertain();
+  /// Ticks the row of the template where Q-DIX's own is in force and can be put back; true where it is.
+  bool ChooseOwnTemplate();
+
+  /// Reads everything again and has it shown.
+  base::Callback<void()> ReadAgain;
 
   /// "Put Back".
   base::Status cmdPutBack_Click();
@@ -32,7 +38,7 @@ class EntryList {
   struct State {
     Before before;
     std::optional<std::string> now;
-    bool differs = false;
+    bool can_be_put_back = false;
   };
   using States = std::array<State, kEntries.size()>;
   using Choice = std::array<bool, kEntries.size()>;

@@ -1,10 +1,8 @@
 #include "undo/settings.h"
 
-#include <array>
-
 #include "base/text.h"
+#include "shell/file_content.h"
 #include "shell/registry_key.h"
-#include "shell/registry_paths.h"
 
 namespace qdix::undo {
 
@@ -13,43 +11,85 @@ namespace {
 /// Stands for an entry that is missing; nobody writes such a text.
 constexpr const char* kMissing = "\x01";
 
+/// More equal lines than a file of 64 KB has room for.
+constexpr int kMaxEqualLines = 8192;
+
+/// The value that reads as this text: blanks at its ends, and a pair of quotation marks around it, are no
+/// part of a value unless another pair encloses them.
+std::string ValueThatReadsAs(const std::string& text) {
+  const bool has_blanks = base::Trim(text).size() != text.size();
+  const bool is_quoted =
+      text.size() >= 2 && text.front() == text.back() && (text.front() == '"' || text.front() == '\'');
+  return has_blanks || is_quoted ? '"' + text + '"' : text;
+}
+
 }  // namespace
 
-bool Settings::HasRecord() const {
-  return !ReadText(shell::kMachineKey, tuning::kRecordMarker).value_or("").empty();
+void Settings::Read() {
+  record_ = Record::Read(system_.registry);
+  system_ini_state_ = ReadFile(WindowsFolder() + tuning::kSystemIni).state;
+  ReadBackup();
 }
 
-bool Settings::HasBackup() const { return IsFile(BackupPath()); }
-
-bool Settings::IsFile(const std::string& path) const {
+IniFile Settings::ReadFile(const std::string& path) const {
+  const std::optional<std::string> bytes = shell::ReadWholeFile(system_.files, path, kMaxIniBytes);
+  if (bytes.has_value()) return {.state = StateOfIni(*bytes), .bytes = *bytes};
   const std::uint32_t attributes = system_.files.GetFileAttributesA(path.c_str());
-  return attributes != os::kInvalidFileAttributes && (attributes & os::kFileAttributeDirectory) == 0;
+  const bool is_file =
+      attributes != os::kInvalidFileAttributes && (attributes & os::kFileAttributeDirectory) == 0;
+  return {.state = is_file ? IniState::kUnreadable : IniState::kMissing};
 }
 
-Before Settings::ReadBefore(const Entry& entry) const {
-  if (entry.value_name != nullptr) {
-    const auto recorded = ReadText(shell::kMachineKey, entry.value_name);
-    if (recorded.has_value()) return FromRecord(entry, recorded);
+void Settings::ReadBackup() {
+  const std::string path = BackupPath();
+  backup_ = {.state = ReadFile(path).state};
+  os::FoundFile found;
+  if (system_.files.FindFirstFileA(path.c_str(), found)) backup_.found = found;
+  const Texts texts = backup_.IsWhole() ? ReadBackupTexts() : Texts{};
+  backup_.agrees = BackupAgrees(texts);
+  for (std::size_t entry = 0; entry < kEntries.size(); ++entry) before_[entry] = ReadBefore(entry, texts);
+}
+
+/// A file that another program holds for a moment reads as if it had no entries, and what the backup does not
+/// have is offered for removal: an entry counts as missing only when two readings agree.
+Settings::Texts Settings::ReadBackupTexts() const {
+  const std::string path = BackupPath();
+  Texts texts;
+  for (std::size_t entry = 0; entry < kEntries.size(); ++entry) {
+    if (!kEntries[entry].IsInSystemIni()) continue;
+    texts[entry] = ReadEntry(kEntries[entry], path.c_str());
+    if (!texts[entry].has_value()) texts[entry] = ReadEntry(kEntries[entry], path.c_str());
   }
-  if (!entry.IsInSystemIni()) return {};
-  const std::string backup = BackupPath();
-  if (!IsFile(backup)) return {};
-  auto text = ReadEntry(entry, backup.c_str());
-  // A file that another program holds for a moment reads as if it had no entries, and what the backup does
-  // not have is offered for removal.
-  if (!text.has_value()) text = ReadEntry(entry, backup.c_str());
-  return FromBackup(text);
+  return texts;
+}
+
+bool Settings::BackupAgrees(const Texts& texts) const {
+  for (std::size_t entry = 0; entry < kEntries.size(); ++entry) {
+    if (!Agree(kEntries[entry], record_.Value(entry), record_.IsComplete(), texts[entry])) return false;
+  }
+  return true;
+}
+
+Before Settings::ReadBefore(std::size_t entry, const Texts& backup_texts) const {
+  if (!record_.IsTaken()) {
+    const bool is_own = !kEntries[entry].IsInSystemIni() && ReadTemplate() == tuning::kOwnTemplate;
+    return is_own && offers_own_template_ ? Before{.known = Before::Known::kFromItsName} : Before{};
+  }
+  if (kEntries[entry].IsInSystemIni() && backup_.TellsEntries()) {
+    return FromBoth(kEntries[entry], record_.Value(entry), record_.IsComplete(), backup_texts[entry]);
+  }
+  return FromRecord(kEntries[entry], record_.Value(entry));
 }
 
 std::optional<std::string> Settings::ReadNow(const Entry& entry) const {
-  if (entry.IsInSystemIni()) return ReadEntry(entry, tuning::kSystemIni);
-  const auto name = ReadText(tuning::kTemplatesKey, tuning::kUnnamedValue);
-  return name.value_or("").empty() ? std::nullopt : name;
+  return entry.IsInSystemIni() ? ReadEntry(entry, tuning::kSystemIni) : ReadTemplate();
 }
 
-std::optional<std::string> Settings::ReadText(const char* path, const char* value_name) const {
-  return shell::RegistryKey::Open(system_.registry, os::kHkeyLocalMachine, path, os::kKeyQueryValue)
-      .ReadText(value_name);
+std::optional<std::string> Settings::ReadTemplate() const {
+  auto name = shell::RegistryKey::Open(system_.registry, os::kHkeyLocalMachine, tuning::kTemplatesKey,
+                                       os::kKeyQueryValue)
+                  .ReadText(tuning::kUnnamedValue);
+  return name.value_or("").empty() ? std::nullopt : name;
 }
 
 std::optional<std::string> Settings::ReadEntry(const Entry& entry, const char* file) const {
@@ -63,30 +103,37 @@ std::optional<std::string> Settings::ReadEntry(const Entry& entry, const char* f
 }
 
 void Settings::PutBack(const Entry& entry, const Before& before) {
-  if (entry.IsInSystemIni()) {
-    if (before.text.has_value()) {
-      system_ini_.WriteIniText(entry.section, entry.key, *before.text, tuning::kSystemIni);
-    } else {
-      system_ini_.DeleteIniValue(entry.section, entry.key, tuning::kSystemIni);
-    }
-    return;
-  }
-  if (before.text.has_value()) {
+  if (!before.text.has_value()) {
+    Remove(entry);
+  } else if (entry.IsInSystemIni()) {
+    system_ini_.WriteIniText(entry.section, entry.key, ValueThatReadsAs(*before.text), tuning::kSystemIni);
+  } else {
     module_registry_.WriteRegistryText(os::kHkeyLocalMachine, tuning::kTemplatesKey, tuning::kUnnamedValue,
                                        *before.text);
-  } else {
-    module_registry_.DeleteRegistryValue(os::kHkeyLocalMachine, tuning::kTemplatesKey, tuning::kUnnamedValue);
   }
 }
 
-/// What the system keeps of system.ini in memory would otherwise be written over the copy later.
-bool Settings::RestoreWholeFile() {
-  system_.profile_files.WritePrivateProfileStringA(nullptr, nullptr, nullptr, tuning::kSystemIni);
-  const std::string folder = system_ini_.WindowsFolder();
-  return system_.files.CopyFileA((folder + tuning::kSystemBackup).c_str(),
-                                 (folder + tuning::kSystemIni).c_str());
+/// A removal takes the first of several equal lines, and the next one would be in force.
+void Settings::Remove(const Entry& entry) {
+  if (!entry.IsInSystemIni()) {
+    module_registry_.DeleteRegistryValue(os::kHkeyLocalMachine, tuning::kTemplatesKey, tuning::kUnnamedValue);
+    return;
+  }
+  for (int line = 0; line < kMaxEqualLines; ++line) {
+    const bool is_removed = system_.profile_files.WritePrivateProfileStringA(entry.section, entry.key,
+                                                                             nullptr, tuning::kSystemIni);
+    if (!is_removed || !ReadEntry(entry, tuning::kSystemIni).has_value()) return;
+  }
 }
 
-std::string Settings::BackupPath() const { return system_ini_.WindowsFolder() + tuning::kSystemBackup; }
+/// What the system keeps of system.ini in memory would otherwise be written over the new file later.
+Replacement Settings::RestoreWholeFile() {
+  system_.profile_files.WritePrivateProfileStringA(nullptr, nullptr, nullptr, tuning::kSystemIni);
+  const IniFile backup = ReadFile(BackupPath());
+  if (!backup.IsWhole()) return {};
+  return ReplaceSystemIni(system_.files, WindowsFolder(), backup.bytes);
+}
+
+std::string Settings::BackupPath() const { return WindowsFolder() + tuning::kSystemBackup; }
 
 }  // namespace qdix::undo

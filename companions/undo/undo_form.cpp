@@ -1,6 +1,7 @@
 #include "undo/undo_form.h"
 
 #include "base/runtime_error.h"
+#include "undo/state_text.h"
 
 namespace qdix::undo {
 
@@ -9,27 +10,25 @@ UndoForm::UndoForm(const os::System& system)
       settings_(system),
       restart_(system, application_, screen_.Window),
       entry_list_(system, application_, screen_, settings_, restart_),
-      whole_file_(system, application_, screen_, settings_, restart_) {
+      whole_file_(system, application_, screen_, settings_, entry_list_, restart_) {
   events_.ReportErrorsTo(ui::EventDispatcher::ErrorReporter::To<&UndoForm::ReportUntrapped>(*this));
   screen_.cmdClose.OnClick = ui::Handler::To<&UndoForm::cmdClose_Click>(*this);
-  whole_file_.OnTried = base::Callback<void()>::To<&UndoForm::Read>(*this);
+  entry_list_.ReadAgain = base::Callback<void()>::To<&UndoForm::Read>(*this);
+  whole_file_.ReadAgain = base::Callback<void()>::To<&UndoForm::Read>(*this);
 }
 
 void UndoForm::Start() {
   Read();
-  entry_list_.ChooseAll();
+  entry_list_.ChooseCertain();
   screen_.Window.Show();
 }
 
 void UndoForm::Read() {
-  screen_.lblState.SetCaption(settings_.HasRecord() ? "These settings were recorded before Q-DIX changed "
-                                                      "this computer for the first time. Tick those that "
-                                                      "are to be put back."
-                                                    : "Nothing is recorded. Q-DIX records these settings "
-                                                      "before it changes one of them for the first time, so "
-                                                      "there is nothing to put back.");
-  entry_list_.Read();
-  whole_file_.Read();
+  settings_.Read();
+  screen_.lblState.SetCaption(StateText(settings_));
+  screen_.lblBackup.SetCaption(BackupText(settings_.TheBackup(), settings_.TheRecord(), system_.clock));
+  entry_list_.Show();
+  whole_file_.Show();
 }
 
 void UndoForm::EndSession() {

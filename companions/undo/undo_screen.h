@@ -55,58 +55,58 @@ struct UndoScreen {
   explicit UndoScreen(ui::EventDispatcher& dispatcher) : events(dispatcher) {}
 
   ui::EventDispatcher& events;
-  ui::Form Window{events, {.name = "UndoWindow", .caption = "Q-DIX Undo", .place = {0, 0, 263, 240}}};
+  ui::Form Window{events, {.name = "UndoWindow", .caption = "Q-DIX Undo", .place = {0, 0, 263, 256}}};
 
-  ui::Label lblState{Window, {.name = "lblState", .place = {7, 7, 249, 16}}};
+  ui::Label lblState{Window, {.name = "lblState", .place = {7, 7, 249, 24}}};
 
-  ui::Label lblEntry{Window, {.name = "lblEntry", .caption = "Setting", .place = {kNameLeft, 29, 80, 8}}};
+  ui::Label lblEntry{Window, {.name = "lblEntry", .caption = "Setting", .place = {kNameLeft, 37, 80, 8}}};
   ui::Label lblBefore{
-      Window, {.name = "lblBefore", .caption = "Before", .place = {kBeforeLeft, 29, kBeforeWidth, 8}}};
-  ui::Label lblNow{Window, {.name = "lblNow", .caption = "Now", .place = {kNowLeft, 29, kNowWidth, 8}}};
+      Window, {.name = "lblBefore", .caption = "Before", .place = {kBeforeLeft, 37, kBeforeWidth, 8}}};
+  ui::Label lblNow{Window, {.name = "lblNow", .caption = "Now", .place = {kNowLeft, 37, kNowWidth, 8}}};
 
   ui::Frame FrameCache{
       Window,
-      {.name = "FrameCache", .caption = "Disk Cache ([vcache] of system.ini)", .place = {7, 40, 249, 50}}};
+      {.name = "FrameCache", .caption = "Disk Cache ([vcache] of system.ini)", .place = {7, 48, 249, 50}}};
   EntryRow MinFileCache{FrameCache,
                         {"chkMinFileCache", "lblMinFileCacheBefore", "lblMinFileCacheNow", "MinFileCache",
-                         'M', "Smallest size of the disk cache in KB", 51}};
+                         'M', "Smallest size of the disk cache in KB", 59}};
   EntryRow MaxFileCache{FrameCache,
                         {"chkMaxFileCache", "lblMaxFileCacheBefore", "lblMaxFileCacheNow", "MaxFileCache",
-                         'x', "Largest size of the disk cache in KB", 63}};
+                         'x', "Largest size of the disk cache in KB", 71}};
   EntryRow ChunkSize{FrameCache,
                      {"chkChunkSize", "lblChunkSizeBefore", "lblChunkSizeNow", "ChunkSize", 'k',
-                      "KB that the disk cache reads at one time", 75}};
+                      "KB that the disk cache reads at one time", 83}};
 
   ui::Frame FrameTemplate{
-      Window, {.name = "FrameTemplate", .caption = "File System Template", .place = {7, 94, 249, 26}}};
+      Window, {.name = "FrameTemplate", .caption = "File System Template", .place = {7, 102, 249, 26}}};
   EntryRow Template{FrameTemplate,
                     {"chkTemplate", "lblTemplateBefore", "lblTemplateNow", "Template in force", 'T',
-                     "Kind of machine for which Windows keeps names of files and folders", 105}};
+                     "Kind of machine for which Windows keeps names of files and folders", 113}};
 
   ui::Frame FrameSwapFile{
       Window,
-      {.name = "FrameSwapFile", .caption = "Swap File ([386Enh] of system.ini)", .place = {7, 124, 249, 62}}};
+      {.name = "FrameSwapFile", .caption = "Swap File ([386Enh] of system.ini)", .place = {7, 132, 249, 62}}};
   EntryRow PagingDrive{FrameSwapFile,
                        {"chkPagingDrive", "lblPagingDriveBefore", "lblPagingDriveNow", "PagingDrive", 'D',
-                        "Drive of the swap file", 135}};
+                        "Drive of the swap file", 143}};
   EntryRow MinPagingFileSize{FrameSwapFile,
                              {"chkMinPagingFileSize", "lblMinPagingFileSizeBefore", "lblMinPagingFileSizeNow",
-                              "MinPagingFileSize", 'n', "Smallest size of the swap file in KB", 147}};
+                              "MinPagingFileSize", 'n', "Smallest size of the swap file in KB", 155}};
   EntryRow MaxPagingFileSize{FrameSwapFile,
                              {"chkMaxPagingFileSize", "lblMaxPagingFileSizeBefore", "lblMaxPagingFileSizeNow",
-                              "MaxPagingFileSize", 'a', "Largest size of the swap file in KB", 159}};
+                              "MaxPagingFileSize", 'a', "Largest size of the swap file in KB", 167}};
   EntryRow Paging{FrameSwapFile,
                   {"chkPaging", "lblPagingBefore", "lblPagingNow", "Paging", 'g',
-                   "Whether Windows uses a swap file", 171}};
+                   "Whether Windows uses a swap file", 179}};
 
-  ui::Label lblBackup{Window, {.name = "lblBackup", .place = {7, 192, 249, 16}}};
+  ui::Label lblBackup{Window, {.name = "lblBackup", .place = {7, 200, 249, 24}}};
 
   ui::Button cmdPutBack{Window,
                         {.name = "cmdPutBack",
                          .caption = "Put Back",
                          .access_key = 'P',
                          .tool_tip = "Give the ticked settings their values from before, or remove them",
-                         .place = {63, 219, 56, 14},
+                         .place = {63, 235, 56, 14},
                          .enabled = false},
                         ui::ButtonRole::kDefault};
   ui::Button cmdRestore{Window,
@@ -114,11 +114,11 @@ struct UndoScreen {
                          .caption = "Restore Whole File...",
                          .access_key = 'R',
                          .tool_tip = "Replace all of system.ini by system.qdix",
-                         .place = {123, 219, 80, 14},
+                         .place = {123, 235, 80, 14},
                          .enabled = false}};
   ui::Button cmdClose{
       Window,
-      {.name = "cmdClose", .caption = "Close", .access_key = 'C', .place = {207, 219, 49, 14}},
+      {.name = "cmdClose", .caption = "Close", .access_key = 'C', .place = {207, 235, 49, 14}},
       ui::ButtonRole::kCancel};
 
   /// In the order of kEntries.

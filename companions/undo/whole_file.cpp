@@ -1,44 +1,88 @@
 #include "undo/whole_file.h"
 
+#include "undo/state_text.h"
+
 namespace qdix::undo {
 
 WholeFile::WholeFile(const os::System& system, const ui::Application& application, UndoScreen& screen,
-                     Settings& settings, tuning::Restart& restart)
-    : system_(system), application_(application), screen_(screen), settings_(settings), restart_(restart) {
+                     Settings& settings, EntryList& entry_list, tuning::Restart& restart)
+    : system_(system),
+      application_(application),
+      screen_(screen),
+      settings_(settings),
+      entry_list_(entry_list),
+      restart_(restart) {
   screen_.cmdRestore.OnClick = ui::Handler::To<&WholeFile::cmdRestore_Click>(*this);
 }
 
-void WholeFile::Read() {
-  const bool has_record = settings_.HasRecord();
-  const bool has_backup = settings_.HasBackup();
-  screen_.lblBackup.SetCaption(
-      has_backup
-          ? "Backup: system.qdix in the Windows folder, the copy of system.ini that was made before the "
-            "first change."
-          : "There is no backup of system.ini (system.qdix in the Windows folder).");
-  screen_.cmdRestore.SetEnabled(has_record && has_backup);
-}
+void WholeFile::Show() { screen_.cmdRestore.SetEnabled(settings_.TheBackup().IsWhole()); }
 
+/// The backup may have changed since it was read, so the question is about what is there now.
 base::Status WholeFile::cmdRestore_Click() {
+  ReadAgain();
+  if (!screen_.cmdRestore.Enabled()) return base::kDone;
   const int answer = system_.dialogs.MessageBoxA(
-      "All of system.ini will be replaced by system.qdix, the copy that was made before the first "
-      "change.\r\n\r\n"
-      "Every other change that was made to system.ini since then will be lost, also those by Windows and by "
-      "other programs.\r\n\r\n"
-      "Do you want to replace system.ini?",
-      application_.Title(), os::kMbYesNo | os::kMbIconExclamation | os::kMbDefaultButton2);
+      Question(), application_.Title(), os::kMbYesNo | os::kMbIconExclamation | os::kMbDefaultButton2);
   if (answer != os::kIdYes || screen_.Window.Unloaded()) return base::kDone;
-  const bool is_replaced = settings_.RestoreWholeFile();
-  if (OnTried) OnTried();
-  if (is_replaced) {
-    restart_.Offer();
+  const Replacement replacement = settings_.RestoreWholeFile();
+  const bool is_done = replacement.outcome == Replacement::Outcome::kDone;
+  if (is_done) settings_.OfferOwnTemplate();
+  ReadAgain();
+  if (!is_done) {
+    TellFailure(replacement);
     return base::kDone;
   }
-  system_.dialogs.MessageBoxA(
-      "system.ini could not be replaced.\r\n\r\n"
-      "Please make sure that it is not write-protected and that no other program has it open, and try again.",
-      application_.Title(), os::kMbOk | os::kMbIconExclamation);
+  TellSuccess(replacement.kept_name);
+  if (!screen_.Window.Unloaded()) restart_.Offer();
   return base::kDone;
+}
+
+std::string WholeFile::Question() const {
+  const Backup& backup = settings_.TheBackup();
+  const std::string date = DateOf(backup, system_.clock);
+  std::string question = "All of system.ini will be replaced by system.qdix";
+  question += date.empty() ? "." : ", its copy of " + date + ".";
+  question +=
+      "\r\n\r\nEvery change that was made to system.ini after that will be lost, also those by Windows and "
+      "by other "
+      "programs. The present file is kept under another name.\r\n\r\n";
+  if (settings_.TheRecord().IsTaken() && !backup.agrees) {
+    question += "The copy is not of the time of the record.\r\n\r\n";
+  }
+  return question + "Do you want to replace system.ini?";
+}
+
+/// The commands need no long name, which the command prompt does not know before Windows has started.
+void WholeFile::TellSuccess(const std::string& kept_name) {
+  std::string text = "system.ini has been replaced.";
+  if (!kept_name.empty()) {
+    const std::string folder = settings_.WindowsFolder();
+    const std::string system_ini = folder + tuning::kSystemIni;
+    text +=
+        " The old file is now " + kept_name +
+        ".\r\n\r\nIf Windows does not start with the new one, start the computer at the command prompt and "
+        "type:\r\n\r\nattrib -r " +
+        system_ini + "\r\ncopy /y " + folder + kept_name + " " + system_ini;
+  }
+  if (entry_list_.ChooseOwnTemplate()) {
+    text +=
+        "\r\n\r\nThe file system template is still \"Quondix\". To put the old one back too, answer No to "
+        "the next "
+        "question and press \"Put Back\".";
+  }
+  system_.dialogs.MessageBoxA(text, application_.Title(), os::kMbOk | os::kMbIconInformation);
+}
+
+void WholeFile::TellFailure(const Replacement& replacement) {
+  const std::string text =
+      replacement.outcome == Replacement::Outcome::kRenamed
+          ? "system.ini could not be replaced, and is now called " + replacement.kept_name +
+                ". Give it the name system.ini again before you restart: Windows does not start without it."
+          : "system.ini could not be replaced, and has not been changed.\r\n\r\n"
+            "Please make sure that it is not write-protected, that no other program has it open and that the "
+            "disk "
+            "is not full, and try again.";
+  system_.dialogs.MessageBoxA(text, application_.Title(), os::kMbOk | os::kMbIconExclamation);
 }
 
 }  // namespace qdix::undo

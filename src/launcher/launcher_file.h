@@ -4,12 +4,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "os/files.h"
+#include "shell/file_content.h"
 
 namespace qdix::launcher {
 
@@ -49,9 +48,6 @@ struct LauncherEntry {
 /// The bytes of a record: each field filled up with blanks, or cut, to its width.
 [[nodiscard]] std::string RecordBytes(const LauncherEntry& entry);
 
-/// The content of a file, of which no more than `most_bytes` are read; nothing where it cannot be opened or
-/// read.
-[[nodiscard]] std::optional<std::string> ReadWholeFile(os::Files& files, const std::string& path,
-                                                       std::uint32_t most_bytes);
+using shell::ReadWholeFile;
 
 }  // namespace qdix::launcher

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace qdix::os {
 
@@ -26,6 +27,14 @@ inline constexpr std::uint32_t kOpenAlways = 4;
 
 inline constexpr std::uint32_t kInvalidFileSize = 0xFFFFFFFFU;
 
+/// What the folder of a file says of it.
+struct FoundFile {
+  /// Local date and time of the last change, in days since 30 December 1899.
+  double changed_days = 0;
+  /// The name of at most 8 and 3 characters by which programs of DOS know the file.
+  std::string dos_name;
+};
+
 class Files {
  public:
   virtual ~Files() = default;
@@ -34,11 +43,16 @@ class Files {
   /// its length; a length of `size_bytes` or more means that nothing fitted, 0 that it is not known.
   [[nodiscard]] virtual std::uint32_t GetWindowsDirectoryA(char* buffer, std::uint32_t size_bytes) = 0;
 
-  /// Copies a file over an earlier one. False when that failed; the target is as it was or gone.
+  /// Copies a file over an earlier one, with its date of change and its attributes. False when that failed;
+  /// the target is as it was, gone, or a part of the copy.
   virtual bool CopyFileA(const char* from, const char* to) = 0;
 
   /// The attribute bits of a file or folder, or kInvalidFileAttributes.
   [[nodiscard]] virtual std::uint32_t GetFileAttributesA(const char* path) = 0;
+
+  /// Looks a file up by its full path, which holds no wildcards. False where there is none or the system
+  /// refuses; `found` is written on success only.
+  [[nodiscard]] virtual bool FindFirstFileA(const char* path, FoundFile& found) = 0;
 
   /// Opens a file at its beginning; others may read it meanwhile. kInvalidFile where the system refuses. The
   /// caller closes it.

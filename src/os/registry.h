@@ -62,6 +62,10 @@ class Registry {
 
   [[nodiscard]] virtual std::int32_t RegDeleteValueA(KeyHandle key, const char* value_name) = 0;
 
+  /// Writes what was changed in the registry to the disk before it returns. Windows 95, 98 and ME otherwise
+  /// do that when they like.
+  virtual std::int32_t RegFlushKey(KeyHandle key) = 0;
+
   virtual std::int32_t RegCloseKey(KeyHandle key) = 0;
 };
 

@@ -74,6 +74,8 @@ bool RegistryKey::WriteText(const char* value_name, const std::string& text) {
   return registry_.RegSetValueExA(handle_, value_name, os::kRegSz, bytes, size_bytes) == os::kErrorSuccess;
 }
 
+bool RegistryKey::Flush() { return open_ && registry_.RegFlushKey(handle_) == os::kErrorSuccess; }
+
 bool RegistryKey::DeleteValue(const char* value_name) {
   return open_ && registry_.RegDeleteValueA(handle_, value_name) == os::kErrorSuccess;
 }

@@ -38,6 +38,8 @@ class RegistryKey {
   [[nodiscard]] bool HasValue(const char* value_name) const;
   /// Writes the text with its closing NUL. False when the system refuses.
   bool WriteText(const char* value_name, const std::string& text);
+  /// Writes what was changed to the disk. False when the system refuses.
+  bool Flush();
   /// False when there was no such value or the system refuses.
   bool DeleteValue(const char* value_name);
 

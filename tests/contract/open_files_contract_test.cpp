@@ -1,6 +1,7 @@
 // Files byte by byte: opening, reading on, writing, other names.
 #include <string>
 
+#include "base/text.h"
 #include "tests/contract/machine.h"
 
 namespace qdix::contract {
@@ -41,6 +42,7 @@ class OpenFilesContract : public ContractTest {
   }
 
   static constexpr const char* kFile = "C:\\qdix_contract.dat";
+  static constexpr const char* kShort = "C:\\qdixcont.dat";
   static constexpr const char* kOther = "C:\\qdix_contract.tmp";
 };
 
@@ -100,6 +102,47 @@ TEST_F(OpenFilesContract, FileIsNotMovedOverAnotherNorFromNowhere) {
   EXPECT_FALSE(system.files.MoveFileA(kFile, kOther));
   EXPECT_EQ(Content(kFile), "content");
   EXPECT_EQ(Content(kOther), "other");
+}
+
+TEST_F(OpenFilesContract, FoundFileTellsItsDateAndItsDosName) {
+  constexpr double kMinute = 1.0 / (24 * 60);
+  Write(kFile, "content");
+  os::FoundFile found;
+  ASSERT_TRUE(system.files.FindFirstFileA(kFile, found));
+  EXPECT_NEAR(found.changed_days, system.clock.Now(), kMinute);
+  EXPECT_LE(found.dos_name.size(), std::string("FILENAME.EXT").size()) << found.dos_name;
+  EXPECT_NE(found.dos_name, "");
+  EXPECT_EQ(found.dos_name.find_first_of(" \\"), std::string::npos) << found.dos_name;
+}
+
+TEST_F(OpenFilesContract, NameThatSuitsDosIsItsOwnDosName) {
+  Write(kShort, "content");
+  os::FoundFile found;
+  EXPECT_TRUE(system.files.FindFirstFileA(kShort, found));
+  EXPECT_EQ(base::UpperAscii(found.dos_name), "QDIXCONT.DAT");
+  system.files.DeleteFileA(kShort);
+}
+
+TEST_F(OpenFilesContract, MissingFileIsNotFound) {
+  os::FoundFile found{.changed_days = 7, .dos_name = "kept"};
+  EXPECT_FALSE(system.files.FindFirstFileA(kFile, found));
+  EXPECT_EQ(found.changed_days, 7);
+  EXPECT_EQ(found.dos_name, "kept");
+}
+
+TEST_F(OpenFilesContract, CopyKeepsTheDateOfItsSource) {
+  constexpr int kMoreThanASecondMs = 1500;
+  Write(kFile, "content");
+  os::FoundFile source;
+  ASSERT_TRUE(system.files.FindFirstFileA(kFile, source));
+  machine->LetTimePass(kMoreThanASecondMs);
+  ASSERT_TRUE(system.files.CopyFileA(kFile, kOther));
+  os::FoundFile copy;
+  ASSERT_TRUE(system.files.FindFirstFileA(kOther, copy));
+  EXPECT_EQ(copy.changed_days, source.changed_days);
+  Write(kOther, "changed");
+  ASSERT_TRUE(system.files.FindFirstFileA(kOther, copy));
+  EXPECT_GT(copy.changed_days, source.changed_days);
 }
 
 TEST_F(OpenFilesContract, DeletedFileIsGone) {

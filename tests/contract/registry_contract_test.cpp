@@ -229,6 +229,13 @@ TEST_F(RegistryContract, TwoHandlesOfOneKeySeeTheSameValues) {
   EXPECT_EQ(Query(reader.handle, "Name").bytes, TextWithNul("seen"));
 }
 
+TEST_F(RegistryContract, FlushedKeyKeepsItsValues) {
+  const OpenKey key = Create();
+  ASSERT_EQ(Set(key.handle, "Name", os::kRegSz, TextWithNul("kept")), os::kErrorSuccess);
+  EXPECT_EQ(system.registry.RegFlushKey(key.handle), os::kErrorSuccess);
+  EXPECT_EQ(Query(key.handle, "Name").bytes, TextWithNul("kept"));
+}
+
 TEST_F(RegistryContract, RootsAreKeysToo) {
   EXPECT_EQ(Query(os::kHkeyCurrentUser, "QDIX contract tests, missing").code, os::kErrorFileNotFound);
 }
@@ -247,6 +254,7 @@ TEST_F(RegistryContract, ClosedHandleIsInvalid) {
             os::kErrorInvalidHandle);
   EXPECT_EQ(system.registry.RegCreateKeyExA(closed, "Child", os::kKeyAllAccess, opened),
             os::kErrorInvalidHandle);
+  EXPECT_EQ(system.registry.RegFlushKey(closed), os::kErrorInvalidHandle);
   EXPECT_EQ(system.registry.RegCloseKey(closed), os::kErrorInvalidHandle);
   EXPECT_EQ(opened, kUntouched);
 }

@@ -140,8 +140,8 @@ TEST_F(SelfTest, FindsEverythingInOrderAndLeavesNothingButItsLog) {
     EXPECT_TRUE(results.contains(std::string("QDIX: tab \"") + page.caption + "\"")) << page.caption;
   }
   for (const char* const name :
-       {"Processor load", "Reading an INI file", "Drawing the graph", "undo: controls", "configL: controls",
-        "help: controls", "Releasing 1 MB", "Typing a text", "Finding all of it again",
+       {"Processor load", "Looking up a file", "Reading an INI file", "Drawing the graph", "undo: controls",
+        "configL: controls", "help: controls", "Releasing 1 MB", "Typing a text", "Finding all of it again",
         "Taking everything away again"}) {
     EXPECT_TRUE(results.contains(name)) << name;
   }

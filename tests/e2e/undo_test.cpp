@@ -22,6 +22,8 @@ constexpr const char* kIniAfter =
     "[boot]\r\nshell=Explorer.exe\r\nsound=new.drv\r\n\r\n"
     "[386Enh]\r\nPagingDrive=C:\r\nMinPagingFileSize=65536\r\nMaxPagingFileSize=65536\r\nPaging=on\r\n\r\n"
     "[vcache]\r\nMinFileCache=4096\r\nmaxfilecache=8192\r\nchunksize=512\r\n";
+/// What system.ini is called after it was replaced for the first time.
+constexpr const char* kKeptFile = "SYSTEM.Q01";
 constexpr std::array<const char*, 8> kBoxes{"chkMinFileCache",      "chkMaxFileCache", "chkChunkSize",
                                             "chkTemplate",          "chkPagingDrive",  "chkMinPagingFileSize",
                                             "chkMaxPagingFileSize", "chkPaging"};
@@ -48,8 +50,10 @@ class UndoSession : public testing::Test {
     SetRegistryText(kTemplates, "", "Quondix");
     SetWindowsFile(kSystemIni, kIniAfter);
     SetWindowsFile(kSystemBackup, std::nullopt);
+    SetWindowsFile(kKeptFile, std::nullopt);
   }
   void TearDown() override {
+    SetWindowsFile(kKeptFile, std::nullopt);
     if (HasFailure()) {
       EXPECT_TRUE(
           Photograph(std::string("failed_") + testing::UnitTest::GetInstance()->current_test_info()->name()));
@@ -109,11 +113,15 @@ TEST_F(UndoSession, RecordIsShownBesideWhatStandsNow) {
   EXPECT_EQ(program.Text("lblTemplateBefore"), "Desktop");
   EXPECT_EQ(program.Text("lblTemplateNow"), "Quondix");
   EXPECT_EQ(program.Text("lblMinPagingFileSizeBefore"), "not recorded; backup: 0");
+  EXPECT_EQ(program.Text("lblMaxPagingFileSizeBefore"), "(none)");
   EXPECT_EQ(program.Text("lblPagingBefore"), "not recorded; backup: (none)");
   for (const char* const box : kBoxes) {
     EXPECT_TRUE(program.IsEnabled(box)) << box;
-    EXPECT_TRUE(program.IsChecked(box)) << box;
+    EXPECT_EQ(program.IsChecked(box), std::string(box) != "chkPaging") << box;
   }
+  const std::string backup = program.Text("lblBackup");
+  EXPECT_TRUE(backup.starts_with("Backup: system.qdix in the Windows folder (")) << backup;
+  EXPECT_NE(backup.find(" at the command prompt), system.ini as of "), std::string::npos) << backup;
   ASSERT_TRUE(BringForward(program.MainWindow()));
   EXPECT_TRUE(Photograph("undo"));
   Close();
@@ -121,6 +129,8 @@ TEST_F(UndoSession, RecordIsShownBesideWhatStandsNow) {
 
 TEST_F(UndoSession, PutBackAsksWritesShowsAndOffersTheRestart) {
   StartWithRecord();
+  program.Press("chkPaging");
+  ASSERT_TRUE(program.Await([this] { return program.IsChecked("chkPaging"); }));
   program.Press("cmdPutBack");
   const MessageBox question = AwaitBox();
   EXPECT_EQ(question.title, "Q-DIX Undo");
@@ -161,9 +171,9 @@ TEST_F(UndoSession, NoChangesNothing) {
 TEST_F(UndoSession, OnlyTickedEntriesAreWritten) {
   StartWithRecord();
   for (const char* const box : kBoxes) {
-    if (std::string(box) != "chkTemplate") program.Press(box);
+    if (std::string(box) != "chkTemplate" && program.IsChecked(box)) program.Press(box);
   }
-  ASSERT_TRUE(program.Await([this] { return !program.IsChecked("chkPaging"); }));
+  ASSERT_TRUE(program.Await([this] { return !program.IsChecked("chkMaxPagingFileSize"); }));
   program.Press("cmdPutBack");
   const MessageBox question = AwaitBox();
   EXPECT_NE(question.text.find("File system template: put back Desktop"), std::string::npos);
@@ -176,7 +186,7 @@ TEST_F(UndoSession, OnlyTickedEntriesAreWritten) {
 
 TEST_F(UndoSession, WholeFileComesBackByteForByteAndTheRestartIsAskedForOnce) {
   StartWithRecord();
-  const std::string odd_bytes("; \xFF\x01 odd\n\n[386Enh]\nPagingDrive=E:");
+  const std::string odd_bytes("; \xFF\x01 odd\n\n[boot]\n[386Enh]\nPagingDrive=E:\n");
   SetWindowsFile(kSystemBackup, odd_bytes);
   RestartWatch watch(program.Process());
   ASSERT_TRUE(watch.Begin());
@@ -185,6 +195,13 @@ TEST_F(UndoSession, WholeFileComesBackByteForByteAndTheRestartIsAskedForOnce) {
   EXPECT_TRUE(warning.text.starts_with("All of system.ini will be replaced")) << warning.text;
   EXPECT_TRUE(Photograph("undo_warning"));
   ASSERT_TRUE(PressButton(warning, IDYES));
+  const MessageBox news = AwaitBox();
+  EXPECT_TRUE(news.text.starts_with("system.ini has been replaced. The old file is now SYSTEM.Q01."))
+      << news.text;
+  EXPECT_NE(news.text.find("is still \"Quondix\""), std::string::npos) << news.text;
+  EXPECT_TRUE(Photograph("undo_replaced"));
+  EXPECT_EQ(WindowsFile(kKeptFile), kIniAfter);
+  ASSERT_TRUE(PressButton(news, IDOK));
   const MessageBox offer = AwaitBox();
   EXPECT_EQ(watch.Count(), 0U);
   EXPECT_EQ(WindowsFile(kSystemIni), odd_bytes);
@@ -213,9 +230,55 @@ TEST_F(UndoSession, FileThatCannotBeWrittenIsNamed) {
   program.Press("cmdRestore");
   ASSERT_TRUE(PressButton(AwaitBox(), IDYES));
   const MessageBox refusal = AwaitBox();
-  EXPECT_TRUE(refusal.text.starts_with("system.ini could not be replaced.")) << refusal.text;
+  EXPECT_TRUE(refusal.text.starts_with("system.ini could not be replaced, and has not been changed."))
+      << refusal.text;
   ASSERT_TRUE(PressButton(refusal, IDOK));
   EXPECT_EQ(WindowsFile(kSystemIni), kIniAfter);
+  Close();
+}
+
+TEST_F(UndoSession, DamagedBackupIsSaidAndNothingIsTakenFromIt) {
+  TakeRecord();
+  SetWindowsFile(kSystemBackup, "[boot]\r\nshell=Explorer.exe\r\n[386Enh]\r\nPagingDr");
+  Start();
+  EXPECT_EQ(program.Text("lblBackup"),
+            "system.qdix in the Windows folder is damaged: it ends in the middle of a line. Nothing is taken "
+            "from it.");
+  EXPECT_FALSE(program.IsEnabled("cmdRestore"));
+  EXPECT_EQ(program.Text("lblPagingBefore"), "not recorded");
+  EXPECT_TRUE(Photograph("undo_damaged_backup"));
+  Close();
+}
+
+TEST_F(UndoSession, WholeFileCanBeRestoredWithoutARecord) {
+  SetWindowsFile(kSystemBackup, kIniBefore);
+  Start();
+  EXPECT_TRUE(
+      program.Text("lblState").starts_with("Nothing is recorded, so single settings cannot be put back."));
+  for (const char* const box : kBoxes) EXPECT_FALSE(program.IsEnabled(box)) << box;
+  program.Press("cmdRestore");
+  ASSERT_TRUE(PressButton(AwaitBox(), IDYES));
+  ASSERT_TRUE(PressButton(AwaitBox(), IDOK));
+  ASSERT_TRUE(PressButton(AwaitBox(), IDNO));
+  EXPECT_EQ(WindowsFile(kSystemIni), kIniBefore);
+  EXPECT_EQ(WindowsFile(kKeptFile), kIniAfter);
+  EXPECT_TRUE(program.IsChecked("chkTemplate"));
+  program.Press("cmdPutBack");
+  ASSERT_TRUE(PressButton(AwaitBox(), IDYES));
+  ASSERT_TRUE(PressButton(AwaitBox(), IDNO));
+  EXPECT_EQ(RegistryText(kTemplates, ""), std::nullopt);
+  Close();
+}
+
+TEST_F(UndoSession, SystemIniWithoutBootIsWarnedOf) {
+  TakeRecord();
+  SetWindowsFile(kSystemIni, "[386Enh]\r\nPagingDrive=C:\r\n");
+  Start();
+  EXPECT_EQ(program.Text("lblState"),
+            "Warning: system.ini has no section [boot]. Windows does not start without it. Restore the whole "
+            "file before "
+            "you restart.");
+  EXPECT_TRUE(Photograph("undo_without_boot"));
   Close();
 }
 

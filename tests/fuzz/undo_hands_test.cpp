@@ -12,11 +12,14 @@ namespace qdix::tests {
 namespace {
 
 constexpr unsigned long kEvents = 12000;
-constexpr std::array<const char*, 6> kFailingCalls{"WritePrivateProfileStringA",
+constexpr std::array<const char*, 9> kFailingCalls{"WritePrivateProfileStringA",
                                                    "GetPrivateProfileStringA",
                                                    "RegSetValueExA",
                                                    "RegOpenKeyExA",
-                                                   "CopyFileA",
+                                                   "CreateFileA",
+                                                   "WriteFile",
+                                                   "MoveFileA",
+                                                   "FindFirstFileA",
                                                    "ExitWindowsEx"};
 
 class UndoHands : private RandomSource {
@@ -55,6 +58,11 @@ class UndoHands : private RandomSource {
     if (Chance(10)) rig_.machine.FailNextCall(kFailingCalls[Random() % kFailingCalls.size()]);
     if (Chance(20)) rig_.machine.LimitFreeBytes(Random() % 100);
     if (Chance(20)) rig_.machine.LimitFreeBytes(1000000);
+    if (Chance(20)) rig_.machine.HoldFile(Chance(2) ? kIniPath : kBackupPath);
+    if (Chance(10)) {
+      rig_.machine.LetGoOfFile(kIniPath);
+      rig_.machine.LetGoOfFile(kBackupPath);
+    }
     // Another program changes what this one puts back.
     if (Chance(15)) rig_.SetTemplate(Chance(2) ? "Quondix" : "Desktop");
     if (Chance(60)) rig_.form->EndSession();

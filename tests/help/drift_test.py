@@ -30,7 +30,7 @@ NOT_IN_A_BOX = {
     "times since Q-DIX was started on", "Next Release of RAM is due in", "Your system has been running for",
     "These settings were recorded before Q-DIX changed this computer for the first time. Tick those that are to be "
     "put back.",
-    "Backup: system.qdix in the Windows folder, the copy of system.ini that was made before the first change.",
+    "Backup: system.qdix in the Windows folder",
     # kinds of drives, which no window shows
     "The drive type cannot be determined.", "The root directory does not exist.", "Hard drive; can not be removed.",
     # titles

@@ -123,6 +123,19 @@ void SetEntry(Lines& lines, const char* section, const char* key, const char* va
   lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(PlaceForNewEntry(lines, *found)), line);
 }
 
+/// The name that DOS knows a file by where no other file of the folder has a similar one.
+std::string DosNameOf(const std::string& upper_path) {
+  constexpr std::size_t kNameLength = 8;
+  constexpr std::size_t kExtensionLength = 3;
+  std::string name = upper_path.substr(upper_path.rfind('\\') + 1);
+  const std::size_t dot = name.rfind('.');
+  if (dot == std::string::npos) return name;
+  const std::string extension = name.substr(dot + 1);
+  name.resize(dot);
+  if (name.size() <= kNameLength && extension.size() <= kExtensionLength) return name + "." + extension;
+  return name.substr(0, kNameLength - 2) + "~1." + extension.substr(0, kExtensionLength);
+}
+
 }  // namespace
 
 std::string SimulatedFiles::UpperPath(const std::string& path) { return base::UpperAscii(path); }
@@ -151,17 +164,23 @@ bool SimulatedFiles::CopyFileA(const char* from, const char* to) {
     log_.Misuse(std::string("CopyFileA over a profile file that is kept in memory: ") + to);
   }
   const auto content = Read(from);
-  if (!content || read_only_.contains(UpperPath(to))) return false;
-  return WriteWithinFreeBytes(UpperPath(to), *content);
+  const std::string source = UpperPath(from);
+  const std::string target = UpperPath(to);
+  if (!content || held_.contains(source) || IsProtected(target) || BeginWrite() != Power::kOn) return false;
+  Store(target, "");
+  if (Put(target, 0, *content) != content->size()) return false;
+  changed_days_[target] = changed_days_[source];
+  if (read_only_.contains(source)) read_only_.insert(target);
+  return true;
 }
 
 /// What does not fit leaves the file as it is.
 bool SimulatedFiles::WriteWithinFreeBytes(const std::string& upper_path, const std::string& content) {
   const std::size_t before_bytes = Read(upper_path).value_or("").size();
   const std::size_t growth_bytes = content.size() - std::min(content.size(), before_bytes);
-  if (growth_bytes > free_bytes_) return false;
+  if (growth_bytes > free_bytes_ || BeginWrite() != Power::kOn) return false;
   free_bytes_ -= growth_bytes;
-  files_[upper_path] = content;
+  Store(upper_path, content);
   return true;
 }
 
@@ -172,6 +191,12 @@ std::uint32_t SimulatedFiles::GetFileAttributesA(const char* path) {
   return read_only_.contains(UpperPath(path)) ? kFileAttributeReadOnly : kArchive;
 }
 
+bool SimulatedFiles::FindFirstFileA(const char* path, FoundFile& found) {
+  if (log_.RecordAndFail("FindFirstFileA", path) || !Read(path)) return false;
+  found = {.changed_days = changed_days_[UpperPath(path)], .dos_name = DosNameOf(UpperPath(path))};
+  return true;
+}
+
 std::uint32_t SimulatedFiles::GetPrivateProfileStringA(const char* section, const char* key,
                                                        const char* missing, char* buffer,
                                                        std::uint32_t size_bytes, const char* file) {
@@ -179,7 +204,7 @@ std::uint32_t SimulatedFiles::GetPrivateProfileStringA(const char* section, cons
       log_.RecordAndFail("GetPrivateProfileStringA", std::string(file) + " [" + section + "] " + key);
   kept_.insert(ProfilePath(file));
   const auto content = Read(ProfilePath(file));
-  if (fails || !content) return Copy(missing, buffer, size_bytes);
+  if (fails || !content || held_.contains(ProfilePath(file))) return Copy(missing, buffer, size_bytes);
   const Lines lines = LinesOf(*content);
   const auto found = FindSection(lines, section);
   const auto entry = found ? FindEntry(lines, *found, key) : std::nullopt;
@@ -204,7 +229,7 @@ bool SimulatedFiles::WritePrivateProfileStringA(const char* section, const char*
   }
   const std::string path = ProfilePath(file);
   kept_.insert(path);
-  if (read_only_.contains(path)) return false;
+  if (read_only_.contains(path) || held_.contains(path)) return false;
   Lines lines = LinesOf(Read(path).value_or(""));
   if (value == nullptr) {
     RemoveEntry(lines, section, key);

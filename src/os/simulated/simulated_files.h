@@ -5,6 +5,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 
 #include "os/files.h"
 #include "os/profile_files.h"
@@ -19,6 +20,7 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   std::uint32_t GetWindowsDirectoryA(char* buffer, std::uint32_t size_bytes) override;
   bool CopyFileA(const char* from, const char* to) override;
   std::uint32_t GetFileAttributesA(const char* path) override;
+  bool FindFirstFileA(const char* path, FoundFile& found) override;
   FileHandle CreateFileA(const char* path, std::uint32_t access, std::uint32_t disposition) override;
   void CloseHandle(FileHandle file) override;
   std::uint32_t GetFileSize(FileHandle file) override;
@@ -36,15 +38,25 @@ class SimulatedFiles final : public Files, public ProfileFiles {
 
   // The disk as a test sees it; none of these is recorded.
   void SetWindowsDirectory(const std::string& folder) { windows_directory_ = folder; }
-  void Write(const std::string& path, const std::string& content) { files_[UpperPath(path)] = content; }
+  void Write(const std::string& path, const std::string& content) { Store(UpperPath(path), content); }
   [[nodiscard]] std::optional<std::string> Read(const std::string& path) const;
   /// False where there is none.
   bool Erase(const std::string& path) { return files_.erase(UpperPath(path)) == 1; }
   void Protect(const std::string& path) { read_only_.insert(UpperPath(path)); }
+  /// Another program has this file open for itself alone, until it lets go of it.
+  void Hold(const std::string& path) { held_.insert(UpperPath(path)); }
+  void LetGo(const std::string& path) { held_.erase(UpperPath(path)); }
   /// No file can be made any more, as on a CD; those that are there can be read.
   void ProtectDisk() { disk_is_protected_ = true; }
   /// From now on the disk takes this many bytes more.
   void LimitFreeBytes(std::uint64_t bytes) { free_bytes_ = bytes; }
+  /// The date that a file gets when it is changed, in days since 30 December 1899.
+  void SetNow(double days) { now_days_ = days; }
+  /// How often the disk was written to. A copy writes twice: it empties its target first.
+  [[nodiscard]] int WriteCount() const { return writes_; }
+  /// The power fails in this write, the first being 1: half of its bytes reach the disk, a name stays as it
+  /// was, and nothing is written any more.
+  void CutPowerInWrite(int number) { last_write_ = number; }
   [[nodiscard]] int OpenCount() const { return static_cast<int>(open_.size()); }
 
  private:
@@ -55,8 +67,21 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   };
   /// Null, and a misuse, for a handle that is not open.
   [[nodiscard]] OpenFile* FindOpen(FileHandle file);
+  /// True where it cannot be written to.
   [[nodiscard]] bool IsProtected(const std::string& upper_path) const;
 
+  enum class Power : unsigned char {
+    kOn,
+    kFailsNow,
+    kOff
+  };
+  /// Counts a write and tells what becomes of it.
+  [[nodiscard]] Power BeginWrite();
+  void Store(const std::string& upper_path, const std::string& content);
+  /// Puts at the place what fits on the disk, or half of it where the power fails; returns how many bytes
+  /// that were.
+  std::size_t Put(const std::string& upper_path, std::size_t place, std::string_view bytes);
+  void MoveName(const std::string& from, const std::string& to);
   bool WriteWithinFreeBytes(const std::string& upper_path, const std::string& content);
   static std::string UpperPath(const std::string& path);
   /// A bare name is one in the Windows directory.
@@ -66,13 +91,20 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   CallLog& log_;
   std::string windows_directory_ = "C:\\WINDOWS";
   std::map<std::string, std::string> files_;
+  /// Dates of the last change.
+  std::map<std::string, double> changed_days_;
   std::set<std::string> read_only_;
+  std::set<std::string> held_;
   /// Profile files that the system keeps in memory.
   std::set<std::string> kept_;
   std::map<FileHandle, OpenFile> open_;
   FileHandle next_file_ = 0x40;
   std::uint64_t free_bytes_ = ~std::uint64_t{0};
   bool disk_is_protected_ = false;
+  double now_days_ = 0;
+  int writes_ = 0;
+  /// The write in which the power fails; 0 where it does not.
+  int last_write_ = 0;
 };
 
 }  // namespace qdix::os::simulated

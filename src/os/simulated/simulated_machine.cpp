@@ -102,7 +102,7 @@ void SimulatedMachine::SetCpuLoadBytes(const std::string& bytes) {
 }
 
 void SimulatedMachine::AdvanceMs(std::int64_t ms) {
-  now_days_ += static_cast<double>(ms) / kMsPerDay;
+  SetNow(now_days_ + static_cast<double>(ms) / kMsPerDay);
   tick_count_ms_ += static_cast<std::uint32_t>(ms);
 }
 

@@ -70,10 +70,20 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   }
   /// Nobody can write into this file any more.
   void ProtectFile(const std::string& path) { files_.Protect(path); }
+  /// Another program has this file open for itself alone, until it lets go of it.
+  void HoldFile(const std::string& path) { files_.Hold(path); }
+  void LetGoOfFile(const std::string& path) { files_.LetGo(path); }
   /// No file can be made any more, as on a CD; those that are there can be read.
   void ProtectDisk() { files_.ProtectDisk(); }
   /// From now on the disk takes this many bytes more.
   void LimitFreeBytes(std::uint64_t bytes) { files_.LimitFreeBytes(bytes); }
+  /// How often the disk was written to.
+  [[nodiscard]] int DiskWriteCount() const { return files_.WriteCount(); }
+  /// The power fails in this write, the first being 1: half of its bytes reach the disk, and nothing after
+  /// it.
+  void CutPowerInDiskWrite(int number) { files_.CutPowerInWrite(number); }
+  /// True where there was one.
+  bool EraseFile(const std::string& path) { return files_.Erase(path); }
   [[nodiscard]] int OpenFileCount() const { return files_.OpenCount(); }
   /// A folder that a program can be started in.
   void AddFolder(const std::string& path) { folders_.insert(base::UpperAscii(path)); }
@@ -138,7 +148,10 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   void SetCpuLoadBytes(const std::string& bytes);
 
   // Time and this process.
-  void SetNow(double days) { now_days_ = days; }
+  void SetNow(double days) {
+    now_days_ = days;
+    files_.SetNow(days);
+  }
   void AdvanceMs(std::int64_t ms);
   /// The process ends, and with it the mutexes that it holds.
   void EndProcess() { mutexes_.clear(); }

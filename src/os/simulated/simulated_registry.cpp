@@ -163,6 +163,12 @@ std::int32_t SimulatedRegistry::RegDeleteValueA(KeyHandle key, const char* value
   return keys_[open->path].values.erase(value_name) == 1 ? kErrorSuccess : kErrorFileNotFound;
 }
 
+std::int32_t SimulatedRegistry::RegFlushKey(KeyHandle key) {
+  const auto open = FindOpen(key);
+  if (log_.RecordAndFail("RegFlushKey", open ? open->path : "invalid")) return kErrorAccessDenied;
+  return open ? kErrorSuccess : kErrorInvalidHandle;
+}
+
 std::int32_t SimulatedRegistry::RegCloseKey(KeyHandle key) {
   log_.Record("RegCloseKey");
   if (open_.erase(key) == 1) return kErrorSuccess;

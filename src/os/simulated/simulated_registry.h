@@ -34,6 +34,7 @@ class SimulatedRegistry final : public Registry {
   std::int32_t RegSetValueExA(KeyHandle key, const char* value_name, std::uint32_t type,
                               const std::uint8_t* data, std::uint32_t size_bytes) override;
   std::int32_t RegDeleteValueA(KeyHandle key, const char* value_name) override;
+  std::int32_t RegFlushKey(KeyHandle key) override;
   std::int32_t RegCloseKey(KeyHandle key) override;
 
   // The tree as a test sees it; none of these is recorded.

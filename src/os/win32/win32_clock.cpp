@@ -5,12 +5,11 @@
 #include <array>
 
 #include "base/date.h"
+#include "os/win32/system_time.h"
 
 namespace qdix::os::win32 {
 
 namespace {
-
-constexpr double kSecondsPerDay = 24.0 * 60 * 60;
 
 /// Room for a long date of any language, its NUL included.
 constexpr int kLongDateRoom = 128;
@@ -20,8 +19,7 @@ constexpr int kLongDateRoom = 128;
 double Win32Clock::Now() {
   SYSTEMTIME now{};
   GetLocalTime(&now);
-  const int seconds = (now.wHour * 60 + now.wMinute) * 60 + now.wSecond;
-  return base::DaysOfDate(now.wYear, now.wMonth, now.wDay) + seconds / kSecondsPerDay;
+  return DaysOf(now);
 }
 
 std::uint32_t Win32Clock::GetTickCount() { return ::GetTickCount(); }

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "os/win32/system_time.h"
+
 namespace qdix::os::win32 {
 
 namespace {
@@ -21,6 +23,23 @@ std::uint32_t Win32Files::GetWindowsDirectoryA(char* buffer, std::uint32_t size_
 bool Win32Files::CopyFileA(const char* from, const char* to) { return ::CopyFileA(from, to, FALSE) != 0; }
 
 std::uint32_t Win32Files::GetFileAttributesA(const char* path) { return ::GetFileAttributesA(path); }
+
+bool Win32Files::FindFirstFileA(const char* path, FoundFile& found) {
+  WIN32_FIND_DATAA data{};
+  const HANDLE search = ::FindFirstFileA(path, &data);
+  if (search == INVALID_HANDLE_VALUE) return false;
+  FindClose(search);
+  FILETIME local{};
+  SYSTEMTIME changed{};
+  if (FileTimeToLocalFileTime(&data.ftLastWriteTime, &local) == 0 ||
+      FileTimeToSystemTime(&local, &changed) == 0) {
+    return false;
+  }
+  found.changed_days = DaysOf(changed);
+  // A name that suits DOS has no second one.
+  found.dos_name = data.cAlternateFileName[0] != '\0' ? data.cAlternateFileName : data.cFileName;
+  return true;
+}
 
 FileHandle Win32Files::CreateFileA(const char* path, std::uint32_t access, std::uint32_t disposition) {
   return reinterpret_cast<FileHandle>(

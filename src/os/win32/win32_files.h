@@ -10,6 +10,7 @@ class Win32Files final : public Files {
   [[nodiscard]] std::uint32_t GetWindowsDirectoryA(char* buffer, std::uint32_t size_bytes) override;
   bool CopyFileA(const char* from, const char* to) override;
   [[nodiscard]] std::uint32_t GetFileAttributesA(const char* path) override;
+  [[nodiscard]] bool FindFirstFileA(const char* path, FoundFile& found) override;
   [[nodiscard]] FileHandle CreateFileA(const char* path, std::uint32_t access,
                                        std::uint32_t disposition) override;
   void CloseHandle(FileHandle file) override;

@@ -66,6 +66,8 @@ std::int32_t Win32Registry::RegDeleteValueA(KeyHandle key, const char* value_nam
   return ::RegDeleteValueA(ToKey(key), value_name);
 }
 
+std::int32_t Win32Registry::RegFlushKey(KeyHandle key) { return ::RegFlushKey(ToKey(key)); }
+
 std::int32_t Win32Registry::RegCloseKey(KeyHandle key) { return ::RegCloseKey(ToKey(key)); }
 
 }  // namespace qdix::os::win32

@@ -1,6 +1,7 @@
 #include "tuning/cache/first_save.h"
 
 #include "base/numbers.h"
+#include "shell/registry_key.h"
 #include "tuning/cache/file_system_template.h"
 #include "tuning/cache/record_names.h"
 
@@ -20,6 +21,7 @@ void FirstSave::CheckFirstSave() {
   RecordPagingEntry(kRecordedPagingDrive, "PagingDrive");
   RecordPagingEntry(kRecordedMinPagingFile, "MinPagingFileSize");
   RecordPagingEntry(kRecordedMaxPagingFile, "MaxPagingFileSize");
+  shell::RegistryKey::Open(system_.registry, os::kHkeyLocalMachine, kMachineKey, os::kKeyQueryValue).Flush();
 }
 
 void FirstSave::Record(const char* value_name, const std::string& text) {

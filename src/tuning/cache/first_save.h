@@ -12,9 +12,10 @@ namespace qdix::tuning {
 class FirstSave {
  public:
   FirstSave(const os::System& system, SystemIni& system_ini)
-      : registry_(system.registry), paths_(system.registry), system_ini_(system_ini) {}
+      : system_(system), registry_(system.registry), paths_(system.registry), system_ini_(system_ini) {}
 
-  /// Takes backup and record where none was taken before; what fails is passed over and not tried again.
+  /// Takes backup and record where none was taken before, and writes the record to the disk: after a crash
+  /// there must be no changed system.ini without it. What fails is passed over and not tried again.
   void CheckFirstSave();
 
  private:
@@ -22,6 +23,7 @@ class FirstSave {
   void RecordCacheSize(const char* value_name, const char* key);
   void RecordPagingEntry(const char* value_name, const char* key);
 
+  const os::System& system_;
   shell::ModuleRegistry registry_;
   shell::RegistryPaths paths_;
   SystemIni& system_ini_;

@@ -10,7 +10,7 @@
 namespace qdix::tuning {
 
 inline constexpr const char* kSystemIni = "system.ini";
-/// Its copy from before the program's first change, beside it.
+/// Its copy beside it, made before the program's first change. One that could not be replaced then is older.
 inline constexpr const char* kSystemBackup = "system.qdix";
 inline constexpr const char* kVcacheSection = "vcache";
 inline constexpr const char* k386EnhSection = "386Enh";
@@ -41,7 +41,8 @@ class SystemIni {
   /// Removes an entry. A refusal is passed over.
   void DeleteIniValue(const char* section, const char* key, const char* file);
 
-  /// Copies system.ini to system.qdix beside it, over an earlier one. A failure is passed over.
+  /// Copies system.ini to system.qdix beside it, over an earlier one. A failure is passed over, and leaves no
+  /// file, the earlier one, or a part.
   void BackupSystemINI();
 
   /// The Windows directory with a backslash at its end.

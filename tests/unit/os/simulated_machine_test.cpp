@@ -386,16 +386,71 @@ TEST_F(SimulatedMachineTest, CopyOverAProfileFileThatIsKeptInMemoryIsMisuse) {
   machine.ForgetMisuses();
 }
 
-TEST_F(SimulatedMachineTest, FullDiskTakesNeitherCopiesNorEntriesThatMakeAFileGrow) {
+TEST_F(SimulatedMachineTest, FullDiskTakesThePartOfACopyThatFitsAndNoEntryThatMakesAFileGrow) {
   machine.WriteFile("C:\\WINDOWS\\system.ini", "[a]\r\nkey=12345\r\n");
+  machine.WriteFile("C:\\COPY", "an earlier file, which the copy empties first");
   machine.LimitFreeBytes(3);
   EXPECT_FALSE(system.files.CopyFileA("C:\\WINDOWS\\system.ini", "C:\\COPY"));
-  EXPECT_FALSE(machine.ReadFile("C:\\COPY").has_value());
+  EXPECT_EQ(machine.ReadFile("C:\\COPY"), "[a]");
+  machine.LimitFreeBytes(3);
   EXPECT_FALSE(system.profile_files.WritePrivateProfileStringA("a", "key", "123456789", "system.ini"));
   EXPECT_EQ(machine.ReadFile("C:\\WINDOWS\\system.ini"), "[a]\r\nkey=12345\r\n");
   EXPECT_TRUE(system.profile_files.WritePrivateProfileStringA("a", "key", "1", "system.ini"));
   EXPECT_TRUE(system.profile_files.WritePrivateProfileStringA("a", "key", "1234", "system.ini"));
   EXPECT_FALSE(system.profile_files.WritePrivateProfileStringA("a", "key", "12345", "system.ini"));
+}
+
+TEST_F(SimulatedMachineTest, PowerCutLeavesHalfAWriteAndNothingAfterIt) {
+  machine.WriteFile("C:\\A", "12345678");
+  machine.WriteFile("C:\\B", "earlier");
+  machine.CutPowerInDiskWrite(2);
+  EXPECT_FALSE(system.files.CopyFileA("C:\\A", "C:\\B"))
+      << "emptied by the first write, half filled by the second";
+  EXPECT_EQ(machine.ReadFile("C:\\B"), "1234");
+  EXPECT_FALSE(system.files.MoveFileA("C:\\A", "C:\\C"));
+  EXPECT_FALSE(system.files.DeleteFileA("C:\\A"));
+  EXPECT_EQ(system.files.CreateFileA("C:\\A", kGenericWrite, kCreateAlways), kInvalidFile);
+  EXPECT_FALSE(system.profile_files.WritePrivateProfileStringA("a", "key", "1", "C:\\A"));
+  EXPECT_EQ(machine.ReadFile("C:\\A"), "12345678");
+}
+
+TEST_F(SimulatedMachineTest, PowerCutInTheMakingOfAFileLeavesItEmpty) {
+  machine.WriteFile("C:\\A", "12345678");
+  machine.CutPowerInDiskWrite(1);
+  EXPECT_EQ(system.files.CreateFileA("C:\\A", kGenericWrite, kCreateAlways), kInvalidFile);
+  EXPECT_EQ(machine.ReadFile("C:\\A"), "");
+}
+
+TEST_F(SimulatedMachineTest, FileThatAnotherProgramHoldsIsClosedToAll) {
+  machine.WriteFile("C:\\WINDOWS\\A.INI", "[s]\r\nk=1\r\n");
+  machine.HoldFile("C:\\windows\\a.ini");
+  std::array<char, 8> value{};
+  EXPECT_EQ(system.files.CreateFileA("C:\\WINDOWS\\A.INI", kGenericRead, kOpenExisting), kInvalidFile);
+  EXPECT_EQ(system.profile_files.GetPrivateProfileStringA("s", "k", "", value.data(), value.size(), "a.ini"),
+            0U);
+  EXPECT_FALSE(system.profile_files.WritePrivateProfileStringA("s", "k", "2", "a.ini"));
+  system.profile_files.WritePrivateProfileStringA(nullptr, nullptr, nullptr, "a.ini");
+  EXPECT_FALSE(system.files.CopyFileA("C:\\WINDOWS\\A.INI", "C:\\B"));
+  EXPECT_FALSE(system.files.MoveFileA("C:\\WINDOWS\\A.INI", "C:\\WINDOWS\\B.INI"));
+  EXPECT_FALSE(system.files.DeleteFileA("C:\\WINDOWS\\A.INI"));
+  machine.LetGoOfFile("C:\\WINDOWS\\A.INI");
+  EXPECT_TRUE(system.files.MoveFileA("C:\\WINDOWS\\A.INI", "C:\\WINDOWS\\B.INI"));
+}
+
+TEST_F(SimulatedMachineTest, WriteProtectionGoesWithANameAndACopy) {
+  machine.WriteFile("C:\\A", "a");
+  machine.ProtectFile("C:\\A");
+  EXPECT_TRUE(system.files.CopyFileA("C:\\A", "C:\\B"));
+  EXPECT_TRUE(system.files.MoveFileA("C:\\A", "C:\\C"));
+  EXPECT_EQ(system.files.GetFileAttributesA("C:\\B"), kFileAttributeReadOnly);
+  EXPECT_EQ(system.files.GetFileAttributesA("C:\\C"), kFileAttributeReadOnly);
+}
+
+TEST_F(SimulatedMachineTest, MovingAProfileFileThatIsKeptInMemoryIsMisuse) {
+  ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "1", "a.ini"));
+  EXPECT_TRUE(system.files.MoveFileA("C:\\WINDOWS\\a.ini", "C:\\WINDOWS\\b.ini"));
+  EXPECT_EQ(machine.Misuses().size(), 1U);
+  machine.ForgetMisuses();
 }
 
 // Long runs.

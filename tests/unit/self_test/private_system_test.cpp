@@ -125,6 +125,16 @@ TEST_F(PrivateSystem, FilesAreChangedInTheOwnFolderOnly) {
   EXPECT_TRUE(Files().DeleteFileA("C:\\TEMP\\QDIXTEST\\B.TXT"));
 }
 
+TEST_F(PrivateSystem, EveryFileCanBeLookedUpAndTheOwnKeysFlushed) {
+  machine.WriteFile("C:\\A.TXT", "a");
+  os::FoundFile found;
+  EXPECT_TRUE(Files().FindFirstFileA("C:\\A.TXT", found));
+  EXPECT_EQ(found.dos_name, "A.TXT");
+  auto key = shell::RegistryKey::Create(Registry(), os::kHkeyLocalMachine, "SOFTWARE\\QDIX");
+  EXPECT_TRUE(key.Flush());
+  EXPECT_EQ(Registry().RegFlushKey(os::kHkeyLocalMachine), os::kErrorSuccess) << "nothing to write";
+}
+
 TEST_F(PrivateSystem, SystemIniIsOneOfItsOwn) {
   char text[16] = {};
   EXPECT_TRUE(ProfileFiles().WritePrivateProfileStringA("vcache", "MinFileCache", "1", "system.ini"));

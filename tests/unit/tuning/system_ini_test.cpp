@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "os/simulated/simulated_machine.h"
 #include "tuning/cache/first_save.h"
 #include "tuning/cache/vcache_value.h"
@@ -144,6 +146,24 @@ TEST_F(FirstSave, TakesBackupAndRecord) {
             (std::vector<std::string>{"FirstSave", "OldMinCache", "OldMaxCache", "OldChunk", "OldFileCache",
                                       "OldPagingDrive", "OldMinPagingFileSize"}));
   EXPECT_EQ(machine.OpenKeyCount(), 0);
+}
+
+TEST_F(FirstSave, RecordIsOnTheDiskAtTheEnd) {
+  first_save.CheckFirstSave();
+  const auto& calls = machine.Calls();
+  const auto flush = std::find(calls.begin(), calls.end(), "RegFlushKey(HKLM\\SOFTWARE\\QDIX)");
+  ASSERT_NE(flush, calls.end());
+  EXPECT_EQ(std::count_if(flush, calls.end(), [](const auto& call) { return call.starts_with("RegSet"); }),
+            0);
+  EXPECT_EQ(std::count(calls.begin(), calls.end(), *flush), 1);
+  EXPECT_EQ(machine.OpenKeyCount(), 0);
+}
+
+TEST_F(FirstSave, CopyOnAFullDiskLeavesAPart) {
+  machine.LimitFreeBytes(10);
+  first_save.CheckFirstSave();
+  EXPECT_EQ(machine.ReadFile(kBackupPath), std::string(kIni).substr(0, 10));
+  EXPECT_EQ(machine.ReadFile(kIniPath), kIni);
 }
 
 TEST_F(FirstSave, SecondCallChangesNothingAndCopiesNothing) {

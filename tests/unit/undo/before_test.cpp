@@ -9,6 +9,7 @@ namespace {
 constexpr const Entry& kSize = kEntries[0];
 constexpr const Entry& kTemplate = kEntries[3];
 constexpr const Entry& kDrive = kEntries[4];
+constexpr const Entry& kPaging = kEntries[7];
 constexpr std::size_t kRoom = 20;
 
 void ExpectUnusable(const Before& before, const std::string& text) {
@@ -68,22 +69,82 @@ TEST(BeforeFromBackup, TellsTextAndLackOfIt) {
   ExpectUnusable(FromBackup(std::string(255, 'x')), std::string(255, 'x'));
 }
 
-TEST(StandsAsBefore, SizesFromTheRecordCompareAsTheNumbersTheyBeginWith) {
+TEST(IsAsBefore, SizesOfWhichOnlyTheNumberIsKnownCompareAsNumbers) {
   const Before recorded = FromRecord(kSize, "8192");
-  EXPECT_TRUE(StandsAsBefore(kSize, recorded, "8192 KB"));
-  EXPECT_FALSE(StandsAsBefore(kSize, recorded, "4096"));
-  EXPECT_FALSE(StandsAsBefore(kSize, recorded, std::nullopt));
-  EXPECT_TRUE(StandsAsBefore(kSize, FromRecord(kSize, "0"), std::nullopt));
-  EXPECT_TRUE(StandsAsBefore(kSize, FromRecord(kSize, "0"), "0"));
-  EXPECT_FALSE(StandsAsBefore(kSize, FromRecord(kSize, "0"), "512"));
+  EXPECT_TRUE(IsAsBefore(recorded, "8192 KB"));
+  EXPECT_FALSE(IsAsBefore(recorded, "4096"));
+  EXPECT_FALSE(IsAsBefore(recorded, std::nullopt));
+  EXPECT_TRUE(IsAsBefore(FromRecord(kSize, "0"), std::nullopt));
+  EXPECT_TRUE(IsAsBefore(FromRecord(kSize, "0"), "0"));
+  EXPECT_FALSE(IsAsBefore(FromRecord(kSize, "0"), "512"));
+  EXPECT_TRUE(IsAsBefore(FromRecord(kSize, "1.23456789012346E+16"), "12345678901234567"));
 }
 
-TEST(StandsAsBefore, EverythingElseComparesAsText) {
-  EXPECT_FALSE(StandsAsBefore(kSize, FromBackup("8192 KB"), "8192"));
-  EXPECT_TRUE(StandsAsBefore(kDrive, FromRecord(kDrive, "C:"), "C:"));
-  EXPECT_FALSE(StandsAsBefore(kDrive, FromRecord(kDrive, ""), std::nullopt));
-  EXPECT_FALSE(StandsAsBefore(kTemplate, FromRecord(kTemplate, ""), "Quondix"));
-  EXPECT_TRUE(StandsAsBefore(kTemplate, FromRecord(kTemplate, ""), std::nullopt));
+TEST(IsAsBefore, EverythingElseComparesAsText) {
+  EXPECT_FALSE(IsAsBefore(FromBackup("8192 KB"), "8192"));
+  EXPECT_TRUE(IsAsBefore(FromRecord(kDrive, "C:"), "C:"));
+  EXPECT_FALSE(IsAsBefore(FromRecord(kDrive, ""), std::nullopt));
+  EXPECT_FALSE(IsAsBefore(FromRecord(kTemplate, ""), "Quondix"));
+  EXPECT_TRUE(IsAsBefore(FromRecord(kTemplate, ""), std::nullopt));
+}
+
+TEST(BeforeFromBoth, BackupGivesTheExactTextOfARecordedNumber) {
+  for (const char* const text : {"2048 KB", "2048", " 2048,5"}) {
+    const Before before = FromBoth(kSize, "2048", true, text);
+    EXPECT_EQ(before.known, Before::Known::kFromRecord) << text;
+    EXPECT_EQ(before.text, text);
+    EXPECT_FALSE(before.IsUncertain());
+    EXPECT_FALSE(IsAsBefore(before, "2048.0")) << "only the text itself is as before";
+  }
+  EXPECT_EQ(FromBoth(kSize, "1", true, "1,024").text, "1,024");
+  EXPECT_EQ(FromBoth(kSize, "0", true, "none").text, "none") << "there was an entry without a number";
+  EXPECT_EQ(FromBoth(kSize, "0", true, std::nullopt).text, std::nullopt);
+  ExpectUnusable(FromBoth(kSize, "7", true, std::string(255, '7')), std::string(255, '7'));
+}
+
+TEST(BeforeFromBoth, MissingInACompleteRecordAndInTheBackupIsCertain) {
+  EXPECT_EQ(FromBoth(kDrive, std::nullopt, true, std::nullopt).known, Before::Known::kFromRecord);
+  EXPECT_FALSE(FromBoth(kDrive, std::nullopt, true, std::nullopt).IsUncertain());
+  EXPECT_EQ(FromBoth(kDrive, std::nullopt, true, "D").known, Before::Known::kFromBackup);
+  EXPECT_FALSE(FromBoth(kDrive, std::nullopt, true, "D").IsUncertain());
+}
+
+TEST(BeforeFromBoth, SilenceOfTheBackupAloneIsUncertain) {
+  EXPECT_TRUE(FromBoth(kDrive, std::nullopt, false, std::nullopt).IsUncertain());
+  EXPECT_TRUE(FromBoth(kSize, std::nullopt, false, std::nullopt).IsUncertain());
+  EXPECT_TRUE(FromBoth(kPaging, std::nullopt, true, std::nullopt).IsUncertain()) << "it is never recorded";
+  EXPECT_FALSE(FromBoth(kPaging, std::nullopt, true, "off").IsUncertain());
+}
+
+TEST(RecordAndBackup, AgreeWhereTheEntriesAreTheSame) {
+  EXPECT_TRUE(Agree(kSize, "2048", true, "2048 KB"));
+  EXPECT_TRUE(Agree(kSize, "0", true, std::nullopt));
+  EXPECT_TRUE(Agree(kSize, "0", true, "none"));
+  EXPECT_TRUE(Agree(kSize, "1.23456789012346E+16", true, "12345678901234567"));
+  const std::string long_number(300, '1');
+  EXPECT_TRUE(Agree(kSize, "1.11111111111111E+253", true, long_number)) << "of 254 digits the record knows";
+  EXPECT_TRUE(Agree(kDrive, "D:", true, "D:"));
+  EXPECT_TRUE(Agree(kDrive, "", true, ""));
+  EXPECT_TRUE(Agree(kDrive, std::nullopt, true, std::nullopt));
+  EXPECT_TRUE(Agree(kDrive, std::nullopt, true, "D")) << "a single character is not recorded";
+  EXPECT_TRUE(Agree(kDrive, std::string(254, 'x'), true, std::string(255, 'x'))) << "the record is cut";
+}
+
+TEST(RecordAndBackup, DifferWhereTheBackupIsOfAnotherTime) {
+  EXPECT_FALSE(Agree(kSize, "2048", true, "4096"));
+  EXPECT_FALSE(Agree(kSize, "2048", true, std::nullopt));
+  EXPECT_FALSE(Agree(kSize, "0", true, "512"));
+  EXPECT_FALSE(Agree(kDrive, "D:", true, "C:"));
+  EXPECT_FALSE(Agree(kDrive, "D:", true, std::nullopt));
+  EXPECT_FALSE(Agree(kDrive, std::nullopt, true, "D:"));
+}
+
+TEST(RecordAndBackup, WhatTheRecordDoesNotTellCannotDiffer) {
+  EXPECT_TRUE(Agree(kDrive, std::nullopt, false, "D:")) << "its writing may have failed";
+  EXPECT_TRUE(Agree(kSize, std::nullopt, false, "512"));
+  EXPECT_TRUE(Agree(kSize, "many", true, "512"));
+  EXPECT_TRUE(Agree(kTemplate, "Desktop", true, std::nullopt)) << "it is not in system.ini";
+  EXPECT_TRUE(Agree(kPaging, std::nullopt, true, "on"));
 }
 
 TEST(Shown, TextsFitTheirRoomAndHoldNoControlCharacters) {
@@ -101,6 +162,7 @@ TEST(Shown, ColumnTellsWhereTheTextComesFrom) {
   EXPECT_EQ(ShownBefore(FromRecord(kSize, "many"), kRoom), "many");
   EXPECT_EQ(ShownBefore(FromBackup("65536"), kRoom), "not recorded; backup: 65536");
   EXPECT_EQ(ShownBefore(FromBackup(std::nullopt), kRoom), "not recorded; backup: (none)");
+  EXPECT_EQ(ShownBefore({.known = Before::Known::kFromItsName}, kRoom), "not recorded");
 }
 
 }  // namespace

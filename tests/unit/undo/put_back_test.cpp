@@ -39,8 +39,9 @@ class PutBack : public testing::Test {
   std::size_t first_call = 0;
 };
 
-TEST_F(PutBack, QuestionNamesEachDeedAndProposesNo) {
+TEST_F(PutBack, QuestionNamesEachActionAndProposesNo) {
   StartChanged();
+  rig.TickAll();
   rig.Screen().cmdPutBack.Press();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(BoxText(0),
@@ -51,7 +52,7 @@ TEST_F(PutBack, QuestionNamesEachDeedAndProposesNo) {
             "File system template: put back Desktop\r\n"
             "[386Enh] PagingDrive: put back D:\r\n"
             "[386Enh] MinPagingFileSize: put back 0 (from backup)\r\n"
-            "[386Enh] MaxPagingFileSize: remove (not in backup)\r\n"
+            "[386Enh] MaxPagingFileSize: remove\r\n"
             "[386Enh] Paging: remove (not in backup)\r\n\r\n"
             "Do you want to put these settings back?");
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Undo");
@@ -70,6 +71,7 @@ TEST_F(PutBack, NoWritesNothing) {
 
 TEST_F(PutBack, YesPutsBackEverythingAndNothingElse) {
   StartChanged();
+  rig.TickAll();
   PressAndAnswer(os::kIdYes);
   EXPECT_EQ(rig.Ini(), kIniPutBack);
   EXPECT_EQ(rig.Template(), "Desktop");
@@ -88,6 +90,7 @@ TEST_F(PutBack, YesPutsBackEverythingAndNothingElse) {
 
 TEST_F(PutBack, NewStateIsShownAndTheRestartOffered) {
   StartChanged();
+  rig.TickAll();
   PressAndAnswer(os::kIdYes);
   EXPECT_EQ(rig.Screen().MinFileCache.now.Caption(), "2048");
   EXPECT_EQ(rig.Screen().MaxFileCache.now.Caption(), "(none)");
@@ -146,6 +149,7 @@ TEST_F(PutBack, TemplateThatWasNotThereIsRemoved) {
 
 TEST_F(PutBack, WriteProtectedFileIsNamedEntryByEntry) {
   StartChanged();
+  rig.TickAll();
   rig.machine.ProtectFile(kIniPath);
   PressAndAnswer(os::kIdYes);
   ASSERT_GE(rig.machine.Boxes().size(), 2U);
@@ -181,7 +185,7 @@ TEST_F(PutBack, ProtectedTemplateKeyIsNamed) {
   EXPECT_EQ(rig.Template(), "Quondix");
 }
 
-TEST_F(PutBack, SettingsAreReadAnewBeforeTheQuestion) {
+TEST_F(PutBack, SettingsAreReadAgainBeforeTheQuestion) {
   StartChanged();
   rig.machine.WriteFile(kIniPath, kIniBefore);
   rig.SetTemplate("Other");
@@ -218,6 +222,60 @@ TEST_F(PutBack, WindowClosedWhileTheFailuresAreNamedOffersNoRestart) {
   PressAndAnswer(os::kIdYes);
   EXPECT_EQ(rig.machine.Boxes().size(), 2U);
   EXPECT_EQ(rig.Template(), "Desktop");
+}
+
+TEST_F(PutBack, ExactTextsOfTheBackupComeBack) {
+  const std::string before =
+      "[boot]\r\n[386Enh]\r\nMinPagingFileSize=1,024\r\n"
+      "[vcache]\r\nMinFileCache=2048 KB\r\nMaxFileCache=1,024\r\nChunkSize=none\r\n";
+  UndoRig other(before);
+  other.TakeRecord();
+  other.machine.WriteFile(kIniPath,
+                          "[boot]\r\n[386Enh]\r\nMinPagingFileSize=1024\r\n"
+                          "[vcache]\r\nMinFileCache=2048\r\nMaxFileCache=1\r\nChunkSize=512\r\n");
+  other.Start();
+  EXPECT_EQ(other.Screen().MinFileCache.before.Caption(), "2048 KB");
+  other.machine.AnswerNextBox(os::kIdYes);
+  other.machine.AnswerNextBox(os::kIdNo);
+  other.Screen().cmdPutBack.Press();
+  EXPECT_EQ(other.Ini(), before);
+}
+
+TEST_F(PutBack, BlanksAndQuotationMarksOfAValueComeBack) {
+  UndoRig other("[boot]\r\n[386Enh]\r\nPagingDrive=\"D: \"\r\nPaging=\"'on'\"\r\n");
+  other.TakeRecord();
+  other.machine.WriteFile(kIniPath, "[boot]\r\n[386Enh]\r\nPagingDrive=C:\r\n");
+  other.Start();
+  other.machine.AnswerNextBox(os::kIdYes);
+  other.machine.AnswerNextBox(os::kIdNo);
+  other.Screen().cmdPutBack.Press();
+  EXPECT_EQ(other.Ini(), "[boot]\r\n[386Enh]\r\nPagingDrive=\"D: \"\r\nPaging=\"'on'\"\r\n");
+  EXPECT_EQ(other.machine.Boxes().size(), 2U) << "nothing is left to put back";
+}
+
+TEST_F(PutBack, RemovalTakesAllOfSeveralEqualLines) {
+  UndoRig other("[boot]\r\n[386Enh]\r\n");
+  other.TakeRecord();
+  other.machine.WriteFile(kIniPath,
+                          "[boot]\r\n[386Enh]\r\nPagingDrive=C:\r\nother=1\r\npagingdrive=D:\r\n"
+                          "PAGINGDRIVE=E:\r\n");
+  other.Start();
+  other.machine.AnswerNextBox(os::kIdYes);
+  other.machine.AnswerNextBox(os::kIdNo);
+  other.Screen().cmdPutBack.Press();
+  EXPECT_EQ(other.Ini(), "[boot]\r\n[386Enh]\r\nother=1\r\n");
+  EXPECT_EQ(other.Screen().PagingDrive.now.Caption(), "(none)");
+}
+
+TEST_F(PutBack, UncertainRemovalIsForTheUserToTick) {
+  StartChanged();
+  EXPECT_TRUE(rig.Screen().Paging.box.Enabled());
+  EXPECT_FALSE(rig.Screen().Paging.box.Ticked());
+  PressAndAnswer(os::kIdYes);
+  EXPECT_NE(rig.Ini().find("Paging=on\r\n"), std::string::npos);
+  rig.Screen().Paging.box.Press();
+  PressAndAnswer(os::kIdYes);
+  EXPECT_EQ(rig.Ini(), kIniPutBack);
 }
 
 TEST_F(PutBack, LongTextsAreCutInTheQuestion) {

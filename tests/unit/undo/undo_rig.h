@@ -69,6 +69,11 @@ class UndoRig {
   }
   [[nodiscard]] undo::UndoScreen& Screen() { return form->Screen(); }
 
+  /// Every row that can be put back.
+  void TickAll() {
+    for (undo::EntryRow* const row : Screen().Rows()) row->box.SetTicked(row->box.Enabled());
+  }
+
   void SetTemplate(const std::string& name) {
     machine.SetRegistryValue(os::kHkeyLocalMachine, tuning::kTemplatesKey, "", name);
   }
@@ -86,8 +91,10 @@ class UndoRig {
     for (std::size_t call = first_call; call < machine.Calls().size(); ++call) {
       const std::string& name = machine.Calls()[call];
       for (const char* const writing :
-           {"WritePrivate", "RegSet", "RegDelete", "RegCreate", "CopyFile", "ExitWindows"}) {
-        if (name.starts_with(writing)) changes.push_back(name);
+           {"WritePrivate", "RegSet", "RegDelete", "RegCreate", "CopyFile", "CreateFileA", "WriteFile",
+            "MoveFile", "DeleteFile", "ExitWindows"}) {
+        const bool is_reading = name.starts_with("CreateFileA") && name.ends_with(", 3)");
+        if (name.starts_with(writing) && !is_reading) changes.push_back(name);
       }
     }
     return changes;

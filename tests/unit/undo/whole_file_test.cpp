@@ -1,4 +1,4 @@
-// "Restore Whole File...": the warning, the copy, its failure.
+// "Restore Whole File...": the question, the new file, what is said afterwards.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,81 +10,206 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+constexpr double kThirdOfMay1999 = 36283.4;
+constexpr const char* kKeptPath = "C:\\WINDOWS\\SYSTEM.Q01";
+constexpr const char* kReplaced =
+    "system.ini has been replaced. The old file is now SYSTEM.Q01.\r\n\r\n"
+    "If Windows does not start with the new one, start the computer at the command prompt and type:\r\n\r\n"
+    "attrib -r C:\\WINDOWS\\system.ini\r\n"
+    "copy /y C:\\WINDOWS\\SYSTEM.Q01 C:\\WINDOWS\\system.ini";
+constexpr const char* kTemplateIsStillOwn =
+    "\r\n\r\nThe file system template is still \"Quondix\". To put the old one back too, answer No to the "
+    "next "
+    "question and press \"Put Back\".";
+
 class WholeFile : public testing::Test {
  protected:
   WholeFile() {
+    rig.machine.SetNow(kThirdOfMay1999);
+    rig.machine.WriteFile(kIniPath, kIniBefore);
+    rig.machine.SetNow(kThirdOfMay1999 + 100);
     rig.TakeRecordAndChange();
     rig.Start();
     first_call = rig.machine.Calls().size();
   }
-  void PressAndAnswer(int answer, int next_answer = os::kIdNo) {
-    rig.machine.AnswerNextBox(answer);
-    rig.machine.AnswerNextBox(next_answer);
+  void PressAndAnswer(const std::vector<int>& answers) {
+    for (const int answer : answers) rig.machine.AnswerNextBox(answer);
     rig.Screen().cmdRestore.Press();
+  }
+  [[nodiscard]] std::string BoxText(std::size_t index) const {
+    return index < rig.machine.Boxes().size() ? rig.machine.Boxes()[index].text : "no such box";
   }
 
   UndoRig rig;
   std::size_t first_call = 0;
 };
 
-TEST_F(WholeFile, QuestionWarnsAndProposesNo) {
+TEST_F(WholeFile, QuestionTellsTheDateOfTheCopyAndProposesNo) {
   rig.Screen().cmdRestore.Press();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
-  EXPECT_EQ(
-      rig.machine.Boxes()[0].text,
-      "All of system.ini will be replaced by system.qdix, the copy that was made before the first "
-      "change.\r\n\r\n"
-      "Every other change that was made to system.ini since then will be lost, also those by Windows and "
-      "by other programs.\r\n\r\n"
-      "Do you want to replace system.ini?");
+  EXPECT_EQ(BoxText(0),
+            "All of system.ini will be replaced by system.qdix, its copy of Monday, May 3, 1999.\r\n\r\n"
+            "Every change that was made to system.ini after that will be lost, also those by Windows and by "
+            "other programs. The present file is kept under another name.\r\n\r\n"
+            "Do you want to replace system.ini?");
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbYesNo | os::kMbIconExclamation | os::kMbDefaultButton2);
 }
 
+TEST_F(WholeFile, QuestionDoesWithoutADateThatCannotBeRead) {
+  rig.machine.FailNextCall("FindFirstFileA");
+  rig.Screen().cmdRestore.Press();
+  EXPECT_TRUE(
+      BoxText(0).starts_with("All of system.ini will be replaced by system.qdix.\r\n\r\nEvery change"))
+      << BoxText(0);
+}
+
 TEST_F(WholeFile, NoChangesNothing) {
-  PressAndAnswer(os::kIdNo);
+  PressAndAnswer({os::kIdNo});
   EXPECT_THAT(rig.Changes(first_call), IsEmpty());
   EXPECT_EQ(rig.Ini(), kIniAfter);
 }
 
-TEST_F(WholeFile, YesCopiesTheBackupByteForByteAfterAFlush) {
-  PressAndAnswer(os::kIdYes);
+TEST_F(WholeFile, YesWritesANewFileAndChangesNames) {
+  PressAndAnswer({os::kIdYes, os::kIdOk, os::kIdNo});
   EXPECT_EQ(rig.Ini(), kIniBefore);
-  EXPECT_THAT(rig.Changes(first_call),
-              ElementsAre("WritePrivateProfileStringA(system.ini flushed)",
-                          "CopyFileA(C:\\WINDOWS\\system.qdix, C:\\WINDOWS\\system.ini)"));
+  EXPECT_EQ(rig.machine.ReadFile(kKeptPath), kIniAfter);
+  EXPECT_THAT(
+      rig.Changes(first_call),
+      ElementsAre("WritePrivateProfileStringA(system.ini flushed)", "CreateFileA(C:\\WINDOWS\\SYSTEM.Q00, 2)",
+                  "WriteFile(" + std::to_string(std::string(kIniBefore).size()) + ")",
+                  "MoveFileA(C:\\WINDOWS\\system.ini, C:\\WINDOWS\\SYSTEM.Q01)",
+                  "MoveFileA(C:\\WINDOWS\\SYSTEM.Q00, C:\\WINDOWS\\system.ini)"));
   EXPECT_TRUE(rig.machine.Misuses().empty());
   EXPECT_TRUE(rig.RecordIsUntouched());
-  EXPECT_EQ(rig.Template(), "Quondix") << "it stands in the registry";
+  EXPECT_EQ(rig.Template(), "Quondix") << "it is in the registry";
 }
 
 TEST_F(WholeFile, NewStateIsShownAndTheRestartOffered) {
-  PressAndAnswer(os::kIdYes, os::kIdYes);
+  rig.SetTemplate("Desktop");
+  PressAndAnswer({os::kIdYes, os::kIdOk, os::kIdYes});
   EXPECT_EQ(rig.Screen().MinFileCache.now.Caption(), "2048");
   EXPECT_FALSE(rig.Screen().MinFileCache.box.Enabled());
-  EXPECT_TRUE(rig.Screen().Template.box.Ticked());
-  ASSERT_EQ(rig.machine.Boxes().size(), 2U);
-  EXPECT_TRUE(rig.machine.Boxes()[1].text.starts_with("You must restart your computer"));
+  ASSERT_EQ(rig.machine.Boxes().size(), 3U);
+  EXPECT_EQ(BoxText(1), kReplaced);
+  EXPECT_EQ(rig.machine.Boxes()[1].flags, os::kMbOk | os::kMbIconInformation);
+  EXPECT_TRUE(BoxText(2).starts_with("You must restart your computer"));
   EXPECT_EQ(rig.machine.RestartCount(), 1);
 }
 
-TEST_F(WholeFile, FailedCopyIsSaidAndOffersNoRestart) {
+TEST_F(WholeFile, OwnTemplateStillInForceIsSaidAndTicked) {
+  rig.Screen().Template.box.SetTicked(false);
+  PressAndAnswer({os::kIdYes, os::kIdOk, os::kIdNo});
+  EXPECT_EQ(BoxText(1), std::string(kReplaced) + kTemplateIsStillOwn);
+  EXPECT_TRUE(rig.Screen().Template.box.Ticked());
+  EXPECT_TRUE(rig.Screen().cmdPutBack.Enabled());
+}
+
+TEST_F(WholeFile, OwnTemplateCanBeRemovedAlsoWithoutARecord) {
+  UndoRig other;
+  other.machine.WriteFile(kBackupPath, kIniBefore);
+  other.SetTemplate("Quondix");
+  other.Start();
+  EXPECT_FALSE(other.Screen().Template.box.Enabled()) << "not before the file was restored";
+  for (const int answer : {os::kIdYes, os::kIdOk, os::kIdNo}) other.machine.AnswerNextBox(answer);
+  other.Screen().cmdRestore.Press();
+  EXPECT_TRUE(other.machine.Boxes()[1].text.ends_with(kTemplateIsStillOwn)) << other.machine.Boxes()[1].text;
+  EXPECT_TRUE(other.Screen().Template.box.Ticked());
+  for (const int answer : {os::kIdYes, os::kIdNo}) other.machine.AnswerNextBox(answer);
+  other.Screen().cmdPutBack.Press();
+  ASSERT_EQ(other.machine.Boxes().size(), 5U) << "question, news and restart, question and restart";
+  EXPECT_EQ(other.machine.Boxes()[3].text,
+            "The following will be done:\r\n\r\nFile system template: remove (not recorded)\r\n\r\n"
+            "Do you want to put these settings back?");
+  EXPECT_EQ(other.Template(), std::nullopt);
+}
+
+TEST_F(WholeFile, TemplateOfSomebodyElseIsNotMentioned) {
+  UndoRig other;
+  other.machine.WriteFile(kBackupPath, kIniBefore);
+  other.Start();
+  for (const int answer : {os::kIdYes, os::kIdOk, os::kIdNo}) other.machine.AnswerNextBox(answer);
+  other.Screen().cmdRestore.Press();
+  EXPECT_EQ(other.machine.Boxes()[1].text, kReplaced);
+  EXPECT_FALSE(other.Screen().Template.box.Enabled());
+}
+
+TEST_F(WholeFile, MissingSystemIniIsMadeAndNoOtherNameTold) {
+  rig.machine.EraseFile(kIniPath);
+  rig.SetTemplate("Desktop");
+  PressAndAnswer({os::kIdYes, os::kIdOk, os::kIdNo});
+  EXPECT_EQ(rig.Ini(), kIniBefore);
+  EXPECT_EQ(BoxText(1), "system.ini has been replaced.");
+}
+
+TEST_F(WholeFile, FailureIsSaidAndOffersNoRestart) {
   rig.machine.ProtectFile(kIniPath);
-  PressAndAnswer(os::kIdYes, os::kIdOk);
+  PressAndAnswer({os::kIdYes, os::kIdOk});
   ASSERT_EQ(rig.machine.Boxes().size(), 2U);
-  EXPECT_EQ(rig.machine.Boxes()[1].text,
-            "system.ini could not be replaced.\r\n\r\n"
-            "Please make sure that it is not write-protected and that no other program has it open, and try "
-            "again.");
+  EXPECT_EQ(BoxText(1),
+            "system.ini could not be replaced, and has not been changed.\r\n\r\n"
+            "Please make sure that it is not write-protected, that no other program has it open and that the "
+            "disk is not full, and try again.");
   EXPECT_EQ(rig.machine.Boxes()[1].flags, os::kMbOk | os::kMbIconExclamation);
   EXPECT_EQ(rig.Ini(), kIniAfter);
   EXPECT_EQ(rig.machine.RestartCount(), 0);
 }
 
-TEST_F(WholeFile, SessionThatEndsInTheQuestionCopiesNothing) {
+TEST_F(WholeFile, FileThatLostItsNameIsNamed) {
+  // The new file made and filled, and the first change of names: nothing after them reaches the disk.
+  constexpr int kLastGoodWrite = 3;
+  rig.machine.CutPowerInDiskWrite(rig.machine.DiskWriteCount() + kLastGoodWrite + 1);
+  PressAndAnswer({os::kIdYes, os::kIdOk});
+  ASSERT_EQ(rig.machine.Boxes().size(), 2U);
+  EXPECT_EQ(
+      BoxText(1),
+      "system.ini could not be replaced, and is now called SYSTEM.Q01. Give it the name system.ini again "
+      "before you restart: Windows does not start without it.");
+  EXPECT_EQ(rig.machine.Boxes()[1].flags, os::kMbOk | os::kMbIconExclamation);
+  EXPECT_EQ(rig.machine.ReadFile(kIniPath), std::nullopt);
+  EXPECT_EQ(rig.machine.ReadFile(kKeptPath), kIniAfter);
+  EXPECT_TRUE(rig.Screen().lblState.Caption().starts_with("Warning: system.ini is missing"));
+}
+
+TEST_F(WholeFile, FileThatAnotherProgramHoldsStaysAsItIs) {
+  rig.machine.HoldFile(kIniPath);
+  PressAndAnswer({os::kIdYes, os::kIdOk});
+  EXPECT_TRUE(BoxText(1).starts_with("system.ini could not be replaced, and has not been changed."));
+  EXPECT_EQ(rig.Ini(), kIniAfter);
+  EXPECT_EQ(rig.machine.ReadFile("C:\\WINDOWS\\SYSTEM.Q00"), std::nullopt);
+}
+
+TEST_F(WholeFile, BackupThatIsNoLongerWholeIsNotTaken) {
+  rig.machine.WhileBoxIsOpen([this] {
+    if (rig.machine.Boxes().size() == 1) rig.machine.WriteFile(kBackupPath, "[boot]\r\nshel");
+  });
+  PressAndAnswer({os::kIdYes, os::kIdOk});
+  EXPECT_TRUE(BoxText(1).starts_with("system.ini could not be replaced, and has not been changed."));
+  EXPECT_EQ(rig.Ini(), kIniAfter);
+  EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
+}
+
+TEST_F(WholeFile, BackupIsReadAgainBeforeTheQuestion) {
+  rig.machine.WriteFile(kBackupPath, "[boot]\r\n");
+  rig.Screen().cmdRestore.Press();
+  EXPECT_TRUE(rig.machine.Boxes().empty());
+  EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
+  EXPECT_EQ(rig.Ini(), kIniAfter);
+}
+
+TEST_F(WholeFile, SessionThatEndsInTheQuestionReplacesNothing) {
   rig.machine.WhileBoxIsOpen([this] { rig.form->EndSession(); });
-  PressAndAnswer(os::kIdYes);
+  PressAndAnswer({os::kIdYes});
   EXPECT_THAT(rig.Changes(first_call), IsEmpty());
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
+}
+
+TEST_F(WholeFile, WindowClosedUnderTheNewsOffersNoRestart) {
+  rig.machine.WhileBoxIsOpen([this] {
+    if (rig.machine.Boxes().size() == 2) rig.form->Window().Unload();
+  });
+  PressAndAnswer({os::kIdYes, os::kIdOk, os::kIdYes});
+  EXPECT_EQ(rig.machine.Boxes().size(), 2U);
+  EXPECT_EQ(rig.machine.RestartCount(), 0);
 }
 
 TEST_F(WholeFile, WindowsInARootFolder) {
@@ -94,10 +219,11 @@ TEST_F(WholeFile, WindowsInARootFolder) {
   other.TakeRecord();
   other.machine.WriteFile("D:\\system.ini", kIniAfter);
   other.Start();
-  other.machine.AnswerNextBox(os::kIdYes);
-  other.machine.AnswerNextBox(os::kIdNo);
+  for (const int answer : {os::kIdYes, os::kIdOk, os::kIdNo}) other.machine.AnswerNextBox(answer);
   other.Screen().cmdRestore.Press();
   EXPECT_EQ(other.machine.ReadFile("D:\\system.ini"), kIniBefore);
+  EXPECT_TRUE(other.machine.Boxes()[1].text.find("copy /y D:\\SYSTEM.Q01 D:\\system.ini") !=
+              std::string::npos);
 }
 
 }  // namespace

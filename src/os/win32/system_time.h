@@ -1,0 +1,17 @@
+// The system's records of time as the days that the program counts in.
+#pragma once
+
+#include <windows.h>
+
+#include "base/date.h"
+
+namespace qdix::os::win32 {
+
+/// Days since 30 December 1899, the time of day as the fraction, to the second.
+[[nodiscard]] inline double DaysOf(const SYSTEMTIME& time) {
+  constexpr double kSecondsPerDay = 24.0 * 60 * 60;
+  const int seconds = (time.wHour * 60 + time.wMinute) * 60 + time.wSecond;
+  return base::DaysOfDate(time.wYear, time.wMonth, time.wDay) + seconds / kSecondsPerDay;
+}
+
+}  // namespace qdix::os::win32
