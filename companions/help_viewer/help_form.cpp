@@ -18,6 +18,7 @@ HelpForm::HelpForm(const os::System& system, const Devices& devices, const Start
       contents_list_(book_, screen_, reader_),
       find_page_(book_, screen_, reader_),
       remembered_place_(system.registry, devices.screen) {
+  CloseOtherViewers();
   events_.ReportErrorsTo(ui::EventDispatcher::ErrorReporter::To<&HelpForm::ReportUntrapped>(*this));
   Bind();
 }
@@ -32,6 +33,16 @@ void HelpForm::Bind() {
   screen_.Window.OnEscape = ui::Handler::To<&HelpForm::Close>(*this);
   screen_.Window.OnUnload = ui::Handler::To<&HelpForm::Unload>(*this);
   reader_.OnOpened = base::Callback<void()>::To<&ContentsList::Follow>(contents_list_);
+}
+
+/// The next window is looked up before a message goes to the one that it lies behind.
+void HelpForm::CloseOtherViewers() const {
+  os::WindowHandle viewer = system_.windows.FindWindowExA(0, kWindowTitle);
+  while (viewer != 0) {
+    const os::WindowHandle next = system_.windows.FindWindowExA(viewer, kWindowTitle);
+    system_.windows.PostMessageA(viewer, os::kWmClose);
+    viewer = next;
+  }
 }
 
 void HelpForm::Start() {

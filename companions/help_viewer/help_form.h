@@ -34,7 +34,8 @@ struct StartWith {
 
 class HelpForm {
  public:
-  /// System and devices must outlive this object.
+  /// System and devices must outlive this object. Asks every viewer that is open to close: there is one at
+  /// most.
   HelpForm(const os::System& system, const Devices& devices, const StartWith& start);
   HelpForm(const HelpForm&) = delete;
   HelpForm& operator=(const HelpForm&) = delete;
@@ -68,6 +69,7 @@ class HelpForm {
   };
 
   void Bind();
+  void CloseOtherViewers() const;
   void ShowSide(Side side);
   void Tell(const std::string& message) const;
   base::Status Arrange();

@@ -78,6 +78,9 @@ class QuietWindows final : public os::Windows {
   [[nodiscard]] os::WindowHandle FindWindowA(const char* /*window_class*/, const char* /*title*/) override {
     return 0;
   }
+  [[nodiscard]] os::WindowHandle FindWindowExA(os::WindowHandle /*after*/, const char* /*title*/) override {
+    return 0;
+  }
   [[nodiscard]] os::WindowHandle GetWindow(os::WindowHandle /*window*/, std::uint32_t /*relation*/) override {
     return 0;
   }

@@ -25,6 +25,10 @@ class Windows {
   /// there is none.
   [[nodiscard]] virtual WindowHandle FindWindowA(const char* window_class, const char* title) = 0;
 
+  /// The next top-level window with this title (case-insensitive) behind `after` in the window order; with 0
+  /// the first of all. 0 when there is none.
+  [[nodiscard]] virtual WindowHandle FindWindowExA(WindowHandle after, const char* title) = 0;
+
   /// The window that stands in this relation to `window`, or 0.
   [[nodiscard]] virtual WindowHandle GetWindow(WindowHandle window, std::uint32_t relation) = 0;
 

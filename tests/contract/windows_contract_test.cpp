@@ -46,6 +46,22 @@ TEST_F(WindowsContract, TheFrontmostOfSeveralIsFound) {
   EXPECT_EQ(system.windows.FindWindowA(kClass, nullptr), front);
 }
 
+TEST_F(WindowsContract, WindowsOfOneTitleAreFoundFromFrontToBack) {
+  const os::WindowHandle behind = machine->OpenWindow(kClass, "A Title");
+  machine->OpenWindow(kClass, "Another Title");
+  const os::WindowHandle front = machine->OpenWindow(kOtherClass, "A Title");
+  EXPECT_EQ(system.windows.FindWindowExA(0, "a tITLE"), front);
+  EXPECT_EQ(system.windows.FindWindowExA(front, "A Title"), behind);
+  EXPECT_EQ(system.windows.FindWindowExA(behind, "A Title"), 0U);
+}
+
+TEST_F(WindowsContract, BehindAWindowThatIsGoneNothingIsFound) {
+  machine->OpenWindow(kClass, "A Title");
+  const os::WindowHandle gone = machine->OpenWindow(kClass, "A Title");
+  machine->CloseWindow(gone);
+  EXPECT_EQ(system.windows.FindWindowExA(gone, "A Title"), 0U);
+}
+
 TEST_F(WindowsContract, ClosedWindowIsNotFound) {
   const os::WindowHandle window = machine->OpenWindow(kClass, "A Title");
   machine->CloseWindow(window);

@@ -71,6 +71,16 @@ TEST_F(HelpOfTheProgram, EachTabLeavesExactlyOneViewerAtItsTopic) {
   EXPECT_EQ(HelpWindows().size(), 1U) << "the viewer outlives the program";
 }
 
+TEST_F(HelpOfTheProgram, DoubleClickLeavesOneViewer) {
+  StartProgram();
+  const HWND button = program.Control("Command21");
+  ASSERT_TRUE(BringForward(program.MainWindow()));
+  ASSERT_TRUE(PressAt(button, {10, 10}, Press::kLeftTwice));
+  ExpectOneViewer("4");
+  EXPECT_FALSE(Eventually([] { return HelpWindows().size() != 1; }, kSecondViewerMs));
+  CloseProgram();
+}
+
 TEST_F(HelpOfTheProgram, KeyboardOpensTheTopicOfTheTab) {
   StartProgram();
   program.OpenTab(screens::kAboutTab);

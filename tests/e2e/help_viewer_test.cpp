@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 
 #include "help_viewer/book.h"
 #include "help_viewer/packed_stream.h"
 #include "help_viewer/plain_text.h"
 #include "tests/e2e/driver/file_keeper.h"
 #include "tests/e2e/driver/hand.h"
+#include "tests/e2e/driver/help_windows.h"
 #include "tests/e2e/driver/native_windows.h"
 #include "tests/e2e/driver/photograph.h"
 #include "tests/e2e/driver/registry.h"
@@ -21,6 +23,8 @@ namespace {
 using help_viewer::kContentsPage;
 
 constexpr const char* kWindowTitle = "Quondix Help";
+/// Long enough for a viewer that is too much to close.
+constexpr int kSecondViewerMs = 1500;
 
 /// The highlight of the prefix's colours, dark blue, as the screen's bytes have it.
 constexpr std::string_view kHighlight("\x00\x00\x80", 3);
@@ -304,6 +308,18 @@ TEST_F(HelpSession, LinkIsFollowedByPointer) {
   }
   EXPECT_TRUE(is_followed);
   ExpectTopic(0);
+}
+
+TEST_F(HelpSession, OfThreeThatStartTogetherOneStays) {
+  std::array<ShippedProgram, 3> viewers{ShippedProgram{HelpViewer()}, ShippedProgram{HelpViewer()},
+                                        ShippedProgram{HelpViewer()}};
+  for (ShippedProgram& viewer : viewers) ASSERT_TRUE(viewer.Start("5"));
+  const auto running = [&] {
+    return std::count_if(viewers.begin(), viewers.end(),
+                         [](const ShippedProgram& viewer) { return viewer.IsRunning(); });
+  };
+  EXPECT_TRUE(Eventually([&] { return running() == 1 && HelpWindows().size() == 1; })) << running();
+  EXPECT_FALSE(Eventually([&] { return running() != 1; }, kSecondViewerMs));
 }
 
 TEST_F(HelpSession, BothPanesFollowTheSizeOfTheWindow) {

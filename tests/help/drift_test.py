@@ -25,7 +25,7 @@ WITHOUT_MESSAGES = ("src/os/", "src/ui/", "src/screens/", "src/controls/", "src/
 NOT_IN_A_BOX = {
     # captions and labels that are written while the program runs
     "Total Physical Memory:", "Virtual Memory (Swapfile) :", "%  Available RAM", "MB   Q-DIX",
-    "MB   Q-DIX - This reading is Incorrect. See our support page.", "(no name)",
+    "- This reading is Incorrect. See our support page.", "(no name)",
     "Auto Detection feature has detected and released RAM", "Automatic feature has detected and released RAM",
     "times since Q-DIX was started on", "Next Release of RAM is due in", "Your system has been running for",
     "These settings were recorded before Q-DIX changed this computer for the first time. Tick those that are to be "

@@ -3,12 +3,14 @@
 #include <windows.h>
 
 #include <memory>
+#include <optional>
 
 #include "companion/win32/companion_program.h"
 #include "help_viewer/help_form.h"
 #include "help_viewer/win32/packed_topics.h"
 #include "help_viewer/win32/resources.h"
 #include "help_viewer/win32/topic_pane_peer.h"
+#include "help_viewer/win32/turn.h"
 #include "os/win32/win32_clipboard.h"
 #include "os/win32/win32_printer.h"
 #include "os/win32/win32_screen.h"
@@ -67,6 +69,9 @@ class Program {
 /// The system applies the wish of who started the program by itself, when the main window is shown for the
 /// first time.
 extern "C" int QdixMain(void* instance, int /*show_command*/) {
-  const auto program = std::make_unique<qdix::help_viewer::win32::Program>(static_cast<HINSTANCE>(instance));
+  using namespace qdix::help_viewer::win32;
+  std::optional<Turn> turn("Q-DIX Help starts");
+  const auto program = std::make_unique<Program>(static_cast<HINSTANCE>(instance));
+  turn.reset();
   return program->Run() ? 0 : 1;
 }

@@ -29,6 +29,15 @@ WindowHandle SimulatedWindows::FindWindowA(const char* window_class, const char*
   return 0;
 }
 
+WindowHandle SimulatedWindows::FindWindowExA(WindowHandle after, const char* title) {
+  if (log_.RecordAndFail("FindWindowExA", Shown(title))) return 0;
+  if (after != 0 && Find(after) == windows_.end()) return 0;
+  const auto begin = after == 0 ? windows_.begin() : std::next(Find(after));
+  const auto found = std::find_if(begin, windows_.end(),
+                                  [title](const Window& window) { return Matches(title, window.title); });
+  return found == windows_.end() ? 0 : found->handle;
+}
+
 WindowHandle SimulatedWindows::GetWindow(WindowHandle window, std::uint32_t relation) {
   if (log_.RecordAndFail("GetWindow", std::to_string(relation))) return 0;
   const auto found = Find(window);

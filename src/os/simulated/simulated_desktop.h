@@ -20,6 +20,7 @@ class SimulatedWindows final : public Windows {
   explicit SimulatedWindows(CallLog& log) : log_(log) {}
 
   WindowHandle FindWindowA(const char* window_class, const char* title) override;
+  WindowHandle FindWindowExA(WindowHandle after, const char* title) override;
   WindowHandle GetWindow(WindowHandle window, std::uint32_t relation) override;
   bool OpenIcon(WindowHandle window) override;
   bool ShowWindow(WindowHandle window, int way) override;

@@ -16,6 +16,10 @@ WindowHandle Win32Windows::FindWindowA(const char* window_class, const char* tit
   return reinterpret_cast<WindowHandle>(::FindWindowA(window_class, title));
 }
 
+WindowHandle Win32Windows::FindWindowExA(WindowHandle after, const char* title) {
+  return reinterpret_cast<WindowHandle>(::FindWindowExA(nullptr, Native(after), nullptr, title));
+}
+
 WindowHandle Win32Windows::GetWindow(WindowHandle window, std::uint32_t relation) {
   return reinterpret_cast<WindowHandle>(::GetWindow(Native(window), relation));
 }

@@ -8,6 +8,7 @@ namespace qdix::os::win32 {
 class Win32Windows final : public Windows {
  public:
   [[nodiscard]] WindowHandle FindWindowA(const char* window_class, const char* title) override;
+  [[nodiscard]] WindowHandle FindWindowExA(WindowHandle after, const char* title) override;
   [[nodiscard]] WindowHandle GetWindow(WindowHandle window, std::uint32_t relation) override;
   bool OpenIcon(WindowHandle window) override;
   bool ShowWindow(WindowHandle window, int way) override;

@@ -20,6 +20,17 @@ TEST(HelpReading, OpensTheTopicOfItsNumberWithTheKeyboardOnIt) {
   EXPECT_FALSE(rig.Screen().cmdBack.Enabled());
 }
 
+TEST(HelpReading, EveryViewerThatIsOpenIsAskedToClose) {
+  HelpRig rig;
+  os::Windows& windows = rig.machine.GetSystem().windows;
+  rig.machine.OpenWindow("QDIXMain", "Quondix Help");
+  const os::WindowHandle other = rig.machine.OpenWindow("QDIXMain", "14.5 MB   Q-DIX");
+  rig.machine.OpenWindow("QDIXMain", "Quondix Help");
+  rig.Start("5");
+  EXPECT_EQ(windows.FindWindowA(nullptr, "Quondix Help"), 0U);
+  EXPECT_EQ(windows.FindWindowA("QDIXMain", nullptr), other);
+}
+
 TEST(HelpReading, TopicZeroIsATopic) {
   HelpRig rig;
   rig.Start("0");
