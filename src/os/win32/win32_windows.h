@@ -9,6 +9,7 @@ class Win32Windows final : public Windows {
  public:
   [[nodiscard]] WindowHandle FindWindowA(const char* window_class, const char* title) override;
   [[nodiscard]] WindowHandle GetWindow(WindowHandle window, std::uint32_t relation) override;
+  std::uint32_t GetWindowThreadProcessId(WindowHandle window) override;
   bool OpenIcon(WindowHandle window) override;
   bool SetForegroundWindow(WindowHandle window) override;
   bool PostMessageA(WindowHandle window, std::uint32_t message) override;
