@@ -30,7 +30,6 @@ NOT_IN_A_BOX = {
     "Quondix Tip", "Start the program in this folder:", "unwanted instance",
     # names
     "Software\\VB and VBA Program Settings\\QDIX\\", "Quondix Settings",
-    "Programs\0*.exe;*.com;*.bat;*.pif;*.lnk\0All files\0*.*\0",
 }
 
 
