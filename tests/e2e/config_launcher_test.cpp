@@ -302,7 +302,7 @@ TEST_F(ConfigSession, EndOfTheWindowsSessionAsksForTheList) {
     const MessageBox box = AwaitBox();
     EXPECT_EQ(box.text, "The list of programs is not saved.\r\n\r\nDo you want to save it?");
     EXPECT_FALSE(may_end.IsAnswered());
-    if (button == IDCANCEL) EXPECT_TRUE(Photograph("config_launcher_end_of_session"));
+    EXPECT_TRUE(Photograph("config_launcher_end_of_session"));
     ASSERT_TRUE(PressButton(box, button));
     EXPECT_TRUE(program.Await([&] { return may_end.IsAnswered(); }));
     EXPECT_EQ(may_end.Answer() != 0, button == IDYES);
