@@ -1,18 +1,22 @@
 #!/usr/bin/env bash
 # Provides a Wine that runs 32-bit programs: the machine's own if it really does, else a private one in the cache
-# folder, unpacked from the distribution's i386 packages. Nothing of the machine itself is changed.
+# folder, unpacked from the distribution's i386 packages. Where the kernel refuses 32-bit programs, the private one comes
+# with an emulator that runs them. Nothing of the machine itself is changed.
 set -euo pipefail
 
 # shellcheck source=tools/wine/common.sh
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+# shellcheck source=tools/wine/archive.sh
+source "$wine_tools_dir/archive.sh"
+# shellcheck source=tools/wine/emulator.sh
+source "$wine_tools_dir/emulator.sh"
 
 readonly wine_packages=(
   wine32 libx11-6 libxext6 libxrender1 libxrandr2 libxcursor1 libxfixes3 libxi6 libxcomposite1 libxinerama1
   fonts-wine fonts-liberation
 )
-readonly archive_keyring=/usr/share/keyrings/debian-archive-keyring.gpg
-readonly download_attempts=3
-readonly proof_limit_s=180
+# Making a prefix takes half a minute through the emulator, and several times that on a busy machine.
+readonly proof_limit_s=600
 
 work_dir=""
 clean_up() {
@@ -73,61 +77,6 @@ try_host_wine() {
   [ "$(<"$verdict")" = yes ]
 }
 
-# Prints "address release" of every source of this machine that may be the distribution's own archive. A third-party
-# source among them does no harm: its index is not signed with the archive's key, so reading it fails.
-archive_candidates() {
-  local codename
-  codename=$(sed -n 's/^VERSION_CODENAME=//p' /etc/os-release | tr -d '"')
-  # shellcheck disable=SC2016  # the variables are apt's
-  apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' |
-    awk -v codename="$codename" '
-      $3 == "main" && ($2 == codename || $2 ~ /^(oldstable|stable|testing|sid|unstable)$/) && !seen[$1 $2]++ {
-        print $1, $2
-      }'
-}
-
-# apt-get with its own lists, archives and state for i386, with the sources in $work_dir/sources.list.
-private_apt() {
-  apt-get -q -y \
-    -o APT::Architecture=i386 -o APT::Architectures=i386 -o APT::Install-Recommends=false \
-    -o Dir::Etc::sourcelist="$work_dir/sources.list" -o Dir::Etc::sourceparts=- \
-    -o Dir::State="$work_dir/state" -o Dir::State::lists="$work_dir/lists" -o Dir::State::status=/dev/null \
-    -o Dir::Cache="$work_dir/cache" -o Dir::Cache::archives="$work_dir/archives" \
-    -o Dir::Cache::pkgcache= -o Dir::Cache::srcpkgcache= \
-    -o APT::Sandbox::User= -o Debug::NoLocking=1 -o Acquire::Retries=3 -o Acquire::Languages=none \
-    "$@" </dev/null >"$work_dir/apt.log" 2>&1
-}
-
-# Reads the i386 index of one source; false when it cannot be read or is not signed by the distribution.
-read_index() {
-  local address=$1 release=$2
-  mkdir -p "$work_dir"/{state,lists/partial,cache,archives/partial}
-  printf 'deb [arch=i386 signed-by=%s] %s %s main\n' "$archive_keyring" "$address" "$release" >"$work_dir/sources.list"
-  private_apt -o APT::Update::Error-Mode=any update
-}
-
-download_packages() {
-  local -a candidates
-  mapfile -t candidates < <(archive_candidates)
-  if ((${#candidates[@]} == 0)); then
-    say "no archive of this distribution among the machine's package sources; install a 32-bit wine by hand"
-    return 1
-  fi
-  local attempt address release candidate
-  for ((attempt = 1; attempt <= download_attempts; attempt++)); do
-    for candidate in "${candidates[@]}"; do
-      read -r address release <<<"$candidate"
-      if read_index "$address" "$release" && private_apt --download-only install "${wine_packages[@]}"; then
-        return 0
-      fi
-    done
-    say "attempt $attempt of $download_attempts to download the i386 packages failed"
-    if ((attempt < download_attempts)); then sleep $((attempt * 5)); fi
-  done
-  tail -n 15 "$work_dir/apt.log" >&2
-  return 1
-}
-
 # Unpacks all packages into $1 and leaves out what only people read.
 unpack_packages() {
   local root=$1 archive
@@ -162,13 +111,14 @@ point_to_own_libraries() {
 
 build_private_wine() {
   say "building a private 32-bit Wine in the cache folder (about 150 MB to download)"
-  download_packages
+  download_packages i386 "" --download-only install "${wine_packages[@]}"
   say "unpacking"
   unpack_packages "$work_dir/root"
   add_builtin_zlib "$work_dir/root"
   point_to_own_libraries "$work_dir/root" "$private_wine_root"
   rm -rf "$private_wine_root"
   mv "$work_dir/root" "$private_wine_root"
+  if ! runs_natively "$private_wine_root"; then add_emulator "$private_wine_root"; fi
   say "trying it"
   if ! proves_to_run private; then
     rm -rf "$private_wine_root"
