@@ -73,7 +73,7 @@ void ConfigForm::EndSession() {
 }
 
 void ConfigForm::ActivatedMinimised(std::uint32_t former_thread) {
-  if (IsThreadOfQdix(system_, former_thread)) screen_.Window.SetState(ui::WindowState::kNormal);
+  if (MayBeThreadOfQdix(system_, former_thread)) screen_.Window.SetState(ui::WindowState::kNormal);
 }
 
 bool ConfigForm::MaySessionEnd() {

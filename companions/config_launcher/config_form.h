@@ -34,9 +34,10 @@ class ConfigForm {
   /// The Windows session ends: nothing more is asked or written, and the window unloads.
   void EndSession();
 
-  /// The window became the active one while it is minimised, in place of one of `former_thread`. Restores it
-  /// if that is Q-DIX, which can only bring it to the front. The user's own ways to a minimised window, like
-  /// its button on the taskbar, restore it or show its menu without this.
+  /// The window became the active one while it is minimised, in place of one of `former_thread`, which is 0
+  /// where the system does not tell. Restores it if that is Q-DIX, which can only bring it to the front. The
+  /// user's own ways to a minimised window, like its button on the taskbar, restore it or show its menu
+  /// without this.
   void ActivatedMinimised(std::uint32_t former_thread);
 
   /// Files were dropped on the window.

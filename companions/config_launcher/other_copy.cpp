@@ -29,9 +29,9 @@ bool BringOtherCopyForward(const os::System& system, ui::Application& applicatio
   return true;
 }
 
-bool IsThreadOfQdix(const os::System& system, std::uint32_t thread) {
+bool MayBeThreadOfQdix(const os::System& system, std::uint32_t thread) {
   const os::WindowHandle window = system.windows.FindWindowA(kQdixClass, kQdixTitle);
-  return window != 0 && system.windows.GetWindowThreadProcessId(window) == thread;
+  return window != 0 && (thread == 0 || system.windows.GetWindowThreadProcessId(window) == thread);
 }
 
 }  // namespace qdix::config_launcher

@@ -15,7 +15,7 @@ namespace qdix::config_launcher {
 [[nodiscard]] bool BringOtherCopyForward(const os::System& system, ui::Application& application,
                                          ui::Form& form);
 
-/// True for the thread that Q-DIX runs in.
-[[nodiscard]] bool IsThreadOfQdix(const os::System& system, std::uint32_t thread);
+/// True for the thread that Q-DIX runs in, and for the thread 0, which is not known, while Q-DIX runs.
+[[nodiscard]] bool MayBeThreadOfQdix(const os::System& system, std::uint32_t thread);
 
 }  // namespace qdix::config_launcher

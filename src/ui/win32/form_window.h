@@ -50,7 +50,7 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   /// The Windows session is about to end: false keeps it going. Unbound, the session may end.
   base::Callback<bool()> OnQueryEndSession;
   /// The window was activated while it is minimised, which does not restore it. Told the thread that was
-  /// active before, 0 if there was none.
+  /// active before; 0 if there was none, and always by systems that look only among the own windows.
   base::Callback<void(std::uint32_t)> OnActivatedMinimised;
   /// The taskbar was started anew and has lost the icons in its notification area.
   base::Callback<void()> OnTaskbarCreated;

@@ -191,12 +191,15 @@ TEST(ConfigActivation, QdixRestoresTheMinimisedWindowAndNobodyElse) {
   rig.form->ActivatedMinimised(0);
   EXPECT_EQ(window.State(), ui::WindowState::kMinimised) << "no Q-DIX, no thread before";
   const os::WindowHandle qdix = rig.machine.OpenWindow("ThunderRT6Main", "Q-DIX");
-  for (const std::uint32_t thread : {0U, 1U, windows.GetWindowThreadProcessId(taskbar)}) {
+  for (const std::uint32_t thread : {1U, windows.GetWindowThreadProcessId(taskbar)}) {
     rig.form->ActivatedMinimised(thread);
     EXPECT_EQ(window.State(), ui::WindowState::kMinimised) << thread;
   }
-  rig.form->ActivatedMinimised(windows.GetWindowThreadProcessId(qdix));
-  EXPECT_EQ(window.State(), ui::WindowState::kNormal);
+  for (const std::uint32_t thread : {windows.GetWindowThreadProcessId(qdix), 0U}) {
+    window.UserChangedState(ui::WindowState::kMinimised);
+    rig.form->ActivatedMinimised(thread);
+    EXPECT_EQ(window.State(), ui::WindowState::kNormal) << thread;
+  }
 }
 
 TEST(ConfigClosing, EndOfTheSessionAsksAndWritesNothing) {
