@@ -37,6 +37,21 @@ class Boxes {
     return answer == os::kIdYes && !form_.Unloaded();
   }
 
+  enum class Choice : unsigned char {
+    kYes,
+    kNo,
+    kCancel,
+  };
+
+  /// The user's answer, of which Enter means Yes. No where the box could not be shown.
+  [[nodiscard]] Choice Choose(const std::string& question) {
+    const Opened opened(*this);
+    const int answer =
+        system_.dialogs.MessageBoxA(question, application_.Title(), os::kMbYesNoCancel | os::kMbIconQuestion);
+    if (answer == os::kIdCancel) return Choice::kCancel;
+    return answer == os::kIdYes ? Choice::kYes : Choice::kNo;
+  }
+
   void Tell(const std::string& message) {
     const Opened opened(*this);
     system_.dialogs.MessageBoxA(message, application_.Title(), os::kMbOk | os::kMbIconExclamation);

@@ -3,22 +3,27 @@
 
 #include "config_launcher/boxes.h"
 #include "config_launcher/config_screen.h"
+#include "config_launcher/entry_list.h"
 #include "os/file_dialogs.h"
+#include "os/system.h"
 
 namespace qdix::config_launcher {
 
 class Browse {
  public:
-  Browse(os::FileDialogs& dialogs, ConfigScreen& screen, Boxes& boxes);
+  Browse(const os::System& system, os::FileDialogs& dialogs, ConfigScreen& screen, Boxes& boxes,
+         EntryList& entry_list);
 
-  /// Puts a program's command line into its field, and fills name and folder where they are empty.
+  /// Starts a new entry with the name, command line and folder of the program that the user picks.
   base::Status cmdBrowsePath_Click();
   base::Status cmdBrowseStartIn_Click();
 
  private:
+  const os::System& system_;
   os::FileDialogs& dialogs_;
   ConfigScreen& screen_;
   Boxes& boxes_;
+  EntryList& entry_list_;
 };
 
 }  // namespace qdix::config_launcher

@@ -38,7 +38,7 @@ ConfigForm::ConfigForm(const os::System& system, os::FileDialogs& dialogs)
       boxes_(system, application_, screen_.Window),
       file_(system),
       entry_list_(system, screen_, boxes_),
-      browse_(dialogs, screen_, boxes_) {
+      browse_(system, dialogs, screen_, boxes_, entry_list_) {
   events_.ReportErrorsTo(ui::EventDispatcher::ErrorReporter::To<&ConfigForm::ReportUntrapped>(*this));
   screen_.cmdOK.OnClick = ui::Handler::To<&ConfigForm::cmdOK_Click>(*this);
   screen_.cmdCancel.OnClick = ui::Handler::To<&ConfigForm::cmdCancel_Click>(*this);
@@ -72,28 +72,50 @@ void ConfigForm::EndSession() {
   screen_.Window.Unload();
 }
 
+void ConfigForm::ActivatedMinimised(std::uint32_t former_thread) {
+  if (MayBeThreadOfQdix(system_, former_thread)) screen_.Window.SetState(ui::WindowState::kNormal);
+}
+
+bool ConfigForm::MaySessionEnd() {
+  if (screen_.Window.Unloaded() || !LosesSomething()) return true;
+  switch (boxes_.Choose("The list of programs is not saved.\r\n\r\nDo you want to save it?")) {
+    case Boxes::Choice::kYes:
+      return SaveList();
+    case Boxes::Choice::kNo:
+      return true;
+    case Boxes::Choice::kCancel:
+      return false;
+  }
+  return true;
+}
+
 base::Status ConfigForm::cmdOK_Click() {
+  if (SaveList()) screen_.Window.Unload();
+  return base::kDone;
+}
+
+bool ConfigForm::SaveList() {
   if (entry_list_.HasUnusedFields() &&
       !boxes_.Ask("What you typed in the fields is not in the list. \"Add\" or \"Change\" puts it there."
                   "\r\n\r\nDo you want to save the list without it?")) {
-    return base::kDone;
+    return false;
   }
   if (entry_list_.Entries().size() > launcher::kMostEntries) {
     boxes_.Tell(
         "The launcher takes 25 programs at most.\r\n\r\nPlease remove some before you save the list.");
-    return base::kDone;
+    return false;
   }
   const Saved saved = file_.Write(entry_list_.Entries());
   if (saved == Saved::kYes) {
-    screen_.Window.Unload();
-    return base::kDone;
+    entry_list_.WasSaved();
+    return true;
   }
-  boxes_.Tell(
-      std::string("The list of programs could not be saved.\r\n\r\n") +
-      (saved == Saved::kNo ? "The list of before is unchanged." : "The list of before is in launcher.bak.") +
-      " Please make sure that the disk is neither full nor write-protected and that no other program "
-      "has launcher.dat open, and try again.");
-  return base::kDone;
+  boxes_.Tell(std::string("The list of programs could not be saved.\r\n\r\n") +
+              (saved == Saved::kNo ? "Your previous list has not been changed."
+                                   : "Your previous list is in launcher.bak.") +
+              " Please make sure that the disk is neither full nor write-protected and that no other program "
+              "has launcher.dat open, and try again.");
+  return false;
 }
 
 base::Status ConfigForm::cmdCancel_Click() {
@@ -103,9 +125,10 @@ base::Status ConfigForm::cmdCancel_Click() {
 
 bool ConfigForm::MayClose() {
   if (boxes_.AnyIsOpen()) return false;
-  const bool loses_something = entry_list_.IsChanged() || entry_list_.HasUnusedFields();
-  return !loses_something || boxes_.Ask("Discard the changes?");
+  return !LosesSomething() || boxes_.Ask("Discard the changes?");
 }
+
+bool ConfigForm::LosesSomething() const { return entry_list_.IsChanged() || entry_list_.HasUnusedFields(); }
 
 void ConfigForm::ReportUntrapped(const base::RuntimeError& error) {
   boxes_.Tell(base::UntrappedErrorText(error));

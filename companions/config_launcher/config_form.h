@@ -1,6 +1,7 @@
 // The program: owns the window, what works on it, and the order from reading to writing.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -27,8 +28,17 @@ class ConfigForm {
   /// list is there and cannot be read, the window unloads instead.
   void Start();
 
+  /// The Windows session is about to end: asks what becomes of a list that is not saved. False keeps the
+  /// session going.
+  [[nodiscard]] bool MaySessionEnd();
   /// The Windows session ends: nothing more is asked or written, and the window unloads.
   void EndSession();
+
+  /// The window became the active one while it is minimised, in place of one of `former_thread`, which is 0
+  /// where the system does not tell. Restores it if that is Q-DIX, which can only bring it to the front. The
+  /// user's own ways to a minimised window, like its button on the taskbar, restore it or show its menu
+  /// without this.
+  void ActivatedMinimised(std::uint32_t former_thread);
 
   /// Files were dropped on the window.
   void FilesDropped(const std::vector<std::string>& paths) { entry_list_.AddFiles(paths); }
@@ -45,6 +55,9 @@ class ConfigForm {
 
  private:
   [[nodiscard]] bool MayClose();
+  [[nodiscard]] bool LosesSomething() const;
+  /// False where the user does not want to save the list as it is, or it could not be saved.
+  [[nodiscard]] bool SaveList();
   void ReportUntrapped(const base::RuntimeError& error);
 
   const os::System& system_;

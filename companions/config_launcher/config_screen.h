@@ -51,6 +51,12 @@ struct ConfigScreen {
                     {.name = "lblName", .caption = "Name:", .access_key = 'N', .place = {7, 111, 54, 8}}};
   ui::TextBox txtName{
       Window, {.name = "txtName", .place = {64, 109, 135, 14}}, static_cast<int>(launcher::kNameWidth)};
+  ui::Button cmdNew{Window,
+                    {.name = "cmdNew",
+                     .caption = "New",
+                     .access_key = 'e',
+                     .tool_tip = "Empty the fields for another program",
+                     .place = {206, 109, 50, 14}}};
   ui::Label lblPath{
       Window, {.name = "lblPath", .caption = "Command Line:", .access_key = 'C', .place = {7, 129, 54, 8}}};
   ui::TextBox txtPath{
@@ -59,7 +65,7 @@ struct ConfigScreen {
                            {.name = "cmdBrowsePath",
                             .caption = "Browse...",
                             .access_key = 'B',
-                            .tool_tip = "Look for the program",
+                            .tool_tip = "Look for a program to add",
                             .place = {206, 127, 50, 14}}};
   ui::Label lblStartIn{
       Window, {.name = "lblStartIn", .caption = "Start In:", .access_key = 'S', .place = {7, 147, 54, 8}}};

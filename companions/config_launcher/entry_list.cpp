@@ -1,11 +1,13 @@
 #include "config_launcher/entry_list.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "base/numbers.h"
 #include "base/text.h"
 #include "config_launcher/entry_text.h"
+#include "config_launcher/picked_files.h"
 
 namespace qdix::config_launcher {
 
@@ -20,6 +22,9 @@ std::string Trimmed(const ui::TextBox& box) { return std::string(base::Trim(box.
 EntryList::EntryList(const os::System& system, ConfigScreen& screen, Boxes& boxes)
     : system_(system), screen_(screen), boxes_(boxes) {
   screen_.lstPrograms.OnClick = ui::Handler::To<&EntryList::lstPrograms_Click>(*this);
+  screen_.lstPrograms.OnRowKey =
+      base::Callback<base::Status(ui::RowKey)>::To<&EntryList::lstPrograms_RowKey>(*this);
+  screen_.cmdNew.OnClick = ui::Handler::To<&EntryList::cmdNew_Click>(*this);
   screen_.cmdAdd.OnClick = ui::Handler::To<&EntryList::cmdAdd_Click>(*this);
   screen_.cmdChange.OnClick = ui::Handler::To<&EntryList::cmdChange_Click>(*this);
   screen_.cmdRemove.OnClick = ui::Handler::To<&EntryList::cmdRemove_Click>(*this);
@@ -28,14 +33,14 @@ EntryList::EntryList(const os::System& system, ConfigScreen& screen, Boxes& boxe
 }
 
 void EntryList::Take(const std::vector<LauncherEntry>& entries) {
-  as_read_ = entries;
+  on_disk_ = entries;
   entries_ = entries;
   Select(entries_.empty() ? kNone : 0);
   FillFields();
 }
 
 LauncherEntry EntryList::Typed() const {
-  return {Trimmed(screen_.txtName), Trimmed(screen_.txtPath), Trimmed(screen_.txtStartIn)};
+  return {Trimmed(screen_.txtName), Trimmed(screen_.txtPath), FolderText(screen_.txtStartIn.Text())};
 }
 
 LauncherEntry EntryList::Shown() const {
@@ -48,11 +53,11 @@ void EntryList::Select(int index) {
   RefreshButtons();
 }
 
-void EntryList::FillFields() {
-  const LauncherEntry shown = Shown();
-  screen_.txtName.SetText(shown.name);
-  screen_.txtPath.SetText(shown.path);
-  screen_.txtStartIn.SetText(shown.start_in);
+void EntryList::FillFields(const LauncherEntry& entry) {
+  filled_ = entry;
+  screen_.txtName.SetText(entry.name);
+  screen_.txtPath.SetText(entry.path);
+  screen_.txtStartIn.SetText(entry.start_in);
 }
 
 void EntryList::FillList() {
@@ -76,9 +81,7 @@ void EntryList::RefreshButtons() {
 base::Status EntryList::lstPrograms_Click() {
   const int chosen = screen_.lstPrograms.SelectedIndex();
   if (chosen == selected_) return base::kDone;
-  if (HasUnusedFields() &&
-      !boxes_.Ask("What you typed in the fields is not in the list. If you select another "
-                  "program, it is lost.\r\n\r\nDo you want to discard it?")) {
+  if (!MayDiscardFields()) {
     base::Ignore(screen_.lstPrograms.SetSelectedIndex(selected_));  // it was selected before
     return base::kDone;
   }
@@ -88,9 +91,53 @@ base::Status EntryList::lstPrograms_Click() {
   return base::kDone;
 }
 
+base::Status EntryList::lstPrograms_RowKey(ui::RowKey key) {
+  switch (key) {
+    case ui::RowKey::kRemove:
+      return cmdRemove_Click();
+    case ui::RowKey::kMoveUp:
+      return cmdMoveUp_Click();
+    case ui::RowKey::kMoveDown:
+      return cmdMoveDown_Click();
+  }
+  return base::kDone;
+}
+
+bool EntryList::MayDiscardFields() {
+  return !HasUnusedFields() ||
+         boxes_.Ask(
+             "What you typed in the fields is not in the list. \"Add\" or \"Change\" puts it there."
+             "\r\n\r\nDo you want to discard it?");
+}
+
+base::Status EntryList::cmdNew_Click() {
+  if (!MayDiscardFields()) return base::kDone;
+  Select(kNone);
+  FillFields();
+  screen_.txtName.SetFocus();
+  return base::kDone;
+}
+
+void EntryList::StartNew(LauncherEntry entry) {
+  if (selected_ == kNone) {
+    const LauncherEntry typed = Typed();
+    if (!typed.name.empty() && typed.name != filled_.name) entry.name = typed.name;
+    if (!typed.start_in.empty() && typed.start_in != filled_.start_in) entry.start_in = typed.start_in;
+  } else if (!MayDiscardFields()) {
+    return;
+  }
+  Select(kNone);
+  FillFields(entry);
+}
+
 bool EntryList::CanBeUsed(const LauncherEntry& entry) {
   if (entry.name.empty()) {
     boxes_.Tell("Please type a name for the program.");
+    screen_.txtName.SetFocus();
+    return false;
+  }
+  if (IsDividingLine(entry.name)) {
+    boxes_.Tell("The name \"-\" would be a dividing line in the menu.\r\n\r\nPlease type another name.");
     screen_.txtName.SetFocus();
     return false;
   }
@@ -99,7 +146,23 @@ bool EntryList::CanBeUsed(const LauncherEntry& entry) {
     screen_.txtPath.SetFocus();
     return false;
   }
+  if (!HasDriveLetter(entry.start_in) &&
+      !boxes_.Ask("The launcher cannot start a program in this folder, and shows an error at each start. "
+                  "\"Start In:\" needs a drive letter, also for a network folder.\r\n\r\n"
+                  "Do you want to keep the folder all the same?")) {
+    screen_.txtStartIn.SetFocus();
+    return false;
+  }
   return true;
+}
+
+bool EntryList::MayAdd(const LauncherEntry& entry) {
+  const bool is_there = std::any_of(entries_.begin(), entries_.end(), [&entry](const LauncherEntry& other) {
+    return IsSameEntry(other, entry);
+  });
+  return !is_there || boxes_.Ask('"' + entry.name +
+                                 "\" is already in the list with the same command line and folder.\r\n\r\n"
+                                 "Do you want to add it again?");
 }
 
 bool EntryList::HasRoom() {
@@ -110,7 +173,7 @@ bool EntryList::HasRoom() {
 
 base::Status EntryList::cmdAdd_Click() {
   const LauncherEntry entry = Typed();
-  if (!HasRoom() || !CanBeUsed(entry)) return base::kDone;
+  if (!HasRoom() || !CanBeUsed(entry) || !MayAdd(entry)) return base::kDone;
   entries_.push_back(entry);
   Select(Count() - 1);
   FillFields();
@@ -159,48 +222,23 @@ void EntryList::MoveBy(int places) {
   Select(target);
 }
 
-bool EntryList::IsFolder(const std::string& path) const {
-  const std::uint32_t attributes = system_.files.GetFileAttributesA(path.c_str());
-  return attributes != os::kInvalidFileAttributes && (attributes & os::kFileAttributeDirectory) != 0;
-}
-
-/// Nothing for what the launcher could not start or a record could not hold.
-std::optional<LauncherEntry> EntryList::EntryOfDropped(const std::string& path) const {
-  if (IsFolder(path)) return std::nullopt;
-  LauncherEntry entry = EntryOfFile(path);
-  if (IsShortcut(path)) {
-    const auto shortcut = system_.shell_files.ReadShortcut(path);
-    if (!shortcut || IsFolder(shortcut->target)) return std::nullopt;
-    entry = EntryOfShortcut(path, *shortcut);
-  }
-  if (!Fits(entry) || entry.name.empty()) return std::nullopt;
-  return entry;
-}
-
 void EntryList::AddFiles(const std::vector<std::string>& paths) {
   if (boxes_.AnyIsOpen()) return;
   const bool keeps_fields = HasUnusedFields();
-  std::string refused;
+  const int count_before = Count();
+  PickedFiles picked(system_);
   bool has_room = true;
   for (const std::string& path : paths) {
     has_room = entries_.size() < launcher::kMostEntries;
-    if (!has_room) break;
-    const auto entry = EntryOfDropped(path);
-    if (entry) {
-      entries_.push_back(*entry);
-    } else {
-      refused += path + std::string(base::kLineBreak);
-    }
+    if (!has_room || screen_.Window.Unloaded()) break;
+    const std::optional<LauncherEntry> entry = picked.EntryOf(path);
+    if (entry && MayAdd(*entry)) entries_.push_back(*entry);
   }
-  Select(keeps_fields || entries_.empty() ? selected_ : Count() - 1);
-  if (!keeps_fields) FillFields();
-  if (!refused.empty()) {
-    boxes_.Tell(
-        "These could not be added. They are folders or shortcuts that lead to no file, or their paths are "
-        "too "
-        "long for the list:\r\n\r\n" +
-        refused);
+  if (Count() != count_before) {
+    Select(keeps_fields ? selected_ : Count() - 1);
+    if (!keeps_fields) FillFields();
   }
+  picked.Report(boxes_);
   if (!has_room) boxes_.Tell("The launcher takes 25 programs at most. Not all files were added.");
 }
 

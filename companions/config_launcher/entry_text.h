@@ -26,6 +26,22 @@ namespace qdix::config_launcher {
 /// The command line that starts a file: its path, in quotation marks where it has blanks.
 [[nodiscard]] std::string CommandLineOf(const std::string& path);
 
+/// A folder as the launcher takes it: without quotation marks, which no path holds, and blanks at the ends.
+[[nodiscard]] std::string FolderText(std::string_view folder);
+
+/// False for what the launcher cannot make the current folder because it begins with no drive letter: a
+/// network folder, for example. No folder is none that it has to change to.
+[[nodiscard]] bool HasDriveLetter(std::string_view folder);
+
+/// True for a name that the menu shows as a dividing line.
+[[nodiscard]] bool IsDividingLine(std::string_view name);
+
+/// Equal but for the case of letters, as Windows compares names and paths.
+[[nodiscard]] bool IsSameEntry(const launcher::LauncherEntry& a, const launcher::LauncherEntry& b);
+
+/// True for the extensions of what Windows 95 can start by a command line: exe, com, bat, pif.
+[[nodiscard]] bool IsProgram(std::string_view path);
+
 /// The entry of a file, cleaned. Its name is cut to what an entry takes, its other texts are not.
 [[nodiscard]] launcher::LauncherEntry EntryOfFile(const std::string& path);
 

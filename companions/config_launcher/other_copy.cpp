@@ -9,6 +9,9 @@ namespace {
 constexpr const char* kMutexName = "QDIX.ConfigLauncher";
 /// Class of the window that the user sees; the hidden one that owns it has the same title.
 constexpr const char* kWindowClass = "QDIXMain";
+/// Class and title of the hidden window that owns the main window of Q-DIX, whose own title changes.
+constexpr const char* kQdixClass = "ThunderRT6Main";
+constexpr const char* kQdixTitle = "Q-DIX";
 /// Carried by this copy while it looks for the other, so that it cannot find itself.
 constexpr std::string_view kOtherTitle = "second copy";
 
@@ -24,6 +27,11 @@ bool BringOtherCopyForward(const os::System& system, ui::Application& applicatio
     system.windows.SetForegroundWindow(window);
   }
   return true;
+}
+
+bool MayBeThreadOfQdix(const os::System& system, std::uint32_t thread) {
+  const os::WindowHandle window = system.windows.FindWindowA(kQdixClass, kQdixTitle);
+  return window != 0 && (thread == 0 || system.windows.GetWindowThreadProcessId(window) == thread);
 }
 
 }  // namespace qdix::config_launcher

@@ -84,6 +84,7 @@ class QuietWindows final : public os::Windows {
   [[nodiscard]] os::WindowHandle GetWindow(os::WindowHandle /*window*/, std::uint32_t /*relation*/) override {
     return 0;
   }
+  [[nodiscard]] std::uint32_t GetWindowThreadProcessId(os::WindowHandle /*window*/) override { return 0; }
   bool OpenIcon(os::WindowHandle /*window*/) override { return false; }
   bool ShowWindow(os::WindowHandle /*window*/, int /*way*/) override { return false; }
   bool SetForegroundWindow(os::WindowHandle /*window*/) override { return false; }

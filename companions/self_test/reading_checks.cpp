@@ -184,7 +184,9 @@ Outcome WindowsAreFound(const os::System& real) {
   if (real.windows.FindWindowA("QDIXTEST has no such class", nullptr) != 0) {
     return Outcome::Failed("a window that nobody made is there");
   }
-  return Outcome::Expect(real.windows.FindWindowA(nullptr, nullptr) != 0, "there is no window at all");
+  const os::WindowHandle window = real.windows.FindWindowA(nullptr, nullptr);
+  if (window == 0) return Outcome::Failed("there is no window at all");
+  return Outcome::Expect(real.windows.GetWindowThreadProcessId(window) != 0, "a window has no thread");
 }
 
 /// Writes the file as a whole and reads single entries.

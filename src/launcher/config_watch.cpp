@@ -38,16 +38,17 @@ base::Status ConfigWatch::Command15_Click() {
   return base::kDone;
 }
 
-/// The tick in which the watch gives up still looks once.
+/// The tick in which the watch gives up still looks once. A list that another program holds is read with a
+/// later tick.
 base::Status ConfigWatch::Timer7_Timer() {
   ++config_watch_ticks_;
   if (config_watch_ticks_ <= kOpeningTicks) return base::kDone;
   if (config_watch_ticks_ > kMostTicks) timer7_.SetEnabled(false);
   if (FindEditor() != 0) return base::kDone;
-  launcher_.HideMenu();
-  const base::Status filled = launcher_.FillLauncherMenu();
+  const base::Result<bool> reloaded = launcher_.ReloadLauncherMenu();
+  if (reloaded.Ok() && !reloaded.Value()) return base::kDone;
   timer7_.SetEnabled(false);
-  return filled;
+  return reloaded.Ok() ? base::kDone : reloaded.Error();
 }
 
 }  // namespace qdix::launcher

@@ -33,23 +33,35 @@ ProgramLauncher::ProgramLauncher(const os::System& system, const ui::Application
   }
 }
 
-base::Status ProgramLauncher::FillLauncherMenu() {
+base::Status ProgramLauncher::FillLauncherMenu() { return ShowList(ReadList().value_or(std::string())); }
+
+base::Result<bool> ProgramLauncher::ReloadLauncherMenu() {
+  const std::optional<std::string> content = ReadList();
+  if (!content) return false;
+  HideMenu();
+  const base::Status shown = ShowList(*content);
+  if (!shown.Ok()) return shown.Error();
+  return true;
+}
+
+base::Status ProgramLauncher::ShowList(const std::string& content) {
   screens_.launcher.List5.Clear();
-  const base::Status shown = ShowRecords(ReadList());
+  const base::Status shown = ShowRecords(content);
   if (!shown.Ok()) return shown;
   release_.LoadSettings();
   return base::kDone;
 }
 
-/// A list that can neither be read nor made, on a CD for example, counts as an empty one.
-std::string ProgramLauncher::ReadList() {
+/// A list that is neither there nor can be made, on a CD for example, counts as an empty one.
+std::optional<std::string> ProgramLauncher::ReadList() {
   const std::string path = shell::ApplicationFolder(system_.processes) + kLauncherFileName;
-  const std::optional<std::string> content = ReadWholeFile(system_.files, path, kMostBytes);
-  if (content) return *content;
+  std::optional<std::string> content = ReadWholeFile(system_.files, path, kMostBytes);
+  if (content) return content;
+  if (system_.files.GetFileAttributesA(path.c_str()) != os::kInvalidFileAttributes) return std::nullopt;
   const os::FileHandle made =
       system_.files.CreateFileA(path.c_str(), os::kGenericRead | os::kGenericWrite, os::kOpenAlways);
   if (made != os::kInvalidFile) system_.files.CloseHandle(made);
-  return {};
+  return std::string();
 }
 
 base::Status ProgramLauncher::ShowRecords(const std::string& content) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "launcher/launch_release.h"
@@ -27,12 +28,13 @@ class ProgramLauncher {
   ProgramLauncher(const os::System& system, const ui::Application& application, const Screens& screens,
                   LaunchRelease& release);
 
-  /// Reads the list anew and fills list and menu. Leaves an empty file behind where there was none. Error 340
-  /// where the file holds more programs than the menu has entries.
+  /// Reads the list and fills list and menu; a list that cannot be read counts as empty. Leaves an empty file
+  /// behind if there is none. Error 340 if the file holds more programs than the menu has entries.
   base::Status FillLauncherMenu();
 
-  /// Empties the menu, as far as a menu can be: its last entry stays.
-  void HideMenu();
+  /// Replaces what list and menu show by what the file holds now. False, with both left as they are, if the
+  /// file exists but cannot be opened or read, as while another program holds it.
+  base::Result<bool> ReloadLauncherMenu();
 
   base::Status List5_DblClick();
   base::Status mnuProgram_Click(int index);
@@ -42,8 +44,12 @@ class ProgramLauncher {
   static constexpr std::size_t kTableSlots = 26;
   using Table = std::array<std::string, kTableSlots>;
 
-  [[nodiscard]] std::string ReadList();
+  /// The bytes of the file, none if it does not exist; nothing if it exists but cannot be opened or read.
+  [[nodiscard]] std::optional<std::string> ReadList();
+  base::Status ShowList(const std::string& content);
   base::Status ShowRecords(const std::string& content);
+  /// Empties the menu, as far as a menu can be: its last entry stays.
+  void HideMenu();
   /// Start folder and command line as they were when the user chose the program.
   struct Program {
     std::string path;

@@ -8,7 +8,10 @@ namespace qdix::os {
 
 inline constexpr std::uint32_t kMbOk = 0x0000U;
 inline constexpr std::uint32_t kMbOkCancel = 0x0001U;
+inline constexpr std::uint32_t kMbYesNoCancel = 0x0003U;
 inline constexpr std::uint32_t kMbYesNo = 0x0004U;
+/// The bits that name the buttons.
+inline constexpr std::uint32_t kMbButtons = 0x000FU;
 inline constexpr std::uint32_t kMbIconStop = 0x0010U;
 inline constexpr std::uint32_t kMbIconQuestion = 0x0020U;
 inline constexpr std::uint32_t kMbIconExclamation = 0x0030U;

@@ -19,7 +19,7 @@ class FileDialogs {
  public:
   virtual ~FileDialogs() = default;
 
-  /// The full path of one file that is there, a shortcut followed to what it stands for; empty when the user
+  /// The full path of one file that is there, of a shortcut itself and not of its target; empty when the user
   /// picked none, or the dialog could not be shown.
   [[nodiscard]] virtual std::string GetOpenFileNameA(const FileQuestion& question) = 0;
 

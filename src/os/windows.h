@@ -32,6 +32,9 @@ class Windows {
   /// The window that stands in this relation to `window`, or 0.
   [[nodiscard]] virtual WindowHandle GetWindow(WindowHandle window, std::uint32_t relation) = 0;
 
+  /// The thread that a window belongs to; 0 when there is no such window.
+  [[nodiscard]] virtual std::uint32_t GetWindowThreadProcessId(WindowHandle window) = 0;
+
   /// Restores a minimised window to its former size and place, and shows it where it is hidden; no effect on
   /// others. False when there is no such window.
   virtual bool OpenIcon(WindowHandle window) = 0;

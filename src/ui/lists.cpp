@@ -81,6 +81,10 @@ void ListBox::PressEnter() {
   if (Reachable() && SelectedIndex() != kNoSelection) Events().Run(OnDoubleClick);
 }
 
+void ListBox::PressRowKey(RowKey key) {
+  if (Reachable()) Events().Run(OnRowKey, key);
+}
+
 void DropDownList::SetText(std::string_view text) {
   const int index = IndexOf(text);
   if (index != kNoSelection) base::Ignore(SetSelectedIndex(index));  // the row was just seen

@@ -63,6 +63,13 @@ class ListControl : public Control {
   bool code_fires_click_;
 };
 
+/// What the keys Del, Alt+Up and Alt+Down ask of the selected row.
+enum class RowKey : std::uint8_t {
+  kRemove,
+  kMoveUp,
+  kMoveDown
+};
+
 /// The selection index -1 clears without OnClick. A user's click on a row fires OnClick also when the row is
 /// already selected.
 class ListBox final : public ListControl {
@@ -74,8 +81,11 @@ class ListBox final : public ListControl {
   void DoubleClick(int index);
   /// Like a double click on the selected row.
   void PressEnter() override;
+  /// The user's key on the list; nothing when unreachable.
+  void PressRowKey(RowKey key);
 
   Handler OnDoubleClick;
+  base::Callback<base::Status(RowKey)> OnRowKey;
 
  private:
   [[nodiscard]] bool SameRowFires() const override { return true; }

@@ -28,6 +28,10 @@ TEST_F(DialogsContract, AnswersAreTheButtonsPressed) {
   EXPECT_EQ(Ask(os::kMbYesNo | os::kMbDefaultButton2 | os::kMbIconStop), os::kIdYes);
   machine->AnswerNextBox(os::kIdOk);
   EXPECT_EQ(Ask(os::kMbOk), os::kIdOk);
+  for (const int answer : {os::kIdYes, os::kIdNo, os::kIdCancel}) {
+    machine->AnswerNextBox(answer);
+    EXPECT_EQ(Ask(os::kMbYesNoCancel | os::kMbIconQuestion), answer);
+  }
 }
 
 TEST_F(DialogsContract, BoxThatIsOpenWhenTheProgramEndsIsUnanswered) {

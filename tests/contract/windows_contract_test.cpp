@@ -82,6 +82,16 @@ TEST_F(WindowsContract, NothingStandsBeforeAClosedWindow) {
   EXPECT_EQ(system.windows.GetWindow(closed, os::kGwHwndPrev), 0U);
 }
 
+TEST_F(WindowsContract, WindowHasAThreadUntilItIsClosed) {
+  const os::WindowHandle window = machine->OpenWindow(kClass, "A Title");
+  const std::uint32_t thread = system.windows.GetWindowThreadProcessId(window);
+  EXPECT_NE(thread, 0U);
+  EXPECT_EQ(system.windows.GetWindowThreadProcessId(window), thread);
+  machine->CloseWindow(window);
+  EXPECT_EQ(system.windows.GetWindowThreadProcessId(window), 0U);
+  EXPECT_EQ(system.windows.GetWindowThreadProcessId(0), 0U);
+}
+
 TEST_F(WindowsContract, MinimisedWindowIsRestored) {
   const os::WindowHandle window = machine->OpenWindow(kClass, "A Title");
   machine->Minimise(window);

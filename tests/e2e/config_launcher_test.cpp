@@ -24,6 +24,37 @@ std::string ThreeEntries() {
          launcher::RecordBytes({"Calculator", "CALC.EXE", ""});
 }
 
+/// Asks a window whether the Windows session may end, without waiting: its program may ask the user first.
+class SessionQuestion {
+ public:
+  explicit SessionQuestion(HWND window) {
+    EXPECT_NE(SendMessageCallbackA(window, WM_QUERYENDSESSION, 0, 0, &SessionQuestion::Take,
+                                   reinterpret_cast<ULONG_PTR>(this)),
+              0);
+  }
+  SessionQuestion(const SessionQuestion&) = delete;
+  SessionQuestion& operator=(const SessionQuestion&) = delete;
+  ~SessionQuestion() = default;
+
+  /// The answer arrives while this thread looks for messages.
+  [[nodiscard]] bool IsAnswered() const {
+    MSG message = {};
+    PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE);
+    return is_answered_;
+  }
+  [[nodiscard]] LRESULT Answer() const { return answer_; }
+
+ private:
+  static void CALLBACK Take(HWND /*window*/, UINT /*message*/, ULONG_PTR question, LRESULT answer) {
+    auto& asked = *reinterpret_cast<SessionQuestion*>(question);
+    asked.is_answered_ = true;
+    asked.answer_ = answer;
+  }
+
+  bool is_answered_ = false;
+  LRESULT answer_ = 0;
+};
+
 class ConfigSession : public testing::Test {
  protected:
   void TearDown() override {
@@ -97,6 +128,10 @@ TEST_F(ConfigSession, ListIsBuiltByKeyboardAndWrittenByteForByte) {
   TypeInto('C', "txtPath", "pbrush");
   TypeInto('S', "txtStartIn", "pictures");
   PressKeyWith(VK_MENU, 'A');
+  const MessageBox question = AwaitBox();
+  EXPECT_TRUE(question.text.starts_with("The launcher cannot start a program in this folder"))
+      << question.text;
+  ASSERT_TRUE(PressButton(question, IDYES));
   ASSERT_TRUE(HasRows(1));
   TypeInto('N', "txtName", "calculator");
   TypeInto('C', "txtPath", "calc");
@@ -177,6 +212,120 @@ TEST_F(ConfigSession, WhatIsTypedIsAskedForBeforeOkSavesWithoutIt) {
   program.Press("cmdOK");
   ExpectEnd();
   EXPECT_EQ(launcher::ReadRecord(list.Bytes().value_or(""), 0).name, "other");
+}
+
+TEST_F(ConfigSession, BrowseStartsANewEntryThatAddAdds) {
+  StartWith(ThreeEntries());
+  PressKeyWith(VK_MENU, 'B');
+  const MessageBox dialog = AwaitBox();
+  Ask(GetDlgItem(dialog.window, kFileNameField), WM_SETTEXT, 0,
+      reinterpret_cast<LPARAM>("C:\\windows\\regedit.exe"));
+  ASSERT_TRUE(PressButton(dialog, IDOK));
+  EXPECT_TRUE(program.Await([this] { return program.Text("txtName") == "regedit"; }))
+      << program.Text("txtName");
+  EXPECT_EQ(program.Text("txtPath"), "C:\\windows\\regedit.exe");
+  EXPECT_EQ(program.Text("txtStartIn"), "C:\\windows");
+  EXPECT_TRUE(HasSelectedRow(LB_ERR));
+  EXPECT_FALSE(program.IsEnabled("cmdChange"));
+  EXPECT_TRUE(Photograph("config_launcher_new_entry"));
+  ASSERT_TRUE(Click(program.Control("cmdAdd")));
+  EXPECT_TRUE(HasRows(4));
+  ASSERT_TRUE(Click(program.Control("cmdOK")));
+  ExpectEnd();
+  EXPECT_EQ(list.Bytes(),
+            ThreeEntries() + launcher::RecordBytes({"regedit", "C:\\windows\\regedit.exe", "C:\\windows"}));
+}
+
+TEST_F(ConfigSession, NewEmptiesTheFieldsAndASecondAddAsks) {
+  StartWith(ThreeEntries());
+  ASSERT_TRUE(Click(program.Control("cmdNew")));
+  ExpectKeyboardOn("txtName");
+  EXPECT_EQ(program.Text("txtName") + program.Text("txtPath") + program.Text("txtStartIn"), "");
+  EXPECT_TRUE(HasSelectedRow(LB_ERR));
+  TypeInto('N', "txtName", "paint");
+  TypeInto('C', "txtPath", "pbrush");
+  PressKeyWith(VK_MENU, 'A');
+  ASSERT_TRUE(HasRows(4));
+  PressKeyWith(VK_MENU, 'A');
+  const MessageBox question = AwaitBox();
+  EXPECT_TRUE(question.text.starts_with("\"paint\" is already in the list")) << question.text;
+  EXPECT_TRUE(Photograph("config_launcher_twice"));
+  ASSERT_TRUE(PressButton(question, IDNO));
+  EXPECT_TRUE(HasRows(4));
+  PressKeyWith(VK_MENU, 'E');
+  ExpectKeyboardOn("txtName");
+  EXPECT_EQ(program.Text("txtName"), "");
+}
+
+TEST_F(ConfigSession, KeysOfTheListMoveAndRemove) {
+  StartWith(ThreeEntries());
+  PressKeyWith(VK_MENU, 'P');
+  ExpectKeyboardOn("lstPrograms");
+  PressKeyWith(VK_MENU, VK_DOWN);
+  EXPECT_TRUE(HasSelectedRow(1));
+  PressKeyWith(VK_MENU, VK_DOWN);
+  EXPECT_TRUE(HasSelectedRow(2));
+  PressKeyWith(VK_MENU, VK_UP);
+  EXPECT_TRUE(HasSelectedRow(1));
+  EXPECT_TRUE(program.HasSelected("lstPrograms", "Editor"));
+  PressKey(VK_DELETE);
+  EXPECT_TRUE(HasRows(2));
+  ExpectKeyboardOn("lstPrograms");
+  program.Press("cmdOK");
+  ExpectEnd();
+  EXPECT_EQ(list.Bytes(), ThreeEntries().substr(launcher::kRecordBytes));
+}
+
+TEST_F(ConfigSession, LongNamesScrollSidewaysAndShortOnesDoNot) {
+  StartWith(launcher::RecordBytes({std::string(55, 'W'), "A.EXE", ""}) + ThreeEntries());
+  const HWND rows = program.Control("lstPrograms");
+  const auto has_scroll_bar = [rows] { return (GetWindowLongA(rows, GWL_STYLE) & WS_HSCROLL) != 0; };
+  RECT inner = {};
+  GetClientRect(rows, &inner);
+  EXPECT_TRUE(program.Await(has_scroll_bar));
+  EXPECT_GT(Ask(rows, LB_GETHORIZONTALEXTENT), inner.right);
+  EXPECT_TRUE(Photograph("config_launcher_long_name"));
+  PressKeyWith(VK_MENU, 'P');
+  ExpectKeyboardOn("lstPrograms");
+  PressKey(VK_DELETE);
+  ASSERT_TRUE(HasRows(3));
+  EXPECT_TRUE(program.Await([&] { return !has_scroll_bar(); }));
+}
+
+TEST_F(ConfigSession, EndOfTheWindowsSessionAsksForTheList) {
+  StartWith(ThreeEntries());
+  EXPECT_NE(Ask(program.MainWindow(), WM_QUERYENDSESSION), 0) << "nothing is lost";
+  PressKeyWith(VK_MENU, 'R');
+  ASSERT_TRUE(HasRows(2));
+  for (const int button : {IDCANCEL, IDYES}) {
+    const SessionQuestion may_end(program.MainWindow());
+    const MessageBox box = AwaitBox();
+    EXPECT_EQ(box.text, "The list of programs is not saved.\r\n\r\nDo you want to save it?");
+    EXPECT_FALSE(may_end.IsAnswered());
+    EXPECT_TRUE(Photograph("config_launcher_end_of_session"));
+    ASSERT_TRUE(PressButton(box, button));
+    EXPECT_TRUE(program.Await([&] { return may_end.IsAnswered(); }));
+    EXPECT_EQ(may_end.Answer() != 0, button == IDYES);
+    EXPECT_EQ(list.Bytes() == ThreeEntries(), button == IDCANCEL);
+  }
+  EXPECT_EQ(list.Bytes(), ThreeEntries().substr(launcher::kRecordBytes));
+  Ask(program.MainWindow(), WM_ENDSESSION, TRUE);
+  ExpectEnd();
+}
+
+TEST_F(ConfigSession, MinimisedWindowThatTheUserActivatesStaysMinimised) {
+  StartWith(ThreeEntries());
+  PressKeyWith(VK_MENU, 'R');
+  ASSERT_TRUE(HasRows(2));
+  ShowWindow(program.MainWindow(), SW_MINIMIZE);
+  ASSERT_TRUE(program.Await([this] { return IsIconic(program.MainWindow()) != 0; }));
+  SetForegroundWindow(program.MainWindow());
+  // Comes after what the activation has left in the queue of the program.
+  program.Close();
+  const MessageBox question = AwaitBox();
+  EXPECT_NE(IsIconic(program.MainWindow()), 0);
+  ASSERT_TRUE(PressButton(question, IDYES));
+  ExpectEnd();
 }
 
 TEST_F(ConfigSession, RowThatIsRefusedStaysUnselected) {
@@ -310,8 +459,8 @@ TEST_F(ConfigSession, TabKeyGoesThroughEverythingInOrder) {
   PressKeyWith(VK_MENU, 'P');
   ExpectKeyboardOn("lstPrograms");
   for (const char* const next :
-       {"cmdMoveDown", "cmdRemove", "txtName", "txtPath", "cmdBrowsePath", "txtStartIn", "cmdBrowseStartIn",
-        "cmdAdd", "cmdChange", "cmdOK", "cmdCancel", "lstPrograms"}) {
+       {"cmdMoveDown", "cmdRemove", "txtName", "cmdNew", "txtPath", "cmdBrowsePath", "txtStartIn",
+        "cmdBrowseStartIn", "cmdAdd", "cmdChange", "cmdOK", "cmdCancel", "lstPrograms"}) {
     PressKey(VK_TAB);
     ExpectKeyboardOn(next);
   }

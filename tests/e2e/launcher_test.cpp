@@ -170,6 +170,33 @@ TEST_F(LauncherSession, SecondPressBringsTheOpenEditorForwardAndStartsNoOther) {
   CloseProgram();
 }
 
+TEST_F(LauncherSession, MinimisedEditorIsRestoredByTheButton) {
+  StartWith("");
+  OpenEditor();
+  ShowWindow(editor.MainWindow(), SW_MINIMIZE);
+  ASSERT_TRUE(editor.Await([this] { return IsIconic(editor.MainWindow()) != 0; }));
+  ASSERT_TRUE(Click(program.Control("Command15")));
+  EXPECT_TRUE(program.Await(
+      [this] { return IsIconic(editor.MainWindow()) == 0 && GetForegroundWindow() == editor.MainWindow(); }));
+  EXPECT_TRUE(Photograph("launcher_editor_restored"));
+  PressKeyWith(VK_MENU, 'N');
+  EXPECT_TRUE(editor.Await([this] { return editor.FocusedControl() == "txtName"; }))
+      << "it takes the keyboard";
+  editor.Press("cmdCancel");
+  EXPECT_EQ(editor.WaitForExit(), 0);
+  CloseProgram();
+}
+
+TEST_F(LauncherSession, LongNamesScrollSideways) {
+  StartWith(Record("Short", "no such program", "") + Record(std::string(55, 'W'), "no such program", ""));
+  RECT inner = {};
+  GetClientRect(program.Control("List5"), &inner);
+  EXPECT_GT(Ask(program.Control("List5"), LB_GETHORIZONTALEXTENT), inner.right);
+  EXPECT_NE(GetWindowLongA(program.Control("List5"), GWL_STYLE) & WS_HSCROLL, 0);
+  EXPECT_TRUE(Photograph("launcher_long_name"));
+  CloseProgram();
+}
+
 TEST_F(LauncherSession, DoubleClickStartsTheProgramInItsFolder) {
   StartWith(Record("Editor", "no such program", "") +
             Record("Witness", Quoted(WitnessPath()) + " /one \"two words\"", "C:\\windows\\system"));

@@ -36,12 +36,26 @@ class ConfigHands : private RandomListMaker {
   void Act() {
     if (Chance(20)) rig_.machine.LimitFreeBytes(Random() % 20000);
     if (Chance(10)) rig_.machine.LimitFreeBytes(10000000);
-    if (Chance(8)) rig_.dialogs.PickNext("C:\\" + Printable(RandomText(270)));
-    if (Chance(15)) rig_.form->FilesDropped({"C:\\" + Printable(RandomText(270)), "D:\\A B.EXE"});
+    if (Chance(8)) rig_.dialogs.PickNext("C:\\" + Printable(RandomText(270)) + (Chance(2) ? ".EXE" : ""));
+    if (Chance(15)) {
+      rig_.form->FilesDropped(
+          {"C:\\" + Printable(RandomText(270)) + ".exe", Printable(RandomText(20)), "D:\\A B.EXE"});
+    }
+    if (Chance(60)) AskForTheEndOfTheSession();
     if (Chance(4)) rig_.Type({Printable(RandomText(60)), Printable(RandomText(260)), ""});
     if (Chance(60)) rig_.form->Window().Close();
     if (Chance(60)) rig_.form->Window().PressEscape();
     hand_.UseAny();
+  }
+
+  /// Another program may keep the session going: the window stays, with the list saved or not.
+  void AskForTheEndOfTheSession() {
+    const bool was_open = !rig_.form->Window().Unloaded();
+    const bool may_end = rig_.form->MaySessionEnd();
+    EXPECT_EQ(!rig_.form->Window().Unloaded(), was_open);
+    if (rig_.ListOnDisk() == on_disk_) return;
+    EXPECT_TRUE(may_end) << "saved, and the session is held up all the same";
+    ExpectSaved();
   }
 
   /// What a keyboard and a disk give: no control characters.
@@ -52,13 +66,17 @@ class ConfigHands : private RandomListMaker {
     return text;
   }
 
+  void ExpectSaved() {
+    on_disk_ = rig_.ListOnDisk();
+    EXPECT_EQ(on_disk_, BytesOf(rig_.form->Entries())) << "neither the old list nor the new one";
+    EXPECT_LE(rig_.form->Entries().size(), std::size_t{launcher::kMostEntries});
+  }
+
   void CheckInvariants() {
     const auto list = rig_.ListOnDisk();
     if (list != on_disk_) {
-      EXPECT_EQ(list, BytesOf(rig_.form->Entries())) << "neither the old list nor the new one";
-      EXPECT_LE(rig_.form->Entries().size(), std::size_t{launcher::kMostEntries});
+      ExpectSaved();
       EXPECT_TRUE(rig_.form->Window().Unloaded()) << "saved, and open all the same";
-      on_disk_ = list;
     }
     EXPECT_EQ(rig_.machine.ReadFile(kListTemporaryPath), std::nullopt);
     EXPECT_EQ(rig_.Rows().size(), rig_.form->Entries().size());

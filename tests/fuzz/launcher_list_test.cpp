@@ -62,7 +62,7 @@ class RandomLists : private RandomListMaker {
   void Act() {
     config_launcher::ConfigScreen& screen = rig_.Screen();
     const std::size_t count = rig_.form->Entries().size();
-    switch (Random() % 10) {
+    switch (Random() % 11) {
       case 0:
         return screen.cmdAdd.Press();
       case 1:
@@ -74,12 +74,15 @@ class RandomLists : private RandomListMaker {
       case 4:
         return screen.cmdMoveDown.Press();
       case 5:
-        rig_.dialogs.PickNext("C:\\" + Printable(RandomText(270)));
+        rig_.dialogs.PickNext("C:\\" + Printable(RandomText(270)) + (Chance(2) ? ".EXE" : ""));
         return Chance(2) ? screen.cmdBrowsePath.Press() : screen.cmdBrowseStartIn.Press();
       case 6:
-        return rig_.form->FilesDropped({"C:\\" + Printable(RandomText(270)), "D:\\A B.EXE"});
+        return rig_.form->FilesDropped({"C:\\" + Printable(RandomText(270)) + ".EXE", "D:\\A B.EXE"});
       case 7:
         return rig_.Type({Printable(RandomText(60)), Printable(RandomText(260)), Printable(RandomText(9))});
+      case 8:
+        return Chance(2) ? screen.cmdNew.Press()
+                         : screen.lstPrograms.PressRowKey(static_cast<ui::RowKey>(Random() % 3));
       default:
         if (Chance(2)) rig_.machine.AnswerNextBox(os::kIdYes);
         return screen.lstPrograms.ChooseIndex(count == 0 ? 0 : static_cast<int>(Random() % count));

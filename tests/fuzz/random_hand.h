@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <iostream>
 #include <string>
 #include <string_view>
@@ -49,8 +50,13 @@ class RandomHand {
   void Answer(os::SimulatedMachine& machine) {
     const std::uint32_t flags = machine.Boxes().back().flags;
     int answer = os::kIdOk;
-    if ((flags & os::kMbYesNo) != 0) answer = source_.Chance(3) ? os::kIdNo : os::kIdYes;
-    if ((flags & os::kMbOkCancel) != 0) answer = source_.Chance(2) ? os::kIdOk : os::kIdCancel;
+    const std::uint32_t buttons = flags & os::kMbButtons;
+    if (buttons == os::kMbYesNo) answer = source_.Chance(3) ? os::kIdNo : os::kIdYes;
+    if (buttons == os::kMbYesNoCancel) {
+      constexpr std::array<int, 3> kAnswers{os::kIdYes, os::kIdNo, os::kIdCancel};
+      answer = kAnswers[source_.Random() % kAnswers.size()];
+    }
+    if (buttons == os::kMbOkCancel) answer = source_.Chance(2) ? os::kIdOk : os::kIdCancel;
     machine.AnswerNextBox(source_.Chance(10) ? os::kIdNone : answer);
   }
 
@@ -73,6 +79,10 @@ class RandomHand {
         return static_cast<ui::TextBox&>(control).TypeText(SomeText());
       case ui::Kind::kListBox:
         if (source_.Chance(3)) return static_cast<ui::ListBox&>(control).DoubleClick(number % 32);
+        if (source_.Chance(6)) {
+          return static_cast<ui::ListBox&>(control).PressRowKey(
+              static_cast<ui::RowKey>(source_.Random() % 3));
+        }
         return static_cast<ui::ListBox&>(control).ChooseIndex(number % 32);
       case ui::Kind::kDropDownList:
         return static_cast<ui::ListControl&>(control).ChooseIndex(number % 32);

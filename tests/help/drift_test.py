@@ -39,7 +39,6 @@ NOT_IN_A_BOX = {
     "Out of memory", "Division by zero", "Set not permitted", "Application-defined error",
     # names
     "Software\\VB and VBA Program Settings\\QDIX\\", "Quondix Settings",
-    "Programs\0*.exe;*.com;*.bat;*.pif;*.lnk\0All files\0*.*\0",
 }
 
 

@@ -41,6 +41,9 @@ class Program {
     ui::win32::FormWindow& window = program_.Window();
     dialogs_.SetOwner(window.MainWindow());
     window.OnFilesDropped = base::Callback<void(WPARAM)>::To<&Program::FilesDropped>(*this);
+    window.OnQueryEndSession = base::Callback<bool()>::To<&ConfigForm::MaySessionEnd>(program_.TheProgram());
+    window.OnActivatedMinimised =
+        base::Callback<void(std::uint32_t)>::To<&ConfigForm::ActivatedMinimised>(program_.TheProgram());
     os::win32::AcceptDroppedFiles(window.MainWindow());
   }
 

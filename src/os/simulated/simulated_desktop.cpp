@@ -45,6 +45,11 @@ WindowHandle SimulatedWindows::GetWindow(WindowHandle window, std::uint32_t rela
   return std::prev(found)->handle;
 }
 
+std::uint32_t SimulatedWindows::GetWindowThreadProcessId(WindowHandle window) {
+  if (log_.RecordAndFail("GetWindowThreadProcessId") || Find(window) == windows_.end()) return 0;
+  return static_cast<std::uint32_t>(~window);
+}
+
 bool SimulatedWindows::OpenIcon(WindowHandle window) {
   if (log_.RecordAndFail("OpenIcon")) return false;
   const auto found = Find(window);
@@ -114,6 +119,7 @@ int SimulatedDialogs::MessageBoxA(const std::string& text, const std::string& ti
     answers_.erase(answers_.begin());
     return answer;
   }
+  if ((flags & kMbButtons) == kMbYesNoCancel) return kIdYes;
   if ((flags & kMbYesNo) == 0) return kIdOk;
   return (flags & kMbDefaultButton2) != 0 ? kIdNo : kIdYes;
 }

@@ -22,6 +22,8 @@ class SimulatedWindows final : public Windows {
   WindowHandle FindWindowA(const char* window_class, const char* title) override;
   WindowHandle FindWindowExA(WindowHandle after, const char* title) override;
   WindowHandle GetWindow(WindowHandle window, std::uint32_t relation) override;
+  /// Each window belongs to a thread of its own.
+  std::uint32_t GetWindowThreadProcessId(WindowHandle window) override;
   bool OpenIcon(WindowHandle window) override;
   bool ShowWindow(WindowHandle window, int way) override;
   bool SetForegroundWindow(WindowHandle window) override;

@@ -8,6 +8,7 @@ namespace qdix::os::win32 {
 namespace {
 
 static_assert(kMbOk == MB_OK && kMbOkCancel == MB_OKCANCEL && kMbYesNo == MB_YESNO &&
+              kMbYesNoCancel == MB_YESNOCANCEL && kMbButtons == MB_TYPEMASK &&
               kMbDefaultButton2 == MB_DEFBUTTON2);
 static_assert(kMbIconStop == MB_ICONHAND && kMbIconQuestion == MB_ICONQUESTION &&
               kMbIconExclamation == MB_ICONEXCLAMATION && kMbIconInformation == MB_ICONASTERISK);

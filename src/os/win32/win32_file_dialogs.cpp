@@ -44,7 +44,8 @@ std::string Win32FileDialogs::GetOpenFileNameA(const FileQuestion& question) {
   record.lpstrInitialDir = question.folder.empty() ? nullptr : question.folder.c_str();
   record.lpstrTitle = question.title;
   // The current folder stays: a folder that is open in a program cannot be removed.
-  record.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+  record.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR |
+                 OFN_NODEREFERENCELINKS;
   if (::GetOpenFileNameA(&record) == FALSE) return {};
   return path.data();
 }

@@ -24,6 +24,10 @@ WindowHandle Win32Windows::GetWindow(WindowHandle window, std::uint32_t relation
   return reinterpret_cast<WindowHandle>(::GetWindow(Native(window), relation));
 }
 
+std::uint32_t Win32Windows::GetWindowThreadProcessId(WindowHandle window) {
+  return ::GetWindowThreadProcessId(Native(window), nullptr);
+}
+
 bool Win32Windows::OpenIcon(WindowHandle window) { return ::OpenIcon(Native(window)) != FALSE; }
 
 bool Win32Windows::ShowWindow(WindowHandle window, int way) {

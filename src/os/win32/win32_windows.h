@@ -10,6 +10,7 @@ class Win32Windows final : public Windows {
   [[nodiscard]] WindowHandle FindWindowA(const char* window_class, const char* title) override;
   [[nodiscard]] WindowHandle FindWindowExA(WindowHandle after, const char* title) override;
   [[nodiscard]] WindowHandle GetWindow(WindowHandle window, std::uint32_t relation) override;
+  std::uint32_t GetWindowThreadProcessId(WindowHandle window) override;
   bool OpenIcon(WindowHandle window) override;
   bool ShowWindow(WindowHandle window, int way) override;
   bool SetForegroundWindow(WindowHandle window) override;

@@ -41,6 +41,15 @@ PixelBox DialogFont::Pixels(const Place& place) const {
           MulDiv(place.width, base_width_px_, 4), MulDiv(place.height, base_height_px_, 8)};
 }
 
+int DialogFont::TextWidthPixels(const std::string& text) const {
+  const ScreenDevice screen;
+  HGDIOBJ const former = SelectObject(screen.Get(), font_.get());
+  SIZE size{};
+  GetTextExtentPoint32A(screen.Get(), text.c_str(), static_cast<int>(text.size()), &size);
+  SelectObject(screen.Get(), former);
+  return static_cast<int>(size.cx);
+}
+
 /// A side of more units than the model counts is cut to what it counts.
 FormSize DialogFont::Units(int width_px, int height_px) const {
   constexpr int kMost = 0x7FFF;

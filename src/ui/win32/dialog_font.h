@@ -1,6 +1,8 @@
 // The font of the window and the dialog units that follow from it.
 #pragma once
 
+#include <string>
+
 #include "ui/form.h"
 #include "ui/win32/owned.h"
 
@@ -22,6 +24,7 @@ class DialogFont {
   [[nodiscard]] HFONT Get() const { return font_.get(); }
   /// Dialog units to pixels: a quarter of the average letter's width, an eighth of the font's height.
   [[nodiscard]] PixelBox Pixels(const Place& place) const;
+  [[nodiscard]] int TextWidthPixels(const std::string& text) const;
   /// An inner size in pixels as the dialog units that fit into it.
   [[nodiscard]] FormSize Units(int width_px, int height_px) const;
 

@@ -9,6 +9,10 @@ namespace qdix::ui::win32 {
 
 namespace {
 
+/// Posted by an activation, which must not be changed while it is under way. Above the numbers that dialogs
+/// use themselves.
+constexpr UINT kActivatedMinimisedMessage = WM_USER + 0x102;
+
 HICON LoadMainIcon(HINSTANCE instance, int icon_id) {
   HICON const own = LoadIconA(instance, MAKEINTRESOURCEA(icon_id));
   return own != nullptr ? own
@@ -231,8 +235,16 @@ std::optional<LRESULT> FormWindow::HandleLife(UINT message, WPARAM wparam, LPARA
     case WM_SYSCOLORCHANGE:
       ForwardToControls(message, wparam, lparam);
       return 0;
+    case WM_ACTIVATEAPP:
+      if (wparam != FALSE && IsIconic(main_.get()) != 0) {
+        PostMessageA(main_.get(), kActivatedMinimisedMessage, 0, lparam);
+      }
+      return std::nullopt;
+    case kActivatedMinimisedMessage:
+      if (OnActivatedMinimised) OnActivatedMinimised(static_cast<std::uint32_t>(lparam));
+      return 0;
     case WM_QUERYENDSESSION:
-      return TRUE;
+      return !OnQueryEndSession || OnQueryEndSession() ? TRUE : FALSE;
     case WM_ENDSESSION:
       if (wparam != FALSE) EndSession();
       return 0;

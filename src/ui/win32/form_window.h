@@ -47,6 +47,11 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   base::Callback<void()> OnUnloaded;
   /// The Windows session ends now; unbound, the form unloads.
   base::Callback<void()> OnSessionEnding;
+  /// The Windows session is about to end: false keeps it going. Unbound, the session may end.
+  base::Callback<bool()> OnQueryEndSession;
+  /// The window was activated while it is minimised, which does not restore it. Told the thread that was
+  /// active before; 0 if there was none, and always by systems that look only among the own windows.
+  base::Callback<void(std::uint32_t)> OnActivatedMinimised;
   /// The taskbar was started anew and has lost the icons in its notification area.
   base::Callback<void()> OnTaskbarCreated;
   /// Files were dropped on the window, which somebody made ready for it. The word is their HDROP, which the

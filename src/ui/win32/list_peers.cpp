@@ -1,5 +1,8 @@
 #include "ui/win32/list_peers.h"
 
+#include <algorithm>
+#include <optional>
+
 #include "ui/win32/focus_keeper.h"
 #include "ui/win32/text_box_peer.h"
 
@@ -40,12 +43,22 @@ void CopySelection(HWND window, const ListMessages& messages, const ListControl&
   SendMessageA(window, messages.select, static_cast<WPARAM>(list.SelectedIndex()), 0);
 }
 
+/// What a list box leaves free before and after the text of a row.
+constexpr int kRowMarginsPx = 4;
+
+std::optional<RowKey> RowKeyOf(UINT message, WPARAM key) {
+  if (message == WM_KEYDOWN && key == VK_DELETE) return RowKey::kRemove;
+  if (message == WM_SYSKEYDOWN && key == VK_UP) return RowKey::kMoveUp;
+  if (message == WM_SYSKEYDOWN && key == VK_DOWN) return RowKey::kMoveDown;
+  return std::nullopt;
+}
+
 }  // namespace
 
 ListBoxPeer::ListBoxPeer(const PeerContext& context, ListBox& model, HWND parent, int number)
     : NativeControl(context, model, parent, number,
                     {.window_class = "LISTBOX",
-                     .style = WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
+                     .style = WS_TABSTOP | WS_VSCROLL | WS_HSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT,
                      .extended_style = WS_EX_CLIENTEDGE,
                      .box = context.font.Pixels(model.GetPlace())}),
       list_(model) {
@@ -60,6 +73,10 @@ void ListBoxPeer::OnCommand(UINT code) {
 }
 
 LRESULT ListBoxPeer::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  if (const std::optional<RowKey> key = RowKeyOf(message, wparam)) {
+    list_.PressRowKey(*key);
+    return 0;
+  }
   const LRESULT result = NativeControl::HandleMessage(message, wparam, lparam);
   if (message == WM_LBUTTONDBLCLK) list_.DoubleClick(RowAt(lparam));
   return result;
@@ -72,7 +89,23 @@ int ListBoxPeer::RowAt(LPARAM point) const {
 
 void ListBoxPeer::ValueChanged() { CopySelection(Window(), kListBox, list_); }
 
-void ListBoxPeer::ItemsChanged() { CopyRows(Window(), kListBox, list_); }
+void ListBoxPeer::ItemsChanged() {
+  CopyRows(Window(), kListBox, list_);
+  FitWidth();
+}
+
+void ListBoxPeer::FitWidth() {
+  if (list_.Count() < measured_rows_) {
+    measured_rows_ = 0;
+    widest_row_px_ = 0;
+    Send(WM_HSCROLL, SB_LEFT);  // rows that fit again would stay shifted
+  }
+  for (; measured_rows_ < list_.Count(); ++measured_rows_) {
+    const int width_px = Context().font.TextWidthPixels(list_.Item(measured_rows_)) + kRowMarginsPx;
+    widest_row_px_ = std::max(widest_row_px_, width_px);
+  }
+  Send(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest_row_px_));
+}
 
 DropDownPeer::DropDownPeer(const PeerContext& context, ListControl& model, HWND parent, int number,
                            DWORD style)

@@ -18,8 +18,12 @@ class ListBoxPeer final : public NativeControl {
   void CaptionChanged() override {}
   /// The row under a point of the window, or no selection below the last row.
   [[nodiscard]] int RowAt(LPARAM point) const;
+  /// Lets the user scroll sideways as far as the longest row goes.
+  void FitWidth();
 
   ListBox& list_;
+  int measured_rows_ = 0;
+  int widest_row_px_ = 0;
 };
 
 /// Both kinds of drop-down. The height of its place is that of the opened list.

@@ -32,6 +32,37 @@ TEST(EntryText, FileGivesNameCommandLineAndFolder) {
   EXPECT_EQ(EntryOfFile("C:\\A \\ B .EXE"), (launcher::LauncherEntry{"B", "\"C:\\A \\ B .EXE\"", "C:\\A"}));
 }
 
+TEST(EntryText, FileWhoseTitleIsADividingLineKeepsItsExtension) {
+  EXPECT_EQ(EntryOfFile("C:\\-.EXE").name, "-.EXE");
+  EXPECT_EQ(EntryOfFile("C:\\--.EXE").name, "--");
+  EXPECT_TRUE(IsDividingLine("-"));
+  EXPECT_FALSE(IsDividingLine(""));
+}
+
+TEST(EntryText, FolderHasNoQuotationMarksAndNoBlanksAtItsEnds) {
+  EXPECT_EQ(FolderText("\"C:\\My Games\""), "C:\\My Games");
+  EXPECT_EQ(FolderText(" \" C:\\A B \" "), "C:\\A B");
+  EXPECT_EQ(FolderText("\"\""), "");
+  EXPECT_EQ(Cleaned(launcher::LauncherEntry{"\"A\"", "\"C:\\A B.EXE\"", "\"C:\\A B\""}),
+            (launcher::LauncherEntry{"\"A\"", "\"C:\\A B.EXE\"", "C:\\A B"}));
+}
+
+TEST(EntryText, DriveLetterIsALetterAndAColon) {
+  for (const char* const folder : {"", "C:", "z:\\GAMES", "a:x"})
+    EXPECT_TRUE(HasDriveLetter(folder)) << folder;
+  for (const char* const folder : {"\\\\PC\\DIR", "C", "CD", "@:", "[:", "\\", "1:\\"}) {
+    EXPECT_FALSE(HasDriveLetter(folder)) << folder;
+  }
+}
+
+TEST(EntryText, ProgramsAreToldByTheirExtensions) {
+  for (const char* const path : {"A.exe", "C:\\A.COM", "A.B.Bat", "A.PIF"})
+    EXPECT_TRUE(IsProgram(path)) << path;
+  for (const char* const path : {"A.EX", "A.EXE ", ".exe", "exe", "", "A.LNK", "A.EXE.TXT"}) {
+    EXPECT_FALSE(IsProgram(path)) << path;
+  }
+}
+
 TEST(EntryText, LongNameIsCutAndLongPathsDoNotFit) {
   const std::string long_name(60, 'n');
   const launcher::LauncherEntry entry = EntryOfFile("C:\\" + long_name + ".EXE");

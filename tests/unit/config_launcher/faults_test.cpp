@@ -1,5 +1,5 @@
 // Every call of the system that can fail is failed once, and from then on, through whole sessions; disks fill
-// up and are protected. The list of before or the new one is there whole at every end.
+// up and are protected. The previous list or the new one is there whole at every end.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -134,8 +134,8 @@ TEST(ConfigFaults, FullDiskKeepsTheOldListAndTheWindow) {
     rig.machine.LimitFreeBytes(bytes);
     RunSession(rig);
     EXPECT_TRUE(
-        rig.BoxText(1).starts_with("The list of programs could not be saved.\r\n\r\nThe list of "
-                                   "before is unchanged."));
+        rig.BoxText(1).starts_with("The list of programs could not be saved.\r\n\r\nYour previous list has "
+                                   "not been changed."));
     EXPECT_FALSE(rig.form->Window().Unloaded());
     EXPECT_EQ(rig.form->Entries().size(), 4U);
     EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(3)));

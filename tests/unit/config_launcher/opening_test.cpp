@@ -68,6 +68,16 @@ TEST_F(ConfigOpening, ControlCharactersAreLeftOut) {
   EXPECT_EQ(rig.form->Entries(), (Entries{{"Ed", "A.EXE /x", ""}}));
 }
 
+TEST_F(ConfigOpening, FoldersLoseTheirQuotationMarks) {
+  ConfigRig rig(Entries{{"A", "\"C:\\A B.EXE\"", "\"C:\\A B\""}});
+  rig.Start();
+  EXPECT_EQ(rig.form->Entries(), (Entries{{"A", "\"C:\\A B.EXE\"", "C:\\A B"}}));
+  EXPECT_EQ(rig.machine.Boxes().size(), 0U);
+  rig.Screen().cmdOK.Press();
+  EXPECT_EQ(rig.ListOnDisk(), BytesOf(rig.form->Entries()));
+  EXPECT_EQ(rig.machine.Boxes().size(), 0U);
+}
+
 TEST_F(ConfigOpening, ProgramsWithoutNameOrCommandLine) {
   ConfigRig rig(Entries{{"", "A.EXE", ""}, {"B", "", ""}});
   ExpectRemark(rig, "Some programs have no name or no command line.");

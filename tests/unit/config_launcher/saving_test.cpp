@@ -128,6 +128,80 @@ TEST(ConfigClosing, NotUnderAnOpenQuestion) {
   EXPECT_FALSE(rig.form->Window().Unloaded());
 }
 
+constexpr const char* kNotSaved = "The list of programs is not saved.\r\n\r\nDo you want to save it?";
+
+TEST(ConfigClosing, SessionMayEndAtOnceWhereNothingIsLost) {
+  ConfigRig rig(SomeEntries(3));
+  rig.Start();
+  EXPECT_TRUE(rig.form->MaySessionEnd());
+  EXPECT_FALSE(rig.form->Window().Unloaded()) << "another program may still keep it going";
+  rig.Screen().cmdCancel.Press();
+  EXPECT_TRUE(rig.form->MaySessionEnd());
+  EXPECT_EQ(rig.machine.Boxes().size(), 0U);
+}
+
+TEST(ConfigClosing, SessionThatIsToEndAsksForTheList) {
+  for (const int answer : {os::kIdYes, os::kIdNo, os::kIdCancel, os::kIdNone}) {
+    ConfigRig rig(SomeEntries(2));
+    rig.Start();
+    rig.Screen().cmdMoveDown.Press();
+    rig.machine.AnswerNextBox(answer);
+    EXPECT_EQ(rig.form->MaySessionEnd(), answer != os::kIdCancel) << answer;
+    EXPECT_EQ(rig.BoxText(1), kNotSaved);
+    EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbYesNoCancel | os::kMbIconQuestion);
+    EXPECT_FALSE(rig.form->Window().Unloaded());
+    const bool is_saved = rig.ListOnDisk() == BytesOf({SomeEntries(2)[1], SomeEntries(2)[0]});
+    EXPECT_EQ(is_saved, answer == os::kIdYes) << answer;
+    if (is_saved) {
+      EXPECT_TRUE(rig.form->MaySessionEnd());
+      EXPECT_EQ(rig.machine.Boxes().size(), 1U) << "it is saved already";
+    }
+  }
+}
+
+TEST(ConfigClosing, SessionThatIsToEndAsksForWhatIsTypedAsWell) {
+  ConfigRig rig(SomeEntries(2));
+  rig.Start();
+  rig.Type(kEditor);
+  EXPECT_FALSE(rig.form->MaySessionEnd()) << "Yes to saving, then No to saving without it";
+  ASSERT_EQ(rig.machine.Boxes().size(), 2U);
+  EXPECT_EQ(rig.machine.Boxes()[0].text, kNotSaved);
+  EXPECT_TRUE(rig.machine.Boxes()[1].text.ends_with("Do you want to save the list without it?"));
+  EXPECT_EQ(rig.Fields(), kEditor);
+}
+
+TEST(ConfigClosing, SessionGoesOnWhereTheListCouldNotBeSaved) {
+  ConfigRig rig(SomeEntries(2));
+  rig.Start();
+  rig.Screen().cmdMoveDown.Press();
+  rig.machine.ProtectDisk();
+  EXPECT_FALSE(rig.form->MaySessionEnd());
+  EXPECT_TRUE(rig.BoxText(2).starts_with("The list of programs could not be saved."));
+  EXPECT_FALSE(rig.form->Window().Unloaded());
+}
+
+/// How Windows comes to a window that is minimised: by a call of Q-DIX, or by the user's hand.
+TEST(ConfigActivation, QdixRestoresTheMinimisedWindowAndNobodyElse) {
+  ConfigRig rig(SomeEntries(1));
+  rig.Start();
+  const os::WindowHandle taskbar = rig.machine.OpenWindow("Shell_TrayWnd", "");
+  os::Windows& windows = rig.machine.GetSystem().windows;
+  ui::Form& window = rig.form->Window();
+  window.UserChangedState(ui::WindowState::kMinimised);
+  rig.form->ActivatedMinimised(0);
+  EXPECT_EQ(window.State(), ui::WindowState::kMinimised) << "no Q-DIX, no thread before";
+  const os::WindowHandle qdix = rig.machine.OpenWindow("ThunderRT6Main", "Q-DIX");
+  for (const std::uint32_t thread : {1U, windows.GetWindowThreadProcessId(taskbar)}) {
+    rig.form->ActivatedMinimised(thread);
+    EXPECT_EQ(window.State(), ui::WindowState::kMinimised) << thread;
+  }
+  for (const std::uint32_t thread : {windows.GetWindowThreadProcessId(qdix), 0U}) {
+    window.UserChangedState(ui::WindowState::kMinimised);
+    rig.form->ActivatedMinimised(thread);
+    EXPECT_EQ(window.State(), ui::WindowState::kNormal) << thread;
+  }
+}
+
 TEST(ConfigClosing, EndOfTheSessionAsksAndWritesNothing) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();

@@ -44,6 +44,23 @@ TEST_F(ConfigWindow, FieldsAndListHaveTheKeyOfTheLabelBeforeThem) {
   EXPECT_NE(screen.lblPrograms.AccessKey(), 0);
 }
 
+/// From left to right, row by row: no step of the Tab key goes up, and none to the left in its row.
+TEST_F(ConfigWindow, TabKeyGoesFromLeftToRightAndFromTopToBottom) {
+  const ui::Control* before = nullptr;
+  int steps = 0;
+  for (const ui::Control* control : controls) {
+    if (control->GetKind() == ui::Kind::kLabel) continue;
+    if (before != nullptr) {
+      const ui::Place& from = before->GetPlace();
+      const ui::Place& to = control->GetPlace();
+      EXPECT_TRUE(to.top > from.top || (to.top == from.top && to.left > from.left)) << control->Name();
+      ++steps;
+    }
+    before = control;
+  }
+  EXPECT_EQ(steps, 13);
+}
+
 TEST_F(ConfigWindow, EverythingStandsInItsPlaceWithinTheMargins) {
   constexpr std::int16_t kMargin = 7;
   const ui::Place window = screen.Window.GetPlace();

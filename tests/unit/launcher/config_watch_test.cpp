@@ -150,6 +150,53 @@ TEST_F(ConfigWatchTest, ShorterListHidesTheEntriesBehindIt) {
   EXPECT_THAT(InMenu(), ElementsAre("4"));
 }
 
+TEST_F(ConfigWatchTest, RefusedListIsKeptAndReadWithTheNextTick) {
+  for (const char* const refused : {"CreateFileA", "ReadFile", "GetFileSize"}) {
+    WriteList({"Old"});
+    PressConfigure();
+    rig.AdvanceMs(4 * kTickMs);
+    ASSERT_THAT(Listed(), ElementsAre("Old"));
+    PressConfigure();
+    WriteList({"New 1", "New 2"});
+    rig.AdvanceMs(3 * kTickMs);
+    rig.machine.FailNextCall(refused);
+    rig.AdvanceMs(kTickMs);
+    EXPECT_THAT(Listed(), ElementsAre("Old")) << refused;
+    EXPECT_THAT(InMenu(), ElementsAre("Old")) << refused;
+    EXPECT_TRUE(rig.program->TheTrayMenu().mnuPrograms.Enabled()) << refused;
+    EXPECT_TRUE(Timer7().Enabled()) << refused;
+    rig.AdvanceMs(kTickMs);
+    EXPECT_THAT(Listed(), ElementsAre("New 1", "New 2")) << refused;
+    EXPECT_THAT(InMenu(), ElementsAre("New 1", "New 2")) << refused;
+    EXPECT_FALSE(Timer7().Enabled()) << refused;
+  }
+  EXPECT_EQ(rig.machine.OpenFileCount(), 0);
+}
+
+TEST_F(ConfigWatchTest, RefusedListIsTriedUntilTheWatchGivesUp) {
+  PressConfigure();
+  const os::WindowHandle editor = rig.machine.OpenWindow("Any", "Config Launcher");
+  rig.AdvanceMs(249 * kTickMs);
+  WriteList({"New"});
+  rig.machine.CloseWindow(editor);
+  for (const bool goes_on : {true, false}) {
+    rig.machine.FailNextCall("ReadFile");
+    rig.AdvanceMs(kTickMs);
+    EXPECT_EQ(Timer7().Enabled(), goes_on);
+    EXPECT_THAT(Listed(), ElementsAre("Old"));
+  }
+}
+
+TEST_F(ConfigWatchTest, MissingListEmptiesListAndMenu) {
+  PressConfigure();
+  rig.machine.GetSystem().files.DeleteFileA(kListPath);
+  rig.AdvanceMs(4 * kTickMs);
+  EXPECT_THAT(Listed(), IsEmpty());
+  EXPECT_FALSE(rig.program->TheTrayMenu().mnuPrograms.Enabled());
+  EXPECT_FALSE(Timer7().Enabled());
+  EXPECT_EQ(rig.machine.ReadFile(kListPath), "");
+}
+
 TEST_F(ConfigWatchTest, TooLongAListEndsTheProgram) {
   PressConfigure();
   WriteList(std::vector<std::string>(26, "Name"));

@@ -241,6 +241,24 @@ TEST_F(ListRules, SelectingFiresWhenTheIndexChangesAndClearingItDoesNot) {
   EXPECT_EQ(list.SelectedText(), "");
 }
 
+TEST_F(ListRules, RowKeyArrivesWhereAHandCanReachTheList) {
+  ui::ListBox list(bench.form, {.name = "List"});
+  Fill(list);
+  struct Keys {
+    std::vector<ui::RowKey> seen;
+    base::Status Note(ui::RowKey key) {
+      seen.push_back(key);
+      return base::kDone;
+    }
+  } keys;
+  list.PressRowKey(ui::RowKey::kRemove);
+  list.OnRowKey = base::Callback<base::Status(ui::RowKey)>::To<&Keys::Note>(keys);
+  list.PressRowKey(ui::RowKey::kMoveDown);
+  list.SetEnabled(false);
+  list.PressRowKey(ui::RowKey::kMoveUp);
+  EXPECT_EQ(keys.seen, std::vector{ui::RowKey::kMoveDown});
+}
+
 TEST_F(ListRules, IndexOutsideTheListIsRefused) {
   ui::ListBox list(bench.form, {.name = "List"});
   Fill(list);
