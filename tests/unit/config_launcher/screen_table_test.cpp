@@ -17,9 +17,10 @@ Button cmdMoveDown 'Move &Down' (Move the selected program one place towards the
 Button cmdRemove '&Remove' (Take the selected program out of the list) disabled
 Label lblName '&Name:'
 TextBox txtName ''
+Button cmdNew 'N&ew' (Empty the fields for another program)
 Label lblPath '&Command Line:'
 TextBox txtPath ''
-Button cmdBrowsePath '&Browse...' (Look for the program)
+Button cmdBrowsePath '&Browse...' (Look for a program to add)
 Label lblStartIn '&Start In:'
 TextBox txtStartIn ''
 Button cmdBrowseStartIn 'Bro&wse...' (Look for the folder that the program is started in)
