@@ -11,7 +11,7 @@ readonly folder="$drive/PROGRA~1/QDIX"
 readonly windows_key='Software\Microsoft\Windows\CurrentVersion'
 readonly settings_key='HKCU\Software\VB and VBA Program Settings\QDIX'
 readonly engine=(rundll.exe 'setupx.dll,InstallHinfSection')
-readonly step_limit_s=60
+readonly step_limit_s=180
 
 fail() {
   printf 'install: %s\n' "$*" >&2

@@ -14,9 +14,9 @@ readonly screen=${QDIX_SCREEN:-800x600}
 readonly depth=${QDIX_DEPTH:-24}
 # Where colours are few, a palette that programs can change would be empty at first: the X server's class 2 has a fixed one.
 readonly colour_class=$((depth > 8 ? 4 : 2))
-readonly start_limit_s=60
+readonly start_limit_s=180
 readonly lock_limit_s=1800
-readonly leftover_limit_s=20
+readonly leftover_limit_s=60
 # Ends a child even if this script is killed without a chance to clean up; without their screen Wine's programs end too.
 readonly with_this_script=(setpriv --pdeathsig TERM)
 

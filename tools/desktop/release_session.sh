@@ -13,10 +13,10 @@ readonly picture=${3:?the picture to take}
 
 readonly button=Command1
 readonly figures=(lblCPU lblUSAGE lblPercentFree lblSwapfileUsed lblTotalMem lblSwapfile)
-readonly start_limit_s=60
+readonly start_limit_s=180
 readonly release_limit_s=180
-readonly close_limit_s=30
-readonly probe_limit_s=20
+readonly close_limit_s=90
+readonly probe_limit_s=90
 
 program_pid=""
 work_dir=$(mktemp -d)
