@@ -127,7 +127,7 @@ TEST_F(Lists, ChunkAloneMovesInSteps) {
 }
 
 /// The threshold has one range on every machine.
-TEST(Ranges, ThresholdReachesFrom1To32OnSmallAndLargeMachines) {
+TEST(ThresholdRange, ReachesFrom1To32OnSmallAndLargeMachines) {
   for (const std::uint32_t megabytes : {4U, 16U, 1024U}) {
     ProgramRig rig(megabytes * kMegabyte);
     rig.SetHasRunBefore();
