@@ -1,17 +1,18 @@
 #!/usr/bin/env bash
 # Provides a Wine that runs 32-bit programs: the machine's own if it really does, else a private one in the cache
 # folder, unpacked from the distribution's i386 packages. Nothing of the machine itself is changed.
+#   get_wine.sh --private    provides the private one, whatever the machine has: the small machine is made of its files
 set -euo pipefail
 
 # shellcheck source=tools/wine/common.sh
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+# shellcheck source=tools/wine/i386_packages.sh
+source "$wine_tools_dir/i386_packages.sh"
 
 readonly wine_packages=(
   wine32 libx11-6 libxext6 libxrender1 libxrandr2 libxcursor1 libxfixes3 libxi6 libxcomposite1 libxinerama1
   fonts-wine fonts-liberation
 )
-readonly archive_keyring=/usr/share/keyrings/debian-archive-keyring.gpg
-readonly download_attempts=3
 readonly proof_limit_s=180
 
 work_dir=""
@@ -73,60 +74,7 @@ try_host_wine() {
   [ "$(<"$verdict")" = yes ]
 }
 
-# Prints "address release" of every source of this machine that may be the distribution's own archive. A third-party
-# source among them does no harm: its index is not signed with the archive's key, so reading it fails.
-archive_candidates() {
-  local codename
-  codename=$(sed -n 's/^VERSION_CODENAME=//p' /etc/os-release | tr -d '"')
-  # shellcheck disable=SC2016  # the variables are apt's
-  apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' |
-    awk -v codename="$codename" '
-      $3 == "main" && ($2 == codename || $2 ~ /^(oldstable|stable|testing|sid|unstable)$/) && !seen[$1 $2]++ {
-        print $1, $2
-      }'
-}
-
-# apt-get with its own lists, archives and state for i386, with the sources in $work_dir/sources.list.
-private_apt() {
-  apt-get -q -y \
-    -o APT::Architecture=i386 -o APT::Architectures=i386 -o APT::Install-Recommends=false \
-    -o Dir::Etc::sourcelist="$work_dir/sources.list" -o Dir::Etc::sourceparts=- \
-    -o Dir::State="$work_dir/state" -o Dir::State::lists="$work_dir/lists" -o Dir::State::status=/dev/null \
-    -o Dir::Cache="$work_dir/cache" -o Dir::Cache::archives="$work_dir/archives" \
-    -o Dir::Cache::pkgcache= -o Dir::Cache::srcpkgcache= \
-    -o APT::Sandbox::User= -o Debug::NoLocking=1 -o Acquire::Retries=3 -o Acquire::Languages=none \
-    "$@" </dev/null >"$work_dir/apt.log" 2>&1
-}
-
-# Reads the i386 index of one source; false when it cannot be read or is not signed by the distribution.
-read_index() {
-  local address=$1 release=$2
-  mkdir -p "$work_dir"/{state,lists/partial,cache,archives/partial}
-  printf 'deb [arch=i386 signed-by=%s] %s %s main\n' "$archive_keyring" "$address" "$release" >"$work_dir/sources.list"
-  private_apt -o APT::Update::Error-Mode=any update
-}
-
-download_packages() {
-  local -a candidates
-  mapfile -t candidates < <(archive_candidates)
-  if ((${#candidates[@]} == 0)); then
-    say "no archive of this distribution among the machine's package sources; install a 32-bit wine by hand"
-    return 1
-  fi
-  local attempt address release candidate
-  for ((attempt = 1; attempt <= download_attempts; attempt++)); do
-    for candidate in "${candidates[@]}"; do
-      read -r address release <<<"$candidate"
-      if read_index "$address" "$release" && private_apt --download-only install "${wine_packages[@]}"; then
-        return 0
-      fi
-    done
-    say "attempt $attempt of $download_attempts to download the i386 packages failed"
-    if ((attempt < download_attempts)); then sleep $((attempt * 5)); fi
-  done
-  tail -n 15 "$work_dir/apt.log" >&2
-  return 1
-}
+download_packages() { private_apt apt-get -y --download-only install "${wine_packages[@]}" >>"$work_dir/apt.log"; }
 
 # Unpacks all packages into $1 and leaves out what only people read.
 unpack_packages() {
@@ -162,7 +110,10 @@ point_to_own_libraries() {
 
 build_private_wine() {
   say "building a private 32-bit Wine in the cache folder (about 150 MB to download)"
-  download_packages
+  if ! with_an_archive download_packages; then
+    say "install a 32-bit wine by hand, or see to the machine's package sources"
+    return 1
+  fi
   say "unpacking"
   unpack_packages "$work_dir/root"
   add_builtin_zlib "$work_dir/root"
@@ -178,8 +129,14 @@ build_private_wine() {
   say "ready"
 }
 
+# True when there is nothing to do.
+is_provided() {
+  if [ "$1" = --private ]; then [ -f "$private_wine_stamp" ]; else [ -n "$(chosen_wine)" ]; fi
+}
+
 main() {
-  if [ -n "$(chosen_wine)" ]; then return 0; fi
+  local wanted=${1:-}
+  if is_provided "$wanted"; then return 0; fi
   mkdir -p "$cache_dir"
   # One set-up at a time; a second one waits and then finds the work done.
   exec 9>"$cache_dir/wine.lock"
@@ -187,12 +144,12 @@ main() {
     say "another set-up has held the lock for half an hour"
     return 1
   fi
-  if [ -n "$(chosen_wine)" ]; then return 0; fi
+  if is_provided "$wanted"; then return 0; fi
   # Remains of set-ups that were killed. Only the owner of the lock makes such folders.
   rm -rf "$cache_dir"/building.*
   work_dir=$(mktemp -d "$cache_dir/building.XXXXXX")
-  if try_host_wine 9>&-; then return 0; fi
+  if [ "$wanted" != --private ] && try_host_wine 9>&-; then return 0; fi
   build_private_wine 9>&-
 }
 
-main
+main "$@"
