@@ -1,9 +1,12 @@
 // Looks at a running program from outside, and acts on it, for scripts:   qdix_probe [--undo] COMMAND
 // [ARGUMENT...] The exit code is 0 when the answer was found or the deed was done. kUsage has the commands.
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <span>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include "tests/e2e/driver/cpu_statistics.h"
 #include "tests/e2e/driver/help_windows.h"
@@ -34,7 +37,9 @@ constexpr const char* kUsage =
     "  feed-load         plays the load of this machine as the system's statistics, which Wine does not "
     "keep,\n"
     "                    until the program has ended\n"
-    "  close             closes the main window and waits until the program has ended\n";
+    "  close             closes the main window and waits until the program has ended\n"
+    "  serve             does a command for each line of its input, and prints \"=== \" and the exit code "
+    "after it\n";
 
 constexpr int kDisablingDeadlineMs = 10000;
 constexpr int kReleaseDeadlineMs = 180000;
@@ -147,12 +152,7 @@ int RunOnControl(const ShippedProgram& program, const std::string& command, Argu
   return Fail(std::string("usage:\n") + kUsage);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  // A script reads the first line of `peak` while the program still runs.
-  std::setvbuf(stdout, nullptr, _IONBF, 0);
-  Arguments arguments(argv + 1, static_cast<std::size_t>(argc) - 1);
+int Run(Arguments arguments) {
   const bool is_undo = !arguments.empty() && arguments.front() == std::string("--undo");
   if (is_undo) arguments = arguments.subspan(1);
   if (arguments.empty()) return Fail(std::string("usage:\n") + kUsage);
@@ -164,4 +164,34 @@ int main(int argc, char** argv) {
   if (!program.Attach()) return Fail("the program does not run");
   if (arguments.empty()) return RunOnProgram(program, command);
   return RunOnControl(program, command, arguments);
+}
+
+/// One process for many questions: where memory is what is measured, starting one for each would change it.
+int Serve() {
+  constexpr std::size_t kMostWords = 3;
+  std::array<char, 200> line{};
+  while (std::fgets(line.data(), static_cast<int>(line.size()), stdin) != nullptr) {
+    std::vector<std::string> words;
+    std::istringstream text(line.data());
+    // The last word of all is the rest of the line: texts of rows have blanks in them.
+    for (std::string word; words.size() + 1 < kMostWords && text >> word;) words.push_back(word);
+    std::string rest;
+    if (std::getline(text >> std::ws, rest)) words.push_back(rest);
+    std::vector<const char*> arguments;
+    for (const std::string& word : words) arguments.push_back(word.c_str());
+    const int status = Run(arguments);
+    std::printf("=== %d\n", status);
+  }
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // A script reads the first line of `peak` while the program still runs, and `serve` answers line by line.
+  std::setvbuf(stdout, nullptr, _IONBF, 0);
+  std::setvbuf(stdin, nullptr, _IONBF, 0);
+  const Arguments arguments(argv + 1, static_cast<std::size_t>(argc) - 1);
+  if (arguments.size() == 1 && arguments.front() == std::string("serve")) return Serve();
+  return Run(arguments);
 }

@@ -1,0 +1,77 @@
+# shellcheck shell=dash disable=SC2154
+# What a scenario lets the small machine do. It lies beside the programs on their disk, and session.sh reads it for each
+# command of the host; $programs, $logs, wine and await come from there.
+
+carriage_return=$(printf '\r')
+
+# Starts a program of that disk and leaves it running:   start NAME [ARGUMENT...]
+start() {
+  local name=$1
+  shift
+  cd "$programs" || return
+  wine "C:\\QDIX\\$name" "$@" >"$logs/$name.txt" 2>&1 </dev/null &
+}
+
+start_probe() {
+  mkfifo /tmp/to-probe /tmp/from-probe
+  wine 'C:\QDIX\qdix_probe.exe' serve <>/tmp/to-probe 1<>/tmp/from-probe 2>&1 &
+}
+
+# Asks the probe that start_probe left running. A program started for each question would need memory, and memory is
+# what is measured here.
+probe() {
+  local line
+  exec 4>/tmp/to-probe 5</tmp/from-probe
+  echo "$*" >&4
+  while read -r line <&5; do
+    line=${line%"$carriage_return"}
+    case $line in "=== "*) return "${line#=== }" ;; esac
+    echo "$line"
+  done
+  echo "the probe is gone"
+  return 1
+}
+
+# Waits until the probe gives an answer:   await_answer SECONDS ANSWER QUESTION...
+await_answer() {
+  local seconds=$1 answer=$2
+  shift 2
+  await "$seconds" answers "$answer" "$@"
+}
+
+answers() {
+  local answer=$1
+  shift
+  [ "$(probe "$@")" = "$answer" ]
+}
+
+# True once the caption of the main window begins with a figure.
+shows_figures() {
+  probe answer-boxes >/dev/null
+  case $(probe caption) in *" MB   Q-DIX") return 0 ;; esac
+  return 1
+}
+
+# A program that holds memory and does nothing:   start_idle NUMBER MEGABYTES
+start_idle() {
+  mkfifo "/tmp/idle-$1"
+  wine 'C:\QDIX\idle.exe' "$2" "$1" <>"/tmp/idle-$1" >"$logs/idle-$1.txt" 2>&1 &
+  await 300 grep -q holds "$logs/idle-$1.txt"
+}
+
+# Lets it read its memory, which brings it back into RAM, and prints what it says about it.
+wake_idle() {
+  local lines
+  lines=$(grep -c wrong "$logs/idle-$1.txt")
+  echo >"/tmp/idle-$1"
+  await 300 has_lines "$((lines + 1))" "$logs/idle-$1.txt" && tail -n 1 "$logs/idle-$1.txt"
+}
+
+has_lines() { [ "$(grep -c wrong "$2")" -ge "$1" ]; }
+
+# The kernel's figures: of the machine, and of each program's memory in RAM and in the swap file, in KB.
+figures() {
+  cat /proc/uptime /proc/meminfo
+  grep -E '^pswp' /proc/vmstat
+  grep -HE '^(Name|VmRSS|VmSwap):' /proc/[0-9]*/status 2>/dev/null || true
+}
