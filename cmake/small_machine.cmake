@@ -13,11 +13,18 @@ else()
   add_test(NAME small_machine.make COMMAND ${small_machine} make 64 96 128)
   set_tests_properties(small_machine.make PROPERTIES FIXTURES_SETUP small_machine TIMEOUT 2400 LABELS small_machine)
 
-  # One at a time: an emulated PC keeps a core busy.
-  foreach(memory_mb IN ITEMS 64 96 128)
-    add_test(NAME small_machine.release_${memory_mb}
-      COMMAND ${Python3_EXECUTABLE} ${small_machine_tests}/release_test.py ${memory_mb})
-    set_tests_properties(small_machine.release_${memory_mb} PROPERTIES
+  # small_machine_test(<name> <file> <argument>): one at a time, since an emulated PC keeps a core busy.
+  function(small_machine_test name file argument)
+    add_test(NAME small_machine.${name} COMMAND ${Python3_EXECUTABLE} ${small_machine_tests}/${file} ${argument})
+    set_tests_properties(small_machine.${name} PROPERTIES
       FIXTURES_REQUIRED small_machine RESOURCE_LOCK small_machine TIMEOUT 1200 LABELS small_machine)
+  endfunction()
+
+  foreach(memory_mb IN ITEMS 64 96 128)
+    small_machine_test(release_${memory_mb} release_test.py ${memory_mb})
   endforeach()
+  small_machine_test(automatic_release unasked_test.py AutomaticReleaseTest)
+  small_machine_test(busy_processor unasked_test.py BusyProcessorTest)
+  small_machine_test(start_up_release unasked_test.py StartUpReleaseTest)
+  small_machine_test(timed_release unasked_test.py TimedReleaseTest)
 endif()

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <span>
 #include <sstream>
 #include <string>
@@ -26,6 +27,7 @@ constexpr const char* kUsage =
     "  text NAME         prints the text of a control\n"
     "  enabled NAME      prints 1 or 0\n"
     "  rect NAME         prints the place of a control on the screen: x y width height, in pixels\n"
+    "  open-tab INDEX    opens a tab, counted from 0\n"
     "  choose NAME TEXT  picks the row of a list\n"
     "  committed         prints the private committed bytes of the program\n"
     "  peak              prints \"sampling\", then the most committed bytes from the moment when Command1 "
@@ -129,6 +131,12 @@ int Rect(const ShippedProgram& program, const std::string& name) {
   return 0;
 }
 
+int OpenTab(const ShippedProgram& program, const std::string& index) {
+  const int tab = std::atoi(index.c_str());
+  program.OpenTab(tab);
+  return program.OpenedTab() == tab ? 0 : Fail("no tab " + index);
+}
+
 int RunOnProgram(const ShippedProgram& program, const std::string& command) {
   if (command == "close-help") return CloseHelp();
   if (command == "caption") return Caption(program);
@@ -163,6 +171,7 @@ int Run(Arguments arguments) {
   ShippedProgram program(facts);
   if (!program.Attach()) return Fail("the program does not run");
   if (arguments.empty()) return RunOnProgram(program, command);
+  if (command == "open-tab" && arguments.size() == 1) return OpenTab(program, arguments[0]);
   return RunOnControl(program, command, arguments);
 }
 

@@ -32,7 +32,7 @@ probe() {
   return 1
 }
 
-# Waits until the probe gives an answer:   await_answer SECONDS ANSWER QUESTION...
+# Waits until the probe's answer is like a pattern of the shell:   await_answer SECONDS PATTERN QUESTION...
 await_answer() {
   local seconds=$1 answer=$2
   shift 2
@@ -40,10 +40,29 @@ await_answer() {
 }
 
 answers() {
-  local answer=$1
+  local pattern=$1
   shift
-  [ "$(probe "$@")" = "$answer" ]
+  # shellcheck disable=SC2254  # a pattern is what it is
+  case $(probe "$@") in $pattern) return 0 ;; esac
+  return 1
 }
+
+# True when more than so many KB are available, as Wine counts them.
+has_available() {
+  local name value rest available=0
+  while read -r name value rest; do
+    case $name in MemFree: | Buffers: | Cached:) available=$((available + value)) ;; esac
+  done </proc/meminfo
+  [ $available -gt "$1" ]
+}
+
+# Keeps the processor busy until stop_work.
+start_work() {
+  while :; do :; done &
+  echo $! >/tmp/work
+}
+
+stop_work() { kill "$(cat /tmp/work)"; }
 
 # True once the caption of the main window begins with a figure.
 shows_figures() {

@@ -4,6 +4,7 @@ The processor is an emulated Pentium II whose instructions are counted: guest ti
 stretches, so a busy host makes a run longer and its figures no different. KVM is never used: on hosts that are
 virtual themselves it is slower than this, and it would give every host figures of its own.
 """
+import contextlib
 import json
 import os
 import pathlib
@@ -40,7 +41,10 @@ class LineChannel:
         self.waiting = b""
 
     def send(self, line):
-        self.stream.sendall(line.encode() + b"\n")
+        try:
+            self.stream.sendall(line.encode() + b"\n")
+        except OSError:
+            raise MachineGone("the machine is switched off") from None
 
     def receive(self, deadline):
         """Returns the next line, or None when none came before the deadline or the other side is gone."""
@@ -72,12 +76,16 @@ class Emulator:
             "-vga", "std", "-device", "virtio-tablet-pci", "-display", "gtk" if window else "none",
             "-chardev", f"file,id=console,path={self.console}", "-serial", "chardev:console",
             "-kernel", str(kernel), "-initrd", str(initial_ram_disk), "-append", " ".join(KERNEL_ARGUMENTS)]
-        if counted:
+        # Skipping idle stretches would race through the time of a person who looks on.
+        if counted and not window:
             self.arguments += ["-icount", "shift=2,sleep=off"]
         for number, (file, disk_format, keep) in enumerate(disks):
             self.arguments += ["-drive", f"file={file},format={disk_format},if=none,id=disk{number},cache=unsafe,"
                                f"discard=unmap,snapshot={'off' if keep else 'on'}", "-device", f"virtio-blk-pci,drive=disk{number}"]
         self.stored_memory = stored_memory
+        # In a window it runs for whoever sits before it. Otherwise it is halted while nothing is asked of it: how long
+        # the host takes between two questions makes no difference to it.
+        self.halts_between_questions = not window
         self.process = None
         self.agent = None
         self.monitor = None
@@ -161,7 +169,8 @@ class Emulator:
                 raise MachineError(f"the machine is not restored after {limit_s} seconds: {self._last_words()}")
             time.sleep(0.1)
         # It was stored halted and comes back so.
-        self.tell_monitor("cont")
+        if not self.halts_between_questions:
+            self.tell_monitor("cont")
 
     def tell_monitor(self, command, limit_s=60, **arguments):
         """Gives QEMU one of its own commands and returns its answer."""
@@ -177,14 +186,29 @@ class Emulator:
             if "return" in answer:
                 return answer["return"]
 
+    @contextlib.contextmanager
+    def _running(self):
+        if self.halts_between_questions:
+            self.tell_monitor("cont")
+        yield
+        if self.halts_between_questions:
+            self.tell_monitor("stop")
+
     def ask(self, command, limit_s=300):
-        """Runs a command in the shell of the guest and returns its output; a status other than 0 is an error."""
+        """Runs a command in the shell of the guest and returns its output; a status other than 0 is an error.
+
+        The limit is one of the host's time.
+        """
         if len(command) > LONGEST_COMMAND or "\n" in command:
-            raise ValueError("a command for the guest is one line of at most 4000 characters")
-        try:
-            self.agent.send(command)
-        except OSError:
-            raise MachineGone("the machine is switched off") from None
+            raise ValueError(f"a command for the guest is one line of at most {LONGEST_COMMAND} characters")
+        with self._running():
+            status, output = self._answer(command, limit_s)
+        if status != 0:
+            raise MachineError(f"'{command}' ended with {status} in the guest: {output.strip()[-800:]}")
+        return output
+
+    def _answer(self, command, limit_s):
+        self.agent.send(command)
         deadline = time.monotonic() + limit_s
         lines = []
         while True:
@@ -196,10 +220,7 @@ class Emulator:
             # The output need not end with a new line.
             before, mark, status = line.rpartition("=== ")
             if mark and status.isdigit():
-                output = "\n".join(lines + ([before] if before else []))
-                if status != "0":
-                    raise MachineError(f"'{command}' ended with {status} in the guest: {output.strip()[-800:]}")
-                return output
+                return int(status), "\n".join(lines + ([before] if before else []))
             lines.append(line)
 
     def store_memory(self, file):
@@ -218,6 +239,8 @@ class Emulator:
     def switch_off(self, limit_s=60):
         """Lets the guest write everything to its disks and switch the power off."""
         self.agent.send("sync; poweroff -f")
+        if self.halts_between_questions:
+            self.tell_monitor("cont")
         try:
             self.process.wait(timeout=limit_s)
         except subprocess.TimeoutExpired:
@@ -226,12 +249,16 @@ class Emulator:
     def point_at(self, x, y):
         """Moves the pointer to a place on the screen, in pixels."""
         places = zip("xy", (x, y), SCREEN)
-        self.tell_monitor("input-send-event", events=[
-            {"type": "abs", "data": {"axis": axis, "value": place * POINTER_RANGE // (size - 1)}}
-            for axis, place, size in places])
+        self._send_input([{"type": "abs", "data": {"axis": axis, "value": place * POINTER_RANGE // (size - 1)}}
+                          for axis, place, size in places])
 
     def press_button(self, down, button="left"):
-        self.tell_monitor("input-send-event", events=[{"type": "btn", "data": {"down": down, "button": button}}])
+        self._send_input([{"type": "btn", "data": {"down": down, "button": button}}])
+
+    def _send_input(self, events):
+        # A machine that is halted takes no input.
+        with self._running():
+            self.tell_monitor("input-send-event", events=events)
 
     def photograph(self, file):
         """Writes the screen as a PNG. Complete or not there."""

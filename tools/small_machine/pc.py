@@ -1,5 +1,6 @@
 """The small machine as a scenario uses it: programs, windows, a hand, figures and photographs."""
 import contextlib
+import dataclasses
 import json
 import pathlib
 import re
@@ -11,8 +12,12 @@ from figures import read_figures
 from host import MachineError
 from store import PROGRAMS_DISK_MB
 
+SETTINGS = r"HKCU\Software\VB and VBA Program Settings\QDIX"
+# Of the guest's time.
 WINDOW_LIMIT_S = 120
 RELEASE_LIMIT_S = 300
+# Of the host's time, for a wait in the guest.
+HOST_LIMIT_S = 900
 
 
 class Pc:
@@ -33,7 +38,7 @@ class Pc:
     def start_main_program(self):
         """Starts QDIX.exe, waits for its figures and closes the first steps."""
         self.start("QDIX.exe")
-        self.machine.ask(f"await {WINDOW_LIMIT_S} probe wait-window")
+        self.machine.ask(f"await {WINDOW_LIMIT_S} probe wait-window >/dev/null")
         self.machine.ask(f"await {WINDOW_LIMIT_S} shows_figures")
         self.probe("close-help")
         self.rest()
@@ -55,13 +60,36 @@ class Pc:
             wrong, words = wrong + int(found[1]), words + int(found[2])
         return wrong, words
 
+    def set_settings(self, section, **values):
+        """Stores settings of the main program, which must not be running."""
+        for name, value in values.items():
+            self.set_setting(section, name, value)
+
+    def set_setting(self, section, name, value):
+        self.machine.ask(f"wine reg add '{SETTINGS}\\{section}' /v {name} /d '{value}' /f")
+
+    def setting(self, section, name):
+        answer = self.machine.ask(f"wine reg query '{SETTINGS}\\{section}' /v {name}")
+        return re.search(rf"{name}\s+REG_SZ\s*(.*)", answer)[1].strip()
+
     # Windows, by the probe that runs in the guest.
 
     def probe(self, question):
         return self.machine.ask(f"probe {question}")
 
     def await_answer(self, question, answer, limit_s):
-        self.machine.ask(f"await_answer {limit_s} {answer} {question}", limit_s + 600)
+        """Waits until an answer is like a pattern of the shell, and returns the guest's time at that moment."""
+        answered = self.machine.ask(f"await_answer {limit_s} '{answer}' {question} && cat /proc/uptime", HOST_LIMIT_S)
+        return float(answered.split()[0])
+
+    def await_available(self, kilobytes, limit_s):
+        """Waits until more than that is available, and returns the guest's time at that moment."""
+        reached = self.machine.ask(f"await {limit_s} has_available {kilobytes} && cat /proc/uptime", HOST_LIMIT_S)
+        return float(reached.split()[0])
+
+    def pause(self, seconds):
+        """Lets the guest go on for that time."""
+        self.machine.ask(f"sleep {seconds}", HOST_LIMIT_S)
 
     def press(self, control):
         """Moves the pointer to a control of the main window and presses the left button there."""
@@ -77,10 +105,8 @@ class Pc:
         self.say(f"releasing {megabytes} MB")
         self.probe(f"choose List1 {megabytes} MB")
         self.press("Command1")
-        self.await_answer("enabled Command1", 0, 20)
-        start = self.figures().seconds
-        self.await_answer("enabled Command1", 1, RELEASE_LIMIT_S)
-        seconds = self.figures().seconds - start
+        start = self.await_answer("enabled Command1", 0, 20)
+        seconds = self.await_answer("enabled Command1", 1, RELEASE_LIMIT_S) - start
         self.rest()
         return seconds
 
@@ -89,6 +115,11 @@ class Pc:
     def rest(self):
         """Waits until the machine has nothing to do and the next refresh has shown that."""
         self.machine.ask("await 60 is_at_rest; sleep 2")
+
+    def look(self):
+        """The kernel's figures and what the window shows at the same moment, to be written."""
+        return dataclasses.asdict(self.figures()) | {"caption": self.probe("caption"),
+                                                     "free": self.probe("text lblPercentFree")}
 
     def figures(self):
         return read_figures(self.machine.ask("figures"))
