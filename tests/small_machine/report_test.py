@@ -47,7 +47,8 @@ class ReportTest(unittest.TestCase):
         self.assertIn("their memory CAME BACK WITH 3 WRONG WORDS of 10485760", text)
 
     def test_a_second_release_that_lost_something_found_nothing(self):
-        self.assertIn("A second release   found 0.0 MB more, in 2.5 seconds", self.lines(changed("after_again", available_kb=1)))
+        lines = self.lines(changed("after_again", available_kb=1))
+        self.assertIn("A second release   found 0.0 MB more, in 2.5 seconds", lines)
 
     def test_it_is_a_gain_only_if_idle_memory_went_to_the_swap_file(self):
         self.assertTrue(report.is_gain(RESULT))

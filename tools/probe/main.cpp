@@ -11,6 +11,7 @@
 
 #include "tests/e2e/driver/cpu_statistics.h"
 #include "tests/e2e/driver/help_windows.h"
+#include "tests/e2e/driver/registry.h"
 #include "tests/e2e/driver/shipped_program.h"
 
 namespace {
@@ -29,6 +30,8 @@ constexpr const char* kUsage =
     "  rect NAME         prints the place of a control on the screen: x y width height, in pixels\n"
     "  open-tab INDEX    opens a tab, counted from 0\n"
     "  choose NAME TEXT  picks the row of a list\n"
+    "  setting KEY\\NAME                prints a stored setting; the keys are Settings and Startup\n"
+    "  store-setting KEY\\NAME TEXT     stores it; the program must not be running\n"
     "  committed         prints the private committed bytes of the program\n"
     "  peak              prints \"sampling\", then the most committed bytes from the moment when Command1 "
     "is\n"
@@ -39,6 +42,7 @@ constexpr const char* kUsage =
     "  feed-load         plays the load of this machine as the system's statistics, which Wine does not "
     "keep,\n"
     "                    until the program has ended\n"
+    "  begin-close       asks the main window to close, and does not wait\n"
     "  close             closes the main window and waits until the program has ended\n"
     "  serve             does a command for each line of its input, and prints \"=== \" and the exit code "
     "after it\n";
@@ -54,6 +58,33 @@ int Fail(const std::string& why) {
 
 int PrintBytes(std::uint64_t bytes) {
   std::printf("%llu\n", static_cast<unsigned long long>(bytes));
+  return 0;
+}
+
+/// A setting by its key and its name.
+struct Setting {
+  explicit Setting(const std::string& path) : name(path.substr(path.find('\\') + 1)) {
+    if (path == "Startup\\" + name) key = &qdix::e2e::kStartup;
+    if (path == "Settings\\" + name) key = &qdix::e2e::kSettings;
+  }
+  std::string name;
+  /// Null where there is no such key.
+  const qdix::e2e::KeyPath* key = nullptr;
+};
+
+int PrintSetting(const std::string& path) {
+  const Setting setting(path);
+  if (setting.key == nullptr) return Fail("no key in " + path);
+  const auto text = qdix::e2e::RegistryText(*setting.key, setting.name);
+  if (!text) return Fail(path + " is not stored");
+  std::puts(text->c_str());
+  return 0;
+}
+
+int StoreSetting(const std::string& path, const std::string& text) {
+  const Setting setting(path);
+  if (setting.key == nullptr) return Fail("no key in " + path);
+  qdix::e2e::SetRegistryText(*setting.key, setting.name, text);
   return 0;
 }
 
@@ -110,6 +141,11 @@ int CloseHelp() {
   return qdix::e2e::CloseHelpWindows() ? 0 : Fail("a viewer of the help stays open");
 }
 
+int BeginClose(const ShippedProgram& program) {
+  program.Close();
+  return 0;
+}
+
 int Close(const ShippedProgram& program) {
   program.Close();
   return Eventually([&] { return !program.IsRunning(); }) ? 0 : Fail("the program goes on");
@@ -144,6 +180,7 @@ int RunOnProgram(const ShippedProgram& program, const std::string& command) {
   if (command == "peak") return Peak(program);
   if (command == "answer-boxes") return AnswerBoxes(program);
   if (command == "feed-load") return FeedLoad(program);
+  if (command == "begin-close") return BeginClose(program);
   if (command == "close") return Close(program);
   return Fail(std::string("usage:\n") + kUsage);
 }
@@ -168,6 +205,8 @@ int Run(Arguments arguments) {
   const std::string command = arguments.front();
   arguments = arguments.subspan(1);
   if (command == "wait-window" && arguments.empty()) return WaitWindow(facts);
+  if (command == "setting" && arguments.size() == 1) return PrintSetting(arguments[0]);
+  if (command == "store-setting" && arguments.size() == 2) return StoreSetting(arguments[0], arguments[1]);
   ShippedProgram program(facts);
   if (!program.Attach()) return Fail("the program does not run");
   if (arguments.empty()) return RunOnProgram(program, command);

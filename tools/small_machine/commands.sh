@@ -94,3 +94,34 @@ figures() {
   grep -E '^pswp' /proc/vmstat
   grep -HE '^(Name|VmRSS|VmSwap):' /proc/[0-9]*/status 2>/dev/null || true
 }
+
+# Presses OK in the boxes of the main program and prints what they said; false when there is none.
+answer_box() {
+  local texts
+  texts=$(probe answer-boxes) && [ -n "$texts" ] && echo "$texts"
+}
+
+# Lets the kernel promise only so many KB more, and no memory that it does not have.
+refuse_overcommit() {
+  local name value rest committed=0 swap=0
+  while read -r name value rest; do
+    case $name in
+      Committed_AS:) committed=$value ;;
+      SwapTotal:) swap=$value ;;
+    esac
+  done </proc/meminfo
+  echo $((committed - swap + $1)) >/proc/sys/vm/overcommit_kbytes && echo 2 >/proc/sys/vm/overcommit_memory
+}
+
+allow_overcommit() { echo 0 >/proc/sys/vm/overcommit_memory; }
+
+is_gone() { ! grep -qs "^Name:[[:space:]]*$1\$" /proc/[0-9]*/status; }
+
+# True when the kernel has written more pages than that to the swap disk.
+pages_out() {
+  local name value
+  while read -r name value; do
+    if [ "$name" = pswpout ]; then [ "$value" -gt "$1" ] && return; fi
+  done </proc/vmstat
+  return 1
+}

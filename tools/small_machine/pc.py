@@ -5,6 +5,7 @@ import json
 import pathlib
 import re
 import shutil
+import tempfile
 
 import root_disk
 from emulator import Emulator
@@ -12,7 +13,6 @@ from figures import read_figures
 from host import MachineError
 from store import PROGRAMS_DISK_MB
 
-SETTINGS = r"HKCU\Software\VB and VBA Program Settings\QDIX"
 # Of the guest's time.
 WINDOW_LIMIT_S = 120
 RELEASE_LIMIT_S = 300
@@ -63,29 +63,27 @@ class Pc:
     def set_settings(self, section, **values):
         """Stores settings of the main program, which must not be running."""
         for name, value in values.items():
-            self.set_setting(section, name, value)
-
-    def set_setting(self, section, name, value):
-        self.machine.ask(f"wine reg add '{SETTINGS}\\{section}' /v {name} /d '{value}' /f")
+            self.probe(f"store-setting {section}\\{name} {value}")
 
     def setting(self, section, name):
-        answer = self.machine.ask(f"wine reg query '{SETTINGS}\\{section}' /v {name}")
-        return re.search(rf"{name}\s+REG_SZ\s*(.*)", answer)[1].strip()
+        return self.probe(f"setting {section}\\{name}").strip()
 
     # Windows, by the probe that runs in the guest.
 
     def probe(self, question):
-        return self.machine.ask(f"probe {question}")
+        return self.machine.ask(f"probe '{question}'")
 
     def await_answer(self, question, answer, limit_s):
         """Waits until an answer is like a pattern of the shell, and returns the guest's time at that moment."""
-        answered = self.machine.ask(f"await_answer {limit_s} '{answer}' {question} && cat /proc/uptime", HOST_LIMIT_S)
-        return float(answered.split()[0])
+        return self.await_true(f"await_answer {limit_s} '{answer}' {question}")
 
     def await_available(self, kilobytes, limit_s):
         """Waits until more than that is available, and returns the guest's time at that moment."""
-        reached = self.machine.ask(f"await {limit_s} has_available {kilobytes} && cat /proc/uptime", HOST_LIMIT_S)
-        return float(reached.split()[0])
+        return self.await_true(f"await {limit_s} has_available {kilobytes}")
+
+    def await_true(self, command):
+        """Runs a command of the guest that waits, and returns the guest's time after it."""
+        return float(self.machine.ask(f"{command} && cat /proc/uptime", HOST_LIMIT_S).split()[0])
 
     def pause(self, seconds):
         """Lets the guest go on for that time."""
@@ -118,8 +116,12 @@ class Pc:
 
     def look(self):
         """The kernel's figures and what the window shows at the same moment, to be written."""
-        return dataclasses.asdict(self.figures()) | {"caption": self.probe("caption"),
-                                                     "free": self.probe("text lblPercentFree")}
+        return self.kernel() | {"caption": self.probe("caption"),
+                                "free": self.probe("text lblPercentFree")}
+
+    def kernel(self):
+        """The kernel's figures alone, to be written."""
+        return dataclasses.asdict(self.figures())
 
     def figures(self):
         return read_figures(self.machine.ask("figures"))
@@ -134,15 +136,14 @@ class Pc:
         (self.folder / f"{name}.json").write_text(json.dumps(value, indent=2) + "\n", encoding="utf-8")
 
 
-def make_programs_disk(programs, file, work):
+def make_programs_disk(programs, file):
     """A disk with these programs on it, as large as the one that the stored machine knows."""
-    work.mkdir()
-    for program in programs:
-        if not program.is_file():
-            raise MachineError(f"{program} is missing; build it first")
-        shutil.copy(program, work)
-    root_disk.make_disk(work, file, f"{PROGRAMS_DISK_MB}m")
-    shutil.rmtree(work)
+    with tempfile.TemporaryDirectory(prefix="qdix-programs.") as folder:
+        for program in programs:
+            if not program.is_file():
+                raise MachineError(f"{program} is missing; build it first")
+            shutil.copy(program, folder)
+        root_disk.make_disk(folder, file, f"{PROGRAMS_DISK_MB}m")
 
 
 @contextlib.contextmanager
@@ -151,12 +152,12 @@ def switched_on(store, memory_mb, programs, folder, say, **options):
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
     state = store.state(memory_mb)
-    disk = pathlib.Path(folder / "programs.img")
-    make_programs_disk(programs, disk, folder / "programs")
-    say(f"switching on a PC with {memory_mb} MB")
-    disks = [(state / "root.qcow2", "qcow2", False), (state / "swap.qcow2", "qcow2", False), (disk, "raw", False)]
-    with Emulator(*store.boot_files(), memory_mb, disks, stored_memory=state / "memory", **options) as machine:
-        machine.ask("use_programs /dev/vdc")
-        machine.ask("start_probe")
-        yield Pc(machine, folder, say)
-    disk.unlink()
+    with tempfile.NamedTemporaryFile(prefix="qdix-programs.", suffix=".img") as disk:
+        make_programs_disk(programs, pathlib.Path(disk.name))
+        say(f"switching on a PC with {memory_mb} MB")
+        disks = [(state / "root.qcow2", "qcow2", False), (state / "swap.qcow2", "qcow2", False),
+                 (disk.name, "raw", False)]
+        with Emulator(*store.boot_files(), memory_mb, disks, stored_memory=state / "memory", **options) as machine:
+            machine.ask("use_programs /dev/vdc")
+            machine.ask("start_probe")
+            yield Pc(machine, folder, say)

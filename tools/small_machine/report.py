@@ -37,7 +37,8 @@ def report(result, pictures):
     unharmed = ("came back unharmed" if result["wrong_words"] == 0
                 else f"CAME BACK WITH {result['wrong_words']} WRONG WORDS of {result['words']}")
     facts = [
-        ["The machine", f"an emulated Pentium II with {result['memory_mb']} MB, {mb(before['total_kb'])} of it for programs"],
+        ["The machine", f"an emulated Pentium II with {result['memory_mb']} MB,"
+                        f" {mb(before['total_kb'])} of it for programs"],
         ["The release", f"{result['release_mb']} MB in {result['release_seconds']:.1f} seconds of that machine's time"],
         ["A second release", f"found {mb(max(0, again['available_kb'] - after['available_kb']))} more,"
                              f" in {result['again_seconds']:.1f} seconds"],

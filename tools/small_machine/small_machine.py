@@ -85,7 +85,8 @@ def main():
         commands.add_parser(command).add_argument("memory_mb", type=size_mb, nargs="?", default=USUAL_SIZE_MB)
     arguments = parser.parse_args()
     # A signal ends the machine like an error does.
-    signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
+    for number in (signal.SIGHUP, signal.SIGTERM):
+        signal.signal(number, lambda received, _: sys.exit(128 + received))
     say = Progress()
     try:
         store = Store(arguments.cache, arguments.wine, say)

@@ -22,13 +22,15 @@ WINE_TOOLS = TOOLS.parent / "wine"
 # What the root disk is made from, and what a stored boot state depends on besides.
 DISK_INPUTS = [TOOLS / "root_disk.py", TOOLS / "get_packages.sh", *sorted((TOOLS / "guest").iterdir()),
                WINE_TOOLS / "win98.reg", WINE_TOOLS / "font_metrics.sh"]
-STATE_INPUTS = [TOOLS / "emulator.py"]
+STATE_INPUTS = [TOOLS / "emulator.py", TOOLS / "store.py"]
 NEEDED_ROOM_MB = 3000
 LOCK_LIMIT_S = 1800
 UNUSED_FOR_S = 24 * 3600
 PREFIX_MEMORY_MB = 640
 PREFIX_LIMIT_S = 900
-SWAP_DISK = "192M"
+# Little more than what is in use: while more than half of it is, the kernel gives a page's place back when the page
+# is read again, and the use of the disk is that of the memory in it.
+SWAP_DISK = "176M"
 PROGRAMS_DISK_MB = 24
 
 

@@ -101,6 +101,19 @@ use_swap() { mkswap "$1" >/dev/null && swapon "$1"; }
 # The disk with the programs of this run, as the folder C:\QDIX.
 use_programs() { mkdir -p $programs && mount -t ext4 -o noatime "$1" $programs; }
 
+# Does what the host asks. A process of its own: process 1 is told whenever a program ends whose parent is gone, and the
+# shell's `read` forgets the half of a line that it has then.
+serve() {
+  local command
+  while IFS= read -r command <&3; do
+    (
+      if [ -f $programs/commands.sh ]; then . $programs/commands.sh; fi
+      eval "$command"
+    ) >&3 2>&1 3>&-
+    echo "=== $?" >&3
+  done
+}
+
 /bin/busybox --install -s /bin
 mount -t proc proc /proc
 mount -t sysfs sys /sys
@@ -111,10 +124,5 @@ chown 0:0 /root /prefix
 stty -F $port raw -echo
 echo "session: listening on $port"
 exec 3<>$port
-while IFS= read -r command <&3; do
-  (
-    if [ -f $programs/commands.sh ]; then . $programs/commands.sh; fi
-    eval "$command"
-  ) >&3 2>&1 3>&-
-  echo "=== $?" >&3
-done
+serve &
+while :; do sleep 3600; done
