@@ -11,6 +11,8 @@ LEAST_GAIN = 0.30
 # From the moment when it is due until the memory is given back.
 MOST_SECONDS = 30
 KB_PER_MB = 1000
+# In an hour with twelve releases: less than a page for each.
+MOST_GROWTH_BYTES = 8 * 4096
 
 
 class AutomaticReleaseTest(PlayedCase):
@@ -71,6 +73,21 @@ class TimedReleaseTest(PlayedCase):
 
     def test_the_next_one_is_a_whole_interval_away(self):
         self.assertEqual(self.result["due_after"], "Next Release of RAM is due in 5 minutes")
+
+
+class HourTest(PlayedCase):
+    scenario = "hour"
+
+    def test_an_hour_passed_and_every_want_of_memory_was_answered_once(self):
+        self.assertGreaterEqual(self.result["seconds"], 3600)
+        self.assertEqual(self.releases("end"), self.result["rounds"])
+
+    def test_the_program_does_not_grow(self):
+        first, *_, last = self.result["committed_bytes"]
+        self.assertLessEqual(last - first, MOST_GROWTH_BYTES)
+
+    def test_nothing_is_lost(self):
+        self.assertEqual(self.result["wrong_words"], 0)
 
 
 if __name__ == "__main__":

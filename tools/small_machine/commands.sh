@@ -75,6 +75,7 @@ shows_figures() {
 start_idle() {
   mkfifo "/tmp/idle-$1"
   wine 'C:\QDIX\idle.exe' "$2" "$1" <>"/tmp/idle-$1" >"$logs/idle-$1.txt" 2>&1 &
+  echo $! >"/tmp/idle-$1.pid"
   await 300 grep -q holds "$logs/idle-$1.txt"
 }
 
@@ -85,6 +86,16 @@ wake_idle() {
   echo >"/tmp/idle-$1"
   await 300 has_lines "$((lines + 1))" "$logs/idle-$1.txt" && tail -n 1 "$logs/idle-$1.txt"
 }
+
+# Ends it:   end_idle NUMBER
+end_idle() {
+  local pid
+  pid=$(cat "/tmp/idle-$1.pid")
+  echo end >"/tmp/idle-$1"
+  await 60 has_ended "$pid"
+}
+
+has_ended() { [ ! -d "/proc/$1" ]; }
 
 has_lines() { [ "$(grep -c wrong "$2")" -ge "$1" ]; }
 

@@ -27,7 +27,7 @@ class Pc:
         self.machine = machine
         self.folder = folder
         self.say = say
-        self.idle_programs = 0
+        self.idle_programs = range(0)
 
     # Programs.
 
@@ -45,15 +45,21 @@ class Pc:
 
     def start_idle_programs(self, count, megabytes):
         self.say(f"starting {count} programs that hold {megabytes} MB each and do nothing")
-        for _ in range(count):
-            self.machine.ask(f"start_idle {self.idle_programs} {megabytes}", 320)
-            self.idle_programs += 1
+        first = self.idle_programs.stop
+        for number in range(first, first + count):
+            self.machine.ask(f"start_idle {number} {megabytes}", HOST_LIMIT_S)
+        self.idle_programs = range(self.idle_programs.start, first + count)
+
+    def end_idle_programs(self):
+        for number in self.idle_programs:
+            self.machine.ask(f"end_idle {number}", HOST_LIMIT_S)
+        self.idle_programs = range(self.idle_programs.stop, self.idle_programs.stop)
 
     def wake_idle_programs(self):
         """Lets them read all their memory; returns how many words of how many were wrong."""
         wrong = words = 0
-        for number in range(self.idle_programs):
-            answer = self.machine.ask(f"wake_idle {number}", 320)
+        for number in self.idle_programs:
+            answer = self.machine.ask(f"wake_idle {number}", HOST_LIMIT_S)
             found = re.search(r"(\d+) wrong words of (\d+)", answer)
             if not found:
                 raise MachineError(f"the idle program {number} said '{answer}'")
