@@ -81,7 +81,8 @@ class Emulator:
             self.arguments += ["-icount", "shift=2,sleep=off"]
         for number, (file, disk_format, keep) in enumerate(disks):
             self.arguments += ["-drive", f"file={file},format={disk_format},if=none,id=disk{number},cache=unsafe,"
-                               f"discard=unmap,snapshot={'off' if keep else 'on'}", "-device", f"virtio-blk-pci,drive=disk{number}"]
+                               f"discard=unmap,snapshot={'off' if keep else 'on'}",
+                               "-device", f"virtio-blk-pci,drive=disk{number}"]
         self.stored_memory = stored_memory
         # In a window it runs for whoever sits before it. Otherwise it is halted while nothing is asked of it: how long
         # the host takes between two questions makes no difference to it.
@@ -216,7 +217,8 @@ class Emulator:
             if line is None:
                 if self._has_ended():
                     raise MachineGone(f"the machine is switched off: {self._last_words()}")
-                raise MachineError(f"the guest did not finish '{command}' within {limit_s} seconds: {self._last_words()}")
+                raise MachineError(f"the guest did not finish '{command}' within {limit_s} seconds: "
+                                   f"{self._last_words()}")
             # The output need not end with a new line.
             before, mark, status = line.rpartition("=== ")
             if mark and status.isdigit():

@@ -7,8 +7,8 @@ set -euo pipefail
 
 # shellcheck source=tools/wine/common.sh
 source "$(dirname "${BASH_SOURCE[0]}")/../wine/common.sh"
-# shellcheck source=tools/wine/i386_packages.sh
-source "$wine_tools_dir/i386_packages.sh"
+# shellcheck source=tools/wine/archive.sh
+source "$wine_tools_dir/archive.sh"
 
 # Depends on the current kernel of the flavour without PAE, which runs on a Pentium II.
 readonly kernel_flavour=linux-image-686
@@ -28,13 +28,15 @@ trap 'exit 129' HUP
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
-download_packages() {
-  local kernel
-  kernel=$(private_apt apt-cache depends "$kernel_flavour" | awk '/Depends: linux-image-/ { print $2; exit }')
-  [ -n "$kernel" ] || return 1
-  mkdir -p "$work_dir/packages"
-  (cd "$work_dir/packages" && private_apt apt-get download "$kernel" "${packages[@]}" >>"$work_dir/apt.log")
+# The name of the kernel's own package, which has its version in it.
+kernel_package() {
+  download_packages i386 "" download "$kernel_flavour"
+  dpkg-deb -f "$work_dir/archives/$kernel_flavour"_*.deb Depends | grep -o '^linux-image-[^ ,]*'
 }
 
-with_an_archive download_packages
+kernel=$(kernel_package)
+rm "$work_dir/archives/$kernel_flavour"_*.deb
+download_packages i386 "" download "$kernel" "${packages[@]}"
+mkdir "$work_dir/packages"
+mv "$work_dir"/archives/*.deb "$work_dir/packages/"
 mv "$work_dir/packages" "$folder"

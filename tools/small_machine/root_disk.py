@@ -17,8 +17,8 @@ DRIVERS = [
     "drivers/input/evdev"]
 EMPTY_FOLDERS = ["proc", "sys", "dev", "tmp", "prefix", "root", "bin"]
 # Kept out of the image; only people and other programs read it.
-NOT_NEEDED = ["usr/share/doc", "usr/share/man", "usr/share/xml", "usr/share/alsa", "usr/share/bug", "usr/i686-w64-mingw32",
-              "usr/x86_64-w64-mingw32", "usr/lib/i386-linux-gnu/dri"]
+NOT_NEEDED = ["usr/share/doc", "usr/share/man", "usr/share/xml", "usr/share/alsa", "usr/share/bug",
+              "usr/i686-w64-mingw32", "usr/x86_64-w64-mingw32", "usr/lib/i386-linux-gnu/dri"]
 # Room for the files and, while the prefix is made, for the copies of Wine's libraries in it.
 ROOT_DISK = "1800m"
 

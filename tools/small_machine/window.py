@@ -9,7 +9,7 @@ from scenarios.one_release import IDLE_MB, IDLE_PROGRAMS, RELEASE_MB
 POLL_S = 1
 
 INSTRUCTIONS = """
-The window is a PC of 1998 with {memory_mb} MB. {count} programs lie idle on it with {idle_mb} MB each, and Q-DIX is open.
+The window is a PC of 1998 with {memory_mb} MB. {count} programs lie idle on it with {idle_mb} MB each; Q-DIX is open.
   Press   "Free Up RAM Now" on the tab of Q-DIX that is open, with {release_mb} MB chosen or any other amount.
   Look    at the title of its window, and at the figures that appear here after each release.
 The window of the machine takes the mouse as long as the pointer is in it. Close the window to end.

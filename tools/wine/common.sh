@@ -13,6 +13,8 @@ readonly private_wine_recipe=1
 readonly private_wine_root="$cache_dir/wine-i386-$private_wine_recipe"
 # Written last; a root without it is the remains of an interrupted set-up.
 readonly private_wine_stamp="$private_wine_root/proved"
+# Starts the private Wine through the emulator that lies beside it.
+readonly emulated_wine_name=wine-emulated
 
 say() { printf 'wine: %s\n' "$*" >&2; }
 
@@ -39,7 +41,11 @@ chosen_wine() {
       return 0
     fi
   fi
-  if [ -f "$private_wine_stamp" ]; then echo private; fi
+  # A root that was made under another kernel may lack the emulator that this one needs.
+  if [ -f "$private_wine_stamp" ] &&
+    { [ -x "$private_wine_root/usr/lib/wine/$emulated_wine_name" ] || runs_natively "$private_wine_root"; }; then
+    echo private
+  fi
 }
 
 # Sets wine_program and wine_server for the Wine named in $1.
@@ -54,10 +60,16 @@ set_wine_programs() {
       done
     fi
   else
-    wine_program="$private_wine_root/usr/lib/wine/wine"
-    wine_server="$private_wine_root/usr/lib/wine/wineserver"
+    local programs="$private_wine_root/usr/lib/wine"
+    wine_program="$programs/wine"
+    # There on a machine whose kernel refuses 32-bit programs (emulator.sh).
+    if [ -x "$programs/$emulated_wine_name" ]; then wine_program="$programs/$emulated_wine_name"; fi
+    wine_server="$programs/wineserver"
   fi
 }
+
+# True where this machine's kernel starts the 32-bit programs of the private root $1 itself.
+runs_natively() { "$1/lib/ld-linux.so.2" --version >/dev/null 2>&1; }
 
 # The environment of every Wine process: 32 bits only, quiet unless asked, no offers to install add-ons,
 # no menu entries made on the machine's own desktop.

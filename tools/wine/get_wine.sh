@@ -1,19 +1,23 @@
 #!/usr/bin/env bash
 # Provides a Wine that runs 32-bit programs: the machine's own if it really does, else a private one in the cache
-# folder, unpacked from the distribution's i386 packages. Nothing of the machine itself is changed.
+# folder, unpacked from the distribution's i386 packages. Where the kernel refuses 32-bit programs, the private one comes
+# with an emulator that runs them. Nothing of the machine itself is changed.
 #   get_wine.sh --private    provides the private one, whatever the machine has: the small machine is made of its files
 set -euo pipefail
 
 # shellcheck source=tools/wine/common.sh
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
-# shellcheck source=tools/wine/i386_packages.sh
-source "$wine_tools_dir/i386_packages.sh"
+# shellcheck source=tools/wine/archive.sh
+source "$wine_tools_dir/archive.sh"
+# shellcheck source=tools/wine/emulator.sh
+source "$wine_tools_dir/emulator.sh"
 
 readonly wine_packages=(
   wine32 libx11-6 libxext6 libxrender1 libxrandr2 libxcursor1 libxfixes3 libxi6 libxcomposite1 libxinerama1
   fonts-wine fonts-liberation
 )
-readonly proof_limit_s=180
+# Making a prefix takes half a minute through the emulator, and several times that on a busy machine.
+readonly proof_limit_s=600
 
 work_dir=""
 clean_up() {
@@ -74,8 +78,6 @@ try_host_wine() {
   [ "$(<"$verdict")" = yes ]
 }
 
-download_packages() { private_apt apt-get -y --download-only install "${wine_packages[@]}" >>"$work_dir/apt.log"; }
-
 # Unpacks all packages into $1 and leaves out what only people read.
 unpack_packages() {
   local root=$1 archive
@@ -110,16 +112,14 @@ point_to_own_libraries() {
 
 build_private_wine() {
   say "building a private 32-bit Wine in the cache folder (about 150 MB to download)"
-  if ! with_an_archive download_packages; then
-    say "install a 32-bit wine by hand, or see to the machine's package sources"
-    return 1
-  fi
+  download_packages i386 "" --download-only install "${wine_packages[@]}"
   say "unpacking"
   unpack_packages "$work_dir/root"
   add_builtin_zlib "$work_dir/root"
   point_to_own_libraries "$work_dir/root" "$private_wine_root"
   rm -rf "$private_wine_root"
   mv "$work_dir/root" "$private_wine_root"
+  if ! runs_natively "$private_wine_root"; then add_emulator "$private_wine_root"; fi
   say "trying it"
   if ! proves_to_run private; then
     rm -rf "$private_wine_root"

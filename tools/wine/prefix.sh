@@ -9,7 +9,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 readonly registry_file="$wine_tools_dir/win98.reg"
 readonly font_metrics="$wine_tools_dir/font_metrics.sh"
-readonly boot_limit_s=180
+readonly boot_limit_s=600
 # The file in a finished prefix that holds what it was made from, and marks it as made here.
 readonly recipe_name=qdix-recipe
 

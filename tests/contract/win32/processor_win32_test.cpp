@@ -9,6 +9,8 @@ using os::win32::Win32Processor;
 
 constexpr int kAllow = 1;
 constexpr int kForbid = 2;
+/// What Linux's own answer never is for these two: qemu's user mode does not know the call.
+constexpr int kInvalidArgument = -22;
 
 /// Linux, on which Wine runs, lets a thread forbid itself the counter: the call "prctl" with its
 /// PR_SET_TSC. Called directly, since Wine passes nothing of it on. 0 is success.
@@ -31,7 +33,9 @@ TEST(ProcessorWin32, CounterRuns) {
 }
 
 TEST(ProcessorWin32, ForbiddenCounterIsAbsentAndFaultsNothing) {
-  ASSERT_EQ(SetCounter(kForbid), 0);
+  const int forbidden = SetCounter(kForbid);
+  if (forbidden == kInvalidArgument) GTEST_SKIP() << "an emulator that cannot forbid the counter runs this";
+  ASSERT_EQ(forbidden, 0);
   const auto reading = Win32Processor::ReadTimeStampCounter();
   const int allowed_again = SetCounter(kAllow);
   EXPECT_EQ(allowed_again, 0);

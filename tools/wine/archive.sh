@@ -1,7 +1,6 @@
 # shellcheck shell=bash
-# Downloads i386 packages of this machine's distribution without touching the machine's own package lists and state.
-# Meant to be sourced by bash with `set -euo pipefail`, after common.sh. The caller sets work_dir, a folder of its own
-# in which everything is kept.
+# Reads packages of the distribution's own archive for any architecture, with lists and a state of its own below
+# $work_dir, so that nothing of the machine's package system changes. Meant to be sourced after common.sh.
 
 readonly archive_keyring=/usr/share/keyrings/debian-archive-keyring.gpg
 readonly download_attempts=3
@@ -19,45 +18,52 @@ archive_candidates() {
       }'
 }
 
-# Runs apt-get or apt-cache ($1) with lists, archives and state in $work_dir, for i386 and the sources in
-# $work_dir/sources.list. Complaints go to $work_dir/apt.log.
+# apt-get for the architecture $1 with its own lists, archives and state, and the sources in $work_dir/sources.list.
+# What it downloads goes to $work_dir/archives.
 private_apt() {
-  local tool=$1
+  local architecture=$1
   shift
-  "$tool" -q \
-    -o APT::Architecture=i386 -o APT::Architectures=i386 -o APT::Install-Recommends=false \
+  mkdir -p "$work_dir"/{state,lists/partial,cache,archives/partial}
+  env --chdir="$work_dir/archives" apt-get -q -y \
+    -o APT::Architecture="$architecture" -o APT::Architectures="$architecture" -o APT::Install-Recommends=false \
     -o Dir::Etc::sourcelist="$work_dir/sources.list" -o Dir::Etc::sourceparts=- \
     -o Dir::State="$work_dir/state" -o Dir::State::lists="$work_dir/lists" -o Dir::State::status=/dev/null \
     -o Dir::Cache="$work_dir/cache" -o Dir::Cache::archives="$work_dir/archives" \
     -o Dir::Cache::pkgcache= -o Dir::Cache::srcpkgcache= \
     -o APT::Sandbox::User= -o Debug::NoLocking=1 -o Acquire::Retries=3 -o Acquire::Languages=none \
-    "$@" </dev/null 2>>"$work_dir/apt.log"
+    "$@" </dev/null >"$work_dir/apt.log" 2>&1
 }
 
-# Reads the i386 index of one source; false when it cannot be read or is not signed by the distribution.
+# Reads the index of one source; false when it cannot be read or is not signed by the distribution.
 read_index() {
-  local address=$1 release=$2
-  mkdir -p "$work_dir"/{state,lists/partial,cache,archives/partial}
-  printf 'deb [arch=i386 signed-by=%s] %s %s main\n' "$archive_keyring" "$address" "$release" >"$work_dir/sources.list"
-  private_apt apt-get -o APT::Update::Error-Mode=any update >>"$work_dir/apt.log"
+  local architecture=$1 address=$2 release=$3
+  printf 'deb [arch=%s signed-by=%s] %s %s main\n' "$architecture" "$archive_keyring" "$address" "$release" \
+    >"$work_dir/sources.list"
+  private_apt "$architecture" -o APT::Update::Error-Mode=any update
 }
 
-# Runs the function $1, which downloads something with private_apt, with one source after the other until it succeeds.
-with_an_archive() {
-  local download=$1
+# Downloads into $work_dir/archives what an apt-get command line names ($3 and so on: "download NAME..." for packages
+# alone, "--download-only install NAME..." with all that they depend on), for the architecture $1, from the release whose
+# name ends in $2 (empty, or "-backports").
+download_packages() {
+  local architecture=$1 pocket=$2
+  shift 2
   local -a candidates
   mapfile -t candidates < <(archive_candidates)
   if ((${#candidates[@]} == 0)); then
-    say "no archive of this distribution among the machine's package sources"
+    say "no archive of this distribution among the machine's package sources; install a 32-bit wine by hand"
     return 1
   fi
   local attempt address release candidate
   for ((attempt = 1; attempt <= download_attempts; attempt++)); do
     for candidate in "${candidates[@]}"; do
       read -r address release <<<"$candidate"
-      if read_index "$address" "$release" && "$download"; then return 0; fi
+      if read_index "$architecture" "$address" "$release$pocket" &&
+        private_apt "$architecture" "$@"; then
+        return 0
+      fi
     done
-    say "attempt $attempt of $download_attempts to download the i386 packages failed"
+    say "attempt $attempt of $download_attempts to download $architecture packages failed"
     if ((attempt < download_attempts)); then sleep $((attempt * 5)); fi
   done
   tail -n 15 "$work_dir/apt.log" >&2
