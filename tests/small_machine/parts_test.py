@@ -167,6 +167,16 @@ class StoreTest(unittest.TestCase):
         self.provide([96])
         self.assertEqual((lately.exists(), old.exists()), (True, False))
 
+    def test_using_a_machine_keeps_it_from_getting_old(self):
+        self.provide([96])
+        folders = (self.store.folder, self.store.state(96))
+        for folder in folders:
+            os.utime(folder, (0, 0))
+        self.provide([96])
+        for folder in folders:
+            self.assertGreater(folder.stat().st_mtime, time.time() - 60)
+
+    @mock.patch.object(host.shutil, "disk_usage", lambda _: mock.Mock(free=0))
     def test_a_second_set_up_waits_and_finds_the_work_done(self):
         with open(self.cache / "small-machine.lock", "w", encoding="ascii") as lock:
             fcntl.flock(lock, fcntl.LOCK_EX)
