@@ -180,7 +180,8 @@ class StoreTest(unittest.TestCase):
     def test_a_second_set_up_waits_and_finds_the_work_done(self):
         with open(self.cache / "small-machine.lock", "w", encoding="ascii") as lock:
             fcntl.flock(lock, fcntl.LOCK_EX)
-            second = threading.Thread(target=self.provide, args=([96],))
+            made = []
+            second = threading.Thread(target=lambda: made.append(self.provide([96])))
             second.start()
             deadline = time.monotonic() + 20
             while not self.said and time.monotonic() < deadline:
@@ -188,7 +189,7 @@ class StoreTest(unittest.TestCase):
             self.store.packages.mkdir()
             self.store.state(96).mkdir(parents=True)
         second.join(20)
-        self.assertEqual((self.made, self.said), ([], ["waiting for another set-up of the small machine to end"]))
+        self.assertEqual((made, self.said), ([[]], ["waiting for another set-up of the small machine to end"]))
 
     def test_a_full_disk_is_told_before_anything_is_done(self):
         with mock.patch.object(host.shutil, "disk_usage", lambda _: mock.Mock(free=5 << 20)):
