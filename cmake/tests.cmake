@@ -2,6 +2,7 @@
 #   unit      the portable program on the simulated machine: both
 #   contract  the system interfaces: the simulated side on this machine, the real side under Wine
 #   e2e       the shipped exe, driven from outside: under Wine
+#   small_machine   the shipped exe on an emulated PC with little memory (small_machine.cmake)
 set(gtest_disable_pthreads ON CACHE BOOL "No threads in the tests" FORCE)
 set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
 if(WIN32)
