@@ -30,7 +30,7 @@ constexpr const char* kUsage =
     "  rect NAME         prints the place of a control on the screen: x y width height, in pixels\n"
     "  open-tab INDEX    opens a tab, counted from 0\n"
     "  choose NAME TEXT  picks the row of a list\n"
-    "  setting KEY\\NAME                prints a stored setting; the keys are Settings and Startup\n"
+    "  setting KEY\\NAME                prints a stored setting; the keys are Settings, Startup and Machine\n"
     "  store-setting KEY\\NAME TEXT     stores it; the program must not be running\n"
     "  committed         prints the private committed bytes of the program\n"
     "  peak              prints \"sampling\", then the most committed bytes from the moment when Command1 "
@@ -66,6 +66,7 @@ struct Setting {
   explicit Setting(const std::string& path) : name(path.substr(path.find('\\') + 1)) {
     if (path == "Startup\\" + name) key = &qdix::e2e::kStartup;
     if (path == "Settings\\" + name) key = &qdix::e2e::kSettings;
+    if (path == "Machine\\" + name) key = &qdix::e2e::kMachineKey;
   }
   std::string name;
   /// Null where there is no such key.

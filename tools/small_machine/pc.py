@@ -36,11 +36,11 @@ class Pc:
         self.machine.ask(" ".join(["start", name, *arguments]))
 
     def start_main_program(self):
-        """Starts QDIX.exe, waits for its figures and closes the first steps."""
+        """Starts QDIX.exe, as on a machine that knows it already, and waits for its figures."""
+        self.set_settings("Machine", HasRun=1)
         self.start("QDIX.exe")
         self.machine.ask(f"await {WINDOW_LIMIT_S} probe wait-window >/dev/null")
         self.machine.ask(f"await {WINDOW_LIMIT_S} shows_figures")
-        self.probe("close-help")
         self.rest()
 
     def start_idle_programs(self, count, megabytes):
