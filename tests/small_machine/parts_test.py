@@ -2,7 +2,9 @@
 import fcntl
 import os
 import pathlib
+import signal
 import socket
+import subprocess
 import sys
 import tempfile
 import threading
@@ -10,7 +12,8 @@ import time
 import unittest
 from unittest import mock
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/small_machine"))
+TOOLS = pathlib.Path(__file__).resolve().parents[2] / "tools/small_machine"
+sys.path.insert(0, str(TOOLS))
 
 import emulator
 import figures
@@ -85,6 +88,35 @@ class LinesTest(unittest.TestCase):
     def test_the_end_of_the_other_side_is_no_line(self):
         self.theirs.close()
         self.assertIsNone(self.channel.receive(time.monotonic() + 60))
+
+    def test_the_end_of_the_other_side_with_something_unread_is_no_line_either(self):
+        self.channel.send("never read")
+        self.theirs.close()
+        self.assertIsNone(self.channel.receive(time.monotonic() + 60))
+
+    def test_sending_to_nobody_says_that_the_machine_is_off(self):
+        self.theirs.close()
+        with self.assertRaisesRegex(emulator.MachineGone, "the machine is switched off"):
+            self.channel.send("ls")
+
+
+class SignalsTest(unittest.TestCase):
+    def test_a_second_signal_does_not_disturb_the_cleaning_up(self):
+        program = """
+import os, signal, time
+import small_machine
+small_machine.end_once_on_signals()
+try:
+    os.kill(os.getpid(), signal.SIGTERM)
+    time.sleep(60)
+finally:
+    os.kill(os.getpid(), signal.SIGINT)
+    os.kill(os.getpid(), signal.SIGTERM)
+    print("cleaned up")
+"""
+        done = subprocess.run([sys.executable, "-c", program], cwd=TOOLS, capture_output=True, text=True, timeout=50,
+                              check=False)
+        self.assertEqual((done.returncode, done.stdout), (128 + signal.SIGTERM, "cleaned up\n"))
 
 
 class ArchiveTest(unittest.TestCase):

@@ -52,7 +52,10 @@ class LineChannel:
             left_s = deadline - time.monotonic()
             if left_s <= 0 or not select.select([self.stream], [], [], left_s)[0]:
                 return None
-            arrived = self.stream.recv(65536)
+            try:
+                arrived = self.stream.recv(65536)
+            except ConnectionResetError:
+                return None
             if not arrived:
                 return None
             self.waiting += arrived

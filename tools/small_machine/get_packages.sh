@@ -30,7 +30,7 @@ trap 'exit 143' TERM
 
 # The name of the kernel's own package, which has its version in it.
 kernel_package() {
-  download_packages i386 "" download "$kernel_flavour"
+  download_packages i386 "" download "$kernel_flavour" || return
   dpkg-deb -f "$work_dir/archives/$kernel_flavour"_*.deb Depends | grep -o '^linux-image-[^ ,]*'
 }
 

@@ -70,6 +70,21 @@ def perform(store, arguments, say):
     return 0
 
 
+def end_once_on_signals():
+    """A signal ends what runs, like an error does; a second one does not disturb the cleaning up."""
+    ends = (signal.SIGHUP, signal.SIGINT, signal.SIGTERM)
+
+    def end(received, _):
+        for number in ends:
+            signal.signal(number, signal.SIG_IGN)
+        sys.exit(128 + received)
+
+    for number in ends:
+        # One that is ignored from the start, as in a background command, stays so.
+        if signal.getsignal(number) != signal.SIG_IGN:
+            signal.signal(number, end)
+
+
 def main():
     parser = argparse.ArgumentParser(prog="small_machine.sh")
     parser.add_argument("--cache", type=pathlib.Path, required=True)
@@ -84,9 +99,7 @@ def main():
     for command in ("show", "window"):
         commands.add_parser(command).add_argument("memory_mb", type=size_mb, nargs="?", default=USUAL_SIZE_MB)
     arguments = parser.parse_args()
-    # A signal ends the machine like an error does.
-    for number in (signal.SIGHUP, signal.SIGTERM):
-        signal.signal(number, lambda received, _: sys.exit(128 + received))
+    end_once_on_signals()
     say = Progress()
     try:
         store = Store(arguments.cache, arguments.wine, say)
@@ -95,8 +108,6 @@ def main():
         sys.exit(f"small machine: {error}")
     except OSError as error:
         sys.exit(f"small machine: {error.filename or 'this machine'}: {error.strerror}")
-    except KeyboardInterrupt:
-        sys.exit(130)
 
 
 if __name__ == "__main__":
