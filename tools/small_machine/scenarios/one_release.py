@@ -2,7 +2,7 @@
 # An amount of the program's list, about half of what the machine has for programs, and four idle programs that leave
 # little of it.
 RELEASE_MB = {64: 24, 96: 40, 128: 56}
-IDLE_MB = {64: 6, 96: 10, 128: 18}
+IDLE_MB = {64: 4, 96: 10, 128: 18}
 IDLE_PROGRAMS = 4
 
 
