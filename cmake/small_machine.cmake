@@ -17,7 +17,7 @@ else()
   function(small_machine_test name file argument)
     add_test(NAME small_machine.${name} COMMAND ${Python3_EXECUTABLE} ${small_machine_tests}/${file} ${argument})
     set_tests_properties(small_machine.${name} PROPERTIES
-      FIXTURES_REQUIRED small_machine RESOURCE_LOCK small_machine TIMEOUT 1200 LABELS small_machine)
+      FIXTURES_REQUIRED small_machine RESOURCE_LOCK small_machine TIMEOUT 2100 LABELS small_machine)
   endfunction()
 
   foreach(memory_mb IN ITEMS 64 96 128)
