@@ -2,6 +2,7 @@
 #   unit      the portable program on the simulated machine: both
 #   contract  the system interfaces: the simulated side on this machine, the real side under Wine
 #   e2e       the shipped exe, driven from outside: under Wine
+#   small_machine   the shipped exe on an emulated PC with little memory (small_machine.cmake)
 set(gtest_disable_pthreads ON CACHE BOOL "No threads in the tests" FORCE)
 set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
 if(WIN32)
@@ -79,6 +80,11 @@ if(WIN32)
     add_dependencies(e2e_tests witness)
     target_compile_definitions(e2e_driver PRIVATE QDIX_WITNESS="$<TARGET_FILE:witness>")
 
+    # What lies idle on the small machine while memory is released.
+    add_executable(idle tools/small_machine/programs/idle.cpp)
+    target_link_libraries(idle PRIVATE qdix_warnings)
+    target_link_options(idle PRIVATE -static)
+
     # Measures what the tests drive; run by bench/run.sh, built with the tests so that it stays in step.
     file(GLOB bench_sources CONFIGURE_DEPENDS bench/*.cpp)
     add_executable(qdix_bench ${bench_sources})
@@ -111,3 +117,4 @@ else()
   add_test(NAME image.runtime_probe_on_host COMMAND runtime_probe)
   include(cmake/lint.cmake)
 endif()
+include(cmake/small_machine.cmake)

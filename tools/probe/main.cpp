@@ -1,12 +1,17 @@
 // Looks at a running program from outside, and acts on it, for scripts:   qdix_probe [--undo] COMMAND
 // [ARGUMENT...] The exit code is 0 when the answer was found or the deed was done. kUsage has the commands.
 #include <algorithm>
+#include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <span>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include "tests/e2e/driver/cpu_statistics.h"
 #include "tests/e2e/driver/help_windows.h"
+#include "tests/e2e/driver/registry.h"
 #include "tests/e2e/driver/shipped_program.h"
 
 namespace {
@@ -23,7 +28,10 @@ constexpr const char* kUsage =
     "  text NAME         prints the text of a control\n"
     "  enabled NAME      prints 1 or 0\n"
     "  rect NAME         prints the place of a control on the screen: x y width height, in pixels\n"
+    "  open-tab INDEX    opens a tab, counted from 0\n"
     "  choose NAME TEXT  picks the row of a list\n"
+    "  setting KEY\\NAME                prints a stored setting; the keys are Settings, Startup and Machine\n"
+    "  store-setting KEY\\NAME TEXT     stores it; the program must not be running\n"
     "  committed         prints the private committed bytes of the program\n"
     "  peak              prints \"sampling\", then the most committed bytes from the moment when Command1 "
     "is\n"
@@ -34,7 +42,10 @@ constexpr const char* kUsage =
     "  feed-load         plays the load of this machine as the system's statistics, which Wine does not "
     "keep,\n"
     "                    until the program has ended\n"
-    "  close             closes the main window and waits until the program has ended\n";
+    "  begin-close       asks the main window to close, and does not wait\n"
+    "  close             closes the main window and waits until the program has ended\n"
+    "  serve             does a command for each line of its input, and prints \"=== \" and the exit code "
+    "after it\n";
 
 constexpr int kDisablingDeadlineMs = 10000;
 constexpr int kReleaseDeadlineMs = 180000;
@@ -47,6 +58,34 @@ int Fail(const std::string& why) {
 
 int PrintBytes(std::uint64_t bytes) {
   std::printf("%llu\n", static_cast<unsigned long long>(bytes));
+  return 0;
+}
+
+/// A setting by its key and its name.
+struct Setting {
+  explicit Setting(const std::string& path) : name(path.substr(path.find('\\') + 1)) {
+    if (path == "Startup\\" + name) key = &qdix::e2e::kStartup;
+    if (path == "Settings\\" + name) key = &qdix::e2e::kSettings;
+    if (path == "Machine\\" + name) key = &qdix::e2e::kMachineKey;
+  }
+  std::string name;
+  /// Null where there is no such key.
+  const qdix::e2e::KeyPath* key = nullptr;
+};
+
+int PrintSetting(const std::string& path) {
+  const Setting setting(path);
+  if (setting.key == nullptr) return Fail("no key in " + path);
+  const auto text = qdix::e2e::RegistryText(*setting.key, setting.name);
+  if (!text) return Fail(path + " is not stored");
+  std::puts(text->c_str());
+  return 0;
+}
+
+int StoreSetting(const std::string& path, const std::string& text) {
+  const Setting setting(path);
+  if (setting.key == nullptr) return Fail("no key in " + path);
+  qdix::e2e::SetRegistryText(*setting.key, setting.name, text);
   return 0;
 }
 
@@ -103,6 +142,11 @@ int CloseHelp() {
   return qdix::e2e::CloseHelpWindows() ? 0 : Fail("a viewer of the help stays open");
 }
 
+int BeginClose(const ShippedProgram& program) {
+  program.Close();
+  return 0;
+}
+
 int Close(const ShippedProgram& program) {
   program.Close();
   return Eventually([&] { return !program.IsRunning(); }) ? 0 : Fail("the program goes on");
@@ -124,6 +168,12 @@ int Rect(const ShippedProgram& program, const std::string& name) {
   return 0;
 }
 
+int OpenTab(const ShippedProgram& program, const std::string& index) {
+  const int tab = std::atoi(index.c_str());
+  program.OpenTab(tab);
+  return program.OpenedTab() == tab ? 0 : Fail("no tab " + index);
+}
+
 int RunOnProgram(const ShippedProgram& program, const std::string& command) {
   if (command == "close-help") return CloseHelp();
   if (command == "caption") return Caption(program);
@@ -131,6 +181,7 @@ int RunOnProgram(const ShippedProgram& program, const std::string& command) {
   if (command == "peak") return Peak(program);
   if (command == "answer-boxes") return AnswerBoxes(program);
   if (command == "feed-load") return FeedLoad(program);
+  if (command == "begin-close") return BeginClose(program);
   if (command == "close") return Close(program);
   return Fail(std::string("usage:\n") + kUsage);
 }
@@ -147,12 +198,7 @@ int RunOnControl(const ShippedProgram& program, const std::string& command, Argu
   return Fail(std::string("usage:\n") + kUsage);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  // A script reads the first line of `peak` while the program still runs.
-  std::setvbuf(stdout, nullptr, _IONBF, 0);
-  Arguments arguments(argv + 1, static_cast<std::size_t>(argc) - 1);
+int Run(Arguments arguments) {
   const bool is_undo = !arguments.empty() && arguments.front() == std::string("--undo");
   if (is_undo) arguments = arguments.subspan(1);
   if (arguments.empty()) return Fail(std::string("usage:\n") + kUsage);
@@ -160,8 +206,41 @@ int main(int argc, char** argv) {
   const std::string command = arguments.front();
   arguments = arguments.subspan(1);
   if (command == "wait-window" && arguments.empty()) return WaitWindow(facts);
+  if (command == "setting" && arguments.size() == 1) return PrintSetting(arguments[0]);
+  if (command == "store-setting" && arguments.size() == 2) return StoreSetting(arguments[0], arguments[1]);
   ShippedProgram program(facts);
   if (!program.Attach()) return Fail("the program does not run");
   if (arguments.empty()) return RunOnProgram(program, command);
+  if (command == "open-tab" && arguments.size() == 1) return OpenTab(program, arguments[0]);
   return RunOnControl(program, command, arguments);
+}
+
+/// One process for many questions: where memory is what is measured, starting one for each would change it.
+int Serve() {
+  constexpr std::size_t kMostWords = 3;
+  std::array<char, 200> line{};
+  while (std::fgets(line.data(), static_cast<int>(line.size()), stdin) != nullptr) {
+    std::vector<std::string> words;
+    std::istringstream text(line.data());
+    // The last word of all is the rest of the line: texts of rows have blanks in them.
+    for (std::string word; words.size() + 1 < kMostWords && text >> word;) words.push_back(word);
+    std::string rest;
+    if (std::getline(text >> std::ws, rest)) words.push_back(rest);
+    std::vector<const char*> arguments;
+    for (const std::string& word : words) arguments.push_back(word.c_str());
+    const int status = Run(arguments);
+    std::printf("=== %d\n", status);
+  }
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // A script reads the first line of `peak` while the program still runs, and `serve` answers line by line.
+  std::setvbuf(stdout, nullptr, _IONBF, 0);
+  std::setvbuf(stdin, nullptr, _IONBF, 0);
+  const Arguments arguments(argv + 1, static_cast<std::size_t>(argc) - 1);
+  if (arguments.size() == 1 && arguments.front() == std::string("serve")) return Serve();
+  return Run(arguments);
 }

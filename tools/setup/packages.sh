@@ -18,6 +18,8 @@ readonly packages=(
   xvfb xdotool x11-utils imagemagick
   # the private Wine: unpacking it, and making its programs find their own libraries
   patchelf xz-utils ca-certificates debian-archive-keyring procps
+  # the small machine: the emulated PC, its window, and its disks
+  qemu-system-x86 qemu-system-gui qemu-utils e2fsprogs
   # the downloads: floppy and CD images, and another day to make them on once more
   mtools xorriso unzip faketime
 )

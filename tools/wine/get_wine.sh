@@ -2,6 +2,7 @@
 # Provides a Wine that runs 32-bit programs: the machine's own if it really does, else a private one in the cache
 # folder, unpacked from the distribution's i386 packages. Where the kernel refuses 32-bit programs, the private one comes
 # with an emulator that runs them. Nothing of the machine itself is changed.
+#   get_wine.sh --private    provides the private one, whatever the machine has: the small machine is made of its files
 set -euo pipefail
 
 # shellcheck source=tools/wine/common.sh
@@ -128,8 +129,14 @@ build_private_wine() {
   say "ready"
 }
 
+# True when there is nothing to do.
+is_provided() {
+  if [ "$1" = --private ]; then [ -f "$private_wine_stamp" ]; else [ -n "$(chosen_wine)" ]; fi
+}
+
 main() {
-  if [ -n "$(chosen_wine)" ]; then return 0; fi
+  local wanted=${1:-}
+  if is_provided "$wanted"; then return 0; fi
   mkdir -p "$cache_dir"
   # One set-up at a time; a second one waits and then finds the work done.
   exec 9>"$cache_dir/wine.lock"
@@ -137,12 +144,12 @@ main() {
     say "another set-up has held the lock for half an hour"
     return 1
   fi
-  if [ -n "$(chosen_wine)" ]; then return 0; fi
+  if is_provided "$wanted"; then return 0; fi
   # Remains of set-ups that were killed. Only the owner of the lock makes such folders.
   rm -rf "$cache_dir"/building.*
   work_dir=$(mktemp -d "$cache_dir/building.XXXXXX")
-  if try_host_wine 9>&-; then return 0; fi
+  if [ "$wanted" != --private ] && try_host_wine 9>&-; then return 0; fi
   build_private_wine 9>&-
 }
 
-main
+main "$@"

@@ -1,44 +1,25 @@
 #!/usr/bin/env bash
 # Makes the prefix that all tests and runs use: a 32-bit Windows 98 at 96 dots an inch in its classic grey, with
 # bitmap fonts, a desktop with a taskbar, no crash boxes and no links into the user's own folders.
-# Quick when it is there; a change of this script, of its registry file or of the Wine makes it anew.
+# Quick when it is there; a change of this script, of what it writes into the registry or of the Wine makes it again.
 set -euo pipefail
 
 # shellcheck source=tools/wine/common.sh
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 readonly registry_file="$wine_tools_dir/win98.reg"
+readonly font_metrics="$wine_tools_dir/font_metrics.sh"
 readonly boot_limit_s=600
 # The file in a finished prefix that holds what it was made from, and marks it as made here.
 readonly recipe_name=qdix-recipe
 
 # A text that changes whenever the prefix has to be made anew.
 recipe_of() {
-  { cat "${BASH_SOURCE[0]}" "$registry_file" && printf '%s %s\n' "$1" "$wine_program"; } | sha256sum
+  { cat "${BASH_SOURCE[0]}" "$registry_file" "$font_metrics" && printf '%s %s\n' "$1" "$wine_program"; } | sha256sum
 }
 
 is_made_by() {
   [ -f "$2/$recipe_name" ] && [ "$(<"$2/$recipe_name")" = "$1" ]
-}
-
-# Prints a LOGFONTW of MS Sans Serif, 8 points, in the notation of registry files. $1 is its weight (400 or 700).
-logical_font() {
-  local name="MS Sans Serif" weight=$1 index
-  printf 'f5,ff,ff,ff,00,00,00,00,00,00,00,00,00,00,00,00'                      # height -11, width, angles
-  printf ',%02x,%02x,00,00,00,00,00,00,00,00,00,00' $((weight % 256)) $((weight / 256)) # weight, style, precision
-  for ((index = 0; index < 32; index++)); do
-    if ((index < ${#name})); then printf ',%02x,00' "'${name:index:1}"; else printf ',00,00'; fi
-  done
-}
-
-# The fonts of captions, menus, boxes and tool tips are stored as whole records, so they are written here.
-write_font_metrics() {
-  local value weight
-  printf 'REGEDIT4\n\n[HKEY_CURRENT_USER\\Control Panel\\Desktop\\WindowMetrics]\n'
-  for value in CaptionFont SmCaptionFont MenuFont StatusFont MessageFont IconFont; do
-    case $value in CaptionFont | SmCaptionFont) weight=700 ;; *) weight=400 ;; esac
-    printf '"%s"=hex:%s\n' "$value" "$(logical_font "$weight")"
-  done
 }
 
 # A prefix links Documents, Desktop and the like to the user's own folders; a test must not write there.
@@ -69,7 +50,7 @@ make_prefix() {
     find "$private_wine_root/usr/share/fonts" -name 'Liberation*.ttf' -exec cp {} "$WINEPREFIX/drive_c/windows/Fonts/" \;
   fi
   cp "$registry_file" "$WINEPREFIX/drive_c/settings.reg"
-  write_font_metrics >"$WINEPREFIX/drive_c/fonts.reg"
+  "$font_metrics" >"$WINEPREFIX/drive_c/fonts.reg"
   run_in_prefix regedit /S 'C:\settings.reg'
   run_in_prefix regedit /S 'C:\fonts.reg'
   rm "$WINEPREFIX/drive_c/settings.reg" "$WINEPREFIX/drive_c/fonts.reg"

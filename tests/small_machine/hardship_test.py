@@ -1,0 +1,55 @@
+"""Releases that cannot be finished, on the small machine with the exe as shipped:   hardship_test.py [CASE]"""
+import subprocess
+import unittest
+
+from played import PlayedCase
+
+# What goes on in the machine meanwhile.
+UNREST_KB = 6 * 1024
+MOST_SECONDS_TO_END = 10
+# The notification area at the right end of the taskbar: width, height, place.
+TRAY = "60x28+740+572"
+
+
+class NoMemoryTest(PlayedCase):
+    scenario = "no_memory"
+
+    def test_the_warning_is_shown_once(self):
+        self.assertEqual(self.result["box"], "Warning - System Resources may be low.  "
+                                             "Please check your harddisk space and swapfile size.")
+
+    def test_memory_is_as_before(self):
+        self.assertAlmostEqual(self.gain_kb("before", "after"), 0, delta=UNREST_KB)
+        self.assertEqual(self.result["wrong_words"], 0)
+
+    def test_the_next_release_with_memory_to_be_had_works(self):
+        self.assertGreater(self.result["seconds_later"], 0)
+
+
+class CloseDuringReleaseTest(PlayedCase):
+    scenario = "close_during_release"
+
+    def test_it_was_closed_in_the_middle(self):
+        self.assertEqual(self.result["enabled"], "0")
+
+    def test_the_process_ends_within_seconds(self):
+        self.assertLessEqual(self.result["seconds_to_end"], MOST_SECONDS_TO_END)
+        self.assertEqual(self.result["after"]["main_in_ram_kb"], 0)
+
+    def test_its_memory_is_back_and_nobody_elses_is_harmed(self):
+        self.assertGreater(self.gain_kb("before", "after"), 0)
+        self.assertEqual(self.result["wrong_words"], 0)
+
+    def test_no_icon_is_left(self):
+        without, before, after = (self.tray(name) for name in ("without", "before", "after"))
+        self.assertNotEqual(before, without, "there was an icon to take away")
+        self.assertEqual(after, without)
+
+    def tray(self, name):
+        """The pixels of the notification area in a photograph."""
+        return subprocess.run(["convert", self.folder / f"{name}.png", "-crop", TRAY, "rgb:-"], check=True,
+                              capture_output=True).stdout
+
+
+if __name__ == "__main__":
+    unittest.main()

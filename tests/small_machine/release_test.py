@@ -1,0 +1,70 @@
+"""A release by hand on the small machine, with the exe as shipped:   release_test.py MB
+
+The figures are those of the guest's kernel; what the program shows must agree with them.
+"""
+import re
+import sys
+import unittest
+
+from played import PlayedCase
+
+PNG = b"\x89PNG\r\n\x1a\n"
+# Of the released amount; the smallest machine has less that could be moved out.
+LEAST_GAIN = {64: 0.30, 96: 0.60, 128: 0.60}
+LEAST_SWAP = 0.20
+# Of their memory, in RAM after the release.
+MOST_IDLE = 0.50
+# Of the released amount, found by a second release.
+MOST_FOUND_AGAIN = 0.25
+# The machine goes on between the reading of the kernel and that of the program.
+AGREEMENT_KB = 1024
+# The label counts the fifty steps of the gauge.
+STEP_PERCENT = 2
+
+
+class ReleaseTest(PlayedCase):
+    scenario = "one_release"
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.before, cls.after = cls.result["before"], cls.result["after"]
+        cls.amount_kb = cls.result["release_mb"] * 1024
+
+    def test_available_memory_rises(self):
+        self.assertGreaterEqual(self.gain_kb("before", "after"), LEAST_GAIN[self.memory_mb] * self.amount_kb)
+
+    def test_idle_programs_are_moved_out(self):
+        self.assertEqual(self.before["idle_programs"], 4)
+        self.assertLessEqual(self.after["idle_in_ram_kb"], MOST_IDLE * self.before["idle_in_ram_kb"])
+
+    def test_the_swap_file_takes_it(self):
+        self.assertGreaterEqual(self.after["swap_used_kb"] - self.before["swap_used_kb"], LEAST_SWAP * self.amount_kb)
+
+    def test_every_word_comes_back(self):
+        self.assertEqual(self.result["wrong_words"], 0)
+        self.assertEqual(self.result["words"], 4 * self.result["idle_mb"] * 1024 * 1024 // 4)
+
+    def test_a_second_release_finds_little(self):
+        self.assertLessEqual(self.gain_kb("after", "after_again"), MOST_FOUND_AGAIN * self.amount_kb)
+
+    def test_the_window_shows_what_the_kernel_says(self):
+        for moment in (self.before, self.after):
+            caption = re.fullmatch(r"([\d.]+) MB   Q-DIX", moment["caption"])
+            self.assertIsNotNone(caption, moment["caption"])
+            self.assertAlmostEqual(float(caption[1]) * 1000, moment["available_kb"], delta=AGREEMENT_KB)
+            free = re.fullmatch(r"(\d+)%  Available RAM", moment["free"])
+            self.assertIsNotNone(free, moment["free"])
+            self.assertAlmostEqual(int(free[1]), 100 * moment["available_kb"] / moment["total_kb"],
+                                   delta=STEP_PERCENT + 100 * AGREEMENT_KB / moment["total_kb"])
+
+    def test_there_are_two_different_photographs(self):
+        photographs = [(self.folder / f"{name}.png").read_bytes() for name in ("before", "after")]
+        for photograph in photographs:
+            self.assertTrue(photograph.startswith(PNG))
+        self.assertNotEqual(*photographs)
+
+
+if __name__ == "__main__":
+    ReleaseTest.memory_mb = int(sys.argv.pop())
+    unittest.main()

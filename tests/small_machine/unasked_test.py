@@ -1,0 +1,94 @@
+"""Releases that nobody presses a button for, on the small machine with the exe as shipped:   unasked_test.py [CASE]
+
+The figures are those of the guest's kernel, times are those of its clock.
+"""
+import unittest
+
+from played import PlayedCase
+
+# Of the amount.
+LEAST_GAIN = 0.30
+# From the moment when it is due until the memory is given back.
+MOST_SECONDS = 30
+KB_PER_MB = 1000
+# In an hour with twelve releases: less than a page for each.
+MOST_GROWTH_BYTES = 8 * 4096
+
+
+class AutomaticReleaseTest(PlayedCase):
+    scenario = "automatic_release"
+
+    def test_nothing_happens_while_there_is_enough_memory(self):
+        self.assertGreater(self.result["enough"]["available_kb"], self.result["threshold_mb"] * KB_PER_MB)
+        self.assertEqual(self.releases("enough"), 0)
+
+    def test_memory_is_released_within_the_interval(self):
+        self.assertLess(self.result["low"]["available_kb"], self.result["threshold_mb"] * KB_PER_MB)
+        waited_s = self.result["counted_at"] - self.result["low"]["seconds"]
+        self.assertLessEqual(waited_s, self.result["interval_s"] + MOST_SECONDS)
+        self.assertGreaterEqual(self.gain_kb("low", "after"), LEAST_GAIN * self.result["amount_mb"] * KB_PER_MB)
+
+    def test_one_release_is_counted_and_stored(self):
+        self.assertGreater(self.result["later"]["available_kb"], self.result["threshold_mb"] * KB_PER_MB)
+        self.assertEqual(self.releases("later"), 1)
+        self.assertEqual(self.result["stored_counter"], "1")
+
+    def test_every_word_comes_back(self):
+        self.assertEqual(self.result["wrong_words"], 0)
+
+
+class BusyProcessorTest(PlayedCase):
+    scenario = "busy_processor"
+
+    def test_the_release_waits_while_the_processor_is_busy(self):
+        self.assertLess(self.result["busy"]["available_kb"], self.result["threshold_mb"] * KB_PER_MB)
+        self.assertEqual(self.result["busy"]["load"], "100 %")
+        self.assertEqual(self.releases("busy"), 0)
+
+    def test_it_comes_when_the_processor_is_idle(self):
+        # The average over the last eight readings must fall first.
+        self.assertLessEqual(self.result["seconds_until_release"], 2 * self.result["interval_s"] + MOST_SECONDS)
+
+
+class StartUpReleaseTest(PlayedCase):
+    scenario = "start_up_release"
+
+    def test_memory_is_released_after_the_delay(self):
+        self.assertGreaterEqual(self.result["seconds_after_start"], self.result["delay_s"])
+        self.assertLessEqual(self.result["seconds_after_start"], self.result["delay_s"] + MOST_SECONDS)
+        self.assertGreaterEqual(self.gain_kb("before", "after"), LEAST_GAIN * self.result["amount_mb"] * KB_PER_MB)
+
+    def test_every_word_comes_back(self):
+        self.assertEqual(self.result["wrong_words"], 0)
+
+
+class TimedReleaseTest(PlayedCase):
+    scenario = "timed_release"
+
+    def test_memory_is_released_when_it_is_due(self):
+        self.assertEqual(self.result["due_before"], "Next Release of RAM is due in 5 minutes")
+        self.assertGreaterEqual(self.result["seconds_after_start"], self.result["interval_s"])
+        self.assertLessEqual(self.result["seconds_after_start"], self.result["interval_s"] + MOST_SECONDS)
+        self.assertGreaterEqual(self.gain_kb("before", "after"), LEAST_GAIN * self.result["amount_mb"] * KB_PER_MB)
+
+    def test_the_next_one_is_a_whole_interval_away(self):
+        self.assertEqual(self.result["due_after"], "Next Release of RAM is due in 5 minutes")
+
+
+class HourTest(PlayedCase):
+    scenario = "hour"
+
+    def test_an_hour_passed_and_every_want_of_memory_was_answered_once(self):
+        self.assertGreaterEqual(self.result["seconds"], 3600)
+        self.assertEqual(self.releases("end"), self.result["rounds"])
+
+    def test_the_program_does_not_grow(self):
+        first, *_, last = self.result["committed_bytes"]
+        self.assertLessEqual(last - first, MOST_GROWTH_BYTES)
+
+    def test_nothing_is_lost(self):
+        self.assertEqual(self.result["wrong_words"], 0)
+
+
+if __name__ == "__main__":
+    unittest.main()

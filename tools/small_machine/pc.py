@@ -1,0 +1,169 @@
+"""The small machine as a scenario uses it: programs, windows, a hand, figures and photographs."""
+import contextlib
+import dataclasses
+import json
+import pathlib
+import re
+import shutil
+import tempfile
+
+import root_disk
+from emulator import Emulator
+from figures import read_figures
+from host import MachineError
+from store import PROGRAMS_DISK_MB
+
+# Of the guest's time.
+WINDOW_LIMIT_S = 120
+RELEASE_LIMIT_S = 300
+# Of the host's time, for a wait in the guest.
+HOST_LIMIT_S = 900
+
+
+class Pc:
+    """One machine that is switched on. `folder` takes photographs and figures; `say` is told what is being done."""
+
+    def __init__(self, machine, folder, say):
+        self.machine = machine
+        self.folder = folder
+        self.say = say
+        self.idle_programs = range(0)
+
+    # Programs.
+
+    def start(self, name, *arguments):
+        self.say(f"starting {name}")
+        self.machine.ask(" ".join(["start", name, *arguments]))
+
+    def start_main_program(self):
+        """Starts QDIX.exe, as on a machine that knows it already, and waits for its figures."""
+        self.set_settings("Machine", HasRun=1)
+        self.start("QDIX.exe")
+        self.machine.ask(f"await {WINDOW_LIMIT_S} probe wait-window >/dev/null")
+        self.machine.ask(f"await {WINDOW_LIMIT_S} shows_figures")
+        self.rest()
+
+    def start_idle_programs(self, count, megabytes):
+        self.say(f"starting {count} programs that hold {megabytes} MB each and do nothing")
+        first = self.idle_programs.stop
+        for number in range(first, first + count):
+            self.machine.ask(f"start_idle {number} {megabytes}", HOST_LIMIT_S)
+        self.idle_programs = range(self.idle_programs.start, first + count)
+
+    def end_idle_programs(self):
+        for number in self.idle_programs:
+            self.machine.ask(f"end_idle {number}", HOST_LIMIT_S)
+        self.idle_programs = range(self.idle_programs.stop, self.idle_programs.stop)
+
+    def wake_idle_programs(self):
+        """Lets them read all their memory; returns how many words of how many were wrong."""
+        wrong = words = 0
+        for number in self.idle_programs:
+            answer = self.machine.ask(f"wake_idle {number}", HOST_LIMIT_S)
+            found = re.search(r"(\d+) wrong words of (\d+)", answer)
+            if not found:
+                raise MachineError(f"the idle program {number} said '{answer}'")
+            wrong, words = wrong + int(found[1]), words + int(found[2])
+        return wrong, words
+
+    def set_settings(self, section, **values):
+        """Stores settings of the main program, which must not be running."""
+        for name, value in values.items():
+            self.probe(f"store-setting {section}\\{name} {value}")
+
+    def setting(self, section, name):
+        return self.probe(f"setting {section}\\{name}").strip()
+
+    # Windows, by the probe that runs in the guest.
+
+    def probe(self, question):
+        return self.machine.ask(f"probe '{question}'")
+
+    def await_answer(self, question, answer, limit_s):
+        """Waits until an answer is like a pattern of the shell, and returns the guest's time at that moment."""
+        return self.await_true(f"await_answer {limit_s} '{answer}' {question}")
+
+    def await_available(self, kilobytes, limit_s):
+        """Waits until more than that is available, and returns the guest's time at that moment."""
+        return self.await_true(f"await {limit_s} has_available {kilobytes}")
+
+    def await_true(self, command):
+        """Runs a command of the guest that waits, and returns the guest's time after it."""
+        return float(self.machine.ask(f"{command} && cat /proc/uptime", HOST_LIMIT_S).split()[0])
+
+    def pause(self, seconds):
+        """Lets the guest go on for that time."""
+        self.machine.ask(f"sleep {seconds}", HOST_LIMIT_S)
+
+    def press(self, control):
+        """Moves the pointer to a control of the main window and presses the left button there."""
+        x, y, width, height = map(int, self.probe(f"rect {control}").split())
+        self.machine.point_at(x + width // 2, y + height // 2)
+        self.machine.ask("sleep 1")
+        self.machine.press_button(True)
+        self.machine.ask("usleep 100000")
+        self.machine.press_button(False)
+
+    def release(self, megabytes):
+        """Releases an amount by hand and returns how many seconds the button was disabled."""
+        self.say(f"releasing {megabytes} MB")
+        self.probe(f"choose List1 {megabytes} MB")
+        self.press("Command1")
+        start = self.await_answer("enabled Command1", 0, 20)
+        seconds = self.await_answer("enabled Command1", 1, RELEASE_LIMIT_S) - start
+        self.rest()
+        return seconds
+
+    # The machine.
+
+    def rest(self):
+        """Waits until the machine has nothing to do and the next refresh has shown that."""
+        self.machine.ask("await 60 is_at_rest; sleep 2")
+
+    def look(self):
+        """The kernel's figures and what the window shows at the same moment, to be written."""
+        return self.kernel() | {"caption": self.probe("caption"),
+                                "free": self.probe("text lblPercentFree")}
+
+    def kernel(self):
+        """The kernel's figures alone, to be written."""
+        return dataclasses.asdict(self.figures())
+
+    def figures(self):
+        return read_figures(self.machine.ask("figures"))
+
+    def photograph(self, name):
+        file = self.folder / f"{name}.png"
+        self.machine.photograph(file)
+        return file
+
+    def write(self, name, value):
+        """Writes a result, as JSON, beside the photographs."""
+        (self.folder / f"{name}.json").write_text(json.dumps(value, indent=2) + "\n", encoding="utf-8")
+
+
+def make_programs_disk(programs, file):
+    """A disk with these programs on it, as large as the one that the stored machine knows."""
+    with tempfile.TemporaryDirectory(prefix="qdix-programs.") as folder:
+        for program in programs:
+            if not program.is_file():
+                raise MachineError(f"{program} is missing; build it first")
+            shutil.copy(program, folder)
+        root_disk.make_disk(folder, file, f"{PROGRAMS_DISK_MB}m")
+
+
+@contextlib.contextmanager
+def switched_on(store, memory_mb, programs, folder, say, **options):
+    """A machine with its desktop up, the programs in C:\\QDIX and the probe running. What it writes is forgotten."""
+    shutil.rmtree(folder, ignore_errors=True)
+    folder.mkdir(parents=True)
+    state = store.state(memory_mb)
+    with tempfile.NamedTemporaryFile(prefix="qdix-programs.", suffix=".img") as disk:
+        make_programs_disk(programs, pathlib.Path(disk.name))
+        say(f"switching on a PC with {memory_mb} MB")
+        disks = [(state / "root.qcow2", "qcow2", False), (state / "swap.qcow2", "qcow2", False),
+                 (disk.name, "raw", False)]
+        with Emulator(*store.boot_files(), memory_mb, disks, stored_memory=state / "memory", **options) as machine:
+            machine.ask("use_programs /dev/vdc")
+            machine.ask("start_probe")
+            yield Pc(machine, folder, say)
