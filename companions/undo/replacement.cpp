@@ -31,7 +31,7 @@ class SystemIniFiles {
     const std::uint32_t attributes = Attributes(tuning::kSystemIni);
     const bool is_there = attributes != os::kInvalidFileAttributes;
     if (is_there && (attributes & os::kFileAttributeReadOnly) != 0) return {};
-    const Replacement replaced = WriteNew(content) ? ChangeNames(is_there) : Replacement{};
+    Replacement replaced = WriteNew(content) ? ChangeNames(is_there) : Replacement{};
     if (replaced.outcome == Outcome::kRefused) files_.DeleteFileA(PathOf(kNewName).c_str());
     return replaced;
   }

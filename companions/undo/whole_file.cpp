@@ -4,6 +4,20 @@
 
 namespace qdix::undo {
 
+namespace {
+
+/// Drive and folder in two commands; `folder` ends with a backslash, which only a root keeps.
+std::string CommandsToEnter(const std::string& folder) {
+  constexpr std::size_t kRootLength = 3;
+  const std::size_t first_backslash = folder.find('\\');
+  const std::string drive = folder.substr(0, first_backslash);
+  std::string path = folder.substr(first_backslash);
+  if (folder.size() > kRootLength) path.pop_back();
+  return drive + "\r\ncd " + path;
+}
+
+}  // namespace
+
 WholeFile::WholeFile(const os::System& system, const ui::Application& application, UndoScreen& screen,
                      Settings& settings, EntryList& entry_list, tuning::Restart& restart)
     : system_(system),
@@ -52,17 +66,17 @@ std::string WholeFile::Question() const {
   return question + "Do you want to replace system.ini?";
 }
 
-/// The commands need no long name, which the command prompt does not know before Windows has started.
+/// The commands need no long name, which the command prompt does not know before Windows has started, and are
+/// short enough for one line of a box each.
 void WholeFile::TellSuccess(const std::string& kept_name) {
   std::string text = "system.ini has been replaced.";
   if (!kept_name.empty()) {
-    const std::string folder = settings_.WindowsFolder();
-    const std::string system_ini = folder + tuning::kSystemIni;
     text +=
         " The old file is now " + kept_name +
         ".\r\n\r\nIf Windows does not start with the new one, start the computer at the command prompt and "
-        "type:\r\n\r\nattrib -r " +
-        system_ini + "\r\ncopy /y " + folder + kept_name + " " + system_ini;
+        "type:\r\n\r\n" +
+        CommandsToEnter(settings_.WindowsFolder()) + "\r\nattrib -r system.ini\r\ncopy /y " + kept_name +
+        " system.ini";
   }
   if (entry_list_.ChooseOwnTemplate()) {
     text +=

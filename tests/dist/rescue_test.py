@@ -85,10 +85,9 @@ class Prompt:
 
     @staticmethod
     def name(word):
-        name = word.removeprefix("C:\\WINDOWS\\")
-        if not SHORT_NAME.fullmatch(name):
+        if not SHORT_NAME.fullmatch(word):
             raise PromptError(f"No name of DOS: {word}")
-        return name
+        return word
 
     def existing(self, word):
         name = self.name(word)
@@ -118,7 +117,7 @@ def commands_of_undo():
     """From the text that the unit test of its box holds it to."""
     code = (ROOT / "tests/unit/undo/whole_file_test.cpp").read_text(encoding="utf-8")
     box = code[code.index("kReplaced ="):code.index(";", code.index("kReplaced ="))]
-    commands = re.findall(r'"((?:attrib|copy) .*?)(?:\\r\\n)?"', box)
+    commands = re.findall(r'"((?:C:|cd |attrib |copy ).*?)(?:\\r\\n)?"', box)
     return [command.replace("\\\\", "\\") for command in commands]
 
 
@@ -163,7 +162,7 @@ class Rescue(unittest.TestCase):
 
     def test_undo_takes_a_whole_restore_back(self):
         commands = commands_of_undo()
-        self.assertEqual(len(commands), 2, commands)
+        self.assertEqual(len(commands), 4, commands)
         disk = Disk(self.work, {"system.ini": OLD, "SYSTEM.Q01": CHANGED})
         disk.protect("system.ini")
         Prompt(disk).run(commands)

@@ -246,6 +246,7 @@ TEST_F(UndoSession, DamagedBackupIsSaidAndNothingIsTakenFromIt) {
             "from it.");
   EXPECT_FALSE(program.IsEnabled("cmdRestore"));
   EXPECT_EQ(program.Text("lblPagingBefore"), "not recorded");
+  ASSERT_TRUE(BringForward(program.MainWindow()));
   EXPECT_TRUE(Photograph("undo_damaged_backup"));
   Close();
 }
@@ -278,6 +279,7 @@ TEST_F(UndoSession, SystemIniWithoutBootIsWarnedOf) {
             "Warning: system.ini has no section [boot]. Windows does not start without it. Restore the whole "
             "file before "
             "you restart.");
+  ASSERT_TRUE(BringForward(program.MainWindow()));
   EXPECT_TRUE(Photograph("undo_without_boot"));
   Close();
 }

@@ -15,8 +15,10 @@ constexpr const char* kKeptPath = "C:\\WINDOWS\\SYSTEM.Q01";
 constexpr const char* kReplaced =
     "system.ini has been replaced. The old file is now SYSTEM.Q01.\r\n\r\n"
     "If Windows does not start with the new one, start the computer at the command prompt and type:\r\n\r\n"
-    "attrib -r C:\\WINDOWS\\system.ini\r\n"
-    "copy /y C:\\WINDOWS\\SYSTEM.Q01 C:\\WINDOWS\\system.ini";
+    "C:\r\n"
+    "cd \\WINDOWS\r\n"
+    "attrib -r system.ini\r\n"
+    "copy /y SYSTEM.Q01 system.ini";
 constexpr const char* kTemplateIsStillOwn =
     "\r\n\r\nThe file system template is still \"Quondix\". To put the old one back too, answer No to the "
     "next "
@@ -222,8 +224,8 @@ TEST_F(WholeFile, WindowsInARootFolder) {
   for (const int answer : {os::kIdYes, os::kIdOk, os::kIdNo}) other.machine.AnswerNextBox(answer);
   other.Screen().cmdRestore.Press();
   EXPECT_EQ(other.machine.ReadFile("D:\\system.ini"), kIniBefore);
-  EXPECT_TRUE(other.machine.Boxes()[1].text.find("copy /y D:\\SYSTEM.Q01 D:\\system.ini") !=
-              std::string::npos);
+  EXPECT_NE(other.machine.Boxes()[1].text.find("type:\r\n\r\nD:\r\ncd \\\r\nattrib -r system.ini\r\n"),
+            std::string::npos);
 }
 
 }  // namespace
