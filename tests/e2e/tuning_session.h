@@ -60,7 +60,6 @@ class TuningSession : public Session {
   void ExpectRestartAndEnd();
 
  private:
-
   SystemIniKeeper keeper_;
   std::optional<RestartWatch> restarts_;
   std::uint32_t expected_restarts_ = 0;

@@ -14,8 +14,12 @@ std::vector<HWND> HelpWindows() {
 }
 
 bool CloseHelpWindows() {
-  for (const HWND window : HelpWindows()) PostMessageA(window, WM_CLOSE, 0, 0);
-  return Eventually([] { return HelpWindows().empty(); });
+  // Asked again with each look: a viewer that is still coming up shows its window only then.
+  return Eventually([] {
+    const std::vector<HWND> windows = HelpWindows();
+    for (const HWND window : windows) PostMessageA(window, WM_CLOSE, 0, 0);
+    return windows.empty();
+  });
 }
 
 }  // namespace qdix::e2e
