@@ -14,6 +14,7 @@ TEST_F(MemoryContract, NoMoreMemoryIsAvailableThanThereIs) {
   EXPECT_GE(status.total_physical, status.available_physical);
   EXPECT_GT(status.available_virtual, 0U);
   EXPECT_GT(status.total_virtual, status.available_virtual);
+  EXPECT_LE(status.memory_load_percent, 100U);
 }
 
 TEST_F(MemoryContract, BlockCanBeTouchedAndGivenBack) {

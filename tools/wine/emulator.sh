@@ -23,7 +23,7 @@ unpack_emulator() {
   return 1
 }
 
-# Adds emulator and 64-bit server to the unpacked private root $1.
+# Adds emulator, 64-bit server and the right amount of memory to the unpacked private root $1.
 add_emulator() {
   local root=$1
   local programs="$root/usr/lib/wine" unpacked="$work_dir/emulator"
@@ -34,6 +34,9 @@ add_emulator() {
   dpkg-deb -x "$work_dir"/archives/wine64_*.deb "$unpacked"
   cp --remove-destination "$unpacked/usr/lib/wine/wineserver64" "$programs/wineserver"
   cp --remove-destination "$unpacked/usr/bin/qemu-i386" "$programs/wine-preloader"
+  gcc -m32 -O2 -fPIC -shared -nostdlib -fno-builtin -fno-stack-protector -o "$programs/whole_memory.so" \
+    "$wine_tools_dir/whole_memory.c"
+  patchelf --add-needed "$programs/whole_memory.so" "$programs/wine"
   cat >"$programs/$emulated_wine_name" <<WRAPPER
 #!/bin/sh
 exec '$programs/wine-preloader' '$programs/wine' "\$@"

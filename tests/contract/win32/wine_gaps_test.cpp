@@ -44,18 +44,6 @@ TEST_F(WineGaps, LargePageFileHasMoreAvailableThanThereIs) {
   }
 }
 
-// An emulator of 32-bit programs cuts the machine's total to 32 bits and leaves what is available whole; the
-// load that Wine works out of the two is no percentage then.
-TEST_F(WineGaps, LoadIsNoPercentageWhereTheTotalIsCut) {
-  const WideMemoryStatus wide = ReadWideMemoryStatus();
-  const os::MemoryStatus status = system.memory.GlobalMemoryStatus();
-  if (wide.available_physical > wide.total_physical) {
-    EXPECT_GT(status.memory_load_percent, 100U);
-  } else {
-    EXPECT_LE(status.memory_load_percent, 100U);
-  }
-}
-
 // The rights asked for at the opening of a key are not looked at. Neither does Windows 95; the NT line does.
 TEST_F(WineGaps, KeyOpenedForReadingCanBeWritten) {
   constexpr const char* kKey = "Software\\QDIX contract tests";
