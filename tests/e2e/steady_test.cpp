@@ -39,8 +39,11 @@ TEST_F(SteadySession, AHundredTabSwitchesAndFiveReleasesLeaveNothingBehind) {
   const auto use = [this](int switches, int releases) {
     for (int i = 0; i < switches; ++i) program.OpenTab(i % 8);
     program.OpenTab(0);
-    // A click by message comes back when the release is over.
-    for (int i = 0; i < releases; ++i) Ask(program.Control("Command1"), BM_CLICK);
+    for (int i = 0; i < releases; ++i) {
+      // A click by message comes back when the release is over, unless that takes longer than an answer may.
+      Ask(program.Control("Command1"), BM_CLICK);
+      ASSERT_TRUE(program.Await([&] { return program.IsEnabled("Command1"); }));
+    }
   };
   use(16, 1);
   const HeldResources held(program);
