@@ -123,6 +123,30 @@ class HelpSession : public testing::Test {
   }
   [[nodiscard]] std::string PanePixels() const { return ScreenPixels(program.ScreenRect("paneTopic")); }
   /// Waits until the pane looks like this no more, and tells what it looks like then.
+  /// Gives the window this place on the screen and waits until it is there. It may refuse to become so small.
+  void PlaceWindow(const RECT& wanted) const {
+    SetWindowPos(program.MainWindow(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left,
+                 wanted.bottom - wanted.top, SWP_NOZORDER | SWP_ASYNCWINDOWPOS);
+    ASSERT_TRUE(program.Await([&] {
+      RECT place = {};
+      GetWindowRect(program.MainWindow(), &place);
+      return place.left == wanted.left && place.top == wanted.top && place.right >= wanted.right &&
+             place.bottom >= wanted.bottom;
+    }));
+  }
+
+  /// The picture of the pane once it no longer changes.
+  std::string AwaitSteadyPane() {
+    std::string before;
+    std::string now;
+    EXPECT_TRUE(program.Await([&] {
+      before = now;
+      now = PanePixels();
+      return !now.empty() && now == before;
+    }));
+    return now;
+  }
+
   std::string AwaitOtherPane(const std::string& before) {
     std::string now;
     EXPECT_TRUE(program.Await([&] {
@@ -217,8 +241,8 @@ TEST_F(HelpSession, LinksAreFollowedByKeyboardAndBackReturns) {
 TEST_F(HelpSession, KeysScrollTheTopic) {
   Start("0");
   // The smallest window has the most to scroll.
-  SetWindowPos(program.MainWindow(), nullptr, 20, 20, 10, 10, SWP_NOZORDER | SWP_ASYNCWINDOWPOS);
-  const std::string top = AwaitOtherPane("");
+  PlaceWindow({20, 20, 30, 30});
+  const std::string top = AwaitSteadyPane();
   PressKey(VK_DOWN);
   const std::string line = AwaitOtherPane(top);
   PressKey(VK_NEXT);
@@ -343,12 +367,7 @@ TEST_F(HelpSession, BothPanesFollowTheSizeOfTheWindow) {
 
 TEST_F(HelpSession, PlaceIsRememberedOverARestart) {
   Start("4");
-  SetWindowPos(program.MainWindow(), nullptr, 33, 44, 555, 366, SWP_NOZORDER | SWP_ASYNCWINDOWPOS);
-  ASSERT_TRUE(program.Await([this] {
-    RECT place = {};
-    GetWindowRect(program.MainWindow(), &place);
-    return place.left == 33 && place.top == 44 && place.right == 33 + 555 && place.bottom == 44 + 366;
-  }));
+  PlaceWindow({33, 44, 33 + 555, 44 + 366});
   CloseAndExpectEnd();
   EXPECT_EQ(TextsOf(kHelpSettings),
             (RegistryTexts{
