@@ -5,8 +5,16 @@
 
 namespace qdix::e2e {
 
-/// Longer than anything here takes on a busy machine, except a release.
+/// Longer than anything takes on a busy machine of the usual speed, except a release.
 inline constexpr int kDeadlineMs = 30000;
+
+/// Name of the environment variable with the factor by which this machine is slower than one of the usual
+/// speed.
+inline constexpr const char* kSlownessVariable = "QDIX_E2E_SLOWNESS";
+
+/// The time to wait here where a machine of the usual speed is given `deadline_ms`: at most three times as
+/// long.
+[[nodiscard]] int Patience(int deadline_ms);
 
 /// Asks until the answer is true; false when the deadline passes first. It is asked at least once.
 [[nodiscard]] bool Eventually(const std::function<bool()>& condition, int deadline_ms = kDeadlineMs);

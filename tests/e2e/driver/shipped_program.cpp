@@ -88,7 +88,7 @@ void ShippedProgram::Kill() {
 bool ShippedProgram::IsRunning() const { return WaitForSingleObject(process_, 0) == WAIT_TIMEOUT; }
 
 int ShippedProgram::WaitForExit(int deadline_ms) const {
-  if (WaitForSingleObject(process_, static_cast<DWORD>(deadline_ms)) != WAIT_OBJECT_0) return -1;
+  if (WaitForSingleObject(process_, static_cast<DWORD>(Patience(deadline_ms))) != WAIT_OBJECT_0) return -1;
   DWORD code = 0;
   return GetExitCodeProcess(process_, &code) != 0 ? static_cast<int>(code) : -1;
 }

@@ -7,6 +7,7 @@
 
 #include "tests/e2e/driver/file_keeper.h"
 #include "tests/e2e/driver/photograph.h"
+#include "tests/e2e/driver/polling.h"
 #include "tests/e2e/supervisor/progress.h"
 
 namespace qdix::e2e {
@@ -93,8 +94,9 @@ DWORD Supervisor::MeasureTestLimitMs() {
   if (process == nullptr) return kMinuteMs;
   WaitForSingleObject(process, kSlowestFactor * kUsualStartMs);
   CloseHandle(process);
-  const DWORD factor = (GetTickCount() - start) / kUsualStartMs;
-  return kMinuteMs * std::clamp<DWORD>(factor, 1, kSlowestFactor);
+  const DWORD factor = std::clamp<DWORD>((GetTickCount() - start) / kUsualStartMs, 1, kSlowestFactor);
+  SetEnvironmentVariableA(kSlownessVariable, std::to_string(factor).c_str());
+  return kMinuteMs * factor;
 }
 
 /// A file of flags has room for any number of names; a command line does not.

@@ -34,7 +34,8 @@ class Supervisor {
     kDied
   };
 
-  /// How long one test may take: a minute, and longer on a machine that takes long to start a program.
+  /// How long one test may take: a minute, and longer on a machine that takes long to start a program. The
+  /// tests learn from their environment how much longer.
   [[nodiscard]] static DWORD MeasureTestLimitMs();
   [[nodiscard]] HANDLE StartTests() const;
   [[nodiscard]] End Watch(HANDLE tests) const;
