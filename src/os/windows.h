@@ -36,7 +36,7 @@ class Windows {
   [[nodiscard]] virtual std::uint32_t GetWindowThreadProcessId(WindowHandle window) = 0;
 
   /// Restores a minimised window to its former size and place, and shows it where it is hidden; no effect on
-  /// others. False when there is no such window.
+  /// others, for which the answer depends on the system. False when there is no such window.
   virtual bool OpenIcon(WindowHandle window) = 0;
 
   /// Shows a window. True where it was visible before.
