@@ -11,7 +11,8 @@ from played import PlayedCase
 PNG = b"\x89PNG\r\n\x1a\n"
 # Of the released amount; the smallest machine has less that could be moved out.
 LEAST_GAIN = {64: 0.30, 96: 0.60, 128: 0.60}
-LEAST_SWAP = 0.20
+# On the smallest the start has moved most of it out before, and the kernel keeps the places of pages that were read back.
+LEAST_SWAP = {64: 0.05, 96: 0.20, 128: 0.20}
 # Of their memory, in RAM after the release.
 MOST_IDLE = 0.50
 # Of the released amount, found by a second release.
@@ -39,7 +40,8 @@ class ReleaseTest(PlayedCase):
         self.assertLessEqual(self.after["idle_in_ram_kb"], MOST_IDLE * self.before["idle_in_ram_kb"])
 
     def test_the_swap_file_takes_it(self):
-        self.assertGreaterEqual(self.after["swap_used_kb"] - self.before["swap_used_kb"], LEAST_SWAP * self.amount_kb)
+        rise_kb = self.after["swap_used_kb"] - self.before["swap_used_kb"]
+        self.assertGreaterEqual(rise_kb, LEAST_SWAP[self.memory_mb] * self.amount_kb)
 
     def test_every_word_comes_back(self):
         self.assertEqual(self.result["wrong_words"], 0)
