@@ -16,6 +16,9 @@ from store import PROGRAMS_DISK_MB
 # Of the guest's time.
 WINDOW_LIMIT_S = 120
 RELEASE_LIMIT_S = 300
+# How far the window's figure may be from the kernel's, and how many looks are taken until it is near.
+AGREEMENT_KB = 1024
+MOST_LOOKS = 10
 # Of the host's time, for a wait in the guest.
 HOST_LIMIT_S = 900
 
@@ -121,9 +124,17 @@ class Pc:
         self.machine.ask("await 60 is_at_rest; sleep 2")
 
     def look(self):
-        """The kernel's figures and what the window shows at the same moment, to be written."""
-        return self.kernel() | {"caption": self.probe("caption"),
-                                "free": self.probe("text lblPercentFree")}
+        """The kernel's figures and what the window shows, to be written.
+
+        The window is refreshed every 750 ms: where memory moves meanwhile, a later look is taken. A window that never
+        agrees with the kernel is written as it is.
+        """
+        for _ in range(MOST_LOOKS):
+            seen = self.kernel() | {"caption": self.probe("caption"), "free": self.probe("text lblPercentFree")}
+            if abs(shown_kb(seen["caption"]) - seen["available_kb"]) <= AGREEMENT_KB:
+                break
+            self.pause(1)
+        return seen
 
     def kernel(self):
         """The kernel's figures alone, to be written."""
@@ -140,6 +151,12 @@ class Pc:
     def write(self, name, value):
         """Writes a result, as JSON, beside the photographs."""
         (self.folder / f"{name}.json").write_text(json.dumps(value, indent=2) + "\n", encoding="utf-8")
+
+
+def shown_kb(caption):
+    """The figure of the main window's title, megabytes of 1,024,000 bytes; -1 where it shows none."""
+    found = re.match(r"([\d.]+) MB ", caption)
+    return float(found[1]) * 1000 if found else -1
 
 
 def make_programs_disk(programs, file):
