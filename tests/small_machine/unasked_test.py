@@ -78,9 +78,12 @@ class TimedReleaseTest(PlayedCase):
 class HourTest(PlayedCase):
     scenario = "hour"
 
-    def test_an_hour_passed_and_every_want_of_memory_was_answered_once(self):
+    def test_an_hour_passed_and_every_want_of_memory_was_answered(self):
         self.assertGreaterEqual(self.result["seconds"], 3600)
-        self.assertEqual(self.releases("end"), self.result["rounds"])
+        releases = self.releases("end")
+        self.assertGreaterEqual(releases, self.result["rounds"])
+        # A round takes memory twice: when its program starts, and when that reads what was moved out.
+        self.assertLessEqual(releases, 2 * self.result["rounds"])
 
     def test_the_program_does_not_grow(self):
         first, *_, last = self.result["committed_bytes"]
