@@ -36,10 +36,10 @@ struct Before {
   }
 };
 
-/// What the text of the record says of an entry; nothing stands for a value that is missing or no text.
+/// What the text of the record says of an entry; empty where the value is missing or no text.
 [[nodiscard]] Before FromRecord(const Entry& entry, const std::optional<std::string>& recorded);
 
-/// The same of the backup's entry; nothing stands for none.
+/// The same of the backup's entry; empty where it has none.
 [[nodiscard]] Before FromBackup(const std::optional<std::string>& text);
 
 /// What the record and a backup of the same time say together. The record is complete where it lacks nothing
@@ -51,7 +51,7 @@ struct Before {
 [[nodiscard]] bool Agree(const Entry& entry, const std::optional<std::string>& recorded,
                          bool is_record_complete, const std::optional<std::string>& backup_text);
 
-/// True where the entry is as it was before; `before` is known, nothing stands for no entry.
+/// True where the entry is as it was before; `before` is known, and empty where there was no entry.
 [[nodiscard]] bool IsAsBefore(const Before& before, const std::optional<std::string>& now);
 
 /// "(none)", "(empty)", or the text in at most `most` characters, without control characters.

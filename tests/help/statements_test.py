@@ -18,7 +18,7 @@ QUOTED_FROM_ELSEWHERE = {"Install", "Progra"}
 
 
 def number_in(path: str, pattern: str) -> int:
-    """A number of the program, by what stands in front of it in a source."""
+    """A number of the program, found by the text before it in a source."""
     return int(re.search(rf"{pattern}(\d+)", (ROOT / path).read_text(encoding="utf-8"))[1])
 
 

@@ -15,10 +15,10 @@ constexpr DWORD kPollMs = 10;
 
 /// 1 where nobody has measured.
 int Slowness() {
-  constexpr long kMostPatience = 3;
+  constexpr long kMaxPatience = 3;
   const char* const measured = std::getenv(kSlownessVariable);
   const long factor = measured == nullptr ? 1 : std::strtol(measured, nullptr, 10);
-  return static_cast<int>(std::clamp(factor, 1L, kMostPatience));
+  return static_cast<int>(std::clamp(factor, 1L, kMaxPatience));
 }
 
 }  // namespace
