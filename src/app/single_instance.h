@@ -16,7 +16,7 @@ class SingleInstance {
   [[nodiscard]] bool AnotherIsRunning();
 
   /// Finds the running copy by its hidden application window, restores, shows and raises the window that
-  /// stands before it, and unloads this copy's window. Where no such window is found this copy is unloaded
+  /// precedes it, and unloads this copy's window. Where no such window is found this copy is unloaded
   /// all the same: two copies would fight over settings and icon.
   void ActivatePrevInstance();
 

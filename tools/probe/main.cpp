@@ -217,13 +217,13 @@ int Run(Arguments arguments) {
 
 /// One process for many questions: where memory is what is measured, starting one for each would change it.
 int Serve() {
-  constexpr std::size_t kMostWords = 3;
+  constexpr std::size_t kMaxWords = 3;
   std::array<char, 200> line{};
   while (std::fgets(line.data(), static_cast<int>(line.size()), stdin) != nullptr) {
     std::vector<std::string> words;
     std::istringstream text(line.data());
     // The last word of all is the rest of the line: texts of rows have blanks in them.
-    for (std::string word; words.size() + 1 < kMostWords && text >> word;) words.push_back(word);
+    for (std::string word; words.size() + 1 < kMaxWords && text >> word;) words.push_back(word);
     std::string rest;
     if (std::getline(text >> std::ws, rest)) words.push_back(rest);
     std::vector<const char*> arguments;
