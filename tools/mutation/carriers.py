@@ -23,30 +23,43 @@ def plain_name(symbol):
     return "::".join(parts[-2:] if in_class else parts[-1:])
 
 
-class Carriers:
-    """`objects` are the objects of the program's own sources, `root` is the folder of both."""
+def symbols_of(objects):
+    """For each source the names that its object defines."""
+    found = {}
+    for source, path in objects.items():
+        lines = subprocess.run(["nm", "-C", "--defined-only", path], capture_output=True, text=True,
+                               check=True).stdout.splitlines()
+        matches = [SYMBOL.match(line) for line in lines]
+        found[source] = {plain_name(match[2]) for match in matches if match and match[1] in CODE_AND_DATA}
+    return found
 
-    def __init__(self, objects, headers):
+
+class Carriers:
+    """`objects` are the objects of the program's own sources by their sources, `tests` those of the unit tests."""
+
+    def __init__(self, objects, tests, headers):
         self.objects = objects
+        self.tests = tests
         self.texts = {path: path.read_text(encoding="utf-8") for path in [*objects, *headers]}
         self.headers = headers
         self.known = {}
 
     @functools.cached_property
     def symbols(self):
-        """For each source the names that its object defines."""
-        found = {}
-        for source, path in self.objects.items():
-            lines = subprocess.run(["nm", "-C", "--defined-only", path], capture_output=True, text=True,
-                                   check=True).stdout.splitlines()
-            matches = [SYMBOL.match(line) for line in lines]
-            found[source] = {plain_name(match[2]) for match in matches if match and match[1] in CODE_AND_DATA}
-        return found
+        return symbols_of(self.objects)
+
+    @functools.cached_property
+    def test_symbols(self):
+        return symbols_of(self.tests)
 
     def smallest_with(self, name):
-        """The source with the smallest object that defines a name; none where no object does."""
-        defining = [source for source, names in self.symbols.items() if name in names]
-        return sorted(defining, key=lambda source: (self.objects[source].stat().st_size, source))[:1]
+        """The source with the smallest object that defines a name. Where no object of the program does, a test's: the
+        window of a companion is made by its entry, which the unit tests do without. None where no object does."""
+        for objects, symbols in ((self.objects, self.symbols), (self.tests, self.test_symbols)):
+            defining = [source for source, names in symbols.items() if name in names]
+            if defining:
+                return [min(defining, key=lambda source: (objects[source].stat().st_size, source))]
+        return []
 
     def users_of(self, name):
         """The sources that have the value of a name inside: by themselves, or with a class whose header names it."""

@@ -2,7 +2,8 @@
 which mutants they catch.
 
 The sources of the tree are never touched: a mutant is compiled from a file of its own, and its object goes to the
-linker in front of the library that holds the true one. A changed header hides the true one from the compiler.
+linker in front of all others, in the place of the true one or before the library that holds it. A changed header hides
+the true one from the compiler.
 """
 import dataclasses
 import json
@@ -25,6 +26,7 @@ LIMIT_FACTOR = 3
 LIMIT_LEAST_S = 4
 MEMORY_LIMIT = 4 << 30
 FOLDERS = ("src", "companions")
+TEST_FOLDERS = ("tests/unit",)
 # Tests of what a screen shows.
 SCREEN_TESTS = ("screen", "tool_tips")
 # A header whose change would compile more is left alone.
@@ -68,14 +70,20 @@ class Workshop:
         steps = must(["ninja", "-C", BUILD, "-t", "commands", "unit_tests"]).splitlines()
         self.link = shlex.split(steps[-1].removeprefix(": && ").removesuffix(" && :"))
         self.tests = self.measure()
-        self.carriers = Carriers(self.objects(), sorted(path for folder in FOLDERS for path in (ROOT / folder).rglob("*.h")))
+        self.carriers = Carriers(self.objects(FOLDERS), self.objects(TEST_FOLDERS),
+                                 sorted(path for folder in FOLDERS for path in (ROOT / folder).rglob("*.h")))
 
-    def objects(self):
-        """The objects of the portable program and its companions, by their sources."""
+    def object_of(self, source):
+        """Relative to the build folder, as the linker is told it."""
+        command = self.commands[source]
+        return command[command.index("-o") + 1]
+
+    def objects(self, folders):
+        """The objects of the sources in some folders, by their sources."""
         found = {}
-        for source, command in self.commands.items():
-            path = BUILD / command[command.index("-o") + 1]
-            is_own = any(source.is_relative_to(ROOT / folder) for folder in FOLDERS)
+        for source in self.commands:
+            path = BUILD / self.object_of(source)
+            is_own = any(source.is_relative_to(ROOT / folder) for folder in folders)
             if is_own and "simulated" not in source.parts and path.exists():
                 found[source] = path
         return found
@@ -154,9 +162,10 @@ class Workshop:
                 objects.append(str(folder / f"{len(objects)}.o"))
                 if run([*NICE, *self.changed_command(source, original, changed, objects[-1])], cwd=BUILD).returncode != 0:
                     return "did not compile"
-            link = list(self.link)
-            output = link.index("-o") + 1
-            link[output:output + 1] = [str(folder / "unit_tests"), *objects]
+            exchanged = {self.object_of(source) for source in self.sources_of(mutant)}
+            link = [word for word in self.link if word not in exchanged]
+            link[link.index("-o") + 1] = str(folder / "unit_tests")
+            link[1:1] = objects
             if run([*NICE, *link], cwd=BUILD).returncode != 0:
                 return "did not compile"
             return "caught" if self.is_caught(folder / "unit_tests", original, folder) else "survived"
