@@ -56,7 +56,6 @@ void MemoryRelease::PumpEvents() {
 // The blocks of the failed pass are still held while the box is open, so the box must get along without much
 // memory.
 void MemoryRelease::ReportFailure(const ReleaseRequest& request, const base::RuntimeError& error) {
-  if (form_.Unloaded()) return;
   if (error == base::kOutOfMemory) {
     if (request.warning_is_silenced && request.warning_is_silenced()) return;
     system_.dialogs.MessageBoxA(kLowResourcesWarning, application_.Title(), os::kMbOk);

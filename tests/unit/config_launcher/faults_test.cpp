@@ -133,9 +133,7 @@ TEST(ConfigFaults, FullDiskKeepsTheOldListAndTheWindow) {
     ConfigRig rig(SomeEntries(3));
     rig.machine.LimitFreeBytes(bytes);
     RunSession(rig);
-    EXPECT_TRUE(
-        rig.BoxText(1).starts_with("The list of programs could not be saved.\r\n\r\nYour previous list has "
-                                   "not been changed."));
+    EXPECT_EQ(rig.BoxText(1), kCouldNotBeSaved);
     EXPECT_FALSE(rig.form->Window().Unloaded());
     EXPECT_EQ(rig.form->Entries().size(), 4U);
     EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(3)));
@@ -156,7 +154,7 @@ TEST(ConfigFaults, ProtectedListAndProtectedDiskAreLeftAlone) {
       rig.machine.ProtectFile(kListPath);
     }
     RunSession(rig);
-    EXPECT_TRUE(rig.BoxText(1).starts_with("The list of programs could not be saved."));
+    EXPECT_EQ(rig.BoxText(1), kCouldNotBeSaved);
     EXPECT_FALSE(rig.form->Window().Unloaded());
     EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(3)));
   }
@@ -175,7 +173,7 @@ TEST(ConfigFaults, ListThatCouldNotGetItsNameBackIsFoundAgain) {
     EXPECT_EQ(rig.machine.ReadFile(kListBackupPath), BytesOf(SomeEntries(3)));
     rig.machine.FailFromCallNumber(0);
     EXPECT_EQ(rig.Start().Entries(), SomeEntries(3));
-    EXPECT_NE(rig.BoxText(1).find("The list was taken from launcher.bak."), std::string::npos);
+    EXPECT_EQ(rig.BoxText(1), OpeningMessage(kTakenFromBackup));
   }
   EXPECT_EQ(renamed, 1);
 }

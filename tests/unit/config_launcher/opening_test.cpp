@@ -15,10 +15,7 @@ class ConfigOpening : public testing::Test {
   /// Opens what is there and expects one message with this remark, and an untouched disk.
   void ExpectRemark(ConfigRig& rig, const std::string& remark) {
     rig.Start();
-    const std::string text = rig.BoxText(1);
-    EXPECT_TRUE(text.starts_with("The list of programs (launcher.dat) is not as it should be:")) << text;
-    EXPECT_NE(text.find(remark), std::string::npos) << text;
-    EXPECT_TRUE(text.ends_with("The file stays as it is until you save the list.")) << text;
+    EXPECT_EQ(rig.BoxText(1), OpeningMessage(remark));
     EXPECT_TRUE(rig.form->Window().Shown());
     rig.Screen().cmdCancel.Press();
     EXPECT_TRUE(rig.form->Window().Unloaded()) << "nothing was changed, so nothing is asked";
@@ -42,18 +39,20 @@ TEST_F(ConfigOpening, GoodListsAndNoneSayNothing) {
 
 TEST_F(ConfigOpening, OddLength) {
   ConfigRig rig(BytesOf(SomeEntries(2)).substr(0, 848));
-  ExpectRemark(rig, "The file ends in the middle of a program");
+  ExpectRemark(rig, "The file ends in the middle of a program, of which something may be missing.");
   EXPECT_EQ(rig.form->Entries(), (Entries{SomeEntries(2)[0], {"Program 1", "C:\\P1.EXE /x", ""}}));
 }
 
 TEST_F(ConfigOpening, TooManyAreShownAndNotSaved) {
   ConfigRig rig(SomeEntries(27));
   rig.Start();
-  EXPECT_NE(rig.BoxText(1).find("It holds 27 programs"), std::string::npos);
+  EXPECT_EQ(rig.BoxText(1),
+            OpeningMessage("It holds 27 programs, and the launcher takes 25 at most. Please remove some."));
   EXPECT_EQ(rig.form->Entries(), SomeEntries(27));
   rig.Screen().cmdRemove.Press();
   rig.Screen().cmdOK.Press();
-  EXPECT_TRUE(rig.BoxText(2).starts_with("The launcher takes 25 programs at most."));
+  EXPECT_EQ(rig.BoxText(2),
+            "The launcher takes 25 programs at most.\r\n\r\nPlease remove some before you save the list.");
   EXPECT_FALSE(rig.form->Window().Unloaded());
   EXPECT_EQ(rig.Changes(), Names{});
   rig.Screen().cmdRemove.Press();
@@ -64,7 +63,7 @@ TEST_F(ConfigOpening, TooManyAreShownAndNotSaved) {
 
 TEST_F(ConfigOpening, ControlCharactersAreLeftOut) {
   ConfigRig rig(Entries{{"Ed\0itor"s, "A.EXE\t/x", "\r\n"}});
-  ExpectRemark(rig, "Some texts held characters that cannot be shown.");
+  ExpectRemark(rig, "Some texts held characters that cannot be shown. They were left out.");
   EXPECT_EQ(rig.form->Entries(), (Entries{{"Ed", "A.EXE /x", ""}}));
 }
 
@@ -86,7 +85,9 @@ TEST_F(ConfigOpening, ProgramsWithoutNameOrCommandLine) {
 
 TEST_F(ConfigOpening, HugeFileIsReadAsFarAsItCanBeShown) {
   ConfigRig rig(SomeEntries(150));
-  ExpectRemark(rig, "The file is longer than 100 programs.");
+  ExpectRemark(rig,
+               "The file is longer than 100 programs. The rest of it was not read.\r\n"
+               "- It holds 100 programs, and the launcher takes 25 at most. Please remove some.");
   EXPECT_EQ(rig.form->Entries(), SomeEntries(100));
 }
 
@@ -95,7 +96,7 @@ TEST_F(ConfigOpening, CopyOfAnInterruptedSaveIsTaken) {
     ConfigRig rig;
     rig.machine.WriteFile(kListBackupPath, BytesOf(SomeEntries(3)));
     if (has_empty_list) rig.machine.WriteFile(kListPath, "");
-    ExpectRemark(rig, "The list was taken from launcher.bak.");
+    ExpectRemark(rig, kTakenFromBackup);
     EXPECT_EQ(rig.form->Entries(), SomeEntries(3));
   }
 }
@@ -165,7 +166,10 @@ TEST_F(ConfigOpening, ListThatCannotBeReadIsNotWrittenOver) {
     rig.machine.FailNextCall("ReadFile");
     rig.machine.WhileBoxIsOpen([&rig] { EXPECT_FALSE(rig.form->Window().Unloaded()); });
     rig.Start();
-    EXPECT_TRUE(rig.BoxText(1).starts_with("The list of programs is there, but it could not be read."));
+    EXPECT_EQ(
+        rig.BoxText(1),
+        "The list of programs is there, but it could not be read.\r\n\r\nPlease make sure that no other "
+        "program has launcher.dat open, and start Config Launcher again.");
     EXPECT_TRUE(rig.form->Window().Unloaded());
     EXPECT_FALSE(rig.form->Window().Shown());
     EXPECT_EQ(rig.Changes(), Names{});
@@ -183,6 +187,13 @@ TEST_F(ConfigOpening, SecondCopyBringsTheFirstForwardAndEnds) {
   EXPECT_EQ(rig.machine.ForegroundWindow(), other);
   EXPECT_NE(rig.machine.ForegroundWindow(), hidden);
   EXPECT_FALSE(rig.machine.IsMinimised(other));
+  const std::vector<std::string>& calls = rig.machine.Calls();
+  const auto called = [&calls](const std::string& name) {
+    return std::find_if(calls.begin(), calls.end(),
+                        [&name](const std::string& call) { return call.starts_with(name + "("); });
+  };
+  EXPECT_LT(called("OpenIcon"), called("SetForegroundWindow")) << "nobody is brought to an icon";
+  EXPECT_NE(called("SetForegroundWindow"), calls.end());
   EXPECT_TRUE(rig.form->Window().Unloaded());
   EXPECT_FALSE(rig.form->Window().Shown());
   EXPECT_NE(rig.form->Window().Caption(), "Config Launcher") << "it could find itself";

@@ -58,7 +58,7 @@ TEST(ConfigSaving, FieldsThatWereNotAddedAreAskedFor) {
   rig.Start();
   rig.Type(kEditor);
   rig.Screen().cmdOK.Press();
-  EXPECT_TRUE(rig.BoxText(1).starts_with("What you typed in the fields is not in the list."));
+  EXPECT_EQ(rig.BoxText(1), kSaveWithoutFields);
   EXPECT_FALSE(rig.form->Window().Unloaded()) << "No is the default";
   EXPECT_EQ(rig.Fields(), kEditor);
   EXPECT_EQ(rig.Changes(), Names{});
@@ -166,7 +166,7 @@ TEST(ConfigClosing, SessionThatIsToEndAsksForWhatIsTypedAsWell) {
   EXPECT_FALSE(rig.form->MaySessionEnd()) << "Yes to saving, then No to saving without it";
   ASSERT_EQ(rig.machine.Boxes().size(), 2U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, kNotSaved);
-  EXPECT_TRUE(rig.machine.Boxes()[1].text.ends_with("Do you want to save the list without it?"));
+  EXPECT_EQ(rig.machine.Boxes()[1].text, kSaveWithoutFields);
   EXPECT_EQ(rig.Fields(), kEditor);
 }
 
@@ -176,7 +176,7 @@ TEST(ConfigClosing, SessionGoesOnWhereTheListCouldNotBeSaved) {
   rig.Screen().cmdMoveDown.Press();
   rig.machine.ProtectDisk();
   EXPECT_FALSE(rig.form->MaySessionEnd());
-  EXPECT_TRUE(rig.BoxText(2).starts_with("The list of programs could not be saved."));
+  EXPECT_EQ(rig.BoxText(2), kCouldNotBeSaved);
   EXPECT_FALSE(rig.form->Window().Unloaded());
 }
 

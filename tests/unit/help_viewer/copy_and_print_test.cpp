@@ -45,7 +45,9 @@ TEST(HelpCopy, ClipboardThatAnotherProgramHoldsIsTold) {
   rig.Start("0");
   rig.Screen().cmdCopy.Press();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
-  EXPECT_TRUE(rig.machine.Boxes()[0].text.starts_with("The topic could not be copied."));
+  EXPECT_EQ(rig.machine.Boxes()[0].text,
+            "The topic could not be copied.\r\n\r\nAnother program may have the clipboard open. Please try "
+            "again.");
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk | os::kMbIconExclamation);
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Help")
       << "the title of the window would be found instead of it";
@@ -152,7 +154,8 @@ TEST(HelpPrint, MissingPrinterIsTold) {
   rig.Screen().cmdPrint.Press();
   EXPECT_EQ(rig.printer.calls, Calls{"PrintDlgA"});
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
-  EXPECT_TRUE(rig.machine.Boxes()[0].text.starts_with("The topic could not be printed."));
+  EXPECT_EQ(rig.machine.Boxes()[0].text,
+            "The topic could not be printed.\r\n\r\nPlease make sure that a printer is installed and ready.");
 }
 
 TEST(HelpPrint, PrinterThatRefusesIsToldAndTheDocumentGivenUp) {

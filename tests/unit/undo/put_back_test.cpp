@@ -10,10 +10,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr const char* kRestartQuestion =
-    "You must restart your computer before the new settings take effect.\r\n\r\n"
-    "Do you want to restart your computer now?";
-
 class PutBack : public testing::Test {
  protected:
   void StartChanged() {
@@ -172,8 +168,9 @@ TEST_F(PutBack, NoRestartIsOfferedWhereNothingChanged) {
   UntickAllBut(rig.Screen().ChunkSize);
   PressAndAnswer(os::kIdYes);
   ASSERT_EQ(rig.machine.Boxes().size(), 2U);
-  EXPECT_TRUE(
-      BoxText(1).starts_with("These settings could not be put back:\r\n\r\n[vcache] ChunkSize\r\n\r\n"));
+  EXPECT_EQ(BoxText(1),
+            "These settings could not be put back:\r\n\r\n[vcache] ChunkSize\r\n\r\n"
+            "Please make sure that system.ini is not write-protected, and try again.");
 }
 
 TEST_F(PutBack, ProtectedTemplateKeyIsNamed) {

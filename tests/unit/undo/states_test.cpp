@@ -104,7 +104,9 @@ TEST_F(UndoState, BackupWithoutRecordServesTheWholeFile) {
 
 TEST_F(UndoState, NeitherRecordNorBackup) {
   Start();
-  EXPECT_TRUE(State().starts_with("Nothing is recorded. Q-DIX records these settings before"));
+  EXPECT_EQ(State(),
+            "Nothing is recorded. Q-DIX records these settings before it changes one of them for the first "
+            "time, so there is nothing to put back.");
   EXPECT_EQ(Backup(), kNoBackup);
   EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
 }

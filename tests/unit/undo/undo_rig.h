@@ -12,6 +12,10 @@
 
 namespace qdix::tests {
 
+inline constexpr const char* kRestartQuestion =
+    "You must restart your computer before the new settings take effect.\r\n\r\n"
+    "Do you want to restart your computer now?";
+
 inline constexpr const char* kIniPath = "C:\\WINDOWS\\system.ini";
 inline constexpr const char* kBackupPath = "C:\\WINDOWS\\system.qdix";
 inline constexpr const char* kRecordKey = "SOFTWARE\\QDIX";

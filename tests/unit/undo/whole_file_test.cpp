@@ -12,6 +12,9 @@ using testing::IsEmpty;
 
 constexpr double kThirdOfMay1999 = 36283.4;
 constexpr const char* kKeptPath = "C:\\WINDOWS\\SYSTEM.Q01";
+constexpr const char* kNotReplaced =
+    "system.ini could not be replaced, and has not been changed.\r\n\r\nPlease make sure that it is not "
+    "write-protected, that no other program has it open and that the disk is not full, and try again.";
 constexpr const char* kReplaced =
     "system.ini has been replaced. The old file is now SYSTEM.Q01.\r\n\r\n"
     "If Windows does not start with the new one, start the computer at the command prompt and type:\r\n\r\n"
@@ -60,9 +63,10 @@ TEST_F(WholeFile, QuestionTellsTheDateOfTheCopyAndProposesNo) {
 TEST_F(WholeFile, QuestionDoesWithoutADateThatCannotBeRead) {
   rig.machine.FailNextCall("FindFirstFileA");
   rig.Screen().cmdRestore.Press();
-  EXPECT_TRUE(
-      BoxText(0).starts_with("All of system.ini will be replaced by system.qdix.\r\n\r\nEvery change"))
-      << BoxText(0);
+  EXPECT_EQ(BoxText(0),
+            "All of system.ini will be replaced by system.qdix.\r\n\r\nEvery change that was made to "
+            "system.ini after that will be lost, also those by Windows and by other programs. The present "
+            "file is kept under another name.\r\n\r\nDo you want to replace system.ini?");
 }
 
 TEST_F(WholeFile, NoChangesNothing) {
@@ -94,7 +98,7 @@ TEST_F(WholeFile, NewStateIsShownAndTheRestartOffered) {
   ASSERT_EQ(rig.machine.Boxes().size(), 3U);
   EXPECT_EQ(BoxText(1), kReplaced);
   EXPECT_EQ(rig.machine.Boxes()[1].flags, os::kMbOk | os::kMbIconInformation);
-  EXPECT_TRUE(BoxText(2).starts_with("You must restart your computer"));
+  EXPECT_EQ(BoxText(2), kRestartQuestion);
   EXPECT_EQ(rig.machine.RestartCount(), 1);
 }
 
@@ -114,7 +118,7 @@ TEST_F(WholeFile, OwnTemplateCanBeRemovedAlsoWithoutARecord) {
   EXPECT_FALSE(other.Screen().Template.box.Enabled()) << "not before the file was restored";
   for (const int answer : {os::kIdYes, os::kIdOk, os::kIdNo}) other.machine.AnswerNextBox(answer);
   other.Screen().cmdRestore.Press();
-  EXPECT_TRUE(other.machine.Boxes()[1].text.ends_with(kTemplateIsStillOwn)) << other.machine.Boxes()[1].text;
+  EXPECT_EQ(other.machine.Boxes()[1].text, std::string(kReplaced) + kTemplateIsStillOwn);
   EXPECT_TRUE(other.Screen().Template.box.Ticked());
   for (const int answer : {os::kIdYes, os::kIdNo}) other.machine.AnswerNextBox(answer);
   other.Screen().cmdPutBack.Press();
@@ -169,13 +173,16 @@ TEST_F(WholeFile, FileThatLostItsNameIsNamed) {
   EXPECT_EQ(rig.machine.Boxes()[1].flags, os::kMbOk | os::kMbIconExclamation);
   EXPECT_EQ(rig.machine.ReadFile(kIniPath), std::nullopt);
   EXPECT_EQ(rig.machine.ReadFile(kKeptPath), kIniAfter);
-  EXPECT_TRUE(rig.Screen().lblState.Caption().starts_with("Warning: system.ini is missing"));
+  EXPECT_EQ(
+      rig.Screen().lblState.Caption(),
+      "Warning: system.ini is missing. Windows does not start without it. Restore the whole file before "
+      "you restart.");
 }
 
 TEST_F(WholeFile, FileThatAnotherProgramHoldsStaysAsItIs) {
   rig.machine.HoldFile(kIniPath);
   PressAndAnswer({os::kIdYes, os::kIdOk});
-  EXPECT_TRUE(BoxText(1).starts_with("system.ini could not be replaced, and has not been changed."));
+  EXPECT_EQ(BoxText(1), kNotReplaced);
   EXPECT_EQ(rig.Ini(), kIniAfter);
   EXPECT_EQ(rig.machine.ReadFile("C:\\WINDOWS\\SYSTEM.Q00"), std::nullopt);
 }
@@ -185,7 +192,7 @@ TEST_F(WholeFile, BackupThatIsNoLongerWholeIsNotTaken) {
     if (rig.machine.Boxes().size() == 1) rig.machine.WriteFile(kBackupPath, "[boot]\r\nshel");
   });
   PressAndAnswer({os::kIdYes, os::kIdOk});
-  EXPECT_TRUE(BoxText(1).starts_with("system.ini could not be replaced, and has not been changed."));
+  EXPECT_EQ(BoxText(1), kNotReplaced);
   EXPECT_EQ(rig.Ini(), kIniAfter);
   EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
 }
