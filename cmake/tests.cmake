@@ -21,11 +21,14 @@ target_link_libraries(qdix_simulated PRIVATE qdix_warnings PUBLIC qdix_program)
 
 # Leaves room for a busy machine whose Wine needs an emulator.
 set(wine_limit_s 3000)
+# A hundred times what a shard needs on a quiet machine.
+set(shard_limit_s 600)
 
-# qdix_test(<name> SOURCES <file>... LIBRARIES <target>...): a test program. On this machine each of its tests is one
-# of ctest's; under Wine the program is, because starting Wine for each would take longer than the tests.
+# qdix_test(<name> [SHARDS <count>] SOURCES <file>... LIBRARIES <target>...): a test program. On this machine each of its
+# tests is one of ctest's or, where a process for each would take longer than the tests, as many shards as are asked for;
+# build/<preset>/reports/ then has a report of every single test. Under Wine the program is one test.
 function(qdix_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 test "" "" "SOURCES;LIBRARIES")
+  cmake_parse_arguments(PARSE_ARGV 1 test "" "SHARDS" "SOURCES;LIBRARIES")
   if(NOT test_SOURCES)
     return()
   endif()
@@ -36,15 +39,26 @@ function(qdix_test name)
   if(WIN32)
     target_link_options(${name} PRIVATE -static)
     target_link_libraries(${name} PRIVATE ${precision_object})
-    add_test(NAME wine.${prefix} COMMAND ${name})
-    set_tests_properties(wine.${prefix} PROPERTIES TIMEOUT ${wine_limit_s})
+    # "-R unit" is to find the quick ones only.
+    string(REPLACE "unit" "portable" wine_name wine.${prefix})
+    add_test(NAME ${wine_name} COMMAND ${name})
+    set_tests_properties(${wine_name} PROPERTIES TIMEOUT ${wine_limit_s})
+  elseif(test_SHARDS)
+    math(EXPR last_shard "${test_SHARDS} - 1")
+    foreach(shard RANGE ${last_shard})
+      set(test_name ${prefix}.shard_${shard})
+      add_test(NAME ${test_name}
+        COMMAND ${name} --gtest_brief=1 --gtest_output=xml:${CMAKE_BINARY_DIR}/reports/${test_name}.xml)
+      set_tests_properties(${test_name} PROPERTIES
+        ENVIRONMENT "GTEST_TOTAL_SHARDS=${test_SHARDS};GTEST_SHARD_INDEX=${shard}" TIMEOUT ${shard_limit_s})
+    endforeach()
   else()
     gtest_discover_tests(${name} TEST_PREFIX "${prefix}." DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES)
   endif()
 endfunction()
 
 file(GLOB_RECURSE unit_sources CONFIGURE_DEPENDS tests/unit/*.cpp)
-qdix_test(unit_tests SOURCES ${unit_sources} LIBRARIES qdix_simulated ${companion_libraries})
+qdix_test(unit_tests SHARDS 8 SOURCES ${unit_sources} LIBRARIES qdix_simulated ${companion_libraries})
 add_dependencies(unit_tests qdix_packed_topics)
 # The topics of the help as they are made and as they ship, by paths of the system that the tests run on.
 set(host_drive "")
@@ -104,7 +118,7 @@ if(WIN32)
   endforeach()
 else()
   list(FILTER contract_sources EXCLUDE REGEX "/win32/")
-  qdix_test(contract_tests SOURCES ${contract_sources} LIBRARIES qdix_simulated)
+  qdix_test(contract_tests SHARDS 1 SOURCES ${contract_sources} LIBRARIES qdix_simulated)
   file(GLOB fuzz_sources CONFIGURE_DEPENDS tests/fuzz/*.cpp)
   qdix_test(fuzz_tests SOURCES ${fuzz_sources} LIBRARIES qdix_simulated ${companion_libraries})
   target_compile_definitions(fuzz_tests PRIVATE QDIX_CORPUS="${CMAKE_SOURCE_DIR}/tests/fuzz/corpus")

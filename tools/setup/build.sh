@@ -1,13 +1,19 @@
 #!/usr/bin/env bash
 # Configures and builds one preset:   build.sh PRESET [TARGET...]
+# Only configures it:                 build.sh --configure PRESET
 # What the build says goes to build/logs/PRESET.log; the end of it is shown when something fails.
 set -euo pipefail
 
 if (($# == 0)); then
-  sed -n '2,3s/^# //p' "${BASH_SOURCE[0]}" >&2
+  sed -n '2,4s/^# //p' "${BASH_SOURCE[0]}" >&2
   exit 2
 fi
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+configures_only=false
+if [ "$1" = --configure ]; then
+  configures_only=true
+  shift
+fi
 preset=$1
 shift
 log="build/logs/$preset.log"
@@ -24,7 +30,8 @@ step() {
   return 1
 }
 
-echo "build: $preset${*:+ ($*)}"
 : >"$log"
 step cmake --preset "$preset"
+if "$configures_only"; then exit 0; fi
+echo "build: $preset${*:+ ($*)}"
 step cmake --build --preset "$preset" "${targets[@]}"
