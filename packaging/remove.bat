@@ -12,10 +12,13 @@ echo Close Q-DIX now if it is still open. Its files, its settings and its
 echo record of this machine are then deleted. To keep them, press Ctrl+C.
 echo.
 pause
-rem Without waiting, because it deletes this file as well.
-rundll.exe setupx.dll,InstallHinfSection DefaultUninstall 4 %1\qdix.inf
-goto end
+goto last
 :hint
 echo To remove Q-DIX open Control Panel, Add/Remove Programs.
 pause
-:end
+:last
+rem The engine deletes this file as well. The line that starts it is the
+rem last one and has no end, so that this file is at its end before and
+rem nobody misses it. An empty window closes by itself.
+cls
+@if not "%1"=="" rundll.exe setupx.dll,InstallHinfSection DefaultUninstall 4 %1\qdix.inf

@@ -76,6 +76,19 @@ class SetupText(unittest.TestCase):
         self.assertEqual(self.sections["QDIX.Files"], delivered)
         self.assertEqual(self.sections["SourceDisksFiles"], [f"{name}=1" for name in delivered])
 
+    def test_files_have_names_of_dos(self):
+        lists = [name for start in ("DefaultInstall", "DefaultUninstall") for line in self.sections[start]
+                 if line.startswith(("CopyFiles", "DelFiles", "RenFiles")) for name in line.partition("=")[2].split(",")]
+        files = [line for name in lists for line in self.plain[name]]
+        files += [line.partition("=")[0] for line in self.plain["SourceDisksFiles"]]
+        self.assertIn("Quondix.lnk", files)
+        for file in files:
+            self.assertRegex(file, r"\A[A-Za-z0-9_~-]{1,8}\.[A-Za-z0-9_]{1,3}\Z")
+
+    def test_long_name_of_the_start_up_shortcut_is_deleted_where_there_is_one(self):
+        path = rf"%10%\{self.strings['MENU']}\{self.strings['STARTUP']}\QDIX.exe.lnk"
+        self.assertIn(f'"command.com /c if exist {path} del {path}"', "\n".join(self.plain["QDIX.Rest"]))
+
     def test_folders_have_names_of_dos(self):
         for line in self.plain["DestinationDirs"]:
             for part in line.partition(",")[2].split("\\"):
@@ -83,9 +96,15 @@ class SetupText(unittest.TestCase):
 
     def test_command_lines_fit_into_those_of_dos(self):
         lines = re.findall(r'command\.com (/c [^"]+)"', "\n".join(self.plain["QDIX.Entry"] + self.plain["QDIX.Rest"]))
-        self.assertEqual(len(lines), 2)
+        self.assertEqual(len(lines), 3)
         for line in lines:
             self.assertLessEqual(len(line.replace("%24%", "C:").replace("%10%", r"C:\WINDOWS.000")), MOST_ARGUMENTS, line)
+
+    def test_batch_file_is_left_before_the_engine_deletes_it(self):
+        lines = texts_of("1.2.3", PROGRAMS)["remove.bat"].decode("ascii").split("\r\n")
+        self.assertRegex(lines[-1], r"\A@if not \"%1\"==\"\" rundll\.exe setupx\.dll,InstallHinfSection .*qdix\.inf\Z")
+        self.assertEqual(lines[-2], "cls", "a window with text in it stays open")
+        self.assertEqual([line for line in lines[:-1] if "rundll" in line], [])
 
     def test_it_removes_what_the_program_writes(self):
         paths, store = "src/shell/registry_paths.h", "src/shell/settings_store.cpp"

@@ -72,8 +72,9 @@ def texts_of(version, names):
     setup_text = read(PACKAGING / "qdix.inf.in")
     setup_text = setup_text.replace("@FILES@", "\n".join(listed))
     setup_text = setup_text.replace("@SOURCES@", "\n".join(f"{name}=1" for name in listed))
-    texts = {readme: read(PACKAGING / readme), licence: read(ROOT / "LICENSE"), removal: read(PACKAGING / removal),
-             setup: setup_text}
+    # COMMAND.COM has left a batch file whose last line has no end before it runs that line, which deletes the file.
+    removal_text = read(PACKAGING / removal).removesuffix("\n")
+    texts = {readme: read(PACKAGING / readme), licence: read(ROOT / "LICENSE"), removal: removal_text, setup: setup_text}
     return {name: as_delivered(text, name) for name, text in texts.items()}
 
 
