@@ -44,6 +44,12 @@ qdix_link(planted_late_import /usr/i686-w64-mingw32/lib/libkernel32.a)
 image_finds(planted_late_import "imports kernel32.dll!GetDiskFreeSpaceExA, which the first Windows 95 lacks"
             planted_late_import)
 
+# So does it with one that Windows 95 exports and does not have.
+add_executable(planted_stub ${planted}/planted_stub.cpp)
+qdix_link(planted_stub /usr/i686-w64-mingw32/lib/libkernel32.a)
+image_finds(planted_stub "imports kernel32.dll!MoveFileExA, which only fails on Windows 95" planted_stub)
+image_finds(planted_wide_stub "imports kernel32.dll!CreateMutexW, which only fails on Windows 95" planted_stub)
+
 add_executable(planted_c_library ${planted}/planted_c_library.cpp)
 qdix_link(planted_c_library /usr/i686-w64-mingw32/lib/libmsvcrt.a)
 image_finds(planted_c_library "imports msvcrt.dll" planted_c_library)
@@ -60,6 +66,7 @@ function(link_refuses fault reason)
 endfunction()
 
 link_refuses(planted_late_import "undefined reference to `_imp__GetDiskFreeSpaceExA@16'")
+link_refuses(planted_stub "undefined reference to `_imp__MoveFileExA@12'")
 link_refuses(planted_constructor "a global object has a constructor")
 
 # The same sources give the same bytes, wherever they lie.

@@ -30,7 +30,7 @@ add_custom_command(OUTPUT ${import_libraries}
   COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tools/import_libs/reduce.py
           --exports ${CMAKE_SOURCE_DIR}/cmake/win95-exports --libraries /usr/i686-w64-mingw32/lib
           --output ${CMAKE_BINARY_DIR}/imports ${import_dlls}
-  DEPENDS tools/import_libs/reduce.py ${export_lists}
+  DEPENDS tools/import_libs/reduce.py tools/import_libs/export_lists.py ${export_lists}
   COMMENT "Reducing the import libraries to Windows 95" VERBATIM)
 add_custom_target(win95_libraries DEPENDS ${import_libraries} ${reduced_libgcc})
 

@@ -10,8 +10,10 @@ import tempfile
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools" / "image_check"))
-from image_check import Image, check_header, check_instructions, frame_bytes, is_386, is_allowed  # noqa: E402
+from image_check import (Image, check_header, check_instructions, exported_names, frame_bytes, is_386,  # noqa: E402
+                         is_allowed, stubs)
 
+EXPORTS = pathlib.Path(__file__).resolve().parents[2] / "cmake" / "win95-exports"
 SOUND_EXE = pathlib.Path(sys.argv.pop(1))
 
 OF_THE_386 = """
@@ -46,6 +48,18 @@ class Instructions(unittest.TestCase):
         allowed = [text for text in listed(LATER) if is_allowed(".newcpu", text)]
         self.assertEqual(allowed, ["cpuid", "rdtsc"])
         self.assertEqual([text for text in listed(LATER) if is_allowed(".text", text)], [])
+
+
+class Stubs(unittest.TestCase):
+    def test_every_one_is_exported_and_no_function_that_works_is_one(self):
+        exported, failing = exported_names(EXPORTS), stubs(EXPORTS)
+        self.assertEqual({dll: names - exported[dll] for dll, names in failing.items() if names - exported[dll]}, {})
+        for dll, name in (("kernel32", "lstrlenW"), ("kernel32", "GetCommandLineW"), ("user32", "MessageBoxW"),
+                          ("gdi32", "TextOutW"), ("kernel32", "MoveFileA"), ("advapi32", "RegOpenKeyExA")):
+            self.assertIn(name, exported[dll])
+            self.assertNotIn(name, failing[dll])
+        self.assertEqual({name for name in exported["user32"] if name.endswith("W")} - failing["user32"],
+                         {"MessageBoxW", "MessageBoxExW"})
 
 
 class Frames(unittest.TestCase):

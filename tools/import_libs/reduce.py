@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Cuts Debian's import libraries down to the names that the first Windows 95 exports.
+"""Cuts Debian's import libraries down to the names that the first Windows 95 exports, and not as a stub that only fails.
 
 A member of an import library stands for one function and defines the symbol __imp__NAME@N. Members of other names are deleted from a copy, and with
-them the members that hold code. What is left is enough for a link and makes a later function a link error.
+them the members that hold code. What is left is enough for a link and makes a later function, or a stub, a link error.
 """
 import argparse
 import pathlib
@@ -10,15 +10,12 @@ import re
 import shutil
 import subprocess
 
+from export_lists import exported_names, stubs
+
 NM = "i686-w64-mingw32-nm"
 AR = "i686-w64-mingw32-ar"
 RANLIB = "i686-w64-mingw32-ranlib"
 IMPORT_SYMBOL = re.compile(r"^__imp__(?P<name>.+?)(@\d+)?$")
-
-
-def exported_names(path):
-    lines = path.read_text(encoding="ascii").splitlines()
-    return {line.strip() for line in lines if line.strip() and not line.startswith("#")}
 
 
 def members_to_drop(library, names):
@@ -51,8 +48,10 @@ def main():
     parser.add_argument("dlls", nargs="+")
     arguments = parser.parse_args()
     arguments.output.mkdir(parents=True, exist_ok=True)
+    exported = exported_names(arguments.exports)
+    failing = stubs(arguments.exports)
     for dll in arguments.dlls:
-        names = exported_names(arguments.exports / f"{dll}.txt")
+        names = exported[dll] - failing.get(dll, set())
         reduce_library(arguments.libraries / f"lib{dll}.a", names, arguments.output / f"lib{dll}.a")
 
 
