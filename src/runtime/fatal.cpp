@@ -18,7 +18,7 @@ constinit bool ending = false;
 [[noreturn]] void End(const char* text) {
   if (ending) ExitProcess(kExitCode);
   ending = true;
-  MessageBoxA(nullptr, text, "Q-DIX", MB_OK | MB_ICONSTOP | MB_SYSTEMMODAL);
+  MessageBoxA(nullptr, text, "Q-DIX", MB_OK | MB_ICONSTOP | MB_SYSTEMMODAL | MB_SETFOREGROUND | MB_TOPMOST);
   ExitProcess(kExitCode);
 }
 

@@ -30,9 +30,10 @@ BOOL CALLBACK EndIfDialog(HWND window, LPARAM /*context*/) {
 int Win32Dialogs::MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) {
   if (stopped_) return kIdNone;
   // A box of a hidden or minimised window has no place on the taskbar. Behind other windows nobody would ever
-  // find it, and the program would wait for its answer without a word.
+  // find it, and the program would wait for its answer without a word. Windows 98 and later refuse the
+  // foreground to a program that the user is not working with; above all other windows a box is seen anyway.
   const UINT foreground = OwnerIsInView() ? 0U : MB_SETFOREGROUND;
-  const int answer = ::MessageBoxA(owner_, text.c_str(), title.c_str(), flags | foreground);
+  const int answer = ::MessageBoxA(owner_, text.c_str(), title.c_str(), flags | foreground | MB_TOPMOST);
   // A box that fails to open gives 0 or, where the failure comes from the dialog inside it, -1.
   return stopped_ || answer < 0 ? kIdNone : answer;
 }

@@ -58,6 +58,21 @@ TEST_F(DialogsWin32, BoxOfAHiddenWindowComesToTheForeground) {
   EXPECT_EQ(foreground, shown);
 }
 
+/// Windows 98 and later do not let a program that the user is not working with come to the foreground.
+TEST_F(DialogsWin32, BoxStaysAboveAllOtherWindowsWhateverItsOwnerLooksLike) {
+  HWND main = OpenMainWindow();
+  for (const int way : {SW_SHOW, SW_HIDE, SW_SHOWMINNOACTIVE}) {
+    ShowWindow(main, way);
+    bool is_topmost = false;
+    machine.DoToNextBox([&](HWND box) {
+      is_topmost = (GetWindowLongA(box, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+      PostMessageA(box, WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_EQ(ShowBox(), os::kIdOk);
+    EXPECT_TRUE(is_topmost) << way;
+  }
+}
+
 TEST_F(DialogsWin32, BoxOverABoxEndsWithIt) {
   OpenMainWindow();
   int inner = -1;
