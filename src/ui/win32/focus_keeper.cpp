@@ -4,6 +4,16 @@
 
 namespace qdix::ui::win32 {
 
+namespace {
+
+/// True where the native window is of the class of buttons and can be pressed.
+bool IsButton(const Control& model) {
+  const Kind kind = model.GetKind();
+  return kind == Kind::kButton || kind == Kind::kCheckBox || kind == Kind::kOptionButton;
+}
+
+}  // namespace
+
 void FocusKeeper::Arrived(NativeControl& peer) {
   waiting_ = nullptr;
   // While a control left is being validated, a box may come and go and drag the native focus about; the
@@ -32,8 +42,8 @@ bool FocusKeeper::TakeRefusal(const NativeControl& peer) {
 void FocusKeeper::RefusalSettled() {
   if (refused_ == nullptr) return;
   // A button draws itself pressed after it took the focus; without its capture nothing else would raise it
-  // again.
-  SendMessageA(refused_->Window(), BM_SETSTATE, FALSE, 0);
+  // again. Only a button: to other classes the same number is another message.
+  if (IsButton(refused_->Model())) SendMessageA(refused_->Window(), BM_SETSTATE, FALSE, 0);
   refused_ = nullptr;
 }
 

@@ -85,6 +85,57 @@ TEST_F(UiFocus, ClickOnAButtonIsVoidWhereTheFocusIsRefused) {
   EXPECT_EQ(events.Count(), 1);
 }
 
+/// Counts the message that raises a button, which is another one to windows of other classes.
+class RaiseCount {
+ public:
+  explicit RaiseCount(HWND window) : window_(window) {
+    SetPropA(window, "RaiseCount", this);
+    before_ = reinterpret_cast<WNDPROC>(
+        SetWindowLongA(window, GWL_WNDPROC, reinterpret_cast<LONG>(&RaiseCount::Procedure)));
+  }
+  RaiseCount(const RaiseCount&) = delete;
+  RaiseCount& operator=(const RaiseCount&) = delete;
+  ~RaiseCount() {
+    SetWindowLongA(window_, GWL_WNDPROC, reinterpret_cast<LONG>(before_));
+    RemovePropA(window_, "RaiseCount");
+  }
+  [[nodiscard]] int Count() const { return count_; }
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    auto& self = *static_cast<RaiseCount*>(GetPropA(window, "RaiseCount"));
+    if (message == BM_SETSTATE) ++self.count_;
+    return CallWindowProcA(self.before_, window, message, wparam, lparam);
+  }
+
+  HWND window_;
+  WNDPROC before_ = nullptr;
+  int count_ = 0;
+};
+
+TEST_F(UiFocus, OnlyAButtonIsRaisedAfterTheFocusWasRefused) {
+  Gate gate;
+  ASSERT_TRUE(demo.tabs.SetTab(1).Ok());
+  demo.combo.SetFocus();
+  demo.combo.OnValidate = base::Callback<base::Result<bool>()>::To<&Gate::Validate>(gate);
+  const RaiseCount list(demo.Native(demo.list));
+  SetFocus(demo.Native(demo.list));
+  demo.Handle();
+  EXPECT_EQ(gate.asked, 1);
+  EXPECT_EQ(list.Count(), 0);
+  demo.combo.OnValidate = {};
+  ASSERT_TRUE(demo.tabs.SetTab(0).Ok());
+  demo.text.SetFocus();
+  demo.text.OnValidate = base::Callback<base::Result<bool>()>::To<&Gate::Validate>(gate);
+  for (const ui::Control* button :
+       std::initializer_list<const ui::Control*>{&demo.go, &demo.check, &demo.option1}) {
+    const RaiseCount raised(demo.Native(*button));
+    SetFocus(demo.Native(*button));
+    demo.Handle();
+    EXPECT_GE(raised.Count(), 1) << button->Name();
+  }
+}
+
 TEST_F(UiFocus, AccessKeyOfAButtonIsVoidWhereTheFocusIsRefused) {
   Gate gate;
   demo.text.SetFocus();
