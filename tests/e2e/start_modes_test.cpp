@@ -83,6 +83,39 @@ TEST_F(StartModeSession, ThreeShowsTheIconOnly) {
   CloseProgram();
 }
 
+TEST_F(StartModeSession, ShortcutThatRunsMinimisedMinimisesTheWindowThatWouldBeShown) {
+  SetRegistryText(kStartup, "StartDisplay", "1");
+  ASSERT_TRUE(program.Start({}, SW_SHOWMINNOACTIVE));
+  ASSERT_TRUE(program.WaitForFirstReading());
+  EXPECT_TRUE(IsShown(program));
+  EXPECT_TRUE(IsMinimised(program));
+  ShowWindowAsync(program.MainWindow(), SW_RESTORE);
+  ASSERT_TRUE(program.Await([this] { return !IsMinimised(program); }));
+  CloseProgram();
+}
+
+TEST_F(StartModeSession, ShortcutThatRunsMinimisedLeavesTheHiddenStartAndWhatIsShownLater) {
+  SetRegistryText(kStartup, "StartDisplay", "3");
+  ASSERT_TRUE(program.Start({}, SW_SHOWMINNOACTIVE));
+  ASSERT_TRUE(program.WaitForFirstReading());
+  EXPECT_FALSE(IsShown(program));
+  ASSERT_TRUE(PressIcon(Press::kLeftTwice));
+  ASSERT_TRUE(program.Await([this] { return IsShown(program); }));
+  EXPECT_FALSE(IsMinimised(program));
+  CloseProgram();
+}
+
+TEST_F(StartModeSession, ShortcutThatRunsACompanionMinimisedIsObeyed) {
+  for (const ProgramFacts& facts : {HelpViewer(), ConfigLauncher(), Undo()}) {
+    ShippedProgram companion(facts);
+    ASSERT_TRUE(companion.Start({}, SW_SHOWMINNOACTIVE));
+    ASSERT_TRUE(companion.WaitForWindow()) << facts.file_name;
+    EXPECT_TRUE(companion.Await([&] { return IsMinimised(companion); })) << facts.file_name;
+    companion.Close();
+    EXPECT_EQ(companion.WaitForExit(), 0) << facts.file_name;
+  }
+}
+
 TEST_F(StartModeSession, UnknownModeShowsTheWindowAndChoosesNoOption) {
   StartInMode(program, "7");
   EXPECT_TRUE(IsShown(program));

@@ -47,7 +47,7 @@ class Program {
     os::win32::AcceptDroppedFiles(window.MainWindow());
   }
 
-  [[nodiscard]] bool Run() { return program_.Run(); }
+  [[nodiscard]] bool Run(int show_command) { return program_.Run(show_command); }
 
  private:
   void FilesDropped(WPARAM drop) { program_.TheProgram().FilesDropped(os::win32::TakeDroppedPaths(drop)); }
@@ -60,10 +60,8 @@ class Program {
 
 }  // namespace qdix::config_launcher::win32
 
-/// The system applies the wish of who started the program by itself, when the main window is shown for the
-/// first time.
-extern "C" int QdixMain(void* instance, int /*show_command*/) {
+extern "C" int QdixMain(void* instance, int show_command) {
   const auto program =
       std::make_unique<qdix::config_launcher::win32::Program>(static_cast<HINSTANCE>(instance));
-  return program->Run() ? 0 : 1;
+  return program->Run(show_command) ? 0 : 1;
 }

@@ -51,7 +51,7 @@ class Program {
     printer_.SetOwner(program_.Window().MainWindow());
   }
 
-  [[nodiscard]] bool Run() { return program_.Run(); }
+  [[nodiscard]] bool Run(int show_command) { return program_.Run(show_command); }
 
  private:
   os::win32::Win32Clipboard clipboard_;
@@ -66,12 +66,10 @@ class Program {
 
 }  // namespace qdix::help_viewer::win32
 
-/// The system applies the wish of who started the program by itself, when the main window is shown for the
-/// first time.
-extern "C" int QdixMain(void* instance, int /*show_command*/) {
+extern "C" int QdixMain(void* instance, int show_command) {
   using namespace qdix::help_viewer::win32;
   std::optional<Turn> turn("Q-DIX Help starts");
   const auto program = std::make_unique<Program>(static_cast<HINSTANCE>(instance));
   turn.reset();
-  return program->Run() ? 0 : 1;
+  return program->Run(show_command) ? 0 : 1;
 }

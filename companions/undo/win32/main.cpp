@@ -36,11 +36,9 @@ std::unique_ptr<ui::win32::NativeControl> MakeOwnPeer(const ui::win32::PeerConte
 
 }  // namespace qdix::undo::win32
 
-/// The system applies the wish of who started the program by itself, when the main window is shown for the
-/// first time.
-extern "C" int QdixMain(void* instance, int /*show_command*/) {
+extern "C" int QdixMain(void* instance, int show_command) {
   namespace own = qdix::undo::win32;
   const auto program =
       std::make_unique<own::Program>(static_cast<HINSTANCE>(instance), own::kUndoIcon, &own::MakeOwnPeer);
-  return program->Run() ? 0 : 1;
+  return program->Run(show_command) ? 0 : 1;
 }

@@ -34,10 +34,14 @@ class Program {
                            reinterpret_cast<os::IconHandle>(window_.SmallIcon()));
   }
 
-  /// Returns when the window has unloaded; false where the windows could not be made.
-  [[nodiscard]] bool Run() {
+  /// `show_command` is the wish of whoever started the program (SW_...). It counts where the start shows the
+  /// window, not when a window that started hidden is shown later. Returns when the window has unloaded;
+  /// false where the windows could not be made.
+  [[nodiscard]] bool Run(int show_command) {
     if (!window_.Complete()) return false;
+    window_.SetStartCommand(show_command);
     form1_.Start();
+    window_.SetStartCommand(SW_SHOWDEFAULT);
     while (system_.EventPump().WaitAndHandle()) {
     }
     return true;
@@ -59,9 +63,7 @@ class Program {
 
 }  // namespace qdix::app::win32
 
-/// The system applies the wish of who started the program by itself, when the main window is shown for the
-/// first time.
-extern "C" int QdixMain(void* instance, int /*show_command*/) {
+extern "C" int QdixMain(void* instance, int show_command) {
   const auto program = std::make_unique<qdix::app::win32::Program>(static_cast<HINSTANCE>(instance));
-  return program->Run() ? 0 : 1;
+  return program->Run(show_command) ? 0 : 1;
 }

@@ -30,9 +30,11 @@ class CompanionProgram {
   [[nodiscard]] Program& TheProgram() { return program_; }
   [[nodiscard]] ui::win32::FormWindow& Window() { return window_; }
 
-  /// Returns when the window has unloaded; false where the windows could not be made.
-  [[nodiscard]] bool Run() {
+  /// `show_command` is the wish of whoever started the program (SW_...). Returns when the window has
+  /// unloaded; false where the windows could not be made.
+  [[nodiscard]] bool Run(int show_command) {
     if (!window_.Complete()) return false;
+    window_.SetStartCommand(show_command);
     program_.Start();
     while (system_.EventPump().WaitAndHandle()) {
     }

@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 #include "ui/win32/popup_menu.h"
 #include "ui/win32/reflection.h"
 
@@ -42,6 +44,24 @@ OwnedWindow MakeMainWindow(HINSTANCE instance, HWND owner, const Form& form, con
   return OwnedWindow(CreateWindowExA(kMainExtendedStyle, kMainWindowClass, form.Caption().c_str(),
                                      MainStyleOf(form), left, top < work.top ? work.top : top, size.cx,
                                      size.cy, owner, nullptr, instance, nullptr));
+}
+
+bool AsksForMinimised(int show_command) {
+  return show_command == SW_SHOWMINIMIZED || show_command == SW_MINIMIZE ||
+         show_command == SW_SHOWMINNOACTIVE;
+}
+
+void ShowMinimised(HWND window, bool restores_to_maximised) {
+  if (!restores_to_maximised) {
+    ShowWindow(window, SW_SHOWMINNOACTIVE);
+    return;
+  }
+  WINDOWPLACEMENT placement{};
+  placement.length = sizeof placement;
+  GetWindowPlacement(window, &placement);
+  placement.showCmd = SW_SHOWMINIMIZED;  // the only command with which the flag counts
+  placement.flags = WPF_RESTORETOMAXIMIZED;
+  SetWindowPlacement(window, &placement);
 }
 
 /// Buttons of the mouse and modifier keys in the bits of the classic event.
@@ -128,11 +148,13 @@ void FormWindow::ShowOrHide() {
     return;
   }
   maker_.MakeDue();
-  if (form_.State() == WindowState::kMinimised) {
-    ShowWindow(main_.get(), SW_SHOWMINNOACTIVE);
+  const int start_command = std::exchange(start_command_, SW_SHOWDEFAULT);
+  if (form_.State() == WindowState::kMinimised || AsksForMinimised(start_command)) {
+    ShowMinimised(main_.get(), form_.State() == WindowState::kMaximised);
     return;
   }
-  const bool maximise = form_.State() == WindowState::kMaximised;
+  const bool maximise =
+      form_.State() == WindowState::kMaximised || (start_command == SW_SHOWMAXIMIZED && form_.IsResizable());
   const int shown = IsIconic(main_.get()) != 0 ? SW_RESTORE : SW_SHOW;
   ShowWindow(main_.get(), maximise ? SW_SHOWMAXIMIZED : shown);
   SetForegroundWindow(main_.get());

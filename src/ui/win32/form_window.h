@@ -43,6 +43,11 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   /// The icon in the size of captions and of the notification area, for as long as this object lives.
   [[nodiscard]] HICON SmallIcon() const { return small_icon_ != nullptr ? small_icon_.get() : icon_; }
 
+  /// How whoever started the program wants the window shown (SW_...): minimised or, where its size can be
+  /// changed, maximised. The first Show takes it, unless the form is to be minimised anyway. The system
+  /// itself follows such a wish only for windows without an owner.
+  void SetStartCommand(int show_command) { start_command_ = show_command; }
+
   /// The form has unloaded: open boxes and the message loop must end. No handler runs any more.
   base::Callback<void()> OnUnloaded;
   /// The Windows session ends now; unbound, the form unloads.
@@ -92,6 +97,7 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   HICON icon_;
   OwnedIcon small_icon_;
   UINT taskbar_created_message_;
+  int start_command_ = SW_SHOWDEFAULT;
   bool menu_is_open_ = false;
 
   // In the order in which they are made; they go in the opposite order, controls before the window they stand

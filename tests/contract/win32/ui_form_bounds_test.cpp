@@ -51,6 +51,24 @@ TEST_F(ResizableForm, HasASizingFrameAndCanBeMaximised) {
   EXPECT_EQ(Inner().bottom, 80 * 13 / 8);
 }
 
+TEST_F(ResizableForm, FirstShowIsMaximisedWhereTheStarterAsksForIt) {
+  window.SetStartCommand(SW_SHOWMAXIMIZED);
+  form.Show();
+  EXPECT_TRUE(IsZoomed(Main()));
+  EXPECT_EQ(form.State(), ui::WindowState::kMaximised);
+}
+
+TEST_F(ResizableForm, MaximisedWindowThatStartsMinimisedIsMaximisedAgainWhenItIsRestored) {
+  form.SetState(ui::WindowState::kMaximised);
+  window.SetStartCommand(SW_SHOWMINNOACTIVE);
+  form.Show();
+  EXPECT_TRUE(IsIconic(Main()));
+  EXPECT_EQ(form.State(), ui::WindowState::kMinimised);
+  ShowWindow(Main(), SW_RESTORE);
+  EXPECT_TRUE(IsZoomed(Main()));
+  EXPECT_EQ(form.State(), ui::WindowState::kMaximised);
+}
+
 TEST_F(ResizableForm, SizeThatTheUserGivesArrivesInDialogUnits) {
   EventCount resized;
   form.OnResize = resized.AsHandler();

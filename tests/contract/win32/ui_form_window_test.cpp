@@ -78,6 +78,43 @@ TEST(FormWindow, StartsMinimisedWhereTheStateWasSetBeforeTheFirstShow) {
   EXPECT_TRUE(IsIconic(demo.Main()));
 }
 
+TEST(FormWindow, FirstShowIsMinimisedWhereTheStarterAsksForIt) {
+  for (const int command : {SW_SHOWMINIMIZED, SW_MINIMIZE, SW_SHOWMINNOACTIVE}) {
+    DemoWindow demo;
+    demo.window.SetStartCommand(command);
+    demo.form.Show();
+    EXPECT_TRUE(IsWindowVisible(demo.Main())) << command;
+    EXPECT_TRUE(IsIconic(demo.Main())) << command;
+    EXPECT_EQ(demo.form.State(), ui::WindowState::kMinimised) << command;
+    ShowWindow(demo.Main(), SW_RESTORE);
+    EXPECT_EQ(demo.form.State(), ui::WindowState::kNormal) << command;
+    demo.form.Hide();
+    demo.form.Show();
+    EXPECT_FALSE(IsIconic(demo.Main())) << "the wish is for the first show, command " << command;
+  }
+}
+
+TEST(FormWindow, OtherWishesOfTheStarterShowAWindowOfFixedSizeAsItIs) {
+  for (const int command : {SW_SHOWDEFAULT, SW_SHOWNORMAL, SW_SHOWMAXIMIZED, SW_HIDE}) {
+    DemoWindow demo;
+    demo.window.SetStartCommand(command);
+    demo.form.Show();
+    EXPECT_TRUE(IsWindowVisible(demo.Main())) << command;
+    EXPECT_FALSE(IsIconic(demo.Main())) << command;
+    EXPECT_FALSE(IsZoomed(demo.Main())) << command;
+  }
+}
+
+TEST(FormWindow, MinimisedFormTakesNoWishOfTheStarter) {
+  DemoWindow demo;
+  demo.window.SetStartCommand(SW_SHOWMAXIMIZED);
+  demo.form.SetState(ui::WindowState::kMinimised);
+  demo.form.Show();
+  EXPECT_TRUE(IsIconic(demo.Main()));
+  demo.form.SetState(ui::WindowState::kNormal);
+  EXPECT_FALSE(IsIconic(demo.Main()));
+}
+
 TEST(FormWindow, StateThatTheUserChangesArrivesInTheModel) {
   DemoWindow demo;
   demo.form.Show();

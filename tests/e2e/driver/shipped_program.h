@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -29,8 +30,8 @@ class ShippedProgram {
   ~ShippedProgram();
 
   /// Starts the program under test with these arguments, also once more after its end; false when the system
-  /// refuses.
-  [[nodiscard]] bool Start(const std::string& arguments = {});
+  /// refuses. With a show command (SW_...) as a shortcut does that names one.
+  [[nodiscard]] bool Start(const std::string& arguments = {}, std::optional<WORD> show_command = {});
   /// Attaches to the copy that runs already; false when there is none.
   [[nodiscard]] bool Attach();
   /// The same with a copy that another program was made to start: it counts as started here.
