@@ -10,6 +10,7 @@ inline constexpr std::int32_t kErrorFileNotFound = 2;
 inline constexpr std::int32_t kErrorPathNotFound = 3;
 inline constexpr std::int32_t kErrorAccessDenied = 5;
 inline constexpr std::int32_t kErrorInvalidHandle = 6;
+inline constexpr std::int32_t kErrorNotReady = 21;
 inline constexpr std::int32_t kErrorMoreData = 234;
 
 }  // namespace qdix::os

@@ -23,11 +23,13 @@ class Processes {
   /// Starts a program by its command line, in a normal window with the keyboard, and does not wait for it.
   /// Blanks outside of quotation marks are tried from the left, ".exe" is added where there is no extension,
   /// and the search goes through this program's folder, the current one, those of Windows, and the path.
-  /// The system's code: 0, kErrorFileNotFound, kErrorPathNotFound, kErrorAccessDenied or another.
+  /// The system's code: 0, kErrorFileNotFound, kErrorPathNotFound, kErrorAccessDenied, kErrorNotReady where
+  /// the text begins with a drive that has no disk in it, or another. Brings no box of the system.
   [[nodiscard]] virtual std::int32_t CreateProcessA(const std::string& command_line) = 0;
 
   /// Makes a folder the current one, which programs are started in, and its drive the current drive. A drive
-  /// alone ("D:") means its own current folder. False where there is no such folder.
+  /// alone ("D:") means its own current folder. False where there is no such folder. A drive without a disk
+  /// brings no box of the system.
   [[nodiscard]] virtual bool SetCurrentDirectoryA(const std::string& folder) = 0;
 };
 

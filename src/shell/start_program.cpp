@@ -14,6 +14,8 @@ base::Status StartProgram(os::Processes& processes, const std::string& command_l
       return base::kFileNotFound;
     case os::kErrorAccessDenied:
       return base::kPermissionDenied;
+    case os::kErrorNotReady:
+      return base::kDiskNotReady;
     default:
       return base::kInvalidProcedureCall;
   }

@@ -161,10 +161,15 @@ void SimulatedMachine::RemoveProgram(const std::string& name) {
   files_.Erase(name);
 }
 
+bool SimulatedMachine::IsOnEmptyDrive(const std::string& path) const {
+  return path.size() > 1 && path[1] == ':' && empty_drives_.contains(base::UpperAscii(path.substr(0, 1)));
+}
+
 std::int32_t SimulatedMachine::CreateProcessA(const std::string& command_line) {
   if (log_.RecordAndFail("CreateProcessA", command_line)) return kErrorFileNotFound;
   const bool is_quoted = command_line.starts_with('"');
   const std::size_t begin = is_quoted ? 1 : 0;
+  if (IsOnEmptyDrive(command_line.substr(begin))) return kErrorNotReady;
   for (std::size_t end = begin; end < command_line.size();) {
     end = std::min(command_line.find(is_quoted ? '"' : ' ', end + 1), command_line.size());
     if (!programs_.contains(base::UpperAscii(command_line.substr(begin, end - begin)))) {
@@ -179,7 +184,7 @@ std::int32_t SimulatedMachine::CreateProcessA(const std::string& command_line) {
 
 bool SimulatedMachine::SetCurrentDirectoryA(const std::string& folder) {
   if (log_.RecordAndFail("SetCurrentDirectoryA", folder)) return false;
-  if (!folders_.contains(base::UpperAscii(folder))) return false;
+  if (IsOnEmptyDrive(folder) || !folders_.contains(base::UpperAscii(folder))) return false;
   current_folder_ = folder;
   return true;
 }

@@ -87,6 +87,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   [[nodiscard]] int OpenFileCount() const { return files_.OpenCount(); }
   /// A folder that a program can be started in.
   void AddFolder(const std::string& path) { folders_.insert(base::UpperAscii(path)); }
+  /// Takes the disk out of a drive: its folders cannot be gone to, its programs not started.
+  void TakeDiskOut(char drive) { empty_drives_.insert(base::UpperAscii(std::string(1, drive))); }
   [[nodiscard]] const std::string& CurrentFolder() const { return current_folder_; }
   void SetWindowsDirectory(const std::string& folder) { files_.SetWindowsDirectory(folder); }
 
@@ -193,6 +195,7 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   bool SetCurrentDirectoryA(const std::string& folder) override;
   bool ExitWindowsEx(std::uint32_t flags, std::uint32_t reserved) override;
 
+  [[nodiscard]] bool IsOnEmptyDrive(const std::string& path) const;
   simulated::CallLog log_;
   simulated::SimulatedMemory memory_{log_};
   simulated::SimulatedRegistry registry_{log_};
@@ -215,6 +218,7 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   std::vector<std::string> started_programs_;
   std::set<std::string> folders_{"C:", "C:\\", "C:\\WINDOWS"};
   std::string current_folder_ = "C:\\";
+  std::set<std::string> empty_drives_;
   int restarts_ = 0;
 };
 

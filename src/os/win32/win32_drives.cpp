@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+#include "os/win32/no_disk_request.h"
+
 namespace qdix::os::win32 {
 
 namespace {
@@ -18,19 +20,6 @@ ExtendedQuery FindExtendedQuery() {
 
 /// Later systems take a bare "C:" for the current folder there.
 bool IsWhole(std::string_view root) { return root.ends_with('\\'); }
-
-/// Keeps the system from asking the user for a disk. Only for the time of a question: programs started from
-/// here inherit the mode.
-class NoDiskRequest {
- public:
-  NoDiskRequest() : former_(SetErrorMode(SEM_FAILCRITICALERRORS)) {}
-  NoDiskRequest(const NoDiskRequest&) = delete;
-  NoDiskRequest& operator=(const NoDiskRequest&) = delete;
-  ~NoDiskRequest() { SetErrorMode(former_); }
-
- private:
-  UINT former_;
-};
 
 }  // namespace
 

@@ -2,7 +2,25 @@
 
 #include <array>
 
+#include "os/win32/no_disk_request.h"
+
 namespace qdix::os::win32 {
+
+namespace {
+
+/// True where the program lies on a drive without a disk. The system would ask the user for one, in a box of
+/// its own, before it gave up.
+bool IsOnEmptyDrive(const std::string& command_line) {
+  const std::size_t begin = command_line.find_first_not_of(" \"");
+  if (begin == std::string::npos || command_line.substr(begin + 1, 2) != ":\\") return false;
+  const NoDiskRequest quiet;
+  return GetFileAttributesA(command_line.substr(begin, 3).c_str()) == INVALID_FILE_ATTRIBUTES &&
+         GetLastError() == ERROR_NOT_READY;
+}
+
+}  // namespace
+
+static_assert(kErrorNotReady == ERROR_NOT_READY);
 
 bool Win32Processes::MutexExistedBefore(const char* name) {
   OwnedHandle mutex(CreateMutexA(nullptr, FALSE, name));
@@ -21,6 +39,7 @@ std::string Win32Processes::ModuleFileName() {
 }
 
 std::int32_t Win32Processes::CreateProcessA(const std::string& command_line) {
+  if (IsOnEmptyDrive(command_line)) return kErrorNotReady;
   std::string writable = command_line;  // the system writes into it while it searches
   STARTUPINFOA startup{};
   startup.cb = sizeof(startup);
@@ -37,6 +56,7 @@ std::int32_t Win32Processes::CreateProcessA(const std::string& command_line) {
 }
 
 bool Win32Processes::SetCurrentDirectoryA(const std::string& folder) {
+  const NoDiskRequest quiet;
   return ::SetCurrentDirectoryA(folder.c_str()) != 0;
 }
 

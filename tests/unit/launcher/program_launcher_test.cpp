@@ -283,6 +283,22 @@ TEST_F(Launcher, MissingDriveIsToldAndTheRestGoesOn) {
   EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("calc"));
 }
 
+TEST_F(Launcher, ProgramOnADriveWithoutADiskIsToldAfterItsFolder) {
+  rig.machine.AddFolder("E:");
+  rig.machine.AddFolder("E:\\");
+  rig.machine.AddProgram("E:\\SETUP.EXE");
+  StartWith({{"Setup", "E:\\SETUP.EXE", "E:\\"}, {"Set up", "\"e:\\setup.exe\" /s", ""}});
+  Tab().List5.DoubleClick(0);
+  EXPECT_THAT(Boxes(), IsEmpty());
+  EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("E:\\SETUP.EXE"));
+  rig.machine.TakeDiskOut('e');
+  Tab().List5.DoubleClick(0);
+  EXPECT_THAT(Boxes(), ElementsAre("Device unavailable", "Path not found", "Disk not ready"));
+  Tab().List5.DoubleClick(1);
+  EXPECT_EQ(rig.machine.Boxes().back().text, "Disk not ready");
+  EXPECT_EQ(rig.machine.StartedPrograms().size(), 1U);
+}
+
 TEST_F(Launcher, MissingFolderIsToldAndTheRestGoesOn) {
   StartWith({{"Calculator", "calc", "D:\\NOWHERE"}});
   Tab().List5.DoubleClick(0);
