@@ -3,13 +3,9 @@
 
 #include <windows.h>
 
-namespace {
+#include "runtime/float_control.h"
 
-/// 53-bit precision, round to nearest, all exceptions masked: the arithmetic of the tests.
-void SetFloatingPointControl() {
-  constexpr unsigned short kControlWord = 0x027F;
-  asm volatile("fldcw %0" ::"m"(kControlWord));
-}
+namespace {
 
 int ShowCommand() {
   STARTUPINFOA info = {};
@@ -24,6 +20,6 @@ int ShowCommand() {
 /// to 4 bytes only, which is all that 387 code needs.
 extern "C" [[noreturn]] void start() asm("_start");
 extern "C" [[noreturn]] void start() {
-  SetFloatingPointControl();
+  qdix::runtime::SetFloatingPointControl();
   ExitProcess(static_cast<UINT>(QdixMain(GetModuleHandleA(nullptr), ShowCommand())));
 }

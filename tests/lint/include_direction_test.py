@@ -55,6 +55,11 @@ class Companions(unittest.TestCase):
         self.assertEqual(violations("undo/win32/main.cpp", '#include <windows.h>\n#include "runtime/entry.h"\n',
                                     "companions"), [])
 
+    def test_run_time_is_for_entries_and_win32_folders_alone(self):
+        text = '#include "runtime/float_control.h"\n'
+        self.assertEqual(violations("os/win32/a.cpp", text), [])
+        self.assertEqual(len(violations("os/a.cpp", text)), 1)
+
     def test_folder_of_one_root_is_unknown_in_the_other(self):
         self.assertEqual(len(violations("undo/a.cpp", "")), 1)
         self.assertEqual(len(violations("app/a.cpp", "", "companions")), 1)

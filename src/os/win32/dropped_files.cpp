@@ -8,11 +8,14 @@
 
 #include <array>
 
+#include "runtime/float_control.h"
+
 namespace qdix::os::win32 {
 
 void AcceptDroppedFiles(HWND window) { DragAcceptFiles(window, TRUE); }
 
 std::vector<std::string> TakeDroppedPaths(WPARAM drop) {
+  const runtime::FloatingPointKeeper keeper;
   constexpr UINT kAskForCount = 0xFFFFFFFFU;
   auto* const dropped = reinterpret_cast<HDROP>(drop);
   std::vector<std::string> paths;

@@ -9,6 +9,8 @@
 
 #include <array>
 
+#include "runtime/float_control.h"
+
 namespace qdix::os::win32 {
 
 namespace {
@@ -34,6 +36,7 @@ void FreeIdentifierList(LPITEMIDLIST list) {
 }  // namespace
 
 std::string Win32FileDialogs::GetOpenFileNameA(const FileQuestion& question) {
+  const runtime::FloatingPointKeeper keeper;
   std::array<char, MAX_PATH> path{};
   OPENFILENAMEA record{};
   record.lStructSize = kOpenFileNameBytes;
@@ -51,6 +54,7 @@ std::string Win32FileDialogs::GetOpenFileNameA(const FileQuestion& question) {
 }
 
 std::string Win32FileDialogs::SHBrowseForFolderA(const std::string& title, const std::string& folder) {
+  const runtime::FloatingPointKeeper keeper;
   std::array<char, MAX_PATH> path{};
   BROWSEINFOA record{};
   record.hwndOwner = owner_;

@@ -6,11 +6,14 @@
 #include <commdlg.h>
 // clang-format on
 
+#include "runtime/float_control.h"
+
 namespace qdix::os::win32 {
 
 Win32Printer::~Win32Printer() { DeleteDC(); }
 
 Printer::Choice Win32Printer::PrintDlgA() {
+  const runtime::FloatingPointKeeper keeper;
   PRINTDLGA record{};
   record.lStructSize = sizeof record;
   record.hwndOwner = owner_;
@@ -34,18 +37,21 @@ void Win32Printer::Open(HDC device) {
 }
 
 void Win32Printer::DeleteDC() {
+  const runtime::FloatingPointKeeper keeper;
   text_.reset();
   if (device_ != nullptr) ::DeleteDC(device_);
   device_ = nullptr;
 }
 
 PrinterPage Win32Printer::GetDeviceCaps() {
+  const runtime::FloatingPointKeeper keeper;
   return {.width_px = ::GetDeviceCaps(device_, HORZRES),
           .height_px = ::GetDeviceCaps(device_, VERTRES),
           .dots_an_inch = ::GetDeviceCaps(device_, LOGPIXELSY)};
 }
 
 bool Win32Printer::StartDocA(const std::string& title) {
+  const runtime::FloatingPointKeeper keeper;
   DOCINFOA document{};
   document.cbSize = sizeof document;
   document.lpszDocName = title.c_str();
@@ -53,14 +59,24 @@ bool Win32Printer::StartDocA(const std::string& title) {
 }
 
 bool Win32Printer::StartPage() {
+  const runtime::FloatingPointKeeper keeper;
   text_->PageStarted();
   return ::StartPage(device_) > 0;
 }
 
-bool Win32Printer::EndPage() { return ::EndPage(device_) > 0; }
+bool Win32Printer::EndPage() {
+  const runtime::FloatingPointKeeper keeper;
+  return ::EndPage(device_) > 0;
+}
 
-bool Win32Printer::EndDoc() { return ::EndDoc(device_) > 0; }
+bool Win32Printer::EndDoc() {
+  const runtime::FloatingPointKeeper keeper;
+  return ::EndDoc(device_) > 0;
+}
 
-void Win32Printer::AbortDoc() { ::AbortDoc(device_); }
+void Win32Printer::AbortDoc() {
+  const runtime::FloatingPointKeeper keeper;
+  ::AbortDoc(device_);
+}
 
 }  // namespace qdix::os::win32

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+#include "runtime/float_control.h"
+
 namespace qdix::os::win32 {
 
 static_assert(kNimAdd == NIM_ADD && kNimModify == NIM_MODIFY && kNimDelete == NIM_DELETE);
@@ -17,6 +19,7 @@ static_assert(sizeof(NOTIFYICONDATAA::szTip) >= sizeof(NotifyIconData::tip));
 
 /// Later systems appended fields to the record; the size that the caller gives keeps them out of play.
 bool Win32Shell::Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& data) {
+  const runtime::FloatingPointKeeper keeper;
   NOTIFYICONDATAA record{};
   record.cbSize = data.size_bytes;
   record.hWnd = reinterpret_cast<HWND>(data.owner);
@@ -29,6 +32,7 @@ bool Win32Shell::Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& 
 }
 
 bool Win32Shell::ShellExecuteA(const char* verb, const std::string& path, int show) {
+  const runtime::FloatingPointKeeper keeper;
   // Up to this number it is an error and not a program.
   constexpr INT_PTR kLargestError = 32;
   return reinterpret_cast<INT_PTR>(::ShellExecuteA(nullptr, verb, path.c_str(), nullptr, nullptr, show)) >

@@ -10,6 +10,7 @@
 #include <array>
 
 #include "os/win32/shortcut_object.h"
+#include "runtime/float_control.h"
 
 namespace qdix::os::win32 {
 
@@ -33,6 +34,7 @@ void Free(LPITEMIDLIST list) {
 }  // namespace
 
 std::string Win32ShellFiles::SpecialFolder(int number) {
+  const runtime::FloatingPointKeeper keeper;
   LPITEMIDLIST list = nullptr;
   if (FAILED(SHGetSpecialFolderLocation(owner_, number, &list)) || list == nullptr) return {};
   std::array<char, MAX_PATH> path{};
@@ -43,6 +45,7 @@ std::string Win32ShellFiles::SpecialFolder(int number) {
 
 bool Win32ShellFiles::SHFileOperationA(std::uint32_t operation, const std::string& from,
                                        const std::string& to, std::uint16_t flags) {
+  const runtime::FloatingPointKeeper keeper;
   SHFILEOPSTRUCTA request{};
   request.hwnd = owner_;
   request.wFunc = operation;
@@ -53,15 +56,18 @@ bool Win32ShellFiles::SHFileOperationA(std::uint32_t operation, const std::strin
 }
 
 void Win32ShellFiles::SHAddToRecentDocs(std::uint32_t kind, const std::string& path) {
+  const runtime::FloatingPointKeeper keeper;
   ::SHAddToRecentDocs(kind, path.c_str());
 }
 
 std::optional<Shortcut> Win32ShellFiles::ReadShortcut(const std::string& path) {
+  const runtime::FloatingPointKeeper keeper;
   ShortcutObject link;
   return link.Load(path) ? link.Read() : std::nullopt;
 }
 
 bool Win32ShellFiles::WriteShortcut(const std::string& path, const Shortcut& shortcut) {
+  const runtime::FloatingPointKeeper keeper;
   ShortcutObject link;
   return link.Set(shortcut) && link.Save(path);
 }

@@ -1,5 +1,7 @@
 #include "ui/win32/subclass.h"
 
+#include "runtime/float_control.h"
+
 namespace qdix::ui::win32 {
 
 Subclass::Subclass(HWND window, MessageHandler& handler) : window_(window), handler_(handler) {
@@ -28,6 +30,8 @@ LRESULT CALLBACK Subclass::Procedure(HWND window, UINT message, WPARAM wparam, L
     hook->Remove();
     return CallWindowProcA(former, window, message, wparam, lparam);
   }
+  // Timers tick also inside the message loops of others: of the shell, of a dialog of files or of a printer.
+  runtime::SetFloatingPointControl();
   return hook->handler_.HandleMessage(message, wparam, lparam);
 }
 
