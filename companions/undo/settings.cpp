@@ -1,5 +1,7 @@
 #include "undo/settings.h"
 
+#include <array>
+
 #include "base/text.h"
 #include "shell/file_content.h"
 #include "shell/registry_key.h"
@@ -8,8 +10,9 @@ namespace qdix::undo {
 
 namespace {
 
-/// Stands for an entry that is missing; nobody writes such a text.
-constexpr const char* kMissing = "\x01";
+/// What a missing entry reads as. An entry that holds one of them does not read as the other. Printable:
+/// Windows 95 may trim blanks and control characters, and an empty text would be put back as an empty line.
+constexpr std::array<const char*, 2> kMissing{"(missing)", "(none)"};
 
 /// More equal lines than a file of 64 KB has room for.
 constexpr int kMaxEqualLines = 8192;
@@ -50,15 +53,12 @@ void Settings::ReadBackup() {
   for (std::size_t entry = 0; entry < kEntries.size(); ++entry) before_[entry] = ReadBefore(entry, texts);
 }
 
-/// A file that another program holds for a moment reads as if it had no entries, and what the backup does not
-/// have is offered for removal: an entry counts as missing only when two readings agree.
 Settings::Texts Settings::ReadBackupTexts() const {
   const std::string path = BackupPath();
   Texts texts;
   for (std::size_t entry = 0; entry < kEntries.size(); ++entry) {
     if (!kEntries[entry].IsInSystemIni()) continue;
     texts[entry] = ReadEntry(kEntries[entry], path.c_str());
-    if (!texts[entry].has_value()) texts[entry] = ReadEntry(kEntries[entry], path.c_str());
   }
   return texts;
 }
@@ -92,14 +92,18 @@ std::optional<std::string> Settings::ReadTemplate() const {
   return name.value_or("").empty() ? std::nullopt : name;
 }
 
+/// A file that another program holds for a moment reads as if it had no entries, and what the backup does not
+/// have is offered for removal: an entry counts as missing only when two readings agree.
 std::optional<std::string> Settings::ReadEntry(const Entry& entry, const char* file) const {
-  // One character more than an entry may have shows that it was cut.
-  std::array<char, kLongestText + 2> buffer{};
-  const std::uint32_t copied = system_.profile_files.GetPrivateProfileStringA(
-      entry.section, entry.key, kMissing, buffer.data(), buffer.size(), file);
-  std::string text(base::CutAtNul({buffer.data(), copied}));
-  if (text == kMissing) return std::nullopt;
-  return text;
+  for (const char* const missing : kMissing) {
+    // One character more than an entry may have shows that it was cut.
+    std::array<char, kLongestText + 2> buffer{};
+    const std::uint32_t copied = system_.profile_files.GetPrivateProfileStringA(
+        entry.section, entry.key, missing, buffer.data(), buffer.size(), file);
+    std::string text(base::CutAtNul({buffer.data(), copied}));
+    if (text != missing) return text;
+  }
+  return std::nullopt;
 }
 
 void Settings::PutBack(const Entry& entry, const Before& before) {

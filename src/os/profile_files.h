@@ -11,6 +11,7 @@ class ProfileFiles {
   virtual ~ProfileFiles() = default;
 
   /// Copies the value of an entry, or `missing` where there is none, and its NUL; what does not fit is cut.
+  /// Of `missing` the system may cut off blanks and control characters at the end.
   /// Blanks round the value and one pair of quotation marks round it are not part of it. Returns the
   /// characters copied without the NUL: at most `size_bytes` - 1.
   [[nodiscard]] virtual std::uint32_t GetPrivateProfileStringA(const char* section, const char* key,

@@ -23,6 +23,12 @@ std::uint32_t Copy(std::string_view text, char* buffer, std::uint32_t size_bytes
   return static_cast<std::uint32_t>(length);
 }
 
+/// A default text as Windows 95 gives it back.
+std::string_view WithoutBlanksAtTheEnd(std::string_view text) {
+  while (!text.empty() && static_cast<unsigned char>(text.back()) <= ' ') text.remove_suffix(1);
+  return text;
+}
+
 /// Lines without their ends.
 Lines LinesOf(const std::string& content) {
   Lines lines;
@@ -204,11 +210,12 @@ std::uint32_t SimulatedFiles::GetPrivateProfileStringA(const char* section, cons
       log_.RecordAndFail("GetPrivateProfileStringA", std::string(file) + " [" + section + "] " + key);
   kept_.insert(ProfilePath(file));
   const auto content = Read(ProfilePath(file));
-  if (fails || !content || held_.contains(ProfilePath(file))) return Copy(missing, buffer, size_bytes);
+  const std::string_view default_text = WithoutBlanksAtTheEnd(missing);
+  if (fails || !content || held_.contains(ProfilePath(file))) return Copy(default_text, buffer, size_bytes);
   const Lines lines = LinesOf(*content);
   const auto found = FindSection(lines, section);
   const auto entry = found ? FindEntry(lines, *found, key) : std::nullopt;
-  return Copy(entry ? ValueOf(lines[*entry]) : std::string_view(missing), buffer, size_bytes);
+  return Copy(entry ? ValueOf(lines[*entry]) : default_text, buffer, size_bytes);
 }
 
 void SimulatedFiles::Flush(const std::string& file) {

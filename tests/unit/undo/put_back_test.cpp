@@ -250,6 +250,20 @@ TEST_F(PutBack, BlanksAndQuotationMarksOfAValueComeBack) {
   EXPECT_EQ(other.machine.Boxes().size(), 2U) << "nothing is left to put back";
 }
 
+TEST_F(PutBack, TextThatAMissingEntryWouldReadAsIsAnEntryLikeAnother) {
+  for (const char* const text : {"(missing)", "(none)"}) {
+    UndoRig other("[boot]\r\n[386Enh]\r\nPagingDrive=" + std::string(text) + "\r\n");
+    const std::string before = other.Ini();
+    other.TakeRecord();
+    other.machine.WriteFile(kIniPath, "[boot]\r\n[386Enh]\r\nPagingDrive=C:\r\n");
+    other.Start();
+    other.machine.AnswerNextBox(os::kIdYes);
+    other.machine.AnswerNextBox(os::kIdNo);
+    other.Screen().cmdPutBack.Press();
+    EXPECT_EQ(other.Ini(), before);
+  }
+}
+
 TEST_F(PutBack, RemovalTakesAllOfSeveralEqualLines) {
   UndoRig other("[boot]\r\n[386Enh]\r\n");
   other.TakeRecord();
