@@ -27,11 +27,16 @@ bool Help::HasViewer() const {
          os::kInvalidFileAttributes;
 }
 
-/// Without quotation marks, since it is this text that the system is given: it tries the blanks of the folder
-/// from the left.
+/// Without quotation marks first, since it is this text that the system is given: it tries the blanks of the
+/// folder from the left. Where it finds nothing that way, the marks tell it where the name ends.
 base::Status Help::OpenTopic(const char* command) {
   CloseHelpFile();
-  return StartProgram(system_.processes, ApplicationFolder(system_.processes) + command);
+  const std::string command_line = ApplicationFolder(system_.processes) + command;
+  const base::Status started = StartProgram(system_.processes, command_line);
+  if (started.Ok()) return started;
+  const std::size_t name_end = command_line.rfind(' ');
+  return StartProgram(system_.processes,
+                      '"' + command_line.substr(0, name_end) + '"' + command_line.substr(name_end));
 }
 
 base::Status Help::FirstHelp() { return OpenTopic("help.exe 0"); }

@@ -88,6 +88,14 @@ TEST_F(HelpTest, OnlyTheExactTitleIsTheViewer) {
   EXPECT_EQ(rig.machine.GetSystem().windows.FindWindowA(nullptr, "Quondix Help - Notes"), other);
 }
 
+TEST_F(HelpTest, ViewerThatIsNotFoundIsStartedByItsNameInQuotationMarks) {
+  rig.Start();
+  rig.machine.FailNextCall("CreateProcessA");
+  PressOnTab(screens::kQuondixTab, "Command21");
+  EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("\"C:\\Program Files\\QDIX\\help.exe\" 4"));
+  EXPECT_THAT(rig.machine.Boxes(), IsEmpty());
+}
+
 TEST_F(HelpTest, MissingViewerIsAnUntrappedErrorAndWhatIsTypedIsKept) {
   rig.Start();
   rig.machine.RemoveProgram("C:\\Program Files\\QDIX\\help.exe");
