@@ -77,8 +77,9 @@ std::optional<Shortcut> ShortcutObject::Read() const {
   std::array<char, MAX_PATH> target{};
   std::array<char, MAX_PATH> arguments{};
   std::array<char, MAX_PATH> folder{};
-  const bool is_file =
-      link_->GetPath(target.data(), static_cast<int>(target.size()), nullptr, 0) == S_OK && target[0] != '\0';
+  WIN32_FIND_DATAA of_file{};  // not looked at, but the first shell32 may write it whatever it is given
+  const bool is_file = link_->GetPath(target.data(), static_cast<int>(target.size()), &of_file, 0) == S_OK &&
+                       target[0] != '\0';
   const bool has_rest =
       SUCCEEDED(link_->GetArguments(arguments.data(), static_cast<int>(arguments.size()))) &&
       SUCCEEDED(link_->GetWorkingDirectory(folder.data(), static_cast<int>(folder.size())));
