@@ -39,7 +39,9 @@ bool Win32EventPump::WaitAndHandle() {
 }
 
 void Win32EventPump::Handle(MSG& message) {
-  // Dispatched without a window, a timer message would call whatever address it carries.
+  // Without a window only a thread timer would do anything: dispatching calls whatever address its message
+  // carries, and Windows 95 does not check it. Dropped also for system libraries: their dialogs and waits
+  // run message loops of their own, and a library such as ole32 may be unloaded by the time of the message.
   if (message.hwnd == nullptr) return;
   if (dialog_window_ != nullptr && IsDialogMessageA(dialog_window_, &message) != 0) return;
   TranslateMessage(&message);
