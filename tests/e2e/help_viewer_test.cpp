@@ -254,6 +254,24 @@ TEST_F(HelpSession, KeysScrollTheTopic) {
   EXPECT_TRUE(Photograph("help_smallest"));
 }
 
+TEST_F(HelpSession, WheelOfWindowsAndOfTheMouseDriverScrollTheTopic) {
+  constexpr int kNotch = 120;
+  constexpr UINT kWheelOfWindows = 0x020A;
+  const UINT wheel_of_driver = RegisterWindowMessageA("MSWHEEL_ROLLMSG");
+  Start("0");
+  PlaceWindow({20, 20, 30, 30});
+  const std::string top = AwaitSteadyPane();
+  HWND const pane = program.Control("paneTopic");
+  PostMessageA(pane, kWheelOfWindows, MAKEWPARAM(0, -kNotch), 0);
+  const std::string below = AwaitOtherPane(top);
+  PostMessageA(pane, wheel_of_driver, static_cast<WPARAM>(kNotch), 0);
+  EXPECT_TRUE(program.Await([&] { return PanePixels() == top; }));
+  PostMessageA(pane, wheel_of_driver, static_cast<WPARAM>(-kNotch), 0);
+  EXPECT_TRUE(program.Await([&] { return PanePixels() == below; }));
+  PostMessageA(pane, kWheelOfWindows, MAKEWPARAM(0, kNotch), 0);
+  EXPECT_TRUE(program.Await([&] { return PanePixels() == top; }));
+}
+
 TEST_F(HelpSession, TabKeyGoesThroughEverythingInOrder) {
   Start("");
   ExpectKeyboardOn("lstContents");

@@ -11,6 +11,9 @@ namespace {
 /// Windows 98 and later; 0 of them in the wheel's setting means that it scrolls nothing.
 constexpr UINT kMouseWheel = 0x020A;
 constexpr UINT kAskWheelLines = 0x0068;
+/// On Windows 95 the mouse driver itself sends this to the window with the keyboard, with the turn as its
+/// first parameter.
+constexpr const char* kDriverWheelMessage = "MSWHEEL_ROLLMSG";
 constexpr int kWheelNotch = 120;
 constexpr UINT kDefaultWheelLines = 3;
 /// Setting of the wheel: a page a notch.
@@ -37,7 +40,8 @@ TopicPanePeer::TopicPanePeer(const ui::win32::PeerContext& context, TopicPane& m
                      .style = WS_TABSTOP | WS_VSCROLL,
                      .extended_style = WS_EX_CLIENTEDGE,
                      .box = context.font.Pixels(model.GetPlace())}),
-      pane_(model) {
+      pane_(model),
+      driver_wheel_message_(RegisterWindowMessageA(kDriverWheelMessage)) {
   MakeMemoryDevice();
 }
 
@@ -99,10 +103,12 @@ bool TopicPanePeer::HandlePointer(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_SETCURSOR:
       return ShowHand(lparam);
     case kMouseWheel:
-      WheelTurned(wparam);
+      WheelTurned(static_cast<short>(HIWORD(wparam)));
       return true;
     default:
-      return false;
+      if (message != driver_wheel_message_ || message == 0) return false;
+      WheelTurned(static_cast<int>(wparam));
+      return true;
   }
 }
 
@@ -118,8 +124,8 @@ bool TopicPanePeer::ShowHand(LPARAM hit) const {
   return true;
 }
 
-void TopicPanePeer::WheelTurned(WPARAM wparam) {
-  wheel_rest_ += static_cast<short>(HIWORD(wparam));
+void TopicPanePeer::WheelTurned(int turned) {
+  wheel_rest_ += turned;
   const int notches = wheel_rest_ / kWheelNotch;
   wheel_rest_ %= kWheelNotch;
   const UINT lines = WheelLines();

@@ -25,7 +25,8 @@ class TopicPanePeer final : public ui::win32::NativeControl {
   bool HandleKey(WPARAM key);
   [[nodiscard]] LRESULT DialogCode(LPARAM message);
   void ScrollBarMoved(UINT code);
-  void WheelTurned(WPARAM wparam);
+  /// In parts of a notch, away from the user positive.
+  void WheelTurned(int turned);
   [[nodiscard]] bool ShowHand(LPARAM hit) const;
   void SizeChanged();
   void PaintWindow();
@@ -43,6 +44,7 @@ class TopicPanePeer final : public ui::win32::NativeControl {
   void MakeMemoryDevice();
 
   TopicPane& pane_;
+  UINT driver_wheel_message_;
   std::unique_ptr<MemoryDevice> memory_;
   int pressed_link_ = -1;
   /// What the wheel has turned and not scrolled yet.
