@@ -19,6 +19,43 @@ bool HasExtension(std::string_view path, std::string_view extension) {
 
 bool IsControlCharacter(char character) { return static_cast<unsigned char>(character) < 0x20U; }
 
+/// How many bytes the character takes that begins with this one.
+std::size_t CharacterBytes(os::Files& files, char first_byte) {
+  return files.IsDBCSLeadByte(first_byte) ? 2 : 1;
+}
+
+/// What comes before and behind the last backslash of a path. Without one there is no folder.
+struct PathParts {
+  std::string_view folder;
+  std::string_view file;
+};
+
+PathParts Split(os::Files& files, std::string_view path) {
+  std::size_t file_begin = 0;
+  for (std::size_t at = 0; at < path.size(); at += CharacterBytes(files, path[at])) {
+    if (path[at] == '\\') file_begin = at + 1;
+  }
+  if (file_begin == 0) return {.folder = {}, .file = path};
+  const std::string_view folder = path.substr(0, file_begin - 1);
+  const bool is_root = folder.empty() || folder.back() == ':';
+  return {.folder = is_root ? path.substr(0, file_begin) : folder, .file = path.substr(file_begin)};
+}
+
+std::string_view WithoutExtension(std::string_view file) {
+  const std::size_t dot = file.rfind('.');
+  // A name that begins with its only dot is no extension.
+  return dot == 0 ? file : file.substr(0, dot);
+}
+
+/// As many whole characters as an entry's name takes.
+std::string CutToName(os::Files& files, std::string_view title) {
+  std::size_t end = 0;
+  while (end < title.size() && end + CharacterBytes(files, title[end]) <= launcher::kNameWidth) {
+    end += CharacterBytes(files, title[end]);
+  }
+  return std::string(title.substr(0, end));
+}
+
 }  // namespace
 
 bool HasControlCharacters(std::string_view text) {
@@ -33,21 +70,6 @@ std::string Cleaned(std::string_view text) {
 
 launcher::LauncherEntry Cleaned(const launcher::LauncherEntry& entry) {
   return {Cleaned(entry.name), Cleaned(entry.path), FolderText(Cleaned(entry.start_in))};
-}
-
-std::string TitleOfFile(std::string_view path) {
-  const std::string_view file = path.substr(path.rfind('\\') + 1);
-  const std::size_t dot = file.rfind('.');
-  // A name that begins with its only dot is no extension.
-  return std::string(dot == 0 ? file : file.substr(0, dot));
-}
-
-std::string FolderOfFile(std::string_view path) {
-  const std::size_t backslash = path.rfind('\\');
-  if (backslash == std::string_view::npos) return {};
-  const std::string_view folder = path.substr(0, backslash);
-  const bool is_root = folder.empty() || folder.back() == ':';
-  return std::string(is_root ? path.substr(0, backslash + 1) : folder);
 }
 
 std::string CommandLineOf(const std::string& path) {
@@ -79,17 +101,19 @@ bool IsProgram(std::string_view path) {
 }
 
 /// A file whose title cannot be a name keeps its extension.
-launcher::LauncherEntry EntryOfFile(const std::string& path) {
-  std::string title = TitleOfFile(path);
-  if (IsDividingLine(title)) title = path.substr(path.rfind('\\') + 1);
-  title.resize(std::min(title.size(), launcher::kNameWidth));
-  return Cleaned(launcher::LauncherEntry{title, CommandLineOf(path), FolderOfFile(path)});
+launcher::LauncherEntry EntryOfFile(os::Files& files, const std::string& path) {
+  const PathParts parts = Split(files, path);
+  const std::string_view title = WithoutExtension(parts.file);
+  return Cleaned(launcher::LauncherEntry{CutToName(files, IsDividingLine(title) ? parts.file : title),
+                                         CommandLineOf(path), std::string(parts.folder)});
 }
 
-launcher::LauncherEntry EntryOfShortcut(const std::string& path, const os::Shortcut& shortcut) {
-  launcher::LauncherEntry entry = EntryOfFile(path);
+launcher::LauncherEntry EntryOfShortcut(os::Files& files, const std::string& path,
+                                        const os::Shortcut& shortcut) {
+  launcher::LauncherEntry entry = EntryOfFile(files, path);
   entry.path = Cleaned(CommandLineOf(shortcut.target) + ' ' + shortcut.arguments);
-  const std::string folder = shortcut.folder.empty() ? FolderOfFile(shortcut.target) : shortcut.folder;
+  const std::string_view folder =
+      shortcut.folder.empty() ? Split(files, shortcut.target).folder : shortcut.folder;
   entry.start_in = FolderText(Cleaned(folder));
   return entry;
 }

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "launcher/launcher_file.h"
+#include "os/files.h"
 #include "os/shell_files.h"
 
 namespace qdix::config_launcher {
@@ -16,12 +17,6 @@ namespace qdix::config_launcher {
 /// end.
 [[nodiscard]] std::string Cleaned(std::string_view text);
 [[nodiscard]] launcher::LauncherEntry Cleaned(const launcher::LauncherEntry& entry);
-
-/// The part of a path behind the last backslash, without its extension.
-[[nodiscard]] std::string TitleOfFile(std::string_view path);
-
-/// The part of a path before the last backslash; of a root with it.
-[[nodiscard]] std::string FolderOfFile(std::string_view path);
 
 /// The command line that starts a file: its path, in quotation marks where it has blanks.
 [[nodiscard]] std::string CommandLineOf(const std::string& path);
@@ -42,12 +37,14 @@ namespace qdix::config_launcher {
 /// True for the extensions of what Windows 95 can start by a command line: exe, com, bat, pif.
 [[nodiscard]] bool IsProgram(std::string_view path);
 
-/// The entry of a file, cleaned. Its name is cut to what an entry takes, its other texts are not.
-[[nodiscard]] launcher::LauncherEntry EntryOfFile(const std::string& path);
+/// The entry of a file, cleaned. Its name is cut to what an entry takes, its other texts are not. The system
+/// tells where the characters of a path begin.
+[[nodiscard]] launcher::LauncherEntry EntryOfFile(os::Files& files, const std::string& path);
 
 /// The entry of a shortcut, by the name that the shortcut itself has: the launcher can start what it leads
 /// to, not the shortcut.
-[[nodiscard]] launcher::LauncherEntry EntryOfShortcut(const std::string& path, const os::Shortcut& shortcut);
+[[nodiscard]] launcher::LauncherEntry EntryOfShortcut(os::Files& files, const std::string& path,
+                                                      const os::Shortcut& shortcut);
 
 [[nodiscard]] bool IsShortcut(std::string_view path);
 

@@ -37,10 +37,10 @@ std::optional<launcher::LauncherEntry> PickedFiles::WholeEntryOf(const std::stri
   if (IsShortcut(path)) {
     const std::optional<os::Shortcut> shortcut = system_.shell_files.ReadShortcut(path);
     if (!shortcut || !CanBeStarted(shortcut->target)) return std::nullopt;
-    entry = EntryOfShortcut(path, *shortcut);
+    entry = EntryOfShortcut(system_.files, path, *shortcut);
   } else {
     if (!CanBeStarted(path)) return std::nullopt;
-    entry = EntryOfFile(path);
+    entry = EntryOfFile(system_.files, path);
   }
   if (!Fits(entry) || entry.name.empty()) return std::nullopt;
   return entry;

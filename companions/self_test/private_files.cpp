@@ -57,6 +57,8 @@ bool PrivateFiles::MoveFileA(const char* from, const char* to) {
 
 bool PrivateFiles::DeleteFileA(const char* path) { return LiesIn(folder_, path) && real_.DeleteFileA(path); }
 
+bool PrivateFiles::IsDBCSLeadByte(char byte) { return real_.IsDBCSLeadByte(byte); }
+
 std::string PrivateProfileFiles::PathOf(const char* file) const {
   const std::string path = file;
   return path.find('\\') == std::string::npos ? folder_ + "\\" + path : path;

@@ -33,6 +33,7 @@ class PrivateFiles final : public os::Files {
   [[nodiscard]] bool FlushFileBuffers(os::FileHandle file) override;
   [[nodiscard]] bool MoveFileA(const char* from, const char* to) override;
   bool DeleteFileA(const char* path) override;
+  [[nodiscard]] bool IsDBCSLeadByte(char byte) override;
 
  private:
   os::Files& real_;

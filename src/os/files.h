@@ -76,6 +76,10 @@ class Files {
   /// refuses.
   [[nodiscard]] virtual bool MoveFileA(const char* from, const char* to) = 0;
   virtual bool DeleteFileA(const char* path) = 0;
+
+  /// True for the first byte of a character that takes two, as in the names of files on a Windows of the Far
+  /// East. The second byte may look like a backslash.
+  [[nodiscard]] virtual bool IsDBCSLeadByte(char byte) = 0;
 };
 
 }  // namespace qdix::os

@@ -4,6 +4,8 @@ namespace qdix::shell {
 
 namespace {
 
+/// The last backslash is one on every Windows: behind it is the name of our own file, without characters of
+/// two bytes, whose second may look like it.
 std::string FolderOf(std::string path) {
   const std::size_t last = path.rfind('\\');
   path.resize(last == std::string::npos ? 0 : last);

@@ -197,6 +197,12 @@ std::uint32_t SimulatedFiles::GetFileAttributesA(const char* path) {
   return read_only_.contains(UpperPath(path)) ? kFileAttributeReadOnly : kArchive;
 }
 
+/// Not recorded: it is asked for every byte of a path, and cannot fail.
+bool SimulatedFiles::IsDBCSLeadByte(char byte) {
+  const auto value = static_cast<unsigned char>(byte);
+  return is_japanese_ && ((value >= 0x81 && value <= 0x9F) || (value >= 0xE0 && value <= 0xFC));
+}
+
 bool SimulatedFiles::FindFirstFileA(const char* path, FoundFile& found) {
   if (log_.RecordAndFail("FindFirstFileA", path) || !Read(path)) return false;
   found = {.changed_days = changed_days_[UpperPath(path)], .dos_name = DosNameOf(UpperPath(path))};

@@ -30,6 +30,7 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   bool FlushFileBuffers(FileHandle file) override;
   bool MoveFileA(const char* from, const char* to) override;
   bool DeleteFileA(const char* path) override;
+  bool IsDBCSLeadByte(char byte) override;
 
   std::uint32_t GetPrivateProfileStringA(const char* section, const char* key, const char* missing,
                                          char* buffer, std::uint32_t size_bytes, const char* file) override;
@@ -48,6 +49,8 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   void LetGo(const std::string& path) { held_.erase(UpperPath(path)); }
   /// No file can be made any more, as on a CD; those that are there can be read.
   void ProtectDisk() { disk_is_protected_ = true; }
+  /// Names of files are in the two-byte characters of a Japanese Windows.
+  void MakeJapanese() { is_japanese_ = true; }
   /// From now on the disk takes this many bytes more.
   void LimitFreeBytes(std::uint64_t bytes) { free_bytes_ = bytes; }
   /// The date that a file gets when it is changed, in days since 30 December 1899.
@@ -101,6 +104,7 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   FileHandle next_file_ = 0x40;
   std::uint64_t free_bytes_ = ~std::uint64_t{0};
   bool disk_is_protected_ = false;
+  bool is_japanese_ = false;
   double now_days_ = 0;
   int writes_ = 0;
   /// The write in which the power fails; 0 where it does not.

@@ -68,6 +68,8 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   [[nodiscard]] std::optional<std::string> ReadFile(const std::string& path) const {
     return files_.Read(path);
   }
+  /// Names of files are in the two-byte characters of a Japanese Windows.
+  void MakeJapanese() { files_.MakeJapanese(); }
   /// Nobody can write into this file any more.
   void ProtectFile(const std::string& path) { files_.Protect(path); }
   /// Another program has this file open for itself alone, until it lets go of it.
@@ -85,10 +87,10 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   /// True where there was one.
   bool EraseFile(const std::string& path) { return files_.Erase(path); }
   [[nodiscard]] int OpenFileCount() const { return files_.OpenCount(); }
-  /// A folder that a program can be started in.
-  void AddFolder(const std::string& path) { folders_.insert(base::UpperAscii(path)); }
   /// Takes the disk out of a drive: its folders cannot be gone to, its programs not started.
   void TakeDiskOut(char drive) { empty_drives_.insert(base::UpperAscii(std::string(1, drive))); }
+  /// A folder that a program can be started in.
+  void AddFolder(const std::string& path) { folders_.insert(base::UpperAscii(path)); }
   [[nodiscard]] const std::string& CurrentFolder() const { return current_folder_; }
   void SetWindowsDirectory(const std::string& folder) { files_.SetWindowsDirectory(folder); }
 
@@ -193,9 +195,9 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   std::string ModuleFileName() override;
   std::int32_t CreateProcessA(const std::string& command_line) override;
   bool SetCurrentDirectoryA(const std::string& folder) override;
+  [[nodiscard]] bool IsOnEmptyDrive(const std::string& path) const;
   bool ExitWindowsEx(std::uint32_t flags, std::uint32_t reserved) override;
 
-  [[nodiscard]] bool IsOnEmptyDrive(const std::string& path) const;
   simulated::CallLog log_;
   simulated::SimulatedMemory memory_{log_};
   simulated::SimulatedRegistry registry_{log_};
@@ -216,9 +218,9 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   std::string module_file_name_ = "C:\\Program Files\\QDIX\\QDIX.exe";
   std::set<std::string> programs_{"DEFRAG"};
   std::vector<std::string> started_programs_;
+  std::set<std::string> empty_drives_;
   std::set<std::string> folders_{"C:", "C:\\", "C:\\WINDOWS"};
   std::string current_folder_ = "C:\\";
-  std::set<std::string> empty_drives_;
   int restarts_ = 0;
 };
 

@@ -76,4 +76,6 @@ bool Win32Files::MoveFileA(const char* from, const char* to) { return ::MoveFile
 
 bool Win32Files::DeleteFileA(const char* path) { return ::DeleteFileA(path) != 0; }
 
+bool Win32Files::IsDBCSLeadByte(char byte) { return ::IsDBCSLeadByte(static_cast<BYTE>(byte)) != 0; }
+
 }  // namespace qdix::os::win32

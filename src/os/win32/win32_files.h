@@ -22,6 +22,7 @@ class Win32Files final : public Files {
   [[nodiscard]] bool FlushFileBuffers(FileHandle file) override;
   [[nodiscard]] bool MoveFileA(const char* from, const char* to) override;
   bool DeleteFileA(const char* path) override;
+  [[nodiscard]] bool IsDBCSLeadByte(char byte) override;
 };
 
 }  // namespace qdix::os::win32

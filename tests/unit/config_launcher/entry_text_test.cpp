@@ -2,10 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include "os/simulated/simulated_machine.h"
+
 namespace qdix::config_launcher {
 namespace {
 
 using namespace std::string_literals;
+
+launcher::LauncherEntry EntryOf(const std::string& path) {
+  const os::SimulatedMachine machine;
+  return EntryOfFile(machine.GetSystem().files, path);
+}
 
 TEST(EntryText, CleanedEndsAtTheNulAndHasBlanksForControlCharacters) {
   EXPECT_EQ(Cleaned("Editor"), "Editor");
@@ -19,22 +26,22 @@ TEST(EntryText, CleanedEndsAtTheNulAndHasBlanksForControlCharacters) {
 }
 
 TEST(EntryText, FileGivesNameCommandLineAndFolder) {
-  EXPECT_EQ(EntryOfFile("C:\\WINDOWS\\NOTEPAD.EXE"),
+  EXPECT_EQ(EntryOf("C:\\WINDOWS\\NOTEPAD.EXE"),
             (launcher::LauncherEntry{"NOTEPAD", "C:\\WINDOWS\\NOTEPAD.EXE", "C:\\WINDOWS"}));
-  EXPECT_EQ(EntryOfFile("C:\\Program Files\\My Game\\Game 1.2.exe"),
+  EXPECT_EQ(EntryOf("C:\\Program Files\\My Game\\Game 1.2.exe"),
             (launcher::LauncherEntry{"Game 1.2", "\"C:\\Program Files\\My Game\\Game 1.2.exe\"",
                                      "C:\\Program Files\\My Game"}));
-  EXPECT_EQ(EntryOfFile("D:\\SETUP.EXE"), (launcher::LauncherEntry{"SETUP", "D:\\SETUP.EXE", "D:\\"}));
-  EXPECT_EQ(EntryOfFile("\\\\SERVER\\SHARE\\A"),
+  EXPECT_EQ(EntryOf("D:\\SETUP.EXE"), (launcher::LauncherEntry{"SETUP", "D:\\SETUP.EXE", "D:\\"}));
+  EXPECT_EQ(EntryOf("\\\\SERVER\\SHARE\\A"),
             (launcher::LauncherEntry{"A", "\\\\SERVER\\SHARE\\A", "\\\\SERVER\\SHARE"}));
-  EXPECT_EQ(EntryOfFile("EDIT.COM"), (launcher::LauncherEntry{"EDIT", "EDIT.COM", ""}));
-  EXPECT_EQ(EntryOfFile("C:\\.profile").name, ".profile");
-  EXPECT_EQ(EntryOfFile("C:\\A \\ B .EXE"), (launcher::LauncherEntry{"B", "\"C:\\A \\ B .EXE\"", "C:\\A"}));
+  EXPECT_EQ(EntryOf("EDIT.COM"), (launcher::LauncherEntry{"EDIT", "EDIT.COM", ""}));
+  EXPECT_EQ(EntryOf("C:\\.profile").name, ".profile");
+  EXPECT_EQ(EntryOf("C:\\A \\ B .EXE"), (launcher::LauncherEntry{"B", "\"C:\\A \\ B .EXE\"", "C:\\A"}));
 }
 
 TEST(EntryText, FileWhoseTitleIsADividingLineKeepsItsExtension) {
-  EXPECT_EQ(EntryOfFile("C:\\-.EXE").name, "-.EXE");
-  EXPECT_EQ(EntryOfFile("C:\\--.EXE").name, "--");
+  EXPECT_EQ(EntryOf("C:\\-.EXE").name, "-.EXE");
+  EXPECT_EQ(EntryOf("C:\\--.EXE").name, "--");
   EXPECT_TRUE(IsDividingLine("-"));
   EXPECT_FALSE(IsDividingLine(""));
 }
@@ -65,13 +72,51 @@ TEST(EntryText, ProgramsAreToldByTheirExtensions) {
 
 TEST(EntryText, LongNameIsCutAndLongPathsDoNotFit) {
   const std::string long_name(60, 'n');
-  const launcher::LauncherEntry entry = EntryOfFile("C:\\" + long_name + ".EXE");
+  const launcher::LauncherEntry entry = EntryOf("C:\\" + long_name + ".EXE");
   EXPECT_EQ(entry.name, std::string(55, 'n'));
   EXPECT_TRUE(Fits(entry));
   const std::string folder = "C:\\" + std::string(240, 'd');
-  EXPECT_TRUE(Fits(EntryOfFile(folder + "\\1234567.EXE"))) << "255 characters";
-  EXPECT_FALSE(Fits(EntryOfFile(folder + "\\12345678.EXE")));
-  EXPECT_FALSE(Fits(EntryOfFile(folder + "\\12345 7.EXE"))) << "two quotation marks more";
+  EXPECT_TRUE(Fits(EntryOf(folder + "\\1234567.EXE"))) << "255 characters";
+  EXPECT_FALSE(Fits(EntryOf(folder + "\\12345678.EXE")));
+  EXPECT_FALSE(Fits(EntryOf(folder + "\\12345 7.EXE"))) << "two quotation marks more";
+}
+
+class EntryTextOfTwoByteCharacters : public testing::Test {
+ protected:
+  EntryTextOfTwoByteCharacters() { machine.MakeJapanese(); }
+  [[nodiscard]] launcher::LauncherEntry Entry(const std::string& path) const {
+    return EntryOfFile(machine.GetSystem().files, path);
+  }
+
+  os::SimulatedMachine machine;
+};
+
+/// The second byte of the first character is that of a backslash.
+constexpr const char* kTable = "\x95\x5C\x8C\x76\x8E\x5A";
+
+TEST_F(EntryTextOfTwoByteCharacters, HalfOfACharacterIsNoBackslash) {
+  const std::string table = kTable;
+  EXPECT_EQ(Entry("C:\\" + table + ".EXE"),
+            (launcher::LauncherEntry{table, "C:\\" + table + ".EXE", "C:\\"}));
+  EXPECT_EQ(Entry("C:\\" + table + "\\A.EXE"),
+            (launcher::LauncherEntry{"A", "C:\\" + table + "\\A.EXE", "C:\\" + table}));
+  EXPECT_EQ(Entry(table + ".EXE").start_in, "");
+  const launcher::LauncherEntry entry =
+      EntryOfShortcut(machine.GetSystem().files, "C:\\" + table + ".LNK", {"D:\\" + table + ".EXE", "", ""});
+  EXPECT_EQ(entry.name, table);
+  EXPECT_EQ(entry.start_in, "D:\\");
+}
+
+TEST_F(EntryTextOfTwoByteCharacters, LongNameIsCutBetweenCharacters) {
+  std::string name;
+  for (int count = 0; count < 30; ++count) name += "\x95\x5C";
+  EXPECT_EQ(Entry("C:\\" + name + ".EXE").name, name.substr(0, 54));
+  EXPECT_EQ(Entry("C:\\n" + name + ".EXE").name, "n" + name.substr(0, 54));
+  EXPECT_EQ(Entry("C:\\A\x95").name, "A\x95") << "a character that is cut off already";
+}
+
+TEST_F(EntryTextOfTwoByteCharacters, SameBytesAreCharactersOfTheirOwnElsewhere) {
+  EXPECT_EQ(EntryOf("C:\\\x95\\A.EXE").start_in, "C:\\\x95");
 }
 
 }  // namespace
