@@ -17,7 +17,7 @@ struct Description {
 
 constexpr int kNoSuchControlElement = 340;
 
-constexpr std::array<Description, 12> kDescriptions{{
+constexpr std::array<Description, 11> kDescriptions{{
     {5, "Invalid procedure call or argument"},
     {6, "Overflow"},
     {7, "Out of memory"},
@@ -26,7 +26,6 @@ constexpr std::array<Description, 12> kDescriptions{{
     {53, "File not found"},
     {68, "Device unavailable"},
     {70, "Permission denied"},
-    {71, "Disk not ready"},
     {76, "Path not found"},
     {380, "Invalid property value"},
     {387, "Set not permitted"},

@@ -28,7 +28,6 @@ inline constexpr RuntimeError kDivisionByZero{11};
 inline constexpr RuntimeError kFileNotFound{53};
 inline constexpr RuntimeError kDeviceUnavailable{68};
 inline constexpr RuntimeError kPermissionDenied{70};
-inline constexpr RuntimeError kDiskNotReady{71};
 inline constexpr RuntimeError kPathNotFound{76};
 inline constexpr RuntimeError kInvalidPropertyValue{380};
 inline constexpr RuntimeError kSetNotPermitted{387};

@@ -11,11 +11,10 @@ base::Status StartProgram(os::Processes& processes, const std::string& command_l
       return base::kDone;
     case os::kErrorFileNotFound:
     case os::kErrorPathNotFound:
+    case os::kErrorNotReady:
       return base::kFileNotFound;
     case os::kErrorAccessDenied:
       return base::kPermissionDenied;
-    case os::kErrorNotReady:
-      return base::kDiskNotReady;
     default:
       return base::kInvalidProcedureCall;
   }

@@ -9,8 +9,8 @@
 namespace qdix::shell {
 
 /// Starts a program by its command line in a normal window with the keyboard and does not wait for it. Error
-/// 53 where there is no such program, 70 where it may not be started, 71 where its drive is not ready, 5
-/// where the text names none.
+/// 53 if there is no such program or no disk in its drive, 70 if it may not be started, 5 if the text names
+/// none.
 base::Status StartProgram(os::Processes& processes, const std::string& command_line);
 
 }  // namespace qdix::shell

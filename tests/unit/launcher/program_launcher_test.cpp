@@ -293,9 +293,9 @@ TEST_F(Launcher, ProgramOnADriveWithoutADiskIsToldAfterItsFolder) {
   EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("E:\\SETUP.EXE"));
   rig.machine.TakeDiskOut('e');
   Tab().List5.DoubleClick(0);
-  EXPECT_THAT(Boxes(), ElementsAre("Device unavailable", "Path not found", "Disk not ready"));
+  EXPECT_THAT(Boxes(), ElementsAre("Device unavailable", "Path not found", "File not found"));
   Tab().List5.DoubleClick(1);
-  EXPECT_EQ(rig.machine.Boxes().back().text, "Disk not ready");
+  EXPECT_EQ(rig.machine.Boxes().back().text, "File not found");
   EXPECT_EQ(rig.machine.StartedPrograms().size(), 1U);
 }
 
