@@ -1,6 +1,7 @@
 #include "bench/measures.h"
 #include "bench/session.h"
 #include "bench/stopwatch.h"
+#include "tests/e2e/driver/bare_loop.h"
 #include "tests/e2e/driver/native_windows.h"
 
 namespace qdix::bench {
@@ -14,7 +15,8 @@ constexpr int kLargeMb = 232;
 constexpr int kSmallMb = 1;
 /// Of the megabytes that amounts to free are counted in.
 constexpr SIZE_T kBytesPerMb = 1040000;
-constexpr SIZE_T kPageBytes = 4096;
+/// As many as a pass makes after it has touched its memory, and again after it has freed it.
+constexpr int kPumps = 5000;
 constexpr double kMostRatio = 1.1;
 
 /// Processor time of one pass. A press by message comes back at the end of the release.
@@ -29,26 +31,17 @@ double PassMs(const e2e::ShippedProgram& program, int amount_mb) {
   return ms / passes / kRepeats;
 }
 
-/// As often as a pass does after it has touched its memory, and again after it has freed it.
-void Pump() {
-  constexpr int kPumps = 5000;
-  MSG message = {};
-  for (int i = 0; i < kPumps; ++i) {
-    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) != 0) DispatchMessageA(&message);
-  }
-}
-
 /// Processor time of taking, touching and freeing as much in a bare loop.
 double LoopMs(int amount_mb) {
   const double before_ms = ProcessorMs(GetCurrentProcess());
   const SIZE_T bytes = amount_mb * kBytesPerMb;
   for (int i = 0; i < kRepeats; ++i) {
-    auto* const block = static_cast<volatile char*>(VirtualAlloc(nullptr, bytes, MEM_COMMIT, PAGE_READWRITE));
-    Require(block != nullptr, "the loop gets no memory");
-    for (SIZE_T at = 0; at < bytes; at += kPageBytes) block[at] = 1;
-    Pump();
-    VirtualFree(const_cast<char*>(block), 0, MEM_RELEASE);
-    Pump();
+    {
+      const e2e::TouchedBlock block(bytes);
+      Require(block.IsThere(), "the loop gets no memory");
+      e2e::Pump(kPumps);
+    }
+    e2e::Pump(kPumps);
   }
   return (ProcessorMs(GetCurrentProcess()) - before_ms) / kRepeats;
 }
