@@ -9,10 +9,13 @@
 #include <string>
 #include <vector>
 
+#include "played_clock.h"
 #include "tests/e2e/driver/cpu_statistics.h"
+#include "tests/e2e/driver/hand.h"
 #include "tests/e2e/driver/help_windows.h"
 #include "tests/e2e/driver/registry.h"
 #include "tests/e2e/driver/shipped_program.h"
+#include "timing.h"
 
 namespace {
 
@@ -42,6 +45,16 @@ constexpr const char* kUsage =
     "  feed-load         plays the load of this machine as the system's statistics, which Wine does not "
     "keep,\n"
     "                    until the program has ended\n"
+    "  time-press NAME   presses a button by message and prints the milliseconds until its handler has "
+    "ended\n"
+    "  time-loop BYTES PUMPS   takes as much memory, writes into each page, pumps, frees it, pumps again, "
+    "and\n"
+    "                    prints the milliseconds\n"
+    "  time-pumps COUNT  prints the milliseconds of so many empty pumps\n"
+    "  start-with-clock PERCENT PATH    starts QDIX.exe; the processor seems to have that share of its "
+    "speed\n"
+    "  press-key CODE    presses a key, by its virtual code, for the window in front\n"
+    "  answer BUTTON     waits for a message box of the program and presses yes or no in it\n"
     "  begin-close       asks the main window to close, and does not wait\n"
     "  close             closes the main window and waits until the program has ended\n"
     "  serve             does a command for each line of its input, and prints \"=== \" and the exit code "
@@ -125,6 +138,21 @@ int AnswerBoxes(const ShippedProgram& program) {
   return program.MessageBoxes().empty() ? 0 : Fail("a message box stays open");
 }
 
+int Answer(const ShippedProgram& program, const std::string& button) {
+  if (!Eventually([&program] { return program.MessageBoxes().size() == 1; })) return Fail("no message box");
+  const int number = button == "yes" ? IDYES : IDNO;
+  return PressButton(program.MessageBoxes().front(), number) ? 0 : Fail("the box has no such button");
+}
+
+int PressKey(const std::string& code) {
+  qdix::e2e::PressKey(std::atoi(code.c_str()));
+  return 0;
+}
+
+int StartWithClock(const std::string& percent, const std::string& path) {
+  return qdix::probe::StartWithClock(path, std::atoi(percent.c_str())) ? 0 : Fail("it cannot be started so");
+}
+
 int FeedLoad(const ShippedProgram& program) {
   constexpr DWORD kFeedMs = 500;
   std::puts("feeding");
@@ -150,6 +178,12 @@ int BeginClose(const ShippedProgram& program) {
 int Close(const ShippedProgram& program) {
   program.Close();
   return Eventually([&] { return !program.IsRunning(); }) ? 0 : Fail("the program goes on");
+}
+
+int PrintMs(double ms) {
+  if (ms < 0) return Fail("it did not come to its end");
+  std::printf("%.0f\n", ms);
+  return 0;
 }
 
 int Text(const ShippedProgram& program, const std::string& name) {
@@ -192,6 +226,7 @@ int RunOnControl(const ShippedProgram& program, const std::string& command, Argu
   if (command == "text" && arguments.size() == 1) return Text(program, name);
   if (command == "enabled" && arguments.size() == 1) return Enabled(program, name);
   if (command == "rect" && arguments.size() == 1) return Rect(program, name);
+  if (command == "time-press" && arguments.size() == 1) return PrintMs(qdix::probe::PressMs(program, name));
   if (command == "choose" && arguments.size() == 2) {
     return program.Choose(name, arguments[1]) ? 0 : Fail(name + " has no row " + arguments[1]);
   }
@@ -208,10 +243,20 @@ int Run(Arguments arguments) {
   if (command == "wait-window" && arguments.empty()) return WaitWindow(facts);
   if (command == "setting" && arguments.size() == 1) return PrintSetting(arguments[0]);
   if (command == "store-setting" && arguments.size() == 2) return StoreSetting(arguments[0], arguments[1]);
+  if (command == "time-loop" && arguments.size() == 2) {
+    return PrintMs(qdix::probe::LoopMs(std::strtoul(arguments[0], nullptr, 10), std::atoi(arguments[1])));
+  }
+  if (command == "time-pumps" && arguments.size() == 1) {
+    return PrintMs(qdix::probe::PumpsMs(std::atoi(arguments[0])));
+  }
+  if (command == "press-key" && arguments.size() == 1) return PressKey(arguments[0]);
+  if (command == "start-with-clock" && arguments.size() == 2)
+    return StartWithClock(arguments[0], arguments[1]);
   ShippedProgram program(facts);
   if (!program.Attach()) return Fail("the program does not run");
   if (arguments.empty()) return RunOnProgram(program, command);
   if (command == "open-tab" && arguments.size() == 1) return OpenTab(program, arguments[0]);
+  if (command == "answer" && arguments.size() == 1) return Answer(program, arguments[0]);
   return RunOnControl(program, command, arguments);
 }
 
