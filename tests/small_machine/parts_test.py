@@ -56,7 +56,7 @@ class FiguresTest(unittest.TestCase):
 
     def test_swap_in_use_is_what_is_not_free(self):
         self.assertEqual(self.figures.swap_used_kb, 96604)
-        self.assertEqual(self.figures.pages_out, 4711)
+        self.assertEqual((self.figures.pages_in, self.figures.pages_out), (17, 4711))
 
     def test_memory_of_all_idle_programs_is_added_up(self):
         self.assertEqual((self.figures.idle_programs, self.figures.idle_in_ram_kb, self.figures.idle_in_swap_kb),

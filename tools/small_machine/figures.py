@@ -17,6 +17,7 @@ class Figures:
     anonymous_kb: int
     swap_total_kb: int
     swap_used_kb: int
+    pages_in: int
     pages_out: int
     idle_programs: int
     idle_in_ram_kb: int
@@ -48,6 +49,7 @@ def read_figures(text):
         anonymous_kb=machine["AnonPages"],
         swap_total_kb=machine["SwapTotal"],
         swap_used_kb=machine["SwapTotal"] - machine["SwapFree"],
+        pages_in=machine["pswpin"],
         pages_out=machine["pswpout"],
         idle_programs=sum(one.get("Name") == IDLE_PROGRAM for one in programs.values()),
         idle_in_ram_kb=memory(IDLE_PROGRAM, "VmRSS"),

@@ -42,6 +42,10 @@ class Pc:
         """Starts QDIX.exe, as on a machine that knows it already, and waits for its figures."""
         self.set_settings("Machine", HasRun=1)
         self.start("QDIX.exe")
+        self.await_main_window()
+
+    def await_main_window(self):
+        """Waits until the main window shows its figures."""
         self.machine.ask(f"await {WINDOW_LIMIT_S} probe wait-window >/dev/null")
         self.machine.ask(f"await {WINDOW_LIMIT_S} shows_figures")
         self.rest()
@@ -142,6 +146,24 @@ class Pc:
 
     def figures(self):
         return read_figures(self.machine.ask("figures"))
+
+    def memory_of(self, program):
+        """What the one process of this program has in memory, in KB by the kernel's names."""
+        found = re.findall(r"^(\w+):\s+(\d+) kB$", self.machine.ask(f"memory_of {program}"), re.MULTILINE)
+        return {name: int(value) for name, value in found}
+
+    def keep_state(self, name):
+        """Keeps memory, disks and devices as they are now, to go back to in this run."""
+        self._tell_snapshots(f"savevm {name}")
+
+    def go_back(self, name):
+        """Makes the machine what it was when the state was kept."""
+        self._tell_snapshots(f"loadvm {name}")
+
+    def _tell_snapshots(self, command):
+        complaint = self.machine.tell_monitor("human-monitor-command", HOST_LIMIT_S, **{"command-line": command})
+        if complaint:
+            raise MachineError(f"'{command}' failed: {complaint.strip()}")
 
     def photograph(self, name):
         file = self.folder / f"{name}.png"

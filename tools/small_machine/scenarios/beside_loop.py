@@ -1,0 +1,57 @@
+"""A release beside a bare loop of the same size, and the program at rest beside notepad, each from one stored state."""
+from scenarios.one_release import IDLE_MB, IDLE_PROGRAMS, RELEASE_MB
+
+ROUNDS = 3
+# Of the megabytes that amounts to free are counted in, and one byte more, as a release takes them.
+BYTES_PER_MB = 1040000
+# Of one release: before and after it gives its memory back.
+PUMPS = 10000
+
+
+def at_rest(pc, name, command):
+    """Memory of a program that has been started and has nothing to do, and by how much the available memory fell."""
+    pc.go_back("desktop")
+    before = pc.kernel()
+    pc.say(f"starting {name}")
+    command()
+    pc.machine.ask(f"await 60 is_there {name}")
+    pc.pause(5)
+    pc.rest()
+    after = pc.kernel()
+    return pc.memory_of(name) | {"before": before, "after": after}
+
+
+def play(pc, memory_mb):
+    pc.keep_state("desktop")
+    result = {"memory_mb": memory_mb, "release_mb": RELEASE_MB[memory_mb], "idle_mb": IDLE_MB[memory_mb],
+              "idle_programs": IDLE_PROGRAMS, "pumps": PUMPS, "rounds": []}
+    result["at_rest"] = {
+        "QDIX.exe": at_rest(pc, "QDIX.exe", pc.start_main_program),
+        "notepad.exe": at_rest(pc, "notepad.exe", lambda: pc.machine.ask("start_notepad")),
+        "other.exe": at_rest(pc, "other.exe", lambda: pc.machine.ask("start_other_notepad"))}
+
+    pc.go_back("desktop")
+    pc.set_settings("Startup", StartupTime=0)
+    pc.start_idle_programs(IDLE_PROGRAMS, IDLE_MB[memory_mb])
+    pc.start_main_program()
+    pc.probe(f"choose List1 {RELEASE_MB[memory_mb]} MB")
+    pc.wake_idle_programs()
+    pc.rest()
+    pc.keep_state("before")
+    result["before"] = pc.look()
+    size = RELEASE_MB[memory_mb] * BYTES_PER_MB + 1
+    steps = {"release": "time-press Command1", "loop": f"time-loop {size} 0", "pumps": f"time-pumps {PUMPS}",
+             "pumping_loop": f"time-loop {size} {PUMPS // 2}"}
+    for number in range(ROUNDS):
+        pc.say(f"round {number + 1} of {ROUNDS}")
+        result["rounds"].append({name: timed(pc, question) for name, question in steps.items()})
+    pc.write("release", result)
+    return result
+
+
+def timed(pc, question):
+    """The milliseconds of a step, and the figures once the machine has come to rest after it."""
+    pc.go_back("before")
+    milliseconds = float(pc.probe(question))
+    pc.rest()
+    return {"ms": milliseconds, "after": pc.kernel()}
