@@ -1,12 +1,12 @@
 # The small machine: its parts on this machine, and releases on it with the exes as shipped (label small_machine).
-#   small_machine.parts, small_machine.report    no emulator: host builds
+#   small_machine.parts, .report, .bench          no emulator: host builds
 #   small_machine.make                           makes the machine where it is missing; the tests on it need it
 set(small_machine ${CMAKE_SOURCE_DIR}/tools/small_machine/small_machine.sh)
 set(small_machine_tests ${CMAKE_SOURCE_DIR}/tests/small_machine)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 
 if(NOT WIN32)
-  foreach(test IN ITEMS parts report)
+  foreach(test IN ITEMS parts report bench)
     add_test(NAME small_machine.${test} COMMAND ${Python3_EXECUTABLE} ${small_machine_tests}/${test}_test.py)
   endforeach()
 else()

@@ -1,0 +1,64 @@
+"""The part of the benchmarks that comes from the small machine: when a budget is kept, and what the tables show."""
+import copy
+import pathlib
+import sys
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "bench"))
+
+import small_machine
+
+BEFORE = {"available_kb": 10000, "pages_out": 500, "idle_in_ram_kb": 40000}
+
+
+def step(ms, available_kb):
+    return {"ms": ms, "after": {"available_kb": available_kb, "pages_out": 1500, "idle_in_ram_kb": 12345}}
+
+
+REST = {"Private_Clean": 1000, "Private_Dirty": 2000, "Pss": 4000, "Rss": 9000, "Swap": 7}
+RESULT = {"memory_mb": 96, "release_mb": 40, "idle_mb": 10, "idle_programs": 4, "pumps": 10000, "before": BEFORE,
+          "rounds": [{"release": step(3000 + 100 * number, 40000 + number), "loop": step(1500, 40001),
+                      "pumps": step(1500, 10000), "pumping_loop": step(2900, 40000)} for number in range(3)],
+          "at_rest": {name: REST for name in small_machine.NAMES}}
+
+
+def changed(name, **figures):
+    result = copy.deepcopy(RESULT)
+    for one in result["rounds"]:
+        one[name]["ms"] = figures.get("ms", one[name]["ms"])
+        one[name]["after"]["available_kb"] = figures.get("available_kb", one[name]["after"]["available_kb"])
+    return result
+
+
+class BudgetTest(unittest.TestCase):
+    def test_a_gain_like_the_loops_keeps_the_budget_and_less_misses_it(self):
+        row = small_machine.gain_row(RESULT)
+        self.assertEqual(row, ["memory gained by a release of 40 MB with 96 MB, beside a bare loop",
+                               "30.0 MB", "30.0 MB", "1.00", "at least the loop's", "kept"])
+        self.assertEqual(small_machine.gain_row(changed("loop", available_kb=40002))[-1], "**missed**")
+        self.assertEqual(small_machine.gain_row(changed("release", available_kb=40000))[-1], "**missed**")
+
+    def test_time_is_the_fastest_and_its_budget_that_of_loop_and_pumps(self):
+        row = small_machine.time_row(RESULT)
+        self.assertEqual(row[1:], ["3000 ms", "1500 + 1500 ms", "1.00", "at most both together", "kept"])
+        self.assertEqual(small_machine.time_row(changed("loop", ms=1499))[-1], "**missed**")
+        self.assertEqual(small_machine.time_row(changed("pumps", ms=1499))[-1], "**missed**")
+
+
+class SectionTest(unittest.TestCase):
+    def setUp(self):
+        self.lines = small_machine.section([RESULT]).splitlines()
+
+    def test_it_begins_with_the_heading_that_the_scripts_look_for(self):
+        self.assertEqual(self.lines[0], "## On an emulated PC")
+
+    def test_tables_show_the_middle_and_the_spread_of_the_rounds(self):
+        self.assertIn("| 96 MB | 40 MB | 10.0 MB | 40.0 MB | 3.0 seconds |", self.lines)
+        self.assertIn("| 96 MB | release | 30.0 MB | 3100 ms (3000 to 3200) | 1,000 | 40.0 MB to 12.3 MB |", self.lines)
+
+    def test_programs_at_rest_are_shown_with_what_is_theirs_alone(self):
+        self.assertIn("| 96 MB | `QDIX.exe` | 3,000 KB | 4,000 KB | 9,000 KB | 7 KB |", self.lines)
+
+
+if __name__ == "__main__":
+    unittest.main()
