@@ -1,50 +1,41 @@
 #!/usr/bin/env bash
-# Makes the pictures of the documents and of the manual from the photographs that the end-to-end tests leave under
-# build/photos. Run ./test.sh -R e2e first.
+# Makes the pictures of the documents and of the manual, about five minutes on two idle cores: plays the scenario
+# `pictures` on the small machine and cuts the windows out of its photographs.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
-# The desktop's own taskbar begins below this; the menu of the tray icon opens in its corner.
+readonly photographs=build/small_machine/pictures
+readonly memory_mb=96
+# The taskbar begins below this; the menus of the tray icon open in its corner.
 readonly desktop=800x572+0+0
-readonly tray_corner=176x148+624+452
-readonly programs_corner=260x148+540+452
+readonly window_alone=(-trim +repage)
+readonly menu_corner=176x148+624+452
+readonly menus_corner=260x168+540+432
 # The classic screen has few colours, and a floppy disk has little room.
 readonly manual_colours=16
 
 # Photographs by name, and the pictures that the manual has of them.
 declare -A manual=(
-  [quondix]=quondix [automatic]=auto [time_intervals]=time [startup_other]=startup [launcher_tab]=launcher
+  [before]=quondix [automatic]=auto [time_intervals]=time [startup_other]=startup [launcher]=launcher
   [cache_preset]=cache [swapfile_optimised]=swapfile [about]=about [config_launcher]=configl [undo]=undo
 )
 
-# Prints the path of a photograph; fails where it is missing.
-photo() {
-  local path=build/photos/$1.png
-  [ -f "$path" ] || {
-    echo "pictures: $path is missing; run ./test.sh -R e2e first" >&2
-    return 1
-  }
-  printf '%s' "$path"
-}
+# cut_out PHOTOGRAPH PART PICTURE [OPTION...]
+cut_out() { convert "$photographs/$1.png" -crop "$2" +repage -strip "${@:4}" "$3"; }
 
-# cut_window PHOTO PICTURE [OPTION...]: the window, less the taskbar and the empty desktop round it.
-cut_window() {
-  local path
-  path=$(photo "$1")
-  convert "$path" -crop "$desktop" +repage -trim +repage -strip "${@:3}" "$2"
-}
+tools/setup/packages.sh
+tools/setup/build.sh win9x
+tools/setup/build.sh win9x-tests qdix_probe idle
+tools/small_machine/small_machine.sh play pictures "$memory_mb" "$photographs"
 
 mkdir -p docs/pictures help/pictures
-for name in quondix automatic cache_preset swapfile_optimised undo config_launcher; do
-  cut_window "$name" "docs/pictures/$name.png" -colors 256
+for name in before after cache_preset swapfile_optimised undo config_launcher help; do
+  cut_out "$name" "$desktop" "docs/pictures/$name.png" "${window_alone[@]}" -colors 256
 done
 for name in "${!manual[@]}"; do
-  cut_window "$name" "help/pictures/${manual[$name]}.gif" +dither -colors "$manual_colours"
+  cut_out "$name" "$desktop" "help/pictures/${manual[$name]}.gif" "${window_alone[@]}" +dither -colors "$manual_colours"
 done
-cut_window help_topic_4 docs/pictures/help.png -colors 256
-menu=$(photo tray_programs)
-convert "$menu" -crop "$programs_corner" +repage -strip -colors 256 docs/pictures/tray_programs.png
-menu=$(photo tray_menu)
-convert "$menu" -crop "$tray_corner" +repage -strip +dither -colors "$manual_colours" help/pictures/tray.gif
-echo "pictures: made anew under docs/pictures and help/pictures"
+cut_out tray_programs "$menus_corner" docs/pictures/tray_programs.png -colors 256
+cut_out tray_menu "$menu_corner" help/pictures/tray.gif +dither -colors "$manual_colours"
+echo "pictures: made again under docs/pictures and help/pictures"

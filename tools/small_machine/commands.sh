@@ -109,6 +109,9 @@ figures() {
 # Adds a program to the list of the launcher:   add_to_launcher NAME COMMAND FOLDER
 add_to_launcher() { printf '%-55s%-255s%-255s' "$@" >>$programs/launcher.dat; }
 
+# Makes system.ini of these lines.
+write_system_ini() { printf '%s\r\n' "$@" >/prefix/drive_c/windows/system.ini; }
+
 # Memory of the one process of a program, as the kernel counts it:   memory_of NAME
 memory_of() {
   local status
