@@ -50,7 +50,9 @@ constexpr const char* kUsage =
     "  time-loop BYTES PUMPS   takes as much memory, writes into each page, pumps, frees it, pumps again, "
     "and\n"
     "                    prints the milliseconds\n"
-    "  time-pumps COUNT  prints the milliseconds of so many empty pumps\n"
+    "  time-pumps COUNT [window]   prints the milliseconds of so many empty pumps, in a program with a "
+    "window or "
+    "without\n"
     "  start-with-clock PERCENT PATH    starts QDIX.exe; the processor seems to have that share of its "
     "speed\n"
     "  press-key CODE    presses a key, by its virtual code, for the window in front\n"
@@ -246,8 +248,8 @@ int Run(Arguments arguments) {
   if (command == "time-loop" && arguments.size() == 2) {
     return PrintMs(qdix::probe::LoopMs(std::strtoul(arguments[0], nullptr, 10), std::atoi(arguments[1])));
   }
-  if (command == "time-pumps" && arguments.size() == 1) {
-    return PrintMs(qdix::probe::PumpsMs(std::atoi(arguments[0])));
+  if (command == "time-pumps" && !arguments.empty() && arguments.size() <= 2) {
+    return PrintMs(qdix::probe::PumpsMs(std::atoi(arguments[0]), arguments.size() == 2));
   }
   if (command == "press-key" && arguments.size() == 1) return PressKey(arguments[0]);
   if (command == "start-with-clock" && arguments.size() == 2)

@@ -39,10 +39,16 @@ double LoopMs(SIZE_T bytes, int pumps) {
   return NowMs() - start_ms;
 }
 
-double PumpsMs(int times) {
+double PumpsMs(int times, bool with_window) {
+  const HWND window =
+      with_window ? CreateWindowA("STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr)
+                  : nullptr;
+  if (with_window && window == nullptr) return kFailed;
   const double start_ms = NowMs();
   e2e::Pump(times);
-  return NowMs() - start_ms;
+  const double ms = NowMs() - start_ms;
+  if (window != nullptr) DestroyWindow(window);
+  return ms;
 }
 
 }  // namespace qdix::probe

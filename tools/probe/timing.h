@@ -12,7 +12,8 @@ namespace qdix::probe {
 /// Milliseconds to take a block of memory, write into each of its pages and give it back, with so many empty
 /// pumps while it is held and as many after; negative where the system has no such block.
 [[nodiscard]] double LoopMs(SIZE_T bytes, int pumps);
-/// Milliseconds of so many empty pumps of this process.
-[[nodiscard]] double PumpsMs(int times);
+/// Milliseconds of so many empty pumps of this process. From its first window on, a pump of Wine asks the
+/// screen too.
+[[nodiscard]] double PumpsMs(int times, bool with_window);
 
 }  // namespace qdix::probe

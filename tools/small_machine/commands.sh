@@ -107,7 +107,7 @@ figures() {
 }
 
 # Adds a program to the list of the launcher:   add_to_launcher NAME COMMAND FOLDER
-add_to_launcher() { printf '%-55s%-255s%-255s' "$@" >>$programs/launcher.dat; }
+add_to_launcher() { printf '%-55s%-255s%-255s' "$@" >>"$programs/launcher.dat"; }
 
 # Makes system.ini of these lines.
 write_system_ini() { printf '%s\r\n' "$@" >/prefix/drive_c/windows/system.ini; }
@@ -120,13 +120,13 @@ memory_of() {
 
 is_there() { ! is_gone "$1"; }
 
-start_notepad() { wine notepad >$logs/notepad.txt 2>&1 </dev/null & }
+start_notepad() { wine notepad >"$logs/notepad.txt" 2>&1 </dev/null & }
 
 # The same without the mark by which Wine knows its own programs: it is loaded as any other program is.
 start_other_notepad() {
   local mark='Wine builtin DLL' blank='                ' copy=/prefix/drive_c/other.exe
   sed "s/$mark/$blank/" /prefix/drive_c/windows/notepad.exe >$copy && ! grep -q "$mark" $copy || return
-  wine 'C:\other.exe' >$logs/other.txt 2>&1 </dev/null &
+  wine 'C:\other.exe' >"$logs/other.txt" 2>&1 </dev/null &
 }
 
 # Presses OK in the boxes of the main program and prints what they said; false when there is none.
