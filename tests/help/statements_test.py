@@ -12,7 +12,7 @@ from source_texts import menu_captions, sources, texts_below
 sys.path.insert(0, str(ROOT / "tests" / "dist"))
 from setup_text_test import sections_of  # noqa: E402
 
-FIRST_STEPS, QUONDIX, TIME_INTERVALS, LAUNCHER, SWAP_FILE, WHEN_NOT, TRAY = 0, 4, 6, 8, 10, 13, 19
+FIRST_STEPS, QUONDIX, TIME_INTERVALS, LAUNCHER, SWAP_FILE, RELEASE, WHEN_NOT, TRAY = 0, 4, 6, 8, 10, 12, 13, 19
 # What README.TXT quotes from elsewhere: a word of Windows, the beginning of a folder's name, and its own headings.
 QUOTED_FROM_ELSEWHERE = {"Install", "Progra"}
 
@@ -71,7 +71,7 @@ class StatementsTest(ManualCase):
             text = "\n".join(plain(line) for kind, line in topic.lines if kind != "I")
             self.assertNotRegex(text, r"\bpictures (were|of)\b", f"topic {topic.number}")
         quondix = (HELP / "04_quondix.md").read_text(encoding="utf-8")
-        self.assertRegex(quondix, r'quondix\.gif "The pictures were taken')
+        self.assertRegex(quondix, r'quondix\.gif "The pictures were taken on an emulated PC')
 
     def test_ways_around_a_pause_are_told_wherever_it_is_recommended(self):
         for name, text in {"manual": self.text_of(WHEN_NOT), "tab": self.text_of(QUONDIX),
@@ -96,6 +96,14 @@ class StatementsTest(ManualCase):
             self.assertIn("Automatically launch Q-DIX", before, name)
         code = "".join(sources("src/app"))
         self.assertRegex(code, r"Check2\.SetTicked\(true\)")
+
+    def test_measured_figures_are_those_of_the_benchmarks(self):
+        text = (HELP / "12_how_a_release_works.md").read_text(encoding="utf-8")
+        rows = re.findall(r"^\| \d+ MB \|.*$", text, re.MULTILINE)
+        self.assertEqual([row.split()[1] for row in rows], ["64", "96", "128"])
+        self.assertEqual(set(rows) - set((ROOT / "docs/benchmarks.md").read_text(encoding="utf-8").splitlines()), set())
+        for part in ("on an emulated PC", "kernel is not that of Windows 98"):
+            self.assertIn(part, self.text_of(RELEASE))
 
     def test_megabytes_of_the_swap_file_and_of_the_free_space(self):
         text = self.text_of(SWAP_FILE)
