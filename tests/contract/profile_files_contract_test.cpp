@@ -27,6 +27,14 @@ class ProfileFilesContract : public ContractTest {
 
 TEST_F(ProfileFilesContract, MissingEntryGivesTheDefault) { EXPECT_EQ(Read("vcache", "Size"), "1:0"); }
 
+TEST_F(ProfileFilesContract, DefaultLosesTheBlanksAtItsEnd) {
+  std::array<char, 255> buffer{};
+  EXPECT_EQ(system.profile_files.GetPrivateProfileStringA("vcache", "Size", "none  ", buffer.data(),
+                                                          buffer.size(), kFile),
+            4U);
+  EXPECT_STREQ(buffer.data(), "none");
+}
+
 TEST_F(ProfileFilesContract, WrittenEntryComesBackWhateverTheCaseOfItsNames) {
   EXPECT_TRUE(Write("vcache", "Size", "4096"));
   EXPECT_EQ(Read("vcache", "Size"), "4:4096");
@@ -93,6 +101,12 @@ TEST_F(FilesContract, WindowsDirectoryIsAFullPathWithoutASeparatorAtItsEnd) {
   ASSERT_GT(length, 3U);
   EXPECT_EQ(folder.substr(1, 2), ":\\");
   EXPECT_NE(folder.back(), '\\');
+}
+
+TEST_F(FilesContract, NoCharacterTakesTwoBytesInTheWest) {
+  for (int byte = 0; byte < 256; ++byte) {
+    EXPECT_FALSE(system.files.IsDBCSLeadByte(static_cast<char>(byte))) << byte;
+  }
 }
 
 TEST_F(FilesContract, CopyReplacesAnEarlierFileAndFailsWithoutASource) {

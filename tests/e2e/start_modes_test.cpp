@@ -85,7 +85,7 @@ TEST_F(StartModeSession, ThreeShowsTheIconOnly) {
 
 TEST_F(StartModeSession, ShortcutThatRunsMinimisedMinimisesTheWindowThatWouldBeShown) {
   SetRegistryText(kStartup, "StartDisplay", "1");
-  ASSERT_TRUE(program.Start({}, SW_SHOWMINNOACTIVE));
+  ASSERT_TRUE(program.StartShown(SW_SHOWMINNOACTIVE));
   ASSERT_TRUE(program.WaitForFirstReading());
   EXPECT_TRUE(IsShown(program));
   EXPECT_TRUE(IsMinimised(program));
@@ -96,7 +96,7 @@ TEST_F(StartModeSession, ShortcutThatRunsMinimisedMinimisesTheWindowThatWouldBeS
 
 TEST_F(StartModeSession, ShortcutThatRunsMinimisedLeavesTheHiddenStartAndWhatIsShownLater) {
   SetRegistryText(kStartup, "StartDisplay", "3");
-  ASSERT_TRUE(program.Start({}, SW_SHOWMINNOACTIVE));
+  ASSERT_TRUE(program.StartShown(SW_SHOWMINNOACTIVE));
   ASSERT_TRUE(program.WaitForFirstReading());
   EXPECT_FALSE(IsShown(program));
   ASSERT_TRUE(PressIcon(Press::kLeftTwice));
@@ -108,7 +108,7 @@ TEST_F(StartModeSession, ShortcutThatRunsMinimisedLeavesTheHiddenStartAndWhatIsS
 TEST_F(StartModeSession, ShortcutThatRunsACompanionMinimisedIsObeyed) {
   for (const ProgramFacts& facts : {HelpViewer(), ConfigLauncher(), Undo()}) {
     ShippedProgram companion(facts);
-    ASSERT_TRUE(companion.Start({}, SW_SHOWMINNOACTIVE));
+    ASSERT_TRUE(companion.StartShown(SW_SHOWMINNOACTIVE));
     ASSERT_TRUE(companion.WaitForWindow()) << facts.file_name;
     EXPECT_TRUE(companion.Await([&] { return IsMinimised(companion); })) << facts.file_name;
     companion.Close();

@@ -47,13 +47,20 @@ ShippedProgram::~ShippedProgram() {
   if (process_ != nullptr) CloseHandle(process_);
 }
 
-bool ShippedProgram::Start(const std::string& arguments, std::optional<WORD> show_command) {
+bool ShippedProgram::Start(const std::string& arguments) {
   STARTUPINFOA startup = {};
+  return StartWith(arguments, startup);
+}
+
+bool ShippedProgram::StartShown(WORD show_command) {
+  STARTUPINFOA startup = {};
+  startup.dwFlags = STARTF_USESHOWWINDOW;
+  startup.wShowWindow = show_command;
+  return StartWith({}, startup);
+}
+
+bool ShippedProgram::StartWith(const std::string& arguments, STARTUPINFOA& startup) {
   startup.cb = sizeof startup;
-  if (show_command) {
-    startup.dwFlags = STARTF_USESHOWWINDOW;
-    startup.wShowWindow = *show_command;
-  }
   PROCESS_INFORMATION started = {};
   std::string command_line = "\"" + ProgramPath(facts_.file_name) + "\" " + arguments;
   if (CreateProcessA(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,

@@ -8,7 +8,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -30,8 +29,10 @@ class ShippedProgram {
   ~ShippedProgram();
 
   /// Starts the program under test with these arguments, also once more after its end; false when the system
-  /// refuses. With a show command (SW_...) as a shortcut does that names one.
-  [[nodiscard]] bool Start(const std::string& arguments = {}, std::optional<WORD> show_command = {});
+  /// refuses.
+  [[nodiscard]] bool Start(const std::string& arguments = {});
+  /// The same as a shortcut does that says how the window is to be shown (SW_...).
+  [[nodiscard]] bool StartShown(WORD show_command);
   /// Attaches to the copy that runs already; false when there is none.
   [[nodiscard]] bool Attach();
   /// The same with a copy that another program was made to start: it counts as started here.
@@ -101,6 +102,7 @@ class ShippedProgram {
   std::vector<std::string> AnswerBoxes() const;
 
  private:
+  [[nodiscard]] bool StartWith(const std::string& arguments, STARTUPINFOA& startup);
   [[nodiscard]] bool Open(DWORD access);
   [[nodiscard]] HWND FirstWindow(const char* window_class) const;
   [[nodiscard]] const ControlAddress& AddressOf(const std::string& name) const;
