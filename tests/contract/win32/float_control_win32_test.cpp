@@ -59,7 +59,7 @@ TEST_F(FloatControlWin32, IsSetAgainAfterTheShell) {
                   [this] { EXPECT_FALSE(system.shell.ShellExecuteA("Open", "C:\\qdix none.htm", SW_SHOW)); });
   ExpectOursAfter("Shell_NotifyIconA",
                   [this] { EXPECT_FALSE(system.shell.Shell_NotifyIconA(os::kNimModify, {})); });
-  ExpectOursAfter("TakeDroppedPaths", [] { os::win32::TakeDroppedPaths(0); });
+  ExpectOursAfter("TakeDroppedPaths", [] { EXPECT_TRUE(os::win32::TakeDroppedPaths(0).empty()); });
 }
 
 TEST_F(FloatControlWin32, IsSetAgainAfterDialogs) {
@@ -68,10 +68,11 @@ TEST_F(FloatControlWin32, IsSetAgainAfterDialogs) {
     machine.DoToNextBox([](HWND box) { PostMessageA(box, WM_COMMAND, IDCANCEL, 0); });
   };
   cancel();
-  ExpectOursAfter("GetOpenFileNameA",
-                  [&] { dialogs.GetOpenFileNameA({.title = "Look", .filter = "All\0*.*\0", .folder = ""}); });
+  ExpectOursAfter("GetOpenFileNameA", [&] {
+    EXPECT_EQ(dialogs.GetOpenFileNameA({.title = "Look", .filter = "All\0*.*\0", .folder = ""}), "");
+  });
   cancel();
-  ExpectOursAfter("SHBrowseForFolderA", [&] { dialogs.SHBrowseForFolderA("Which?", ""); });
+  ExpectOursAfter("SHBrowseForFolderA", [&] { EXPECT_EQ(dialogs.SHBrowseForFolderA("Which?", ""), ""); });
   os::win32::Win32Printer printer;
   machine.AnswerNextBox(IDOK);
   ExpectOursAfter("PrintDlgA", [&] { static_cast<void>(printer.PrintDlgA()); });
