@@ -12,20 +12,21 @@ namespace {
 std::string Remarks(const FoundList& found) {
   std::string remarks;
   if (found.is_from_backup) {
-    remarks += "- An earlier save was interrupted. The list was taken from launcher.bak.\r\n";
+    remarks += "- An earlier save was interrupted. This list comes from the backup, launcher.bak.\r\n";
   }
   if (found.has_odd_length) {
-    remarks += "- The file ends in the middle of a program, of which something may be missing.\r\n";
+    remarks += "- The file ends in the middle of a program. The last program may be incomplete.\r\n";
   }
   if (found.is_cut) {
-    remarks += "- The file is longer than 100 programs. The rest of it was not read.\r\n";
+    remarks += "- The file is longer than 100 programs. Only the first 100 were read.\r\n";
   }
   if (found.entries.size() > launcher::kMostEntries) {
     remarks += "- It holds " + base::TextOf(static_cast<std::int32_t>(found.entries.size())) +
-               " programs, and the launcher takes 25 at most. Please remove some.\r\n";
+               " programs, but the launcher takes only 25. Please remove some.\r\n";
   }
   if (found.has_control_characters) {
-    remarks += "- Some texts held characters that cannot be shown. They were left out.\r\n";
+    remarks +=
+        "- Some texts contained characters that cannot be displayed. Those characters were left out.\r\n";
   }
   if (found.has_incomplete_entries) remarks += "- Some programs have no name or no command line.\r\n";
   return remarks;
@@ -53,8 +54,8 @@ void ConfigForm::Start() {
   const FoundList found = file_.Read();
   if (!found.is_readable) {
     boxes_.Tell(
-        "The list of programs is there, but it could not be read.\r\n\r\nPlease make sure that no other "
-        "program has launcher.dat open, and start Config Launcher again.");
+        "The list of programs could not be read.\r\n\r\nPlease make sure that no other program has "
+        "launcher.dat open, and start Config Launcher again.");
     screen_.Window.Unload();
     return;
   }
@@ -62,8 +63,8 @@ void ConfigForm::Start() {
   screen_.Window.Show();
   const std::string remarks = Remarks(found);
   if (!remarks.empty()) {
-    boxes_.Tell("The list of programs (launcher.dat) is not as it should be:\r\n\r\n" + remarks +
-                "\r\nThe file stays as it is until you save the list.");
+    boxes_.Tell("There are problems with the list of programs (launcher.dat):\r\n\r\n" + remarks +
+                "\r\nThe file does not change until you save the list.");
   }
 }
 
@@ -78,7 +79,7 @@ void ConfigForm::ActivatedMinimised(std::uint32_t former_thread) {
 
 bool ConfigForm::MaySessionEnd() {
   if (screen_.Window.Unloaded() || !LosesSomething()) return true;
-  switch (boxes_.Choose("The list of programs is not saved.\r\n\r\nDo you want to save it?")) {
+  switch (boxes_.Choose("The list of programs has not been saved.\r\n\r\nDo you want to save it?")) {
     case Boxes::Choice::kYes:
       return SaveList();
     case Boxes::Choice::kNo:
@@ -96,8 +97,8 @@ base::Status ConfigForm::cmdOK_Click() {
 
 bool ConfigForm::SaveList() {
   if (entry_list_.HasUnusedFields() &&
-      !boxes_.Ask("What you typed in the fields is not in the list. \"Add\" or \"Change\" puts it there."
-                  "\r\n\r\nDo you want to save the list without it?")) {
+      !boxes_.Ask("What you typed in the fields is not in the list. To put it there, answer No and press "
+                  "\"Add\" or \"Change\".\r\n\r\nDo you want to save the list without it?")) {
     return false;
   }
   if (entry_list_.Entries().size() > launcher::kMostEntries) {
@@ -125,7 +126,7 @@ base::Status ConfigForm::cmdCancel_Click() {
 
 bool ConfigForm::MayClose() {
   if (boxes_.AnyIsOpen()) return false;
-  return !LosesSomething() || boxes_.Ask("Discard the changes?");
+  return !LosesSomething() || boxes_.Ask("Do you want to discard your changes?");
 }
 
 bool ConfigForm::LosesSomething() const { return entry_list_.IsChanged() || entry_list_.HasUnusedFields(); }

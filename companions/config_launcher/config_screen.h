@@ -29,21 +29,21 @@ struct ConfigScreen {
                        {.name = "cmdMoveUp",
                         .caption = "Move Up",
                         .access_key = 'U',
-                        .tool_tip = "Move the selected program one place towards the beginning",
+                        .tool_tip = "Move the selected program up one place",
                         .place = {206, 18, 50, 14},
                         .enabled = false}};
   ui::Button cmdMoveDown{Window,
                          {.name = "cmdMoveDown",
                           .caption = "Move Down",
                           .access_key = 'D',
-                          .tool_tip = "Move the selected program one place towards the end",
+                          .tool_tip = "Move the selected program down one place",
                           .place = {206, 36, 50, 14},
                           .enabled = false}};
   ui::Button cmdRemove{Window,
                        {.name = "cmdRemove",
                         .caption = "Remove",
                         .access_key = 'R',
-                        .tool_tip = "Take the selected program out of the list",
+                        .tool_tip = "Remove the selected program from the list",
                         .place = {206, 57, 50, 14},
                         .enabled = false}};
 
@@ -55,7 +55,7 @@ struct ConfigScreen {
                     {.name = "cmdNew",
                      .caption = "New",
                      .access_key = 'e',
-                     .tool_tip = "Empty the fields for another program",
+                     .tool_tip = "Clear the fields for a new program",
                      .place = {206, 109, 50, 14}}};
   ui::Label lblPath{
       Window, {.name = "lblPath", .caption = "Command Line:", .access_key = 'C', .place = {7, 129, 54, 8}}};
@@ -65,7 +65,7 @@ struct ConfigScreen {
                            {.name = "cmdBrowsePath",
                             .caption = "Browse...",
                             .access_key = 'B',
-                            .tool_tip = "Look for a program to add",
+                            .tool_tip = "Find a program to add",
                             .place = {206, 127, 50, 14}}};
   ui::Label lblStartIn{
       Window, {.name = "lblStartIn", .caption = "Start In:", .access_key = 'S', .place = {7, 147, 54, 8}}};
@@ -75,19 +75,19 @@ struct ConfigScreen {
                               {.name = "cmdBrowseStartIn",
                                .caption = "Browse...",
                                .access_key = 'w',
-                               .tool_tip = "Look for the folder that the program is started in",
+                               .tool_tip = "Find the folder that the program starts in",
                                .place = {206, 145, 50, 14}}};
   ui::Button cmdAdd{Window,
                     {.name = "cmdAdd",
                      .caption = "Add",
                      .access_key = 'A',
-                     .tool_tip = "Put what is typed here at the end of the list",
+                     .tool_tip = "Add this program to the end of the list",
                      .place = {64, 166, 50, 14}}};
   ui::Button cmdChange{Window,
                        {.name = "cmdChange",
                         .caption = "Change",
                         .access_key = 'h',
-                        .tool_tip = "Give the selected program what is typed here",
+                        .tool_tip = "Change the selected program to what you typed",
                         .place = {118, 166, 50, 14},
                         .enabled = false}};
 

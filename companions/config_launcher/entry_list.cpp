@@ -104,10 +104,9 @@ base::Status EntryList::lstPrograms_RowKey(ui::RowKey key) {
 }
 
 bool EntryList::MayDiscardFields() {
-  return !HasUnusedFields() ||
-         boxes_.Ask(
-             "What you typed in the fields is not in the list. \"Add\" or \"Change\" puts it there."
-             "\r\n\r\nDo you want to discard it?");
+  return !HasUnusedFields() || boxes_.Ask(
+                                   "What you typed in the fields is not in the list. To put it there, answer "
+                                   "No and press \"Add\" or \"Change\".\r\n\r\nDo you want to discard it?");
 }
 
 base::Status EntryList::cmdNew_Click() {
@@ -137,19 +136,19 @@ bool EntryList::CanBeUsed(const LauncherEntry& entry) {
     return false;
   }
   if (IsDividingLine(entry.name)) {
-    boxes_.Tell("The name \"-\" would be a dividing line in the menu.\r\n\r\nPlease type another name.");
+    boxes_.Tell("The menu shows the name \"-\" as a dividing line.\r\n\r\nPlease type another name.");
     screen_.txtName.SetFocus();
     return false;
   }
   if (entry.path.empty()) {
-    boxes_.Tell("Please type the command line that starts the program, or look for it with \"Browse...\".");
+    boxes_.Tell("Please type a command line, or press \"Browse...\" to find the program.");
     screen_.txtPath.SetFocus();
     return false;
   }
   if (!HasDriveLetter(entry.start_in) &&
-      !boxes_.Ask("The launcher cannot start a program in this folder, and shows an error at each start. "
-                  "\"Start In:\" needs a drive letter, also for a network folder.\r\n\r\n"
-                  "Do you want to keep the folder all the same?")) {
+      !boxes_.Ask(
+          "The launcher cannot use this folder and would show an error at each start. \"Start In:\" needs a "
+          "drive letter, even for a network folder.\r\n\r\nDo you want to keep the folder anyway?")) {
     screen_.txtStartIn.SetFocus();
     return false;
   }

@@ -56,14 +56,14 @@ bool PickedFiles::CanBeStarted(const std::string& path) const {
 void PickedFiles::Report(Boxes& boxes) const {
   if (!refused_.Empty()) {
     boxes.Tell(
-        "These were left out. They are neither programs nor shortcuts to programs, or their paths are too "
-        "long for the list:\r\n\r\n" +
+        "These files were not added. They are not programs or shortcuts to programs, or their paths are too "
+        "long:\r\n\r\n" +
         refused_.Text());
   }
   if (!without_folder_.Empty()) {
     boxes.Tell(
-        "The launcher cannot start a program in a network folder without a drive letter. \"Start In:\" was "
-        "left empty for these:\r\n\r\n" +
+        "The launcher cannot use a network folder that has no drive letter. \"Start In:\" was left empty for "
+        "these programs:\r\n\r\n" +
         without_folder_.Text());
   }
 }

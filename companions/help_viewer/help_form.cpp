@@ -110,7 +110,7 @@ base::Status HelpForm::cmdCopy_Click() {
   screen_.paneTopic.SetFocus();
   if (!devices_.clipboard.SetClipboardData(PlainText(screen_.paneTopic.Shown()))) {
     Tell(
-        "The topic could not be copied.\r\n\r\nAnother program may have the clipboard open. Please try "
+        "The topic could not be copied.\r\n\r\nAnother program may be using the clipboard. Please try "
         "again.");
   }
   return base::kDone;

@@ -43,14 +43,14 @@ struct HelpScreen {
                      {.name = "cmdBack",
                       .caption = "Back",
                       .access_key = 'B',
-                      .tool_tip = "Return to the topic before this one",
+                      .tool_tip = "Go back to the previous topic",
                       .place = {61, 7, 50, kButtonHeight},
                       .enabled = false}};
   ui::Button cmdFind{Window,
                      {.name = "cmdFind",
                       .caption = "Find",
                       .access_key = 'F',
-                      .tool_tip = "List the topics that have a word",
+                      .tool_tip = "Find the topics that contain a word",
                       .place = {115, 7, 50, kButtonHeight}}};
   ui::Button cmdPrint{Window,
                       {.name = "cmdPrint",
@@ -73,7 +73,7 @@ struct HelpScreen {
                      {.name = "lblFound", .caption = "Topics found:", .access_key = 'T', .visible = false}};
   ui::ListBox lstFound{Window,
                        {.name = "lstFound",
-                        .tool_tip = "Enter or a double click opens a topic, once more goes to the next place",
+                        .tool_tip = "Press Enter or double-click to open a topic, again for the next match",
                         .visible = false}};
   TopicPane paneTopic{Window, {.name = "paneTopic"}};
 

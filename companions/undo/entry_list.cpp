@@ -113,7 +113,7 @@ base::Status EntryList::cmdPutBack_Click() {
 }
 
 std::string EntryList::Question(const Choice& chosen) const {
-  std::string question = "The following will be done:\r\n\r\n";
+  std::string question = "Q-DIX Undo will make these changes:\r\n\r\n";
   for (std::size_t row = 0; row < kEntries.size(); ++row) {
     if (chosen[row])
       question += ActionText(kEntries[row], states_[row].before) + std::string(base::kLineBreak);

@@ -6,28 +6,25 @@ namespace {
 
 const char* RecordText(const Record& record, const Backup& backup) {
   if (record.HasValues()) {
-    return "These settings were recorded before Q-DIX changed this computer for the first time. Tick those "
-           "that "
-           "are to be put back.";
+    return "Q-DIX recorded these settings before it first changed this computer. Tick the ones that you want "
+           "to put back.";
   }
   if (record.IsTaken()) {
-    return backup.IsWhole() ? "The record holds no values. What can be put back is taken from the backup."
-                            : "The record holds no values, and there is no backup to go by.";
+    return backup.IsWhole() ? "The record is empty. Settings can be put back only from the backup."
+                            : "The record is empty, and there is no usable backup.";
   }
-  return backup.IsWhole()
-             ? "Nothing is recorded, so single settings cannot be put back. The whole of system.ini "
-               "can be."
-             : "Nothing is recorded. Q-DIX records these settings before it changes one of them for "
-               "the first time, so there is nothing to put back.";
+  return backup.IsWhole() ? "Nothing is recorded, so you can only restore the whole of system.ini."
+                          : "Nothing is recorded. Q-DIX records these settings before it first changes one, "
+                            "so there is nothing to put back.";
 }
 
 /// Of a backup that can be read and is not whole.
 const char* Fault(IniState state) {
   switch (state) {
     case IniState::kWithoutBoot:
-      return "has no section [boot]";
+      return "has no [boot] section";
     case IniState::kWithout386Enh:
-      return "has no section [386Enh]";
+      return "has no [386Enh] section";
     default:
       return "ends in the middle of a line";
   }
@@ -39,7 +36,7 @@ std::string WholeBackupText(const Backup& backup, bool is_of_another_time, os::C
   const std::string date = DateOf(backup, clock);
   if (!date.empty()) text += ", system.ini as of " + date;
   text += '.';
-  if (is_of_another_time) text += " It is not of the time of the record: no single setting is taken from it.";
+  if (is_of_another_time) text += " It does not match the record, so no single setting is taken from it.";
   return text;
 }
 
@@ -48,12 +45,12 @@ std::string WholeBackupText(const Backup& backup, bool is_of_another_time, os::C
 std::string StateText(const Settings& settings) {
   std::string fault;
   if (settings.SystemIniState() == IniState::kMissing) fault = "is missing";
-  if (settings.SystemIniState() == IniState::kWithoutBoot) fault = "has no section [boot]";
+  if (settings.SystemIniState() == IniState::kWithoutBoot) fault = "has no [boot] section";
   if (fault.empty()) return RecordText(settings.TheRecord(), settings.TheBackup());
-  return "Warning: system.ini " + fault + ". Windows does not start without it. " +
+  return "Warning: system.ini " + fault + ". Windows cannot start without it. " +
          (settings.TheBackup().IsWhole()
               ? "Restore the whole file before you restart."
-              : "Put a whole copy of it into the Windows folder before you restart.");
+              : "Put a complete system.ini in the Windows folder before you restart.");
 }
 
 std::string BackupText(const Backup& backup, const Record& record, os::Clock& clock) {
@@ -67,7 +64,7 @@ std::string BackupText(const Backup& backup, const Record& record, os::Clock& cl
       return WholeBackupText(backup, record.IsTaken() && !backup.agrees, clock);
     default:
       return "system.qdix in the Windows folder is damaged: it " + std::string(Fault(backup.state)) +
-             ". Nothing is taken from it.";
+             ". It will not be used.";
   }
 }
 

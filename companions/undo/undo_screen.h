@@ -69,19 +69,19 @@ struct UndoScreen {
       {.name = "FrameCache", .caption = "Disk Cache ([vcache] of system.ini)", .place = {7, 48, 249, 50}}};
   EntryRow MinFileCache{FrameCache,
                         {"chkMinFileCache", "lblMinFileCacheBefore", "lblMinFileCacheNow", "MinFileCache",
-                         'M', "Smallest size of the disk cache in KB", 59}};
+                         'M', "Minimum size of the disk cache in KB", 59}};
   EntryRow MaxFileCache{FrameCache,
                         {"chkMaxFileCache", "lblMaxFileCacheBefore", "lblMaxFileCacheNow", "MaxFileCache",
-                         'x', "Largest size of the disk cache in KB", 71}};
+                         'x', "Maximum size of the disk cache in KB", 71}};
   EntryRow ChunkSize{FrameCache,
                      {"chkChunkSize", "lblChunkSizeBefore", "lblChunkSizeNow", "ChunkSize", 'k',
-                      "KB that the disk cache reads at one time", 83}};
+                      "Number of KB that the disk cache reads at once", 83}};
 
   ui::Frame FrameTemplate{
       Window, {.name = "FrameTemplate", .caption = "File System Template", .place = {7, 102, 249, 26}}};
   EntryRow Template{FrameTemplate,
                     {"chkTemplate", "lblTemplateBefore", "lblTemplateNow", "Template in force", 'T',
-                     "Kind of machine for which Windows keeps names of files and folders", 113}};
+                     "Sets how many file and folder names Windows remembers", 113}};
 
   ui::Frame FrameSwapFile{
       Window,
@@ -91,10 +91,10 @@ struct UndoScreen {
                         "Drive of the swap file", 143}};
   EntryRow MinPagingFileSize{FrameSwapFile,
                              {"chkMinPagingFileSize", "lblMinPagingFileSizeBefore", "lblMinPagingFileSizeNow",
-                              "MinPagingFileSize", 'n', "Smallest size of the swap file in KB", 155}};
+                              "MinPagingFileSize", 'n', "Minimum size of the swap file in KB", 155}};
   EntryRow MaxPagingFileSize{FrameSwapFile,
                              {"chkMaxPagingFileSize", "lblMaxPagingFileSizeBefore", "lblMaxPagingFileSizeNow",
-                              "MaxPagingFileSize", 'a', "Largest size of the swap file in KB", 167}};
+                              "MaxPagingFileSize", 'a', "Maximum size of the swap file in KB", 167}};
   EntryRow Paging{FrameSwapFile,
                   {"chkPaging", "lblPagingBefore", "lblPagingNow", "Paging", 'g',
                    "Whether Windows uses a swap file", 179}};
@@ -105,7 +105,7 @@ struct UndoScreen {
                         {.name = "cmdPutBack",
                          .caption = "Put Back",
                          .access_key = 'P',
-                         .tool_tip = "Give the ticked settings their values from before, or remove them",
+                         .tool_tip = "Give the ticked settings their old values, or remove them",
                          .place = {63, 235, 56, 14},
                          .enabled = false},
                         ui::ButtonRole::kDefault};
@@ -113,7 +113,7 @@ struct UndoScreen {
                         {.name = "cmdRestore",
                          .caption = "Restore Whole File...",
                          .access_key = 'R',
-                         .tool_tip = "Replace all of system.ini by system.qdix",
+                         .tool_tip = "Replace all of system.ini with system.qdix",
                          .place = {123, 235, 80, 14},
                          .enabled = false}};
   ui::Button cmdClose{

@@ -54,14 +54,13 @@ base::Status WholeFile::cmdRestore_Click() {
 std::string WholeFile::Question() const {
   const Backup& backup = settings_.TheBackup();
   const std::string date = DateOf(backup, system_.clock);
-  std::string question = "All of system.ini will be replaced by system.qdix";
-  question += date.empty() ? "." : ", its copy of " + date + ".";
+  std::string question = "All of system.ini will be replaced with system.qdix";
+  question += date.empty() ? "." : ", the copy dated " + date + ".";
   question +=
-      "\r\n\r\nEvery change that was made to system.ini after that will be lost, also those by Windows and "
-      "by other "
-      "programs. The present file is kept under another name.\r\n\r\n";
+      "\r\n\r\nYou will lose every change made to system.ini since that copy, including those made by "
+      "Windows and other programs. The current file will be kept under another name.\r\n\r\n";
   if (settings_.TheRecord().IsTaken() && !backup.agrees) {
-    question += "The copy is not of the time of the record.\r\n\r\n";
+    question += "This copy does not match the settings that Q-DIX recorded. Check its date.\r\n\r\n";
   }
   return question + "Do you want to replace system.ini?";
 }
@@ -91,7 +90,7 @@ void WholeFile::TellFailure(const Replacement& replacement) {
   const std::string text =
       replacement.outcome == Replacement::Outcome::kRenamed
           ? "system.ini could not be replaced, and is now called " + replacement.kept_name +
-                ". Give it the name system.ini again before you restart: Windows does not start without it."
+                ". Rename it to system.ini before you restart: Windows cannot start without it."
           : "system.ini could not be replaced, and has not been changed.\r\n\r\n"
             "Please make sure that it is not write-protected, that no other program has it open and that the "
             "disk "

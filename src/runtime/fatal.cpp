@@ -24,9 +24,9 @@ constinit bool ending = false;
 
 }  // namespace
 
-void EndForLackOfMemory() { End("There is not enough memory for Q-DIX to go on."); }
+void EndForLackOfMemory() { End("Q-DIX is out of memory and must close."); }
 
-void EndForInternalError() { End("Q-DIX has found an error in itself and ends."); }
+void EndForInternalError() { End("Q-DIX has encountered an internal error and must close."); }
 
 }  // namespace qdix::runtime
 

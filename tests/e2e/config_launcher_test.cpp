@@ -187,7 +187,7 @@ TEST_F(ConfigSession, CancelAndTheCloseButtonAskBeforeChangesAreLost) {
   PressKey(VK_ESCAPE);
   const MessageBox question = AwaitBox();
   EXPECT_EQ(question.title, "Config Launcher");
-  EXPECT_EQ(question.text, "Discard the changes?");
+  EXPECT_EQ(question.text, "Do you want to discard your changes?");
   program.Close();
   PressKey(VK_RETURN);
   EXPECT_TRUE(program.Await([&] { return IsWindow(question.window) == 0; })) << "No is the default";
@@ -300,7 +300,7 @@ TEST_F(ConfigSession, EndOfTheWindowsSessionAsksForTheList) {
   for (const int button : {IDCANCEL, IDYES}) {
     const SessionQuestion may_end(program.MainWindow());
     const MessageBox box = AwaitBox();
-    EXPECT_EQ(box.text, "The list of programs is not saved.\r\n\r\nDo you want to save it?");
+    EXPECT_EQ(box.text, "The list of programs has not been saved.\r\n\r\nDo you want to save it?");
     EXPECT_FALSE(may_end.IsAnswered());
     EXPECT_TRUE(Photograph("config_launcher_end_of_session"));
     ASSERT_TRUE(PressButton(box, button));

@@ -134,7 +134,7 @@ TEST_F(UndoSession, PutBackAsksWritesShowsAndOffersTheRestart) {
   program.Press("cmdPutBack");
   const MessageBox question = AwaitBox();
   EXPECT_EQ(question.title, "Q-DIX Undo");
-  EXPECT_TRUE(question.text.starts_with("The following will be done:")) << question.text;
+  EXPECT_TRUE(question.text.starts_with("Q-DIX Undo will make these changes:")) << question.text;
   EXPECT_EQ(WindowsFile(kSystemIni), kIniAfter) << "written before the answer";
   EXPECT_TRUE(Photograph("undo_question"));
   ASSERT_TRUE(PressButton(question, IDYES));
@@ -241,9 +241,9 @@ TEST_F(UndoSession, DamagedBackupIsSaidAndNothingIsTakenFromIt) {
   TakeRecord();
   SetWindowsFile(kSystemBackup, "[boot]\r\nshell=Explorer.exe\r\n[386Enh]\r\nPagingDr");
   Start();
-  EXPECT_EQ(program.Text("lblBackup"),
-            "system.qdix in the Windows folder is damaged: it ends in the middle of a line. Nothing is taken "
-            "from it.");
+  EXPECT_EQ(
+      program.Text("lblBackup"),
+      "system.qdix in the Windows folder is damaged: it ends in the middle of a line. It will not be used.");
   EXPECT_FALSE(program.IsEnabled("cmdRestore"));
   EXPECT_EQ(program.Text("lblPagingBefore"), "not recorded");
   ASSERT_TRUE(BringForward(program.MainWindow()));
@@ -254,8 +254,8 @@ TEST_F(UndoSession, DamagedBackupIsSaidAndNothingIsTakenFromIt) {
 TEST_F(UndoSession, WholeFileCanBeRestoredWithoutARecord) {
   SetWindowsFile(kSystemBackup, kIniBefore);
   Start();
-  EXPECT_TRUE(
-      program.Text("lblState").starts_with("Nothing is recorded, so single settings cannot be put back."));
+  EXPECT_TRUE(program.Text("lblState")
+                  .starts_with("Nothing is recorded, so you can only restore the whole of system.ini."));
   for (const char* const box : kBoxes) EXPECT_FALSE(program.IsEnabled(box)) << box;
   program.Press("cmdRestore");
   ASSERT_TRUE(PressButton(AwaitBox(), IDYES));
@@ -276,9 +276,8 @@ TEST_F(UndoSession, SystemIniWithoutBootIsWarnedOf) {
   SetWindowsFile(kSystemIni, "[386Enh]\r\nPagingDrive=C:\r\n");
   Start();
   EXPECT_EQ(program.Text("lblState"),
-            "Warning: system.ini has no section [boot]. Windows does not start without it. Restore the whole "
-            "file before "
-            "you restart.");
+            "Warning: system.ini has no [boot] section. Windows cannot start without it. Restore the whole "
+            "file before you restart.");
   ASSERT_TRUE(BringForward(program.MainWindow()));
   EXPECT_TRUE(Photograph("undo_without_boot"));
   Close();

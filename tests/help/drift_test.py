@@ -28,8 +28,7 @@ NOT_IN_A_BOX = {
     "- This reading is Incorrect. See our support page.", "(no name)",
     "Auto Detection feature has detected and released RAM", "Automatic feature has detected and released RAM",
     "times since Q-DIX was started on", "Next Release of RAM is due in", "Your system has been running for",
-    "These settings were recorded before Q-DIX changed this computer for the first time. Tick those that are to be "
-    "put back.",
+    "Q-DIX recorded these settings before it first changed this computer. Tick the ones that you want to put back.",
     "Backup: system.qdix in the Windows folder",
     # kinds of drives, which no window shows
     "The drive type cannot be determined.", "The root directory does not exist.", "Hard drive; can not be removed.",

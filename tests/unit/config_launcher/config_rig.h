@@ -16,22 +16,22 @@ inline constexpr const char* kListBackupPath = "C:\\Program Files\\QDIX\\launche
 inline constexpr const char* kListTemporaryPath = "C:\\Program Files\\QDIX\\launcher.tmp";
 
 inline constexpr const char* kDiscardFields =
-    "What you typed in the fields is not in the list. \"Add\" or \"Change\" puts it there.\r\n\r\n"
-    "Do you want to discard it?";
+    "What you typed in the fields is not in the list. To put it there, answer No and press \"Add\" or "
+    "\"Change\".\r\n\r\nDo you want to discard it?";
 inline constexpr const char* kSaveWithoutFields =
-    "What you typed in the fields is not in the list. \"Add\" or \"Change\" puts it there.\r\n\r\n"
-    "Do you want to save the list without it?";
+    "What you typed in the fields is not in the list. To put it there, answer No and press \"Add\" or "
+    "\"Change\".\r\n\r\nDo you want to save the list without it?";
 inline constexpr const char* kCouldNotBeSaved =
     "The list of programs could not be saved.\r\n\r\nYour previous list has not been changed. Please make "
     "sure that the disk is neither full nor write-protected and that no other program has launcher.dat "
     "open, and try again.";
 inline constexpr const char* kTakenFromBackup =
-    "An earlier save was interrupted. The list was taken from launcher.bak.";
+    "An earlier save was interrupted. This list comes from the backup, launcher.bak.";
 
 /// What is said of a list that is not as it should be, for one remark.
 inline std::string OpeningMessage(const std::string& remark) {
-  return "The list of programs (launcher.dat) is not as it should be:\r\n\r\n- " + remark +
-         "\r\n\r\nThe file stays as it is until you save the list.";
+  return "There are problems with the list of programs (launcher.dat):\r\n\r\n- " + remark +
+         "\r\n\r\nThe file does not change until you save the list.";
 }
 
 using Entries = std::vector<launcher::LauncherEntry>;

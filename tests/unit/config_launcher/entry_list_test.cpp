@@ -178,8 +178,8 @@ TEST(ConfigEntryList, NewAsksBeforeWhatIsTypedIsLost) {
   rig.Type(kGame);
   rig.Screen().cmdNew.Press();
   EXPECT_EQ(rig.BoxText(1),
-            "What you typed in the fields is not in the list. \"Add\" or \"Change\" puts it there.\r\n\r\n"
-            "Do you want to discard it?");
+            "What you typed in the fields is not in the list. To put it there, answer No and press \"Add\" "
+            "or \"Change\".\r\n\r\nDo you want to discard it?");
   EXPECT_EQ(rig.Fields(), kGame) << "No is the default";
   EXPECT_EQ(rig.Screen().lstPrograms.SelectedIndex(), 0);
   rig.machine.AnswerNextBox(os::kIdYes);
@@ -245,7 +245,7 @@ TEST(ConfigEntryList, NameThatIsADividingLineIsRefused) {
   rig.Type({" - ", "NOTEPAD.EXE", ""});
   rig.Screen().cmdAdd.Press();
   EXPECT_EQ(rig.BoxText(1),
-            "The name \"-\" would be a dividing line in the menu.\r\n\r\nPlease type another name.");
+            "The menu shows the name \"-\" as a dividing line.\r\n\r\nPlease type another name.");
   EXPECT_TRUE(rig.Screen().txtName.HasFocus());
   rig.Screen().cmdChange.Press();
   EXPECT_EQ(rig.machine.Boxes().size(), 2U);
@@ -270,8 +270,8 @@ TEST(ConfigEntryList, FolderLosesItsQuotationMarks) {
 
 TEST(ConfigEntryList, FolderThatTheLauncherCannotUseIsAskedFor) {
   const std::string question =
-      "The launcher cannot start a program in this folder, and shows an error at each start. \"Start In:\" "
-      "needs a drive letter, also for a network folder.\r\n\r\nDo you want to keep the folder all the same?";
+      "The launcher cannot use this folder and would show an error at each start. \"Start In:\" needs a "
+      "drive letter, even for a network folder.\r\n\r\nDo you want to keep the folder anyway?";
   for (const char* const folder :
        {"\\\\SERVER\\SHARE", "\"\\\\SERVER\\SHARE\"", "\\GAMES", "GAMES", "1:\\"}) {
     ConfigRig rig;
@@ -309,8 +309,7 @@ TEST(ConfigEntryList, NameAndCommandLineAreNeeded) {
   EXPECT_EQ(rig.BoxText(2), "Please type a name for the program.");
   rig.Type({"Editor", " ", ""});
   rig.Screen().cmdChange.Press();
-  EXPECT_EQ(rig.BoxText(3),
-            "Please type the command line that starts the program, or look for it with \"Browse...\".");
+  EXPECT_EQ(rig.BoxText(3), "Please type a command line, or press \"Browse...\" to find the program.");
   EXPECT_TRUE(rig.Screen().txtPath.HasFocus());
   EXPECT_EQ(rig.form->Entries(), SomeEntries(1));
 }

@@ -60,8 +60,8 @@ int CallsOfASession(Before before) {
 
 bool IsKnown(const std::string& message) {
   constexpr std::array<const char*, 3> kBeginnings{
-      "The list of programs could not be saved.\r\n\r\n", "The list of programs is there, but it could not",
-      "The list of programs (launcher.dat) is not as it should be:"};
+      "The list of programs could not be saved.\r\n\r\n", "The list of programs could not be read",
+      "There are problems with the list of programs (launcher.dat):"};
   return std::any_of(kBeginnings.begin(), kBeginnings.end(),
                      [&message](const char* beginning) { return message.starts_with(beginning); });
 }

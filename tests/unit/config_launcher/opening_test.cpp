@@ -39,7 +39,7 @@ TEST_F(ConfigOpening, GoodListsAndNoneSayNothing) {
 
 TEST_F(ConfigOpening, OddLength) {
   ConfigRig rig(BytesOf(SomeEntries(2)).substr(0, 848));
-  ExpectRemark(rig, "The file ends in the middle of a program, of which something may be missing.");
+  ExpectRemark(rig, "The file ends in the middle of a program. The last program may be incomplete.");
   EXPECT_EQ(rig.form->Entries(), (Entries{SomeEntries(2)[0], {"Program 1", "C:\\P1.EXE /x", ""}}));
 }
 
@@ -47,7 +47,7 @@ TEST_F(ConfigOpening, TooManyAreShownAndNotSaved) {
   ConfigRig rig(SomeEntries(27));
   rig.Start();
   EXPECT_EQ(rig.BoxText(1),
-            OpeningMessage("It holds 27 programs, and the launcher takes 25 at most. Please remove some."));
+            OpeningMessage("It holds 27 programs, but the launcher takes only 25. Please remove some."));
   EXPECT_EQ(rig.form->Entries(), SomeEntries(27));
   rig.Screen().cmdRemove.Press();
   rig.Screen().cmdOK.Press();
@@ -63,7 +63,8 @@ TEST_F(ConfigOpening, TooManyAreShownAndNotSaved) {
 
 TEST_F(ConfigOpening, ControlCharactersAreLeftOut) {
   ConfigRig rig(Entries{{"Ed\0itor"s, "A.EXE\t/x", "\r\n"}});
-  ExpectRemark(rig, "Some texts held characters that cannot be shown. They were left out.");
+  ExpectRemark(rig,
+               "Some texts contained characters that cannot be displayed. Those characters were left out.");
   EXPECT_EQ(rig.form->Entries(), (Entries{{"Ed", "A.EXE /x", ""}}));
 }
 
@@ -86,8 +87,8 @@ TEST_F(ConfigOpening, ProgramsWithoutNameOrCommandLine) {
 TEST_F(ConfigOpening, HugeFileIsReadAsFarAsItCanBeShown) {
   ConfigRig rig(SomeEntries(150));
   ExpectRemark(rig,
-               "The file is longer than 100 programs. The rest of it was not read.\r\n"
-               "- It holds 100 programs, and the launcher takes 25 at most. Please remove some.");
+               "The file is longer than 100 programs. Only the first 100 were read.\r\n- It holds 100 "
+               "programs, but the launcher takes only 25. Please remove some.");
   EXPECT_EQ(rig.form->Entries(), SomeEntries(100));
 }
 
@@ -166,10 +167,9 @@ TEST_F(ConfigOpening, ListThatCannotBeReadIsNotWrittenOver) {
     rig.machine.FailNextCall("ReadFile");
     rig.machine.WhileBoxIsOpen([&rig] { EXPECT_FALSE(rig.form->Window().Unloaded()); });
     rig.Start();
-    EXPECT_EQ(
-        rig.BoxText(1),
-        "The list of programs is there, but it could not be read.\r\n\r\nPlease make sure that no other "
-        "program has launcher.dat open, and start Config Launcher again.");
+    EXPECT_EQ(rig.BoxText(1),
+              "The list of programs could not be read.\r\n\r\nPlease make sure that no other program has "
+              "launcher.dat open, and start Config Launcher again.");
     EXPECT_TRUE(rig.form->Window().Unloaded());
     EXPECT_FALSE(rig.form->Window().Shown());
     EXPECT_EQ(rig.Changes(), Names{});

@@ -11,12 +11,11 @@ const launcher::LauncherEntry kGame{"Game", "\"C:\\My Games\\G.EXE\" /full", ""}
 using Names = std::vector<std::string>;
 
 constexpr const char* kRefused =
-    "These were left out. They are neither programs nor shortcuts to programs, or their paths are too long "
-    "for "
-    "the list:\r\n\r\n";
+    "These files were not added. They are not programs or shortcuts to programs, or their paths are too "
+    "long:\r\n\r\n";
 constexpr const char* kWithoutFolder =
-    "The launcher cannot start a program in a network folder without a drive letter. \"Start In:\" was left "
-    "empty for these:\r\n\r\n";
+    "The launcher cannot use a network folder that has no drive letter. \"Start In:\" was left empty for "
+    "these programs:\r\n\r\n";
 
 TEST(ConfigDroppedFiles, AreAddedWithNameCommandLineAndFolder) {
   ConfigRig rig(SomeEntries(1));
@@ -317,7 +316,7 @@ TEST(ConfigBrowse, PathThatIsTooLongIsRefused) {
   EXPECT_EQ(rig.BoxText(1), kRefused + ("C:\\" + std::string(240, 'd')) + "\\12345 78.EXE\r\n");
   rig.dialogs.PickNext("C:\\" + std::string(253, 'd'));
   rig.Screen().cmdBrowseStartIn.Press();
-  EXPECT_EQ(rig.BoxText(2), "This path is too long for the list, which takes 255 characters.");
+  EXPECT_EQ(rig.BoxText(2), "This path is too long. The list takes paths of 255 characters at most.");
   EXPECT_EQ(rig.Fields(), SomeEntries(1)[0]);
 }
 

@@ -108,7 +108,7 @@ TEST(ConfigClosing, ChangesAreAskedForByCancelAndByTheWindow) {
         }
       };
       close();
-      EXPECT_EQ(rig.BoxText(1), "Discard the changes?");
+      EXPECT_EQ(rig.BoxText(1), "Do you want to discard your changes?");
       EXPECT_FALSE(rig.form->Window().Unloaded()) << "No is the default";
       rig.machine.AnswerNextBox(os::kIdYes);
       close();
@@ -128,7 +128,7 @@ TEST(ConfigClosing, NotUnderAnOpenQuestion) {
   EXPECT_FALSE(rig.form->Window().Unloaded());
 }
 
-constexpr const char* kNotSaved = "The list of programs is not saved.\r\n\r\nDo you want to save it?";
+constexpr const char* kNotSaved = "The list of programs has not been saved.\r\n\r\nDo you want to save it?";
 
 TEST(ConfigClosing, SessionMayEndAtOnceWhereNothingIsLost) {
   ConfigRig rig(SomeEntries(3));

@@ -12,20 +12,20 @@ constexpr const char* kControls =
     R"--(Label lblPrograms '&Programs, in the order of the launcher:'
 ListBox lstPrograms ''
 Label lblCount ''
-Button cmdMoveUp 'Move &Up' (Move the selected program one place towards the beginning) disabled
-Button cmdMoveDown 'Move &Down' (Move the selected program one place towards the end) disabled
-Button cmdRemove '&Remove' (Take the selected program out of the list) disabled
+Button cmdMoveUp 'Move &Up' (Move the selected program up one place) disabled
+Button cmdMoveDown 'Move &Down' (Move the selected program down one place) disabled
+Button cmdRemove '&Remove' (Remove the selected program from the list) disabled
 Label lblName '&Name:'
 TextBox txtName ''
-Button cmdNew 'N&ew' (Empty the fields for another program)
+Button cmdNew 'N&ew' (Clear the fields for a new program)
 Label lblPath '&Command Line:'
 TextBox txtPath ''
-Button cmdBrowsePath '&Browse...' (Look for a program to add)
+Button cmdBrowsePath '&Browse...' (Find a program to add)
 Label lblStartIn '&Start In:'
 TextBox txtStartIn ''
-Button cmdBrowseStartIn 'Bro&wse...' (Look for the folder that the program is started in)
-Button cmdAdd '&Add' (Put what is typed here at the end of the list)
-Button cmdChange 'C&hange' (Give the selected program what is typed here) disabled
+Button cmdBrowseStartIn 'Bro&wse...' (Find the folder that the program starts in)
+Button cmdAdd '&Add' (Add this program to the end of the list)
+Button cmdChange 'C&hange' (Change the selected program to what you typed) disabled
 Button cmdOK 'OK' (Save the list and close the window) default
 Button cmdCancel 'Cancel' cancel
 )--";

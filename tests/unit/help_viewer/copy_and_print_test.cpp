@@ -45,9 +45,9 @@ TEST(HelpCopy, ClipboardThatAnotherProgramHoldsIsTold) {
   rig.Start("0");
   rig.Screen().cmdCopy.Press();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
-  EXPECT_EQ(rig.machine.Boxes()[0].text,
-            "The topic could not be copied.\r\n\r\nAnother program may have the clipboard open. Please try "
-            "again.");
+  EXPECT_EQ(
+      rig.machine.Boxes()[0].text,
+      "The topic could not be copied.\r\n\r\nAnother program may be using the clipboard. Please try again.");
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk | os::kMbIconExclamation);
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Help")
       << "the title of the window would be found instead of it";

@@ -10,15 +10,15 @@ namespace {
 
 constexpr const char* kControls =
     R"--(Button cmdContents '&Contents' (List all topics)
-Button cmdBack '&Back' (Return to the topic before this one) disabled
-Button cmdFind '&Find' (List the topics that have a word)
+Button cmdBack '&Back' (Go back to the previous topic) disabled
+Button cmdFind '&Find' (Find the topics that contain a word)
 Button cmdPrint '&Print...' (Print this topic)
 Button cmdCopy 'Cop&y Topic' (Copy the text of the whole topic to the clipboard (Ctrl+C))
 ListBox lstContents ''
 Label lblWord '&Word to find:' hidden
 TextBox txtWord '' hidden
 Label lblFound '&Topics found:' hidden
-ListBox lstFound '' (Enter or a double click opens a topic, once more goes to the next place) hidden
+ListBox lstFound '' (Press Enter or double-click to open a topic, again for the next match) hidden
 Own paneTopic ''
 )--";
 

@@ -31,10 +31,12 @@ int CallsOfASession(int& calls_before) {
 }
 
 bool IsKnown(const std::string& message) {
-  constexpr std::array<const char*, 6> kBeginnings{
-      "The following will be done:\r\n\r\n", "These settings could not be put back:\r\n\r\n",
-      "All of system.ini will be replaced",  "system.ini could not be replaced, and ",
-      "system.ini has been replaced.",       "You must restart your computer"};
+  constexpr std::array<const char*, 6> kBeginnings{"Q-DIX Undo will make these changes:\r\n\r\n",
+                                                   "These settings could not be put back:\r\n\r\n",
+                                                   "All of system.ini will be replaced",
+                                                   "system.ini could not be replaced, and ",
+                                                   "system.ini has been replaced.",
+                                                   "You must restart your computer"};
   return std::any_of(kBeginnings.begin(), kBeginnings.end(),
                      [&message](const char* beginning) { return message.starts_with(beginning); });
 }

@@ -41,16 +41,11 @@ TEST_F(PutBack, QuestionNamesEachActionAndProposesNo) {
   rig.Screen().cmdPutBack.Press();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(BoxText(0),
-            "The following will be done:\r\n\r\n"
-            "[vcache] MinFileCache: put back 2048\r\n"
-            "[vcache] MaxFileCache: remove\r\n"
-            "[vcache] ChunkSize: remove\r\n"
-            "File system template: put back Desktop\r\n"
-            "[386Enh] PagingDrive: put back D:\r\n"
-            "[386Enh] MinPagingFileSize: put back 0 (from backup)\r\n"
-            "[386Enh] MaxPagingFileSize: remove\r\n"
-            "[386Enh] Paging: remove (not in backup)\r\n\r\n"
-            "Do you want to put these settings back?");
+            "Q-DIX Undo will make these changes:\r\n\r\n[vcache] MinFileCache: put back 2048\r\n[vcache] "
+            "MaxFileCache: remove\r\n[vcache] ChunkSize: remove\r\nFile system template: put back "
+            "Desktop\r\n[386Enh] PagingDrive: put back D:\r\n[386Enh] MinPagingFileSize: put back 0 (from "
+            "backup)\r\n[386Enh] MaxPagingFileSize: remove\r\n[386Enh] Paging: remove (not in "
+            "backup)\r\n\r\nDo you want to put these settings back?");
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Undo");
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbYesNo | os::kMbIconQuestion | os::kMbDefaultButton2);
 }
@@ -115,8 +110,8 @@ TEST_F(PutBack, OnlyTickedEntriesAreAskedForAndWritten) {
   UntickAllBut(rig.Screen().PagingDrive);
   PressAndAnswer(os::kIdYes);
   EXPECT_EQ(BoxText(0),
-            "The following will be done:\r\n\r\n[386Enh] PagingDrive: put back D:\r\n\r\n"
-            "Do you want to put these settings back?");
+            "Q-DIX Undo will make these changes:\r\n\r\n[386Enh] PagingDrive: put back D:\r\n\r\nDo you want "
+            "to put these settings back?");
   std::string expected = kIniAfter;
   expected.replace(expected.find("PagingDrive=C:"), 14, "PagingDrive=D:");
   EXPECT_EQ(rig.Ini(), expected);
@@ -136,8 +131,8 @@ TEST_F(PutBack, TemplateThatWasNotThereIsRemoved) {
   other.machine.AnswerNextBox(os::kIdNo);
   other.Screen().cmdPutBack.Press();
   EXPECT_EQ(other.machine.Boxes()[0].text,
-            "The following will be done:\r\n\r\nFile system template: remove\r\n\r\n"
-            "Do you want to put these settings back?");
+            "Q-DIX Undo will make these changes:\r\n\r\nFile system template: remove\r\n\r\nDo you want to "
+            "put these settings back?");
   EXPECT_EQ(other.Template(), std::nullopt);
   EXPECT_EQ(other.Screen().Template.now.Caption(), "(none)");
   EXPECT_EQ(other.Ini(), kIniBefore);
@@ -188,8 +183,8 @@ TEST_F(PutBack, SettingsAreReadAgainBeforeTheQuestion) {
   rig.SetTemplate("Other");
   PressAndAnswer(os::kIdNo);
   EXPECT_EQ(BoxText(0),
-            "The following will be done:\r\n\r\nFile system template: put back Desktop\r\n\r\n"
-            "Do you want to put these settings back?");
+            "Q-DIX Undo will make these changes:\r\n\r\nFile system template: put back Desktop\r\n\r\nDo you "
+            "want to put these settings back?");
 }
 
 TEST_F(PutBack, NothingIsAskedWhereNothingIsLeftToPutBack) {

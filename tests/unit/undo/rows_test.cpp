@@ -86,8 +86,8 @@ TEST(UndoRows, NothingRecordedLeavesOnlyClose) {
     rig.Change();
     rig.Start();
     EXPECT_EQ(rig.Screen().lblState.Caption(),
-              "Nothing is recorded. Q-DIX records these settings before it changes one of them for the first "
-              "time, so there is nothing to put back.");
+              "Nothing is recorded. Q-DIX records these settings before it first changes one, so there is "
+              "nothing to put back.");
     EXPECT_EQ(BoxesOf(rig.Screen()), "--------");
     for (const std::string& text : BeforeOf(rig.Screen())) EXPECT_EQ(text, "not recorded");
     EXPECT_FALSE(rig.Screen().cmdPutBack.Enabled());

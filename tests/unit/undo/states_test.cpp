@@ -7,9 +7,8 @@ namespace qdix::tests {
 namespace {
 
 constexpr const char* kRecorded =
-    "These settings were recorded before Q-DIX changed this computer for the first time. Tick those that are "
-    "to be "
-    "put back.";
+    "Q-DIX recorded these settings before it first changed this computer. Tick the ones that you want to put "
+    "back.";
 constexpr const char* kNoBackup = "There is no backup of system.ini (system.qdix in the Windows folder).";
 constexpr const char* kDatedBackup =
     "Backup: system.qdix in the Windows folder (SYSTEM~1.QDI at the command prompt), system.ini as of "
@@ -42,7 +41,7 @@ class UndoState : public testing::Test {
     rig.machine.WriteFile(kBackupPath, bytes);
     Start();
     EXPECT_EQ(Backup(),
-              "system.qdix in the Windows folder is damaged: it " + fault + ". Nothing is taken from it.");
+              "system.qdix in the Windows folder is damaged: it " + fault + ". It will not be used.");
     EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
     EXPECT_EQ(rig.Screen().MinPagingFileSize.before.Caption(), "not recorded");
     EXPECT_EQ(rig.Screen().Paging.before.Caption(), "not recorded");
@@ -75,7 +74,7 @@ TEST_F(UndoState, RecordWithoutValues) {
   RemoveRecordValues();
   rig.machine.WriteFile(kBackupPath, kIniBefore);
   Start();
-  EXPECT_EQ(State(), "The record holds no values. What can be put back is taken from the backup.");
+  EXPECT_EQ(State(), "The record is empty. Settings can be put back only from the backup.");
   EXPECT_EQ(Backup(), kDatedBackup);
   EXPECT_EQ(rig.Screen().MinFileCache.before.Caption(), "not recorded; backup: 2048");
   EXPECT_TRUE(rig.Screen().MinFileCache.box.Ticked());
@@ -86,7 +85,7 @@ TEST_F(UndoState, RecordWithoutValues) {
 TEST_F(UndoState, RecordWithoutValuesAndWithoutBackup) {
   RemoveRecordValues();
   Start();
-  EXPECT_EQ(State(), "The record holds no values, and there is no backup to go by.");
+  EXPECT_EQ(State(), "The record is empty, and there is no usable backup.");
   EXPECT_EQ(Backup(), kNoBackup);
   EXPECT_EQ(RowsToPutBack(), 0);
   EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
@@ -95,8 +94,7 @@ TEST_F(UndoState, RecordWithoutValuesAndWithoutBackup) {
 TEST_F(UndoState, BackupWithoutRecordServesTheWholeFile) {
   rig.machine.WriteFile(kBackupPath, kIniBefore);
   Start();
-  EXPECT_EQ(State(),
-            "Nothing is recorded, so single settings cannot be put back. The whole of system.ini can be.");
+  EXPECT_EQ(State(), "Nothing is recorded, so you can only restore the whole of system.ini.");
   EXPECT_EQ(Backup(), kDatedBackup);
   EXPECT_EQ(RowsToPutBack(), 0);
   EXPECT_TRUE(rig.Screen().cmdRestore.Enabled());
@@ -105,8 +103,8 @@ TEST_F(UndoState, BackupWithoutRecordServesTheWholeFile) {
 TEST_F(UndoState, NeitherRecordNorBackup) {
   Start();
   EXPECT_EQ(State(),
-            "Nothing is recorded. Q-DIX records these settings before it changes one of them for the first "
-            "time, so there is nothing to put back.");
+            "Nothing is recorded. Q-DIX records these settings before it first changes one, so there is "
+            "nothing to put back.");
   EXPECT_EQ(Backup(), kNoBackup);
   EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
 }
@@ -117,14 +115,14 @@ TEST_F(UndoState, BackupOfAnotherTimeIsNotBelievedEntryByEntry) {
   rig.TakeRecord();
   Start();
   EXPECT_EQ(Backup(), std::string(kDatedBackup) +
-                          " It is not of the time of the record: no single setting is taken from it.");
+                          " It does not match the record, so no single setting is taken from it.");
   EXPECT_EQ(rig.Screen().PagingDrive.before.Caption(), "D:");
   EXPECT_EQ(rig.Screen().Paging.before.Caption(), "not recorded");
   EXPECT_EQ(RowsToPutBack(), 5);
   EXPECT_TRUE(rig.Screen().cmdRestore.Enabled());
   rig.Screen().cmdRestore.Press();
-  EXPECT_NE(rig.machine.Boxes()[0].text.find(
-                "\r\n\r\nThe copy is not of the time of the record.\r\n\r\nDo you want"),
+  EXPECT_NE(rig.machine.Boxes()[0].text.find("\r\n\r\nThis copy does not match the settings that Q-DIX "
+                                             "recorded. Check its date.\r\n\r\nDo you want"),
             std::string::npos)
       << rig.machine.Boxes()[0].text;
 }
@@ -144,12 +142,12 @@ TEST_F(UndoState, NoTextCallsAnOldWriteProtectedCopyOneOfTheFirstChange) {
 
 TEST_F(UndoState, BackupWithoutBootIsDamaged) {
   rig.TakeRecord();
-  ExpectDamaged("[386Enh]\r\nPagingDrive=D:\r\n", "has no section [boot]");
+  ExpectDamaged("[386Enh]\r\nPagingDrive=D:\r\n", "has no [boot] section");
 }
 
 TEST_F(UndoState, BackupWithout386EnhIsDamaged) {
   rig.TakeRecord();
-  ExpectDamaged("[boot]\r\nshell=Explorer.exe\r\n", "has no section [386Enh]");
+  ExpectDamaged("[boot]\r\nshell=Explorer.exe\r\n", "has no [386Enh] section");
 }
 
 TEST_F(UndoState, BackupCutOnAFullDiskIsDamaged) {
@@ -186,14 +184,14 @@ TEST_F(UndoState, MissingSystemIniIsWarnedOf) {
   rig.SetTemplate("Quondix");
   rig.Start();
   EXPECT_EQ(State(),
-            "Warning: system.ini is missing. Windows does not start without it. Restore the whole file "
-            "before you restart.");
+            "Warning: system.ini is missing. Windows cannot start without it. Restore the whole file before "
+            "you restart.");
   EXPECT_EQ(RowsToPutBack(), 1) << "the template; an entry would make a system.ini without anything else";
   EXPECT_TRUE(rig.Screen().Template.box.Ticked());
   rig.machine.EraseFile(kBackupPath);
   rig.Start();
   EXPECT_EQ(State(),
-            "Warning: system.ini is missing. Windows does not start without it. Put a whole copy of it into "
+            "Warning: system.ini is missing. Windows cannot start without it. Put a complete system.ini in "
             "the Windows folder before you restart.");
 }
 
@@ -202,13 +200,13 @@ TEST_F(UndoState, SystemIniWithoutBootIsWarnedOf) {
   rig.machine.WriteFile(kIniPath, "[386Enh]\r\nPagingDrive=C:\r\n");
   rig.Start();
   EXPECT_EQ(State(),
-            "Warning: system.ini has no section [boot]. Windows does not start without it. Restore the whole "
+            "Warning: system.ini has no [boot] section. Windows cannot start without it. Restore the whole "
             "file before you restart.");
   rig.machine.EraseFile(kBackupPath);
   rig.Start();
   EXPECT_EQ(State(),
-            "Warning: system.ini has no section [boot]. Windows does not start without it. Put a whole copy "
-            "of it into the Windows folder before you restart.");
+            "Warning: system.ini has no [boot] section. Windows cannot start without it. Put a complete "
+            "system.ini in the Windows folder before you restart.");
 }
 
 }  // namespace

@@ -53,10 +53,10 @@ TEST_F(WholeFile, QuestionTellsTheDateOfTheCopyAndProposesNo) {
   rig.Screen().cmdRestore.Press();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(BoxText(0),
-            "All of system.ini will be replaced by system.qdix, its copy of Monday, May 3, 1999.\r\n\r\n"
-            "Every change that was made to system.ini after that will be lost, also those by Windows and by "
-            "other programs. The present file is kept under another name.\r\n\r\n"
-            "Do you want to replace system.ini?");
+            "All of system.ini will be replaced with system.qdix, the copy dated Monday, May 3, "
+            "1999.\r\n\r\nYou will lose every change made to system.ini since that copy, including those "
+            "made by Windows and other programs. The current file will be kept under another name.\r\n\r\nDo "
+            "you want to replace system.ini?");
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbYesNo | os::kMbIconExclamation | os::kMbDefaultButton2);
 }
 
@@ -64,9 +64,9 @@ TEST_F(WholeFile, QuestionDoesWithoutADateThatCannotBeRead) {
   rig.machine.FailNextCall("FindFirstFileA");
   rig.Screen().cmdRestore.Press();
   EXPECT_EQ(BoxText(0),
-            "All of system.ini will be replaced by system.qdix.\r\n\r\nEvery change that was made to "
-            "system.ini after that will be lost, also those by Windows and by other programs. The present "
-            "file is kept under another name.\r\n\r\nDo you want to replace system.ini?");
+            "All of system.ini will be replaced with system.qdix.\r\n\r\nYou will lose every change made to "
+            "system.ini since that copy, including those made by Windows and other programs. The current "
+            "file will be kept under another name.\r\n\r\nDo you want to replace system.ini?");
 }
 
 TEST_F(WholeFile, NoChangesNothing) {
@@ -124,8 +124,8 @@ TEST_F(WholeFile, OwnTemplateCanBeRemovedAlsoWithoutARecord) {
   other.Screen().cmdPutBack.Press();
   ASSERT_EQ(other.machine.Boxes().size(), 5U) << "question, news and restart, question and restart";
   EXPECT_EQ(other.machine.Boxes()[3].text,
-            "The following will be done:\r\n\r\nFile system template: remove (not recorded)\r\n\r\n"
-            "Do you want to put these settings back?");
+            "Q-DIX Undo will make these changes:\r\n\r\nFile system template: remove (not "
+            "recorded)\r\n\r\nDo you want to put these settings back?");
   EXPECT_EQ(other.Template(), std::nullopt);
 }
 
@@ -166,17 +166,15 @@ TEST_F(WholeFile, FileThatLostItsNameIsNamed) {
   rig.machine.CutPowerInDiskWrite(rig.machine.DiskWriteCount() + kLastGoodWrite + 1);
   PressAndAnswer({os::kIdYes, os::kIdOk});
   ASSERT_EQ(rig.machine.Boxes().size(), 2U);
-  EXPECT_EQ(
-      BoxText(1),
-      "system.ini could not be replaced, and is now called SYSTEM.Q01. Give it the name system.ini again "
-      "before you restart: Windows does not start without it.");
+  EXPECT_EQ(BoxText(1),
+            "system.ini could not be replaced, and is now called SYSTEM.Q01. Rename it to system.ini before "
+            "you restart: Windows cannot start without it.");
   EXPECT_EQ(rig.machine.Boxes()[1].flags, os::kMbOk | os::kMbIconExclamation);
   EXPECT_EQ(rig.machine.ReadFile(kIniPath), std::nullopt);
   EXPECT_EQ(rig.machine.ReadFile(kKeptPath), kIniAfter);
-  EXPECT_EQ(
-      rig.Screen().lblState.Caption(),
-      "Warning: system.ini is missing. Windows does not start without it. Restore the whole file before "
-      "you restart.");
+  EXPECT_EQ(rig.Screen().lblState.Caption(),
+            "Warning: system.ini is missing. Windows cannot start without it. Restore the whole file before "
+            "you restart.");
 }
 
 TEST_F(WholeFile, FileThatAnotherProgramHoldsStaysAsItIs) {
