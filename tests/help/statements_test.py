@@ -55,7 +55,7 @@ class StatementsTest(ManualCase):
 
     def test_readme_calls_pausing_a_button(self):
         self.assertRegex(words(readme_section("WHAT A RELEASE DOES AND DOES NOT DO")),
-                         r'button "Pause All Activity" on the tab "Quondix"')
+                         r'button "Pause All Activity" on the "Quondix" tab')
 
     def test_what_the_readme_quotes_is_a_text_of_the_program_or_the_setup(self):
         text = README.read_text(encoding="ascii")
