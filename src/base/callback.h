@@ -1,4 +1,5 @@
-// A callback of two words: a function and the object it works on. Binding allocates nothing and cannot fail.
+// A callback in two words: a function and the object that it works on. Binding allocates nothing and cannot
+// fail.
 #pragma once
 
 namespace qdix::base {
@@ -6,13 +7,13 @@ namespace qdix::base {
 template <class Signature>
 class Callback;
 
-/// Unbound callbacks test false and must not be called. The bound object must outlive the callback.
+/// An unbound callback tests false and must not be called. The bound object must outlive the callback.
 template <class R, class... Args>
 class Callback<R(Args...)> {
  public:
   constexpr Callback() = default;
 
-  /// Binds a member function: `Callback<Status()>::To<&Form1::Command1_Click>(form)`.
+  /// Returns a callback that calls a member function: `Callback<Status()>::To<&Form1::Command1_Click>(form)`.
   template <auto Method, class Object>
   [[nodiscard]] static constexpr Callback To(Object& object) {
     return Callback(&object, [](void* bound, Args... args) -> R {

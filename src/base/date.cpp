@@ -6,17 +6,17 @@ namespace qdix::base {
 
 namespace {
 
-// 1 January 100 and 31 December 9999.
+// The day numbers of 1 January 100 and 31 December 9999.
 constexpr double kFirstDay = -657434;
 constexpr double kLastDay = 2958465;
 
-// The calendar repeats every 400 years. Years are counted from March, so that the leap day is the last of its
-// year.
+// The calendar repeats every 400 years. Years are counted from March, which makes the leap day the last day
+// of its year.
 constexpr int kDaysPerEra = 146097;
 constexpr int kDaysPerCentury = 36524;
 constexpr int kDaysPer4Years = 1461;
 constexpr int kDaysPerYear = 365;
-/// From 1 March of the year 0 to 30 December 1899.
+/// Days from 1 March of the year 0 to 30 December 1899.
 constexpr int kEpochFromMarchYear0 = 693899;
 
 }  // namespace
@@ -24,7 +24,7 @@ constexpr int kEpochFromMarchYear0 = 693899;
 int DaysOfDate(int year, int month, int day) {
   const int march_year = month <= 2 ? year - 1 : year;
   const int march_month = month <= 2 ? month + 9 : month - 3;
-  const int day_of_year = (153 * march_month + 2) / 5 + day - 1;  // 153 days in the five months from March
+  const int day_of_year = (153 * march_month + 2) / 5 + day - 1;  // the five months from March have 153 days
   return march_year * kDaysPerYear + march_year / 4 - march_year / 100 + march_year / 400 + day_of_year -
          kEpochFromMarchYear0;
 }

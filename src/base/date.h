@@ -1,4 +1,4 @@
-// Dates as days since 30 December 1899, and the calendar.
+// Converts day numbers to calendar dates and back. A day number counts the days since 30 December 1899.
 #pragma once
 
 #include <optional>
@@ -16,11 +16,11 @@ struct Date {
   int weekday = 0;
 };
 
-/// The calendar day of a date-time number. The fraction is the time of day and is cut off toward zero, also
-/// before 1899. Nothing outside the years 100 to 9999.
+/// Returns the calendar date of a day number. Truncates the fraction, which is the time of day, toward zero,
+/// also before 1899. Returns nullopt outside the years 100 to 9999.
 [[nodiscard]] std::optional<Date> DateOfDays(double days);
 
-/// Days since 30 December 1899 of a day of the calendar.
+/// Returns the day number of a calendar date.
 [[nodiscard]] int DaysOfDate(int year, int month, int day);
 
 }  // namespace qdix::base

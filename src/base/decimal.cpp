@@ -9,11 +9,10 @@ namespace {
 
 constexpr std::uint32_t kLimbBase = 10000;
 constexpr int kDigitsPerLimb = 4;
-/// 15 + 5 digits of lead and the longest expansion, 767 digits of the smallest doubles, fit with room to
-/// spare.
+/// 800 digits. The longest expansion, that of the smallest doubles, has 767.
 constexpr int kLimbs = 200;
 
-/// A whole number of any length a double can need, little end first, in limbs of four decimal digits.
+/// A whole number long enough for any double, in limbs of four decimal digits, least significant limb first.
 class LongNumber {
  public:
   void MultiplyAdd(std::uint32_t factor, std::uint32_t summand) {
@@ -35,7 +34,7 @@ class LongNumber {
     return count;
   }
 
-  /// The digit at this place, 0 for the lowest.
+  /// Returns the decimal digit at `place`; 0 is the lowest place.
   [[nodiscard]] int Digit(int place) const {
     std::uint32_t limb = limbs_[static_cast<std::size_t>(place / kDigitsPerLimb)];
     for (int i = place % kDigitsPerLimb; i > 0; --i) limb /= 10;
@@ -47,7 +46,7 @@ class LongNumber {
   int used_ = 0;
 };
 
-/// value = mantissa x 2^exponent, the mantissa odd or 0.
+/// The magnitude of a double: mantissa x 2^exponent. The mantissa is odd or 0.
 struct Binary {
   std::uint64_t mantissa;
   int exponent;
@@ -67,14 +66,14 @@ Binary Split(double value) {
   return parts;
 }
 
-/// Multiplies by base^count, `step` factors at a time as long as they last.
+/// Multiplies by base^count, by `step` factors at a time while that many are left.
 void MultiplyPower(LongNumber& number, std::uint32_t base, int count, std::uint32_t base_to_step, int step) {
   for (; count >= step; count -= step) number.MultiplyAdd(base_to_step, 0);
   for (; count > 0; --count) number.MultiplyAdd(base, 0);
 }
 
-/// True where the digits below `place` together round the digit at `place` up: more than half, or half and
-/// the digit odd.
+/// True if the digits below `place` round the digit at `place` up: they make more than half, or exactly half
+/// and the digit is odd.
 bool RoundsUp(const LongNumber& number, int place) {
   if (place <= 0) return false;
   const int next = number.Digit(place - 1);
@@ -85,7 +84,7 @@ bool RoundsUp(const LongNumber& number, int place) {
   return number.Digit(place) % 2 != 0;
 }
 
-/// Adds one to the last digit; a carry out of the first makes 1 with a larger exponent.
+/// Adds one to the last digit. A carry out of the first digit leaves a 1 and raises the exponent.
 void Increment(Decimal& decimal) {
   for (int i = Decimal::kDigits - 1; i >= 0; --i) {
     char& digit = decimal.digits[static_cast<std::size_t>(i)];
@@ -107,8 +106,8 @@ Decimal ToDecimal(double value) {
   const Binary binary = Split(value);
   if (binary.mantissa == 0) return decimal;
 
-  // m x 2^-e is m x 5^e with the decimal point moved e places; powers of 5 and 2 are taken six and twelve at
-  // a time.
+  // m x 2^-e is m x 5^e with the decimal point moved e places. Each multiplication takes six factors of 5 or
+  // twelve factors of 2.
   LongNumber number;
   for (int shift = 48; shift >= 0; shift -= 16) {
     number.MultiplyAdd(

@@ -1,4 +1,4 @@
-// Numbers to texts and back.
+// Converts numbers to text and back.
 #include <cmath>
 #include <limits>
 
@@ -12,18 +12,19 @@ namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// The parts of a number as they are read. `used` is 0 where no digit was found.
+/// A number that was read from the start of a text. `used` counts the characters read; it is 0 if there was
+/// no digit.
 struct ParsedNumber {
   double value = 0;
   std::size_t used = 0;
 };
 
-/// digits x 10^exponent. Up to 15 digits and powers up to 10^22 this is one exact multiplication or division
-/// and correctly rounded; beyond that the last digit can be off by a few units, which no figure of the
-/// program comes near.
+/// Returns digits x 10^exponent. For up to 15 digits and powers up to 10^22 this is one multiplication or
+/// division by an exact power, so the result is correctly rounded. Beyond that the last digit can be off by a
+/// few units. No figure in the program comes near that.
 double Scale(double digits, int exponent) {
   constexpr int kLargestExactPower = 22;
-  constexpr int kSmallestExponent = -350;  // every double of 17 digits or less is 0 below this
+  constexpr int kSmallestExponent = -350;  // below this, up to 17 digits are 0 as a double
   if (digits == 0 || exponent < kSmallestExponent) return 0;
   while (exponent != 0) {
     int step = exponent < 0 ? -exponent : exponent;
@@ -42,7 +43,8 @@ double Scale(double digits, int exponent) {
   return digits;
 }
 
-/// Reads an exponent behind its letter; nothing is taken where no digit follows.
+/// Reads the exponent after the letter at `at` and moves `at` behind it. Returns 0 and leaves `at` alone if
+/// no digit follows.
 int ParseExponent(std::string_view text, std::size_t& at) {
   constexpr int kBeyondEveryDouble = 100000;
   std::size_t next = at + 1;
@@ -121,8 +123,8 @@ std::string ScientificText(const Decimal& decimal) {
   return text + TextOf(power);
 }
 
-/// The digits of the decimal value cut to `decimals` places and rounded half away from zero, without a point;
-/// at least decimals + 1 digits.
+/// Returns the digits of a value that is rounded half away from zero to `decimals` places, without the point.
+/// There are at least decimals + 1 digits.
 std::string RoundedDigits(const Decimal& decimal, int decimals) {
   const int kept = decimal.exponent + decimals;
   std::string digits;

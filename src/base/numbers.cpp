@@ -1,4 +1,4 @@
-// Rounding, narrowing, checked arithmetic, and the megabyte units.
+// Rounding, narrowing, checked arithmetic and the megabyte units.
 #include "base/numbers.h"
 
 #include <cmath>
@@ -11,7 +11,7 @@ namespace {
 template <class Whole>
 Result<Whole> Narrow(double value) {
   const double rounded = RoundHalfEven(value);
-  // Not a number compares false with everything, so it must be the accepting test that fails.
+  // NaN compares false with everything, so test for what fits and not for what does not.
   const bool fits =
       rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max();
   if (!fits) return kOverflow;
@@ -25,7 +25,7 @@ double RoundHalfEven(double value) {
   const double fraction = value - below;
   if (fraction < 0.5) return below;
   if (fraction > 0.5) return below + 1;
-  if (fraction != 0.5) return value;  // not a number, infinite
+  if (fraction != 0.5) return value;  // NaN or infinite
   return std::floor(below / 2) * 2 == below ? below : below + 1;
 }
 

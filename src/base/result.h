@@ -1,4 +1,4 @@
-// A value or the run-time error that kept it from being made. There are no exceptions in the program.
+// A value, or the run-time error that was raised in its place. The program uses no exceptions.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,7 @@
 
 namespace qdix::base {
 
-/// Either a value or an error. Look before taking: `Value()` of a failed result is a programmer's mistake.
+/// Holds either a value or an error. Check `Ok()` first: calling `Value()` on a failed result is a bug.
 template <class T>
 class [[nodiscard]] Result {
  public:
@@ -26,7 +26,7 @@ class [[nodiscard]] Result {
   RuntimeError error_;
 };
 
-/// Success, or the error of an operation that makes no value.
+/// Holds success, or the error of an operation that returns no value.
 template <>
 class [[nodiscard]] Result<void> {
  public:
@@ -43,7 +43,7 @@ class [[nodiscard]] Result<void> {
 using Status = Result<void>;
 inline constexpr Status kDone{};
 
-/// For operations whose failure is passed over in silence on purpose: says so where it happens.
+/// Marks the place where an operation's failure is ignored on purpose.
 template <class T>
 constexpr void Ignore(const Result<T>& /*result*/) {}
 

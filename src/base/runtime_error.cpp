@@ -9,7 +9,7 @@ namespace qdix::base {
 
 namespace {
 
-/// One for each error that the program raises.
+/// The text of an error that the program raises.
 struct Description {
   int number;
   std::string_view text;

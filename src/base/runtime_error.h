@@ -1,5 +1,5 @@
-// The run-time errors of the program: a number that users know from message boxes, and its description.
-// Owns the table of descriptions; raising and reporting happen elsewhere.
+// Run-time errors: a number that users know from message boxes, and its description. Owns the table of
+// descriptions. Errors are raised and reported elsewhere.
 #pragma once
 
 #include <string>
@@ -7,14 +7,14 @@
 
 namespace qdix::base {
 
-/// A run-time error, identified by its number alone so that it can be compared and copied freely.
+/// A run-time error. Holds numbers only, so it is cheap to copy and compare.
 struct RuntimeError {
   int number = 0;
-  /// The element that error 340 names; 0 for every other error.
+  /// The control array element that error 340 names; 0 for every other error.
   int element = 0;
 
-  /// The English description, for example "Overflow" for 6; "Application-defined error" for an unknown
-  /// number.
+  /// Returns the English description, for example "Overflow" for 6, or "Application-defined error" for an
+  /// unknown number.
   [[nodiscard]] std::string Description() const;
 
   friend bool operator==(const RuntimeError&, const RuntimeError&) = default;
@@ -32,7 +32,7 @@ inline constexpr RuntimeError kPathNotFound{76};
 inline constexpr RuntimeError kInvalidPropertyValue{380};
 inline constexpr RuntimeError kSetNotPermitted{387};
 
-/// The text of the box for an error that nothing traps: "Run-time error 'N':", an empty line, the
+/// Returns the message box text of an error that nothing traps: "Run-time error 'N':", an empty line, the
 /// description.
 [[nodiscard]] std::string UntrappedErrorText(const RuntimeError& error);
 
