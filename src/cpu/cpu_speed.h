@@ -1,4 +1,4 @@
-// The label with the processor's name and clock.
+// Shows the processor's name and clock in a label.
 #pragma once
 
 #include <string_view>
@@ -13,10 +13,11 @@ class CpuSpeed {
   CpuSpeed(ProcessorInformation& information, screens::QuondixScreen& screen)
       : information_(information), screen_(screen) {}
 
-  /// Shows name and clock; the clock alone where only the second source knows it; nothing without a clock.
+  /// Shows the name and clock. If the first source does not know the clock, shows the clock of the second
+  /// source alone. Shows nothing if neither knows it.
   void CPUSPEED();
 
-  /// The part before the first NUL character, or the whole text when it has none.
+  /// Returns the part before the first NUL character, or the whole text if there is none.
   [[nodiscard]] static std::string_view StripZero(std::string_view sInput);
 
  private:

@@ -15,11 +15,11 @@ constexpr double kDefaultInterval = 1;
 
 constexpr const char* kStartKey = "PerfStats\\StartStat";
 constexpr const char* kDataKey = "PerfStats\\StatData";
-/// One name, backslash included.
+/// A single value name; the backslash is part of it.
 constexpr const char* kLoadValue = "KERNEL\\CPUUsage";
 
-/// Lowest bar of the graph in percent, so that an idle machine still shows a line; also what the samples
-/// start with, so that the first averages come up gently.
+/// Lowest bar of the graph in percent: an idle machine still shows a line. The samples start with it too,
+/// which makes the first averages rise gently.
 constexpr std::int32_t kFloorPercent = 4;
 
 }  // namespace
@@ -60,7 +60,7 @@ std::int32_t CpuUsage::QueryLoad(os::KeyHandle key) {
 void CpuUsage::StartCpuStatistics() {
   os::KeyHandle key = 0;
   if (!OpenStatistics(kStartKey, key)) return;
-  static_cast<void>(QueryLoad(key));  // the question itself starts the statistic
+  static_cast<void>(QueryLoad(key));  // the query itself starts the statistic
   system_.registry.RegCloseKey(key);
 }
 
@@ -77,8 +77,8 @@ void CpuUsage::FirstCPUUSAGE() {
   }
 }
 
-// Between two updates of the display the keys that were opened stay open, up to four for each update: the
-// statistic has always been read like this.
+// Between two display updates the opened keys stay open, up to four per update. The statistic has always been
+// read like this.
 void CpuUsage::CPUUsage() {
   os::KeyHandle key = 0;
   if (!OpenStatistics(kDataKey, key)) return;

@@ -15,7 +15,7 @@ void Put(TextBuffer& buffer, std::string_view text) {
   buffer[length] = '\0';
 }
 
-/// Cycles in a microsecond are MHz.
+/// Cycles per microsecond are MHz.
 std::int32_t ClockMhz(const os::CycleCount& count) {
   if (count.microseconds == 0) return 0;
   return base::ToInt32(static_cast<double>(count.cycles) / static_cast<double>(count.microseconds))

@@ -1,4 +1,4 @@
-// The processor's name and clock, found out from the processor itself.
+// Determines the processor's name and clock by asking the processor itself.
 #pragma once
 
 #include <optional>
@@ -10,8 +10,9 @@ namespace qdix::cpu {
 
 class ProcessorIdentification final : public ProcessorInformation {
  public:
-  /// The clock is measured once, for this long. The fine clock of these systems ticks 1.19 times in a
-  /// microsecond, and asking it takes a few of them: 10 ms leave less than a thousandth in doubt.
+  /// The clock is measured once, for this long. The high-resolution timer of these systems ticks 1.19 times
+  /// per microsecond, and reading it takes a few microseconds. Over 10 ms the error is less than a
+  /// thousandth.
   static constexpr std::uint32_t kMeasuringMs = 10;
 
   explicit ProcessorIdentification(os::Processor& processor) : processor_(processor) {}
@@ -25,7 +26,7 @@ class ProcessorIdentification final : public ProcessorInformation {
     ProcessorIdentity identity;
     std::int32_t clock_mhz = 0;
   };
-  /// Asks the processor at the first call only.
+  /// Asks the processor on the first call only.
   const Found& TheProcessor();
 
   os::Processor& processor_;

@@ -1,5 +1,5 @@
 // What the program asks about the processor: its name and its clock. One implementation reads the processor
-// itself; tests bring their own answers.
+// itself; tests supply their own answers.
 #pragma once
 
 #include <array>
@@ -7,21 +7,21 @@
 
 namespace qdix::cpu {
 
-/// A text that ends at its first NUL character.
+/// A NUL-terminated text.
 using TextBuffer = std::array<char, 255>;
 
 class ProcessorInformation {
  public:
   virtual ~ProcessorInformation() = default;
 
-  /// Writes the clock in MHz as a decimal text; "0" where it is not known.
+  /// Writes the clock in MHz as decimal text, or "0" if it is unknown.
   virtual void GetProcessorNormSpeed(TextBuffer& speed) = 0;
 
-  /// Writes who made the processor, the name that users know it by, and family, model and stepping as it
-  /// tells them itself. What is not known is an empty text.
+  /// Writes the maker, the name that users know the processor by, and the family, model and stepping that it
+  /// reports. Anything unknown is an empty text.
   virtual void GetProcessor(TextBuffer& vendor, TextBuffer& description, TextBuffer& signature) = 0;
 
-  /// The clock in MHz, 0 where it is not known. The argument is reserved.
+  /// Returns the clock in MHz, or 0 if it is unknown. The argument is reserved.
   [[nodiscard]] virtual std::int32_t cpunormspeed(std::int32_t reserved) = 0;
 };
 

@@ -13,7 +13,7 @@ namespace {
 constexpr std::uint32_t kExtendedLeaves = 0x80000000U;
 constexpr std::uint32_t kFirstBrandLeaf = 0x80000002U;
 constexpr std::uint32_t kLastBrandLeaf = 0x80000004U;
-/// A processor without extended leaves answers with those of another leaf, which never look like this range.
+/// A processor without extended leaves answers with the data of another leaf, which is never in this range.
 constexpr std::uint32_t kHighestSensibleLeaf = 0x8000FFFFU;
 
 constexpr std::uint32_t kTimeStampCounterBit = 1U << 4U;
@@ -25,7 +25,7 @@ constexpr std::string_view kAmd = "AuthenticAMD";
 constexpr std::string_view kCyrix = "CyrixInstead";
 constexpr std::string_view kCentaur = "CentaurHauls";
 
-/// Makers by the twelve characters, and what people call them.
+/// The makers: their twelve-character vendor strings and their common names.
 constexpr std::array<std::array<std::string_view, 2>, 9> kMakers{{
     {kIntel, "Intel"},
     {kAmd, "AMD"},
@@ -41,13 +41,13 @@ constexpr std::array<std::array<std::string_view, 2>, 9> kMakers{{
 struct Model {
   std::string_view vendor;
   std::uint32_t family;
-  /// Range of models, both ends included.
+  /// Range of models, inclusive.
   std::uint32_t first;
   std::uint32_t last;
   std::string_view name;
 };
 
-/// From the makers' identification tables. Processors that tell their name themselves need no row.
+/// From the makers' identification tables. A processor that reports its own name needs no row.
 constexpr Model kModels[] = {
     {kIntel, 4, 0, 1, "Intel 486DX"},
     {kIntel, 4, 2, 2, "Intel 486SX"},
@@ -101,7 +101,7 @@ constexpr Model kModels[] = {
     {"SiS SiS SiS ", 5, 0, 0, "SiS 55x"},
 };
 
-/// Brand index of the Celeron among the processors of the Pentium III's models.
+/// Brand index that marks a Celeron among the models of the Pentium III.
 constexpr std::uint32_t kCeleronBrand = 1;
 
 void AppendCharacters(std::string& text, std::uint32_t four_characters) {
