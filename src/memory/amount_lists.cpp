@@ -57,7 +57,7 @@ double DefaultThreshold(double total_ram_mb) {
 void SelectNumber(ui::ListControl& list, double number) {
   for (int index = 0; index < list.Count(); ++index) {
     if (base::ParseLeadingNumber(list.Item(index)) != number) continue;
-    base::Ignore(list.SetSelectedIndex(index));  // the row was just seen
+    base::Ignore(list.SetSelectedIndex(index));  // the row exists
     return;
   }
   base::Ignore(list.SetSelectedIndex(ui::ListControl::kNoSelection));

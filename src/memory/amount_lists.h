@@ -1,5 +1,5 @@
-// The lists of megabyte amounts and the amounts that are proposed when none was chosen yet. Amounts are
-// megabytes as a release counts them; memory sizes are megabytes of 1,024,000 bytes.
+// The lists of megabyte amounts, and the amounts proposed until the user chooses one. Amounts are megabytes
+// as a release counts them; memory sizes are megabytes of 1,024,000 bytes.
 #pragma once
 
 #include <span>
@@ -9,27 +9,28 @@
 
 namespace qdix::memory {
 
-/// "1 MB" to "512 MB" in 30 steps, for the manual release.
+/// Returns "1 MB" to "512 MB" in 30 steps, for the manual release.
 [[nodiscard]] std::span<const std::string_view> ManualAmounts();
 
-/// "12 MB" to "512 MB" in 25 steps, for the automatic, timed and start-up releases.
+/// Returns "12 MB" to "512 MB" in 25 steps, for the automatic, timed and start-up releases.
 [[nodiscard]] std::span<const std::string_view> ReleaseAmounts();
 
 void AddItems(ui::ListControl& list, std::span<const std::string_view> items);
 
-/// Half of the memory in whole megabytes: the whole part of half the whole part.
+/// Returns half of the memory in whole megabytes: rounds the total down, halves it and rounds down again.
 [[nodiscard]] double HalfOfMemory(double total_ram_mb);
 
-/// The largest item that is not above half of the memory, as a number; 0 when every item is.
+/// Returns the last item whose number is at most half of the memory, or 0 if every item is above it. In
+/// ascending lists this is the largest such item.
 [[nodiscard]] double DefaultAmount(const ui::ListControl& list, double total_ram_mb);
 
-/// The level, in megabytes, below which an automatic release is proposed for a machine of this size.
+/// Returns the proposed threshold in megabytes for a machine of this size: automatic releases start below it.
 [[nodiscard]] double DefaultThreshold(double total_ram_mb);
 
-/// Selects the first item whose leading number equals `number`; selects nothing when there is none.
+/// Selects the first item whose leading number equals `number`; clears the selection if there is none.
 void SelectNumber(ui::ListControl& list, double number);
 
-/// The leading number of the selected item, 0 without a selection.
+/// Returns the leading number of the selected item, or 0 without a selection.
 [[nodiscard]] double SelectedNumber(const ui::ListControl& list);
 
 }  // namespace qdix::memory

@@ -12,11 +12,11 @@ namespace {
 constexpr std::array<std::string_view, 9> kCheckSeconds{"5",   "10",  "20",  "30", "60",
                                                         "120", "180", "240", "300"};
 constexpr double kDefaultCheckSeconds = 20;
-/// Longest check interval that Timer2 counts in one go; above it the timer ticks once a minute.
+/// Longest check interval that Timer2 counts in one tick. For longer ones the timer ticks once a minute.
 constexpr double kMinuteSeconds = 60;
 constexpr double kMsPerSecond = 1000;
 
-/// The companion launcher carries this title while it is working, and is not to be disturbed then.
+/// The companion launcher has this title while it is working and must not be disturbed.
 constexpr const char* kCompanionClass = "ThunderRT6Main";
 constexpr const char* kCompanionWorking = "Kestrin Launcher (Working)";
 

@@ -1,5 +1,5 @@
-// The "Automatic" tab: looks at the available memory every few seconds, releases memory below a threshold,
-// and counts how often it did.
+// The "Automatic" tab: checks the available memory every few seconds, releases memory if it is below a
+// threshold, and counts these releases.
 #pragma once
 
 #include <cstdint>
@@ -19,22 +19,24 @@ class AutomaticRelease {
                    ui::TabStrip& tabs, ui::Timer& timer2, const ui::Application& application,
                    ScheduledRelease& scheduled);
 
-  /// Fills the lists; selects nothing.
+  /// Fills the lists but selects nothing.
   void FillLists();
 
-  // The loads, each called at its place in the start-up order.
+  // Load functions, each called at its place in the start-up order.
   void LoadCpuLimit() { cpu_limit_.Load(); }
-  /// Starts the count anew: from now, with 0 releases.
+  /// Stores a new count of 0 releases, starting now.
   void StartCounter();
-  /// Shows the stored count and date; a missing or unreadable date becomes now and is stored.
+  /// Shows the stored count and date. Replaces a missing or unreadable date with the present one and stores
+  /// it.
   void LoadCounter();
   void LoadThreshold(double total_ram_mb);
   void LoadAmount(double total_ram_mb);
-  /// Ticking Check1 arms Timer2 with the interval as List2 stands now.
+  /// Ticking Check1 enables Timer2 with the interval that List2 has set so far.
   void LoadActive();
   void LoadInterval();
 
-  /// One automatic release, unless the processor is busy. It counts also where enough memory was free.
+  /// Runs one automatic release unless the processor is busy. Also counts releases that found enough free
+  /// memory.
   base::Status AutoMem();
   base::Status Timer2_Timer();
 
@@ -48,9 +50,9 @@ class AutomaticRelease {
   base::Result<bool> Text9_Validate() { return cpu_limit_.ValidatePercent(); }
   base::Status Command7_Click();
 
-  /// True while a refused limit opens the tab.
+  /// True while a rejected limit opens its tab.
   [[nodiscard]] bool OpeningTab() const { return cpu_limit_.OpeningTab(); }
-  /// Timer2 ticks that make one check: 1, or whole minutes.
+  /// Timer2 ticks per check: 1, or the interval in minutes.
   [[nodiscard]] double AutoCheckTicks() const { return auto_check_ticks_; }
 
  private:
@@ -66,7 +68,7 @@ class AutomaticRelease {
   double counter_start_date_ = 0;
   std::int32_t auto_release_count_ = 0;
   double auto_check_ticks_ = 1;
-  /// Ticks since the last check, where a check takes more than one.
+  /// Ticks since the last check. Used only if a check takes more than one.
   std::int16_t auto_tick_count_ = 0;
 };
 

@@ -17,7 +17,7 @@ base::Status CpuLimit::ActiveClicked() {
   return base::kDone;
 }
 
-/// The stored percentage counts, not the one that is being typed.
+/// Uses the stored percentage, not the one the user is typing.
 bool CpuLimit::HoldsBack(std::int32_t load_percent) const {
   if (!controls_.active.Ticked()) return false;
   return settings_.GetNumber(shell::kSettingsSection, keys_.percent, kDefaultPercent) <= load_percent;

@@ -1,4 +1,4 @@
-// The CPU gate of a release: a check box and a box with the percentage from which on the release waits.
+// The CPU limit of a release: a check box, and a text box with the load in percent at which releases wait.
 #pragma once
 
 #include <cstdint>
@@ -22,7 +22,7 @@ class CpuLimit {
     ui::CheckBox& active;
     ui::TextBox& percent;
     ui::TabStrip& tabs;
-    /// The tab that the two stand on.
+    /// The tab with both controls.
     int tab;
   };
   struct Keys {
@@ -36,18 +36,18 @@ class CpuLimit {
 
   void Load();
 
-  /// Saves the check box and brings the box with the percentage into its state.
+  /// Saves the check box and enables or disables the percentage box to match.
   base::Status ActiveClicked();
-  /// Swallows every key but the digits and backspace.
+  /// Accepts only digits and backspace; discards other keys.
   base::Status PercentKeyPressed(char& character);
-  /// Saves a percentage of 5 to 99. Any other opens the tab, tells the user, puts the focus back and answers
-  /// false; at the end of the session it is dropped without a word.
+  /// Saves a percentage from 5 to 99. Any other percentage opens the tab, shows a message, returns the focus
+  /// to the box and gives false. At the end of the session it is dropped silently.
   base::Result<bool> ValidatePercent();
 
-  /// True where the box is ticked and the stored percentage is not above this load.
+  /// True if the limit is active and the stored percentage is not above this load.
   [[nodiscard]] bool HoldsBack(std::int32_t load_percent) const;
 
-  /// True while a refused percentage opens its tab: leaving another tab that way validates nothing.
+  /// True while a rejected percentage opens its tab. Leaving another tab for it validates nothing.
   [[nodiscard]] bool OpeningTab() const { return opening_tab_; }
 
  private:

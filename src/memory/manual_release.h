@@ -1,4 +1,4 @@
-// "Free Up RAM Now": the button, the amount and the number of passes that go with it.
+// "Free Up RAM Now": the button, its amount and its number of passes.
 #pragma once
 
 #include <cstdint>
@@ -11,23 +11,21 @@ namespace qdix::memory {
 
 class ManualRelease {
  public:
-  /// A release shows in the CPU graph as a bar of full height.
+  /// A release shows in the CPU graph as a full-height bar.
   static constexpr std::int32_t kReleaseBar = 100;
 
   ManualRelease(MemoryRelease& release, shell::SettingsStore& settings, screens::QuondixScreen& screen);
 
-  /// Fills List1 with the amounts.
   void FillList();
 
-  /// Selects the stored amount, or the default for a machine of this size.
+  /// Selects the stored amount, or the default for a machine with this much memory.
   void LoadAmount(double total_ram_mb);
-  /// Shows the stored number of passes.
   void LoadTryTimes();
 
-  /// The number of passes that every release makes, as it stands in Text1.
+  /// Returns the number of passes for every release, as Text1 shows it.
   [[nodiscard]] double TryTimes() const;
 
-  /// One manual release; also the tray menu's. The button is disabled from its start to its end.
+  /// Runs one manual release; the tray menu calls it too. The button is disabled until the release ends.
   base::Status Command1_Click();
   base::Status List1_Click();
   base::Status Text1_Change();

@@ -1,5 +1,4 @@
-// A block of bytes that a release takes from the system and gives back. Owns the block: it goes when the
-// object does.
+// A block of memory that a release takes from Windows and gives back. The destructor frees it.
 #pragma once
 
 #include "base/result.h"
@@ -14,12 +13,12 @@ class MemoryBlock {
   MemoryBlock& operator=(const MemoryBlock&) = delete;
   ~MemoryBlock() { Release(); }
 
-  /// Takes zeroed bytes with the index range 0 to `upper_index` (so one byte more), and writes into each of
-  /// their pages. The index is rounded half to even to a signed 32-bit number first. Errors: 6 where it does
-  /// not fit, 9 below zero, 7 where there is no room; the block is empty then.
+  /// Allocates upper_index + 1 zeroed bytes and writes into each of their pages. Rounds the index half to
+  /// even to a signed 32-bit number first. Errors: 6 if it does not fit, 9 if it is below zero, 7 if memory
+  /// is short. The block is then empty.
   base::Status Allocate(double upper_index);
 
-  /// Gives the block back; harmless when it is empty.
+  /// Frees the block; does nothing if it is empty.
   void Release();
 
  private:

@@ -7,16 +7,15 @@ namespace qdix::memory {
 
 namespace {
 
-/// The record's fields are unsigned; the program reads them as signed, so that 2 GB and more come out
-/// negative.
+/// The record's fields are unsigned. The program reads them as signed, so 2 GB and more are negative.
 std::int32_t Signed(std::uint32_t field) { return static_cast<std::int32_t>(field); }
 
-/// Available megabytes before the rounding to two decimals.
+/// Returns the available megabytes before they are rounded to two decimals.
 double AvailableMb(const os::MemoryStatus& status) {
   return base::WholePart(Signed(status.available_physical) / 1.024) / 1000000;
 }
 
-/// The gauges hold half a percentage.
+/// The gauges hold half of a percentage.
 std::string DoubledText(const controls::Meter3& gauge) { return base::TextOf(gauge.Value() * 2); }
 
 }  // namespace
@@ -58,7 +57,7 @@ double MemoryMonitor::MemStatus() {
   return available_mb;
 }
 
-/// More available than there is in total means that one of the two was misread; the figure shown then is
+/// If more memory is available than there is in total, one of the two was misread. The figure shown is then
 /// deliberately small.
 base::Result<double> MemoryMonitor::CorrectImplausible(double available_mb) const {
   if (available_mb <= total_ram_mb_) return available_mb;
@@ -78,10 +77,10 @@ base::Status MemoryMonitor::ShowSwapFileUse(const os::MemoryStatus& status) {
   return screen_.Gauge2.SetValue(level.Value());
 }
 
-/// Computed in floating point throughout, so that the report of an error cannot fail itself.
+/// Computes in floating point throughout, because the error report must not fail itself.
 void MemoryMonitor::ReportOnce(const os::MemoryStatus& status) {
   if (memory_error_shown_) return;
-  memory_error_shown_ = true;  // before the box: the display goes on being refreshed while it is open
+  memory_error_shown_ = true;  // before the box: the display is still refreshed while it is open
   const double total = Signed(status.total_page_file);
   const double used = total - Signed(status.available_page_file);
   const double used_percent = total == 0 ? 0 : base::WholePart(used / total * 100);
@@ -97,7 +96,7 @@ void MemoryMonitor::ReportOnce(const os::MemoryStatus& status) {
 
 void MemoryMonitor::RefreshMemoryDisplay() {
   const double available_mb = MemStatus();
-  if (form_.Unloaded()) return;  // closed while the report of an error was open
+  if (form_.Unloaded()) return;  // closed while the error report was open
   const std::string caption = base::ShortestText(available_mb) + " MB   Q-DIX";
   form_.SetCaption(caption);
   if (ShowAvailable(available_mb).Ok()) {

@@ -1,5 +1,5 @@
-// Reads the machine's memory figures and shows them: gauges, labels, caption. Figures are megabytes of
-// 1,024,000 bytes unless said otherwise.
+// Reads the machine's memory figures and shows them in gauges, labels and the caption. Figures are megabytes
+// of 1,024,000 bytes unless a comment says otherwise.
 #pragma once
 
 #include <cstdint>
@@ -18,28 +18,30 @@ class MemoryMonitor {
                 screens::QuondixScreen& screen, cpu::CpuUsage& cpu_usage)
       : system_(system), application_(application), form_(form), screen_(screen), cpu_usage_(cpu_usage) {}
 
-  /// Total physical memory in MB with fractions, unrounded. Totals of 2 GB and above read negative.
+  /// Returns the total physical memory in MB with fractions, unrounded. Totals of 2 GB and above are
+  /// negative.
   [[nodiscard]] double TotalRAM() const;
 
-  /// Swap file total; times 1,000 it is the swap file in units of 1,048,576 bytes.
+  /// Returns the swap file total. Times 1,000 it counts units of 1,048,576 bytes.
   [[nodiscard]] double TotalSwapFile() const;
 
-  /// TotalRAM rounded half to even; the 100 % mark of the gauge. 0 until SetTotals.
+  /// Returns TotalRAM rounded half to even: the 100 % mark of the gauge. 0 before SetTotalRamMb.
   [[nodiscard]] std::int16_t TotalRamMb() const { return total_ram_mb_; }
 
-  /// Takes the machine's total for the rest of the run. A total that 16 bits do not hold is an overflow.
+  /// Reads the machine's total for the rest of the run. Returns an overflow error if it does not fit into 16
+  /// bits.
   base::Status SetTotalRamMb();
 
-  /// Writes the two labels with the totals.
+  /// Shows both totals in their labels.
   void ShowTotals();
 
-  /// Available physical memory in MB with two decimals; refreshes the swap file gauge and its label on the
-  /// way. An error on the way is reported in a box at the first time of a run only, and the statement that
-  /// failed is skipped.
+  /// Returns the available physical memory in MB with two decimals. Also refreshes the swap file gauge and
+  /// its label. An error skips the statement that failed; only the first error of a run is reported in a
+  /// message box.
   double MemStatus();
 
   /// Shows the available memory in the caption, the gauge and the percentage, then takes a reading of the
-  /// processor load. Where the memory cannot be shown the caption says so, and there is no reading.
+  /// processor load. If the memory cannot be shown, the caption says so and no reading is taken.
   void RefreshMemoryDisplay();
 
  private:

@@ -19,13 +19,13 @@ base::Status AllocateBlocks(double amount_mb, MemoryBlock& block_a, MemoryBlock&
 }  // namespace
 
 ReleaseOutcome MemoryRelease::FreeUpMemory(const ReleaseRequest& request) {
-  // More passes than 32 bits count would take years; the close of the window ends any number.
+  // More passes than fit into 32 bits would take years, and closing the window ends a release at any pass.
   const std::int32_t passes =
       base::ClampToInt32(base::WholePart(request.passes), 0, std::numeric_limits<std::int32_t>::max());
   for (std::int32_t done = 0; done < passes; ++done) {
     if (form_.Unloaded()) return ReleaseOutcome::kUnloaded;
     const double amount_mb = request.amount_mb();
-    // The question can open a box, in which the window may be closed.
+    // The check can open a message box, and the user may close the window while it is open.
     if (request.enough_is_free && request.enough_is_free(amount_mb)) break;
     if (form_.Unloaded()) break;
     const ReleaseOutcome outcome = RunPass(request, amount_mb);
@@ -53,7 +53,7 @@ void MemoryRelease::PumpEvents() {
   for (int count = 1; count <= kPumpsPerPhase && !form_.Unloaded(); ++count) system_.event_pump.PumpEvents();
 }
 
-// The blocks of the failed pass are still held while the box is open, so the box must get along without much
+// The blocks of the failed pass are still held while the message box is open, so the box must not need much
 // memory.
 void MemoryRelease::ReportFailure(const ReleaseRequest& request, const base::RuntimeError& error) {
   if (error == base::kOutOfMemory) {

@@ -1,5 +1,5 @@
-// Makes the system hand memory back: takes blocks, lets the system page while events are handled, gives the
-// blocks back. One core for every caller; what differs between callers is in the request.
+// Makes Windows free memory: allocates blocks, lets Windows page while events are handled, and frees the
+// blocks. All callers share this code; the request holds what differs between them.
 #pragma once
 
 #include "base/callback.h"
@@ -10,30 +10,29 @@
 namespace qdix::memory {
 
 struct ReleaseRequest {
-  /// Megabytes of 1,040,000 bytes for one pass; read afresh at every pass.
+  /// Megabytes of 1,040,000 bytes for one pass. Read again before each pass.
   base::Callback<double()> amount_mb{};
-  /// Passes run for 1, 2, ... while not above this. 0, negative or less than 1 makes none; 2.5 makes two.
+  /// Passes run for 1, 2, ... up to this number. 0, negative or less than 1 runs none; 2.5 runs two.
   double passes = 0;
-  /// Asked before each pass with its amount, where bound: true ends the release, because enough memory is
-  /// free.
+  /// If bound, called before each pass with its amount. True ends the release because enough memory is free.
   base::Callback<bool(double)> enough_is_free{};
-  /// Asked when memory ran out, where bound: true keeps the warning from being shown.
+  /// If bound, called when memory runs out. True suppresses the warning.
   base::Callback<bool()> warning_is_silenced{};
 };
 
 enum class ReleaseOutcome {
   kFinished,
-  /// A pass failed; the user has been told, or the warning was silenced.
+  /// A pass failed. The user was told, or the warning was suppressed.
   kFailed,
-  /// The main window has unloaded meanwhile: the caller must do nothing more.
+  /// The main window was unloaded during the release. The caller must do nothing more.
   kUnloaded,
 };
 
 class MemoryRelease {
  public:
-  /// Largest amount that one block holds; above it a second block takes the rest.
+  /// Largest amount that one block holds. A second block takes the rest.
   static constexpr double kFirstBlockMb = 250;
-  /// Event pumps while the blocks are held, and again after they went.
+  /// Event pumps while the blocks are held, and again after they are freed.
   static constexpr int kPumpsPerPhase = 5000;
   static constexpr const char* kLowResourcesWarning =
       "Warning - System Resources may be low.  Please check your harddisk space and swapfile size.";
@@ -41,8 +40,8 @@ class MemoryRelease {
   MemoryRelease(const os::System& system, const ui::Application& application, const ui::Form& form)
       : system_(system), application_(application), form_(form) {}
 
-  /// Runs the passes of a release inside the calling handler. Any other handler may run in its event pumps,
-  /// another release included.
+  /// Runs the passes of a release inside the calling handler. Any other handler can run in its event pumps,
+  /// including another release.
   ReleaseOutcome FreeUpMemory(const ReleaseRequest& request);
 
  private:

@@ -1,5 +1,5 @@
-// What the releases that start by themselves have in common: the bar in the graph, the number of passes, and
-// the box that silences the warning.
+// What the releases that start by themselves share: the bar in the graph, the number of passes, and the check
+// box that suppresses the warning.
 #pragma once
 
 #include "cpu/cpu_usage.h"
@@ -28,14 +28,14 @@ class ScheduledRelease {
     return limit.HoldsBack(cpu_usage_.AverageCpuUsage());
   }
 
-  /// Available memory in megabytes of 1,024,000 bytes; refreshes the memory display on the way.
+  /// Returns the available memory in megabytes of 1,024,000 bytes. Also refreshes the memory display.
   [[nodiscard]] double AvailableMb() { return monitor_.MemStatus(); }
 
-  /// Every scheduled release shows in the graph as a bar of full height.
+  /// Every scheduled release shows in the graph as a full-height bar.
   base::Status PushBar() { return screens_.quondix.XGraphMeter1.Update(ManualRelease::kReleaseBar); }
 
-  /// Runs the passes with the amount chosen in `amounts`, which is read afresh at each. With `WhenFree`
-  /// kStop, they end as soon as the amount is less than what is available.
+  /// Runs the passes with the amount chosen in `amounts`, which is read again before each pass. With kStop,
+  /// the passes end as soon as the amount is less than the available memory.
   enum class WhenFree : bool {
     kGoOn,
     kStop

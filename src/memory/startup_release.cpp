@@ -9,7 +9,7 @@ namespace qdix::memory {
 
 namespace {
 
-/// A longer delay is counted in minutes, because a timer holds little more than one.
+/// A longer delay is counted in minutes, because a timer interval holds little more than one minute.
 constexpr std::int32_t kLongestSingleDelaySeconds = 60;
 constexpr std::int32_t kMsPerSecond = 1000;
 

@@ -1,4 +1,4 @@
-// The release after start-up: its settings and the delay before it.
+// The release after start-up: its settings and its delay.
 #pragma once
 
 #include <cstdint>
@@ -15,26 +15,26 @@ class StartupRelease {
   StartupRelease(shell::SettingsStore& settings, screens::StartupScreen& screen, ui::Timer& timer3,
                  ScheduledRelease& scheduled);
 
-  /// Fills the list of amounts; selects nothing.
+  /// Fills the list of amounts but selects nothing.
   void FillLists();
 
-  // The loads, each called at its place in the start-up order.
+  // Load functions, each called at its place in the start-up order.
   void LoadWarnings();
   void LoadAmount(double total_ram_mb);
-  /// Shows the stored delay and starts counting it.
+  /// Shows the stored delay and starts the countdown.
   void LoadAndArmDelay();
 
-  /// The release after start-up. Every pass runs, however much memory is free.
+  /// Runs the release after start-up. Every pass runs, however much memory is free.
   void StartupMem();
   base::Status Timer3_Timer();
 
-  /// Saves the amount chosen for the start-up release; 0 where none is.
+  /// Saves the amount chosen for the start-up release, or 0 if none is chosen.
   base::Status Combo1_LostFocus();
   base::Status Text3_Change();
   base::Status VScroll3_Change();
   base::Status Check4_Click();
 
-  /// Seconds of delay that are left beyond what Timer3 counts now; 0 for a delay of up to a minute.
+  /// Returns the seconds of delay left beyond what Timer3 is counting now. 0 for a delay of up to a minute.
   [[nodiscard]] std::int16_t StartupDelayLeft() const { return startup_delay_left_; }
 
  private:

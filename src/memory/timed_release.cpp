@@ -16,7 +16,7 @@ constexpr std::array<std::string_view, 17> kHourItems{"1",  "2",  "3",  "4",  "5
 
 }  // namespace
 
-/// A unit of the interval: what the list offers, and where the choice is kept.
+/// A unit of the interval: what the list offers, and where the choice is stored.
 struct TimedRelease::Unit {
   std::span<const std::string_view> items;
   /// The stored "TimeUnit".
@@ -106,7 +106,7 @@ base::Status TimedRelease::Timer4_Timer() {
   return base::kDone;
 }
 
-/// A retry that the processor lets through counts as a minute; that is intended.
+/// Counts a retry that finds the processor idle enough as a minute, on purpose.
 base::Status TimedRelease::Timer5_Timer() {
   timers_.timer5.SetEnabled(false);
   return Timer4_Timer();
@@ -138,7 +138,7 @@ base::Status TimedRelease::Option5_Click() {
   return base::kDone;
 }
 
-/// The entry that this selects is the user's earlier choice, so the countdown goes on.
+/// Selects the user's earlier choice for this unit, so the countdown continues.
 void TimedRelease::ChooseUnit(const Unit& unit) {
   screen_.lstTime.Clear();
   AddItems(screen_.lstTime, unit.items);

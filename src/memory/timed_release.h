@@ -1,4 +1,5 @@
-// The "Time Intervals" tab: releases memory every so many minutes or hours, and counts down to the next time.
+// The "Time Intervals" tab: releases memory at an interval of minutes or hours, and counts down to the next
+// release.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +18,7 @@ class TimedRelease {
   struct Timers {
     /// Ticks once a minute.
     ui::Timer& timer4;
-    /// Ticks once, some seconds after a busy processor put a release off.
+    /// Ticks once, some seconds after a busy processor delayed a release.
     ui::Timer& timer5;
   };
 
@@ -25,21 +26,21 @@ class TimedRelease {
                ui::TabStrip& tabs, const Timers& timers, const ui::Application& application,
                ScheduledRelease& scheduled);
 
-  /// Fills the list of amounts; the list of intervals is filled with the unit.
+  /// Fills the list of amounts. Choosing the unit fills the list of intervals.
   void FillLists();
 
-  // The loads, each called at its place in the start-up order.
+  // Load functions, each called at its place in the start-up order.
   void LoadCpuLimit() { cpu_limit_.Load(); }
   void LoadAmount(double total_ram_mb);
-  /// 1 is minutes, anything else hours.
+  /// 1 is minutes; anything else is hours.
   void LoadUnit();
-  /// Brings Timer4 and the countdown into their state also where the box stays clear.
+  /// Sets Timer4 and the countdown to match the check box, even if it stays clear.
   void LoadActive();
 
-  /// Shows how many minutes are left; zero and less as they are.
+  /// Shows how many minutes are left, including zero and negative numbers.
   void UpdateNextRelease();
 
-  /// One timed release; starts the countdown anew unless it failed.
+  /// Runs one timed release and restarts the countdown if the release finishes.
   base::Result<ReleaseOutcome> TimeMem();
   base::Status Timer4_Timer();
   base::Status Timer5_Timer();
@@ -53,7 +54,7 @@ class TimedRelease {
   base::Status Text10_KeyPress(char& character) { return cpu_limit_.PercentKeyPressed(character); }
   base::Result<bool> Text10_Validate() { return cpu_limit_.ValidatePercent(); }
 
-  /// True while a refused limit opens the tab.
+  /// True while a rejected limit opens its tab.
   [[nodiscard]] bool OpeningTab() const { return cpu_limit_.OpeningTab(); }
 
  private:
@@ -68,7 +69,7 @@ class TimedRelease {
   Timers timers_;
   ScheduledRelease& scheduled_;
   CpuLimit cpu_limit_;
-  /// Ticks of a minute since the last timed release, and retries that passed.
+  /// Minutes counted since the last timed release, including retries that passed.
   std::int16_t timed_minute_count_ = 0;
   bool choosing_unit_ = false;
 };
