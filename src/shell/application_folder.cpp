@@ -4,8 +4,8 @@ namespace qdix::shell {
 
 namespace {
 
-/// The last backslash is one on every Windows: behind it is the name of our own file, without characters of
-/// two bytes, whose second may look like it.
+/// The last backslash is a separator on every Windows: our own file name follows it and has no two-byte
+/// characters, whose second byte can look like a backslash.
 std::string FolderOf(std::string path) {
   const std::size_t last = path.rfind('\\');
   path.resize(last == std::string::npos ? 0 : last);

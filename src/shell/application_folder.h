@@ -1,4 +1,4 @@
-// Where the program lies, and with it its data and its companions.
+// The folder of the program, which also holds its data and its companions.
 #pragma once
 
 #include <string>
@@ -7,15 +7,16 @@
 
 namespace qdix::shell {
 
-/// The folder of this program's own file, with a backslash at its end; a backslash alone where the system
-/// does not tell.
+/// Returns the folder of this program's own file with a trailing backslash; a backslash alone if the system
+/// does not report it.
 [[nodiscard]] std::string ApplicationFolder(os::Processes& processes);
 
-/// The name of this program's own file without folder and extension; empty where the system does not tell.
+/// Returns the name of this program's own file without folder and extension; empty if the system does not
+/// report it.
 [[nodiscard]] std::string ApplicationFileName(os::Processes& processes);
 
-/// The path by which this program is started: folder, file name, ".exe". Empty where the system does not
-/// tell.
+/// Returns the path that starts this program: folder, file name, ".exe". Empty if the system does not report
+/// it.
 [[nodiscard]] std::string ProgramPath(os::Processes& processes);
 
 }  // namespace qdix::shell

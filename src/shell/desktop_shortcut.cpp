@@ -26,7 +26,7 @@ base::Status DesktopShortcut::Command5_Click() {
   const std::string shortcut = desktop + kShortcutName;
   const std::string program = ProgramPath(system_.processes);
   if (!desktop.empty() && !program.empty() && !Exists(shortcut)) {
-    // One that cannot be written is passed over, as everything else here.
+    // A failure is ignored, like every other failure here.
     static_cast<void>(system_.shell_files.WriteShortcut(
         shortcut, {.target = program, .arguments = {}, .folder = ApplicationFolder(system_.processes)}));
   }
@@ -34,7 +34,8 @@ base::Status DesktopShortcut::Command5_Click() {
   return base::kDone;
 }
 
-/// A file that is not there is not handed to the shell: later systems open a box for it, silent or not.
+/// Never passes a missing file to the shell: later systems show a message box for it even with the silent
+/// flag.
 void DesktopShortcut::CopyFromRecentDocuments(const std::string& desktop) {
   const std::string recent = SpecialFolderPath(system_.shell_files, os::kRecentFolder);
   const std::string shortcut = recent + kShortcutName;

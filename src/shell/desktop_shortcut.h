@@ -10,13 +10,13 @@ class DesktopShortcut {
  public:
   DesktopShortcut(const os::System& system, screens::StartupScreen& screen);
 
-  /// Has the shell make a shortcut among the recent documents, and copies that one to the desktop. Where this
-  /// leaves none there, as on systems that do not make it so, it is written directly. Takes two seconds, in
-  /// which events are handled.
+  /// Has the shell make a shortcut in the recent documents and copies it to the desktop. If no shortcut
+  /// results, as on systems that do not make it this way, writes it directly. Takes two seconds, during which
+  /// events are handled.
   base::Status Command5_Click();
 
  private:
-  /// Nothing where the shell has no folder of recent documents.
+  /// Does nothing if the shell has no folder of recent documents.
   void CopyFromRecentDocuments(const std::string& desktop);
   [[nodiscard]] bool Exists(const std::string& path) const;
 

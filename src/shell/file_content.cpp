@@ -17,7 +17,7 @@ std::optional<std::string> ReadWholeFile(os::Files& files, const std::string& pa
     is_read = files.ReadFile(file, content.data(), size_bytes, read_bytes);
   }
   files.CloseHandle(file);
-  // Fewer bytes than the file has are no content of it.
+  // An incomplete read counts as a failure.
   if (!is_read || read_bytes != size_bytes) return std::nullopt;
   return content;
 }

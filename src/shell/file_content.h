@@ -1,4 +1,4 @@
-// A file read as one text.
+// Reads a whole file.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,7 @@
 
 namespace qdix::shell {
 
-/// The content of a file, of which no more than `max_bytes` are read; nothing where it cannot be opened or
-/// read.
+/// Returns the content of a file, at most `max_bytes` of it, or nullopt if the file cannot be opened or read.
 [[nodiscard]] std::optional<std::string> ReadWholeFile(os::Files& files, const std::string& path,
                                                        std::uint32_t max_bytes);
 

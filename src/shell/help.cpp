@@ -27,8 +27,8 @@ bool Help::HasViewer() const {
          os::kInvalidFileAttributes;
 }
 
-/// Without quotation marks first, since it is this text that the system is given: it tries the blanks of the
-/// folder from the left. Where it finds nothing that way, the marks tell it where the name ends.
+/// Passes exactly this command line first, without quotation marks: Windows then tries to end the name at
+/// each space from the left. If it finds no program that way, quotation marks show it where the name ends.
 base::Status Help::OpenTopic(const char* command) {
   CloseHelpFile();
   const std::string command_line = ApplicationFolder(system_.processes) + command;

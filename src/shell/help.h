@@ -1,4 +1,4 @@
-// Help: the viewer, of which one is open at most, and the manual in the user's browser.
+// Help: the viewer, one copy at a time, and the manual in the user's browser.
 #pragma once
 
 #include "os/system.h"
@@ -28,16 +28,16 @@ class Help {
 
   Help(const os::System& system, const Screens& screens);
 
-  /// Asks an open viewer to close, and does not wait for it.
+  /// Asks an open viewer to close and does not wait for it.
   void CloseHelpFile();
 
-  /// True where the viewer lies beside this program.
+  /// True if the viewer is in the program's folder.
   [[nodiscard]] bool HasViewer() const;
 
-  /// The first steps, in place of an open viewer. A viewer that is not there is the error of a missing file.
+  /// Shows the first steps and replaces an open viewer. Returns error 53 if the viewer is missing.
   base::Status FirstHelp();
 
-  // The topic of a tab, in the same way.
+  // Each shows the topic of its tab in the same way.
   base::Status Command21_Click();
   base::Status Command22_Click();
   base::Status Command23_Click();
@@ -47,7 +47,7 @@ class Help {
   base::Status Command20_Click();
   base::Status Command17_Click();
 
-  /// The manual, whole. One that is not there is the shell's to report.
+  /// Opens the whole manual in the browser. The shell reports a missing file.
   base::Status Command6_Click();
 
  private:

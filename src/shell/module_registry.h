@@ -1,5 +1,5 @@
-// Registry values below a root: reading as text, writing, deleting. Nothing here reports a failure but
-// SetValueEx: a failed read is an empty text, a failed write leaves what was there.
+// Reads, writes and deletes registry values below a root. Only SetValueEx reports a failure: a failed read
+// gives an empty text, a failed write changes nothing.
 #pragma once
 
 #include <cstdint>
@@ -13,28 +13,28 @@ class ModuleRegistry {
  public:
   explicit ModuleRegistry(os::Registry& registry) : registry_(registry) {}
 
-  /// A text up to its first NUL; of a binary value the first two bytes as a signed number in decimal (missing
-  /// bytes count as 0). Empty where key or value is missing, of another type, or binary and longer than four
-  /// bytes.
+  /// Returns a text value up to its first NUL. For a binary value, returns the first two bytes as a signed
+  /// decimal number; missing bytes count as 0. Returns an empty text if the key or value is missing, the
+  /// value has another type, or it is binary and longer than four bytes.
   [[nodiscard]] std::string ReadRegistryValue(os::KeyHandle root, const std::string& subkey,
                                               const char* value_name);
-  /// The same for a key that is open.
+  /// Reads a value in the same way from an open key.
   [[nodiscard]] std::string QueryValueText(os::KeyHandle key, const char* value_name);
 
-  /// Makes the key where it is missing.
+  /// Deletes a value. Creates the key if it is missing.
   void DeleteRegistryValue(os::KeyHandle root, const std::string& subkey, const char* value_name);
 
-  /// Writes the number that a text stands for as four bytes, of which the upper two are zero. Makes the key
-  /// where it is missing. A text that is no number of 16 bits writes nothing.
+  /// Writes the number in `text` as four bytes, the upper two of them zero. Creates the key if it is missing.
+  /// Writes nothing unless the text is a 16-bit number.
   void WriteRegistryBinary(os::KeyHandle root, const std::string& subkey, const char* value_name,
                            const std::string& text);
 
-  /// Writes a text into a key that exists; makes none.
+  /// Writes a text to an existing key. Never creates a key.
   void WriteRegistryText(os::KeyHandle root, const std::string& subkey, const char* value_name,
                          const std::string& text);
 
-  /// Type 1 writes the text with its NUL, type 4 the number that it stands for; any other type writes nothing
-  /// and gives 0. Returns the system's code.
+  /// Writes the text with its NUL for type 1, or the number in the text for type 4. For any other type,
+  /// writes nothing and returns 0. Returns the system's error code.
   std::int32_t SetValueEx(os::KeyHandle key, const char* value_name, std::uint32_t type,
                           const std::string& value);
 

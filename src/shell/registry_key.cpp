@@ -6,8 +6,8 @@ namespace qdix::shell {
 
 namespace {
 
-/// Longest text that is read. Nothing that the program keeps comes near it; a value that another program blew
-/// up counts as missing.
+/// Longest text that is read. Nothing that the program stores comes near it. A longer value comes from
+/// another program and counts as missing.
 constexpr std::uint32_t kLongestTextBytes = 65536;
 
 }  // namespace

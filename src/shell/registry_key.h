@@ -1,5 +1,5 @@
-// An open registry key that closes itself, and the two shapes of value that most of the program reads and
-// writes.
+// An open registry key that closes itself. Reads and writes the two kinds of value that most of the program
+// needs.
 #pragma once
 
 #include <optional>
@@ -9,17 +9,17 @@
 
 namespace qdix::shell {
 
-/// The text of a value whose type and size are known, up to its first NUL. Nothing where it cannot be read,
-/// is no text any more, or is longer than anything that the program keeps.
+/// Returns the text of a value of known size, up to its first NUL. Returns nullopt if it cannot be read, is
+/// no longer a text, or is longer than anything that the program stores.
 [[nodiscard]] std::optional<std::string> ReadTextOfSize(os::Registry& registry, os::KeyHandle key,
                                                         const char* value_name, std::uint32_t size_bytes);
 
 class RegistryKey {
  public:
-  /// Opens an existing key; `IsOpen` tells whether that worked.
+  /// Opens an existing key. `IsOpen` says whether that worked.
   [[nodiscard]] static RegistryKey Open(os::Registry& registry, os::KeyHandle root, const std::string& path,
                                         std::uint32_t access);
-  /// Opens a key, making it and the keys above it when they are missing.
+  /// Opens a key and creates it, and the keys above it, if they are missing.
   [[nodiscard]] static RegistryKey Create(os::Registry& registry, os::KeyHandle root, const std::string& path,
                                           std::uint32_t access = os::kKeyAllAccess);
 
@@ -31,16 +31,16 @@ class RegistryKey {
 
   [[nodiscard]] bool IsOpen() const { return open_; }
 
-  /// A value of type text, up to its first NUL; nothing when it is missing, of another type, or cannot be
+  /// Returns a text value up to its first NUL, or nullopt if it is missing, has another type or cannot be
   /// read.
   [[nodiscard]] std::optional<std::string> ReadText(const char* value_name) const;
-  /// True where a value of this name exists, whatever it holds.
+  /// True if a value of this name exists, whatever its content.
   [[nodiscard]] bool HasValue(const char* value_name) const;
-  /// Writes the text with its closing NUL. False when the system refuses.
+  /// Writes the text with its terminating NUL. False if the system refuses.
   bool WriteText(const char* value_name, const std::string& text);
-  /// Writes what was changed to the disk. False when the system refuses.
+  /// Writes changes to the disk. False if the system refuses.
   bool Flush();
-  /// False when there was no such value or the system refuses.
+  /// False if there was no such value or the system refuses.
   bool DeleteValue(const char* value_name);
 
  private:

@@ -27,7 +27,7 @@ constexpr std::array<Root, 6> kRoots{{
     {"HKEY_CURRENT_CONFIG", os::kHkeyCurrentConfig},
 }};
 
-/// The elements between backslashes; empty ones are skipped.
+/// Returns the elements between backslashes, without empty ones.
 std::vector<std::string> ElementsOf(std::string_view path) {
   std::vector<std::string> elements;
   std::string element;
@@ -67,7 +67,7 @@ std::int32_t RegistryPaths::GetSubkeyHandle(std::string_view path) {
     opened.push_back(key);
     deepest = key;
   }
-  if (is_open && !opened.empty()) opened.pop_back();  // the deepest one is the caller's
+  if (is_open && !opened.empty()) opened.pop_back();  // the caller owns the deepest one
   for (const os::KeyHandle key : opened) registry_.RegCloseKey(key);
   return is_open ? static_cast<std::int32_t>(deepest) : kNoKey;
 }

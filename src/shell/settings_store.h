@@ -1,5 +1,5 @@
-// The per-user settings: one text a key, in the sections "Settings" and "Startup". Stands where an earlier
-// installation kept its own, so settings carry over. Keeps nothing in memory: every read and write goes to
+// Stores the per-user settings, one text per key, in the sections "Settings" and "Startup". Uses the registry
+// path of earlier installations, so their settings carry over. Caches nothing: every read and write goes to
 // the registry.
 #pragma once
 
@@ -17,21 +17,22 @@ class SettingsStore {
  public:
   explicit SettingsStore(os::Registry& registry) : registry_(registry) {}
 
-  /// The stored text, or `missing` when there is none. A value that is there but empty gives the empty text.
+  /// Returns the stored text, or `missing` if there is none. A value that exists but is empty gives an empty
+  /// text.
   [[nodiscard]] std::string GetSetting(std::string_view section, const char* key,
                                        std::string_view missing) const;
 
-  /// The leading number of the stored text, or `missing` when there is none.
+  /// Returns the leading number of the stored text, or `missing` if there is none.
   [[nodiscard]] double GetNumber(std::string_view section, const char* key, double missing) const;
 
-  /// The stored text read as true or false, or `missing` when there is none.
+  /// Returns the stored text as a Boolean, or `missing` if there is none.
   [[nodiscard]] bool GetBoolean(std::string_view section, const char* key, bool missing) const;
 
   [[nodiscard]] bool HasSetting(std::string_view section, const char* key) const;
 
-  /// A refusal of the system is passed over: the old value stays.
+  /// Saves a text. If the system refuses, the old value stays and no error is reported.
   void SaveSetting(std::string_view section, const char* key, const std::string& text);
-  /// Saves the shortest text of the number.
+  /// Saves the shortest text of a number.
   void SaveNumber(std::string_view section, const char* key, double number);
 
  private:

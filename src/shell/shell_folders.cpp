@@ -7,7 +7,7 @@ namespace {
 constexpr std::uint16_t kRenameFlags = os::kFofSilent | os::kFofNoConfirmation;
 constexpr std::uint16_t kCopyFlags = kRenameFlags | os::kFofNoConfirmMkDir;
 
-/// Each name with its NUL, and the NUL that ends the list.
+/// Returns the names, each with its NUL, and the NUL that ends the list.
 std::string NameList(const std::vector<std::string>& names) {
   std::string list;
   for (const std::string& name : names) list += name + '\0';

@@ -1,4 +1,4 @@
-// The shell's own folders, and its operations on files without questions.
+// The shell's own folders, and its file operations without prompts.
 #pragma once
 
 #include <string>
@@ -8,14 +8,14 @@
 
 namespace qdix::shell {
 
-/// Path of one of the shell's folders with a backslash at its end; empty where the shell has none, and then
-/// nothing must be built on it.
+/// Returns the path of a shell folder with a trailing backslash. Empty if the shell has no such folder; the
+/// caller must then not build a path on it.
 [[nodiscard]] std::string SpecialFolderPath(os::ShellFiles& shell_files, int number);
 
-/// Gives a file another name. Asks and reports nothing.
+/// Renames a file. Prompts for nothing and reports nothing.
 void RenameFile(os::ShellFiles& shell_files, const std::string& from, const std::string& to);
 
-/// Copies files into a folder, over what is there. Asks and reports nothing.
+/// Copies files to a folder and overwrites existing ones. Prompts for nothing and reports nothing.
 void CopyFilesTo(os::ShellFiles& shell_files, const std::vector<std::string>& paths,
                  const std::string& folder);
 

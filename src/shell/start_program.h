@@ -1,4 +1,4 @@
-// Starting other programs.
+// Starts other programs.
 #pragma once
 
 #include <string>
@@ -8,9 +8,9 @@
 
 namespace qdix::shell {
 
-/// Starts a program by its command line in a normal window with the keyboard and does not wait for it. Error
-/// 53 if there is no such program or no disk in its drive, 70 if it may not be started, 5 if the text names
-/// none.
+/// Starts a program by its command line, in a normal window with the keyboard, and does not wait for it.
+/// Errors: 53 if there is no such program or no disk in its drive, 70 if it may not be started, 5 if the text
+/// names no program.
 base::Status StartProgram(os::Processes& processes, const std::string& command_line);
 
 }  // namespace qdix::shell

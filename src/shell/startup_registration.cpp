@@ -39,7 +39,7 @@ base::Status StartupRegistration::Check2_Click() {
   return base::kDone;
 }
 
-/// An entry without a path would make Windows complain at each start.
+/// Writes no entry without a path: Windows would report it at each start.
 void StartupRegistration::SetRunEntry() {
   const std::string path = ProgramPath(system_.processes);
   const std::int32_t run = path.empty() ? RegistryPaths::kNoKey : paths_.GetSubkeyHandle(kRunPath);
@@ -48,7 +48,7 @@ void StartupRegistration::SetRunEntry() {
   paths_.CloseSubkey(run);
 }
 
-/// Once more by the way that older versions took, should they have left an entry of their own.
+/// Deletes the entry again under the path that older versions used, in case they left one of their own.
 void StartupRegistration::StartupDelete() {
   paths_.DeleteValue("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run", kRunValue);
 }

@@ -1,5 +1,5 @@
-// Starting with Windows: the program's entry under the machine-wide Run key, the shortcuts in the StartUp
-// folder that older versions made, and the check box that stands for both.
+// Starts the program with Windows. Manages the program's entry under the machine-wide Run key, the StartUp
+// shortcuts that older versions made, and the check box that shows both.
 #pragma once
 
 #include "os/system.h"
@@ -12,18 +12,18 @@ class StartupRegistration {
  public:
   StartupRegistration(const os::System& system, screens::StartupScreen& screen);
 
-  /// Ticks the box where a shortcut or the entry exists, which writes the entry again with the program's
-  /// present path. Otherwise clears it and removes a shortcut that is left over.
+  /// Ticks the check box if a shortcut or the entry exists, which writes the entry again with the program's
+  /// present path. Otherwise clears it and removes a leftover shortcut.
   void CheckStartup();
 
-  /// Ticked: sets the entry in the existing Run key, which is never made here. Clear: removes the entry and
-  /// both shortcuts of the StartUp folder.
+  /// If ticked, sets the entry in the existing Run key, but never creates the key. If clear, removes the
+  /// entry and both shortcuts in the StartUp folder.
   base::Status Check2_Click();
 
  private:
   void SetRunEntry();
   void StartupDelete();
-  /// Nothing happens where the shell has no Start menu, or the file is not there.
+  /// Does nothing if the shell has no Start menu or the file does not exist.
   void DeleteStartMenuShortcut(const std::string& name);
 
   const os::System& system_;
