@@ -1,4 +1,4 @@
-// The record of what was asked of the simulated machine, and the plan of which calls fail.
+// Records the calls to the simulated machine and decides which of them fail.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ class CallLog {
     calls_.push_back(name + "(" + arguments + ")");
   }
 
-  /// Records a call that can fail; true where the plan says that this one does.
+  /// Records a call that can fail. True if the test planned a failure for this one.
   [[nodiscard]] bool RecordAndFail(const std::string& name, const std::string& arguments = {}) {
     Record(name, arguments);
     ++faultable_calls_;
@@ -28,10 +28,10 @@ class CallLog {
   void FailNumber(int number) { fail_number_ = number; }
   void FailFrom(int number) { fail_from_ = number; }
 
-  /// Empties the record of calls; the count of those that can fail goes on.
+  /// Empties the record of calls. The count of calls that can fail continues.
   void ForgetCalls() { calls_.clear(); }
 
-  /// Something that a correct program never does.
+  /// Records something that a correct program never does.
   void Misuse(const std::string& what) { misuses_.push_back(what); }
   void ForgetMisuses() { misuses_.clear(); }
 

@@ -1,4 +1,4 @@
-// A clipboard that holds what was put there, unless another program has it open.
+// A clipboard that keeps what was put on it, unless another program has it open.
 #pragma once
 
 #include "os/clipboard.h"
@@ -14,7 +14,7 @@ class SimulatedClipboard final : public Clipboard {
   }
 
   std::string text;
-  /// Another program has it open.
+  /// True while another program has it open.
   bool is_held = false;
 };
 

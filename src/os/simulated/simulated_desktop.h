@@ -1,4 +1,5 @@
-// What a user of the simulated machine sees: windows of other programs, message boxes, the notification area.
+// What the user of the simulated machine sees: windows of other programs, message boxes and the notification
+// area.
 #pragma once
 
 #include <functional>
@@ -27,7 +28,7 @@ class SimulatedWindows final : public Windows {
   bool OpenIcon(WindowHandle window) override;
   bool ShowWindow(WindowHandle window, int way) override;
   bool SetForegroundWindow(WindowHandle window) override;
-  /// A window that is asked to close does so at once.
+  /// A window closes at once when it receives kWmClose.
   bool PostMessageA(WindowHandle window, std::uint32_t message) override;
 
   /// Opens a window in front of all others.
@@ -52,7 +53,7 @@ class SimulatedWindows final : public Windows {
   [[nodiscard]] std::vector<Window>::iterator Find(WindowHandle window);
 
   CallLog& log_;
-  /// The nearest to the user first.
+  /// The front window first.
   std::vector<Window> windows_;
   WindowHandle next_handle_ = 0x1000;
   WindowHandle foreground_ = 0;
@@ -70,10 +71,10 @@ class SimulatedDialogs final : public Dialogs {
 
   int MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) override;
 
-  /// Answers of the next boxes, in order; after them each box gets its default button.
+  /// Sets the answers of the next message boxes, in order. Later boxes get their default button.
   void AnswerNext(int answer) { answers_.push_back(answer); }
   void WhileOpen(std::function<void()> action) { while_open_ = std::move(action); }
-  /// The program ends: a box that is open closes unanswered, and no further one opens.
+  /// Ends the program: an open box closes without an answer, and no further box opens.
   void End() { ended_ = true; }
   [[nodiscard]] const std::vector<Box>& Boxes() const { return boxes_; }
   void ForgetBoxes() { boxes_.clear(); }
@@ -89,7 +90,7 @@ class SimulatedDialogs final : public Dialogs {
 struct TrayRequest {
   std::uint32_t request;
   NotifyIconData data;
-  /// The tip up to its NUL.
+  /// The tooltip up to its NUL.
   std::string tip;
 };
 
@@ -98,15 +99,15 @@ class SimulatedShell final : public Shell {
   SimulatedShell(CallLog& log, const SimulatedFiles& files) : log_(log), files_(files) {}
 
   bool Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& data) override;
-  /// Opens every file that is there.
+  /// Opens every file that exists.
   bool ShellExecuteA(const char* verb, const std::string& path, int show) override;
 
   [[nodiscard]] const std::vector<TrayRequest>& Requests() const { return requests_; }
   void ForgetRequests() { requests_.clear(); }
-  /// The taskbar ends, and every icon with it.
+  /// Ends the taskbar and removes every icon with it.
   void ForgetIcons() { icons_.clear(); }
   [[nodiscard]] int IconCount() const { return static_cast<int>(icons_.size()); }
-  /// Verb, path and way of showing of each file that was opened.
+  /// The verb, path and show command of each opened file.
   [[nodiscard]] const std::vector<std::string>& OpenedFiles() const { return opened_files_; }
 
  private:

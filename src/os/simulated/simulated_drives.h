@@ -14,7 +14,7 @@ struct Drive {
   std::uint32_t type = kDriveFixed;
   std::uint64_t total_bytes = 0;
   std::uint64_t free_bytes = 0;
-  /// Flags of the file system; nothing where the volume cannot be asked.
+  /// Flags of the file system; nullopt if the volume cannot be queried.
   std::optional<std::uint32_t> flags = 0U;
 };
 
@@ -28,16 +28,16 @@ class SimulatedDrives final : public Drives {
   std::uint32_t GetLogicalDriveStringsA(std::uint32_t room, char* buffer) override;
   std::int32_t GetVolumeInformationA(const char* root, std::uint32_t& flags) override;
 
-  /// A letter from 'A' to 'Z', with its drive.
+  /// Adds a drive with a letter from 'A' to 'Z'.
   void Add(char letter, const Drive& drive) { drives_[letter] = drive; }
-  /// A system from before the extended query.
+  /// Simulates a system without the extended query.
   void RemoveExtendedQuery() { has_extended_query_ = false; }
 
  private:
-  /// The drive that a root names, in either case, with or without its backslash.
+  /// Returns the drive that a root names, in either case, with or without a trailing backslash.
   [[nodiscard]] const Drive* Find(const std::string& root) const;
 
-  /// The same, with its backslash only.
+  /// Returns the drive only if the root has its trailing backslash.
   [[nodiscard]] const Drive* FindWhole(const std::string& root) const;
 
   CallLog& log_;

@@ -1,4 +1,4 @@
-// The dialogs of files and folders of the simulated machine: a test says beforehand what the user picks.
+// The file and folder dialogs of the simulated machine. A test sets in advance what the user picks.
 #pragma once
 
 #include <functional>
@@ -18,10 +18,11 @@ class SimulatedFileDialogs final : public FileDialogs {
     return Show("SHBrowseForFolderA", folder);
   }
 
-  /// What is picked in the next dialogs, in order; an empty path, and none, is Cancel.
+  /// Sets what the user picks in the next dialogs, in order. An empty path means Cancel, and so does a
+  /// missing one.
   void PickNext(const std::string& path) { picks_.push_back(path); }
   void WhileOpen(std::function<void()> action) { while_open_ = std::move(action); }
-  /// Which dialogs were shown, each with the folder that was chosen at first.
+  /// Returns the dialogs that were shown, each with its initial folder.
   [[nodiscard]] const std::vector<std::string>& Shown() const { return shown_; }
 
  private:

@@ -14,7 +14,7 @@ constexpr std::uint32_t kArchive = 0x20;
 
 using Lines = std::vector<std::string>;
 
-/// Copies as much as fits and its NUL; returns the characters copied.
+/// Copies as much as fits, and a NUL. Returns the number of characters copied.
 std::uint32_t Copy(std::string_view text, char* buffer, std::uint32_t size_bytes) {
   if (size_bytes == 0) return 0;
   const std::size_t length = std::min<std::size_t>(text.size(), size_bytes - 1);
@@ -23,13 +23,13 @@ std::uint32_t Copy(std::string_view text, char* buffer, std::uint32_t size_bytes
   return static_cast<std::uint32_t>(length);
 }
 
-/// A default text as Windows 95 gives it back.
+/// Returns a default text as Windows 95 does: without trailing spaces and control characters.
 std::string_view WithoutBlanksAtTheEnd(std::string_view text) {
   while (!text.empty() && static_cast<unsigned char>(text.back()) <= ' ') text.remove_suffix(1);
   return text;
 }
 
-/// Lines without their ends.
+/// Splits a text into lines without their line breaks.
 Lines LinesOf(const std::string& content) {
   Lines lines;
   std::string line;
@@ -75,7 +75,7 @@ std::string_view ValueOf(std::string_view line) {
   return is_quoted ? value.substr(1, value.size() - 2) : value;
 }
 
-/// Where a section's lines are: behind its heading, up to the next one.
+/// The lines of a section: from the line after its heading up to the next heading.
 struct SectionLines {
   std::size_t begin;
   std::size_t end;
@@ -98,7 +98,7 @@ std::optional<std::size_t> FindEntry(const Lines& lines, const SectionLines& sec
   return std::nullopt;
 }
 
-/// Behind the last line of the section that is not empty.
+/// Returns the place after the last line of the section that is not empty.
 std::size_t PlaceForNewEntry(const Lines& lines, const SectionLines& section) {
   std::size_t place = section.end;
   while (place > section.begin && base::Trim(lines[place - 1]).empty()) --place;
@@ -129,7 +129,7 @@ void SetEntry(Lines& lines, const char* section, const char* key, const char* va
   lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(PlaceForNewEntry(lines, *found)), line);
 }
 
-/// The name that DOS knows a file by where no other file of the folder has a similar one.
+/// Returns the 8.3 name of a file, assuming that no other file in the folder has a similar name.
 std::string DosNameOf(const std::string& upper_path) {
   constexpr std::size_t kNameLength = 8;
   constexpr std::size_t kExtensionLength = 3;
@@ -180,7 +180,7 @@ bool SimulatedFiles::CopyFileA(const char* from, const char* to) {
   return true;
 }
 
-/// What does not fit leaves the file as it is.
+/// Leaves the file unchanged if the new content does not fit on the disk.
 bool SimulatedFiles::WriteWithinFreeBytes(const std::string& upper_path, const std::string& content) {
   const std::size_t before_bytes = Read(upper_path).value_or("").size();
   const std::size_t growth_bytes = content.size() - std::min(content.size(), before_bytes);
@@ -197,7 +197,7 @@ std::uint32_t SimulatedFiles::GetFileAttributesA(const char* path) {
   return read_only_.contains(UpperPath(path)) ? kFileAttributeReadOnly : kArchive;
 }
 
-/// Not recorded: it is asked for every byte of a path, and cannot fail.
+/// Not recorded: it is called for every byte of a path and cannot fail.
 bool SimulatedFiles::IsDBCSLeadByte(char byte) {
   const auto value = static_cast<unsigned char>(byte);
   return is_japanese_ && ((value >= 0x81 && value <= 0x9F) || (value >= 0xE0 && value <= 0xFC));

@@ -1,4 +1,4 @@
-// Files of the simulated machine, in memory, and the profile files among them. Paths compare without case.
+// Files of the simulated machine, kept in memory, including profile files. Paths ignore case.
 #pragma once
 
 #include <map>
@@ -37,28 +37,28 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   bool WritePrivateProfileStringA(const char* section, const char* key, const char* value,
                                   const char* file) override;
 
-  // The disk as a test sees it; none of these is recorded.
+  // The test's view of the disk; none of these calls is recorded.
   void SetWindowsDirectory(const std::string& folder) { windows_directory_ = folder; }
   void Write(const std::string& path, const std::string& content) { Store(UpperPath(path), content); }
   [[nodiscard]] std::optional<std::string> Read(const std::string& path) const;
-  /// False where there is none.
+  /// False if there is no such file.
   bool Erase(const std::string& path) { return files_.erase(UpperPath(path)) == 1; }
   void Protect(const std::string& path) { read_only_.insert(UpperPath(path)); }
-  /// Another program has this file open for itself alone, until it lets go of it.
+  /// Another program opens this file for exclusive use until LetGo.
   void Hold(const std::string& path) { held_.insert(UpperPath(path)); }
   void LetGo(const std::string& path) { held_.erase(UpperPath(path)); }
-  /// No file can be made any more, as on a CD; those that are there can be read.
+  /// Makes the disk read-only, like a CD: existing files can still be read.
   void ProtectDisk() { disk_is_protected_ = true; }
-  /// Names of files are in the two-byte characters of a Japanese Windows.
+  /// Simulates a Japanese Windows, whose file names have two-byte characters.
   void MakeJapanese() { is_japanese_ = true; }
-  /// From now on the disk takes this many bytes more.
+  /// Sets how many more bytes fit on the disk.
   void LimitFreeBytes(std::uint64_t bytes) { free_bytes_ = bytes; }
-  /// The date that a file gets when it is changed, in days since 30 December 1899.
+  /// Sets the date that changed files get, in days since 30 December 1899.
   void SetNow(double days) { now_days_ = days; }
-  /// How often the disk was written to. A copy writes twice: it empties its target first.
+  /// Returns how often the disk was written to. A copy counts as two writes: it empties its target first.
   [[nodiscard]] int WriteCount() const { return writes_; }
-  /// The power fails in this write, the first being 1: half of its bytes reach the disk, a name stays as it
-  /// was, and nothing is written any more.
+  /// Cuts the power during this write; the first is 1. Half of its bytes reach the disk, a rename has no
+  /// effect, and nothing is written afterwards.
   void CutPowerInWrite(int number) { last_write_ = number; }
   [[nodiscard]] int OpenCount() const { return static_cast<int>(open_.size()); }
 
@@ -68,9 +68,9 @@ class SimulatedFiles final : public Files, public ProfileFiles {
     std::uint32_t access;
     std::size_t place;
   };
-  /// Null, and a misuse, for a handle that is not open.
+  /// Returns null, and records a misuse, if the handle is not open.
   [[nodiscard]] OpenFile* FindOpen(FileHandle file);
-  /// True where it cannot be written to.
+  /// True if the file cannot be written.
   [[nodiscard]] bool IsProtected(const std::string& upper_path) const;
 
   enum class Power : unsigned char {
@@ -78,27 +78,27 @@ class SimulatedFiles final : public Files, public ProfileFiles {
     kFailsNow,
     kOff
   };
-  /// Counts a write and tells what becomes of it.
+  /// Counts a write and decides whether the power lasts.
   [[nodiscard]] Power BeginWrite();
   void Store(const std::string& upper_path, const std::string& content);
-  /// Puts at the place what fits on the disk, or half of it where the power fails; returns how many bytes
-  /// that were.
+  /// Writes at `place` as many bytes as fit on the disk, or half of them if the power fails. Returns the
+  /// number of bytes written.
   std::size_t Put(const std::string& upper_path, std::size_t place, std::string_view bytes);
   void MoveName(const std::string& from, const std::string& to);
   bool WriteWithinFreeBytes(const std::string& upper_path, const std::string& content);
   static std::string UpperPath(const std::string& path);
-  /// A bare name is one in the Windows directory.
+  /// Returns the full path in upper case; a bare name is in the Windows folder.
   [[nodiscard]] std::string ProfilePath(const std::string& file) const;
   void Flush(const std::string& file);
 
   CallLog& log_;
   std::string windows_directory_ = "C:\\WINDOWS";
   std::map<std::string, std::string> files_;
-  /// Dates of the last change.
+  /// Dates of the last change, in days since 30 December 1899.
   std::map<std::string, double> changed_days_;
   std::set<std::string> read_only_;
   std::set<std::string> held_;
-  /// Profile files that the system keeps in memory.
+  /// Profile files that the system has cached.
   std::set<std::string> kept_;
   std::map<FileHandle, OpenFile> open_;
   FileHandle next_file_ = 0x40;
@@ -107,7 +107,7 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   bool is_japanese_ = false;
   double now_days_ = 0;
   int writes_ = 0;
-  /// The write in which the power fails; 0 where it does not.
+  /// The write during which the power fails; 0 if it does not.
   int last_write_ = 0;
 };
 

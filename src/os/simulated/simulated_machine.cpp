@@ -10,7 +10,7 @@ namespace qdix::os {
 
 namespace {
 
-/// The addresses of one process, and what a small program takes of them.
+/// The address space of a process, and what a small program uses of it.
 constexpr std::uint32_t kAddressSpaceBytes = 0x7FBF0000U;
 constexpr std::uint32_t kProgramBytes = 0x00800000U;
 
@@ -127,7 +127,7 @@ std::uint32_t SimulatedMachine::GetTickCount() {
   return tick_count_ms_;
 }
 
-/// The picture "dddd, MMMM d, yyyy" of an English Windows.
+/// Uses the format "dddd, MMMM d, yyyy" of an English Windows.
 std::string SimulatedMachine::LongDate(double days) {
   constexpr std::array<const char*, 7> kWeekdays{"Saturday",  "Sunday",   "Monday", "Tuesday",
                                                  "Wednesday", "Thursday", "Friday"};

@@ -1,5 +1,5 @@
-// A Windows 98 machine that a test sets up as it likes. Records what was asked of it, in order, and fails the
-// calls that a test names.
+// A Windows 98 machine that a test sets up freely. It records the calls it receives, in order, and fails
+// those that a test selects.
 #pragma once
 
 #include <functional>
@@ -31,7 +31,7 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   // Memory, in bytes.
   void SetMemory(std::uint32_t total_physical, std::uint32_t available_physical,
                  std::uint32_t total_page_file, std::uint32_t available_page_file);
-  /// Blocks that would take more than this together are refused.
+  /// Refuses blocks that exceed this total.
   void LimitAllocatableBytes(std::uint64_t bytes) { memory_.LimitAllocatableBytes(bytes); }
   [[nodiscard]] const std::vector<std::uint32_t>& AllAllocations() const { return memory_.AllAllocations(); }
   [[nodiscard]] std::vector<std::uint32_t> OutstandingBlocks() const { return memory_.OutstandingBlocks(); }
@@ -39,7 +39,7 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
 
   // Registry.
   void CreateRegistryKey(KeyHandle root, const std::string& path) { registry_.CreateKey(root, path); }
-  /// Stores a text with its closing NUL.
+  /// Stores a text with its terminating NUL.
   void SetRegistryValue(KeyHandle root, const std::string& path, const std::string& name,
                         const std::string& text);
   void SetRegistryBytes(KeyHandle root, const std::string& path, const std::string& name, std::uint32_t type,
@@ -57,9 +57,9 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   }
   void DenyWrites(KeyHandle root, const std::string& path) { registry_.DenyWrites(root, path); }
   [[nodiscard]] int OpenKeyCount() const { return registry_.OpenKeyCount(); }
-  /// Closes every handle of this key behind the program's back; returns how many there were.
+  /// Closes every handle of this key behind the program's back and returns how many there were.
   int CloseHandlesOf(KeyHandle root, const std::string& path) { return registry_.CloseHandlesOf(root, path); }
-  /// Names of the values written, in order, from the given number of recorded calls on.
+  /// Returns the names of the values written, in order, not counting the first `first_call` recorded calls.
   [[nodiscard]] std::vector<std::string> WrittenValueNames(std::size_t first_call = 0) const;
   [[nodiscard]] std::vector<std::string> QueriedValueNames() const;
 
@@ -68,35 +68,35 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   [[nodiscard]] std::optional<std::string> ReadFile(const std::string& path) const {
     return files_.Read(path);
   }
-  /// Names of files are in the two-byte characters of a Japanese Windows.
+  /// Simulates a Japanese Windows, whose file names have two-byte characters.
   void MakeJapanese() { files_.MakeJapanese(); }
-  /// Nobody can write into this file any more.
+  /// Makes this file read-only.
   void ProtectFile(const std::string& path) { files_.Protect(path); }
-  /// Another program has this file open for itself alone, until it lets go of it.
+  /// Another program opens this file for exclusive use until LetGoOfFile.
   void HoldFile(const std::string& path) { files_.Hold(path); }
   void LetGoOfFile(const std::string& path) { files_.LetGo(path); }
-  /// No file can be made any more, as on a CD; those that are there can be read.
+  /// Makes the disk read-only, like a CD: existing files can still be read.
   void ProtectDisk() { files_.ProtectDisk(); }
-  /// From now on the disk takes this many bytes more.
+  /// Sets how many more bytes fit on the disk.
   void LimitFreeBytes(std::uint64_t bytes) { files_.LimitFreeBytes(bytes); }
-  /// How often the disk was written to.
+  /// Returns how often the disk was written to.
   [[nodiscard]] int DiskWriteCount() const { return files_.WriteCount(); }
-  /// The power fails in this write, the first being 1: half of its bytes reach the disk, and nothing after
-  /// it.
+  /// Cuts the power during this write; the first is 1. Half of its bytes reach the disk, and nothing
+  /// afterwards.
   void CutPowerInDiskWrite(int number) { files_.CutPowerInWrite(number); }
-  /// True where there was one.
+  /// Deletes a file. True if it existed.
   bool EraseFile(const std::string& path) { return files_.Erase(path); }
   [[nodiscard]] int OpenFileCount() const { return files_.OpenCount(); }
-  /// Takes the disk out of a drive: its folders cannot be gone to, its programs not started.
+  /// Removes the disk from a drive: its folders cannot become current and its programs cannot be started.
   void TakeDiskOut(char drive) { empty_drives_.insert(base::UpperAscii(std::string(1, drive))); }
-  /// A folder that a program can be started in.
+  /// Adds a folder that can become the current one.
   void AddFolder(const std::string& path) { folders_.insert(base::UpperAscii(path)); }
   [[nodiscard]] const std::string& CurrentFolder() const { return current_folder_; }
   void SetWindowsDirectory(const std::string& folder) { files_.SetWindowsDirectory(folder); }
 
-  // The shell's folders, and what it makes of recent documents.
+  // The shell's folders, and the shortcuts it makes for recent documents.
   void SetSpecialFolder(int number, const std::string& path) { shell_files_.SetFolder(number, path); }
-  /// A shell that makes no shortcuts of recent documents, or names them otherwise.
+  /// Simulates a shell that makes no shortcuts for recent documents, or names them differently.
   void MakeNoRecentShortcuts() { shell_files_.MakeNoRecentShortcuts(); }
   void PutShortcut(const std::string& path, const Shortcut& shortcut) { shell_files_.Put(path, shortcut); }
   [[nodiscard]] std::optional<Shortcut> ShortcutAt(const std::string& path) const {
@@ -105,11 +105,11 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
 
   // Drives, by their letters in upper case.
   void AddDrive(char letter, const simulated::Drive& drive) { drives_.Add(letter, drive); }
-  /// A system from before the extended query of free space.
+  /// Simulates a system without the extended query for free space.
   void RemoveExtendedQuery() { drives_.RemoveExtendedQuery(); }
 
-  // Event pump: the action runs inside each pump, with the number of the pump, the first being 1. A wait is
-  // one pump.
+  // Event pump: the action runs inside each pump and receives the pump's number; the first is 1. A wait
+  // counts as one pump.
   void OnPump(std::function<void(int)> action) { on_pump_ = std::move(action); }
   [[nodiscard]] int PumpCount() const { return pumps_; }
 
@@ -131,24 +131,24 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   // Message boxes.
   void AnswerNextBox(int answer) { dialogs_.AnswerNext(answer); }
   void WhileBoxIsOpen(std::function<void()> action) { dialogs_.WhileOpen(std::move(action)); }
-  /// The program ends: a box that is open closes unanswered, and no further one opens.
+  /// Ends the program: an open box closes without an answer, and no further box opens.
   void EndBoxes() { dialogs_.End(); }
   [[nodiscard]] const std::vector<simulated::Box>& Boxes() const { return dialogs_.Boxes(); }
 
   // Notification area.
   [[nodiscard]] const std::vector<simulated::TrayRequest>& TrayRequests() const { return shell_.Requests(); }
-  /// The taskbar ends, and every icon with it.
+  /// Ends the taskbar and removes every icon with it.
   void ForgetTrayIcons() { shell_.ForgetIcons(); }
   [[nodiscard]] int TrayIconCount() const { return shell_.IconCount(); }
 
   [[nodiscard]] const std::vector<std::string>& OpenedFiles() const { return shell_.OpenedFiles(); }
 
-  // The processor: it answers what is set here.
+  // The processor: it answers what the test sets here.
   [[nodiscard]] simulated::SimulatedProcessor& TheProcessor() { return processor_; }
 
-  // The performance statistics in the dynamic root. They are there once a load has been set.
+  // The performance statistics in the dynamic root. They exist once a load is set.
   void SetCpuLoad(std::uint32_t percent);
-  /// The load reads from the registry as these bytes.
+  /// Sets the bytes that the registry returns for the load.
   void SetCpuLoadBytes(const std::string& bytes);
 
   // Time and this process.
@@ -157,32 +157,32 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
     files_.SetNow(days);
   }
   void AdvanceMs(std::int64_t ms);
-  /// The process ends, and with it the mutexes that it holds.
+  /// Ends the process and releases its mutexes.
   void EndProcess() { mutexes_.clear(); }
   void SetOtherCopyRunning(bool is_running) { other_copy_ = is_running; }
   void SetModuleFileName(const std::string& path) { module_file_name_ = path; }
 
-  // Other programs, by the beginning of their command line up to a blank, or by what stands in quotation
-  // marks there. A name with a folder is also a file. The disk defragmenter is there from the start.
+  // Other programs, named by their command line up to a space, or by what is in quotation marks there. A name
+  // with a folder is also a file. The disk defragmenter exists from the start.
   void AddProgram(const std::string& name);
   void RemoveProgram(const std::string& name);
-  /// The command lines that started one, in order.
+  /// Returns the command lines that started a program, in order.
   [[nodiscard]] const std::vector<std::string>& StartedPrograms() const { return started_programs_; }
 
-  /// How often the session was asked to end with a restart.
+  /// Returns how often the session was asked to end with a restart.
   [[nodiscard]] int RestartCount() const { return restarts_; }
 
-  // Faults and records. A number counts the calls that can fail, the first being 1.
+  // Faults and records. Numbers count the calls that can fail; the first is 1.
   void FailNextCall(const std::string& name) { log_.FailNext(name); }
   void FailCallNumber(int number) { log_.FailNumber(number); }
   void FailFromCallNumber(int number) { log_.FailFrom(number); }
   [[nodiscard]] int FaultableCallCount() const { return log_.FaultableCalls(); }
   [[nodiscard]] const std::vector<std::string>& Calls() const { return log_.Calls(); }
   [[nodiscard]] const std::vector<std::string>& Misuses() const { return log_.Misuses(); }
-  /// Empties the records of calls, values read and written, allocations, boxes and requests for icons, which
-  /// would fill the memory of a long run. What is held at the moment is not forgotten, nor are misuses.
+  /// Empties the records of calls, value accesses, allocations, message boxes and icon requests, which would
+  /// fill the memory in a long run. Keeps what is currently held, and the misuses.
   void ForgetRecords();
-  /// For a test that misuses the machine on purpose.
+  /// For tests that misuse the machine on purpose.
   void ForgetMisuses() { log_.ForgetMisuses(); }
 
  private:

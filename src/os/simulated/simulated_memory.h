@@ -1,5 +1,5 @@
-// Memory of the simulated machine. Blocks take no memory of the host: they are made-up addresses that nothing
-// may look into.
+// Memory of the simulated machine. Blocks use no memory of the host: their addresses are made up and must not
+// be accessed.
 #pragma once
 
 #include <cstdint>
@@ -26,7 +26,7 @@ class SimulatedMemory final : public Memory {
   [[nodiscard]] const std::vector<std::uint32_t>& AllAllocations() const { return all_; }
   void ForgetAllocations() { all_.clear(); }
   [[nodiscard]] std::vector<std::uint32_t> OutstandingBlocks() const;
-  /// Pages written, block by block, of the blocks that are outstanding.
+  /// Returns the number of pages written in each outstanding block.
   [[nodiscard]] std::vector<std::uint32_t> TouchedPages() const;
 
  private:

@@ -1,4 +1,4 @@
-// Files of the simulated machine, byte by byte.
+// The open files of the simulated machine: reading and writing their bytes.
 #include <algorithm>
 
 #include "os/simulated/simulated_files.h"
@@ -50,7 +50,7 @@ FileHandle SimulatedFiles::CreateFileA(const char* path, std::uint32_t access, s
   const bool writes = makes || (access & kGenericWrite) != 0;
   if ((!exists && !makes) || (writes && IsProtected(upper)) || held_.contains(upper)) return kInvalidFile;
   if (makes) {
-    // An emptied file is the worst that a failing power leaves.
+    // An emptied file is the worst result of a power failure.
     const Power power = BeginWrite();
     if (power != Power::kOff) Store(upper, "");
     if (power != Power::kOn) return kInvalidFile;

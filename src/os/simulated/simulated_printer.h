@@ -1,4 +1,4 @@
-// A printer that keeps its pages. A test says beforehand what the user does in the dialog, and which call
+// A printer that keeps its pages. A test sets in advance what the user does in the dialog and which call
 // fails.
 #pragma once
 
@@ -51,10 +51,10 @@ class SimulatedPrinter final : public Printer {
   std::function<void()> while_open;
   std::string failing_call;
 
-  // What the test looks at.
+  // What the test checks.
   std::vector<std::string> calls;
   std::string document;
-  /// The texts of each page that was ended.
+  /// The texts of each finished page.
   std::vector<std::vector<DrawnText>> pages;
   bool has_printed = false;
   bool is_open = false;

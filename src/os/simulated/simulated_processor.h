@@ -1,4 +1,5 @@
-// The processor of the simulated machine: answers what a test recorded from a real one.
+// The processor of the simulated machine. It gives the answers that a test sets, for example those of a real
+// processor.
 #pragma once
 
 #include <map>
@@ -24,13 +25,13 @@ class SimulatedProcessor final : public Processor {
             .microseconds = std::uint64_t{1000} * milliseconds};
   }
 
-  /// A processor that does not identify itself: 3 is a 386, 4 a 486.
+  /// Simulates a processor that does not identify itself: 3 is a 386, 4 a 486.
   void SetGeneration(int generation) {
     generation_ = generation;
     leaves_.clear();
   }
   void SetLeaf(std::uint32_t leaf, const CpuidRegisters& answer) { leaves_[leaf] = answer; }
-  /// Clock in thousands of cycles a second; 0 forbids the counter.
+  /// Sets the clock in thousands of cycles per second; 0 forbids the counter.
   void SetClock(std::uint32_t khz) { clock_khz_ = khz; }
 
  private:

@@ -29,7 +29,7 @@ std::string RootName(KeyHandle root) {
   }
 }
 
-/// A key as the record of calls names it, with the rights that were asked for.
+/// Returns a key as the call log shows it, with the requested access rights.
 std::string ShownKey(const std::optional<std::string>& path, std::uint32_t access) {
   return path.value_or("invalid") + ", " + std::to_string(access);
 }
@@ -68,7 +68,7 @@ KeyHandle SimulatedRegistry::Open(const std::string& path, std::uint32_t access)
   return handle;
 }
 
-/// A key never stands without the keys above it.
+/// Creates a key together with all keys above it.
 void SimulatedRegistry::Create(const std::string& path) {
   for (std::size_t end = path.find('\\'); end != std::string::npos; end = path.find('\\', end + 1)) {
     keys_.try_emplace(path.substr(0, end));

@@ -1,5 +1,5 @@
-// The registry of the simulated machine: a tree of keys with typed values. Names compare without case and
-// keep their spelling.
+// The registry of the simulated machine: a tree of keys with typed values. Names ignore case but keep their
+// spelling.
 #pragma once
 
 #include <cstdint>
@@ -37,23 +37,23 @@ class SimulatedRegistry final : public Registry {
   std::int32_t RegFlushKey(KeyHandle key) override;
   std::int32_t RegCloseKey(KeyHandle key) override;
 
-  // The tree as a test sees it; none of these is recorded.
+  // The test's view of the tree; none of these calls is recorded.
   void CreateKey(KeyHandle root, const std::string& path);
   void SetValue(KeyHandle root, const std::string& path, const std::string& name, const RegistryValue& value);
   [[nodiscard]] bool KeyExists(KeyHandle root, const std::string& path) const;
   [[nodiscard]] std::optional<RegistryValue> Value(KeyHandle root, const std::string& path,
                                                    const std::string& name) const;
   [[nodiscard]] std::map<std::string, RegistryValue> Values(KeyHandle root, const std::string& path) const;
-  /// Nobody may change this key any more; its keys below can be.
+  /// Makes this key read-only. The keys below it can still be changed.
   void DenyWrites(KeyHandle root, const std::string& path);
 
   [[nodiscard]] int OpenKeyCount() const { return static_cast<int>(open_.size()); }
 
-  /// Closes every handle of this key behind the program's back; returns how many there were.
+  /// Closes every handle of this key behind the program's back and returns how many there were.
   int CloseHandlesOf(KeyHandle root, const std::string& path);
 
   struct ValueAccess {
-    /// How many calls had been recorded when it happened.
+    /// The number of calls recorded before this access, including it.
     std::size_t call;
     std::string name;
   };
@@ -77,12 +77,12 @@ class SimulatedRegistry final : public Registry {
   };
 
   [[nodiscard]] std::optional<std::string> FullPath(KeyHandle parent, const std::string& subkey) const;
-  /// Nothing for a handle that is not open; the roots always are.
+  /// Returns nullopt if the handle is not open. The roots are always open.
   [[nodiscard]] std::optional<OpenKey> FindOpen(KeyHandle key) const;
   [[nodiscard]] bool RefusesWrites(const std::string& path, std::uint32_t access) const;
-  /// All rights, less those to change a key that nobody may change.
+  /// Returns all rights, but for a read-only key only the right to read.
   [[nodiscard]] std::uint32_t MostAccess(const std::string& path) const;
-  /// A value as the record of calls names it.
+  /// Returns a value as the call log shows it.
   static std::string ShownValue(const std::optional<OpenKey>& key, const char* value_name);
   KeyHandle Open(const std::string& path, std::uint32_t access);
   void Create(const std::string& path);

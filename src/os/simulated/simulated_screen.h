@@ -1,4 +1,4 @@
-// A screen of the size that the test gives it; 640 by 480 with a taskbar at first.
+// A screen of the size that the test sets; by default 640 by 480 with a taskbar.
 #pragma once
 
 #include "os/screen.h"

@@ -6,7 +6,7 @@ namespace qdix::os::simulated {
 
 namespace {
 
-/// First line of a file that stands for a shortcut; target, arguments and folder follow, a line each.
+/// First line of a file that represents a shortcut. Target, arguments and folder follow, one per line.
 constexpr const char* kShortcutMark = "shortcut";
 
 std::string FileOf(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
@@ -15,7 +15,7 @@ std::string WithBackslash(const std::string& folder) {
   return folder.ends_with('\\') ? folder : folder + '\\';
 }
 
-/// For the record of calls: NULs as "|".
+/// Shows NULs as "|" in the call log.
 std::string Shown(std::string list) {
   for (char& character : list) character = character == '\0' ? '|' : character;
   return list;
@@ -54,7 +54,7 @@ std::vector<std::string> SimulatedShellFiles::NamesOf(const std::string& list) {
     names.push_back(list.substr(begin, end - begin));
     begin = end + 1;
   }
-  // The NUL that ends the list has to be the last of its bytes.
+  // The NUL that ends the list must be its last byte.
   if (begin + 1 != list.size()) log_.Misuse("a list of names without its end: " + Shown(list));
   return names;
 }
@@ -67,7 +67,7 @@ bool SimulatedShellFiles::Rename(const std::vector<std::string>& from, const std
   return files_.Erase(from.front());
 }
 
-/// Into a folder, over what is there.
+/// Copies into a folder and replaces existing files.
 bool SimulatedShellFiles::Copy(const std::vector<std::string>& from, const std::vector<std::string>& to) {
   if (to.size() != 1) return false;
   for (const std::string& path : from) {

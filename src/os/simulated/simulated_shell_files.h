@@ -1,4 +1,4 @@
-// The shell's folders and shortcuts on the simulated machine, which are files of it.
+// The shell's folders and shortcuts on the simulated machine. Shortcuts are files on its disk.
 #pragma once
 
 #include <map>
@@ -21,7 +21,8 @@ class SimulatedShellFiles final : public ShellFiles {
   std::optional<Shortcut> ReadShortcut(const std::string& path) override;
   bool WriteShortcut(const std::string& path, const Shortcut& shortcut) override;
 
-  // As a test sees it; none of these is recorded. An empty path is a folder that the shell does not have.
+  // The test's view; none of these calls is recorded. An empty path means that the shell does not have the
+  // folder.
   void SetFolder(int number, const std::string& path) { folders_[number] = path; }
   void MakeNoRecentShortcuts() { makes_recent_shortcuts_ = false; }
   void Put(const std::string& path, const Shortcut& shortcut);

@@ -1,4 +1,4 @@
-// A device whose fonts have one width a letter and round heights, and that notes what is drawn on it.
+// A device with fixed-width fonts and simple heights that records what is drawn on it.
 #pragma once
 
 #include <string>
@@ -24,7 +24,8 @@ struct FilledBox {
   std::uint32_t colour;
 };
 
-/// A letter is as many pixels wide as its font has points (one more in bold) and lines are twice as high.
+/// A letter is as many pixels wide as its font has points, one more in bold. A line is twice as high as the
+/// font has points.
 class SimulatedTextDevice final : public TextDevice {
  public:
   int GetTextExtentPoint32A(const FontLook& look, std::string_view text) override {
