@@ -1,6 +1,6 @@
 #include "os/win32/dropped_files.h"
 
-// The second header does not stand without the first.
+// shellapi.h needs windows.h first.
 // clang-format off
 #include <windows.h>
 #include <shellapi.h>
@@ -21,7 +21,7 @@ std::vector<std::string> TakeDroppedPaths(WPARAM drop) {
   std::vector<std::string> paths;
   const UINT count = DragQueryFileA(dropped, kAskForCount, nullptr, 0);
   for (UINT index = 0; index < count; ++index) {
-    // The length that is asked for alone is that of the whole path.
+    // Without a buffer, the call returns the length of the whole path.
     const UINT length = DragQueryFileA(dropped, index, nullptr, 0);
     std::array<char, MAX_PATH> path{};
     if (length == 0 || length >= path.size()) continue;

@@ -8,11 +8,11 @@
 
 namespace qdix::os::win32 {
 
-/// From now on the window, or one inside it, gets WM_DROPFILES.
+/// Registers a window for dropped files. It, or a window inside it, then gets WM_DROPFILES.
 void AcceptDroppedFiles(HWND window);
 
-/// The paths of the files of a WM_DROPFILES, whose memory is freed; `drop` is its first word. A path that is
-/// longer than the system opens is left out.
+/// Returns the paths of the files in a WM_DROPFILES message and frees its memory. `drop` is the message's
+/// wParam. Leaves out paths that are too long for the system to open.
 [[nodiscard]] std::vector<std::string> TakeDroppedPaths(WPARAM drop);
 
 }  // namespace qdix::os::win32

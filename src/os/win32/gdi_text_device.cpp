@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kPointsAnInch = 72;
 
-/// Windows 95 draws and measures no more characters at a time.
+/// Limits a text to the number of characters that Windows 95 draws and measures in one call.
 int Length(std::string_view text) {
   constexpr std::size_t kMostCharacters = 8191;
   return static_cast<int>(std::min(text.size(), kMostCharacters));
@@ -20,7 +20,7 @@ GdiTextDevice::GdiTextDevice(HDC device, const Faces& faces)
     : device_(device), faces_(faces), first_(GetCurrentObject(device, OBJ_FONT)) {}
 
 GdiTextDevice::~GdiTextDevice() {
-  // A font that is selected cannot be deleted.
+  // A selected font cannot be deleted.
   SelectObject(device_, first_);
   for (const MadeFont& made : fonts_) DeleteObject(made.font);
 }
@@ -40,7 +40,7 @@ HFONT GdiTextDevice::FontOf(const FontLook& look) {
   return font;
 }
 
-/// Where there is no font the one before stays.
+/// Keeps the current font if there is no such font.
 void GdiTextDevice::Select(const FontLook& look) {
   HFONT const font = FontOf(look);
   if (font == nullptr || font == selected_) return;
@@ -73,7 +73,7 @@ void GdiTextDevice::TextOutA(int left_px, int top_px, const FontLook& look, std:
 void GdiTextDevice::FillRect(int left_px, int top_px, int width_px, int height_px, std::uint32_t colour) {
   const RECT box{left_px, top_px, left_px + width_px, top_px + height_px};
   SetBkColor(device_, colour);
-  ExtTextOutA(device_, 0, 0, ETO_OPAQUE, &box, nullptr, 0, nullptr);  // fills without a brush to make
+  ExtTextOutA(device_, 0, 0, ETO_OPAQUE, &box, nullptr, 0, nullptr);  // fills without creating a brush
 }
 
 }  // namespace qdix::os::win32

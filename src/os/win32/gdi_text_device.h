@@ -1,4 +1,4 @@
-// Texts on a device of the system. Makes each font when it is first asked for.
+// Draws text on a GDI device. Creates each font when it is first needed.
 #pragma once
 
 #include <windows.h>
@@ -9,14 +9,14 @@
 
 namespace qdix::os::win32 {
 
-/// The fonts of a kind of device, and their size in percent of what is asked for.
+/// The fonts for a kind of device, and their size in percent of the requested size.
 struct Faces {
   const char* proportional;
   const char* fixed;
   int percent;
 };
-/// The dialog font of the time, which screens have as bitmaps, and what printers have instead; letters of 8
-/// points are small on paper.
+/// On screens, the standard dialog font of Windows 95, which is a bitmap font. On printers, scalable fonts in
+/// its place, larger because 8-point letters are small on paper.
 inline constexpr Faces kScreenFaces{"MS Sans Serif", "Courier New", 100};
 inline constexpr Faces kPaperFaces{"Arial", "Courier New", 125};
 
@@ -34,7 +34,7 @@ class GdiTextDevice final : public TextDevice {
                 std::string_view text) override;
   void FillRect(int left_px, int top_px, int width_px, int height_px, std::uint32_t colour) override;
 
-  /// A new page has forgotten its font.
+  /// Call this for each new page: the device has then lost its font.
   void PageStarted() { selected_ = nullptr; }
 
  private:

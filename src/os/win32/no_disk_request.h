@@ -1,11 +1,11 @@
-// Keeps the system from asking the user for a disk while a drive is touched that may be empty.
+// Prevents the system from asking for a disk while the program accesses a drive that may be empty.
 #pragma once
 
 #include <windows.h>
 
 namespace qdix::os::win32 {
 
-/// Only for the time of one question: programs started from here inherit the mode.
+/// Keep it for a single query: programs started while it exists inherit the mode.
 class NoDiskRequest {
  public:
   NoDiskRequest() : former_(SetErrorMode(SEM_FAILCRITICALERRORS)) {}

@@ -1,6 +1,6 @@
 #include "os/win32/shortcut_object.h"
 
-// The later headers do not stand without the first.
+// objbase.h and shlobj.h need windows.h first.
 // clang-format off
 #include <windows.h>
 #include <objbase.h>
@@ -13,12 +13,12 @@ namespace qdix::os::win32 {
 
 namespace {
 
-// The published numbers of the shell's class of shortcuts and of the two interfaces.
+// The published identifiers of the shell link class and its two interfaces.
 constexpr GUID kShellLinkClass = {0x00021401, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 constexpr GUID kShellLinkInterface = {0x000214EE, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 constexpr GUID kPersistFileInterface = {0x0000010B, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 
-/// The interface of files speaks two-byte characters only.
+/// IPersistFile takes two-byte characters only.
 using WidePath = std::array<WCHAR, MAX_PATH>;
 
 bool Widen(const std::string& path, WidePath& wide) {
@@ -77,7 +77,7 @@ std::optional<Shortcut> ShortcutObject::Read() const {
   std::array<char, MAX_PATH> target{};
   std::array<char, MAX_PATH> arguments{};
   std::array<char, MAX_PATH> folder{};
-  WIN32_FIND_DATAA of_file{};  // not looked at, but the first shell32 may write it whatever it is given
+  WIN32_FIND_DATAA of_file{};  // unused, but the first shell32 may write even through a null pointer
   const bool is_file = link_->GetPath(target.data(), static_cast<int>(target.size()), &of_file, 0) == S_OK &&
                        target[0] != '\0';
   const bool has_rest =

@@ -1,5 +1,5 @@
-// One shortcut as the shell keeps it. The library that makes such objects is loaded for as long as one of
-// them lives: a program that touches no shortcut does not pay for it.
+// A shortcut as the shell stores it. ole32.dll is loaded only while such an object exists, so a program that
+// uses no shortcut does not pay for it.
 #pragma once
 
 #include <windows.h>
@@ -21,12 +21,12 @@ class ShortcutObject {
   ShortcutObject& operator=(const ShortcutObject&) = delete;
   ~ShortcutObject();
 
-  // False, and no other effect, where the system has no such objects.
+  // Each returns false and does nothing if the system has no such objects.
   [[nodiscard]] bool Load(const std::string& path);
   [[nodiscard]] bool Set(const Shortcut& shortcut);
   [[nodiscard]] bool Save(const std::string& path);
 
-  /// Nothing where it leads to something that is no file.
+  /// Returns nullopt if the target is not a file.
   [[nodiscard]] std::optional<Shortcut> Read() const;
 
  private:

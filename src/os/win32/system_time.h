@@ -1,4 +1,4 @@
-// The system's records of time as the days that the program counts in.
+// Converts the system's time records to the day numbers that the program uses.
 #pragma once
 
 #include <windows.h>
@@ -7,7 +7,7 @@
 
 namespace qdix::os::win32 {
 
-/// Days since 30 December 1899, the time of day as the fraction, to the second.
+/// Returns the days since 30 December 1899 with the time of day as the fraction, to the second.
 [[nodiscard]] inline double DaysOf(const SYSTEMTIME& time) {
   constexpr double kSecondsPerDay = 24.0 * 60 * 60;
   const int seconds = (time.wHour * 60 + time.wMinute) * 60 + time.wSecond;

@@ -6,7 +6,8 @@ namespace qdix::os::win32 {
 
 namespace {
 
-/// The text with its closing NUL in memory that the system can take over; null where there is no room.
+/// Returns the text with its terminating NUL in memory that the clipboard can take over, or null if memory is
+/// short.
 HGLOBAL MakeShared(const std::string& text) {
   HGLOBAL const memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_DDESHARE, text.size() + 1);
   if (memory == nullptr) return nullptr;
@@ -16,7 +17,7 @@ HGLOBAL MakeShared(const std::string& text) {
   return memory;
 }
 
-/// Programs that watch the clipboard open it for a moment whenever it changes.
+/// Retries, because programs that watch the clipboard open it for a moment whenever it changes.
 bool OpenWithPatience(HWND owner) {
   constexpr int kTries = 10;
   constexpr DWORD kPauseMs = 20;

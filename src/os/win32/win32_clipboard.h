@@ -1,4 +1,4 @@
-// The clipboard of the real system. Not part of the bundle that every program gets.
+// Implements `Clipboard` on Windows. Not part of the `System` that every program gets.
 #pragma once
 
 #include <windows.h>
@@ -11,7 +11,7 @@ class Win32Clipboard final : public Clipboard {
  public:
   [[nodiscard]] bool SetClipboardData(const std::string& text) override;
 
-  /// The window that owns what is on the clipboard; the system takes no text of a program without one.
+  /// Sets the window that owns the clipboard content. The system accepts no text from a program without one.
   void SetOwner(HWND window) { owner_ = window; }
 
  private:

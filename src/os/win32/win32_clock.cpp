@@ -11,7 +11,7 @@ namespace qdix::os::win32 {
 
 namespace {
 
-/// Room for a long date of any language, its NUL included.
+/// Buffer size for a long date in any language, including the NUL.
 constexpr int kLongDateRoom = 128;
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Date and time of the real system. Forwards; the calendar arithmetic is shared with everybody else.
+// Implements `Clock` on Windows. Only forwards; the calendar arithmetic is shared code.
 #pragma once
 
 #include "os/clock.h"
@@ -7,10 +7,10 @@ namespace qdix::os::win32 {
 
 class Win32Clock final : public Clock {
  public:
-  /// In whole seconds.
+  /// Returns whole seconds.
   [[nodiscard]] double Now() override;
   [[nodiscard]] std::uint32_t GetTickCount() override;
-  /// The system knows the years from 1601 on.
+  /// The system supports years from 1601.
   [[nodiscard]] std::string LongDate(double days) override;
 };
 

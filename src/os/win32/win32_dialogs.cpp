@@ -17,7 +17,7 @@ static_assert(kIdOk == IDOK && kIdCancel == IDCANCEL && kIdYes == IDYES && kIdNo
 constexpr std::string_view kDialogClass = "#32770";
 
 BOOL CALLBACK EndIfDialog(HWND window, LPARAM /*context*/) {
-  // One place more than the name looked for, so that a longer name does not look like it.
+  // One character more than the class name, so that a longer name does not match when it is truncated.
   std::array<char, kDialogClass.size() + 2> name{};
   const int length = GetClassNameA(window, name.data(), static_cast<int>(name.size()));
   if (std::string_view(name.data(), static_cast<std::size_t>(length)) == kDialogClass)
@@ -29,16 +29,16 @@ BOOL CALLBACK EndIfDialog(HWND window, LPARAM /*context*/) {
 
 int Win32Dialogs::MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) {
   if (stopped_) return kIdNone;
-  // A box of a hidden or minimised window has no place on the taskbar. Behind other windows nobody would ever
-  // find it, and the program would wait for its answer without a word. Windows 98 and later refuse the
-  // foreground to a program that the user is not working with; above all other windows a box is seen anyway.
+  // A message box of a hidden or minimised window has no place on the taskbar. Behind other windows nobody
+  // would ever find it, and the program would wait silently for its answer. Windows 98 and later refuse the
+  // foreground to a program that the user is not working with, but a topmost box is visible in any case.
   const UINT foreground = OwnerIsInView() ? 0U : MB_SETFOREGROUND;
   const int answer = ::MessageBoxA(owner_, text.c_str(), title.c_str(), flags | foreground | MB_TOPMOST);
-  // A box that fails to open gives 0 or, where the failure comes from the dialog inside it, -1.
+  // A box that fails to open returns 0, or -1 if the failure comes from the dialog inside it.
   return stopped_ || answer < 0 ? kIdNone : answer;
 }
 
-/// Only boxes of this thread, the one that all windows of the program belong to.
+/// Closes the boxes of this thread only; all windows of the program belong to it.
 void Win32Dialogs::Stop() {
   stopped_ = true;
   EnumThreadWindows(GetCurrentThreadId(), &EndIfDialog, 0);

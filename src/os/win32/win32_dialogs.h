@@ -1,4 +1,4 @@
-// Message boxes of the real system, owned by the main window.
+// Implements `Dialogs` on Windows. The main window owns the message boxes.
 #pragma once
 
 #include <windows.h>
@@ -11,10 +11,10 @@ class Win32Dialogs final : public Dialogs {
  public:
   int MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) override;
 
-  /// The window that boxes belong to and that is disabled while one is open; null for none.
+  /// Sets the window that owns message boxes and is disabled while one is open; null for none.
   void SetOwner(HWND window) { owner_ = window; }
 
-  /// The program ends: boxes that are open close unanswered and no further one opens.
+  /// Closes open boxes without an answer and opens no further ones. For the end of the program.
   void Stop();
 
  private:

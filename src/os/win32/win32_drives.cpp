@@ -12,13 +12,14 @@ namespace {
 
 using ExtendedQuery = BOOL(WINAPI*)(const char*, ULARGE_INTEGER*, ULARGE_INTEGER*, ULARGE_INTEGER*);
 
-/// The first Windows 95 has no such function; its second edition brought it.
+/// Returns null on the first Windows 95, which lacks the function. Its second edition has it.
 ExtendedQuery FindExtendedQuery() {
   return reinterpret_cast<ExtendedQuery>(
       reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("kernel32.dll"), "GetDiskFreeSpaceExA")));
 }
 
-/// Later systems take a bare "C:" for the current folder there.
+/// True if the root has its trailing backslash. Later systems read a bare "C:" as the current folder of that
+/// drive.
 bool IsWhole(std::string_view root) { return root.ends_with('\\'); }
 
 }  // namespace

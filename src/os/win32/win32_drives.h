@@ -1,4 +1,4 @@
-// Drives of the real system. Forwards, but for two things that the systems do not agree on.
+// Implements `Drives` on Windows. Forwards, except for two differences between Windows versions.
 #pragma once
 
 #include "os/drives.h"

@@ -9,7 +9,7 @@ Win32EventPump::Queue Win32EventPump::HandleSome() {
   for (int count = 0; count < kMessagesPerPump && !stopped_; ++count) {
     if (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) == 0) return Queue::kEmpty;
     if (message.message == WM_QUIT) {
-      // Meant for the loop that waits; it finds it again when the operation has unwound.
+      // The main loop needs this message and finds it again after the operation has returned.
       PostQuitMessage(static_cast<int>(message.wParam));
       return Queue::kEnds;
     }
@@ -24,7 +24,7 @@ void Win32EventPump::WaitMs(std::uint32_t ms) {
     const Queue queue = HandleSome();
     const DWORD passed_ms = GetTickCount() - begin;
     if (queue == Queue::kEnds || passed_ms >= ms) return;
-    // It wakes for messages that are new, so none may be left from before.
+    // The wait ends only for new messages, so the queue must be empty first.
     if (queue == Queue::kEmpty) {
       MsgWaitForMultipleObjects(0, nullptr, FALSE, ms - passed_ms, QS_ALLINPUT);
     }
@@ -39,9 +39,10 @@ bool Win32EventPump::WaitAndHandle() {
 }
 
 void Win32EventPump::Handle(MSG& message) {
-  // Without a window only a thread timer would do anything: dispatching calls whatever address its message
-  // carries, and Windows 95 does not check it. Dropped also for system libraries: their dialogs and waits
-  // run message loops of their own, and a library such as ole32 may be unloaded by the time of the message.
+  // Of the messages without a window, only those of a thread timer have an effect: dispatching one calls
+  // whatever address it carries, and Windows 95 does not check that address. Messages of system libraries are
+  // dropped too: their dialogs and waits run message loops of their own, and a library such as ole32 may
+  // already be unloaded when the message arrives.
   if (message.hwnd == nullptr) return;
   if (dialog_window_ != nullptr && IsDialogMessageA(dialog_window_, &message) != 0) return;
   TranslateMessage(&message);

@@ -1,4 +1,4 @@
-// The message queue of the program: the pump inside operations and the loop between them handle messages in
+// The program's message queue. The pump inside operations and the main loop between them handle messages in
 // the same way.
 #pragma once
 
@@ -10,21 +10,20 @@ namespace qdix::os::win32 {
 
 class Win32EventPump final : public EventPump {
  public:
-  /// Most messages that one pump handles. A flood (a dragged window, a program gone wild) must not keep an
-  /// operation from going on; what is left waits for the next pump.
+  /// Maximum number of messages per pump. A flood of messages (a dragged window, another program out of
+  /// control) must not stop an operation; the rest waits for the next pump.
   static constexpr int kMessagesPerPump = 64;
 
-  /// Messages of the window and of what stands in it go through the keyboard rules of dialogs first. Null for
-  /// none.
+  /// Applies the keyboard rules of dialogs to messages of this window and its child windows. Null for none.
   void SetDialogWindow(HWND window) { dialog_window_ = window; }
 
   void PumpEvents() override;
   void WaitMs(std::uint32_t ms) override;
 
-  /// Waits for one message and handles it; false when the program has ended or is told to quit.
+  /// Waits for one message and handles it. False if the program has ended or received WM_QUIT.
   [[nodiscard]] bool WaitAndHandle();
 
-  /// From now on nothing is handled.
+  /// Stops all message handling.
   void Stop() { stopped_ = true; }
 
  private:

@@ -1,6 +1,6 @@
 #include "os/win32/win32_file_dialogs.h"
 
-// The others do not stand without the first.
+// commdlg.h and shlobj.h need windows.h first.
 // clang-format off
 #include <windows.h>
 #include <commdlg.h>
@@ -15,7 +15,7 @@ namespace qdix::os::win32 {
 
 namespace {
 
-/// The record as the first Windows 95 knows it; later systems appended fields to it.
+/// The size of the record in the first Windows 95; later systems appended fields.
 constexpr DWORD kOpenFileNameBytes = 76;
 
 int CALLBACK ChooseFolder(HWND dialog, UINT message, LPARAM /*argument*/, LPARAM folder) {
@@ -25,7 +25,7 @@ int CALLBACK ChooseFolder(HWND dialog, UINT message, LPARAM /*argument*/, LPARAM
   return 0;
 }
 
-/// Identifier lists are the shell's memory.
+/// Frees an identifier list with the shell's allocator.
 void FreeIdentifierList(LPITEMIDLIST list) {
   IMalloc* memory = nullptr;
   if (FAILED(SHGetMalloc(&memory))) return;
@@ -46,7 +46,7 @@ std::string Win32FileDialogs::GetOpenFileNameA(const FileQuestion& question) {
   record.nMaxFile = static_cast<DWORD>(path.size());
   record.lpstrInitialDir = question.folder.empty() ? nullptr : question.folder.c_str();
   record.lpstrTitle = question.title;
-  // The current folder stays: a folder that is open in a program cannot be removed.
+  // Keeps the current folder: a folder that is current in a program cannot be removed.
   record.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR |
                  OFN_NODEREFERENCELINKS;
   if (::GetOpenFileNameA(&record) == FALSE) return {};
@@ -58,7 +58,7 @@ std::string Win32FileDialogs::SHBrowseForFolderA(const std::string& title, const
   std::array<char, MAX_PATH> path{};
   BROWSEINFOA record{};
   record.hwndOwner = owner_;
-  record.pszDisplayName = path.data();  // its name, which is not asked for
+  record.pszDisplayName = path.data();  // receives the name, which is not used
   record.lpszTitle = title.c_str();
   record.ulFlags = BIF_RETURNONLYFSDIRS;
   record.lpfn = &ChooseFolder;

@@ -1,5 +1,5 @@
-// The dialogs of files and folders of the real system, owned by the main window. Not part of the bundle that
-// every program gets: what shows no such dialog does not load the system's library of them.
+// Implements `FileDialogs` on Windows. The main window owns the dialogs. Not part of the `System` that every
+// program gets: a program without such dialogs does not load their library.
 #pragma once
 
 #include <windows.h>
@@ -13,7 +13,7 @@ class Win32FileDialogs final : public FileDialogs {
   [[nodiscard]] std::string GetOpenFileNameA(const FileQuestion& question) override;
   [[nodiscard]] std::string SHBrowseForFolderA(const std::string& title, const std::string& folder) override;
 
-  /// The window that is disabled while a dialog is open; null for none.
+  /// Sets the window that is disabled while a dialog is open; null for none.
   void SetOwner(HWND window) { owner_ = window; }
 
  private:

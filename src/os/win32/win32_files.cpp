@@ -40,7 +40,7 @@ bool Win32Files::FindFirstFileA(const char* path, FoundFile& found) {
     return false;
   }
   found.changed_days = DaysOf(changed);
-  // A name that suits DOS has no second one.
+  // A name that is valid in DOS has no alternate name.
   found.dos_name = data.cAlternateFileName[0] != '\0' ? data.cAlternateFileName : data.cFileName;
   return true;
 }

@@ -1,4 +1,4 @@
-// Files of the real system. Forwards and nothing else.
+// Implements `Files` on Windows. Only forwards.
 #pragma once
 
 #include "os/files.h"

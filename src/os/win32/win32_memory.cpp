@@ -23,7 +23,7 @@ void* Win32Memory::VirtualAlloc(std::uint32_t bytes) {
   return ::VirtualAlloc(nullptr, bytes, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
 }
 
-/// A committed page takes memory only when it is first written to.
+/// A committed page uses memory only after the first write.
 void Win32Memory::TouchPages(void* block, std::uint32_t bytes) {
   auto* const first = static_cast<volatile std::uint8_t*>(block);
   const std::uint32_t pages = bytes / kPageBytes + (bytes % kPageBytes != 0 ? 1U : 0U);

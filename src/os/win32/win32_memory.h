@@ -1,4 +1,4 @@
-// Memory of the real system. Forwards and nothing else.
+// Implements `Memory` on Windows. Only forwards.
 #pragma once
 
 #include "os/memory.h"

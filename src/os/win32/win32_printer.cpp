@@ -1,6 +1,6 @@
 #include "os/win32/win32_printer.h"
 
-// The second header does not stand without the first.
+// commdlg.h needs windows.h first.
 // clang-format off
 #include <windows.h>
 #include <commdlg.h>

@@ -1,4 +1,4 @@
-// The printer of the real system. Not part of the bundle that every program gets.
+// Implements `Printer` on Windows. Not part of the `System` that every program gets.
 #pragma once
 
 #include <windows.h>
@@ -27,9 +27,9 @@ class Win32Printer final : public Printer {
   [[nodiscard]] bool EndDoc() override;
   void AbortDoc() override;
 
-  /// The window that is disabled while the dialog is open; null for none.
+  /// Sets the window that is disabled while the dialog is open; null for none.
   void SetOwner(HWND window) { owner_ = window; }
-  /// Takes a device in place of one that was chosen in the dialog, and deletes it in the end.
+  /// Uses this device in place of one from the dialog. Takes ownership and deletes it.
   void Open(HDC device);
 
  private:

@@ -8,8 +8,8 @@ namespace qdix::os::win32 {
 
 namespace {
 
-/// True where the program lies on a drive without a disk. The system would ask the user for one, in a box of
-/// its own, before it gave up.
+/// True if the program is on a drive without a disk. The system would otherwise ask for a disk in a message
+/// box of its own before it failed.
 bool IsOnEmptyDrive(const std::string& command_line) {
   const std::size_t begin = command_line.find_first_not_of(" \"");
   if (begin == std::string::npos || command_line.substr(begin + 1, 2) != ":\\") return false;
@@ -30,7 +30,7 @@ bool Win32Processes::MutexExistedBefore(const char* name) {
   return existed;
 }
 
-/// A path that fills the room to the last byte may have been cut, and a cut path names another file.
+/// A path that fills the buffer may be truncated, and a truncated path names another file.
 std::string Win32Processes::ModuleFileName() {
   std::array<char, MAX_PATH + 1> path{};
   const DWORD length = GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size()));
@@ -40,7 +40,7 @@ std::string Win32Processes::ModuleFileName() {
 
 std::int32_t Win32Processes::CreateProcessA(const std::string& command_line) {
   if (IsOnEmptyDrive(command_line)) return kErrorNotReady;
-  std::string writable = command_line;  // the system writes into it while it searches
+  std::string writable = command_line;  // the system writes to it while it searches
   STARTUPINFOA startup{};
   startup.cb = sizeof(startup);
   startup.dwFlags = STARTF_USESHOWWINDOW;

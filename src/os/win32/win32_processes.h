@@ -1,4 +1,4 @@
-// This process among others on the real system. Owns the mutexes it creates until it ends itself.
+// Implements `Processes` on Windows. Owns the mutexes that it creates and closes them in its destructor.
 #pragma once
 
 #include <windows.h>

@@ -11,10 +11,10 @@ constexpr std::uint32_t kIdentificationFlag = 1U << 21U;
 
 constexpr std::uint64_t kMicrosecondsPerSecond = 1000000;
 
-/// The two bytes of the instruction that reads the time-stamp counter.
+/// The opcode of RDTSC, which reads the time-stamp counter.
 constexpr BYTE kReadCounter[] = {0x0F, 0x31};
 
-/// True where a program can change this processor flag. The flag is put back.
+/// True if a program can change this processor flag. Restores the flag.
 bool CanChangeFlag(std::uint32_t flag) {
   std::uint32_t before = 0;
   std::uint32_t after = 0;
@@ -35,7 +35,7 @@ bool CanChangeFlag(std::uint32_t flag) {
   return ((before ^ after) & flag) != 0;
 }
 
-/// In a section of its own, the one place where the check of the finished program allows this instruction.
+/// Has its own section: the only one in which the check of the finished program allows this instruction.
 [[gnu::section(".newcpu"), gnu::noinline]] CpuidRegisters Identify(std::uint32_t leaf) {
   CpuidRegisters registers;
   __asm__ volatile("cpuid"
@@ -49,7 +49,7 @@ struct CounterReading {
   bool allowed;
 };
 
-/// Where the counter may not be read, SkipForbiddenRead steps over the instruction and clears the mark.
+/// If reading the counter is forbidden, SkipForbiddenRead skips the instruction and clears `allowed`.
 [[gnu::section(".newcpu"), gnu::noinline]] CounterReading ReadCounter() {
   std::uint32_t allowed = 1;
   std::uint32_t low = 0;
@@ -115,7 +115,7 @@ CycleCount Win32Processor::CountCycles(std::uint32_t milliseconds) {
   const std::optional<std::uint64_t> first = ReadTimeStampCounter();
   if (!start || !first) return {};
   const auto passed_ticks = [&start] { return FineClock().value_or(*start) - *start; };
-  // Bounded by the system's coarse clock too, in case the fine one stops.
+  // The coarse system clock limits the loop in case the high-resolution timer has stopped.
   const DWORD coarse_start = ::GetTickCount();
   while (passed_ticks() < wanted_ticks && ::GetTickCount() - coarse_start <= 4 * milliseconds) {
   }

@@ -1,4 +1,5 @@
-// Questions the real processor. The only code with instructions newer than the 386; each is guarded.
+// Implements `Processor` on Windows. Contains the only code with instructions newer than the 386; each is
+// guarded.
 #pragma once
 
 #include <optional>
@@ -14,8 +15,8 @@ class Win32Processor final : public Processor {
   [[nodiscard]] CpuidRegisters Cpuid(std::uint32_t leaf) override;
   [[nodiscard]] CycleCount CountCycles(std::uint32_t milliseconds) override;
 
-  /// The time-stamp counter, or nothing where the system forbids it to programs. Only on a processor that has
-  /// one.
+  /// Returns the time-stamp counter, or nullopt if the system denies it to programs. Call it only if the
+  /// processor has the counter.
   [[nodiscard]] static std::optional<std::uint64_t> ReadTimeStampCounter();
 };
 

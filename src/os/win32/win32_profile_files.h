@@ -1,4 +1,4 @@
-// Profile files of the real system. Forwards and nothing else.
+// Implements `ProfileFiles` on Windows. Only forwards.
 #pragma once
 
 #include "os/profile_files.h"

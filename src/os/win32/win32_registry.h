@@ -1,4 +1,4 @@
-// Registry of the real system. Forwards and nothing else.
+// Implements `Registry` on Windows. Only forwards.
 #pragma once
 
 #include "os/registry.h"

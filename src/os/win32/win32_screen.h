@@ -1,4 +1,4 @@
-// The screen of the real system.
+// Implements `Screen` on Windows.
 #pragma once
 
 #include "os/screen.h"

@@ -1,4 +1,4 @@
-// The Windows session of the real system.
+// Implements `Session` on Windows.
 #pragma once
 
 #include "os/session.h"

@@ -1,6 +1,6 @@
 #include "os/win32/win32_shell.h"
 
-// The second header does not stand without the first.
+// shellapi.h needs windows.h first.
 // clang-format off
 #include <windows.h>
 #include <shellapi.h>
@@ -17,7 +17,7 @@ static_assert(kSwShowMaximized == SW_SHOWMAXIMIZED);
 static_assert(kNifAll == (NIF_MESSAGE | NIF_ICON | NIF_TIP));
 static_assert(sizeof(NOTIFYICONDATAA::szTip) >= sizeof(NotifyIconData::tip));
 
-/// Later systems appended fields to the record; the size that the caller gives keeps them out of play.
+/// Later systems appended fields to the record. The size that the caller sets makes them ignore these fields.
 bool Win32Shell::Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& data) {
   const runtime::FloatingPointKeeper keeper;
   NOTIFYICONDATAA record{};
@@ -33,7 +33,7 @@ bool Win32Shell::Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& 
 
 bool Win32Shell::ShellExecuteA(const char* verb, const std::string& path, int show) {
   const runtime::FloatingPointKeeper keeper;
-  // Up to this number it is an error and not a program.
+  // Results up to this one are error codes.
   constexpr INT_PTR kLargestError = 32;
   return reinterpret_cast<INT_PTR>(::ShellExecuteA(nullptr, verb, path.c_str(), nullptr, nullptr, show)) >
          kLargestError;

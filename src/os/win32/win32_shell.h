@@ -1,4 +1,4 @@
-// The real shell. Forwards and nothing else.
+// Implements `Shell` on Windows. Only forwards.
 #pragma once
 
 #include "os/shell.h"

@@ -1,6 +1,6 @@
 #include "os/win32/win32_shell_files.h"
 
-// The later headers do not stand without the first.
+// shellapi.h and shlobj.h need windows.h first.
 // clang-format off
 #include <windows.h>
 #include <shellapi.h>
@@ -23,7 +23,7 @@ static_assert(kFofSilent == FOF_SILENT && kFofNoConfirmation == FOF_NOCONFIRMATI
 static_assert(kFofNoConfirmMkDir == FOF_NOCONFIRMMKDIR);
 static_assert(kShardPath == SHARD_PATHA);
 
-/// Gives an identifier list back to the shell, which took it from its own allocator.
+/// Frees an identifier list with the shell's allocator.
 void Free(LPITEMIDLIST list) {
   IMalloc* allocator = nullptr;
   if (FAILED(SHGetMalloc(&allocator))) return;

@@ -1,4 +1,4 @@
-// The real shell's folders, file operations and shortcuts.
+// Implements `ShellFiles` on Windows.
 #pragma once
 
 #include <windows.h>
@@ -16,7 +16,7 @@ class Win32ShellFiles final : public ShellFiles {
   std::optional<Shortcut> ReadShortcut(const std::string& path) override;
   bool WriteShortcut(const std::string& path, const Shortcut& shortcut) override;
 
-  /// The window that asks; null for none.
+  /// Sets the window that owns the shell's dialogs; null for none.
   void SetOwner(HWND owner) { owner_ = owner; }
 
  private:

@@ -1,4 +1,4 @@
-// The real system, whole: owns the implementation of every interface.
+// The real system. Owns the implementation of every interface in `System`.
 #pragma once
 
 #include <windows.h>
@@ -31,11 +31,11 @@ class Win32System {
   [[nodiscard]] const System& GetSystem() const { return system_; }
   [[nodiscard]] Win32EventPump& EventPump() { return event_pump_; }
 
-  /// The window whose messages follow the keyboard rules of dialogs and that message boxes belong to; null
+  /// Sets the window whose messages follow the keyboard rules of dialogs and that owns message boxes; null
   /// for none.
   void SetMainWindow(HWND window);
 
-  /// The program ends: pumps return at once, open boxes close unanswered.
+  /// Ends the program: pumps return at once, and open boxes close without an answer.
   void Stop();
 
  private:

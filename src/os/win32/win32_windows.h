@@ -1,4 +1,4 @@
-// Windows of any program on the real system. Forwards and nothing else.
+// Implements `Windows` with the Windows API. Only forwards.
 #pragma once
 
 #include "os/windows.h"
