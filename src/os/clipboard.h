@@ -9,8 +9,8 @@ class Clipboard {
  public:
   virtual ~Clipboard() = default;
 
-  /// Puts a text in place of whatever was there; its lines end in a carriage return and a line feed. False
-  /// where another program holds the clipboard, or memory is short: what was there may then be gone.
+  /// Replaces the content of the clipboard with a text whose lines end in CR LF. False if another program
+  /// holds the clipboard or memory is short; the previous content may then be lost.
   [[nodiscard]] virtual bool SetClipboardData(const std::string& text) = 0;
 };
 

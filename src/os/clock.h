@@ -1,4 +1,4 @@
-// Date and time of the machine.
+// The machine's date and time.
 #pragma once
 
 #include <cstdint>
@@ -10,14 +10,14 @@ class Clock {
  public:
   virtual ~Clock() = default;
 
-  /// Local date and time in days since 30 December 1899, the time of day as the fraction.
+  /// Returns the local date and time in days since 30 December 1899, with the time of day as the fraction.
   [[nodiscard]] virtual double Now() = 0;
 
-  /// Milliseconds since the system started; wraps after 49.7 days.
+  /// Returns the milliseconds since Windows started. Wraps after 49.7 days.
   [[nodiscard]] virtual std::uint32_t GetTickCount() = 0;
 
-  /// The day in the user's long date picture. `days` as Now gives it, its time of day ignored; a day that the
-  /// system cannot show gives an empty text.
+  /// Returns a day in the user's long date format. `days` is counted as in Now; the time of day is ignored.
+  /// Empty for a day that the system cannot show.
   [[nodiscard]] virtual std::string LongDate(double days) = 0;
 };
 

@@ -1,4 +1,4 @@
-// Message boxes. They belong to the main window and let timers and other handlers run while they are open.
+// Message boxes. The main window owns them; timers and other handlers run while they are open.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@ inline constexpr std::uint32_t kMbOk = 0x0000U;
 inline constexpr std::uint32_t kMbOkCancel = 0x0001U;
 inline constexpr std::uint32_t kMbYesNoCancel = 0x0003U;
 inline constexpr std::uint32_t kMbYesNo = 0x0004U;
-/// The bits that name the buttons.
+/// Mask for the bits that select the buttons.
 inline constexpr std::uint32_t kMbButtons = 0x000FU;
 inline constexpr std::uint32_t kMbIconStop = 0x0010U;
 inline constexpr std::uint32_t kMbIconQuestion = 0x0020U;
@@ -28,8 +28,9 @@ class Dialogs {
  public:
   virtual ~Dialogs() = default;
 
-  /// Shows a box and waits for the answer: kIdOk, kIdCancel, kIdYes or kIdNo. kIdNone when the box could not
-  /// be shown or was dismissed because the program ends; that answer means "nothing was agreed".
+  /// Shows a message box and returns the answer: kIdOk, kIdCancel, kIdYes or kIdNo. Returns kIdNone if the
+  /// box could not be shown, or was dismissed because the program is ending. Treat that answer as "nothing
+  /// was agreed".
   virtual int MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) = 0;
 };
 

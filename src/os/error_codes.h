@@ -1,4 +1,4 @@
-// The system's error codes that the program tells apart.
+// The Windows error codes that the program distinguishes.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// The one way in which a running operation lets the rest of the program live.
+// Keeps the program responsive during a long operation.
 #pragma once
 
 #include <cstdint>
@@ -9,12 +9,12 @@ class EventPump {
  public:
   virtual ~EventPump() = default;
 
-  /// Handles the window events that are waiting and returns; with none waiting it returns at once. Any
-  /// handler of the program can run inside, the closing of the main window included. Messages that belong to
-  /// no window are taken and dropped. After the program has ended its main window it handles nothing.
+  /// Handles the waiting window events and returns, at once if there are none. Any handler of the program can
+  /// run inside, even one that closes the main window. Drops messages that belong to no window. Handles
+  /// nothing after the program has ended its main window.
   virtual void PumpEvents() = 0;
 
-  /// The same for so long, sleeping while there is nothing to handle. Returns sooner when the program ends.
+  /// Pumps events for `ms` milliseconds and sleeps while there are none. Returns early if the program ends.
   virtual void WaitMs(std::uint32_t ms) = 0;
 };
 

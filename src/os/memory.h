@@ -1,4 +1,4 @@
-// What the program asks of the system about memory: the status record, and blocks that come straight from the
+// What the program asks of Windows about memory: the status record, and blocks allocated directly from the
 // system.
 #pragma once
 
@@ -6,8 +6,8 @@
 
 namespace qdix::os {
 
-/// The memory status record, in bytes. Fields are unsigned in the system and read as signed by the program
-/// where that is said.
+/// The memory status record, in bytes. The fields are unsigned; where the program reads one as signed, a
+/// comment there says so.
 struct MemoryStatus {
   std::uint32_t length = 32;
   std::uint32_t memory_load_percent = 0;
@@ -19,25 +19,25 @@ struct MemoryStatus {
   std::uint32_t available_virtual = 0;
 };
 
-/// The size of a page on every machine the program runs on, in bytes.
+/// Bytes per page on every machine that the program runs on.
 inline constexpr std::uint32_t kPageBytes = 4096;
 
 class Memory {
  public:
   virtual ~Memory() = default;
 
-  /// Fills every field; never fails.
+  /// Returns the record with every field set; never fails.
   [[nodiscard]] virtual MemoryStatus GlobalMemoryStatus() = 0;
 
-  /// Reserves and commits `bytes` (rounded up to whole pages by the system) of zeroed memory; null when there
-  /// is no room.
+  /// Reserves and commits `bytes` of zeroed memory, which the system rounds up to whole pages. Returns null
+  /// if there is no room.
   [[nodiscard]] virtual void* VirtualAlloc(std::uint32_t bytes) = 0;
 
-  /// Writes once into every page of a block of `bytes`, so that each page takes memory. The contents stay
+  /// Writes once into every page of a block of `bytes`, which makes each page use memory. The content stays
   /// zero.
   virtual void TouchPages(void* block, std::uint32_t bytes) = 0;
 
-  /// Gives the whole block back. `block` comes from VirtualAlloc and is not null.
+  /// Frees the whole block. `block` comes from VirtualAlloc and is not null.
   virtual void VirtualFree(void* block) = 0;
 };
 

@@ -1,5 +1,5 @@
-// The user's printer: chosen in the system's dialog, then written to page by page. The dialog belongs to the
-// main window and lets timers and other handlers run while it is open.
+// The user's printer: chosen in the system's dialog, then written page by page. The main window owns the
+// dialog; timers and other handlers run while it is open.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace qdix::os {
 
-/// What can be printed on of one page, and the resolution.
+/// The printable area of a page, and the resolution.
 struct PrinterPage {
   int width_px = 0;
   int height_px = 0;
@@ -20,21 +20,21 @@ class Printer {
   enum class Choice : unsigned char {
     kPrint,
     kCancelled,
-    /// There is no printer, or the system cannot open it. It has not told the user.
+    /// There is no printer, or the system cannot open it. The system has shown no message.
     kFailed,
   };
 
   virtual ~Printer() = default;
 
-  /// Lets the user choose a printer. Only after kPrint the other calls may be made; DeleteDC ends that.
+  /// Lets the user choose a printer. The other functions may be called only after kPrint and until DeleteDC.
   [[nodiscard]] virtual Choice PrintDlgA() = 0;
   virtual void DeleteDC() = 0;
 
   [[nodiscard]] virtual PrinterPage GetDeviceCaps() = 0;
-  /// Measures at any time; draws on the page that was started.
+  /// Returns the device for text. It measures at any time, but draws only on a page that was started.
   [[nodiscard]] virtual TextDevice& Device() = 0;
 
-  /// Each is false where the printer refuses; the document is then given up with AbortDoc.
+  /// Each returns false if the printer refuses. The caller then abandons the document with AbortDoc.
   [[nodiscard]] virtual bool StartDocA(const std::string& title) = 0;
   [[nodiscard]] virtual bool StartPage() = 0;
   [[nodiscard]] virtual bool EndPage() = 0;

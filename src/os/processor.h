@@ -1,12 +1,12 @@
-// The processor as a program can question it. Everything here is safe on any processor from the 386 up: what
-// it lacks is answered as absent, and nothing faults.
+// Queries the processor. Every function is safe on any processor from the 386 up: it reports a missing
+// feature as absent and never faults.
 #pragma once
 
 #include <cstdint>
 
 namespace qdix::os {
 
-/// The four registers that an identification leaf answers in.
+/// The four registers in which an identification leaf answers.
 struct CpuidRegisters {
   std::uint32_t eax = 0;
   std::uint32_t ebx = 0;
@@ -17,7 +17,7 @@ struct CpuidRegisters {
 /// Clock cycles that passed in a measured time.
 struct CycleCount {
   std::uint64_t cycles = 0;
-  /// In microseconds; 0 where nothing could be measured.
+  /// In microseconds; 0 if nothing could be measured.
   std::uint64_t microseconds = 0;
 };
 
@@ -25,19 +25,18 @@ class Processor {
  public:
   virtual ~Processor() = default;
 
-  /// 3 for a 386, 4 for a 486 and everything later. Told by the alignment-check flag, which a 386 keeps
-  /// clear.
+  /// Returns 3 for a 386, 4 for a 486 and everything later. Tests the alignment-check flag, which stays clear
+  /// on a 386.
   [[nodiscard]] virtual int Generation() = 0;
 
-  /// True where the processor identifies itself: most from 1993 on. Told by the identification flag.
+  /// True if the processor identifies itself, as most do from 1993 on. Tests the identification flag.
   [[nodiscard]] virtual bool HasCpuid() = 0;
 
-  /// Answers of an identification leaf; all zero without HasCpuid.
+  /// Returns the answer of an identification leaf; all zero without HasCpuid.
   [[nodiscard]] virtual CpuidRegisters Cpuid(std::uint32_t leaf) = 0;
 
-  /// Counts cycles by the time-stamp counter for about `milliseconds`. To be called only where the processor
-  /// says that it has the counter. Nothing measured where the system forbids the counter or has no fine
-  /// clock.
+  /// Counts cycles with the time-stamp counter for about `milliseconds`. Call it only if the processor
+  /// reports the counter. Measures nothing if the system forbids the counter or has no high-resolution timer.
   [[nodiscard]] virtual CycleCount CountCycles(std::uint32_t milliseconds) = 0;
 };
 

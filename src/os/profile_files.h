@@ -1,5 +1,5 @@
-// Entries of profile files such as system.ini: sections in brackets, lines of key and value. A bare file name
-// is one in the Windows directory. Names of sections and keys ignore case.
+// Entries of profile files such as system.ini: sections in brackets, lines of key and value. A file name
+// without a path means a file in the Windows folder. Section and key names ignore case.
 #pragma once
 
 #include <cstdint>
@@ -10,19 +10,19 @@ class ProfileFiles {
  public:
   virtual ~ProfileFiles() = default;
 
-  /// Copies the value of an entry, or `missing` where there is none, and its NUL; what does not fit is cut.
-  /// Of `missing` the system may cut off blanks and control characters at the end.
-  /// Blanks round the value and one pair of quotation marks round it are not part of it. Returns the
-  /// characters copied without the NUL: at most `size_bytes` - 1.
+  /// Copies the value of an entry and its NUL, or `missing` if there is none. Truncates what does not fit.
+  /// The system may strip trailing spaces and control characters from `missing`. The value excludes spaces
+  /// around it and one pair of quotation marks around it. Returns the number of characters copied without the
+  /// NUL: at most `size_bytes` - 1.
   [[nodiscard]] virtual std::uint32_t GetPrivateProfileStringA(const char* section, const char* key,
                                                                const char* missing, char* buffer,
                                                                std::uint32_t size_bytes,
                                                                const char* file) = 0;
 
-  /// Writes an entry, making file and section where they are missing; a null value removes the entry. False
-  /// when the system refuses. With null for section, key and value at once it writes out what the system
-  /// keeps of the file in memory and forgets it, and is always false. A file that was read or written must be
-  /// flushed like this before anything but these calls changes it.
+  /// Writes an entry and creates the file and the section if they are missing. A null value removes the
+  /// entry. False if the system refuses. With null for section, key and value together, writes out and
+  /// discards what the system caches of the file, and always returns false. Flush a file in this way after
+  /// reading or writing it and before anything but these functions changes it.
   virtual bool WritePrivateProfileStringA(const char* section, const char* key, const char* value,
                                           const char* file) = 0;
 };

@@ -1,4 +1,4 @@
-// The screen that windows stand on.
+// The screen.
 #pragma once
 
 namespace qdix::os {
@@ -13,7 +13,8 @@ class Screen {
  public:
   virtual ~Screen() = default;
 
-  /// The part of the screen that the taskbar and its like leave to windows; both are 1 at least.
+  /// Returns the part of the screen that the taskbar and similar bars leave free. Width and height are at
+  /// least 1.
   [[nodiscard]] virtual ScreenSize WorkArea() = 0;
 };
 

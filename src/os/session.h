@@ -5,15 +5,15 @@
 
 namespace qdix::os {
 
-/// Ends all programs and starts the machine anew.
+/// Ends all programs and restarts the machine.
 inline constexpr std::uint32_t kEwxReboot = 2;
 
 class Session {
  public:
   virtual ~Session() = default;
 
-  /// Asks every program to end, this one among them, and then ends the session. False where the system
-  /// refuses; true says only that it has begun.
+  /// Asks every program to end, including this one, and then ends the session. False if the system refuses.
+  /// True means only that it has begun.
   virtual bool ExitWindowsEx(std::uint32_t flags, std::uint32_t reserved) = 0;
 };
 

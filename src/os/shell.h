@@ -1,4 +1,4 @@
-// The shell: the notification area of the taskbar, and opening files with the programs they belong to.
+// The shell: the notification area of the taskbar, and opening files with their programs.
 #pragma once
 
 #include <array>
@@ -9,17 +9,17 @@
 
 namespace qdix::os {
 
-/// An icon of the system; 0 is none.
+/// A system icon; 0 means none.
 using IconHandle = std::uintptr_t;
 
 inline constexpr std::uint32_t kNimAdd = 0;
 inline constexpr std::uint32_t kNimModify = 1;
 inline constexpr std::uint32_t kNimDelete = 2;
 
-/// Message, icon and tip of the record are valid.
+/// The record's message, icon and tooltip are valid.
 inline constexpr std::uint32_t kNifAll = 7;
 
-/// The notification record as the first Windows 95 knows it: 88 bytes on a 32-bit system.
+/// The notification record as the first Windows 95 defines it: 88 bytes on a 32-bit system.
 struct NotifyIconData {
   std::uint32_t size_bytes = 88;
   WindowHandle owner = 0;
@@ -30,18 +30,18 @@ struct NotifyIconData {
   std::array<char, 64> tip{};
 };
 
-/// The program's window fills the screen.
+/// The program's window is maximised.
 inline constexpr int kSwShowMaximized = 3;
 
 class Shell {
  public:
   virtual ~Shell() = default;
 
-  /// Adds, modifies or deletes an icon. False when the shell refuses or is not there.
+  /// Adds, modifies or deletes an icon. False if the shell refuses or is not running.
   virtual bool Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& data) = 0;
 
-  /// Does to a file what a verb says ("Open"), for no window, with the program's window shown as asked. False
-  /// where the file or a program for it is missing; the shell may have said so itself.
+  /// Applies a verb ("Open") to a file, without an owner window; `show` says how to show the program's
+  /// window. False if the file, or a program for it, is missing. The shell may already have shown a message.
   virtual bool ShellExecuteA(const char* verb, const std::string& path, int show) = 0;
 };
 

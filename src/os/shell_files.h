@@ -1,5 +1,4 @@
-// Files as the shell sees them: its own folders, its operations on files, its list of recent documents, and
-// shortcuts.
+// Files as the shell sees them: its own folders, file operations, recent documents and shortcuts.
 #pragma once
 
 #include <cstdint>
@@ -21,14 +20,14 @@ inline constexpr std::uint16_t kFofSilent = 0x0004;
 inline constexpr std::uint16_t kFofNoConfirmation = 0x0010;
 inline constexpr std::uint16_t kFofNoConfirmMkDir = 0x0200;
 
-/// A document is named by its path.
+/// The document is given by its path.
 inline constexpr std::uint32_t kShardPath = 2;
 
-/// What a shortcut starts. Empty texts are none.
+/// What a shortcut starts. Empty texts mean none.
 struct Shortcut {
   std::string target;
   std::string arguments;
-  /// The folder that it is started in.
+  /// The folder in which the target starts.
   std::string folder;
 };
 
@@ -36,24 +35,24 @@ class ShellFiles {
  public:
   virtual ~ShellFiles() = default;
 
-  /// Path of one of the shell's folders, with a backslash at its end only where it is a root; empty where the
-  /// shell has none.
+  /// Returns the path of a shell folder, with a trailing backslash only if it is a root. Empty if the shell
+  /// has no such folder.
   [[nodiscard]] virtual std::string SpecialFolder(int number) = 0;
 
-  /// Copies or renames. Each of both lists consists of names that end with a NUL, and of one more NUL. False
-  /// where it failed or somebody stopped it.
+  /// Copies or renames files. Both lists consist of NUL-terminated names and a final NUL. False if it failed
+  /// or was cancelled.
   virtual bool SHFileOperationA(std::uint32_t operation, const std::string& from, const std::string& to,
                                 std::uint16_t flags) = 0;
 
-  /// Adds a file to the recent documents. Up to Windows ME this makes a shortcut in their folder, named as
-  /// the file with ".lnk" behind it.
+  /// Adds a file to the recent documents. Up to Windows ME this makes a shortcut in their folder, named like
+  /// the file with ".lnk" appended.
   virtual void SHAddToRecentDocs(std::uint32_t kind, const std::string& path) = 0;
 
-  /// What a shortcut leads to, as it stands there; nothing where the file is no shortcut, or leads to
-  /// something that is no file.
+  /// Returns what a shortcut stores, without searching for a target that has moved. Returns nullopt if the
+  /// file is not a shortcut or its target is not a file.
   [[nodiscard]] virtual std::optional<Shortcut> ReadShortcut(const std::string& path) = 0;
 
-  /// Makes a shortcut, over an earlier one. False where that failed.
+  /// Makes a shortcut and replaces an existing one. False on failure.
   [[nodiscard]] virtual bool WriteShortcut(const std::string& path, const Shortcut& shortcut) = 0;
 };
 

@@ -1,5 +1,5 @@
-// Everything that the program asks of the machine, by subject. A plain bundle of references: whoever makes it
-// keeps it, and the implementations, for as long as the program lives.
+// Everything that the program asks of the machine, by subject. Only references: the creator must keep the
+// implementations alive as long as the program runs.
 #pragma once
 
 #include "os/clock.h"

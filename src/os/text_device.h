@@ -1,4 +1,4 @@
-// What texts can be measured for and drawn on: a window, or the page of a printer.
+// A device on which text is measured and drawn: a window or a printer page.
 #pragma once
 
 #include <cstdint>
@@ -6,7 +6,7 @@
 
 namespace qdix::os {
 
-/// One look of a text: the proportional font of the device, or its fixed-width one.
+/// The look of a text: in the proportional or the fixed-width font of the device.
 struct FontLook {
   int points = 8;
   bool is_bold = false;
@@ -16,23 +16,23 @@ struct FontLook {
   friend bool operator==(const FontLook&, const FontLook&) = default;
 };
 
-/// In pixels of the device.
+/// In device pixels.
 struct FontHeight {
   int line_px = 1;
-  /// From the upper edge to the line that the letters stand on.
+  /// From the top of the line to the baseline.
   int ascent_px = 1;
 };
 
-/// Places are pixels of the device from its upper left corner, colours blue-green-red words.
+/// Positions are device pixels from the upper left corner. Colours are 0x00BBGGRR.
 class TextDevice {
  public:
   virtual ~TextDevice() = default;
 
-  /// Width of a text in one line. 0 where the device cannot tell.
+  /// Returns the width of a text on one line, or 0 if the device cannot measure it.
   [[nodiscard]] virtual int GetTextExtentPoint32A(const FontLook& look, std::string_view text) = 0;
   [[nodiscard]] virtual FontHeight GetTextMetricsA(const FontLook& look) = 0;
 
-  /// Draws a text with its upper left corner at the place, on whatever is there.
+  /// Draws a text with its upper left corner at the position. The background shows through.
   virtual void TextOutA(int left_px, int top_px, const FontLook& look, std::uint32_t colour,
                         std::string_view text) = 0;
   virtual void FillRect(int left_px, int top_px, int width_px, int height_px, std::uint32_t colour) = 0;
