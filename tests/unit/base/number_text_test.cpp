@@ -45,6 +45,11 @@ TEST(LeadingNumberText, TooLongSaturatesAndNeverFails) {
             5);
 }
 
+TEST(LeadingNumberText, LeadingZerosTakeNoPlaceOfTheDigitsThatAreKept) {
+  EXPECT_EQ(base::ParseLeadingNumber(std::string(40, '0') + "123"), 123);
+  EXPECT_EQ(base::ParseLeadingNumber("0." + std::string(40, '0') + "123"), 1.23e-41);
+}
+
 TEST(LeadingNumberText, UpToFifteenDigitsAreReadCorrectlyRounded) {
   constexpr unsigned kSeed = 20261121;
   SCOPED_TRACE(kSeed);

@@ -311,6 +311,10 @@ TEST(ConfigEntryList, NameAndCommandLineAreNeeded) {
   rig.Screen().cmdChange.Press();
   EXPECT_EQ(rig.BoxText(3), "Please type a command line, or press \"Browse...\" to find the program.");
   EXPECT_TRUE(rig.Screen().txtPath.HasFocus());
+  rig.Type({"Editor", "", "\\\\server\\games"});
+  rig.Screen().cmdChange.Press();
+  ASSERT_EQ(rig.machine.Boxes().size(), 4U) << "the folder is not asked about before there is a command line";
+  EXPECT_EQ(rig.machine.Boxes()[3].text, rig.machine.Boxes()[2].text);
   EXPECT_EQ(rig.form->Entries(), SomeEntries(1));
 }
 

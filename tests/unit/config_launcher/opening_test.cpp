@@ -206,6 +206,7 @@ TEST_F(ConfigOpening, SecondCopyEndsAlsoWhereTheFirstHasNoWindow) {
   rig.Start();
   EXPECT_TRUE(rig.form->Window().Unloaded());
   EXPECT_EQ(rig.machine.ForegroundWindow(), 0U);
+  for (const std::string& call : rig.machine.Calls()) EXPECT_FALSE(call.starts_with("OpenIcon")) << call;
 }
 
 }  // namespace

@@ -140,7 +140,9 @@ TEST(HelpBook, ContentsPageListsAllTopicsAsLinksUnderTheirSections) {
   for (const Block& block : page.blocks) texts.push_back(block.cells.front().characters);
   EXPECT_EQ(texts, (std::vector<std::string>{"Contents", "First Steps", "Welcome", "Memory", "The Rest",
                                              "Files", "A Long One", "About"}));
+  EXPECT_EQ(page.blocks[0].kind, BlockKind::kTitle);
   EXPECT_EQ(page.blocks[1].kind, BlockKind::kHeading);
+  EXPECT_EQ(page.blocks[2].kind, BlockKind::kBullet);
   EXPECT_EQ(page.blocks[6].cells.front().runs.front().link, 7);
   EXPECT_EQ(Book("").Read(kContentsPage).blocks.size(), 1U);
   EXPECT_EQ(Book("").Read(5).blocks.front().cells.front().characters, "Contents");

@@ -19,6 +19,7 @@ TEST(HelpCommandLine, NumberFollowsTheProgram) {
 TEST(HelpCommandLine, FolderMayHaveBlanksWithAndWithoutQuotationMarks) {
   EXPECT_EQ(TopicOfCommandLine("C:\\Program Files\\QDIX\\help.exe 11"), 11);
   EXPECT_EQ(TopicOfCommandLine("\"C:\\Program Files\\QDIX\\help.exe\" 11"), 11);
+  EXPECT_EQ(TopicOfCommandLine(" \"C:\\Program Files\\QDIX\\help 9.exe\" 11"), 11);
   EXPECT_EQ(TopicOfCommandLine("C:\\Program Files\\QDIX\\help 11"), 11);
   EXPECT_EQ(TopicOfCommandLine("C:\\Old.exe 5\\help.exe 11"), 11);
   EXPECT_EQ(TopicOfCommandLine("C:\\Folder 5\\help.exe"), std::nullopt);
