@@ -58,6 +58,9 @@ class FiguresTest(unittest.TestCase):
         self.assertEqual(self.figures.swap_used_kb, 96604)
         self.assertEqual((self.figures.pages_in, self.figures.pages_out), (17, 4711))
 
+    def test_what_is_in_ram_too_is_not_paged_out(self):
+        self.assertEqual(self.figures.paged_out_kb, 96604 - 1111)
+
     def test_memory_of_all_idle_programs_is_added_up(self):
         self.assertEqual((self.figures.idle_programs, self.figures.idle_in_ram_kb, self.figures.idle_in_swap_kb),
                          (2, 12288, 8704))

@@ -11,8 +11,9 @@ from played import PlayedCase
 PNG = b"\x89PNG\r\n\x1a\n"
 # Of the released amount; the smallest machine has less that could be moved out.
 LEAST_GAIN = {64: 0.30, 96: 0.60, 128: 0.60}
-# On the smallest the start has moved most of it out before, and the kernel keeps the places of pages that were read back.
-LEAST_SWAP = {64: 0.05, 96: 0.20, 128: 0.20}
+# Without the places of pages that are in RAM too: what was read back keeps its place while memory is short, and moves
+# out again without a rise of the use. On the smallest machine most of it has such a place before the release.
+LEAST_SWAP = 0.20
 # Of their memory, in RAM after the release.
 MOST_IDLE = 0.50
 # Of the released amount, found by a second release.
@@ -40,8 +41,8 @@ class ReleaseTest(PlayedCase):
         self.assertLessEqual(self.after["idle_in_ram_kb"], MOST_IDLE * self.before["idle_in_ram_kb"])
 
     def test_the_swap_file_takes_it(self):
-        rise_kb = self.after["swap_used_kb"] - self.before["swap_used_kb"]
-        self.assertGreaterEqual(rise_kb, LEAST_SWAP[self.memory_mb] * self.amount_kb)
+        rise_kb = self.after["paged_out_kb"] - self.before["paged_out_kb"]
+        self.assertGreaterEqual(rise_kb, LEAST_SWAP * self.amount_kb)
 
     def test_every_word_comes_back(self):
         self.assertEqual(self.result["wrong_words"], 0)

@@ -18,6 +18,8 @@ class Figures:
     swap_total_kb: int
     swap_used_kb: int
     pages_in: int
+    # In the swap file alone. The kernel may keep the place there of a page that is in RAM again.
+    paged_out_kb: int
     pages_out: int
     idle_programs: int
     idle_in_ram_kb: int
@@ -50,6 +52,7 @@ def read_figures(text):
         swap_total_kb=machine["SwapTotal"],
         swap_used_kb=machine["SwapTotal"] - machine["SwapFree"],
         pages_in=machine["pswpin"],
+        paged_out_kb=machine["SwapTotal"] - machine["SwapFree"] - machine["SwapCached"],
         pages_out=machine["pswpout"],
         idle_programs=sum(one.get("Name") == IDLE_PROGRAM for one in programs.values()),
         idle_in_ram_kb=memory(IDLE_PROGRAM, "VmRSS"),
