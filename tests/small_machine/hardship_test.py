@@ -4,6 +4,7 @@ import unittest
 
 from played import PlayedCase
 
+MOST_SWAP_FREE = 0.03
 # What goes on in the machine meanwhile.
 UNREST_KB = 6 * 1024
 MOST_SECONDS_TO_END = 10
@@ -14,13 +15,19 @@ TRAY = "60x28+740+572"
 class NoMemoryTest(PlayedCase):
     scenario = "no_memory"
 
+    def test_the_swap_file_is_full(self):
+        before = self.result["before"]
+        self.assertLessEqual(before["swap_total_kb"] - before["swap_used_kb"], MOST_SWAP_FREE * before["swap_total_kb"])
+
     def test_the_warning_is_shown_once(self):
         self.assertEqual(self.result["box"], "Warning - System Resources may be low.  "
                                              "Please check your harddisk space and swapfile size.")
+        self.assertEqual(self.result["later_boxes"], "")
 
     def test_memory_is_as_before(self):
         self.assertAlmostEqual(self.gain_kb("before", "after"), 0, delta=UNREST_KB)
-        self.assertEqual(self.result["wrong_words"], 0)
+        self.assertEqual((self.result["after"]["idle_programs"], self.result["wrong_words"]), (1, 0))
+        self.assertRegex(self.result["after"]["caption"], r"^[\d.]+ MB   Q-DIX$")
 
     def test_the_next_release_with_memory_to_be_had_works(self):
         self.assertGreater(self.result["seconds_later"], 0)

@@ -1,28 +1,32 @@
-"""A release while the system has promised nearly all the memory it has and refuses more."""
+"""A release while the swap file is full and the system promises hardly any more memory."""
 
 AMOUNT_MB = 40
-IDLE_MB = 20
-IDLE_PROGRAMS = 3
+# What all programs together hold: so much that a release fills the swap file but for a few MB, and its block has room.
+FULL_KB = 189_000
 # For message box and shell.
 LEFT_KB = 12000
 
 
 def play(pc, memory_mb):
     pc.set_settings("Startup", StartupTime=0)
-    pc.start_idle_programs(IDLE_PROGRAMS, IDLE_MB)
     pc.start_main_program()
-    pc.probe(f"choose List1 {AMOUNT_MB} MB")
-    pc.rest()
+    now = pc.figures()
+    missing_kb = FULL_KB - now.anonymous_kb - now.paged_out_kb
+    pc.start_idle_programs(1, missing_kb // 1024)
+    # It moves out what the swap file still has room for.
+    pc.release(AMOUNT_MB)
     result = {"memory_mb": memory_mb, "before": pc.look()}
     pc.machine.ask(f"refuse_overcommit {LEFT_KB}")
     pc.say("pressing the button")
     pc.press("Command1")
     result["box"] = pc.machine.ask("await 60 answer_box").strip()
     pc.await_answer("enabled Command1", 1, 60)
-    pc.machine.ask("allow_overcommit")
     pc.rest()
     result["after"] = pc.look()
+    result["later_boxes"] = pc.probe("answer-boxes").strip()
+    pc.machine.ask("allow_overcommit")
     result["wrong_words"], _ = pc.wake_idle_programs()
+    pc.end_idle_programs()
     pc.say("releasing again, with memory to be had")
     result["seconds_later"] = pc.release(AMOUNT_MB)
     pc.write("release", result)
