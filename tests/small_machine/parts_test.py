@@ -1,5 +1,7 @@
 """The parts of the small machine that need no emulator: figures, lines, the store's folders and its lock."""
+import contextlib
 import fcntl
+import io
 import os
 import pathlib
 import signal
@@ -20,6 +22,7 @@ import figures
 import host
 import root_disk
 import store
+import window
 
 GUEST_FIGURES = """57.31 3.20
 MemTotal:          81556 kB
@@ -120,6 +123,32 @@ finally:
         done = subprocess.run([sys.executable, "-c", program], cwd=TOOLS, capture_output=True, text=True, timeout=50,
                               check=False)
         self.assertEqual((done.returncode, done.stdout), (128 + signal.SIGTERM, "cleaned up\n"))
+
+
+class WindowTest(unittest.TestCase):
+    def close_at(self, question):
+        """Opens the window, which is closed when the probe is asked this; returns what was said."""
+        def probe(asked):
+            if asked.startswith(question):
+                raise emulator.MachineGone("the machine is switched off")
+            return "1"
+
+        machine = mock.Mock(probe=probe, figures=lambda: figures.read_figures(GUEST_FIGURES))
+        said = []
+        with mock.patch.object(window.pc, "switched_on") as switched_on, \
+             contextlib.redirect_stdout(io.StringIO()) as printed:
+            switched_on.return_value.__enter__.return_value = machine
+            switched_on.return_value.__exit__.return_value = False
+            window.open_window(None, 96, [], None, said.append)
+        return said, printed.getvalue()
+
+    def test_it_may_be_closed_while_programs_are_started(self):
+        self.assertEqual(self.close_at("choose"), (["the machine was switched off"], ""))
+
+    def test_it_may_be_closed_when_all_is_open(self):
+        said, printed = self.close_at("enabled")
+        self.assertEqual(said, ["the machine was switched off"])
+        self.assertIn("before any release     available  21.3 MB   idle programs in RAM  12.3 MB", printed)
 
 
 class ArchiveTest(unittest.TestCase):

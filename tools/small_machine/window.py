@@ -23,19 +23,23 @@ def look(machine, title):
 
 
 def open_window(store, memory_mb, programs, folder, say):
-    """Returns when the window is closed."""
-    with pc.switched_on(store, memory_mb, programs, folder, say, window=True) as machine:
-        machine.start_idle_programs(IDLE_PROGRAMS, IDLE_MB[memory_mb])
-        machine.start_main_program()
-        machine.wake_idle_programs()
-        machine.probe(f"choose List1 {RELEASE_MB[memory_mb]} MB")
-        print(INSTRUCTIONS.format(memory_mb=memory_mb, count=IDLE_PROGRAMS, idle_mb=IDLE_MB[memory_mb],
-                                  release_mb=RELEASE_MB[memory_mb]))
-        look(machine, "before any release")
-        try:
+    """Returns when the window is closed, also before everything is open in it."""
+    try:
+        with pc.switched_on(store, memory_mb, programs, folder, say, window=True) as machine:
+            prepare(machine, memory_mb)
             report_releases(machine)
-        except MachineGone:
-            say("the machine was switched off")
+    except MachineGone:
+        say("the machine was switched off")
+
+
+def prepare(machine, memory_mb):
+    machine.start_idle_programs(IDLE_PROGRAMS, IDLE_MB[memory_mb])
+    machine.start_main_program()
+    machine.wake_idle_programs()
+    machine.probe(f"choose List1 {RELEASE_MB[memory_mb]} MB")
+    print(INSTRUCTIONS.format(memory_mb=memory_mb, count=IDLE_PROGRAMS, idle_mb=IDLE_MB[memory_mb],
+                              release_mb=RELEASE_MB[memory_mb]))
+    look(machine, "before any release")
 
 
 def report_releases(machine):
