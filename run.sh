@@ -18,7 +18,7 @@ usage() { sed -n '2,9s/^# \{0,1\}//p' "${BASH_SOURCE[0]}"; }
 show_on_small_machine() {
   tools/setup/packages.sh
   tools/setup/build.sh win9x
-  tools/setup/build.sh win9x-tests qdix_probe idle
+  tools/setup/build.sh win9x-tests qdix_probe idle hungry
   local command=show
   if [ -n "${DISPLAY:-}" ]; then command=window; fi
   exec tools/small_machine/small_machine.sh "$command"

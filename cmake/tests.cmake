@@ -94,10 +94,14 @@ if(WIN32)
     add_dependencies(e2e_tests witness)
     target_compile_definitions(e2e_driver PRIVATE QDIX_WITNESS="$<TARGET_FILE:witness>")
 
-    # What lies idle on the small machine while memory is released.
+    # What lies idle on the small machine while memory is released, and what needs the memory then.
     add_executable(idle tools/small_machine/programs/idle.cpp)
-    target_link_libraries(idle PRIVATE qdix_warnings)
-    target_link_options(idle PRIVATE -static)
+    add_executable(hungry WIN32 tools/small_machine/programs/hungry.cpp)
+    foreach(program IN ITEMS idle hungry)
+      target_include_directories(${program} PRIVATE ${CMAKE_SOURCE_DIR})
+      target_link_libraries(${program} PRIVATE qdix_warnings)
+      target_link_options(${program} PRIVATE -static)
+    endforeach()
 
     # Measures what the tests drive; run by bench/run.sh, built with the tests so that it stays in step.
     file(GLOB bench_sources CONFIGURE_DEPENDS bench/*.cpp)

@@ -42,6 +42,9 @@ pswpout 4711
 /proc/113/status:Name:\tidle.exe
 /proc/113/status:VmRSS:\t    2048 kB
 /proc/113/status:VmSwap:\t    8192 kB
+/proc/114/status:Name:\thungry.exe
+/proc/114/status:VmRSS:\t   30000 kB
+/proc/114/status:VmSwap:\t   20000 kB
 /proc/120/status:Name:\tQDIX.exe
 /proc/120/status:VmRSS:\t    7000 kB
 /proc/120/status:VmSwap:\t       0 kB
@@ -68,6 +71,7 @@ class FiguresTest(unittest.TestCase):
         self.assertEqual((self.figures.idle_programs, self.figures.idle_in_ram_kb, self.figures.idle_in_swap_kb),
                          (2, 12288, 8704))
         self.assertEqual(self.figures.main_in_ram_kb, 7000)
+        self.assertEqual(self.figures.hungry_kb, 30000 + 20000)
 
     def test_time_is_the_guests(self):
         self.assertEqual(self.figures.seconds, 57.31)

@@ -11,6 +11,14 @@ SMALL_MACHINE = ROOT / "tools/small_machine/small_machine.sh"
 RUN_LIMIT_S = 2000
 
 
+def play(scenario, memory_mb):
+    """Returns what the scenario wrote, and the folder with its photographs."""
+    folder = ROOT / f"build/small_machine/{scenario}_{memory_mb}"
+    subprocess.run([SMALL_MACHINE, "play", scenario, str(memory_mb), folder], check=True, stdin=subprocess.DEVNULL,
+                   timeout=RUN_LIMIT_S)
+    return json.loads((folder / "release.json").read_text(encoding="utf-8")), folder
+
+
 class PlayedCase(unittest.TestCase):
     """A case names its scenario; `result` is what that wrote, `folder` has its photographs."""
     scenario = None
@@ -18,10 +26,7 @@ class PlayedCase(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        cls.folder = ROOT / f"build/small_machine/{cls.scenario}_{cls.memory_mb}"
-        subprocess.run([SMALL_MACHINE, "play", cls.scenario, str(cls.memory_mb), cls.folder], check=True,
-                       stdin=subprocess.DEVNULL, timeout=RUN_LIMIT_S)
-        cls.result = json.loads((cls.folder / "release.json").read_text(encoding="utf-8"))
+        cls.result, cls.folder = play(cls.scenario, cls.memory_mb)
 
     def gain_kb(self, before, after):
         return self.result[after]["available_kb"] - self.result[before]["available_kb"]

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <iomanip>
 #include <span>
 #include <sstream>
 #include <string>
@@ -269,8 +270,10 @@ int Serve() {
   while (std::fgets(line.data(), static_cast<int>(line.size()), stdin) != nullptr) {
     std::vector<std::string> words;
     std::istringstream text(line.data());
-    // The last word of all is the rest of the line: texts of rows have blanks in them.
-    for (std::string word; words.size() + 1 < kMaxWords && text >> word;) words.push_back(word);
+    // A name with blanks is put in quotes. The last word is the rest of the line: texts of rows have blanks.
+    for (std::string word; words.size() + 1 < kMaxWords && text >> std::quoted(word, '"', '^');) {
+      words.push_back(word);
+    }
     std::string rest;
     if (std::getline(text >> std::ws, rest)) words.push_back(rest);
     std::vector<const char*> arguments;

@@ -32,6 +32,9 @@ probe() {
   return 1
 }
 
+# Puts a program on the launcher's list:   list_program NAME COMMAND FOLDER
+list_program() { printf '%-55s%-255s%-255s' "$@" >>"$programs/launcher.dat"; }
+
 # Waits until the probe's answer is like a pattern of the shell:   await_answer SECONDS PATTERN QUESTION...
 await_answer() {
   local seconds=$1 answer=$2
@@ -148,6 +151,8 @@ refuse_overcommit() {
 }
 
 allow_overcommit() { echo 0 >/proc/sys/vm/overcommit_memory; }
+
+is_running() { ! is_gone "$1"; }
 
 is_gone() { ! grep -qs "^Name:[[:space:]]*$1\$" /proc/[0-9]*/status; }
 

@@ -3,6 +3,7 @@ import dataclasses
 import re
 
 IDLE_PROGRAM = "idle.exe"
+HUNGRY_PROGRAM = "hungry.exe"
 MAIN_PROGRAM = "QDIX.exe"
 
 
@@ -26,6 +27,7 @@ class Figures:
     idle_in_swap_kb: int
     main_in_ram_kb: int
     main_in_swap_kb: int
+    hungry_kb: int
 
     @property
     def available_mb(self):
@@ -58,4 +60,5 @@ def read_figures(text):
         idle_in_ram_kb=memory(IDLE_PROGRAM, "VmRSS"),
         idle_in_swap_kb=memory(IDLE_PROGRAM, "VmSwap"),
         main_in_ram_kb=memory(MAIN_PROGRAM, "VmRSS"),
-        main_in_swap_kb=memory(MAIN_PROGRAM, "VmSwap"))
+        main_in_swap_kb=memory(MAIN_PROGRAM, "VmSwap"),
+        hungry_kb=memory(HUNGRY_PROGRAM, "VmRSS") + memory(HUNGRY_PROGRAM, "VmSwap"))

@@ -19,6 +19,8 @@ RELEASE_LIMIT_S = 300
 # How far the window's figure may be from the kernel's, and how many looks are taken until it is near.
 AGREEMENT_KB = 1024
 MOST_LOOKS = 10
+# Well within the first row of a list, from its corner, in pixels.
+FIRST_ROW = (20, 9)
 # Of the host's time, for a wait in the guest.
 HOST_LIMIT_S = 900
 
@@ -76,10 +78,10 @@ class Pc:
     def set_settings(self, section, **values):
         """Stores settings of the main program, which must not be running."""
         for name, value in values.items():
-            self.probe(f"store-setting {section}\\{name} {value}")
+            self.probe(f'store-setting "{section}\\{name}" {value}')
 
     def setting(self, section, name):
-        return self.probe(f"setting {section}\\{name}").strip()
+        return self.probe(f'setting "{section}\\{name}"').strip()
 
     # Windows, by the probe that runs in the guest.
 
@@ -105,8 +107,26 @@ class Pc:
     def press(self, control):
         """Moves the pointer to a control of the main window and presses the left button there."""
         x, y, width, height = map(int, self.probe(f"rect {control}").split())
-        self.machine.point_at(x + width // 2, y + height // 2)
+        self._point_at(x + width // 2, y + height // 2)
+        self._press()
+
+    def press_first_row_twice(self, control):
+        """Double-clicks the first row of a list, and returns the guest's time at that moment."""
+        x, y, *_ = map(int, self.probe(f"rect {control}").split())
+        self._point_at(x + FIRST_ROW[0], y + FIRST_ROW[1])
+        # A press by itself first: paging what the program needs for it could take longer than a double click may.
+        self._press()
+        self.rest()
+        self._press()
+        self.machine.ask("usleep 100000")
+        self._press()
+        return self.figures().seconds
+
+    def _point_at(self, x, y):
+        self.machine.point_at(x, y)
         self.machine.ask("sleep 1")
+
+    def _press(self):
         self.machine.press_button(True)
         self.machine.ask("usleep 100000")
         self.machine.press_button(False)

@@ -16,7 +16,7 @@ SIZES_MB = (64, 96, 128)
 USUAL_SIZE_MB = 96
 CHECKOUT = pathlib.Path(__file__).resolve().parents[2]
 SHIPPED = [CHECKOUT / "build/win9x" / name for name in ("QDIX.exe", "help.exe", "undo.exe", "configL.exe")]
-HELPERS = [CHECKOUT / "build/win9x-tests" / name for name in ("qdix_probe.exe", "idle.exe")]
+HELPERS = [CHECKOUT / "build/win9x-tests" / name for name in ("qdix_probe.exe", "idle.exe", "hungry.exe")]
 PROGRAMS = [*SHIPPED, *HELPERS, CHECKOUT / "tools/small_machine/commands.sh"]
 SCENARIOS = sorted(file.stem for file in (pathlib.Path(__file__).parent / "scenarios").glob("*.py"))
 

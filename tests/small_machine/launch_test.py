@@ -1,0 +1,65 @@
+"""A program that needs 48 MB at once, launched with and without a release before it, with the exe as shipped.
+
+How long it takes is told by the scenarios and has no limit here. The figures are those of the guest's kernel.
+"""
+import unittest
+
+from played import play
+
+MEMORY_MB = 96
+KB_PER_MB = 1024
+# How far two runs may be from each other at the moment of the press.
+SAME_KB = 8 * KB_PER_MB
+# Of half the memory, available when the program starts.
+LEAST_GAIN = 0.50
+# Of the idle programs' memory, in RAM when the program starts: after a release, and without one.
+MOST_IDLE = 0.50
+LEAST_IDLE = 0.65
+
+
+class LaunchTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.released, _ = play("launch_with_release", MEMORY_MB)
+        cls.plain, _ = play("launch_without_release", MEMORY_MB)
+        cls.runs = {"released": cls.released, "plain": cls.plain}
+
+    def idle_share(self, result):
+        return result["at_start"]["idle_in_ram_kb"] / result["before"]["idle_in_ram_kb"]
+
+    def test_both_begin_alike(self):
+        for figure in ("available_kb", "idle_in_ram_kb", "anonymous_kb", "paged_out_kb"):
+            self.assertAlmostEqual(self.released["before"][figure], self.plain["before"][figure], delta=SAME_KB,
+                                   msg=figure)
+
+    def test_the_program_gets_all_of_its_memory(self):
+        for name, result in self.runs.items():
+            with self.subTest(name):
+                needed_mb = result["needed_mb"]
+                self.assertRegex(result["hungry"][0], f"^holds {needed_mb} MB after ")
+                self.assertEqual(result["hungry"][1], f"0 wrong words of {needed_mb * KB_PER_MB * KB_PER_MB // 4}")
+                self.assertGreaterEqual(result["after"]["hungry_kb"], needed_mb * KB_PER_MB)
+
+    def test_memory_is_released_before_the_start(self):
+        before, at_start = self.released["before"], self.released["at_start"]
+        self.assertLessEqual(self.idle_share(self.released), MOST_IDLE)
+        self.assertGreaterEqual(at_start["available_kb"] - before["available_kb"],
+                                LEAST_GAIN * before["total_kb"] / 2)
+
+    def test_nothing_is_released_without_a_share(self):
+        self.assertGreaterEqual(self.idle_share(self.plain), LEAST_IDLE)
+
+    def test_the_release_of_a_launch_is_not_counted_as_an_automatic_one(self):
+        for name, result in self.runs.items():
+            with self.subTest(name):
+                self.assertEqual(result["counter"], str(result["counter_before"]))
+
+    def test_nothing_is_lost(self):
+        for name, result in self.runs.items():
+            with self.subTest(name):
+                self.assertEqual(result["before"]["idle_programs"], 4)
+                self.assertEqual(result["wrong_words"], 0)
+
+
+if __name__ == "__main__":
+    unittest.main()
