@@ -13,8 +13,8 @@ namespace qdix::contract {
 /// A function of the system that leads to another one of the same parameters for as long as this lives.
 class Detour {
  public:
-  Detour(const char* function, const void* replacement)
-      : place_(reinterpret_cast<char*>(GetProcAddress(GetModuleHandleA("kernel32.dll"), function))) {
+  Detour(const char* function, const void* replacement, const char* library = "kernel32.dll")
+      : place_(reinterpret_cast<char*>(GetProcAddress(GetModuleHandleA(library), function))) {
     std::memcpy(former_.data(), place_, former_.size());
     const auto distance =
         static_cast<std::int32_t>(static_cast<const char*>(replacement) - (place_ + former_.size()));
