@@ -80,8 +80,7 @@ void WholeFile::TellSuccess(const std::string& kept_name) {
   if (entry_list_.ChooseOwnTemplate()) {
     text +=
         "\r\n\r\nThe file system template is still \"Quondix\". To put the old one back too, answer No to "
-        "the next "
-        "question and press \"Put Back\".";
+        "the next question and press \"Put Back\".";
   }
   system_.dialogs.MessageBoxA(text, application_.Title(), os::kMbOk | os::kMbIconInformation);
 }
@@ -93,8 +92,7 @@ void WholeFile::TellFailure(const Replacement& replacement) {
                 ". Rename it to system.ini before you restart: Windows cannot start without it."
           : "system.ini could not be replaced, and has not been changed.\r\n\r\n"
             "Please make sure that it is not write-protected, that no other program has it open and that the "
-            "disk "
-            "is not full, and try again.";
+            "disk is not full, and try again.";
   system_.dialogs.MessageBoxA(text, application_.Title(), os::kMbOk | os::kMbIconExclamation);
 }
 
