@@ -116,7 +116,7 @@ TEST_F(StartSession, FiguresOfTheWindowAgreeWithTheMachine) {
   EXPECT_TRUE(program.Text("lblSwapfile").starts_with("Virtual Memory (Swapfile) :  "));
   EXPECT_TRUE(program.Text("lblSwapfile").ends_with(" MB"));
   program.OpenTab(7);
-  EXPECT_EQ(program.Text("lblVersion"), "v2.00");
+  EXPECT_EQ(program.Text("lblVersion"), "v2.10");
   CloseProgram();
 }
 

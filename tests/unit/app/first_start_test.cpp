@@ -53,7 +53,7 @@ TEST(FirstStart, ShowsTheDefaultsInItsControls) {
   EXPECT_EQ(program.Startup().Text3.Text(), "60");
   EXPECT_EQ(program.Startup().VScroll3.Value(), 60);
   EXPECT_TRUE(program.Startup().Option1.Selected());
-  EXPECT_EQ(program.About().lblVersion.Caption(), "v2.00");
+  EXPECT_EQ(program.About().lblVersion.Caption(), "v2.10");
   EXPECT_EQ(program.MainWindow().SSTab1.Tab(), 0);
   EXPECT_TRUE(program.Window().Shown());
 }
