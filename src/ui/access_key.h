@@ -1,5 +1,4 @@
-// Captions in the form in which windows and menus of the system take them: an "&" stands before the letter
-// that works with Alt.
+// Captions in the form that Windows expects: an "&" before the access key, the letter that works with Alt.
 #pragma once
 
 #include <string>
@@ -7,9 +6,8 @@
 
 namespace qdix::ui {
 
-/// The caption with an "&" before the first occurrence of the key, in either case, and every "&" of the
-/// caption doubled so that it shows as itself. A key of 0, or one that the caption does not contain, marks
-/// nothing.
+/// Returns the caption with an "&" before the first occurrence of `key`, in either case. Doubles every "&" of
+/// the caption, because Windows draws "&&" as one "&". Marks nothing if `key` is 0 or not in the caption.
 [[nodiscard]] std::string MarkAccessKey(std::string_view caption, char key);
 
 }  // namespace qdix::ui

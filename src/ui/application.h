@@ -1,5 +1,4 @@
-// The application as the system sees it: its title, carried by a hidden window that owns the program's
-// windows.
+// The application as Windows sees it: its title belongs to a hidden window that owns the program's windows.
 #pragma once
 
 #include <string>
@@ -13,17 +12,16 @@ class Application {
  public:
   explicit Application(std::string_view title) : title_(title) {}
 
-  /// Title of the hidden window, and of every box without a title of its own.
+  /// Title of the hidden window and of every message box without a title of its own.
   [[nodiscard]] const std::string& Title() const { return title_; }
 
-  /// Renames at once.
   void SetTitle(std::string_view title) {
     title_ = title;
     if (OnTitleChanged) OnTitleChanged();
   }
 
-  /// True once the Windows session is ending: from then on nothing may ask the user, and what would be
-  /// refused is dropped.
+  /// True once the Windows session is ending. From then on nothing may ask the user; whatever would need an
+  /// answer is dropped.
   [[nodiscard]] bool SessionIsEnding() const { return session_is_ending_; }
   void SetSessionIsEnding() { session_is_ending_ = true; }
 

@@ -35,7 +35,7 @@ Control::Control(Container* parent, Kind kind, const Design& design)
 Form& Control::GetForm() const {
   const Control* top = this;
   while (top->parent_ != nullptr) top = top->parent_;
-  // The top of every tree of controls is a form: only a form is made without a parent.
+  // A form is at the top of every tree of controls: only a form has no parent.
   return const_cast<Form&>(static_cast<const Form&>(*top));
 }
 
@@ -59,7 +59,7 @@ void Control::SetEnabled(bool enabled) {
 
 void Control::NotifyEnabled() { Notify(Change::kEnabled); }
 
-/// What stands in a container works only while the container does, so their windows change with it.
+/// Controls in a container work only while the container does, so their windows change with it.
 void Container::NotifyEnabled() {
   Control::NotifyEnabled();
   for (Control* child : children_) child->NotifyEnabled();

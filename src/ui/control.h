@@ -1,6 +1,6 @@
-// The base of all control models: name, place, caption, enabled, visible, focus, and the one peer that
-// mirrors the model on a screen. A model is complete without a peer. No rule lives in a peer: it copies model
-// to window, and hands the user's actions to the model.
+// The base of all control models: name, place, caption, enabled and visible state, focus, and the one peer
+// that mirrors the model on the screen. A model is complete without a peer. A peer contains no rules: it
+// copies the model to the window and passes the user's actions to the model.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ class Container;
 class Control;
 class Form;
 
-/// The containers come first.
+/// Containers come first; IsContainer relies on it.
 enum class Kind : std::uint8_t {
   kForm,
   kTabStrip,
@@ -35,7 +35,7 @@ enum class Kind : std::uint8_t {
   kSlider,
   kDrawing,
   kPicture,
-  /// A control of one program alone, whose own factory makes its peer.
+  /// A control that only one program has. That program's factory makes its peer.
   kOwn,
 };
 
@@ -46,7 +46,7 @@ enum class Change : std::uint8_t {
   kVisible,
   kValue,
   kItems,
-  /// The range, and with it perhaps the value.
+  /// The range, and possibly the value with it.
   kRange,
   kColour,
   kFocus,
@@ -55,7 +55,7 @@ enum class Change : std::uint8_t {
   kRepaint,
   kBorder,
   kPlace,
-  /// The place and size of the form's window on the screen.
+  /// Position and size of the form's window on the screen.
   kBounds,
 };
 
@@ -65,8 +65,8 @@ class ControlPeer {
   virtual void ControlChanged(Control& control, Change change) = 0;
 };
 
-/// A rectangle in dialog units, relative to the tab page (or form) the control stands on; frames do not move
-/// their contents.
+/// A rectangle in dialog units, relative to the tab page or form that the control is on. A frame does not
+/// shift its contents.
 struct Place {
   std::int16_t left = 0;
   std::int16_t top = 0;
@@ -76,21 +76,20 @@ struct Place {
   friend bool operator==(const Place&, const Place&) = default;
 };
 
-/// A colour word: blue-green-red, or 0x80000000 + number of a system colour.
+/// A colour as 0x00BBGGRR, or 0x80000000 plus the index of a system colour.
 using Colour = std::uint32_t;
 inline constexpr Colour kWindowBackground = 0x80000005U;
 inline constexpr Colour kMenuBackground = 0x80000004U;
 inline constexpr Colour kButtonFace = 0x8000000FU;
 inline constexpr Colour kButtonText = 0x80000012U;
 
-/// What a form designer shows of every control. Texts must be literals (they are kept by reference), but for
-/// the caption, which is copied. Every control of the program has one that is put together where it is made:
-/// the fewer bytes, the smaller the program.
+/// What a form designer shows for every control. Texts must be literals, because only their addresses are
+/// kept; the caption is copied. Kept small: there is one per control.
 struct Design {
   const char* name;
   const char* caption = "";
-  /// Letter of the caption (or of a label that stands before the control) that works with Alt; 0 for none.
-  /// Never part of the caption.
+  /// Letter that works with Alt, from the caption or from the label before the control; 0 for none. Not part
+  /// of the caption.
   char access_key = 0;
   const char* tool_tip = "";
   Place place{};
@@ -105,14 +104,14 @@ class Control {
   virtual ~Control() = default;
 
   [[nodiscard]] Kind GetKind() const { return kind_; }
-  /// Form, tab strip, tab page and frame; safe to cast to Container.
+  /// True for a form, tab strip, tab page or frame, which can be cast to Container.
   [[nodiscard]] bool IsContainer() const { return kind_ <= Kind::kFrame; }
   [[nodiscard]] std::string_view Name() const { return design_.name; }
   [[nodiscard]] std::string_view ToolTip() const { return design_.tool_tip; }
   [[nodiscard]] char AccessKey() const { return design_.access_key; }
   [[nodiscard]] const Place& GetPlace() const { return design_.place; }
   void SetPlace(const Place& place);
-  /// The container the control stands in; null for the form.
+  /// The container that holds the control; null for the form.
   [[nodiscard]] Container* Parent() const { return parent_; }
   [[nodiscard]] Form& GetForm() const;
 
@@ -126,25 +125,25 @@ class Control {
   [[nodiscard]] Colour BackColour() const { return back_colour_; }
   void SetBackColour(Colour colour);
 
-  /// Enabled, and so is every container above.
+  /// True if the control and every container above it are enabled.
   [[nodiscard]] bool EffectivelyEnabled() const;
-  /// A hand can reach it: enabled and visible, and so is everything above it, on the tab page that is open,
-  /// in a shown form.
+  /// True if the user can reach the control: it and everything above it are enabled and visible, its tab page
+  /// is open, and the form is loaded and not minimised.
   [[nodiscard]] bool Reachable() const;
 
-  /// Moves the keyboard here from code, as a user's Tab does: the control left is validated and may keep the
-  /// focus. An unreachable control takes no focus.
+  /// Moves the keyboard focus here from code, just as the Tab key does: the control that loses the focus is
+  /// validated and may keep it. An unreachable control does not take the focus.
   void SetFocus();
   [[nodiscard]] bool HasFocus() const;
 
-  /// The user's Enter on this control, where no button of the window takes it.
+  /// The user presses Enter on this control and no button of the window takes it.
   virtual void PressEnter() {}
 
-  /// One peer or none. The peer must outlive the model's use of it or be detached with null.
+  /// Sets the only peer; null detaches it. The peer must outlive its attachment.
   void AttachPeer(ControlPeer* peer) { peer_ = peer; }
 
-  /// Runs when the focus leaves for another control, before OnLostFocus; answering false keeps the focus
-  /// here. An error goes to the dispatcher and counts as true.
+  /// Runs before OnLostFocus when the focus moves to another control. Returning false keeps the focus here.
+  /// An error goes to the dispatcher and counts as true.
   base::Callback<base::Result<bool>()> OnValidate;
   Handler OnGotFocus;
   Handler OnLostFocus;
@@ -153,7 +152,7 @@ class Control {
   Control(Container* parent, Kind kind, const Design& design);
 
   void Notify(Change change);
-  /// Tells the peer, and those of everything inside, that the control works or does not.
+  /// Tells the peer, and the peers of everything inside, that the control was enabled or disabled.
   virtual void NotifyEnabled();
   [[nodiscard]] EventDispatcher& Events() const;
 
@@ -170,12 +169,12 @@ class Control {
   bool visible_;
 };
 
-/// A control that others stand in. The order of construction of its children is the tab order.
+/// A control that holds others. The order in which its children are constructed is the tab order.
 class Container : public Control {
  public:
   [[nodiscard]] const std::vector<Control*>& Children() const { return children_; }
 
-  /// The control of this name at any depth, or null.
+  /// Returns the control of this name at any depth, or null.
   [[nodiscard]] Control* Find(std::string_view name);
 
  protected:

@@ -1,4 +1,4 @@
-// Control arrays: elements of one name that share one handler, which is told the number of the element.
+// Control arrays: elements that share a name and a handler. The handler receives the number of the element.
 #pragma once
 
 #include <array>
@@ -7,7 +7,7 @@
 
 namespace qdix::ui {
 
-/// The handlers of the elements. The array's own handler gets the element's number, the first being 0.
+/// The handlers of the elements. The array's own handler receives the element's number, counting from 0.
 template <int kCount>
 class ElementHandlers {
  public:
@@ -20,7 +20,7 @@ class ElementHandlers {
   ElementHandlers& operator=(const ElementHandlers&) = delete;
   ~ElementHandlers() = default;
 
-  /// What an element is bound to.
+  /// Returns the handler to bind to an element.
   [[nodiscard]] Handler Of(int index) {
     return Handler::To<&Element::Run>(elements_[static_cast<std::size_t>(index)]);
   }

@@ -4,7 +4,7 @@ namespace qdix::ui {
 
 namespace {
 
-/// Visits below `container`, counting on from `number`; returns the next free number.
+/// Visits the controls below `container`, numbering them from `number`. Returns the next free number.
 int VisitBelow(const Container& container, ControlVisitor visit, int number) {
   for (Control* child : container.Children()) {
     visit(*child, number++);

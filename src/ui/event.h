@@ -1,14 +1,12 @@
-// How handlers are run. One dispatcher serves the whole program.
+// How handlers run. One dispatcher serves the whole program.
 //
 // The contract of events, for every control:
-//  - Handlers are bound to a control's public `On...` fields and run through the dispatcher, never directly.
-//  - An assignment from code runs the handler inside the assignment, after the value changed, as the user's
-//  action does.
-//  - The error that a handler returns goes to the dispatcher's reporter, never to the code whose assignment,
-//  pump or box ran it.
-//  - The error of the assignment itself (a refused value) is returned to the caller of the assignment and
-//  runs no handler.
-//  - After Stop no handler runs any more.
+//  - Handlers are bound to a control's public `On...` fields and run only through the dispatcher.
+//  - A user's action and an assignment from code run the handler alike, after the value changed.
+//  - An assignment returns after its handler.
+//  - A handler's error goes to the reporter, never to the code whose assignment, pump or box ran the handler.
+//  - The error of an assignment itself (a refused value) goes to its caller and runs no handler.
+//  - After Stop no handler runs.
 #pragma once
 
 #include <type_traits>
@@ -24,10 +22,10 @@ class EventDispatcher {
  public:
   using ErrorReporter = base::Callback<void(const base::RuntimeError&)>;
 
-  /// Receives what no handler traps. Must be bound before the first event.
+  /// Sets the receiver of errors that no handler traps. Must be called before the first event.
   void ReportErrorsTo(ErrorReporter reporter) { reporter_ = reporter; }
 
-  /// Runs a handler with its arguments unless it is unbound or the program has stopped.
+  /// Runs a handler with its arguments, unless it is unbound or the program has stopped.
   template <class... Bound>
   void Run(const base::Callback<base::Status(Bound...)>& handler, std::type_identity_t<Bound>... arguments) {
     if (stopped_ || !handler) return;
@@ -35,7 +33,7 @@ class EventDispatcher {
     if (!status.Ok()) Report(status.Error());
   }
 
-  /// Hands an error to the reporter; nothing after Stop.
+  /// Passes an error to the reporter. Does nothing after Stop.
   void Report(const base::RuntimeError& error) {
     if (!stopped_ && reporter_) reporter_(error);
   }

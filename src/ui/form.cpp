@@ -38,7 +38,7 @@ bool Form::MoveFocus(Control* to) {
     return true;
   }
   if (focused_ != nullptr && !LeaveFocused()) return false;
-  // The handlers of the control left may have moved the focus themselves, or put `to` out of reach.
+  // The handlers of the control that lost the focus may have moved the focus or made `to` unreachable.
   if (focused_ != nullptr) return focused_ == to;
   if (to == nullptr) return true;
   if (!to->Reachable()) return false;
@@ -48,8 +48,8 @@ bool Form::MoveFocus(Control* to) {
   return focused_ == to;
 }
 
-/// Asks the control with the focus whether it lets go. It keeps the focus when it refuses, and when its
-/// handler put the focus back on it. A handler that put the control itself out of reach has settled it.
+/// Asks the control with the focus to release it. The control keeps the focus if it refuses or if its handler
+/// sets the focus back to it. Returns true without a further check if the handler moved the focus elsewhere.
 bool Form::LeaveFocused() {
   if (moving_focus_) return false;
   Control* const left = focused_;
@@ -60,7 +60,8 @@ bool Form::LeaveFocused() {
   moving_focus_ = false;
   if (focused_ != left) return true;
   if (!accepted || kept) {
-    left->Notify(Change::kFocus);  // a window that has already let go takes the keyboard back
+    // The window may have lost the keyboard already; give it back.
+    left->Notify(Change::kFocus);
     return false;
   }
   focused_ = nullptr;
@@ -99,7 +100,7 @@ void Form::Unload() {
 void Form::UnloadAtOnce() {
   unloading_ = true;
   events_.Run(OnUnload);
-  if (unloaded_) return;  // the session ended in a box of the handler
+  if (unloaded_) return;  // the session ended while the handler had a message box open
   unloaded_ = true;
   events_.Stop();
   if (form_peer_ != nullptr) form_peer_->FormUnloaded();

@@ -1,4 +1,4 @@
-// The window of the program: caption, state, focus, activation, closing.
+// The main window of a program: caption, state, focus, activation, closing.
 #pragma once
 
 #include <optional>
@@ -8,13 +8,13 @@
 
 namespace qdix::ui {
 
-/// Positions of the pointer are given in twips, 15 of them a pixel whatever the screen's resolution.
+/// Pointer positions are in twips: 15 per pixel, whatever the resolution of the screen.
 inline constexpr double kTwipsPerPixel = 15;
 
 enum class WindowState : std::uint8_t {
   kNormal,
   kMinimised,
-  /// Forms whose size the user can change.
+  /// Only for forms whose size the user can change.
   kMaximised
 };
 
@@ -24,8 +24,8 @@ struct FormSize {
   std::int16_t height = 0;
 };
 
-/// Where a window with its frame stands while it is neither minimised nor maximised: in pixels from the upper
-/// left corner of what the taskbar leaves of the screen.
+/// Position and outer size, frame included, of a window that is neither minimised nor maximised: in pixels,
+/// from the upper left corner of the work area (the screen without the taskbar).
 struct WindowBounds {
   int left = 0;
   int top = 0;
@@ -35,83 +35,86 @@ struct WindowBounds {
   friend bool operator==(const WindowBounds&, const WindowBounds&) = default;
 };
 
-/// What a form asks of the window that shows it, beyond what a control does.
+/// What a form needs from its window in addition to what every control needs.
 class FormPeer {
  public:
   virtual ~FormPeer() = default;
   /// Shows the menu at the pointer, lets the user choose, and runs the choice.
   virtual void PopUp(MenuItem& menu) = 0;
-  /// The form has unloaded: dismiss every open box and menu and let the program end.
+  /// The form has unloaded: closes every open message box and menu and lets the program end.
   virtual void FormUnloaded() = 0;
 };
 
 class Form final : public Container {
  public:
-  /// The user can change the size of a form that has a smallest size, down to that.
+  /// If the form has a smallest size, the user can change its size, down to that one.
   Form(EventDispatcher& events, const Design& design, FormSize smallest = {});
 
   [[nodiscard]] bool IsResizable() const { return smallest_.width != 0; }
   [[nodiscard]] FormSize Smallest() const { return smallest_; }
-  /// The user gave the window another inner size, or the system did: the place of the form follows, and
-  /// OnResize runs when it differs.
+  /// The user or Windows changed the inner size of the window. Updates the form's place and runs OnResize if
+  /// the size differs.
   void UserResized(FormSize size);
 
-  /// Nothing until a window was placed.
+  /// Empty until the window has been placed.
   [[nodiscard]] const std::optional<WindowBounds>& Bounds() const { return bounds_; }
-  /// Places the window. Its inner size follows from that, by UserResized.
+  /// Places the window. UserResized then sets the inner size.
   void SetBounds(const WindowBounds& bounds);
-  /// The window was placed by the user or the system; copied into the model.
+  /// The user or Windows placed the window. Only updates the model.
   void UserMoved(const WindowBounds& bounds) { bounds_ = bounds; }
 
   [[nodiscard]] EventDispatcher& Dispatcher() const { return events_; }
   void AttachFormPeer(FormPeer* peer) { form_peer_ = peer; }
 
-  /// Shown or hidden; hidden at first. Showing fires OnActivate, at the first time and after each hiding; a
-  /// form that is shown already only comes to the front.
+  /// Shown or hidden; hidden at first. Showing fires OnActivate the first time and after each hiding. A form
+  /// that is already shown only comes to the front.
   [[nodiscard]] bool Shown() const { return Visible(); }
   void Show();
   void Hide();
-  /// The system or another program showed or hid the window; copied into the model. Fires OnActivate as Show
+  /// Windows or another program showed or hid the window. Updates the model and fires OnActivate as Show
   /// does.
   void UserChangedVisible(bool visible);
 
   [[nodiscard]] WindowState State() const { return state_; }
   void SetState(WindowState state);
-  /// The user minimised, maximised or restored the window; copied into the model.
+  /// The user minimised, maximised or restored the window. Only updates the model.
   void UserChangedState(WindowState state) { state_ = state; }
 
   /// The control with the keyboard, or null.
   [[nodiscard]] Control* Focused() const { return focused_; }
-  /// Moves the focus: validates the control left, then OnLostFocus there and OnGotFocus here. Null takes the
-  /// focus away from all controls (validated as well). False when the focus is not there in the end: `to` is
-  /// unreachable, the control left keeps it, or one of these handlers moved it on.
+  /// Moves the focus: validates the control that has it, then fires its OnLostFocus and the new control's
+  /// OnGotFocus. Null takes the focus from all controls, also after validation. Returns false if `to` does
+  /// not have the focus in the end: it is unreachable, the other control keeps the focus, or a handler moved
+  /// it on.
   bool MoveFocus(Control* to);
 
-  /// Takes the focus from a control that can no longer be reached, without asking it.
+  /// Takes the focus from a control that has become unreachable, without validation.
   void DropUnreachableFocus();
 
   void PopUpMenu(MenuItem& menu);
 
-  /// The user closes the window: unloads, unless OnQueryClose refuses.
+  /// The user closes the window. Unloads the form unless OnQueryClose refuses.
   void Close();
 
-  /// Fires OnUnload once, stops the dispatcher and tells the peer. Later calls do nothing.
+  /// Fires OnUnload, stops the dispatcher and tells the peer. Later calls do nothing.
   void Unload();
-  /// The same, also while a box of OnUnload holds up an earlier call: then OnUnload runs a second time and
-  /// must not ask. For the end of the session, after which the process may stop at any moment.
+  /// Like Unload, but also works while a message box opened by OnUnload holds up an earlier call. OnUnload
+  /// then runs a second time and must not ask the user. For the end of the session: the process may be
+  /// stopped at any moment.
   void UnloadAtOnce();
   [[nodiscard]] bool Unloaded() const { return unloaded_; }
 
-  /// The pointer moved over the window, or the tray icon called back: button, shift state, x and y in twips.
+  /// The pointer moved over the window, or the tray icon sent its callback: button, shift state, x and y in
+  /// twips.
   void PointerMoved(int button, int shift, double x_twips, double y_twips);
 
-  /// Esc, where no button of the window takes it.
+  /// The user presses Esc and no button of the window takes it.
   void PressEscape();
 
   Handler OnActivate;
   Handler OnResize;
   Handler OnEscape;
-  /// Answers whether a user's wish to close the window is followed; unbound, it is.
+  /// Returns whether the user may close the window now. If unbound, the user may.
   base::Callback<bool()> OnQueryClose;
   Handler OnUnload;
   base::Callback<base::Status(int, int, double, double)> OnMouseMove;

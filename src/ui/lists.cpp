@@ -4,7 +4,7 @@ namespace qdix::ui {
 
 namespace {
 
-/// List boxes of Windows 95 count their rows in 16 bits.
+/// A Windows 95 list box counts its rows in 16 bits.
 constexpr int kMostRows = 32767;
 
 }  // namespace
@@ -87,10 +87,10 @@ void ListBox::PressRowKey(RowKey key) {
 
 void DropDownList::SetText(std::string_view text) {
   const int index = IndexOf(text);
-  if (index != kNoSelection) base::Ignore(SetSelectedIndex(index));  // the row was just seen
+  if (index != kNoSelection) base::Ignore(SetSelectedIndex(index));  // the row was just found
 }
 
-/// Text and selection change together before the peer and OnChange look at them.
+/// Updates text and selection together, before the peer or OnChange can see either.
 void DropDownCombo::SetText(std::string_view text) {
   const bool differs = text_ != text;
   text_ = text;

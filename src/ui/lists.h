@@ -1,35 +1,35 @@
-// List box, drop-down list and drop-down combo: rows of text, a number kept beside each row, one selection.
+// List box, drop-down list and drop-down combo box: rows of text, a number for each row, one selection.
 #pragma once
 
 #include "ui/control.h"
 
 namespace qdix::ui {
 
-/// What the three kinds share.
+/// What the three kinds of list share.
 class ListControl : public Control {
  public:
   static constexpr int kNoSelection = -1;
 
   [[nodiscard]] int Count() const { return static_cast<int>(items_.size()); }
-  /// The text of a row, or an empty text outside the list.
+  /// Returns the text of a row; empty if there is no such row.
   [[nodiscard]] const std::string& Item(int index) const;
   [[nodiscard]] std::int32_t ItemData(int index) const;
   [[nodiscard]] int SelectedIndex() const { return selected_; }
-  /// The text of the selected row, or an empty text.
+  /// Returns the text of the selected row; empty if none is selected.
   [[nodiscard]] const std::string& SelectedText() const { return Item(selected_); }
 
-  /// Filling and clearing fire nothing; clearing drops the selection. Rows beyond the 32,767 that the
-  /// system's lists hold are not taken.
+  /// Adding rows and clearing fire nothing. Clearing also removes the selection. Ignores rows beyond 32,767,
+  /// the limit of the native lists.
   void AddItem(std::string_view text, std::int32_t item_data = 0);
   void Clear();
 
-  /// Selects a row, or nothing with kNoSelection. Fires OnClick when the index changes to a row, unless the
-  /// list was made without that. Outside the list is error 380 and changes nothing.
+  /// Selects a row, or none with kNoSelection. Fires OnClick when the selection moves to another row, unless
+  /// the list was made without that. An index outside the list returns error 380 and changes nothing.
   base::Status SetSelectedIndex(int index);
 
-  /// The user picks a row. Nothing when unreachable or no such row.
+  /// The user picks a row. Does nothing if the list is unreachable or there is no such row.
   void ChooseIndex(int index);
-  /// The user picks the first row with this text; false when there is none.
+  /// The user picks the first row with this text. Returns false if there is none.
   bool Choose(std::string_view text);
 
   Handler OnClick;
@@ -37,7 +37,7 @@ class ListControl : public Control {
  protected:
   ListControl(Container& parent, Kind kind, const Design& design, bool code_fires_click);
 
-  /// The first row with this text, or kNoSelection.
+  /// Returns the first row with this text, or kNoSelection.
   [[nodiscard]] int IndexOf(std::string_view text) const;
   /// Moves the selection without firing anything.
   void SelectSilently(int index) {
@@ -45,9 +45,9 @@ class ListControl : public Control {
     Notify(Change::kValue);
   }
 
-  /// Called after the selection changed, before OnClick.
+  /// Called after the selection changed and before OnClick.
   virtual void SelectionChanged() {}
-  /// True where picking the row that is already selected fires OnClick again.
+  /// True if picking the selected row again fires OnClick.
   [[nodiscard]] virtual bool SameRowFires() const { return false; }
 
  private:
@@ -63,25 +63,25 @@ class ListControl : public Control {
   bool code_fires_click_;
 };
 
-/// What the keys Del, Alt+Up and Alt+Down ask of the selected row.
+/// What Del, Alt+Up and Alt+Down do to the selected row.
 enum class RowKey : std::uint8_t {
   kRemove,
   kMoveUp,
   kMoveDown
 };
 
-/// The selection index -1 clears without OnClick. A user's click on a row fires OnClick also when the row is
-/// already selected.
+/// Setting the selection to -1 clears it without OnClick. A user's click fires OnClick even on the selected
+/// row.
 class ListBox final : public ListControl {
  public:
   ListBox(Container& parent, const Design& design) : ListControl(parent, Kind::kListBox, design, true) {}
 
-  /// The user's double click on a row (selects it first), or on the empty part with kNoSelection (selects
-  /// nothing new). Nothing when unreachable or no such row.
+  /// The user double-clicks a row, which selects it first, or the empty part (kNoSelection), which leaves the
+  /// selection alone. Does nothing if the list is unreachable or there is no such row.
   void DoubleClick(int index);
-  /// Like a double click on the selected row.
+  /// Acts like a double click on the selected row.
   void PressEnter() override;
-  /// The user's key on the list; nothing when unreachable.
+  /// The user presses a row key in the list. Does nothing if the list is unreachable.
   void PressRowKey(RowKey key);
 
   Handler OnDoubleClick;
@@ -91,7 +91,7 @@ class ListBox final : public ListControl {
   [[nodiscard]] bool SameRowFires() const override { return true; }
 };
 
-/// Whether an assignment from code fires OnClick; off for lists whose click is the user's choice only.
+/// Whether an assignment from code fires OnClick. kNo is for lists where a click is always the user's choice.
 enum class CodeFiresClick : bool {
   kNo,
   kYes
@@ -104,22 +104,21 @@ class DropDownList final : public ListControl {
       : ListControl(parent, Kind::kDropDownList, design, code_fires_click == CodeFiresClick::kYes) {}
 
   [[nodiscard]] const std::string& Text() const { return SelectedText(); }
-  /// Selects the first row that equals the text. A text that equals no row keeps the selection and fires
-  /// nothing.
+  /// Selects the first row that equals the text. If there is none, keeps the selection and fires nothing.
   void SetText(std::string_view text);
 };
 
-/// A drop-down list whose text can also be typed. Selecting a row takes over its text, and fires OnChange
-/// when the text differs; selecting nothing keeps the text.
+/// A drop-down list with a text that the user can also type. Selecting a row copies its text and fires
+/// OnChange if the text differs. Selecting none keeps the text.
 class DropDownCombo final : public ListControl {
  public:
   DropDownCombo(Container& parent, const Design& design)
       : ListControl(parent, Kind::kDropDownCombo, design, true) {}
 
   [[nodiscard]] const std::string& Text() const { return text_; }
-  /// Sets the text; selects the first row that equals it, or none. Fires OnChange when the text differs.
+  /// Sets the text and selects the first row that equals it, or none. Fires OnChange if the text differs.
   void SetText(std::string_view text);
-  /// The user changed the text in the window. Fires OnChange when it differs; the selection follows as with
+  /// The user changed the text in the window. Fires OnChange if it differs; the selection follows as in
   /// SetText.
   void UserEdited(std::string_view text);
 

@@ -10,10 +10,10 @@
 
 namespace qdix::ui {
 
-/// An entry, a separator or a submenu. An "&" in a caption shows as itself.
+/// An entry, a separator or a submenu. An "&" in a caption is displayed as it is.
 class MenuItem {
  public:
-  /// A root menu; its entries are made with it as parent, in order.
+  /// Makes a root menu. Its entries are made in order with it as their parent.
   MenuItem(EventDispatcher& events, std::string_view name, std::string_view caption);
   MenuItem(MenuItem& parent, std::string_view name, std::string_view caption);
   static constexpr std::string_view kSeparatorCaption = "-";
@@ -32,13 +32,13 @@ class MenuItem {
 
   void SetCaption(std::string_view caption) { caption_ = caption; }
   void SetEnabled(bool enabled) { enabled_ = enabled; }
-  /// The last visible entry of a submenu cannot be hidden: error 387, and nothing changes.
+  /// The last visible entry of a submenu cannot be hidden: returns error 387 and changes nothing.
   base::Status SetVisible(bool visible);
-  /// Marks the entry that a double click on the tray icon stands for (shown bold).
+  /// Marks the entry that a double click on the tray icon chooses. Windows shows it in bold.
   void SetDefault(bool is_default) { is_default_ = is_default; }
 
-  /// The user chooses the entry; nothing for a separator, a submenu, or where it or a menu above is disabled
-  /// or hidden.
+  /// The user chooses the entry. Does nothing for a separator or a submenu, or if the entry or a menu above
+  /// it is disabled or hidden.
   void Choose();
 
   Handler OnClick;
@@ -56,13 +56,13 @@ class MenuItem {
   bool is_default_ = false;
 };
 
-/// A row of entries of one name that stand one after the other in a menu, told apart by their number.
+/// Consecutive entries of a menu that share a name and differ in their number.
 class MenuItemArray {
  public:
   MenuItemArray(MenuItem& parent, std::string_view name, int count);
 
   [[nodiscard]] int Count() const { return static_cast<int>(items_.size()); }
-  /// The first is number 0.
+  /// Entries count from 0.
   [[nodiscard]] MenuItem& operator[](int index) const { return *items_[static_cast<std::size_t>(index)]; }
 
  private:

@@ -1,5 +1,5 @@
-// The properties of a drawing control under their names, as a designer keeps them. Knows nothing of which
-// properties there are, and stores nothing outside of memory.
+// The properties of a drawing control by name, as a form designer keeps them. Has no list of valid properties
+// and stores only in memory.
 #pragma once
 
 #include <cstdint>
@@ -8,14 +8,14 @@
 
 namespace qdix::ui {
 
-/// Names are compared exactly and must be literals (they are kept by reference). A property that has its
-/// default is not kept.
+/// Names are compared exactly. They must be literals, because only their addresses are kept. A property equal
+/// to its default is not kept.
 class PropertyBag {
  public:
-  /// The kept value, or the default.
+  /// Returns the kept value, or the default.
   [[nodiscard]] std::int32_t ReadProperty(std::string_view name, std::int32_t default_value) const;
 
-  /// Replaces what was kept under this name.
+  /// Replaces the value kept under this name.
   void WriteProperty(std::string_view name, std::int32_t value, std::int32_t default_value);
 
   [[nodiscard]] bool Keeps(std::string_view name) const;
@@ -26,7 +26,7 @@ class PropertyBag {
     std::int32_t value;
   };
 
-  /// Where an entry of this name stands, or would have to.
+  /// Returns the position of the entry of this name, or where it would have to be inserted.
   [[nodiscard]] std::vector<Entry>::const_iterator PositionOf(std::string_view name) const;
 
   // Sorted by name.

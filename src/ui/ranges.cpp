@@ -22,7 +22,7 @@ base::Status VerticalScrollBar::SetValue(std::int32_t value) {
 }
 
 void VerticalScrollBar::SetNearest(double value) {
-  base::Ignore(SetValue(base::ClampToInt32(value, Lowest(), Highest())));  // inside the range by construction
+  base::Ignore(SetValue(base::ClampToInt32(value, Lowest(), Highest())));  // clamped to the range
 }
 
 void VerticalScrollBar::SetRange(std::int32_t minimum, std::int32_t maximum) {
@@ -54,7 +54,7 @@ Slider::Slider(Container& parent, const Design& design, const SliderRange& range
   range_.value = Nearest(range.value);
 }
 
-/// A minimum above the maximum leaves the minimum as the only value.
+/// If the minimum is above the maximum, the minimum is the only value.
 std::int32_t Slider::Nearest(std::int32_t value) const {
   return std::max(std::min(value, range_.maximum), range_.minimum);
 }

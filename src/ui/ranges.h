@@ -1,11 +1,11 @@
-// Vertical scroll bar and slider: a whole number inside a range.
+// Vertical scroll bar and slider: a whole number within a range.
 #pragma once
 
 #include "ui/control.h"
 
 namespace qdix::ui {
 
-/// Value at the top is the minimum. A minimum above the maximum inverts the bar, so that up increases the
+/// The minimum is the value at the top. A minimum above the maximum inverts the bar: up then increases the
 /// value.
 struct ScrollRange {
   std::int32_t minimum = 0;
@@ -25,15 +25,15 @@ class VerticalScrollBar final : public Control {
   [[nodiscard]] std::int32_t Lowest() const;
   [[nodiscard]] std::int32_t Highest() const;
 
-  /// Fires OnChange when the value differs. Outside the range is error 380, value unchanged.
+  /// Fires OnChange if the value differs. A value outside the range returns error 380 and changes nothing.
   base::Status SetValue(std::int32_t value);
-  /// The nearest value inside the range to any double, rounded half to even; cannot be refused.
+  /// Sets the value in the range nearest to `value`, rounded half to even. Never refused.
   void SetNearest(double value);
-  /// A narrower range moves the value to its nearest end without OnChange.
+  /// If the value is outside the new range, moves it to the nearest end without OnChange.
   void SetRange(std::int32_t minimum, std::int32_t maximum);
 
-  /// The user's hand: to a position on the bar (clamped), or by steps toward the bottom (positive) or the top
-  /// (negative).
+  /// The user moves the thumb to a value (clamped), or scrolls by steps or pages: positive to the bottom,
+  /// negative to the top.
   void Drag(std::int32_t value);
   void Step(int steps);
   void Page(int pages);
@@ -53,13 +53,13 @@ struct SliderRange {
   std::int32_t value = 0;
   std::int32_t small_change = 1;
   std::int32_t large_change = 5;
-  /// The user's moves end on a multiple of this; values from code keep what they are.
+  /// The user's moves end on a multiple of this. Values set by code need not be multiples.
   std::int32_t step = 1;
 };
 
-/// Values from code are clamped, the first one too, and fire nothing; a new range moves the value to its
-/// nearest end. OnMove is the user's move only. A minimum above the maximum leaves the minimum as the only
-/// value.
+/// Values set by code are clamped, including the first one, and fire nothing. A new range moves a value
+/// outside it to the nearest end. Only the user's moves fire OnMove. If the minimum is above the maximum, the
+/// minimum is the only value.
 class Slider final : public Control {
  public:
   Slider(Container& parent, const Design& design, const SliderRange& range);
@@ -70,12 +70,12 @@ class Slider final : public Control {
   [[nodiscard]] std::int32_t Value() const { return range_.value; }
 
   void SetValue(std::int32_t value);
-  /// The nearest value inside the range to any double, rounded half to even.
+  /// Sets the value in the range nearest to `value`, rounded half to even.
   void SetNearest(double value);
   void SetMinimum(std::int32_t minimum);
   void SetMaximum(std::int32_t maximum);
 
-  /// The user moves the thumb, to the nearest step; fires OnMove with the new value when it differs.
+  /// The user moves the thumb. Rounds to the nearest step and fires OnMove with the new value if it differs.
   void Drag(std::int32_t value);
 
   base::Callback<base::Status(std::int32_t)> OnMove;

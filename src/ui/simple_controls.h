@@ -1,4 +1,4 @@
-// The controls with a caption: label, frame, button, check box, option button, picture.
+// The simple controls: label, frame, button, check box, option button, picture.
 #pragma once
 
 #include "ui/control.h"
@@ -9,17 +9,17 @@ class Label final : public Control {
  public:
   Label(Container& parent, const Design& design) : Control(&parent, Kind::kLabel, design) {}
 
-  /// Paints it now and not when the program comes to it.
+  /// Paints the label at once instead of at the next paint message.
   void Refresh() { Notify(Change::kRepaint); }
 };
 
-/// A group box. Option buttons of one frame belong together; disabling the frame disables what stands in it.
+/// A group box. The option buttons in one frame form a group. Disabling the frame disables its contents.
 class Frame final : public Container {
  public:
   Frame(Container& parent, const Design& design) : Container(&parent, Kind::kFrame, design) {}
 };
 
-/// A still picture of the program's own resources; shows nothing where there is none.
+/// A picture from the program's resources. Shows nothing if the resource does not exist.
 class Picture final : public Control {
  public:
   Picture(Container& parent, const Design& design, int resource_id)
@@ -38,14 +38,14 @@ enum class ButtonRole : std::uint8_t {
 
 class Button final : public Control {
  public:
-  /// With the number of an icon among the program's resources it shows that before its caption.
+  /// `picture_id` is the resource number of an icon to show before the caption; 0 for none.
   Button(Container& parent, const Design& design, ButtonRole role = ButtonRole::kPlain, int picture_id = 0)
       : Control(&parent, Kind::kButton, design), picture_id_(picture_id), role_(role) {}
 
   [[nodiscard]] ButtonRole Role() const { return role_; }
   [[nodiscard]] int PictureId() const { return picture_id_; }
 
-  /// The user's press; nothing when unreachable.
+  /// The user presses the button. Does nothing if it is unreachable.
   void Press();
 
   Handler OnClick;
@@ -62,12 +62,12 @@ class CheckBox final : public Control {
   /// 0 clear, 1 ticked, 2 greyed.
   [[nodiscard]] int Value() const { return value_; }
   [[nodiscard]] bool Ticked() const { return value_ == 1; }
-  /// Fires OnClick when the value changes. Another value than 0, 1, 2 is error 380.
+  /// Fires OnClick if the value changes. A value other than 0, 1 or 2 returns error 380.
   base::Status SetValue(int value);
-  /// SetValue(1) or SetValue(0), which cannot be refused.
+  /// Calls SetValue with 1 or 0, which is never refused.
   void SetTicked(bool ticked);
 
-  /// The user's press: ticks a clear box, clears any other.
+  /// The user presses the box: ticks it if clear, otherwise clears it.
   void Press();
 
   Handler OnClick;
@@ -81,11 +81,11 @@ class OptionButton final : public Control {
   OptionButton(Container& parent, const Design& design) : Control(&parent, Kind::kOptionButton, design) {}
 
   [[nodiscard]] bool Selected() const { return selected_; }
-  /// Selecting fires OnClick when it was not selected and clears the others of its container silently;
-  /// clearing fires nothing.
+  /// Selecting the option clears the others in its container silently and fires OnClick if it was not
+  /// selected. Clearing it fires nothing.
   void SetSelected(bool selected);
 
-  /// The user's choice by click or arrow key; fires like SetSelected(true).
+  /// The user chooses the option by click or arrow key. Fires like SetSelected(true).
   void Press();
 
   Handler OnClick;

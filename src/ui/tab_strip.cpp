@@ -28,7 +28,7 @@ base::Status TabStrip::SetTab(int index) {
 void TabStrip::ChooseTab(int index) {
   if (!Reachable() || index == tab_ || index < 0 || index >= Count()) return;
   if (!GetForm().MoveFocus(this)) {
-    Notify(Change::kValue);  // a window that has already switched goes back
+    Notify(Change::kValue);  // the window may have switched already; switch it back
     return;
   }
   base::Ignore(SetTab(index));  // the page exists

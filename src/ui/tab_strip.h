@@ -1,4 +1,4 @@
-// A strip of tabs with one page each, of which one is open.
+// A strip of tabs with one page each; one page is open.
 #pragma once
 
 #include <memory>
@@ -23,19 +23,19 @@ class TabPage final : public Container {
 
 class TabStrip final : public Container {
  public:
-  /// One page a caption, in this order.
+  /// Makes one page per design, in this order.
   TabStrip(Container& parent, const Design& design, std::span<const Design> pages);
 
   [[nodiscard]] int Count() const { return static_cast<int>(pages_.size()); }
   [[nodiscard]] TabPage& Page(int index) const { return *pages_[static_cast<std::size_t>(index)]; }
   [[nodiscard]] int Tab() const { return tab_; }
 
-  /// Opens a page. When another was open, fires OnClick with the index of the one left. A page that does not
-  /// exist is error 380.
+  /// Opens a page. If another was open, fires OnClick with the index of that page. A page that does not exist
+  /// returns error 380.
   base::Status SetTab(int index);
 
-  /// The user opens a page: the focus leaves the control it was on first (validation may refuse and keep the
-  /// page). Nothing when unreachable or no such page.
+  /// The user opens a page. The control with the focus loses it first; its validation may refuse, and then
+  /// the page stays. Does nothing if the strip is unreachable or there is no such page.
   void ChooseTab(int index);
 
   base::Callback<base::Status(int)> OnClick;

@@ -51,7 +51,7 @@ bool TextBox::AcceptsKey(char character) {
 
 bool TextBox::Type(char character) {
   if (!Reachable() || !AcceptsKey(character)) return false;
-  // The handler may have changed text and selection: look at them only now.
+  // The handler may have changed the text and the selection, so read them only now.
   auto start = static_cast<std::size_t>(selection_start_);
   auto length = static_cast<std::size_t>(selection_length_);
   std::string text = text_;

@@ -5,18 +5,18 @@
 
 namespace qdix::ui {
 
-/// What a box for a number lets through: digits, and backspace.
+/// True for the characters that a box for numbers accepts: digits and backspace.
 [[nodiscard]] bool IsDigitKey(char character);
 
 class TextBox final : public Control {
  public:
-  /// The most characters a user can type; assignments are cut to it as well.
+  /// Maximum length that a user can type. Text set by code is cut to it.
   static constexpr int kDefaultMaxLength = 255;
 
   TextBox(Container& parent, const Design& design, int max_length = kDefaultMaxLength);
 
   [[nodiscard]] const std::string& Text() const { return text_; }
-  /// Fires OnChange when the text differs.
+  /// Fires OnChange if the text differs.
   void SetText(std::string_view text);
 
   [[nodiscard]] int MaxLength() const { return max_length_; }
@@ -24,22 +24,21 @@ class TextBox final : public Control {
   [[nodiscard]] int SelectionLength() const { return selection_length_; }
   void SelectAll();
 
-  /// The user types one character at the selection, which it replaces; 8 is backspace. OnKeyPress sees it
-  /// first and may swallow it. Returns false when nothing was typed (swallowed, unreachable, full).
+  /// The user types one character, which replaces the selection; 8 is backspace. OnKeyPress sees it first and
+  /// may swallow it. Returns false if nothing was typed (swallowed, unreachable, full).
   bool Type(char character);
-  /// The user types several characters one after the other.
   void TypeText(std::string_view text);
-  /// Asks OnKeyPress about a character without typing it: for a peer whose window does the editing. False
-  /// means swallow it.
+  /// Asks OnKeyPress about a character without typing it. For a peer whose window does the editing. False
+  /// means that the peer must swallow the character.
   [[nodiscard]] bool AcceptsKey(char character);
-  /// The user changed the whole text in the window (typing, pasting): like Type, without OnKeyPress.
+  /// The user edited the text in the window (typing, pasting). Like Type, but without OnKeyPress.
   void UserEdited(std::string_view text, int selection_start, int selection_length);
 
   void PressEnter() override;
 
   Handler OnChange;
   Handler OnEnter;
-  /// Sees each character before it is typed and sets it to 0 to swallow it.
+  /// Sees each character before it is typed and may set it to 0 to swallow it.
   base::Callback<base::Status(char&)> OnKeyPress;
 
  private:

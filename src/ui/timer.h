@@ -1,4 +1,5 @@
-// A timer of the form. The system (or a test) lets it elapse; the model decides whether that is a tick.
+// A timer of the form. Windows or a test reports that an interval has elapsed; the model decides whether to
+// tick.
 #pragma once
 
 #include <cstdint>
@@ -10,11 +11,11 @@ namespace qdix::ui {
 
 class Timer;
 
-/// Counts the time of the timers. Told when a count has to start anew or to stop.
+/// Measures the intervals of timers. Is told when a timer starts again or stops.
 class TimerPeer {
  public:
   virtual ~TimerPeer() = default;
-  /// Running() and Interval() tell whether and how long to count from now on.
+  /// The timer's Running() and Interval() say whether and how long to count from now on.
   virtual void TimerRestarted(Timer& timer) = 0;
 };
 
@@ -22,28 +23,30 @@ class Timer {
  public:
   static constexpr std::int32_t kLongestIntervalMs = 65535;
 
-  /// Without a peer nothing ever elapses.
+  /// A timer without a peer never elapses.
   Timer(EventDispatcher& events, std::string_view name, std::int32_t interval_ms, bool enabled);
   Timer(const Timer&) = delete;
   Timer& operator=(const Timer&) = delete;
   ~Timer() = default;
 
   [[nodiscard]] std::string_view Name() const { return name_; }
-  /// Milliseconds, 0 to 65535; 0 never ticks.
+  /// In milliseconds, 0 to 65535. With 0 the timer never ticks.
   [[nodiscard]] std::int32_t Interval() const { return interval_ms_; }
   [[nodiscard]] bool Enabled() const { return enabled_; }
   [[nodiscard]] bool Running() const { return enabled_ && interval_ms_ != 0; }
 
-  /// A new interval restarts the count; the same one does not. Outside 0 to 65535 is error 380.
+  /// A different interval restarts the count; the same one does not. A value outside 0 to 65535 returns error
+  /// 380.
   base::Status SetInterval(std::int32_t interval_ms);
-  /// The nearest allowed interval to any double.
+  /// Sets the allowed interval nearest to `interval_ms`.
   void SetNearestInterval(double interval_ms);
-  /// False to True restarts the count; True onto True does nothing.
+  /// Enabling a disabled timer restarts the count. Enabling an enabled one does nothing.
   void SetEnabled(bool enabled);
 
   void AttachPeer(TimerPeer* peer);
 
-  /// One interval has passed: ticks if running and not inside its own handler (such a tick is lost).
+  /// One interval has passed. Ticks if the timer is running and its handler is not; otherwise the tick is
+  /// lost.
   void Elapse();
 
   Handler OnTimer;

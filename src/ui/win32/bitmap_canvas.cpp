@@ -8,8 +8,8 @@ namespace qdix::ui::win32 {
 
 namespace {
 
-/// Moves a copy along one side so far that neither end leaves the surface; 64 bits, since callers may pass
-/// any number.
+/// Clips a copy along one dimension: both ends stay on the surface. Uses 64 bits because callers may pass any
+/// number.
 struct CopySpan {
   CopySpan(int to, int from, int length, int surface) : to_px(to), from_px(from), length_px(length) {
     const std::int64_t cut = std::max<std::int64_t>({0, -to_px, -from_px});
@@ -53,14 +53,14 @@ void BitmapCanvas::CopyOntoSelf(int to_x, int to_y, int width, int height, int f
          static_cast<int>(across.from_px), static_cast<int>(down.from_px), SRCCOPY);
 }
 
-/// Coordinates of devices have 16 bits on Windows 95, so the box is cut before it is drawn.
+/// Windows 95 takes device coordinates of 16 bits, so the box is clipped before it is drawn.
 void BitmapCanvas::FillBox(int x1, int y1, int x2, int y2, Colour colour) {
   const RECT box{std::max(std::min(x1, x2), 0), std::max(std::min(y1, y2), 0),
                  std::min(std::max(x1, x2), width_px_ - 1) + 1,
                  std::min(std::max(y1, y2), height_px_ - 1) + 1};
   if (box.left >= box.right || box.top >= box.bottom) return;
   SetBkColor(device_.get(), ResolveColour(colour));
-  ExtTextOutA(device_.get(), 0, 0, ETO_OPAQUE, &box, nullptr, 0, nullptr);  // fills without a brush to make
+  ExtTextOutA(device_.get(), 0, 0, ETO_OPAQUE, &box, nullptr, 0, nullptr);  // fills without making a brush
 }
 
 void BitmapCanvas::FillBorderedBox(int x1, int y1, int x2, int y2, Colour fill, Colour border) {

@@ -1,4 +1,4 @@
-// A canvas on a bitmap in memory, so that what was drawn survives being covered.
+// A canvas on a bitmap in memory, which keeps the picture while the window is covered.
 #pragma once
 
 #include "ui/canvas.h"
@@ -8,14 +8,14 @@ namespace qdix::ui::win32 {
 
 class BitmapCanvas final : public Canvas {
  public:
-  /// Made for the screen's colours. Without room for the bitmap every operation draws nothing.
+  /// Makes a bitmap in the screen's colour format. If Windows has no memory for it, all drawing does nothing.
   BitmapCanvas(int width_px, int height_px);
   BitmapCanvas(const BitmapCanvas&) = delete;
   BitmapCanvas& operator=(const BitmapCanvas&) = delete;
   ~BitmapCanvas() override = default;
 
-  /// The screen has other colours now: goes over to a bitmap for them, with the same picture. False where
-  /// that cannot be, and nothing changes.
+  /// Moves the picture to a bitmap in the screen's new colour format. Returns false and changes nothing if
+  /// that fails.
   [[nodiscard]] bool FollowScreen();
 
   [[nodiscard]] HDC Device() const { return device_.get(); }
@@ -30,7 +30,8 @@ class BitmapCanvas final : public Canvas {
   int width_px_;
   int height_px_;
   OwnedGdiObject<HBITMAP> bitmap_;
-  // Goes before the bitmap that is selected into it, and so frees it.
+  // Declared after the bitmap so that it is destroyed first: the bitmap is selected into it and can be
+  // deleted only then.
   OwnedMemoryDevice device_;
 };
 

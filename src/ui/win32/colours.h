@@ -1,4 +1,4 @@
-// Colour words of the program as the system takes them.
+// Converts the program's colours for Windows.
 #pragma once
 
 #include "ui/control.h"
@@ -8,14 +8,14 @@ namespace qdix::ui::win32 {
 
 inline constexpr Colour kSystemColourFlag = 0x80000000U;
 
-/// The colour to draw with at this moment; system colours follow the user's settings.
+/// Returns the colour to draw with now. System colours follow the user's settings.
 [[nodiscard]] inline COLORREF ResolveColour(Colour colour) {
   if ((colour & kSystemColourFlag) != 0) return GetSysColor(static_cast<int>(colour & 0xFFU));
   return colour & 0x00FFFFFFU;
 }
 
-/// A brush of a colour word: the system's own for a system colour, else one made and kept until the colour
-/// changes.
+/// A brush for a colour. Uses the system's brush for a system colour; otherwise makes one and keeps it until
+/// the colour changes.
 class BackgroundBrush {
  public:
   [[nodiscard]] HBRUSH For(Colour colour) {

@@ -21,7 +21,7 @@ DialogFont::DialogFont() {
   Measure();
 }
 
-/// The way in which the system's own dialogs measure, so that a place comes out as it would in one of them.
+/// Measures as Windows does for its own dialogs, so a place has the same size in pixels as in a dialog.
 void DialogFont::Measure() {
   const ScreenDevice screen;
   HGDIOBJ const former = SelectObject(screen.Get(), font_.get());
@@ -50,7 +50,7 @@ int DialogFont::TextWidthPixels(const std::string& text) const {
   return static_cast<int>(size.cx);
 }
 
-/// A side of more units than the model counts is cut to what it counts.
+/// Clamps each dimension to the range of the model.
 FormSize DialogFont::Units(int width_px, int height_px) const {
   constexpr int kMost = 0x7FFF;
   return {static_cast<std::int16_t>(std::clamp(width_px * 4 / base_width_px_, 0, kMost)),

@@ -1,4 +1,4 @@
-// The font of the window and the dialog units that follow from it.
+// The font of the window and the dialog units derived from it.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace qdix::ui::win32 {
 
-/// A rectangle in pixels, relative to the window it stands in.
+/// A rectangle in pixels, relative to its parent window.
 struct PixelBox {
   int left = 0;
   int top = 0;
@@ -16,16 +16,16 @@ struct PixelBox {
   int height = 0;
 };
 
-/// MS Sans Serif in 8 points at the screen's resolution, the dialog font of the time.
+/// MS Sans Serif, 8 points at the screen's resolution: the dialog font of Windows 95.
 class DialogFont {
  public:
   DialogFont();
 
   [[nodiscard]] HFONT Get() const { return font_.get(); }
-  /// Dialog units to pixels: a quarter of the average letter's width, an eighth of the font's height.
+  /// Converts dialog units to pixels: a quarter of the average letter width, an eighth of the font height.
   [[nodiscard]] PixelBox Pixels(const Place& place) const;
   [[nodiscard]] int TextWidthPixels(const std::string& text) const;
-  /// An inner size in pixels as the dialog units that fit into it.
+  /// Returns the dialog units that fit into an inner size in pixels.
   [[nodiscard]] FormSize Units(int width_px, int height_px) const;
 
  private:

@@ -14,7 +14,7 @@ DWORD ExtendedStyleOf(const DrawingControl& model) {
   return model.Border() == BorderStyle::kThreeD ? WS_EX_CLIENTEDGE : 0;
 }
 
-/// Place and outer size: a control that insists on an inner size gets its border round it.
+/// Place and outer size. A control that requires an inner size gets its border around it.
 PixelBox OuterBox(const PeerContext& context, const DrawingControl& model) {
   PixelBox box = context.font.Pixels(model.GetPlace());
   const DrawingControl::PixelSize inner = model.InnerSize();

@@ -1,4 +1,4 @@
-// The window of a drawing control: shows a canvas that keeps the picture.
+// The window of a drawing control, which shows a canvas that keeps the picture.
 #pragma once
 
 #include <optional>
@@ -20,7 +20,7 @@ class DrawingPeer final : public NativeControl {
   void BorderChanged() override;
   void CaptionChanged() override {}
   void Show();
-  /// A canvas of the window's present inner size, on which the control draws everything.
+  /// Makes a canvas of the window's current inner size and has the control draw everything on it.
   void MakeCanvas();
 
   DrawingControl& drawing_;

@@ -6,7 +6,7 @@ namespace qdix::ui::win32 {
 
 namespace {
 
-/// True where the native window is of the class of buttons and can be pressed.
+/// True if the native window is of class BUTTON and can be pressed.
 bool IsButton(const Control& model) {
   const Kind kind = model.GetKind();
   return kind == Kind::kButton || kind == Kind::kCheckBox || kind == Kind::kOptionButton;
@@ -16,8 +16,8 @@ bool IsButton(const Control& model) {
 
 void FocusKeeper::Arrived(NativeControl& peer) {
   waiting_ = nullptr;
-  // While a control left is being validated, a box may come and go and drag the native focus about; the
-  // outcome puts it right.
+  // A validation may open and close a message box, which moves the native focus. FollowModel sets it right at
+  // the end.
   if (moving_ || form_.Focused() == &peer.Model()) return;
   moving_ = true;
   const bool taken = form_.MoveFocus(&peer.Model());
@@ -28,7 +28,7 @@ void FocusKeeper::Arrived(NativeControl& peer) {
 
 void FocusKeeper::Refuse(NativeControl& peer) {
   refused_ = &peer;
-  // A button that was pressed down in the same stroke must not click when it is let go.
+  // If the same click pressed a button down, its release must not click it.
   if (GetCapture() == peer.Window()) ReleaseCapture();
   PostMessageA(main_, kRefusalSettledMessage, 0, 0);
 }
@@ -41,8 +41,8 @@ bool FocusKeeper::TakeRefusal(const NativeControl& peer) {
 
 void FocusKeeper::RefusalSettled() {
   if (refused_ == nullptr) return;
-  // A button draws itself pressed after it took the focus; without its capture nothing else would raise it
-  // again. Only a button: to other classes the same number is another message.
+  // A button draws itself pressed after it got the focus. It no longer has the capture, so nothing else would
+  // raise it again. Only for buttons: in other window classes the same message number means something else.
   if (IsButton(refused_->Model())) SendMessageA(refused_->Window(), BM_SETSTATE, FALSE, 0);
   refused_ = nullptr;
 }
@@ -54,7 +54,7 @@ void FocusKeeper::FollowModel() {
   if (peer != nullptr) Give(*peer);
 }
 
-/// In a window that is not active the focus stays where it is; it is handed out when the window is activated.
+/// Does nothing in an inactive window; ArrivedAtMain sets the focus when the window is activated.
 void FocusKeeper::Give(NativeControl& peer) const {
   if (GetActiveWindow() == main_ && peer.Usable() && !peer.OwnsNativeFocus()) SetFocus(peer.Window());
 }

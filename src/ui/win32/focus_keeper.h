@@ -1,5 +1,5 @@
-// Keeps the native keyboard focus and the model's focus on the same control. The model decides: a control
-// that is left may keep the focus, and then the native focus goes back to it.
+// Keeps the native keyboard focus and the model's focus on the same control. The model decides: a control may
+// refuse to lose the focus, and then the native focus goes back to it.
 #pragma once
 
 #include <windows.h>
@@ -13,28 +13,29 @@ class PeerTable;
 
 class FocusKeeper {
  public:
-  /// Sent to the main window after a refusal, when the input that caused it has been handled. Above the
-  /// numbers that dialogs use themselves.
+  /// Posted to the main window after a refusal; arrives when the input that caused it has been handled. Above
+  /// the message numbers that dialogs use.
   static constexpr UINT kRefusalSettledMessage = WM_USER + 0x101;
 
   FocusKeeper(Form& form, PeerTable& peers) : form_(form), peers_(peers) {}
 
   void SetMainWindow(HWND main) { main_ = main; }
 
-  /// The native focus came to a control by the user's hand or by the system.
+  /// The user or Windows moved the native focus to a control.
   void Arrived(NativeControl& peer);
   /// The model's focus moved, or was confirmed where it was.
   void FollowModel();
-  /// A control that has the native focus is about to be disabled or hidden: the main window holds the
-  /// keyboard for it meanwhile.
+  /// A control with the native focus is about to be disabled or hidden. The main window holds the keyboard
+  /// for it.
   void Leaving(NativeControl& peer);
-  /// A control was enabled or shown: takes the keyboard back if the main window still holds it for it.
+  /// A control was enabled or shown. Gives it the keyboard back if the main window still holds it for this
+  /// control.
   void Returned(NativeControl& peer);
-  /// The main window itself got the native focus, as after an activation: hands it on to the control that
+  /// The main window itself got the native focus, for example on activation. Passes it to the control that
   /// should have it.
   void ArrivedAtMain();
 
-  /// True once for the click that comes with a focus move that was refused: the click is void, too.
+  /// Returns true once for the click that came with a refused focus move. The caller must ignore that click.
   [[nodiscard]] bool TakeRefusal(const NativeControl& peer);
   void RefusalSettled();
 

@@ -14,7 +14,7 @@ SIZE FrameRound(const Form& form, const DialogFont& font, FormSize inner) {
   return {outer.right - outer.left, outer.bottom - outer.top};
 }
 
-/// The system's record of a placement counts from the upper left corner of the work area, as the form does.
+/// WINDOWPLACEMENT counts from the upper left corner of the work area, as the form does.
 void FormBounds::Apply() const {
   if (!form_.IsResizable() || !form_.Bounds().has_value()) return;
   const WindowBounds& bounds = *form_.Bounds();
@@ -39,7 +39,7 @@ void FormBounds::Moved() const {
                    .height = static_cast<int>(normal.bottom - normal.top)});
 }
 
-/// A minimised window has no inner size.
+/// Ignores a minimised window, which has no inner size.
 void FormBounds::Resized(LPARAM inner_size) const {
   if (form_.IsResizable() && IsIconic(main_) == 0) {
     form_.UserResized(font_.Units(LOWORD(inner_size), HIWORD(inner_size)));

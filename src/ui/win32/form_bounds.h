@@ -1,4 +1,4 @@
-// The frame and the size of a form's window: copies between the window and the form.
+// The frame and the size of a form's window. Copies between the window and the form.
 #pragma once
 
 #include <windows.h>
@@ -8,23 +8,23 @@
 
 namespace qdix::ui::win32 {
 
-/// The application window owns the main window; without this style the taskbar would show neither.
+/// The application window owns the main window. Without this style the taskbar would show neither.
 inline constexpr DWORD kMainExtendedStyle = WS_EX_APPWINDOW;
 
 [[nodiscard]] DWORD MainStyleOf(const Form& form);
 
-/// The size in pixels of the form's window, frame included, round an inner size in dialog units.
+/// Returns the size in pixels of the form's window, frame included, for an inner size in dialog units.
 [[nodiscard]] SIZE FrameRound(const Form& form, const DialogFont& font, FormSize inner);
 
-/// Nothing here has an effect on a form whose size the user cannot change.
+/// Has no effect on a form whose size the user cannot change.
 class FormBounds {
  public:
   /// All three must outlive this object.
   FormBounds(HWND main, Form& form, const DialogFont& font) : main_(main), form_(form), font_(font) {}
 
-  /// Places the window as the form says, without showing it.
+  /// Places the window where the form says, without showing it.
   void Apply() const;
-  /// WM_WINDOWPOSCHANGED, WM_SIZE with its second word, and WM_GETMINMAXINFO came.
+  /// Handlers of WM_WINDOWPOSCHANGED, WM_SIZE (`inner_size` is its lParam) and WM_GETMINMAXINFO.
   void Moved() const;
   void Resized(LPARAM inner_size) const;
   void Limit(MINMAXINFO& limits) const;

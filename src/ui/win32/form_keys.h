@@ -1,5 +1,4 @@
-// Keys that belong to the whole form: the switching of tabs, Enter for the default button, Esc for the cancel
-// button.
+// Keys of the whole form: switching tabs, Enter for the default button, Esc for the cancel button.
 #pragma once
 
 #include <windows.h>
@@ -14,14 +13,15 @@ class FormKeys {
  public:
   explicit FormKeys(Form& form) : form_(form) {}
 
-  /// Ctrl+Tab, Ctrl+Page Down: next tab; with Shift, or Ctrl+Page Up: the one before.
+  /// True for Ctrl+Tab and Ctrl+Page Down (next tab), Ctrl+Shift+Tab and Ctrl+Page Up (previous tab).
   [[nodiscard]] static bool IsTabSwitch(WPARAM key);
   void SwitchTab(WPARAM key);
-  /// What a control adds to its answer to WM_GETDLGCODE, so that these keys come to it and are not taken for
-  /// a plain Tab. `message` as the dialog manager passes it: the address of the key message, or 0.
+  /// Returns what a control adds to its answer to WM_GETDLGCODE to receive these keys; otherwise the dialog
+  /// manager takes them for a plain Tab. `message` is the address of the key message, as the dialog manager
+  /// passes it, or 0.
   [[nodiscard]] static LRESULT DialogCode(LPARAM message);
 
-  /// The first button of this role that a hand can reach, or null.
+  /// Returns the first reachable button of this role, or null.
   [[nodiscard]] Button* ReachableButton(ButtonRole role) const;
 
  private:

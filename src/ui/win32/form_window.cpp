@@ -11,18 +11,17 @@ namespace qdix::ui::win32 {
 
 namespace {
 
-/// Posted by an activation, which must not be changed while it is under way. Above the numbers that dialogs
-/// use themselves.
+/// Posted on activation, because the window must not be changed during an activation. Above the message
+/// numbers that dialogs use.
 constexpr UINT kActivatedMinimisedMessage = WM_USER + 0x102;
 
 HICON LoadMainIcon(HINSTANCE instance, int icon_id) {
   HICON const own = LoadIconA(instance, MAKEINTRESOURCEA(icon_id));
-  return own != nullptr ? own
-                        : LoadIconA(nullptr, MAKEINTRESOURCEA(32512));  // the system's plain program icon
+  return own != nullptr ? own : LoadIconA(nullptr, MAKEINTRESOURCEA(32512));  // the standard application icon
 }
 
-/// Not shared: of shared icons Windows 95 hands out the first one of a name, whatever its size. Null where
-/// there is no such resource.
+/// Not LR_SHARED: Windows 95 returns the first shared icon of a name, whatever its size. Null if there is no
+/// such resource.
 OwnedIcon LoadSmallIcon(HINSTANCE instance, int icon_id) {
   return OwnedIcon(static_cast<HICON>(LoadImageA(instance, MAKEINTRESOURCEA(icon_id), IMAGE_ICON,
                                                  GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON),
@@ -59,12 +58,12 @@ void ShowMinimised(HWND window, bool restores_to_maximised) {
   WINDOWPLACEMENT placement{};
   placement.length = sizeof placement;
   GetWindowPlacement(window, &placement);
-  placement.showCmd = SW_SHOWMINIMIZED;  // the only command with which the flag counts
+  placement.showCmd = SW_SHOWMINIMIZED;  // the flag has an effect only with this command
   placement.flags = WPF_RESTORETOMAXIMIZED;
   SetWindowPlacement(window, &placement);
 }
 
-/// Buttons of the mouse and modifier keys in the bits of the classic event.
+/// Mouse buttons and modifier keys, as the bits that OnMouseMove receives.
 int ButtonBits(WPARAM buttons) {
   return ((buttons & MK_LBUTTON) != 0 ? 1 : 0) | ((buttons & MK_RBUTTON) != 0 ? 2 : 0) |
          ((buttons & MK_MBUTTON) != 0 ? 4 : 0);
@@ -160,7 +159,7 @@ void FormWindow::ShowOrHide() {
   SetForegroundWindow(main_.get());
 }
 
-/// A hidden window takes its state when it is shown.
+/// Ignores a hidden window: it takes its state when it is shown.
 void FormWindow::TakeWindowState() {
   if (!form_.Shown()) return;
   if (form_.State() == WindowState::kMinimised) {
@@ -172,7 +171,7 @@ void FormWindow::TakeWindowState() {
 }
 
 void FormWindow::PopUp(MenuItem& menu) {
-  if (menu_is_open_) return;  // the system shows one menu at a time
+  if (menu_is_open_) return;  // Windows shows one menu at a time
   menu_is_open_ = true;
   MenuItem* chosen = nullptr;
   {
@@ -183,13 +182,13 @@ void FormWindow::PopUp(MenuItem& menu) {
   if (chosen != nullptr) chosen->Choose();
 }
 
-/// The windows themselves go later, with this object: a native control may be in the middle of its own work
-/// below us on the stack.
+/// Only hides the window. This object destroys the windows later: a native control may be in the middle of
+/// its own work further up the call stack.
 void FormWindow::FormUnloaded() {
   ShowWindow(main_.get(), SW_HIDE);
   if (OnUnloaded) OnUnloaded();
-  SendMessageA(main_.get(), WM_CANCELMODE, 0, 0);  // closes an open menu; Windows 95 has no call for it
-  PostMessageA(main_.get(), WM_NULL, 0, 0);        // wakes a message loop that waits
+  SendMessageA(main_.get(), WM_CANCELMODE, 0, 0);  // closes an open menu; Windows 95 has no EndMenu
+  PostMessageA(main_.get(), WM_NULL, 0, 0);        // wakes a waiting message loop
 }
 
 LRESULT FormWindow::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -214,7 +213,7 @@ std::optional<LRESULT> FormWindow::HandleKeyboard(UINT message, WPARAM wparam, L
     case DM_GETDEFID:
       return DefaultButtonNumber();
     case DM_SETDEFID:
-      return 1;  // buttons show by themselves which of them Enter presses
+      return 1;  // each button peer draws the default border itself
     case WM_NEXTDLGCTL:
       MoveDialogFocus(wparam, LOWORD(lparam) != 0);
       return 0;
@@ -281,14 +280,15 @@ std::optional<LRESULT> FormWindow::HandleLife(UINT message, WPARAM wparam, LPARA
   }
 }
 
-/// Another copy of the program finds the main window as the one directly before the application window.
+/// Another copy of the program expects the main window directly before the application window in the Z order.
 void FormWindow::KeepApplicationWindowBehind() const {
   if (GetWindow(application_window_.get(), GW_HWNDPREV) == main_.get()) return;
   SetWindowPos(application_window_.get(), main_.get(), 0, 0, 0, 0,
                SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_NOSENDCHANGING);
 }
 
-/// A hidden window may be in another state than the form, whose state it takes when it is shown.
+/// Ignores the state of a hidden window: it may differ from the form's, which the window takes when it is
+/// shown.
 void FormWindow::FollowWindow() {
   const bool shown = IsWindowVisible(main_.get()) != 0;
   if (shown) {
@@ -298,7 +298,7 @@ void FormWindow::FollowWindow() {
   form_.UserChangedVisible(shown);
 }
 
-/// Also the call back of an icon in the notification area, whose position carries a number and not a place.
+/// Also receives the callback of the tray icon, whose lParam carries a number instead of a position.
 void FormWindow::PointerMoved(WPARAM buttons, LPARAM point) {
   const auto x_px = static_cast<short>(LOWORD(point));
   const auto y_px = static_cast<short>(HIWORD(point));
@@ -335,20 +335,20 @@ void FormWindow::PressCancelButton() {
   }
 }
 
-/// Enter arrives here where no default button takes it.
+/// Enter arrives here if no default button takes it.
 void FormWindow::PressEnterInControl() {
   Control* const focused = form_.Focused();
   if (focused != nullptr) focused->PressEnter();
 }
 
-/// The dialog manager's request to move the keyboard: to a window, or to the next (or, with a target other
-/// than 0, the previous) control.
+/// The dialog manager asks to move the focus: to a window, to the next control (`target` is 0) or to the
+/// previous one.
 void FormWindow::MoveDialogFocus(WPARAM target, bool target_is_window) const {
   HWND const next = target_is_window ? reinterpret_cast<HWND>(target)
                                      : GetNextDlgTabItem(main_.get(), GetFocus(), target != 0 ? TRUE : FALSE);
   if (next == nullptr) return;
   SetFocus(next);
-  // As in every dialog: what is typed into a field that was gone to replaces what it holds.
+  // As in every dialog, moving to a text field selects its text, so typing replaces it.
   if ((SendMessageA(next, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0) SendMessageA(next, EM_SETSEL, 0, -1);
 }
 

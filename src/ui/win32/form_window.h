@@ -1,6 +1,6 @@
-// The windows of the program: the hidden application window, the main window that it owns, and the controls
-// on it. Both main windows exist, hidden, from the construction on; the controls of a tab page come when the
-// page is first seen (PeerMaker).
+// The windows of the program: the hidden application window, the main window that it owns, and the controls.
+// The constructor makes both windows, hidden. The controls of a tab page are made when the page is first
+// shown (PeerMaker).
 #pragma once
 
 #include <optional>
@@ -26,41 +26,42 @@ namespace qdix::ui::win32 {
 
 class FormWindow final : private FormPeer, private ControlPeer, private MessageHandler {
  public:
-  /// The icon of the main window is that of the resource `icon_id`, or the system's where there is none.
-  /// Application, form and timers must outlive this object. The place of the form gives its inner size; the
-  /// window stands in the middle of the screen. `make_peer` knows every kind of control that the form has.
+  /// `icon_id` is the resource of the main window's icon; without that resource the window has the standard
+  /// icon. Application, form and timers must outlive this object. The form's place gives the inner size; the
+  /// window is centred in the work area. `make_peer` must know every kind of control on the form.
   FormWindow(HINSTANCE instance, int icon_id, Application& application, Form& form,
              std::span<Timer* const> timers, PeerFactory make_peer);
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
   ~FormWindow() override;
 
-  /// False where the system could not make one of the windows that are needed now: the program cannot run.
+  /// False if Windows could not make one of the windows that are needed now. The program cannot run then.
   [[nodiscard]] bool Complete() const;
 
   [[nodiscard]] HWND MainWindow() const { return main_.get(); }
   [[nodiscard]] HWND ApplicationWindow() const { return application_window_.get(); }
-  /// The icon in the size of captions and of the notification area, for as long as this object lives.
+  /// Icon in the size for captions and the notification area. Valid as long as this object lives.
   [[nodiscard]] HICON SmallIcon() const { return small_icon_ != nullptr ? small_icon_.get() : icon_; }
 
-  /// How whoever started the program wants the window shown (SW_...): minimised or, where its size can be
-  /// changed, maximised. The first Show takes it, unless the form is to be minimised anyway. The system
-  /// itself follows such a wish only for windows without an owner.
+  /// Sets how the caller wants the window shown (SW_...): minimised or, if its size can be changed,
+  /// maximised. Applies to the first Show; a form that is minimised stays minimised. Needed because Windows
+  /// applies the caller's show command only to windows without an owner.
   void SetStartCommand(int show_command) { start_command_ = show_command; }
 
-  /// The form has unloaded: open boxes and the message loop must end. No handler runs any more.
+  /// The form has unloaded: open message boxes and the message loop must end. No handler runs any more.
   base::Callback<void()> OnUnloaded;
-  /// The Windows session ends now; unbound, the form unloads.
+  /// The Windows session ends now. If unbound, the form unloads.
   base::Callback<void()> OnSessionEnding;
-  /// The Windows session is about to end: false keeps it going. Unbound, the session may end.
+  /// The Windows session is about to end. Returning false keeps it going. If unbound, the session may end.
   base::Callback<bool()> OnQueryEndSession;
-  /// The window was activated while it is minimised, which does not restore it. Told the thread that was
-  /// active before; 0 if there was none, and always by systems that look only among the own windows.
+  /// The window was activated while minimised, which does not restore it. Receives the thread that was active
+  /// before; 0 if there was none, and always 0 on versions of Windows that check only the program's own
+  /// windows.
   base::Callback<void(std::uint32_t)> OnActivatedMinimised;
-  /// The taskbar was started anew and has lost the icons in its notification area.
+  /// The taskbar was restarted and has lost the icons in its notification area.
   base::Callback<void()> OnTaskbarCreated;
-  /// Files were dropped on the window, which somebody made ready for it. The word is their HDROP, which the
-  /// receiver frees.
+  /// Files were dropped on the window after it was set up to accept them. Receives their HDROP, which the
+  /// receiver must free.
   base::Callback<void(WPARAM)> OnFilesDropped;
 
  private:
@@ -73,7 +74,7 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
 
   void ShowOrHide();
   void TakeWindowState();
-  /// Whoever showed, hid, minimised or restored the window, another program perhaps: the form follows.
+  /// Another program may have shown, hidden, minimised or restored the window: updates the form.
   void FollowWindow();
   void PointerMoved(WPARAM buttons, LPARAM point);
   void EndSession();
@@ -86,7 +87,8 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   std::optional<LRESULT> HandleKeyboard(UINT message, WPARAM wparam, LPARAM lparam);
   std::optional<LRESULT> HandleLife(UINT message, WPARAM wparam, LPARAM lparam);
 
-  /// Makes the classes of tabs, sliders and tool tips known; before the first of their windows.
+  /// Registers the window classes of tabs, sliders and tool tips. Must run before the first such window is
+  /// made.
   struct CommonControls {
     CommonControls();
   };
@@ -100,8 +102,8 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
   int start_command_ = SW_SHOWDEFAULT;
   bool menu_is_open_ = false;
 
-  // In the order in which they are made; they go in the opposite order, controls before the window they stand
-  // on, windows before their class and font.
+  // In order of construction. Destroyed in reverse: controls before their window, windows before their class
+  // and font.
   WindowClass application_class_;
   WindowClass main_class_;
   WindowClass page_class_;

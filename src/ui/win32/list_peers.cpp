@@ -10,7 +10,7 @@ namespace qdix::ui::win32 {
 
 namespace {
 
-/// The messages of a list box and of a combo box that mean the same.
+/// The equivalent messages of a list box and a combo box.
 struct ListMessages {
   UINT count;
   UINT clear;
@@ -25,7 +25,7 @@ int SelectedRow(HWND window, const ListMessages& messages) {
   return static_cast<int>(SendMessageA(window, messages.selected, 0, 0));
 }
 
-/// Rows are only ever added at the end or cleared all at once.
+/// Appends the new rows. Models only add rows at the end or clear all of them.
 void CopyRows(HWND window, const ListMessages& messages, const ListControl& list) {
   int count = static_cast<int>(SendMessageA(window, messages.count, 0, 0));
   if (count > list.Count()) {
@@ -37,13 +37,13 @@ void CopyRows(HWND window, const ListMessages& messages, const ListControl& list
   }
 }
 
-/// The selection index -1 deselects.
+/// The index -1 deselects.
 void CopySelection(HWND window, const ListMessages& messages, const ListControl& list) {
   if (SelectedRow(window, messages) == list.SelectedIndex()) return;
   SendMessageA(window, messages.select, static_cast<WPARAM>(list.SelectedIndex()), 0);
 }
 
-/// What a list box leaves free before and after the text of a row.
+/// Space that a list box leaves before and after the text of a row.
 constexpr int kRowMarginsPx = 4;
 
 std::optional<RowKey> RowKeyOf(UINT message, WPARAM key) {
@@ -98,7 +98,7 @@ void ListBoxPeer::FitWidth() {
   if (list_.Count() < measured_rows_) {
     measured_rows_ = 0;
     widest_row_px_ = 0;
-    Send(WM_HSCROLL, SB_LEFT);  // rows that fit again would stay shifted
+    Send(WM_HSCROLL, SB_LEFT);  // otherwise rows that fit again would stay scrolled sideways
   }
   for (; measured_rows_ < list_.Count(); ++measured_rows_) {
     const int width_px = Context().font.TextWidthPixels(list_.Item(measured_rows_)) + kRowMarginsPx;
@@ -120,11 +120,11 @@ DropDownPeer::DropDownPeer(const PeerContext& context, ListControl& model, HWND 
 
 void DropDownPeer::OnCommand(UINT code) {
   switch (code) {
-    case CBN_SETFOCUS:  // also where the keyboard is in the edit field inside
+    case CBN_SETFOCUS:  // also sent when the edit field inside gets the keyboard
       Context().focus.Arrived(*this);
       break;
     case CBN_SELCHANGE:
-      // While the list is open the user is still looking; the choice is made when it closes.
+      // While the list is open the user is still looking; the choice counts when it closes.
       if (Send(CB_GETDROPPEDSTATE) == 0) TakeSelection();
       break;
     case CBN_SELENDOK:
@@ -163,8 +163,8 @@ void DropDownComboPeer::OnCommand(UINT code) {
   DropDownPeer::OnCommand(code);
 }
 
-/// Text first set is text not touched while the user types; the selection of the list below must not write
-/// over it.
+/// Updates the list's selection first, because that may overwrite the edit field. Leaves equal text alone, so
+/// the caret of a typing user does not move.
 void DropDownComboPeer::ValueChanged() {
   if (combo_.SelectedText() == combo_.Text()) DropDownPeer::ValueChanged();
   if (TextOfWindow(Window()) != combo_.Text()) SetWindowTextA(Window(), combo_.Text().c_str());

@@ -16,9 +16,9 @@ class ListBoxPeer final : public NativeControl {
   void ValueChanged() override;
   void ItemsChanged() override;
   void CaptionChanged() override {}
-  /// The row under a point of the window, or no selection below the last row.
+  /// Returns the row under a point of the window, or kNoSelection below the last row.
   [[nodiscard]] int RowAt(LPARAM point) const;
-  /// Lets the user scroll sideways as far as the longest row goes.
+  /// Sets the horizontal scroll range to the width of the longest row.
   void FitWidth();
 
   ListBox& list_;
@@ -26,7 +26,7 @@ class ListBoxPeer final : public NativeControl {
   int widest_row_px_ = 0;
 };
 
-/// Both kinds of drop-down. The height of its place is that of the opened list.
+/// Base of both kinds of drop-down. The height of the model's place is the height of the open list.
 class DropDownPeer : public NativeControl {
  public:
   void OnCommand(UINT code) override;

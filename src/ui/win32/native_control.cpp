@@ -10,8 +10,8 @@ namespace qdix::ui::win32 {
 
 namespace {
 
-/// A tab page is a window of its own that hides what stands on it; a frame is not, so what stands in a hidden
-/// frame hides by itself.
+/// A tab page has a window of its own, which hides the controls on it. The controls in a frame are not
+/// children of the frame's window and must be hidden one by one.
 bool ShouldShow(const Control& model) {
   if (model.GetKind() == Kind::kTabPage && !static_cast<const TabPage&>(model).Open()) return false;
   if (!model.Visible()) return false;
@@ -22,7 +22,7 @@ bool ShouldShow(const Control& model) {
   return true;
 }
 
-/// Shown and enabled from the beginning, or not: each later change is a message to the window.
+/// Creates the window with its visible and enabled state: changing it later costs a message each.
 HWND MakeWindow(const PeerContext& context, const Control& model, HWND parent, int number,
                 const NativeDesign& design) {
   const DWORD state =

@@ -1,5 +1,5 @@
-// The base of all peers: one native window that mirrors one control model. A peer copies between the two; no
-// rule lives in it.
+// The base of all peers: one native window that mirrors one control model. A peer copies between the two and
+// contains no rules.
 #pragma once
 
 #include <string>
@@ -17,7 +17,7 @@ class PeerMaker;
 class PeerTable;
 class ToolTips;
 
-/// What the peers of one form share. Outlives them.
+/// What the peers of one form share. Must outlive them.
 struct PeerContext {
   HINSTANCE instance;
   const DialogFont& font;
@@ -28,7 +28,7 @@ struct PeerContext {
   const PeerMaker& maker;
 };
 
-/// How the native window of a control is made.
+/// How to make the native window of a control.
 struct NativeDesign {
   const char* window_class = nullptr;
   std::string text{};
@@ -43,33 +43,34 @@ class NativeControl : public ControlPeer, private MessageHandler {
   NativeControl& operator=(const NativeControl&) = delete;
   ~NativeControl() override;
 
-  /// Null when the system could not make the window.
+  /// Null if Windows could not make the window.
   [[nodiscard]] HWND Window() const { return window_; }
   [[nodiscard]] Control& Model() const { return model_; }
-  /// The native keyboard focus is on the window or inside it.
+  /// True if the native keyboard focus is on the window or inside it.
   [[nodiscard]] bool OwnsNativeFocus() const;
-  /// The window can take the keyboard now.
+  /// True if the window can take the keyboard now.
   [[nodiscard]] bool Usable() const;
 
-  /// What the native window tells its parent: a WM_COMMAND code, a WM_NOTIFY code, a scroll code.
+  /// Notifications of the native window: a WM_COMMAND code, a WM_NOTIFY code, a scroll code.
   virtual void OnCommand(UINT /*code*/) {}
   virtual void OnNotify(UINT /*code*/) {}
   virtual void OnScroll(UINT /*code*/) {}
-  /// The window is to be drawn by its owner.
+  /// Draws an owner-drawn window.
   virtual void OnDrawItem(const DRAWITEMSTRUCT& /*item*/) {}
-  /// Colours for a WM_CTLCOLOR... message; null leaves them to the system.
+  /// Sets the colours for a WM_CTLCOLOR... message and returns the background brush. Null leaves the colours
+  /// to Windows.
   virtual HBRUSH Paint(UINT message, HDC device);
 
-  /// Brings visibility or the enabled look in line with the model and all containers above it.
+  /// Shows or enables the window according to the model and all containers above it.
   void RefreshVisible();
   void RefreshEnabled();
 
   void ControlChanged(Control& control, Change change) override;
 
  protected:
-  /// Makes the window on `parent` with the caption of the design, in the dialog font, shown and enabled as
-  /// the model says. A peer may be made at any time of its model's life: its constructor copies all of the
-  /// model that the window shows.
+  /// Makes the window on `parent` with the text and style of the design, in the dialog font, shown and
+  /// enabled as the model says. A peer may be made at any time in its model's life, so each peer's
+  /// constructor copies everything that the window shows.
   NativeControl(const PeerContext& context, Control& model, HWND parent, int number,
                 const NativeDesign& design);
 
@@ -78,10 +79,10 @@ class NativeControl : public ControlPeer, private MessageHandler {
   LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   LRESULT Default(UINT message, WPARAM wparam, LPARAM lparam);
 
-  /// False for what the keyboard only passes by, as when the dialog manager goes from a label to its
+  /// False for a control that the focus only passes, as when the dialog manager goes from a label to its
   /// neighbour.
   [[nodiscard]] virtual bool TakesKeyboard() const { return true; }
-  /// The text that the window carries for the model's caption.
+  /// Returns the window text for the model's caption.
   [[nodiscard]] std::string NativeCaption() const;
   virtual void ValueChanged() {}
   virtual void ItemsChanged() {}

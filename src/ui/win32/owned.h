@@ -1,4 +1,4 @@
-// Handles of the system that close themselves: one object makes and unmakes each.
+// Owners of Windows handles. Each releases its handle when it is destroyed.
 #pragma once
 
 #include <windows.h>
@@ -13,7 +13,7 @@ struct DeleteGdiObject {
   void operator()(Handle object) const { DeleteObject(object); }
 };
 
-/// A font, brush or bitmap. Must not be selected into a device when it goes.
+/// A font, brush or bitmap. Must not be selected into a device when it is destroyed.
 template <class Handle>
 using OwnedGdiObject = std::unique_ptr<void, DeleteGdiObject<Handle>>;
 
@@ -41,10 +41,10 @@ struct CloseWindowOfOurs {
   using pointer = HWND;
   void operator()(HWND window) const { DestroyWindow(window); }
 };
-/// A top-level window with everything that stands in it.
+/// A top-level window with everything in it.
 using OwnedWindow = std::unique_ptr<void, CloseWindowOfOurs>;
 
-/// The device of the whole screen for as long as something is measured or made for it.
+/// The device context of the whole screen, held while something is measured or made for it.
 class ScreenDevice {
  public:
   ScreenDevice() : device_(GetDC(nullptr)) {}

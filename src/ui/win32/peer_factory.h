@@ -1,5 +1,5 @@
-// Makes the peer that mirrors a control. Each program has a factory of the kinds of control that it has,
-// since what no factory names does not get into the exe.
+// Makes the peer that mirrors a control. Each program has its own factory, which names only the kinds of
+// control that the program uses: the linker leaves the others out of the exe.
 #pragma once
 
 #include <memory>
@@ -8,19 +8,19 @@
 
 namespace qdix::ui::win32 {
 
-/// `parent` is the window that the control stands on: that of its tab page, or the main window. Null for a
-/// kind that the program does not have, and for a form, whose window is made by FormWindow.
+/// `parent` is the window that holds the control: its tab page or the main window. Returns null for a kind
+/// that the program does not have, and for a form, whose window FormWindow makes.
 using PeerFactory = std::unique_ptr<NativeControl> (*)(const PeerContext& context, Control& model,
                                                        HWND parent, int number);
 
-/// The peer of one kind; the model is one.
+/// Makes a peer of one kind. `model` must be a Model.
 template <class Peer, class Model>
 [[nodiscard]] std::unique_ptr<NativeControl> MakePeerOf(const PeerContext& context, Control& model,
                                                         HWND parent, int number) {
   return std::make_unique<Peer>(context, static_cast<Model&>(model), parent, number);
 }
 
-/// The factory of all kinds that more than one program has.
+/// The factory of all kinds that more than one program uses.
 [[nodiscard]] std::unique_ptr<NativeControl> MakePeer(const PeerContext& context, Control& model, HWND parent,
                                                       int number);
 

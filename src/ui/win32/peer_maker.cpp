@@ -7,7 +7,7 @@ namespace qdix::ui::win32 {
 
 namespace {
 
-/// The page that a control stands on, or null.
+/// Returns the page that a control is on, or null.
 const TabPage* PageOf(const Control& control) {
   for (const Control* above = control.Parent(); above != nullptr; above = above->Parent()) {
     if (above->GetKind() == Kind::kTabPage) return static_cast<const TabPage*>(above);
@@ -28,7 +28,7 @@ bool HoldsDrawing(const Container& container) {
 /// One walk over all controls.
 struct PeerMaker::DueWindows {
   const PeerMaker& maker;
-  /// Where the latest window was made, or null.
+  /// The page on which the latest window was made, or null.
   const TabPage* made_on = nullptr;
   bool any_missing = false;
 
@@ -37,8 +37,8 @@ struct PeerMaker::DueWindows {
     if (peer == nullptr) {
       if (maker.IsDue(control) && maker.Make(control, number)) made_on = PageOf(control);
     } else if (made_on != nullptr && PageOf(control) == made_on) {
-      // A new window is the last of its page. Those of an earlier attempt go behind it: the keyboard walks
-      // them in the order of the screen.
+      // A new window is the last on its page. Move the windows from an earlier attempt behind it: the Tab key
+      // follows this order, which must match the order on the screen.
       SetWindowPos(peer->Window(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
   }
@@ -59,7 +59,7 @@ bool PeerMaker::Complete() const {
   return !walk.any_missing;
 }
 
-/// Another program can show the window without the form's knowledge.
+/// Also checks the native window, because another program can show it without the form's knowledge.
 bool PeerMaker::IsDue(const Control& control) const {
   const TabPage* const page = PageOf(control);
   if (page == nullptr) return true;

@@ -1,6 +1,6 @@
-// Makes the windows of a form's controls when they are needed: those of a tab page when the page is to be
-// seen for the first time, all others at once. On Windows 95, 98 and ME the windows of all programs share
-// 64 KB, so what nobody looks at should not be there.
+// Makes the windows of a form's controls when they are needed: those on a tab page when the page is first
+// shown, all others at once. On Windows 95, 98 and ME the windows of all programs share 64 KB, so windows
+// that nobody looks at are not made.
 #pragma once
 
 #include "ui/form.h"
@@ -11,16 +11,17 @@ namespace qdix::ui::win32 {
 
 class PeerMaker {
  public:
-  /// Form, window and context must outlive this object; the context may be put together after it.
+  /// Form, window and context must outlive this object. The context may be constructed after it.
   PeerMaker(Form& form, HWND main, PeerFactory make_peer, const PeerContext& context)
       : form_(form), main_(main), make_peer_(make_peer), context_(context) {}
 
-  /// Makes what is due and is not there yet: what stands on no page, on a page with a drawing (whose picture
-  /// lives in its window), or on the open page of a form that is shown. A peer takes all it shows from its
-  /// model, so it may come late. What the system cannot make is left out, and tried again the next time.
+  /// Makes the windows that are needed now and do not exist yet: controls on no page, on a page with a
+  /// drawing (whose picture lives in its window), or on the open page of a shown form. A peer copies
+  /// everything it shows from its model, so it may be made late. Leaves out a window that Windows cannot make
+  /// and tries again next time.
   void MakeDue() const;
 
-  /// All that is due is there.
+  /// True if every window that is needed now exists.
   [[nodiscard]] bool Complete() const;
 
  private:

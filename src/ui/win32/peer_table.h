@@ -1,4 +1,4 @@
-// The peers of a form by number, by window and by model. Owns them.
+// Owns the peers of a form and finds them by number, window or model.
 #pragma once
 
 #include <windows.h>
@@ -12,16 +12,16 @@ namespace qdix::ui::win32 {
 
 class PeerTable {
  public:
-  /// The number is that of its control, which has no peer yet.
+  /// Adds the peer of the control with this number, which must have none yet.
   void Put(int number, std::unique_ptr<NativeControl> peer);
 
-  /// Each is null where there is no such peer: windows of other programs and inner windows of controls have
-  /// none, and what stands on a page that was never open has none yet.
+  /// Each returns null if there is no such peer. Windows of other programs and inner windows of controls have
+  /// none; controls on a page that was never open have none yet.
   [[nodiscard]] NativeControl* ByNumber(int number) const;
   [[nodiscard]] NativeControl* ByWindow(HWND window) const;
   [[nodiscard]] NativeControl* ByModel(const Control& model) const;
 
-  /// By number; null for what has no peer yet.
+  /// Indexed from kFirstControlNumber; null for a control that has no peer yet.
   [[nodiscard]] const std::vector<std::unique_ptr<NativeControl>>& All() const { return peers_; }
 
  private:

@@ -6,7 +6,7 @@ namespace {
 
 constexpr int kIconPx = 16;
 constexpr int kGapPx = 4;
-/// From the edge of a button to the dotted line of the keyboard.
+/// From the edge of the button to the focus rectangle.
 constexpr int kFocusInsetPx = 4;
 
 HICON LoadSmallIcon(HINSTANCE instance, int number) {
@@ -21,7 +21,7 @@ PictureButtonPeer::PictureButtonPeer(const PeerContext& context, Button& model, 
       icon_(LoadSmallIcon(context.instance, model.PictureId())),
       is_default_(model.Role() == ButtonRole::kDefault) {}
 
-/// Another style would take the drawing away.
+/// Leaves the window style alone: another style would end the owner drawing.
 void PictureButtonPeer::ShowAsDefault(bool is_default) {
   is_default_ = is_default;
   InvalidateRect(Window(), nullptr, FALSE);

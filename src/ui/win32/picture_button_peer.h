@@ -1,5 +1,5 @@
-// The window of a button that shows a small icon before its caption, drawn here: the system's own buttons
-// show one or the other.
+// The window of a button that shows a small icon before its caption. Owner-drawn, because the native button
+// shows either an icon or a caption.
 #pragma once
 
 #include "ui/win32/simple_peers.h"
@@ -13,7 +13,7 @@ class PictureButtonPeer final : public ButtonPeer {
   void OnDrawItem(const DRAWITEMSTRUCT& item) override;
 
  private:
-  /// The icon, the gap and the caption, together in the middle of the button.
+  /// Draws the icon, the gap and the caption, centred together in the button.
   void DrawContent(HDC device, const RECT& face, bool is_disabled) const;
 
   HICON icon_;

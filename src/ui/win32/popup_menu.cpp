@@ -24,7 +24,7 @@ void PopUpMenu::Append(HMENU menu, MenuItem& entry) {
   if (!entry.Children().empty()) {
     OwnedMenu submenu = MakeLevel(entry);
     if (GetMenuItemCount(submenu.get()) <= 0) return;
-    // A submenu in its place belongs to the menu above it.
+    // The menu owns a submenu that was appended to it.
     if (AppendMenuA(menu, MF_POPUP | state, reinterpret_cast<UINT_PTR>(submenu.get()), caption.c_str()) !=
         0) {
       static_cast<void>(submenu.release());
@@ -39,8 +39,8 @@ void PopUpMenu::Append(HMENU menu, MenuItem& entry) {
 MenuItem* PopUpMenu::Track(HWND main) const {
   POINT pointer{};
   GetCursorPos(&pointer);
-  // A menu of a window in the background would not close when the user clicks elsewhere; the message
-  // afterwards lets the next one open.
+  // If its window were in the background, the menu would not close when the user clicks elsewhere. The
+  // message posted afterwards lets the next menu open.
   SetForegroundWindow(main);
   const auto command = static_cast<std::size_t>(
       TrackPopupMenu(menu_.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, pointer.x, pointer.y, 0, main, nullptr));

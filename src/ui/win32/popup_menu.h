@@ -1,4 +1,4 @@
-// A menu of the model as a native pop-up menu, made for one showing.
+// Shows a menu of the model as a native pop-up menu. Made for one showing.
 #pragma once
 
 #include <vector>
@@ -10,11 +10,11 @@ namespace qdix::ui::win32 {
 
 class PopUpMenu {
  public:
-  /// Hidden entries are left out; an empty submenu is left out with them.
+  /// Leaves out hidden entries and empty submenus.
   explicit PopUpMenu(const MenuItem& root);
 
-  /// Shows the menu at the pointer and returns the entry that the user chose, or null. `main` gets the
-  /// keyboard meanwhile.
+  /// Shows the menu at the pointer and returns the entry that the user chose, or null. `main` has the
+  /// keyboard while the menu is open.
   [[nodiscard]] MenuItem* Track(HWND main) const;
 
   [[nodiscard]] HMENU Handle() const { return menu_.get(); }

@@ -9,7 +9,7 @@ namespace qdix::ui::win32 {
 
 namespace {
 
-/// A slider of a longer range that does not move in steps gets a mark at each such part of it.
+/// Maximum number of tick marks on a slider without steps (roughly: the division rounds down).
 constexpr std::int64_t kMostMarks = 10;
 
 std::int64_t MarkDistance(const SliderRange& range) {
@@ -18,7 +18,7 @@ std::int64_t MarkDistance(const SliderRange& range) {
   return std::max<std::int64_t>(1, span / kMostMarks);
 }
 
-/// The distance of two values as far as the system can count it.
+/// Returns the distance between two values, clamped to an int.
 int Distance(std::int64_t from, std::int64_t to) {
   const std::int64_t distance = from < to ? to - from : from - to;
   return static_cast<int>(std::min<std::int64_t>(distance, std::numeric_limits<int>::max()));
@@ -64,7 +64,7 @@ void ScrollBarPeer::OnScroll(UINT code) {
   ValueChanged();  // the model may have kept its value
 }
 
-/// The position in the message has 16 bits; the bar itself knows all of it.
+/// The position in the message has only 16 bits, so asks the bar for it.
 void ScrollBarPeer::DragToThumb() {
   SCROLLINFO info{};
   info.cbSize = sizeof(info);
@@ -89,7 +89,7 @@ void ScrollBarPeer::RangeChanged() {
   info.fMask = SIF_RANGE;
   info.nMax = Distance(bar_.Minimum(), bar_.Maximum());
   SetScrollInfo(Window(), SB_CTL, &info, TRUE);
-  // A range gives the arrows the look of ones that can be pressed.
+  // Setting a range makes the arrows of a disabled bar look enabled.
   if (IsWindowEnabled(Window()) == 0) EnableScrollBar(Window(), SB_CTL, ESB_DISABLE_BOTH);
   ValueChanged();
 }
@@ -121,7 +121,8 @@ void SliderPeer::RangeChanged() {
   ValueChanged();
 }
 
-/// One by one, since the system counts the distance of its own marks in 16 bits. Both ends have one anyway.
+/// Sets the marks one by one, because the control counts the distance of its automatic marks in 16 bits. The
+/// control draws a mark at both ends itself.
 void SliderPeer::SetMarks() {
   const std::int64_t distance = MarkDistance(slider_.Range());
   Send(TBM_CLEARTICS, TRUE);

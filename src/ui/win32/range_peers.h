@@ -6,7 +6,8 @@
 
 namespace qdix::ui::win32 {
 
-/// The native bar counts from 0 at the top; the model's minimum is at the top, whichever way its range runs.
+/// The native bar counts from 0 at the top. The model's minimum is at the top, even if it is above the
+/// maximum.
 class ScrollBarPeer final : public NativeControl {
  public:
   ScrollBarPeer(const PeerContext& context, VerticalScrollBar& model, HWND parent, int number);

@@ -11,8 +11,8 @@ NativeControl* SenderOf(const PeerTable& peers, LPARAM lparam) {
 }
 
 std::optional<LRESULT> ReflectCommand(const PeerTable& peers, WPARAM wparam, LPARAM lparam) {
-  // The default button of an Enter key is named by its number alone, since it does not stand on the main
-  // window itself.
+  // For Enter, the dialog manager identifies the default button only by number, because the button is not a
+  // direct child of the main window.
   NativeControl* const peer = lparam == 0 ? peers.ByNumber(LOWORD(wparam)) : SenderOf(peers, lparam);
   if (peer == nullptr) return std::nullopt;
   peer->OnCommand(HIWORD(wparam));

@@ -1,4 +1,5 @@
-// Native controls report to the window they stand in; this hands each report to the peer it is about.
+// Native controls notify their parent window. This passes each notification to the peer of the control that
+// sent it.
 #pragma once
 
 #include <windows.h>
@@ -9,7 +10,7 @@ namespace qdix::ui::win32 {
 
 class PeerTable;
 
-/// The answer to a message that a peer dealt with, or nothing for every other message.
+/// Returns the answer to a message that a peer handled, or nothing for any other message.
 [[nodiscard]] std::optional<LRESULT> ReflectToPeer(const PeerTable& peers, UINT message, WPARAM wparam,
                                                    LPARAM lparam);
 

@@ -18,10 +18,10 @@ NativeDesign ButtonDesign(const PeerContext& context, const Control& model, DWOR
           .box = context.font.Pixels(model.GetPlace())};
 }
 
-/// A label with a tool tip has to see the pointer.
+/// A label with a tool tip must receive mouse messages.
 DWORD LabelStyle(const Label& model) { return SS_LEFT | (model.ToolTip().empty() ? 0UL : SS_NOTIFY); }
 
-/// What the arrow keys mean inside a group of options.
+/// The direction of an arrow key within a group of options; 0 for any other key.
 int DirectionOf(WPARAM key) {
   if (key == VK_DOWN || key == VK_RIGHT) return 1;
   if (key == VK_UP || key == VK_LEFT) return -1;
@@ -41,19 +41,20 @@ std::vector<OptionButton*> GroupOf(const OptionButton& option) {
 LabelPeer::LabelPeer(const PeerContext& context, Label& model, HWND parent, int number)
     : NativeControl(context, model, parent, number,
                     {.window_class = "STATIC",
-                     // An ampersand of the text is doubled even where there is no key: the search for the key
-                     // that was pressed would take "& " for a key on the space bar, whatever the style says.
+                     // Doubles every "&" even without an access key: whatever the style, the dialog manager's
+                     // search for an access key would take "& " for one on the space bar.
                      .text = MarkedCaption(model),
                      .style = LabelStyle(model),
                      .box = context.font.Pixels(model.GetPlace())}) {}
 
 FramePeer::FramePeer(const PeerContext& context, Frame& model, HWND parent, int number)
     : NativeControl(context, model, parent, number, ButtonDesign(context, model, BS_GROUPBOX | WS_GROUP)) {
-  // A group box leaves its inside to the window it stands on, which then must not paint round its controls.
+  // A group box does not paint its inside; the parent window must, so it must not clip its child windows.
   SetWindowLongA(parent, GWL_STYLE, GetWindowLongA(parent, GWL_STYLE) & ~static_cast<LONG>(WS_CLIPCHILDREN));
 }
 
-/// The windows of the contents are siblings of the frame's window, so that hiding it does not hide them.
+/// The windows of a frame's contents are siblings of the frame's window. Hiding that window does not hide
+/// them.
 void FramePeer::ControlChanged(Control& control, Change change) {
   NativeControl::ControlChanged(control, change);
   if (change != Change::kVisible) return;
@@ -68,7 +69,7 @@ PicturePeer::PicturePeer(const PeerContext& context, Picture& model, HWND parent
                     {.window_class = "STATIC",
                      .style = SS_ICON | (model.ToolTip().empty() ? 0UL : SS_NOTIFY),
                      .box = context.font.Pixels(model.GetPlace())}) {
-  // The system keeps icons of resources until the program ends.
+  // Windows keeps icons from resources until the program ends.
   HICON const icon = LoadIconA(context.instance, MAKEINTRESOURCEA(model.ResourceId()));
   if (icon != nullptr) Send(STM_SETICON, reinterpret_cast<WPARAM>(icon));
 }
@@ -89,7 +90,7 @@ void ButtonPeer::ShowAsDefault(bool is_default) {
   Send(BM_SETSTYLE, static_cast<WPARAM>(is_default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON), TRUE);
 }
 
-/// While a button has the keyboard, Enter presses that one and no other.
+/// While a button has the focus, Enter presses that button and no other.
 LRESULT ButtonPeer::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   if (message == WM_SETFOCUS) {
     ShowOtherDefault(false);
@@ -132,7 +133,7 @@ OptionButtonPeer::OptionButtonPeer(const PeerContext& context, OptionButton& mod
 }
 
 void OptionButtonPeer::OnCommand(UINT code) {
-  // The system calls the arrival of the focus a click as well. Moving the focus chooses nothing.
+  // Windows also reports a click when the button gets the focus. Moving the focus must not choose the option.
   if (code == BN_CLICKED && !taking_focus_ && !Context().focus.TakeRefusal(*this)) option_.Press();
 }
 

@@ -1,4 +1,4 @@
-// Windows of the controls with a caption: label, frame, button, check box, option button, picture.
+// Windows of the simple controls: label, frame, button, check box, option button, picture.
 #pragma once
 
 #include "ui/simple_controls.h"
@@ -37,7 +37,7 @@ class ButtonPeer : public NativeControl {
   ButtonPeer(const PeerContext& context, Button& model, HWND parent, int number);
   void OnCommand(UINT code) override;
 
-  /// The heavy border of the button that Enter presses.
+  /// Shows or removes the heavy border of the button that Enter presses.
   virtual void ShowAsDefault(bool is_default);
 
  protected:
@@ -69,10 +69,10 @@ class OptionButtonPeer final : public NativeControl {
  private:
   LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   void ValueChanged() override;
-  /// The Tab key stops at one option of a group: the selected one, or the first while none is selected.
+  /// The Tab key stops at one option of a group: the selected one, or the first if none is selected.
   void RefreshTabStop();
   void RefreshTabStopsOfGroup() const;
-  /// Chooses the next usable option of the group in this direction (1 or -1), round the ends.
+  /// Chooses the next usable option of the group in this direction (1 or -1), wrapping at the ends.
   void ChooseNeighbour(int direction);
 
   OptionButton& option_;

@@ -30,7 +30,8 @@ LRESULT CALLBACK Subclass::Procedure(HWND window, UINT message, WPARAM wparam, L
     hook->Remove();
     return CallWindowProcA(former, window, message, wparam, lparam);
   }
-  // Timers tick also inside the message loops of others: of the shell, of a dialog of files or of a printer.
+  // Timers also tick inside message loops of other code: the shell, a file dialog, a printer dialog. That
+  // code may have changed the setting.
   runtime::SetFloatingPointControl();
   return hook->handler_.HandleMessage(message, wparam, lparam);
 }

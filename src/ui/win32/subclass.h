@@ -1,5 +1,5 @@
-// The hook of one object into one window's messages: installed and removed by one object. The window finds
-// the hook in its own user word, so there is no table of windows.
+// Hooks one object into the messages of one window. The hook's address is in the window's user data, so no
+// table of windows is needed.
 #pragma once
 
 #include <windows.h>
@@ -9,20 +9,20 @@ namespace qdix::ui::win32 {
 class MessageHandler {
  public:
   virtual ~MessageHandler() = default;
-  /// Answers a message of the hooked window, or passes it on with Subclass::Default.
+  /// Handles a message of the hooked window, or passes it on with Subclass::Default.
   virtual LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) = 0;
 };
 
 class Subclass {
  public:
-  /// Hooks nothing where `window` is null.
+  /// Hooks nothing if `window` is null.
   Subclass(HWND window, MessageHandler& handler);
   Subclass(const Subclass&) = delete;
   Subclass& operator=(const Subclass&) = delete;
   ~Subclass() { Remove(); }
 
   [[nodiscard]] HWND Window() const { return window_; }
-  /// What the window does without the hook.
+  /// Calls the window procedure that the hook replaced.
   LRESULT Default(UINT message, WPARAM wparam, LPARAM lparam);
 
  private:

@@ -11,7 +11,7 @@ namespace qdix::ui::win32 {
 
 namespace {
 
-/// The strip of a page has its window before the page has.
+/// The window of a strip is made before the windows of its pages.
 PixelBox AreaOf(const PeerContext& context, const TabPage& page) {
   const NativeControl* const strip = context.peers.ByModel(*page.Parent());
   return strip == nullptr ? context.font.Pixels(page.GetPlace())
@@ -48,7 +48,7 @@ PixelBox TabStripPeer::DisplayArea() const {
 void TabStripPeer::OnNotify(UINT code) {
   if (code != TCN_SELCHANGE) return;
   strip_.ChooseTab(static_cast<int>(Send(TCM_GETCURSEL)));
-  ValueChanged();  // the control that was left may have kept its page
+  ValueChanged();  // the control with the focus may have refused to lose it
 }
 
 void TabStripPeer::ValueChanged() {
@@ -59,7 +59,8 @@ void TabStripPeer::ValueChanged() {
   for (int index = 0; index < strip_.Count(); ++index) {
     NativeControl* const page = Context().peers.ByModel(strip_.Page(index));
     if (page == nullptr || page == opened) continue;
-    // A page that hides with the keyboard on it would leave the dialog manager searching without end.
+    // If a page were hidden while it has the focus, the dialog manager would search for a control without
+    // end.
     if (page->OwnsNativeFocus()) SetFocus(Window());
     page->RefreshVisible();
   }
@@ -71,7 +72,7 @@ TabPagePeer::TabPagePeer(const PeerContext& context, TabPage& model, HWND parent
                      .style = WS_CLIPSIBLINGS,
                      .extended_style = WS_EX_CONTROLPARENT,
                      .box = AreaOf(context, model)}) {
-  // Above the strip: it paints on top of it, and the Tab key walks the page before the strip.
+  // Above the strip: the page must paint over it, and the Tab key must reach the page before the strip.
   SetWindowPos(Window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 

@@ -1,5 +1,5 @@
-// Windows of a tab strip and of its pages. A page is a window of its own over the strip's display area; only
-// the open one is shown.
+// Windows of a tab strip and its pages. A page is a separate window over the strip's display area; only the
+// open one is shown.
 #pragma once
 
 #include "ui/tab_strip.h"
@@ -12,7 +12,7 @@ class TabStripPeer final : public NativeControl {
   TabStripPeer(const PeerContext& context, TabStrip& model, HWND parent, int number);
   void OnNotify(UINT code) override;
 
-  /// Where a page stands, relative to the strip's own parent.
+  /// Returns the area of a page, relative to the strip's parent.
   [[nodiscard]] PixelBox DisplayArea() const;
 
  private:

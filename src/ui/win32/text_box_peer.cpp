@@ -4,7 +4,7 @@ namespace qdix::ui::win32 {
 
 std::string TextOfWindow(HWND window) {
   std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)), '\0');
-  // The system writes the closing NUL over the one that the text object keeps.
+  // GetWindowText writes its NUL over the one that std::string keeps at the end.
   const int length = GetWindowTextA(window, text.data(), static_cast<int>(text.size()) + 1);
   text.resize(static_cast<std::size_t>(length));
   return text;
@@ -30,13 +30,13 @@ void TextBoxPeer::OnCommand(UINT code) {
 }
 
 LRESULT TextBoxPeer::HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) {
-  // A Tab that comes as a character belongs to a key that switched tabs.
+  // A Tab that arrives as a character comes from a key that switched tabs.
   if (message == WM_CHAR && (wparam == VK_TAB || !text_box_.AcceptsKey(static_cast<char>(wparam)))) return 0;
   return NativeControl::HandleMessage(message, wparam, lparam);
 }
 
-/// A disabled box asks for its colours as a label does. It keeps the system's disabled look unless it was
-/// given a colour of its own.
+/// A disabled box sends the message of a label. It keeps the native disabled look unless its model has a
+/// colour of its own.
 HBRUSH TextBoxPeer::Paint(UINT message, HDC device) {
   const bool is_disabled = message == WM_CTLCOLORSTATIC;
   if (is_disabled && text_box_.BackColour() == kWindowBackground) return nullptr;

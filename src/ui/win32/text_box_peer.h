@@ -1,5 +1,5 @@
-// The window of a text box. The native edit control does the editing; the model hears of each character
-// before and of the text after.
+// The window of a text box. The native edit control does the editing. The model sees each character
+// beforehand and the text afterwards.
 #pragma once
 
 #include "ui/text_box.h"
@@ -7,7 +7,7 @@
 
 namespace qdix::ui::win32 {
 
-/// The text of any window.
+/// Returns the text of any window.
 [[nodiscard]] std::string TextOfWindow(HWND window);
 
 class TextBoxPeer final : public NativeControl {

@@ -8,8 +8,8 @@ namespace qdix::ui::win32 {
 
 namespace {
 
-/// The record as the first common controls know it. Later ones are longer, and a longer size makes those of
-/// Windows 95 refuse it.
+/// The size of TOOLINFO in the first common controls. The common controls of Windows 95 refuse the longer
+/// size of later versions.
 constexpr UINT kToolInfoBytes = 40;
 
 }  // namespace

@@ -9,11 +9,11 @@ namespace qdix::ui::win32 {
 
 class ToolTips {
  public:
-  /// `main` is the top-level window that the controls stand in.
+  /// `main` is the top-level window that contains the controls.
   ToolTips(HINSTANCE instance, HWND main);
 
-  /// Shows `text` while the pointer rests on `control`; an empty text shows nothing. At most 79 characters
-  /// are shown on Windows 95.
+  /// Shows `text` while the pointer rests on `control`; an empty text shows nothing. Windows 95 shows at most
+  /// 79 characters.
   void Add(HWND control, std::string_view text);
 
   [[nodiscard]] HWND Window() const { return window_.get(); }

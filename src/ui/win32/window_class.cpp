@@ -12,7 +12,7 @@ WindowClass::WindowClass(HINSTANCE instance, const char* name, const Looks& look
   description.hCursor = LoadCursorA(nullptr, MAKEINTRESOURCEA(32512));  // the arrow
   description.hbrBackground = looks.background;
   description.lpszClassName = name_;
-  // A refusal shows where the first window of the class is made.
+  // A failure shows when the first window of the class is made.
   RegisterClassA(&description);
 }
 

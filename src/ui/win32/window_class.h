@@ -1,4 +1,4 @@
-// Window classes of the program: registered and unregistered by one object, which must outlive the windows of
+// A window class of the program. Registered and unregistered by one object, which must outlive the windows of
 // the class.
 #pragma once
 
@@ -7,7 +7,7 @@
 namespace qdix::ui::win32 {
 
 inline constexpr const char* kMainWindowClass = "QDIXMain";
-/// Other copies and companions of the program look for the hidden application window by this name.
+/// Other copies and companions of the program find the hidden application window by this name.
 inline constexpr const char* kApplicationWindowClass = "ThunderRT6Main";
 inline constexpr const char* kPageWindowClass = "QDIXPage";
 inline constexpr const char* kDrawingWindowClass = "QDIXDrawing";
@@ -20,7 +20,7 @@ class WindowClass {
     UINT style = 0;
   };
 
-  /// Windows of the class do what every window does; a Subclass gives each its own behaviour.
+  /// Windows of the class have the default behaviour; a Subclass gives each its own.
   WindowClass(HINSTANCE instance, const char* name, const Looks& looks);
   WindowClass(const WindowClass&) = delete;
   WindowClass& operator=(const WindowClass&) = delete;
@@ -31,7 +31,7 @@ class WindowClass {
   const char* name_;
 };
 
-/// The brush value by which a window class names the face of three-dimensional controls.
+/// Returns the background brush value for the face of three-dimensional controls.
 [[nodiscard]] HBRUSH FaceBackground();
 
 }  // namespace qdix::ui::win32

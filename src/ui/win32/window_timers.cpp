@@ -20,7 +20,7 @@ void WindowTimers::Elapsed(UINT_PTR number) const {
 void WindowTimers::TimerRestarted(Timer& timer) {
   std::size_t index = 0;
   while (timers_[index] != &timer) ++index;
-  // Stopped first also where it runs on: a tick of the old count that waits in the queue goes with it.
+  // Stopped first even if it keeps running: this also removes a tick of the old count from the queue.
   KillTimer(main_, index + 1);
   if (timer.Running()) SetTimer(main_, index + 1, static_cast<UINT>(timer.Interval()), nullptr);
 }
