@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kTwipsPerPixel = 15;
 
-// Segment 0 stands here; each further one begins 20 twips before its neighbour ends, so that their borders
+// Position of segment 0. Each further segment begins 20 twips before its neighbour ends, so their borders
 // merge into one line.
 constexpr int kSegmentLeftTwips = 30;
 constexpr int kSegmentTopTwips = 25;
@@ -21,7 +21,7 @@ constexpr const char* kBorderName = "Border";
 constexpr std::int16_t kDefaultValue = 0;
 constexpr std::int16_t kDefaultBorder = 1;
 
-// To the nearest pixel. A position is rounded as a whole, so no error adds up along the row.
+// Rounds to the nearest pixel. Whole positions are rounded, so errors do not add up along the row.
 constexpr int ToPixels(int twips) { return (twips + kTwipsPerPixel / 2) / kTwipsPerPixel; }
 
 constexpr int SegmentLeft(int segment) {

@@ -1,5 +1,5 @@
-// A level meter: a row of 50 lamp-like segments, of which the first N are lit. Designed in twips, 15 of them
-// a pixel; has a fixed size and takes nothing but its value from outside.
+// A level meter: a row of 50 segments that look like lamps; the first N are lit. Laid out in twips, 15 per
+// pixel. Has a fixed size; only its value changes what it shows.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ class Meter3 final : public ui::DrawingControl {
  public:
   static constexpr int kSegments = 50;
   static constexpr std::int16_t kHighestValue = kSegments;
-  /// The outer size that the control keeps whatever its container gives, in twips.
+  /// Outer size in twips. The control keeps it whatever size its container gives.
   static constexpr int kWidthTwips = 2395;
   static constexpr int kHeightTwips = 300;
   static constexpr ui::Colour kLit = 0x00FFFF00U;
@@ -22,30 +22,29 @@ class Meter3 final : public ui::DrawingControl {
 
   Meter3(ui::Container& parent, const ui::Design& design);
 
-  /// Number of lit segments.
   [[nodiscard]] std::int16_t Value() const { return value_; }
-  /// Outside 0 to 50 is error 380, value unchanged. Draws only when the value changes.
+  /// Draws only if the value changes. A value outside 0 to 50 returns error 380 and changes nothing.
   base::Status SetValue(std::int16_t value);
 
-  /// 0 none, 1 a single line in three-dimensional look.
+  /// 0 is no border, 1 a single line with a three-dimensional look.
   [[nodiscard]] std::int16_t Border() const { return border_; }
-  /// Another style than 0 and 1 is error 380.
+  /// A value other than 0 or 1 returns error 380.
   base::Status SetBorder(std::int16_t border);
 
-  /// The container gave this outer size, in twips: where it is not the control's own, the peer puts the
-  /// window back, as after a change of the border.
+  /// The container set this outer size, in twips. If it is not the control's own, the peer restores the
+  /// window's size, as after a change of the border.
   void Resize(int width_twips, int height_twips);
 
-  /// Outer size in pixels (160 x 20) less the border on each side.
+  /// Outer size in pixels (160 x 20) minus the border on each side.
   [[nodiscard]] PixelSize InnerSize() const override;
 
-  /// Both properties from the bag, or their defaults. A number that a property refuses, or that 16 bits do
-  /// not hold, is returned as its error and leaves that property as it is.
+  /// Reads both properties from the bag, or uses their defaults. If a property refuses its number or the
+  /// number does not fit 16 bits, returns that error and leaves that property unchanged.
   base::Status ReadProperties(const ui::PropertyBag& bag);
   void WriteProperties(ui::PropertyBag& bag) const;
 
  private:
-  // What a change of the value runs, in this order.
+  // Run in this order when the value changes.
   void SetLevelValue() { level_ = value_; }
   void ShowLevel();
 

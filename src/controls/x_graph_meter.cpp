@@ -14,14 +14,14 @@ constexpr const char* kFlatName = "Flat";
 constexpr const char* kInvertedName = "Inverted";
 constexpr XGraphMeterProperties kDefaults;
 
-// True as a designer writes it; any other number than 0 is read as true.
+// True as a form designer writes it. Any number other than 0 is read as true.
 constexpr std::int32_t kTrue = -1;
 
 constexpr ui::BorderStyle StyleOf(bool flat) {
   return flat ? ui::BorderStyle::kFlatLine : ui::BorderStyle::kThreeD;
 }
 
-// The bag holds signed numbers: system colours are negative in it.
+// The bag holds signed numbers, so system colours are negative.
 constexpr std::int32_t ToBag(ui::Colour colour) { return static_cast<std::int32_t>(colour); }
 constexpr std::int32_t ToBag(bool flag) { return flag ? kTrue : 0; }
 
@@ -70,7 +70,7 @@ void XGraphMeter::Clear() {
 
 base::Status XGraphMeter::Update(std::int32_t value) {
   const base::Status drawn = Draw(value);
-  // Also after an error: the picture may have moved before it.
+  // Needed after an error, too: the picture may already have moved.
   PixelsChanged();
   return drawn;
 }

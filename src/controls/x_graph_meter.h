@@ -1,5 +1,5 @@
-// A strip chart: each new value is a bar at the right edge, and the picture moves left by one bar. The
-// picture on the surface is the only history; no value is kept.
+// A strip chart: each new value is a bar at the right edge, and the picture moves left by the width of a bar.
+// The picture is the only history; no values are kept.
 #pragma once
 
 #include <cstdint>
@@ -10,20 +10,20 @@
 namespace qdix::controls {
 
 struct XGraphMeterProperties {
-  /// The value that fills the height, less one pixel.
+  /// Value of a bar that fills the height except one pixel.
   std::int32_t max = 100;
-  /// Width of a bar and step of the scroll, in pixels.
+  /// Width of a bar, and distance the picture moves, in pixels.
   std::int32_t bar_width = 2;
   ui::Colour back_colour = ui::kButtonFace;
   ui::Colour fore_colour = ui::kButtonText;
-  /// A single line as border instead of the three-dimensional one.
+  /// Draws the border as a single line, without a three-dimensional look.
   bool flat = false;
-  /// Bars hang from the top instead of standing on the bottom.
+  /// Bars hang from the top instead of growing from the bottom.
   bool inverted = false;
 };
 
-/// The colour of the empty area is the control's back colour. Assigning a colour leaves the picture as it is;
-/// assigning any of the other properties clears it, even to the value it has.
+/// The empty area has the control's back colour. Setting a colour leaves the picture alone. Setting any other
+/// property clears it, even if the value is the same.
 class XGraphMeter final : public ui::DrawingControl {
  public:
   XGraphMeter(ui::Container& parent, const ui::Design& design, const XGraphMeterProperties& properties = {});
@@ -43,26 +43,27 @@ class XGraphMeter final : public ui::DrawingControl {
   [[nodiscard]] std::int32_t Width() const { return Surface() != nullptr ? Surface()->Width() : 0; }
   [[nodiscard]] std::int32_t Height() const { return Surface() != nullptr ? Surface()->Height() : 0; }
 
-  /// Pushes one value. 0 and less only scroll; values above Max draw beyond the surface. Coordinates that 32
-  /// bits do not hold are error 6, a Max of 0 is error 11 for a value above 0; what was drawn until then
-  /// stays. Without a surface nothing is drawn, and the errors are those of an empty surface.
+  /// Adds one value. 0 and negative values only move the picture; values above Max draw beyond the surface.
+  /// Returns error 6 if a coordinate does not fit 32 bits and error 11 if Max is 0 and the value positive;
+  /// what was drawn before the error stays. Without a surface it draws nothing and returns the errors of an
+  /// empty surface.
   base::Status Update(std::int32_t value);
 
   [[nodiscard]] PixelSize InnerSize() const override { return {0, kInnerHeightPixels}; }
 
-  /// Every property from the bag, or its default; clears the picture.
+  /// Sets each property from the bag, or to its default. Clears the picture.
   void ReadProperties(const ui::PropertyBag& bag);
   void WriteProperties(ui::PropertyBag& bag) const;
 
  private:
-  /// Height of the surface that the bars were designed for.
+  /// Surface height for which the bars were designed.
   static constexpr int kInnerHeightPixels = 65;
 
   void DrawAll() override;
   void Clear();
   [[nodiscard]] base::Status Draw(std::int32_t value);
   [[nodiscard]] base::Status DrawBar(std::int32_t left, std::int32_t value);
-  /// Fills from `left` to the right edge.
+  /// Fills a strip from `left` to the right edge.
   void FillStrip(std::int32_t left, std::int32_t top, std::int32_t bottom, ui::Colour colour);
 
   std::int32_t max_;
