@@ -1,4 +1,4 @@
-// The "About" tab. What a form designer shows; no behaviour.
+// The "About" tab. Contains what a form designer shows, no behaviour.
 #pragma once
 
 #include "screens/picture_numbers.h"

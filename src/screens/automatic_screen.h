@@ -1,5 +1,5 @@
-// The "Automatic" tab: when and how much the automatic release frees. What a form designer shows; no
-// behaviour.
+// The "Automatic" tab: when the automatic release runs and how much it frees. Contains what a form designer
+// shows, no behaviour.
 #pragma once
 
 #include "ui/lists.h"
@@ -9,7 +9,7 @@
 
 namespace qdix::screens {
 
-/// Range of the low-water mark in megabytes of 1,024,000 bytes.
+/// Range of the threshold for free memory, in megabytes of 1,024,000 bytes.
 inline constexpr ui::ScrollRange kMinRamRange{
     .minimum = 32, .maximum = 1, .small_change = 1, .large_change = 4};
 inline constexpr const char* kMinRamTip = "Free up memory when RAM drops below this level";

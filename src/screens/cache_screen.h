@@ -1,5 +1,5 @@
-// The "Cache Settings" tab: sizes of the disk cache, and the presets for them. What a form designer shows; no
-// behaviour.
+// The "Cache Settings" tab: sizes of the disk cache, and presets for them. Contains what a form designer
+// shows, no behaviour.
 #pragma once
 
 #include "ui/lists.h"
@@ -8,16 +8,16 @@
 
 namespace qdix::screens {
 
-/// Sizes of the disk cache in kilobytes. The upper end comes from the machine's memory at load.
+/// Size of the disk cache in kilobytes. The load sets the maximum from the machine's memory.
 inline constexpr ui::SliderRange kCacheSizeRange{
     .minimum = 512, .maximum = 512, .value = 512, .small_change = 512, .large_change = 4096};
-/// Kilobytes that the cache reads at one time.
+/// Kilobytes that the cache reads at once.
 inline constexpr ui::SliderRange kChunkRange{
     .minimum = 512, .maximum = 4096, .value = 512, .small_change = 512, .large_change = 1024, .step = 512};
-/// Entries of the name cache; 677 is what Windows keeps for a desktop machine.
+/// Entries of the name cache. Windows uses 677 on a desktop computer.
 inline constexpr ui::SliderRange kNameCacheRange{
     .minimum = 256, .maximum = 8192, .value = 677, .small_change = 64, .large_change = 512};
-/// Entries of the directory cache; 32 is what Windows keeps for a desktop machine.
+/// Entries of the directory cache. Windows uses 32 on a desktop computer.
 inline constexpr ui::SliderRange kDirectoryCacheRange{
     .minimum = 8, .maximum = 256, .value = 32, .small_change = 8, .large_change = 32};
 

@@ -1,5 +1,5 @@
-// The "Launcher" tab: the user's programs, and how much memory is freed before one is started. What a form
-// designer shows; no behaviour.
+// The "Launcher" tab: the user's programs, and how much memory to free before starting one. Contains what a
+// form designer shows, no behaviour.
 #pragma once
 
 #include <array>

@@ -1,5 +1,4 @@
-// The main window itself: its tabs and the timers that stand on it. What stands on the tabs is in one file a
-// tab.
+// The main window itself: its tabs and timers. The contents of each tab have their own file.
 #pragma once
 
 #include <array>
@@ -22,7 +21,7 @@ enum Tab : int {
   kAboutTab = 7,
 };
 
-/// What stands on a page keeps this distance to its edges, in dialog units.
+/// Distance in dialog units that the controls on a page keep from its edges.
 inline constexpr int kPageMargin = 4;
 inline constexpr ui::Place kPagePlace{.left = 7, .top = 33, .width = 266, .height = 202};
 
@@ -44,18 +43,18 @@ struct MainWindow {
   ui::Form Form1{events, {.name = "Form1", .caption = "Q-DIX", .place = {0, 0, 280, 238}}};
   ui::TabStrip SSTab1{Form1, {.name = "SSTab1", .place = {3, 3, 274, 232}}, kTabPages};
 
-  /// Display refresh.
+  /// Refreshes the display.
   ui::Timer Timer1{events, "Timer1", 750, false};
-  /// Automatic detection; its interval comes from the check interval.
+  /// Checks whether to release automatically. Its interval is the check interval.
   ui::Timer Timer2{events, "Timer2", 0, false};
   /// Start-up delay.
   ui::Timer Timer3{events, "Timer3", 0, false};
-  /// One minute of the timed release.
+  /// Counts the minutes of the timed release.
   ui::Timer Timer4{events, "Timer4", 60000, false};
 
-  /// One retry of a timed release that a busy processor put off.
+  /// Retries a timed release that was postponed because the processor was busy.
   ui::Timer Timer5{events, "Timer5", 10000, false};
-  /// How long the system has been running.
+  /// Updates how long Windows has been running.
   ui::Timer Timer6{events, "Timer6", 65000, true};
 
   /// Watches the editor of the program list while it is open.

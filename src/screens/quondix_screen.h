@@ -1,4 +1,5 @@
-// The "Quondix" tab: memory gauges, CPU graph, "Free Up RAM Now". What a form designer shows; no behaviour.
+// The "Quondix" tab: memory gauges, CPU graph, "Free Up RAM Now". Contains what a form designer shows, no
+// behaviour.
 #pragma once
 
 #include "controls/meter3.h"
@@ -10,7 +11,7 @@
 
 namespace qdix::screens {
 
-/// Range of the number of passes of every release.
+/// Range of the number of passes, for every kind of release.
 inline constexpr ui::ScrollRange kTryTimesRange{
     .minimum = 20, .maximum = 1, .small_change = 1, .large_change = 5};
 inline constexpr const char* kTryTimesTip = "Number of times Q-DIX will attempt to free up RAM at one time";

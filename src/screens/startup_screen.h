@@ -1,5 +1,5 @@
-// The "Startup / Other" tab: starting with Windows, the display at start, the start-up release, and what fits
-// nowhere else. What a form designer shows; no behaviour.
+// The "Startup / Other" tab: starting with Windows, the display at start, the start-up release, and other
+// settings. Contains what a form designer shows, no behaviour.
 #pragma once
 
 #include "ui/lists.h"

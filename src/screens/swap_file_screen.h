@@ -1,5 +1,5 @@
-// The "Optimize Swapfile" tab: who manages the swap file, where it is and how large. What a form designer
-// shows; no behaviour.
+// The "Optimize Swapfile" tab: who manages the swap file, where it is and how large. Contains what a form
+// designer shows, no behaviour.
 #pragma once
 
 #include "screens/picture_numbers.h"
@@ -10,7 +10,7 @@
 
 namespace qdix::screens {
 
-/// Megabytes of 1,024 kilobytes. The arrows move by 5, a click beside the thumb by 10.
+/// In megabytes of 1,024 kilobytes. The arrows move by 5, a click beside the thumb by 10.
 inline constexpr ui::ScrollRange kSwapSizeRange{
     .minimum = 32750, .maximum = 0, .small_change = 5, .large_change = 10};
 inline constexpr const char* kSwapSizeTip = "Least and greatest size of the swap file in megabytes";

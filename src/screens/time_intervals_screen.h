@@ -1,4 +1,4 @@
-// The "Time Intervals" tab: the timed release. What a form designer shows; no behaviour.
+// The "Time Intervals" tab: the timed release. Contains what a form designer shows, no behaviour.
 #pragma once
 
 #include "screens/automatic_screen.h"

@@ -1,4 +1,4 @@
-// The menu of the tray icon, in the order in which it opens. No behaviour.
+// The menu of the tray icon, in display order. No behaviour.
 #pragma once
 
 #include "ui/menu.h"
@@ -6,14 +6,14 @@
 namespace qdix::screens {
 
 struct TrayMenu {
-  /// No program is known at first.
+  /// Initially there are no programs.
   explicit TrayMenu(ui::EventDispatcher& dispatcher) : events(dispatcher) {
     mnuPrograms.SetEnabled(false);
     for (int index = 1; index < mnuProgram.Count(); ++index)
       base::Ignore(mnuProgram[index].SetVisible(false));
   }
 
-  /// Programs that the launcher can hold.
+  /// Maximum number of programs in the launcher.
   static constexpr int kProgramCount = 25;
 
   ui::EventDispatcher& events;
@@ -24,7 +24,7 @@ struct TrayMenu {
   ui::MenuItem mnuTrayHide{mnuTray, "mnuTrayHide", "Hide"};
   ui::MenuItem mnuTrayBar2{mnuTray, "mnuTrayBar2", ui::MenuItem::kSeparatorCaption};
   ui::MenuItem mnuPrograms{mnuTray, "mnuPrograms", "Programs"};
-  /// The launcher's entries; those without a program are hidden, but for the first, because a submenu always
+  /// The launcher's entries. Entries without a program are hidden, except the first, because a submenu always
   /// shows one.
   ui::MenuItemArray mnuProgram{mnuPrograms, "mnuProgram", kProgramCount};
   ui::MenuItem mnuTrayBar3{mnuTray, "mnuTrayBar3", ui::MenuItem::kSeparatorCaption};
