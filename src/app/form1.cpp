@@ -65,8 +65,8 @@ void Form1::EndSession() {
   window_.Form1.UnloadAtOnce();
 }
 
-/// The load calls it as well, so that the display is refreshed behind a hidden window; the first steps are
-/// for a window that can be seen.
+/// Also called at the end of the load, to refresh the display of a hidden window. The first help waits for a
+/// window that the user can see.
 base::Status Form1::Form_Activate() {
   window_.Timer1.SetEnabled(true);
   if (!first_help_pending_ || !window_.Form1.Visible()) return base::kDone;
@@ -112,15 +112,15 @@ void Form1::ShowTip() {
       "Quondix Tip", os::kMbOk | os::kMbIconInformation);
 }
 
-/// A load that did not reach its end has not brought the settings into the controls, so nothing of them may
-/// be stored.
+/// Stores nothing if the load did not finish: the controls do not show the stored settings yet.
 base::Status Form1::Form_Unload() {
   const base::Status saved = load_finished_ ? SaveAtExit() : base::kDone;
   tray_icon_.Remove();
   return saved;
 }
 
-/// A refused limit opens a box. Where the session ends while it is open, everything has been stored by then.
+/// A refused limit opens a message box. If the session ends while it is open, everything has already been
+/// stored.
 base::Status Form1::SaveAtExit() {
   const base::Status amount = startup_release_.Combo1_LostFocus();
   if (!amount.Ok()) return amount;

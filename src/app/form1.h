@@ -1,5 +1,5 @@
-// The main window: owns the screens and the subsystems, wires them, loads the program in its fixed order and
-// unloads it. The work itself is done by the subsystems.
+// The main window: owns and connects the screens and the subsystems, loads the program in its fixed order and
+// unloads it. The subsystems do the actual work.
 #pragma once
 
 #include "app/machine_record.h"
@@ -51,17 +51,17 @@ namespace qdix::app {
 
 class Form1 {
  public:
-  /// Whoever makes the system keeps it for as long as the program lives.
+  /// `system` must outlive this object.
   explicit Form1(const os::System& system);
   Form1(const Form1&) = delete;
   Form1& operator=(const Form1&) = delete;
   ~Form1() = default;
 
-  /// Loads, then shows the window unless the stored display mode hides it. A second copy, or an error in the
-  /// load, leaves the window unloaded.
+  /// Loads the program, then shows the window unless the stored display mode hides it. If this is a second
+  /// copy, or the load fails, the window is unloaded afterwards.
   void Start();
 
-  /// The Windows session ends: from now on nothing is asked, and the window unloads.
+  /// The Windows session ends. Unloads the window; from now on the user is not asked anything.
   void EndSession();
 
   [[nodiscard]] ui::Application& TheApplication() { return application_; }
@@ -75,7 +75,7 @@ class Form1 {
   base::Status Timer1_Timer();
   base::Status Timer6_Timer();
 
-  // The screens, for whoever looks at the window or acts on it.
+  // The screens, for code that inspects or operates the window.
   [[nodiscard]] screens::MainWindow& MainWindow() { return window_; }
   [[nodiscard]] screens::QuondixScreen& Quondix() { return quondix_; }
   [[nodiscard]] screens::AutomaticScreen& Automatic() { return automatic_; }

@@ -1,5 +1,5 @@
-// The load of the main window. The order of its steps is part of the program's behaviour: an assignment fires
-// its event, and an event stores a setting or starts a timer from what the controls show at that moment.
+// Loads the main window. The order of the steps is part of the program's behaviour: an assignment fires its
+// event, and the event handler stores a setting or starts a timer from what the controls show at that moment.
 #include "app/form1.h"
 #include "app/version.h"
 #include "base/numbers.h"
@@ -16,7 +16,7 @@ base::Status Form1::Form_Load() {
   cpu_speed_.CPUSPEED();
   cpu_usage_.StartCpuStatistics();
   cpu_usage_.FirstCPUUSAGE();
-  // A first reading that is reported opens a box, in which the session may have ended.
+  // Reporting the first reading opens a message box. The session may have ended while it was open.
   if (window_.Form1.Unloaded()) return base::kDone;
   automatic_release_.FillLists();
   timed_release_.FillLists();
@@ -29,7 +29,7 @@ base::Status Form1::Form_Load() {
   cpu_usage_.LoadUpdateInterval();
   timed_release_.LoadCpuLimit();
   SelectStoredTab();
-  if (window_.Form1.Unloaded()) return base::kDone;  // the same for the tip that this can show
+  if (window_.Form1.Unloaded()) return base::kDone;  // the session may have ended during the tip, too
   cache_settings_.SetupCache();
   startup_registration_.CheckStartup();
   automatic_release_.LoadCounter();

@@ -1,4 +1,4 @@
-// The program's machine-wide key, and the marker in it by which the first run on a machine is recognised.
+// The program's machine-wide key and the marker in it that identifies the first run on a machine.
 #pragma once
 
 #include "os/registry.h"
@@ -9,14 +9,14 @@ class MachineRecord {
  public:
   explicit MachineRecord(os::Registry& registry) : registry_(registry) {}
 
-  /// Makes the key where it is missing; a refusal is passed over.
+  /// Creates the key if it is missing. Ignores a failure.
   void EnsureKey();
 
-  /// True until MarkRun has been called once on this machine (or for this user, where the machine-wide key
-  /// cannot be written).
+  /// True until MarkRun has been called on this machine, or for this user if the machine-wide key cannot be
+  /// written.
   [[nodiscard]] bool IsFirstRun() const;
 
-  /// Writes the marker machine-wide, or per user where that is refused.
+  /// Writes the marker machine-wide, or per user if that fails.
   void MarkRun();
 
  private:

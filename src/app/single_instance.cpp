@@ -7,10 +7,10 @@ namespace qdix::app {
 namespace {
 
 constexpr const char* kMutexName = "QDIX.SingleInstance";
-/// Classes of the hidden application window, of this program and of the run times that earlier installations
-/// used.
+/// Classes of the hidden application window: of this program and of the run-time libraries of earlier
+/// installations.
 constexpr std::array<const char*, 3> kApplicationClasses{"ThunderRTMain", "ThunderRT5Main", "ThunderRT6Main"};
-/// Carried by this copy while it looks for the other, so that it cannot find itself.
+/// Title of this copy while it searches for the other one, so it does not find itself.
 constexpr std::string_view kUnwantedTitle = "unwanted instance";
 
 }  // namespace
@@ -27,7 +27,7 @@ void SingleInstance::ActivatePrevInstance() {
       system_.dialogs.MessageBoxA("error in ActivatePrecInstance", title, os::kMbOk);
     } else {
       system_.windows.OpenIcon(window);
-      // Not SW_SHOW, which Windows replaces by the way of showing that this copy was started with.
+      // Not SW_SHOW: Windows would replace it by the show command with which this copy was started.
       system_.windows.ShowWindow(window, os::kSwShowNa);
       system_.windows.SetForegroundWindow(window);
     }

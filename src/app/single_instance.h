@@ -1,4 +1,4 @@
-// One copy of the program at a time: recognises a running copy and brings it to the front.
+// Allows one copy of the program at a time: detects a running copy and brings it to the front.
 #pragma once
 
 #include "os/system.h"
@@ -12,12 +12,12 @@ class SingleInstance {
   SingleInstance(const os::System& system, ui::Application& application, ui::Form& form)
       : system_(system), application_(application), form_(form) {}
 
-  /// True where another copy had started before.
+  /// True if another copy was running before this one.
   [[nodiscard]] bool AnotherIsRunning();
 
-  /// Finds the running copy by its hidden application window, restores, shows and raises the window that
-  /// precedes it, and unloads this copy's window. Where no such window is found this copy is unloaded
-  /// all the same: two copies would fight over settings and icon.
+  /// Finds the running copy by its hidden application window; restores, shows and raises the window before
+  /// that one in the Z order. Unloads this copy's window in any case, even if no such window is found: two
+  /// copies would fight over the settings and the tray icon.
   void ActivatePrevInstance();
 
  private:

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::uint32_t kIconId = 1;
 constexpr const char* kTaskbarClass = "Shell_TrayWnd";
-/// Mouse messages as the icon passes them on.
+/// Mouse messages that the icon passes on.
 constexpr double kLeftButtonDoubleClick = 515;
 constexpr double kRightButtonDown = 516;
 
@@ -49,7 +49,7 @@ void TrayIcon::AddToTray() {
   is_in_place_ = Notify(os::kNimAdd);
 }
 
-/// An icon that is there already is refused as well, which the change of it tells.
+/// Windows also refuses to add an icon that is already there, so this tries to modify it first.
 void TrayIcon::RetryAdd() {
   if (is_wanted_ && !is_in_place_) is_in_place_ = Notify(os::kNimModify) || Notify(os::kNimAdd);
 }
@@ -67,7 +67,7 @@ void TrayIcon::Remove() {
   Notify(os::kNimDelete);
 }
 
-/// The field is padded with blanks behind the NUL that ends the text; a longer text is cut.
+/// The field is padded with blanks after the terminating NUL. A longer text is cut.
 void TrayIcon::SetTip(std::string_view text) {
   record_.tip.fill(' ');
   const std::size_t length = std::min(text.size(), record_.tip.size() - 1);

@@ -1,4 +1,4 @@
-// The icon in the notification area: its tip, the mouse on it, its menu.
+// The icon in the notification area: its tip, its mouse messages, its menu.
 #pragma once
 
 #include "memory/manual_release.h"
@@ -11,28 +11,28 @@ namespace qdix::app {
 
 class TrayIcon {
  public:
-  /// The window message by which the icon calls back: a mouse move, whose position carries the mouse message
-  /// on the icon.
+  /// The window message for the icon's callbacks: WM_MOUSEMOVE, with the mouse message on the icon in place
+  /// of the position.
   static constexpr std::uint32_t kCallbackMessage = 512;
 
   TrayIcon(const os::System& system, ui::Form& form, screens::TrayMenu& menu, memory::MemoryMonitor& monitor,
            memory::ManualRelease& release);
 
-  /// The window that receives the icon's messages, and the icon; before AddToTray.
+  /// Sets the icon and the window that receives its messages. Must be called before AddToTray.
   void SetOwner(os::WindowHandle window, os::IconHandle icon);
 
-  /// Adds the icon; nothing once the window has unloaded.
+  /// Adds the icon. Does nothing once the window has unloaded.
   void AddToTray();
-  /// Asks once more for an icon that was refused, as at log-on when the taskbar is not ready yet.
+  /// Tries again to add an icon that Windows refused, for example at log-on when the taskbar was not ready.
   void RetryAdd();
-  /// Asks for the icon again where the taskbar is another one than it was: the first Windows 95 does not tell
-  /// when it was made anew.
+  /// Adds the icon again if the taskbar is a different window than before: the first version of Windows 95
+  /// does not announce that the taskbar was restarted.
   void LookForTaskbar();
-  /// Takes the icon away, where one was added.
+  /// Removes the icon if it was added.
   void Remove();
 
-  /// Every mouse move over the window and on the icon: refreshes the tip with the available memory; a double
-  /// click shows the window, the right button opens the menu.
+  /// Handles each mouse move over the window and each callback of the icon. Updates the tip with the
+  /// available memory. A double click shows the window; the right button opens the menu.
   base::Status Form_MouseMove(int button, int shift, double x_twips, double y_twips);
 
   base::Status mnuTrayFreeup_Click();
@@ -52,7 +52,7 @@ class TrayIcon {
   memory::MemoryMonitor& monitor_;
   memory::ManualRelease& release_;
   os::NotifyIconData record_;
-  /// The taskbar when the icon was last asked for; 0 where there was none.
+  /// The taskbar when the icon was last requested; 0 if there was none.
   os::WindowHandle taskbar_ = 0;
   bool is_wanted_ = false;
   bool is_in_place_ = false;

@@ -1,4 +1,4 @@
-// How long the system has been running, as a label.
+// Shows in a label how long Windows has been running.
 #pragma once
 
 #include "os/clock.h"
@@ -10,8 +10,8 @@ class UpTime {
  public:
   UpTime(os::Clock& clock, screens::StartupScreen& screen) : clock_(clock), screen_(screen) {}
 
-  /// Whole hours, and minutes rounded to the nearest: after 59 minutes and a half it reads 0 hours and 0
-  /// minutes. After 49.7 days the system counts from 0 again.
+  /// Shows whole hours, and minutes rounded to the nearest: after 59.5 minutes it reads 0 hours and 0
+  /// minutes. Windows starts again from 0 after 49.7 days.
   void Show();
 
  private:

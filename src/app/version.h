@@ -1,4 +1,4 @@
-// The program's version, in one place.
+// The version of the program.
 #pragma once
 
 namespace qdix::app {

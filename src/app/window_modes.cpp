@@ -7,7 +7,7 @@ namespace {
 constexpr std::string_view kPauseCaption = "Pause All Activity";
 constexpr std::string_view kResumeCaption = "Resume Activity";
 
-// Display at start, as stored.
+// Stored values of the display mode at start.
 constexpr double kFullyDisplayed = 1;
 constexpr double kMinimised = 2;
 constexpr double kHidden = 3;
@@ -68,7 +68,7 @@ void WindowModes::Pause() {
   screens_.time_intervals.lblNextRelease.SetVisible(false);
 }
 
-/// Timer3 stays off: a start-up release that was paused before it came never comes in this run.
+/// Leaves Timer3 off: a start-up release that was paused before it was due does not happen in this run.
 void WindowModes::Resume() {
   screens_.quondix.Command3.SetCaption(kPauseCaption);
   screens_.automatic.Check1.SetEnabled(true);

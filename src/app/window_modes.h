@@ -1,4 +1,4 @@
-// Hiding, minimising and pausing the program, and how it shows itself at the next start.
+// Hides, minimises and pauses the program, and sets how it appears at the next start.
 #pragma once
 
 #include "screens/automatic_screen.h"
@@ -22,10 +22,10 @@ class WindowModes {
 
   WindowModes(shell::SettingsStore& settings, const Screens& screens);
 
-  /// Ticks the stored display mode and minimises or hides the window that is about to be shown. An unknown
-  /// mode ticks none.
+  /// Selects the option of the stored display mode and minimises or hides the window before it is shown. An
+  /// unknown mode selects none.
   void LoadStartDisplay();
-  /// True where the window must not be shown after the load.
+  /// True if the window must not be shown after the load.
   [[nodiscard]] bool StartsHidden() const { return starts_hidden_; }
 
   base::Status Command2_Click();

@@ -1,5 +1,5 @@
-// The entry of the shipped program: puts the program, its windows and the real system together and runs the
-// message loop. Decides nothing.
+// The entry point of the shipped program: connects the program, its windows and Windows itself, and runs the
+// message loop. Contains no logic.
 #include <windows.h>
 
 #include <memory>
@@ -16,8 +16,8 @@ namespace {
 
 static_assert(screens::kProgramPicture == kProgramIcon && screens::kLightBulbPicture == kLightBulbIcon);
 
-/// What lives as long as the process runs its loop. On the heap, since the controls alone are more than a
-/// frame of the stack should hold.
+/// Everything that lives while the message loop runs. Allocated on the heap: the controls alone would be too
+/// large for a stack frame.
 class Program {
  public:
   explicit Program(HINSTANCE instance)
@@ -34,9 +34,9 @@ class Program {
                            reinterpret_cast<os::IconHandle>(window_.SmallIcon()));
   }
 
-  /// `show_command` is the wish of whoever started the program (SW_...). It counts where the start shows the
-  /// window, not when a window that started hidden is shown later. Returns when the window has unloaded;
-  /// false where the windows could not be made.
+  /// `show_command` is how the caller wants the window shown (SW_...). It applies only if the window is shown
+  /// at start, not if a hidden window is shown later. Returns when the window has unloaded; returns false if
+  /// the windows could not be made.
   [[nodiscard]] bool Run(int show_command) {
     if (!window_.Complete()) return false;
     window_.SetStartCommand(show_command);
@@ -52,7 +52,7 @@ class Program {
 
   void TaskbarCreated() { form1_.Tray().AddToTray(); }
 
-  // The windows go first, then the program whose models they show, then the system.
+  // Destroyed in reverse order: first the windows, then the program whose models they show, then the system.
   os::win32::Win32System system_;
   Form1 form1_;
   screens::MainWindow::AllTimers timers_;
