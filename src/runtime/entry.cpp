@@ -1,4 +1,4 @@
-// Where the system enters a shipped program.
+// The point where Windows enters a shipped program.
 #include "runtime/entry.h"
 
 #include <windows.h>
@@ -16,8 +16,8 @@ int ShowCommand() {
 
 }  // namespace
 
-/// The linker is told this name; without it the entry would be wherever the code begins. The stack is aligned
-/// to 4 bytes only, which is all that 387 code needs.
+/// The linker gets this name as the entry point; without it, execution would start where the code begins. The
+/// stack is aligned only to 4 bytes, which is enough for 387 code.
 extern "C" [[noreturn]] void start() asm("_start");
 extern "C" [[noreturn]] void start() {
   qdix::runtime::SetFloatingPointControl();

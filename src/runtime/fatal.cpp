@@ -1,4 +1,4 @@
-// The ends of the program, and the hooks through which the headers of the standard library reach them.
+// Fatal exits of the program, and the hooks through which the headers of the standard library call them.
 #include "runtime/fatal.h"
 
 #include <windows.h>
@@ -11,8 +11,8 @@ namespace {
 
 constexpr UINT kExitCode = 3;
 
-/// The box runs a message loop, and what that calls may fail as well: the second failure shows no further
-/// box.
+/// True once a fatal exit has begun. Its message box runs a message loop, and a handler called from there may
+/// also fail: the second failure ends the process without another box.
 constinit bool ending = false;
 
 [[noreturn]] void End(const char* text) {

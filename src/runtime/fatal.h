@@ -1,13 +1,14 @@
-// Ends of the program that nothing can be done about.
+// Fatal exits: for failures from which the program cannot recover.
 #pragma once
 
 namespace qdix::runtime {
 
-/// The small program itself got no memory: says so without needing any, and ends the process.
+/// For use when an allocation of the program itself failed: shows a message that needs no allocation and ends
+/// the process.
 [[noreturn]] void EndForLackOfMemory();
 
-/// A mistake of the program's own that the headers detected, such as an index outside a text: ends the
-/// process.
+/// For an error in the program itself that the standard headers detected, such as an index outside a string:
+/// ends the process.
 [[noreturn]] void EndForInternalError();
 
 }  // namespace qdix::runtime

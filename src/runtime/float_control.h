@@ -1,16 +1,16 @@
-// The 387's control word that all figures of the program rest on. Printer drivers, the shell and its
-// extensions leave another one behind on Windows 95, 98 and ME.
+// The control word of the 387 that all calculations of the program rely on. On Windows 95, 98 and ME, printer
+// drivers, the shell and its extensions leave a different one behind.
 #pragma once
 
 namespace qdix::runtime {
 
-/// 53-bit precision, round to nearest, all exceptions masked: the arithmetic of the tests.
+/// Sets 53-bit precision, rounding to nearest, all exceptions masked: the same arithmetic as in the tests.
 inline void SetFloatingPointControl() {
   constexpr unsigned short kControlWord = 0x027F;
   asm volatile("fldcw %0" ::"m"(kControlWord));
 }
 
-/// Sets the control word again when it goes out of scope, after a call that runs code of others.
+/// Sets the control word again at the end of its scope. For calls that run code of other programs or drivers.
 class FloatingPointKeeper {
  public:
   FloatingPointKeeper() = default;

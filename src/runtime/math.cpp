@@ -1,4 +1,4 @@
-// The mathematical functions that the program uses, on the 387.
+// The mathematical functions that the program uses, for the 387.
 
 extern "C" double floor(double value) {
   constexpr unsigned short kRoundingBits = 0x0C00;

@@ -1,4 +1,4 @@
-// Memory functions that the compiler calls by name, and new and delete on the heap of the process.
+// Memory functions that the compiler calls by name, and new and delete on the process heap.
 #include <windows.h>
 
 #include <cstddef>
