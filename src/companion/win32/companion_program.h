@@ -1,5 +1,5 @@
-// What the entries of the companion programs have in common: the real system, the program object, its window,
-// and the message loop. Decides nothing.
+// The common part of the companion programs' entry points: the real system, the program object, its window,
+// and the message loop. Contains no logic.
 #pragma once
 
 #include <windows.h>
@@ -11,8 +11,9 @@
 
 namespace qdix::companion::win32 {
 
-/// `Program` takes the system, and whatever else is given here, and has TheApplication, Window, Start and
-/// EndSession. Lives on the heap, since the controls alone are more than a frame of the stack should hold.
+/// `Program` is constructed from the system and any further arguments given here. It must have
+/// TheApplication, Window, Start and EndSession. Allocate this on the heap: the controls alone would be too
+/// large for a stack frame.
 template <class Program>
 class CompanionProgram {
  public:
@@ -30,8 +31,8 @@ class CompanionProgram {
   [[nodiscard]] Program& TheProgram() { return program_; }
   [[nodiscard]] ui::win32::FormWindow& Window() { return window_; }
 
-  /// `show_command` is the wish of whoever started the program (SW_...). Returns when the window has
-  /// unloaded; false where the windows could not be made.
+  /// `show_command` is how the caller wants the window shown (SW_...). Returns when the window has unloaded;
+  /// returns false if the windows could not be made.
   [[nodiscard]] bool Run(int show_command) {
     if (!window_.Complete()) return false;
     window_.SetStartCommand(show_command);
@@ -42,7 +43,7 @@ class CompanionProgram {
   }
 
  private:
-  // The windows go first, then the program whose models they show, then the system.
+  // Destroyed in reverse order: first the windows, then the program whose models they show, then the system.
   os::win32::Win32System system_;
   Program program_;
   ui::win32::FormWindow window_;
