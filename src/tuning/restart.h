@@ -1,4 +1,4 @@
-// The restart of the machine, without which changed settings of the system take no effect.
+// Restarts Windows, which changed system settings need to take effect.
 #pragma once
 
 #include "os/system.h"
@@ -12,13 +12,13 @@ class Restart {
   Restart(const os::System& system, const ui::Application& application, ui::Form& form)
       : system_(system), application_(application), form_(form) {}
 
-  /// Asks the system to restart the machine. A refusal is passed over.
+  /// Asks Windows to restart the machine. Ignores a refusal.
   void RebootMachine();
 
   /// Restarts the machine and ends the program.
   void RebootAndUnload();
 
-  /// Says that the new settings need a restart, and restarts where the user agrees.
+  /// Says that the new settings need a restart, and restarts if the user agrees.
   void Offer();
 
  private:

@@ -9,14 +9,16 @@ namespace qdix::tuning {
 
 namespace {
 
-/// Machines of 32 MB and below, which read as a little more than 32 of these megabytes.
+/// Limit for machines with 32 MB or less, which read as a little more than 32 of these megabytes of 1,024,000
+/// bytes.
 constexpr double kSmallBelowMb = 33;
 constexpr double kHalfOfAMegabyteKb = 512;
 
 constexpr CacheSize Kb(std::int32_t size_kb) { return {.fixed_kb = size_kb, .share = 0}; }
 constexpr CacheSize Share(double share) { return {.fixed_kb = 0, .share = share}; }
 
-/// Name; minimum small, else, enabled; maximum small, else; chunk; name cache; directory cache.
+/// Name; minimum on small machines, otherwise, enabled; maximum on small machines, otherwise; chunk; name
+/// cache; directory cache.
 constexpr std::array<CachePreset, 12> kPresets{{
     {"Standard System (Win95)", Kb(512), Kb(512), false, Share(0.25), Share(0.25), 512, 2048, 64},
     {"Standard System (Win98/ME)", Kb(512), Kb(512), false, Share(0.31), Share(0.31), 1024, 2048, 64},
@@ -32,7 +34,7 @@ constexpr std::array<CachePreset, 12> kPresets{{
     {"Low Memory System (Win98/ME)", Kb(512), Kb(512), false, Share(0.19), Share(0.09), 512, 337, 16},
 }};
 
-/// How recognition treats a preset whose fixed settings fit but whose shares do not.
+/// What recognition does with a preset whose fixed settings match but whose shares do not.
 enum class Otherwise {
   kTryTheNext,
   kStop,
@@ -56,7 +58,7 @@ constexpr std::array<ChainLink, 10> kChain{{
     {"CD Writer (Win98/ME)", Otherwise::kStop},
 }};
 
-/// Tested after the chain, whatever it found; the later one that fits is named.
+/// Tested after the chain, whatever the chain found. If both match, the second one wins.
 constexpr std::array<std::string_view, 2> kAfterChain{"Low Memory System (Win98/ME)",
                                                       "Multimedia (Win98/ME)"};
 

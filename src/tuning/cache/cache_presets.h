@@ -1,4 +1,4 @@
-// The named settings of the disk cache. One table, by which a preset is applied and recognised.
+// The named settings of the disk cache. The same table serves to apply and to recognise a preset.
 #pragma once
 
 #include <cstdint>
@@ -25,18 +25,19 @@ struct CacheValues {
 
 /// A size of the cache: fixed, or a share of the memory.
 struct CacheSize {
-  /// 0 where the size is a share.
+  /// 0 if the size is a share.
   std::int32_t fixed_kb = 0;
-  /// Of half a kilobyte for each kilobyte of memory.
+  /// Multiplied by 512 KB for each megabyte of memory.
   double share = 0;
 
-  /// Error 6 where the share is beyond 32 bits. Memory in megabytes of 1,024,000 bytes.
+  /// Returns the size in KB; error 6 if a share does not fit 32 bits. `total_ram_mb` is in megabytes of
+  /// 1,024,000 bytes.
   [[nodiscard]] base::Result<std::int32_t> For(double total_ram_mb) const;
 };
 
 struct CachePreset {
   std::string_view name;
-  /// On machines below 33 MB and on the others.
+  /// `small_...` applies to machines below 33 MB, the others above that.
   CacheSize small_min;
   CacheSize min;
   bool min_enabled;
@@ -46,23 +47,23 @@ struct CachePreset {
   std::int32_t name_cache;
   std::int32_t directory_cache;
 
-  /// True where the minimum does not depend on the memory.
+  /// True if the minimum does not depend on the memory.
   [[nodiscard]] bool HasFixedMinimum() const;
-  /// The settings on a machine with this much memory.
+  /// Returns the settings for a machine with this much memory.
   [[nodiscard]] base::Result<CacheValues> For(double total_ram_mb) const;
 };
 
-/// Shown while the settings are those of no preset.
+/// Shown when the settings match no preset.
 inline constexpr std::string_view kUserDefined = "User-defined";
 
-/// The twelve presets in the order in which they are offered.
+/// Returns the twelve presets in display order.
 [[nodiscard]] std::span<const CachePreset> CachePresets();
 
-/// The preset of this name, or null.
+/// Returns the preset of this name, or null.
 [[nodiscard]] const CachePreset* FindCachePreset(std::string_view name);
 
-/// The preset that these settings are, or kUserDefined. Where two presets have the same values on a machine,
-/// the later system's is named.
+/// Returns the name of the preset with these settings, or kUserDefined. If two presets have the same values
+/// on a machine, returns the one for the later version of Windows.
 [[nodiscard]] std::string_view RecogniseCachePreset(const CacheValues& values, double total_ram_mb);
 
 }  // namespace qdix::tuning

@@ -7,8 +7,7 @@ namespace qdix::tuning {
 
 namespace {
 
-/// The file under the name that its writes give it; the removals write it small. The system makes no
-/// difference.
+/// The spelling of the file name for writing; removals use lower case. Windows treats both alike.
 constexpr const char* kWrittenFile = "System.ini";
 
 }  // namespace
@@ -37,8 +36,8 @@ base::Status CacheSave::Command11_Click() {
   return base::kDone;
 }
 
-/// The caption comes before the entries whose writing makes the key, so a machine without the key gets it
-/// with the second save.
+/// Writes the caption before the entries that create the key, so on a machine without the key only the second
+/// save writes the caption.
 base::Status CacheSave::Save() {
   first_save_.CheckFirstSave();
   registry_.WriteRegistryText(os::kHkeyLocalMachine, kTemplatesKey, kUnnamedValue, kOwnTemplate);

@@ -1,5 +1,5 @@
-// Writes the settings of the disk cache into system.ini and into a file-system template of the program's own,
-// and the way back to what Windows does by itself.
+// Writes the settings of the disk cache to system.ini and to the program's own file-system template. Also
+// resets them to the Windows defaults.
 #pragma once
 
 #include "os/system.h"
@@ -17,10 +17,11 @@ class CacheSave {
   CacheSave(const os::System& system, const ui::Application& application, screens::CacheScreen& screen,
             SystemIni& system_ini, FirstSave& first_save, Restart& restart);
 
-  /// "Save Settings". Asks first, then writes and offers the restart. What cannot be written stays as it was.
+  /// "Save Settings". Asks first, then writes and offers to restart. Settings that cannot be written stay
+  /// unchanged.
   base::Status Command11_Click();
 
-  /// "System Defaults": clears all boxes, so that the next save removes the settings.
+  /// "System Defaults": clears all boxes. The next save then removes the settings.
   base::Status Command14_Click();
 
  private:

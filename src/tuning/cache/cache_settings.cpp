@@ -10,7 +10,7 @@ namespace qdix::tuning {
 
 namespace {
 
-/// The largest size that is offered, for each megabyte of memory: a little less than half of it.
+/// Maximum size on offer for each megabyte (1,024,000 bytes) of memory: half of it.
 constexpr double kLargestCacheKbPerMb = 500;
 constexpr std::int32_t kSmallestCacheKb = 512;
 
@@ -98,7 +98,7 @@ void CacheSettings::SetupCache() {
   LoadTemplateEntry(DirectoryCache(), kPathCacheValue);
 }
 
-/// A size that this machine cannot have is shown as one that is not set.
+/// A size outside the range of this machine is shown as not set.
 void CacheSettings::LoadCacheSize(const Group& group, const char* key) {
   const double size_kb = system_ini_.ReadIniValue(kVcacheSection, key);
   const bool is_set = size_kb >= group.slider.Minimum() && size_kb <= group.slider.Maximum();
@@ -137,7 +137,7 @@ void CacheSettings::CheckCacheStartValues() {
 base::Status CacheSettings::Combo2_Click() {
   applying_preset_ = true;
   const CachePreset* const preset = FindCachePreset(screen_.Combo2.Text());
-  // The box that stays raised changes nothing: the list shows already what the boxes would make of it.
+  // Leaving the flag set has no effect: the list already shows what the boxes would set it to.
   if (preset == nullptr) return base::kDone;
   const base::Result<CacheValues> values = preset->For(monitor_.TotalRAM());
   if (!values.Ok()) return values.Error();

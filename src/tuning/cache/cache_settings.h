@@ -1,5 +1,5 @@
-// The settings of the disk cache as the "Cache Settings" tab shows them: read from the system, set by a
-// preset, changed by hand. Nothing is written here.
+// The settings of the disk cache on the "Cache Settings" tab: read from the system, set by a preset, changed
+// by the user. Writes nothing.
 #pragma once
 
 #include "memory/memory_monitor.h"
@@ -16,13 +16,12 @@ class CacheSettings {
   CacheSettings(const os::System& system, const SystemIni& system_ini, const memory::MemoryMonitor& monitor,
                 screens::CacheScreen& screen);
 
-  /// Fills the list of presets.
   void FillList();
 
-  /// Fills the tab from system.ini and from the program's own file-system template.
+  /// Fills the tab from system.ini and the program's own file-system template.
   void SetupCache();
 
-  /// Names the preset that the sliders show, where they show one.
+  /// Selects the preset that matches the sliders, or "User-defined".
   void CheckCacheStartValues();
 
   /// Applies the preset that the user chose.
@@ -40,7 +39,7 @@ class CacheSettings {
   base::Status Slider5_Moved(std::int32_t value);
 
  private:
-  /// A slider, the label that shows its value, and the box without which it sets nothing.
+  /// A slider, the label with its value, and the check box that turns the setting on.
   struct Group;
   [[nodiscard]] Group MinCache() const;
   [[nodiscard]] Group MaxCache() const;
@@ -61,7 +60,7 @@ class CacheSettings {
   const SystemIni& system_ini_;
   const memory::MemoryMonitor& monitor_;
   screens::CacheScreen& screen_;
-  /// Boxes that a preset ticks do not make the settings the user's own.
+  /// True while a preset is applied. The boxes that it ticks must not make the settings user-defined.
   bool applying_preset_ = false;
 };
 

@@ -1,5 +1,5 @@
-// Before the program changes the system for the first time it copies system.ini and writes down what stood
-// there: the machine's state before, once and for all.
+// Backs up system.ini and records the previous settings before the program changes the system for the first
+// time. Done once per machine.
 #pragma once
 
 #include "os/system.h"
@@ -14,8 +14,8 @@ class FirstSave {
   FirstSave(const os::System& system, SystemIni& system_ini)
       : system_(system), registry_(system.registry), paths_(system.registry), system_ini_(system_ini) {}
 
-  /// Takes backup and record where none was taken before, and writes the record to the disk: after a crash
-  /// there must be no changed system.ini without it. What fails is passed over and not tried again.
+  /// Makes the backup and the record if there is none yet, and flushes the record to the disk: after a crash
+  /// there must be no changed system.ini without it. Failures are ignored and not retried.
   void CheckFirstSave();
 
  private:

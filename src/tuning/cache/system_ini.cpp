@@ -40,7 +40,7 @@ void SystemIni::DeleteIniValue(const char* section, const char* key, const char*
 
 std::string SystemIni::WindowsFolder() const {
   std::array<char, kBufferBytes> buffer{};
-  // A folder that does not fit leaves the buffer empty, and the copy fails like any other.
+  // If the folder name does not fit, the buffer stays empty and the later copy fails.
   static_cast<void>(files_.GetWindowsDirectoryA(buffer.data(), kBufferBytes));
   std::string folder(base::CutAtNul({buffer.data(), buffer.size()}));
   if (!folder.ends_with('\\')) folder += '\\';

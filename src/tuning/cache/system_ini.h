@@ -1,4 +1,4 @@
-// Single entries of system.ini, and its backup before the program's first change.
+// Reads and writes single entries of system.ini and backs it up before the program's first change.
 #pragma once
 
 #include <cstdint>
@@ -10,42 +10,43 @@
 namespace qdix::tuning {
 
 inline constexpr const char* kSystemIni = "system.ini";
-/// Its copy beside it, made before the program's first change. One that could not be replaced then is older.
+/// The backup in the same folder, made before the program's first change. It is older if it already existed
+/// and could not be replaced.
 inline constexpr const char* kSystemBackup = "system.qdix";
 inline constexpr const char* kVcacheSection = "vcache";
 inline constexpr const char* k386EnhSection = "386Enh";
 
 class SystemIni {
  public:
-  /// An entry's text, cut at 254 characters, and the number of characters that the system copied.
+  /// The text of an entry, cut at 254 characters, and the number of characters that Windows copied.
   struct Entry {
     std::string text;
     std::uint32_t copied = 0;
 
-    /// One character is what a missing entry reads as; an entry of a single one is taken for missing.
+    /// A missing entry reads as one character, so an entry of one character counts as missing.
     [[nodiscard]] bool ReadsAsMissing() const { return copied == 1; }
   };
 
   SystemIni(os::ProfileFiles& profile_files, os::Files& files)
       : profile_files_(profile_files), files_(files) {}
 
-  /// The entry as it is, "0" where it is missing.
+  /// Returns the entry unchanged, or "0" if it is missing.
   [[nodiscard]] Entry ReadIniText(const char* section, const char* key) const;
-  /// The leading number of the entry, 0 where there is none.
+  /// Returns the leading number of the entry, or 0 if there is none.
   [[nodiscard]] double ReadIniValue(const char* section, const char* key) const;
 
-  /// Writes an entry. A refusal is passed over.
+  /// Writes an entry. Ignores a failure.
   void WriteIniText(const char* section, const char* key, const std::string& text, const char* file);
-  /// Writes a number in decimal. A refusal is passed over.
+  /// Writes a number in decimal. Ignores a failure.
   void WriteIniValue(const char* section, const char* key, std::int32_t value, const char* file);
-  /// Removes an entry. A refusal is passed over.
+  /// Removes an entry. Ignores a failure.
   void DeleteIniValue(const char* section, const char* key, const char* file);
 
-  /// Copies system.ini to system.qdix beside it, over an earlier one. A failure is passed over, and leaves no
-  /// file, the earlier one, or a part.
+  /// Copies system.ini to system.qdix in the same folder, replacing an earlier backup. Ignores a failure,
+  /// which leaves no file, the earlier one, or a part.
   void BackupSystemINI();
 
-  /// The Windows directory with a backslash at its end.
+  /// Returns the Windows folder with a backslash at the end.
   [[nodiscard]] std::string WindowsFolder() const;
 
  private:

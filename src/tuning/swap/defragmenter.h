@@ -1,4 +1,4 @@
-// Runs the system's disk defragmenter in place of this program.
+// Runs the disk defragmenter of Windows in place of this program.
 #pragma once
 
 #include "os/system.h"
@@ -14,8 +14,8 @@ class Defragmenter {
   Defragmenter(const os::System& system, const ui::Application& application, ui::Form& form,
                screens::SwapFileScreen& screen, const SwapFile& swap_file);
 
-  /// Asks, starts the defragmenter on the selected drive and ends the program. An error of the start where
-  /// the system has none.
+  /// Asks, starts the defragmenter on the selected drive and ends the program. Returns an error if the
+  /// defragmenter is missing.
   base::Status Command26_Click();
 
  private:

@@ -11,13 +11,13 @@ namespace {
 
 constexpr const char* kAskedRoot = "C:\\";
 
-/// Room for 19 roots; a machine with more drives has an empty list.
+/// Room for 19 root names. On a machine with more drives the list is empty.
 constexpr std::uint32_t kListRoom = 78;
-/// The passes over the list are bounded, whatever it holds.
+/// Limits the loop, whatever the buffer holds.
 constexpr int kMostPasses = 27;
 constexpr std::size_t kRootLength = 3;
 
-/// A volume whose flags reach this value is a compressed one.
+/// Volume flags of this value or more mark a compressed volume.
 constexpr std::int32_t kCompressedFlag = 32768;
 
 constexpr std::uint32_t kRemovable = 2;

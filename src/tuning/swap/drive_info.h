@@ -1,5 +1,4 @@
-// Which drives the machine has, and how much is free on them. Free space is shown in megabytes of 1,024,000
-// bytes.
+// Drives of the machine and their free space. Free space is shown in megabytes of 1,024,000 bytes.
 #pragma once
 
 #include <cstdint>
@@ -10,14 +9,14 @@
 
 namespace qdix::tuning {
 
-/// What is known of a volume. The first four are 0 where the extended query answered.
+/// Properties of a volume. The first four are 0 if the extended query answered.
 struct DriveSpaceInfo {
   std::int32_t sectors_per_cluster = 0;
   std::int32_t bytes_per_sector = 0;
   std::int32_t free_clusters = 0;
   std::int32_t total_clusters = 0;
   std::int64_t free_bytes = 0;
-  /// Free for the user who asks.
+  /// Free for the current user.
   std::int64_t available_bytes = 0;
   std::int64_t used_bytes = 0;
   std::int64_t total_bytes = 0;
@@ -27,29 +26,30 @@ class DriveInfo {
  public:
   explicit DriveInfo(os::Drives& drives) : drives_(drives) {}
 
-  /// True where the extended query works on this system.
+  /// True if the extended query works on this version of Windows.
   [[nodiscard]] bool HasDiskFreeSpaceEx();
-  /// Which of the two queries GetDiskSpace makes; the classic one at first.
+  /// Selects the query that GetDiskSpace uses; initially the classic one.
   void SetUseDiskFreeSpaceEx(bool use) { use_disk_free_space_ex_ = use; }
 
-  /// 1 where the volume could be asked, else 0. The root may lack its backslash. The classic query counts in
-  /// 32 bits: a volume of 2 GB and more gives 0, and the record stays as far as it was filled.
+  /// Returns 1 if the volume could be queried, otherwise 0. The root may lack its backslash. The classic
+  /// query counts in 32 bits: for a volume of 2 GB or more it returns 0 and leaves the record partly filled.
   std::int32_t GetDiskSpace(const std::string& root, DriveSpaceInfo& info);
 
-  /// Free space in megabytes of 1,024,000 bytes, with fractions; 0 where it cannot be told.
+  /// Returns the free space in megabytes of 1,024,000 bytes, with fractions; 0 if it is unknown.
   [[nodiscard]] double FreeMegabytes(const std::string& root);
 
-  /// A sentence about the kind of drive. Floppy drives are known by a lower-case letter only.
+  /// Returns a sentence about the type of drive. Recognises floppy drives only by a lower-case letter.
   [[nodiscard]] std::string GetDriveTypeText(const std::string& root);
 
-  /// The roots as the system lists them, each with its NUL and one NUL more; empty where they do not fit or
-  /// cannot be told.
+  /// Returns the root names as Windows lists them, each with its NUL, plus one NUL; empty if they do not fit
+  /// or the query fails.
   [[nodiscard]] std::string GetDriveList();
 
-  /// Cuts the part before the first NUL off the front; without one it gives nothing and leaves the text.
+  /// Removes the part before the first NUL from the text, with the NUL, and returns that part. Without a NUL,
+  /// returns an empty string and leaves the text alone.
   static std::string StripNull(std::string& text);
 
-  /// Fills a list with the fixed drives and their free space ("C:\ 1234MB Free"), compressed ones left out.
+  /// Fills a list with the fixed drives and their free space ("C:\ 1234MB Free"), except compressed drives.
   void FillDriveCombo(ui::ListControl& list);
 
  private:

@@ -38,12 +38,12 @@ void SwapFile::LoadManagedByWindows() {
   const SystemIni::Entry paging = system_ini_.ReadIniText(k386EnhSection, kPagingEntry);
   const bool is_on = paging.ReadsAsMissing() || base::Trim(paging.text).starts_with("on");
   (is_on ? screen_.optSwap1 : screen_.optSwap3).SetSelected(true);
-  base::Ignore(screen_.Combo3.SetSelectedIndex(0));  // a machine without a fixed drive has no first row
+  base::Ignore(screen_.Combo3.SetSelectedIndex(0));  // fails only on a machine without a fixed drive
   DisableSwapfileScreen();
   ShowSize(ProposedMb());
 }
 
-/// Both sizes are read, also where the first one has told already that the setup is another's.
+/// Reads both sizes even if the first one already shows a foreign setup.
 void SwapFile::LoadOwnSetup(const std::string& paging_drive) {
   SelectDrive(paging_drive);
   const double min_mb = base::RoundHalfEven(ReadSizeMb(kMinPagingFileSizeEntry));
@@ -58,7 +58,7 @@ void SwapFile::LoadOwnSetup(const std::string& paging_drive) {
   ShowSize(max_mb == 0 ? ProposedMb() : max_mb);
 }
 
-/// A size that is missing makes the setup another's, and counts as 0.
+/// A missing size means a foreign setup and counts as 0.
 double SwapFile::ReadSizeMb(const char* key) {
   const SystemIni::Entry size_kb = system_ini_.ReadIniText(k386EnhSection, key);
   if (size_kb.ReadsAsMissing()) {
@@ -71,7 +71,7 @@ double SwapFile::ReadSizeMb(const char* key) {
 void SwapFile::SelectDrive(const std::string& paging_drive) {
   for (int row = 0; row < screen_.Combo3.Count(); ++row) {
     if (DriveOf(row) != paging_drive.substr(0, kDriveLength)) continue;
-    base::Ignore(screen_.Combo3.SetSelectedIndex(row));  // the row was just seen
+    base::Ignore(screen_.Combo3.SetSelectedIndex(row));  // the row was just found
     return;
   }
 }

@@ -1,5 +1,5 @@
-// The configuration of the swap file as the "Optimize Swapfile" tab shows it: read from system.ini when the
-// window loads, then changed by hand. Nothing is written here.
+// The configuration of the swap file on the "Optimize Swapfile" tab: read from system.ini when the window
+// loads, then changed by the user. Writes nothing.
 #pragma once
 
 #include <string>
@@ -17,7 +17,7 @@ inline constexpr const char* kMinPagingFileSizeEntry = "MinPagingFileSize";
 inline constexpr const char* kMaxPagingFileSizeEntry = "MaxPagingFileSize";
 inline constexpr const char* kPagingEntry = "Paging";
 
-/// Sizes stand in megabytes on the screen and in kilobytes in system.ini.
+/// Sizes are in megabytes on the screen and in kilobytes in system.ini.
 inline constexpr double kKilobytesPerMegabyte = 1024;
 
 class SwapFile {
@@ -33,19 +33,18 @@ class SwapFile {
   base::Status optSwap1_Click();
   base::Status optSwap2_Click();
   base::Status Text8_KeyPress(char& character);
-  /// Always accepts. Error 380 where the bar does not reach that far.
+  /// Always accepts the text. Returns error 380 if it is outside the scroll bar's range.
   base::Result<bool> Text8_Validate();
   base::Status VScroll4_Change();
 
-  /// Shows a size and sets the bar to it. Error 380 where the bar does not reach that far.
+  /// Shows a size and sets the scroll bar to it. Returns error 380 if it is outside the scroll bar's range.
   base::Status SetSize(std::int32_t size_mb);
 
-  /// The letter and colon of the drive in a row of the list, or of the selected one; empty where there is
-  /// none.
+  /// Return the drive letter and colon of a row of the list, or of the selected row; empty if there is none.
   [[nodiscard]] std::string DriveOf(int row) const;
   [[nodiscard]] std::string SelectedDrive() const;
 
-  /// Free space of a drive in whole megabytes of 1,024,000 bytes.
+  /// Returns the free space of a drive in whole megabytes of 1,024,000 bytes.
   [[nodiscard]] double FreeMb(const std::string& drive);
 
  private:
@@ -62,7 +61,8 @@ class SwapFile {
   DriveInfo& drives_;
   const memory::MemoryMonitor& monitor_;
   screens::SwapFileScreen& screen_;
-  /// The bar is being set to a size that it may not reach or that has fractions: the size stays as it is.
+  /// True while the scroll bar is set to a size that may be outside its range or have fractions. The size in
+  /// the text box must then not change.
   bool loading_ = false;
 };
 

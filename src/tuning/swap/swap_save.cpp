@@ -73,7 +73,7 @@ void SwapSave::SaveOwnSetup() {
   tools_.restart.Offer();
 }
 
-/// Equal sizes are what makes the next load see the setup as this program's.
+/// Writes equal sizes: the next load recognises the program's own setup by them.
 void SwapSave::Write(const std::string& drive, double size_mb) {
   const std::string size_kb = base::ShortestText(size_mb * kKilobytesPerMegabyte);
   tools_.system_ini.WriteIniText(k386EnhSection, kPagingDriveEntry, drive, kSystemIni);

@@ -1,4 +1,4 @@
-// Writes the configuration of the swap file into system.ini.
+// Writes the configuration of the swap file to system.ini.
 #pragma once
 
 #include "memory/memory_monitor.h"
@@ -14,7 +14,7 @@ namespace qdix::tuning {
 
 class SwapSave {
  public:
-  /// What a save writes with.
+  /// What a save needs.
   struct Tools {
     SystemIni& system_ini;
     FirstSave& first_save;
@@ -24,7 +24,7 @@ class SwapSave {
   SwapSave(os::Dialogs& dialogs, const ui::Application& application, const memory::MemoryMonitor& monitor,
            screens::SwapFileScreen& screen, SwapFile& swap_file, const Tools& tools);
 
-  /// "Save Changes". The record of what stood before is taken at once, everything else asks first.
+  /// "Save Changes". Records the previous settings at once; asks before any other change.
   base::Status Command18_Click();
 
  private:

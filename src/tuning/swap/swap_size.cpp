@@ -4,7 +4,8 @@
 
 namespace qdix::tuning {
 
-/// The test asks for a thousandth of the size only, so any drive with a few megabytes free gets the multiple.
+/// The condition compares only a thousandth of the size, so any drive with a few megabytes free gets the
+/// multiple.
 double ProposedSwapMb(double total_ram_mb, double free_mb) {
   constexpr double kTimesMemory = 3;
   constexpr double kReserveMb = 10;

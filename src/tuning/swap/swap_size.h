@@ -1,5 +1,5 @@
-// Sizes of a swap file, worked out from memory and free space. Memory and free space are megabytes of
-// 1,024,000 bytes, a swap file's size megabytes of 1,024 kilobytes; they are compared as they stand.
+// Calculates swap file sizes from memory and free space. Memory and free space are in megabytes of 1,024,000
+// bytes, swap file sizes in megabytes of 1,024 kilobytes; they are compared without conversion.
 #pragma once
 
 #include <cstdint>
@@ -8,17 +8,17 @@
 
 namespace qdix::tuning {
 
-/// What is shown where system.ini names no size: three times the memory, or what the drive has less a
-/// reserve.
+/// Returns the size to show if system.ini has none: three times the memory, or the free space less a reserve.
 [[nodiscard]] double ProposedSwapMb(double total_ram_mb, double free_mb);
 
-/// What is suggested to beginners: two to three times the memory. Error 6 where 16 bits do not hold it.
+/// Returns the size suggested to beginners: two to three times the memory. Error 6 if it does not fit 16
+/// bits.
 [[nodiscard]] base::Result<std::int16_t> SuggestedSwapMb(double total_ram_mb);
 
-/// Free space that a drive must have beyond the suggested size.
+/// Free space in megabytes that a drive must have beyond the suggested size.
 inline constexpr std::int32_t kSuggestionReserveMb = 100;
 
-/// A swap file leaves at least this much of a drive free.
+/// Megabytes that a swap file must leave free on its drive.
 inline constexpr double kSavedReserveMb = 20;
 
 }  // namespace qdix::tuning

@@ -31,7 +31,7 @@ base::Status SwapSuggestion::cmdBeginnerSwapFile_Click() {
 
 base::Status SwapSuggestion::Suggest(int row, std::int32_t size_mb) {
   const std::string drive = swap_file_.DriveOf(row);
-  base::Ignore(screen_.Combo3.SetSelectedIndex(row));  // the row was just seen
+  base::Ignore(screen_.Combo3.SetSelectedIndex(row));  // the row was just found
   const base::Status shown = swap_file_.SetSize(size_mb);
   if (!shown.Ok()) return shown;
   Show("Quondix suggests configuring your swapfile on your " + drive + " at a size of " +
@@ -45,7 +45,7 @@ base::Status SwapSuggestion::Suggest(int row, std::int32_t size_mb) {
   return base::kDone;
 }
 
-/// The text for one disk is shown where the list is empty; with any number of drives it is the other one.
+/// Shows the text for one disk only if the list is empty, and the other text for any number of drives.
 void SwapSuggestion::Refuse(std::int32_t size_mb) {
   const std::string needed_mb = base::TextOf(size_mb + kSuggestionReserveMb);
   if (screen_.Combo3.Count() == 0) {

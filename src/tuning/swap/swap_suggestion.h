@@ -1,4 +1,4 @@
-// The suggestion to beginners: on which drive a swap file of which size would fit. Writes nothing.
+// The suggestion for beginners: which drive has room for a swap file, and of which size. Writes nothing.
 #pragma once
 
 #include "memory/memory_monitor.h"
@@ -14,7 +14,8 @@ class SwapSuggestion {
   SwapSuggestion(os::Dialogs& dialogs, const ui::Application& application,
                  const memory::MemoryMonitor& monitor, screens::SwapFileScreen& screen, SwapFile& swap_file);
 
-  /// "Suggested Configuration (Beginners)". Where no drive has room, proposes to leave it to Windows.
+  /// "Suggested Configuration (Beginners)". If no drive has enough room, suggests to let Windows manage the
+  /// swap file.
   base::Status cmdBeginnerSwapFile_Click();
 
  private:
