@@ -7,9 +7,9 @@ namespace qdix::launcher {
 
 namespace {
 
-/// Ticks in which the editor opens its window: nine seconds.
+/// Time for the editor to open its window: 3 ticks, nine seconds.
 constexpr std::int16_t kOpeningTicks = 3;
-/// Twelve and a half minutes later nobody waits for the editor any more.
+/// The watch gives up after this many ticks, twelve and a half minutes.
 constexpr std::int16_t kMostTicks = 250;
 
 }  // namespace
@@ -29,7 +29,7 @@ base::Status ConfigWatch::Command15_Click() {
     system_.windows.SetForegroundWindow(editor);
     return base::kDone;
   }
-  // In quotation marks, since the folder's name may have blanks.
+  // In quotation marks, because the folder name may contain blanks.
   const std::string editor_path = shell::ApplicationFolder(system_.processes) + "configL.exe";
   const base::Status started = shell::StartProgram(system_.processes, '"' + editor_path + '"');
   if (!started.Ok()) return started;
@@ -38,8 +38,7 @@ base::Status ConfigWatch::Command15_Click() {
   return base::kDone;
 }
 
-/// The tick in which the watch gives up still looks once. A list that another program holds is read with a
-/// later tick.
+/// The tick that gives up still looks once. If another program holds the list open, a later tick reads it.
 base::Status ConfigWatch::Timer7_Timer() {
   ++config_watch_ticks_;
   if (config_watch_ticks_ <= kOpeningTicks) return base::kDone;

@@ -1,4 +1,4 @@
-// Opens the editor of the program list and waits for its end, to read the list anew.
+// Opens the editor of the program list and reads the list again when the editor closes.
 #pragma once
 
 #include <cstdint>
@@ -15,8 +15,8 @@ class ConfigWatch {
   ConfigWatch(const os::System& system, screens::LauncherScreen& screen, ui::Timer& timer7,
               ProgramLauncher& launcher);
 
-  /// "Configure Program List": starts the editor, or brings it forward where it is open already. An error of
-  /// the start where it is missing.
+  /// "Configure Program List": starts the editor, or brings it to the front if it is already open. Returns an
+  /// error if the editor cannot be started.
   base::Status Command15_Click();
   base::Status Timer7_Timer();
 

@@ -12,12 +12,13 @@ constexpr const char* kShareKey = "Launcher RAM";
 constexpr const char* kPassesKey = "Launcher Retry";
 constexpr const char* kFirst = "1";
 
-/// Megabytes of 1,040,000 bytes that one pass takes at most.
+/// Maximum amount of one pass, in megabytes of 1,040,000 bytes.
 constexpr double kMostMb = 250;
 
 }  // namespace
 
-/// The amount of each pass of one release. Without a share it stays what it was: nothing at first.
+/// Computes the amount of each pass of one release. If no share is selected, the amount stays as it was, 0 at
+/// first.
 struct LaunchRelease::Amount {
   const LaunchRelease& owner;
   double mb = 0;

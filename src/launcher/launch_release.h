@@ -1,4 +1,4 @@
-// The release before a program is started: its share of the memory and the number of its passes.
+// The release before a program starts: its share of the memory and its number of passes.
 #pragma once
 
 #include "memory/memory_monitor.h"
@@ -11,16 +11,16 @@ namespace qdix::launcher {
 
 class LaunchRelease {
  public:
-  /// `warning_silencer` is the box that keeps the warning of low resources from being shown.
+  /// `warning_silencer` is the check box that suppresses the warning about low resources.
   LaunchRelease(memory::MemoryRelease& release, const memory::MemoryMonitor& monitor,
                 shell::SettingsStore& settings, screens::LauncherScreen& screen,
                 const ui::CheckBox& warning_silencer);
 
-  /// Brings share and number of passes from the settings into their controls.
+  /// Shows the stored share and number of passes in their controls.
   void LoadSettings();
 
-  /// Frees the chosen share of the memory, 250 MB of 1,040,000 bytes at most, once for each pass. A failure
-  /// is told to the user and ends the passes.
+  /// Frees the selected share of the memory, at most 250 MB of 1,040,000 bytes, once per pass. A failure ends
+  /// the passes and is shown to the user.
   memory::ReleaseOutcome FreeMemoryBeforeLaunch();
 
   base::Status Option6_Click();

@@ -8,7 +8,7 @@ namespace qdix::launcher {
 
 namespace {
 
-/// The field that begins at `place` of the content, as far as the content goes.
+/// Returns the field at `place` of the content, as far as the content goes.
 std::string ReadField(std::string_view content, std::size_t place, std::size_t width) {
   if (place >= content.size()) return {};
   return std::string(base::Trim(content.substr(place, width)));
@@ -21,7 +21,7 @@ void AppendField(std::string& record, const std::string& field, std::size_t widt
 
 }  // namespace
 
-/// The length of a record is odd, so nothing lies exactly half-way.
+/// The length of a record is odd, so no remainder is exactly one half.
 std::size_t RecordCount(std::size_t file_bytes) {
   const std::size_t rest = file_bytes % kRecordBytes;
   return file_bytes / kRecordBytes + (rest > kRecordBytes / 2 ? 1 : 0);

@@ -1,5 +1,5 @@
-// The list of programs that the launcher offers, as it lies on the disk: records of one length, one after the
-// other, without a heading.
+// The file format of the launcher's program list: records of fixed length, one after the other, without a
+// header.
 #pragma once
 
 #include <cstddef>
@@ -12,40 +12,42 @@
 
 namespace qdix::launcher {
 
-/// Name of the file in the program's own folder.
+/// Name of the file, which is in the program's own folder.
 inline constexpr const char* kLauncherFileName = "launcher.dat";
 
-/// Bytes of the fields, in the order in which they stand in a record.
+/// Widths of the fields in bytes, in the order of the record.
 inline constexpr std::size_t kNameWidth = 55;
 inline constexpr std::size_t kPathWidth = 255;
 inline constexpr std::size_t kStartInWidth = 255;
 inline constexpr std::size_t kRecordBytes = kNameWidth + kPathWidth + kStartInWidth;
 
-/// The launcher has room for no more.
+/// Limit of the launcher.
 inline constexpr std::size_t kMostEntries = 25;
 
 struct LauncherEntry {
-  /// What the user sees.
+  /// The name that the user sees.
   std::string name;
   /// The command line that starts the program.
   std::string path;
-  /// The folder that the program is started in; empty for none.
+  /// Start folder of the program; empty for none.
   std::string start_in;
 
   bool operator==(const LauncherEntry&) const = default;
 };
 
-/// How many records a file of this length holds: a broken one at the end counts from its half on.
+/// Returns the number of records in a file of this length. An incomplete record at the end counts if at least
+/// half of it is there.
 [[nodiscard]] std::size_t RecordCount(std::size_t file_bytes);
 
-/// The record of this index, counted from 0, with the blanks taken off both ends of each field. What lies
-/// behind the end of the content reads as blanks. A NUL stays in its field; base::CutAtNul shows it.
+/// Returns the record with this index, counting from 0, with blanks trimmed from both ends of each field.
+/// Anything after the end of the content reads as blanks. A NUL stays in its field; use base::CutAtNul to
+/// display it.
 [[nodiscard]] LauncherEntry ReadRecord(std::string_view content, std::size_t index);
 
-/// All records of a file's content.
+/// Returns all records of a file's content.
 [[nodiscard]] std::vector<LauncherEntry> ReadRecords(std::string_view content);
 
-/// The bytes of a record: each field filled up with blanks, or cut, to its width.
+/// Returns the bytes of a record, with each field padded with blanks or cut to its width.
 [[nodiscard]] std::string RecordBytes(const LauncherEntry& entry);
 
 using shell::ReadWholeFile;

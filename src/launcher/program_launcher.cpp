@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kNoElement = 340;
 
-/// More records than can be shown are not looked at.
+/// Reads no more records than needed to detect that there are too many.
 constexpr std::uint32_t kMostBytes = static_cast<std::uint32_t>((kMostEntries + 2) * kRecordBytes);
 
 bool IsLetter(char character) {
@@ -52,7 +52,7 @@ base::Status ProgramLauncher::ShowList(const std::string& content) {
   return base::kDone;
 }
 
-/// A list that is neither there nor can be made, on a CD for example, counts as an empty one.
+/// A list that neither exists nor can be created, for example on a CD, counts as empty.
 std::optional<std::string> ProgramLauncher::ReadList() {
   const std::string path = shell::ApplicationFolder(system_.processes) + kLauncherFileName;
   std::optional<std::string> content = ReadWholeFile(system_.files, path, kMostBytes);
@@ -96,7 +96,7 @@ ProgramLauncher::Program ProgramLauncher::ProgramOf(std::size_t index) const {
           std::string(base::CutAtNul(launcher_start_in_[index]))};
 }
 
-/// The release handles events, in which the list may be read anew: the program is the one that was chosen.
+/// The release handles events, and one of them may reload the list, so the chosen program is copied first.
 base::Status ProgramLauncher::List5_DblClick() {
   screens::LauncherScreen& screen = screens_.launcher;
   const int selected = screen.List5.SelectedIndex();
@@ -125,7 +125,7 @@ void ProgramLauncher::Start(const Program& program) {
   Report(shell::StartProgram(system_.processes, program.path));
 }
 
-/// The drive first, which has a current folder of its own, then the folder.
+/// Sets the drive first, because each drive has its own current folder; then the folder.
 void ProgramLauncher::ChangeFolder(const std::string& folder) {
   if (!IsLetter(folder.front())) {
     Report(base::kInvalidProcedureCall);

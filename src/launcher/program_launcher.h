@@ -1,5 +1,5 @@
-// The list of the user's programs: read from its file, shown on the tab and in the menu of the tray icon, and
-// started from there.
+// The list of the user's programs: reads it from its file, shows it on the tab and in the menu of the tray
+// icon, and starts the programs.
 #pragma once
 
 #include <array>
@@ -28,29 +28,31 @@ class ProgramLauncher {
   ProgramLauncher(const os::System& system, const ui::Application& application, const Screens& screens,
                   LaunchRelease& release);
 
-  /// Reads the list and fills list and menu; a list that cannot be read counts as empty. Leaves an empty file
-  /// behind if there is none. Error 340 if the file holds more programs than the menu has entries.
+  /// Reads the list and fills the list box and the menu. A list that cannot be read counts as empty. Creates
+  /// an empty file if there is none. Returns error 340 if the file holds more programs than the menu has
+  /// entries.
   base::Status FillLauncherMenu();
 
-  /// Replaces what list and menu show by what the file holds now. False, with both left as they are, if the
-  /// file exists but cannot be opened or read, as while another program holds it.
+  /// Fills the list box and the menu from the file again. Returns false and changes neither if the file
+  /// exists but cannot be opened or read, for example while another program holds it open.
   base::Result<bool> ReloadLauncherMenu();
 
   base::Status List5_DblClick();
   base::Status mnuProgram_Click(int index);
 
  private:
-  /// One more than the menu has.
+  /// One more than the entries of the menu.
   static constexpr std::size_t kTableSlots = 26;
   using Table = std::array<std::string, kTableSlots>;
 
-  /// The bytes of the file, none if it does not exist; nothing if it exists but cannot be opened or read.
+  /// Returns the bytes of the file; empty if it does not exist; std::nullopt if it exists but cannot be
+  /// opened or read.
   [[nodiscard]] std::optional<std::string> ReadList();
   base::Status ShowList(const std::string& content);
   base::Status ShowRecords(const std::string& content);
-  /// Empties the menu, as far as a menu can be: its last entry stays.
+  /// Empties the menu as far as possible: its last entry stays visible.
   void HideMenu();
-  /// Start folder and command line as they were when the user chose the program.
+  /// A copy of the chosen program's start folder and command line; the list may be reloaded before the start.
   struct Program {
     std::string path;
     std::string start_in;
@@ -58,7 +60,7 @@ class ProgramLauncher {
   [[nodiscard]] Program ProgramOf(std::size_t index) const;
   void Start(const Program& program);
   void ChangeFolder(const std::string& folder);
-  /// Every error on the way to a program is told, and the way goes on.
+  /// Shows an error on the way to starting a program. The start continues anyway.
   void Report(const base::Status& status);
 
   const os::System& system_;
