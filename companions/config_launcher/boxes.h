@@ -1,5 +1,5 @@
-// The questions and messages of the program, all under its title. While one of them or a dialog is open the
-// window is not to be closed from outside: the answer would come too late.
+// The program's questions and messages, with its title. While one of them or a dialog is open, the window
+// must not be closed from outside: the answer would come too late.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ namespace qdix::config_launcher {
 
 class Boxes {
  public:
-  /// A box or a dialog is open for as long as this object lives.
+  /// Counts a message box or dialog as open during its lifetime.
   class Opened {
    public:
     explicit Opened(Boxes& boxes) : boxes_(boxes) { ++boxes_.open_; }
@@ -29,7 +29,7 @@ class Boxes {
 
   [[nodiscard]] bool AnyIsOpen() const { return open_ != 0; }
 
-  /// True where the user answers Yes and the program goes on. No is what Enter means.
+  /// Returns true if the user answers Yes and the window has not unloaded. The default button is No.
   [[nodiscard]] bool Ask(const std::string& question) {
     const Opened opened(*this);
     const int answer = system_.dialogs.MessageBoxA(
@@ -43,7 +43,7 @@ class Boxes {
     kCancel,
   };
 
-  /// The user's answer, of which Enter means Yes. No where the box could not be shown.
+  /// Returns the user's answer. The default button is Yes. Returns kNo if the box could not be shown.
   [[nodiscard]] Choice Choose(const std::string& question) {
     const Opened opened(*this);
     const int answer =

@@ -1,4 +1,4 @@
-// The two buttons "Browse...".
+// The two "Browse..." buttons.
 #pragma once
 
 #include "config_launcher/boxes.h"

@@ -8,7 +8,7 @@ namespace qdix::config_launcher {
 
 namespace {
 
-/// What is not as this program writes it; empty where all is well.
+/// Lists everything unusual about the file; empty if there is nothing.
 std::string Remarks(const FoundList& found) {
   std::string remarks;
   if (found.is_from_backup) {

@@ -1,4 +1,4 @@
-// The program: owns the window, what works on it, and the order from reading to writing.
+// The program: owns the window and everything that works on it, and controls reading and saving.
 #pragma once
 
 #include <cstdint>
@@ -24,20 +24,20 @@ class ConfigForm {
   ConfigForm& operator=(const ConfigForm&) = delete;
   ~ConfigForm() = default;
 
-  /// Reads the list, shows the window, and says what is not as it should be. Where another copy runs, or the
-  /// list is there and cannot be read, the window unloads instead.
+  /// Reads the list, shows the window and reports problems with the file. If another copy is running, or the
+  /// list exists but cannot be read, unloads the window instead.
   void Start();
 
-  /// The Windows session is about to end: asks what becomes of a list that is not saved. False keeps the
-  /// session going.
+  /// The Windows session is about to end. Asks whether to save a list that is not saved. Returning false
+  /// keeps the session going.
   [[nodiscard]] bool MaySessionEnd();
-  /// The Windows session ends: nothing more is asked or written, and the window unloads.
+  /// The Windows session ends. Unloads the window without asking or writing anything.
   void EndSession();
 
-  /// The window became the active one while it is minimised, in place of one of `former_thread`, which is 0
-  /// where the system does not tell. Restores it if that is Q-DIX, which can only bring it to the front. The
-  /// user's own ways to a minimised window, like its button on the taskbar, restore it or show its menu
-  /// without this.
+  /// The window was activated while minimised. `former_thread` is the thread whose window was active before;
+  /// 0 if Windows does not say. Restores the window if that thread is Q-DIX's, because Q-DIX can only bring
+  /// it to the front. When the user goes to a minimised window, for example with its taskbar button, Windows
+  /// restores it or shows its menu without this.
   void ActivatedMinimised(std::uint32_t former_thread);
 
   /// Files were dropped on the window.
@@ -48,9 +48,7 @@ class ConfigForm {
   [[nodiscard]] ConfigScreen& Screen() { return screen_; }
   [[nodiscard]] const std::vector<launcher::LauncherEntry>& Entries() const { return entry_list_.Entries(); }
 
-  /// "OK".
   base::Status cmdOK_Click();
-  /// "Cancel".
   base::Status cmdCancel_Click();
 
  private:

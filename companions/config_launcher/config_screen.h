@@ -1,4 +1,4 @@
-// The window of the program. What a form designer shows; no behaviour.
+// The window of the program. Contains what a form designer shows, no behaviour.
 #pragma once
 
 #include "launcher/launcher_file.h"
@@ -9,7 +9,6 @@
 
 namespace qdix::config_launcher {
 
-/// Title of the window and of the application.
 inline constexpr const char* kTitle = "Config Launcher";
 
 struct ConfigScreen {

@@ -65,7 +65,7 @@ void EntryList::FillList() {
   for (const LauncherEntry& entry : entries_) {
     screen_.lstPrograms.AddItem(entry.name.empty() ? "(no name)" : entry.name);
   }
-  base::Ignore(screen_.lstPrograms.SetSelectedIndex(selected_));  // it is one of the rows
+  base::Ignore(screen_.lstPrograms.SetSelectedIndex(selected_));  // always a valid row
   screen_.lblCount.SetCaption("(" + base::TextOf(Count()) + " of " +
                               base::TextOf(static_cast<std::int32_t>(launcher::kMostEntries)) + ")");
 }
@@ -77,12 +77,12 @@ void EntryList::RefreshButtons() {
   screen_.cmdMoveDown.SetEnabled(selected_ != kNone && selected_ + 1 < Count());
 }
 
-/// Also after an assignment from here, which finds nothing to do.
+/// Also called after an assignment from this class; then there is nothing to do.
 base::Status EntryList::lstPrograms_Click() {
   const int chosen = screen_.lstPrograms.SelectedIndex();
   if (chosen == selected_) return base::kDone;
   if (!MayDiscardFields()) {
-    base::Ignore(screen_.lstPrograms.SetSelectedIndex(selected_));  // it was selected before
+    base::Ignore(screen_.lstPrograms.SetSelectedIndex(selected_));  // the row was selected before
     return base::kDone;
   }
   selected_ = chosen;
@@ -188,7 +188,8 @@ base::Status EntryList::cmdChange_Click() {
   return base::kDone;
 }
 
-/// What is typed and nowhere else stays in the fields, and no other entry is selected for them.
+/// If the fields hold something that is not in the list, keeps it and selects no other entry, which would
+/// overwrite it.
 base::Status EntryList::cmdRemove_Click() {
   if (selected_ == kNone) return base::kDone;
   const bool keeps_fields = HasUnusedFields();
@@ -197,7 +198,7 @@ base::Status EntryList::cmdRemove_Click() {
   if (keeps_fields) {
     Select(kNone);
   } else {
-    Select(std::min(removed, Count() - 1));  // kNone when none is left
+    Select(std::min(removed, Count() - 1));  // kNone if the list is empty
     FillFields();
   }
   return base::kDone;
@@ -213,7 +214,7 @@ base::Status EntryList::cmdMoveDown_Click() {
   return base::kDone;
 }
 
-/// What is typed stays typed: the fields belong to the entry that moves.
+/// Leaves the fields alone: they belong to the entry that moves.
 void EntryList::MoveBy(int places) {
   const int target = selected_ + places;
   if (selected_ == kNone || target < 0 || target >= Count()) return;

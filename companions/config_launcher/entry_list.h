@@ -1,4 +1,4 @@
-// The list in the window and the fields below it: adding, changing, removing, moving.
+// The list in the window and the fields below it: adding, changing, removing and moving entries.
 #pragma once
 
 #include <string>
@@ -14,22 +14,24 @@ class EntryList {
  public:
   EntryList(const os::System& system, ConfigScreen& screen, Boxes& boxes);
 
-  /// Shows a list as it was read, the first entry selected.
+  /// Shows a list that was read and selects its first entry.
   void Take(const std::vector<launcher::LauncherEntry>& entries);
 
   [[nodiscard]] const std::vector<launcher::LauncherEntry>& Entries() const { return entries_; }
-  /// The list is not the one that was read or last saved.
+  /// True if the list differs from the one that was read or last saved.
   [[nodiscard]] bool IsChanged() const { return entries_ != on_disk_; }
-  /// The list is on the disk as it is now.
+  /// The list was saved as it is now.
   void WasSaved() { on_disk_ = entries_; }
-  /// The fields hold something else than the selected entry: typed, or from a file that was picked.
+  /// True if the fields differ from the selected entry: typed by the user, or taken from a file that the user
+  /// picked.
   [[nodiscard]] bool HasUnusedFields() const { return Typed() != Shown(); }
 
-  /// Files were dropped on the list: adds each of them. What is typed in the fields stays.
+  /// Files were dropped on the list. Adds each of them; the text typed in the fields stays.
   void AddFiles(const std::vector<std::string>& paths);
 
-  /// Selects nothing and fills the fields with an entry that "Add" then adds. Asks before a change of the
-  /// selected entry is lost. In an entry that is new already, name and folder stay as the user typed them.
+  /// Selects nothing and fills the fields with an entry, which "Add" then adds. Asks before discarding a
+  /// change of the selected entry. If the fields already hold a new entry, a name and folder typed by the
+  /// user stay.
   void StartNew(launcher::LauncherEntry entry);
 
   base::Status lstPrograms_Click();
@@ -48,7 +50,7 @@ class EntryList {
   [[nodiscard]] launcher::LauncherEntry& At(int index) { return entries_[static_cast<std::size_t>(index)]; }
   /// What the fields hold, without blanks at the ends and without quotation marks in the folder.
   [[nodiscard]] launcher::LauncherEntry Typed() const;
-  /// What the fields hold while nothing is pending in them: the selected entry, or nothing.
+  /// What the fields hold if nothing is pending in them: the selected entry, or nothing.
   [[nodiscard]] launcher::LauncherEntry Shown() const;
 
   void Select(int index);
@@ -59,7 +61,7 @@ class EntryList {
   void MoveBy(int places);
   [[nodiscard]] bool MayDiscardFields();
   [[nodiscard]] bool CanBeUsed(const launcher::LauncherEntry& entry);
-  /// Asks before the list holds an entry twice.
+  /// Asks before adding an entry that is already in the list.
   [[nodiscard]] bool MayAdd(const launcher::LauncherEntry& entry);
   [[nodiscard]] bool HasRoom();
 
@@ -68,7 +70,7 @@ class EntryList {
   Boxes& boxes_;
   std::vector<launcher::LauncherEntry> on_disk_;
   std::vector<launcher::LauncherEntry> entries_;
-  /// The entry that the fields belong to; none for a new one.
+  /// The entry to which the fields belong; kNone for a new one.
   int selected_ = kNone;
   /// What the program itself last put into the fields.
   launcher::LauncherEntry filled_;

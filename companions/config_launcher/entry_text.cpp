@@ -19,12 +19,12 @@ bool HasExtension(std::string_view path, std::string_view extension) {
 
 bool IsControlCharacter(char character) { return static_cast<unsigned char>(character) < 0x20U; }
 
-/// How many bytes the character takes that begins with this one.
+/// Returns the number of bytes of the character that begins with this byte.
 std::size_t CharacterBytes(os::Files& files, char first_byte) {
   return files.IsDBCSLeadByte(first_byte) ? 2 : 1;
 }
 
-/// What comes before and behind the last backslash of a path. Without one there is no folder.
+/// The parts before and after the last backslash of a path. Without a backslash, the folder is empty.
 struct PathParts {
   std::string_view folder;
   std::string_view file;
@@ -43,11 +43,11 @@ PathParts Split(os::Files& files, std::string_view path) {
 
 std::string_view WithoutExtension(std::string_view file) {
   const std::size_t dot = file.rfind('.');
-  // A name that begins with its only dot is no extension.
+  // A name that begins with its only dot has no extension.
   return dot == 0 ? file : file.substr(0, dot);
 }
 
-/// As many whole characters as an entry's name takes.
+/// Returns as many whole characters as fit the name of an entry.
 std::string CutToName(os::Files& files, std::string_view title) {
   std::size_t end = 0;
   while (end < title.size() && end + CharacterBytes(files, title[end]) <= launcher::kNameWidth) {
@@ -100,7 +100,7 @@ bool IsProgram(std::string_view path) {
                      [path](std::string_view extension) { return HasExtension(path, extension); });
 }
 
-/// A file whose title cannot be a name keeps its extension.
+/// If the title cannot be used as a name, keeps the extension.
 launcher::LauncherEntry EntryOfFile(os::Files& files, const std::string& path) {
   const PathParts parts = Split(files, path);
   const std::string_view title = WithoutExtension(parts.file);

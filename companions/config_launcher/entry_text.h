@@ -1,4 +1,4 @@
-// The texts of an entry: what may stand in them, and what a file gives.
+// The texts of an entry: which characters are allowed, and how a file becomes an entry.
 #pragma once
 
 #include <string>
@@ -10,45 +10,47 @@
 
 namespace qdix::config_launcher {
 
-/// True where the text of a field cannot be shown as it is.
+/// True if the text of a field cannot be displayed unchanged.
 [[nodiscard]] bool HasControlCharacters(std::string_view text);
 
-/// The text as it is shown: up to the first NUL, other control characters as blanks, none of these at either
-/// end.
+/// Returns the text for display: up to the first NUL, with other control characters replaced by blanks, and
+/// trimmed.
 [[nodiscard]] std::string Cleaned(std::string_view text);
 [[nodiscard]] launcher::LauncherEntry Cleaned(const launcher::LauncherEntry& entry);
 
-/// The command line that starts a file: its path, in quotation marks where it has blanks.
+/// Returns the command line that starts a file: its path, in quotation marks if it contains blanks.
 [[nodiscard]] std::string CommandLineOf(const std::string& path);
 
-/// A folder as the launcher takes it: without quotation marks, which no path holds, and blanks at the ends.
+/// Returns a folder in the form that the launcher needs: without quotation marks, which no path contains, and
+/// trimmed.
 [[nodiscard]] std::string FolderText(std::string_view folder);
 
-/// False for what the launcher cannot make the current folder because it begins with no drive letter: a
-/// network folder, for example. No folder is none that it has to change to.
+/// False for a folder that the launcher cannot make the current one because it does not begin with a drive
+/// letter, for example a network folder. True for an empty folder, because the launcher then does not change
+/// folders.
 [[nodiscard]] bool HasDriveLetter(std::string_view folder);
 
 /// True for a name that the menu shows as a dividing line.
 [[nodiscard]] bool IsDividingLine(std::string_view name);
 
-/// Equal but for the case of letters, as Windows compares names and paths.
+/// True if all texts are equal without regard to case, as Windows compares names and paths.
 [[nodiscard]] bool IsSameEntry(const launcher::LauncherEntry& a, const launcher::LauncherEntry& b);
 
-/// True for the extensions of what Windows 95 can start by a command line: exe, com, bat, pif.
+/// True for the extensions of files that Windows 95 can start from a command line: exe, com, bat, pif.
 [[nodiscard]] bool IsProgram(std::string_view path);
 
-/// The entry of a file, cleaned. Its name is cut to what an entry takes, its other texts are not. The system
-/// tells where the characters of a path begin.
+/// Returns the entry for a file, cleaned. Cuts only the name to the length of its field. `files` says where
+/// the characters of a path begin.
 [[nodiscard]] launcher::LauncherEntry EntryOfFile(os::Files& files, const std::string& path);
 
-/// The entry of a shortcut, by the name that the shortcut itself has: the launcher can start what it leads
-/// to, not the shortcut.
+/// Returns the entry for the target of a shortcut, under the shortcut's own name: the launcher can start the
+/// target but not the shortcut.
 [[nodiscard]] launcher::LauncherEntry EntryOfShortcut(os::Files& files, const std::string& path,
                                                       const os::Shortcut& shortcut);
 
 [[nodiscard]] bool IsShortcut(std::string_view path);
 
-/// True where no text of the entry is longer than a record holds.
+/// True if no text of the entry is too long for its field in a record.
 [[nodiscard]] bool Fits(const launcher::LauncherEntry& entry);
 
 }  // namespace qdix::config_launcher

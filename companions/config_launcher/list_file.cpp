@@ -38,7 +38,7 @@ bool ListFile::Exists(const std::string& path) {
   return files_.GetFileAttributesA(path.c_str()) != os::kInvalidFileAttributes;
 }
 
-/// An empty list beside a copy is what an interrupted save leaves on a full disk.
+/// On a full disk, an interrupted save leaves an empty list and a copy.
 FoundList ListFile::Read() {
   FoundList found;
   constexpr std::uint32_t kOneMore = kMostBytes + 1;
@@ -77,8 +77,8 @@ bool ListFile::WriteTemporary(const std::string& content) {
   return is_written;
 }
 
-/// Names change hands so that one of them stands for a whole list at every moment. Where an earlier save was
-/// interrupted the copy is that list, and it stays until the new one has its name.
+/// Renames files in such an order that a complete list exists at every moment. After an interrupted save the
+/// copy is that list; it stays until the new list has its name.
 Saved ListFile::Replace() {
   const std::uint32_t attributes = files_.GetFileAttributesA(list_.c_str());
   const bool has_copy = Exists(backup_);
@@ -90,7 +90,8 @@ Saved ListFile::Replace() {
     if (beginning->empty() && has_copy) {
       if (!files_.DeleteFileA(list_.c_str())) return Saved::kNo;
     } else {
-      if (has_copy) files_.DeleteFileA(backup_.c_str());  // one that stays keeps its name from the next
+      // if the copy cannot be deleted, the next rename fails
+      if (has_copy) files_.DeleteFileA(backup_.c_str());
       if (!files_.MoveFileA(list_.c_str(), backup_.c_str())) return Saved::kNo;
       is_renamed = true;
     }

@@ -1,5 +1,5 @@
-// The list on the disk: reading what is there, whatever it is, and writing so that at every moment the list
-// of before or the new one is there whole.
+// The list on the disk. Reads whatever is there. Saving is atomic: the old or the new list is always
+// complete.
 #pragma once
 
 #include <string>
@@ -10,30 +10,31 @@
 
 namespace qdix::config_launcher {
 
-/// Bytes that are read of a list: far more than the launcher takes, and few enough for a list box to show.
+/// Maximum number of bytes read from a list: far more than the launcher accepts, and few enough for a list
+/// box.
 inline constexpr std::uint32_t kMostBytes = 100 * launcher::kRecordBytes;
 
-/// What was found on the disk.
+/// The list on the disk and its problems.
 struct FoundList {
-  /// False where there is a file that could not be read: nothing is known of the list.
+  /// False if there is a file that could not be read. Nothing is known about the list then.
   bool is_readable = true;
-  /// The list came from the copy that an interrupted save had left.
+  /// The list came from the copy left behind by an interrupted save.
   bool is_from_backup = false;
   bool has_odd_length = false;
   bool has_control_characters = false;
   /// Some entry has no name or no command line.
   bool has_incomplete_entries = false;
-  /// The file goes on behind what was read.
+  /// The file is longer than the part that was read.
   bool is_cut = false;
-  /// With texts that can be shown.
+  /// Their texts can be displayed.
   std::vector<launcher::LauncherEntry> entries{};
 };
 
 enum class Saved : unsigned char {
   kYes,
-  /// The list of before is where it was.
+  /// The old list has not been changed.
   kNo,
-  /// The list of before is in launcher.bak and could not be given its name again.
+  /// The old list is in launcher.bak and could not be renamed back.
   kNoAndRenamed,
 };
 
@@ -43,7 +44,7 @@ class ListFile {
 
   [[nodiscard]] FoundList Read();
 
-  /// Writes no more than launcher::kMostEntries.
+  /// Writes at most launcher::kMostEntries entries; refuses a longer list.
   [[nodiscard]] Saved Write(const std::vector<launcher::LauncherEntry>& entries);
 
  private:

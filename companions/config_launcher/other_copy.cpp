@@ -7,12 +7,13 @@ namespace qdix::config_launcher {
 namespace {
 
 constexpr const char* kMutexName = "QDIX.ConfigLauncher";
-/// Class of the window that the user sees; the hidden one that owns it has the same title.
+/// Class of the visible window. The hidden window that owns it has the same title.
 constexpr const char* kWindowClass = "QDIXMain";
-/// Class and title of the hidden window that owns the main window of Q-DIX, whose own title changes.
+/// Class and title of the hidden window that owns the main window of Q-DIX. The title of the main window
+/// itself changes.
 constexpr const char* kQdixClass = "ThunderRT6Main";
 constexpr const char* kQdixTitle = "Q-DIX";
-/// Carried by this copy while it looks for the other, so that it cannot find itself.
+/// Title of this copy while it searches for the other one, so it does not find itself.
 constexpr std::string_view kOtherTitle = "second copy";
 
 }  // namespace

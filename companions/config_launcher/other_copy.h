@@ -1,5 +1,5 @@
-// Other programs of Q-DIX: the copy of this one that runs already (two would write over each other's lists),
-// and Q-DIX itself.
+// Finds other programs of Q-DIX: a running copy of this program (two copies would overwrite each other's
+// lists) and Q-DIX itself.
 #pragma once
 
 #include <cstdint>
@@ -10,12 +10,12 @@
 
 namespace qdix::config_launcher {
 
-/// True where another copy had started before; its window is restored and brought to the front then. Where
-/// that copy has no window any more it is about to end.
+/// Returns true if another copy is running; restores its window and brings it to the front. If that copy no
+/// longer has a window, it is about to end.
 [[nodiscard]] bool BringOtherCopyForward(const os::System& system, ui::Application& application,
                                          ui::Form& form);
 
-/// True for the thread that Q-DIX runs in, and for the thread 0, which is not known, while Q-DIX runs.
+/// True if `thread` runs Q-DIX, or if `thread` is 0 (unknown) and Q-DIX is running.
 [[nodiscard]] bool MayBeThreadOfQdix(const os::System& system, std::uint32_t thread);
 
 }  // namespace qdix::config_launcher

@@ -46,7 +46,7 @@ std::optional<launcher::LauncherEntry> PickedFiles::WholeEntryOf(const std::stri
   return entry;
 }
 
-/// A folder may be named like a program.
+/// A folder may have the name of a program.
 bool PickedFiles::CanBeStarted(const std::string& path) const {
   if (!IsProgram(path)) return false;
   const std::uint32_t attributes = system_.files.GetFileAttributesA(path.c_str());

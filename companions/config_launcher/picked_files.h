@@ -1,5 +1,5 @@
-// Files that the user picked or dropped, as entries of the list; and the message about what could not be
-// taken over.
+// Converts files that the user picked or dropped to entries of the list, and reports the files that could not
+// be used.
 #pragma once
 
 #include <cstdint>
@@ -16,15 +16,16 @@ class PickedFiles {
  public:
   explicit PickedFiles(const os::System& system) : system_(system) {}
 
-  /// The entry of a program, or of what a shortcut to a program starts; its folder is left out if the
-  /// launcher cannot use it. Nothing for any other file, for a folder, and for what a record cannot hold.
+  /// Returns the entry for a program or for the program that a shortcut starts, without a folder if the
+  /// launcher cannot use it. Returns nothing for any other file, for a folder, and for texts that do not fit
+  /// a record.
   [[nodiscard]] std::optional<launcher::LauncherEntry> EntryOf(const std::string& path);
 
-  /// Names what gave no entry, and what lost its folder.
+  /// Reports the files without an entry and the entries without their folder.
   void Report(Boxes& boxes) const;
 
  private:
-  /// Lines of a message, of which no more are shown than fit on a screen of 640 x 480.
+  /// Lines of a message. Shows only as many as fit on a screen of 640 x 480.
   class Lines {
    public:
     void Add(const std::string& line);

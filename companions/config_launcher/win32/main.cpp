@@ -1,5 +1,5 @@
-// The entry of configL.exe: puts the program, the peers of its controls, the dialogs of files and the files
-// dropped on the window together. Decides nothing.
+// The entry point of configL.exe: connects the program, the peers of its controls, the file dialogs and files
+// dropped on the window. Contains no logic.
 #include <windows.h>
 
 #include <memory>
