@@ -13,7 +13,7 @@ constexpr std::string_view kCut = "...";
 
 bool IsControl(char character) { return static_cast<unsigned char>(character) < ' '; }
 
-/// A longer entry would not be read whole, and a line break would make two lines of it.
+/// A longer entry would not be read in full, and a line break would split it into two lines.
 bool CanStandInOneLine(const std::string& text) {
   return text.size() <= kLongestText && std::none_of(text.begin(), text.end(), IsControl);
 }
@@ -22,7 +22,7 @@ double NumberOf(const std::optional<std::string>& text) {
   return text.has_value() ? base::ParseLeadingNumber(*text) : 0;
 }
 
-/// The number as the record holds it, with at most 15 digits.
+/// Returns the number as the record stores it, with at most 15 digits.
 double RecordedNumberOf(const std::optional<std::string>& text) {
   return base::ParseLeadingNumber(base::ShortestText(NumberOf(text)));
 }
@@ -34,7 +34,7 @@ Before NumberFromRecord(const std::string& recorded) {
   return {.known = Before::Known::kFromRecord, .text = std::string(base::Trim(recorded)), .is_exact = false};
 }
 
-/// Of a longer entry the record holds the beginning, or the number of it.
+/// The record holds only the beginning of a longer entry, or the number in it.
 std::optional<std::string> RecordedPartOf(const std::optional<std::string>& text) {
   return text.has_value() ? std::optional(text->substr(0, kLongestText)) : std::nullopt;
 }
@@ -59,7 +59,7 @@ Before FromBackup(const std::optional<std::string>& text) {
 Before FromBoth(const Entry& entry, const std::optional<std::string>& recorded, bool is_record_complete,
                 const std::optional<std::string>& backup_text) {
   if (!recorded.has_value()) {
-    // The record of a missing entry is to have none.
+    // A missing entry is expected to have no record.
     const bool was_missing = entry.recorded == Recorded::kAsTextOrMissing && !backup_text.has_value();
     if (was_missing && is_record_complete) return {.known = Before::Known::kFromRecord};
     return FromBackup(backup_text);
@@ -79,7 +79,7 @@ bool Agree(const Entry& entry, const std::optional<std::string>& recorded, bool 
     const bool can_be_missing = !backup_text.has_value() || backup_text->size() == 1;
     return entry.recorded == Recorded::kAsNumber || !is_record_complete || can_be_missing;
   }
-  if (!FromRecord(entry, recorded).IsKnown()) return true;  // it says nothing of any time
+  if (!FromRecord(entry, recorded).IsKnown()) return true;  // an unusable record says nothing about its time
   const std::optional<std::string> part = RecordedPartOf(backup_text);
   return entry.recorded == Recorded::kAsNumber ? NumberOf(recorded) == RecordedNumberOf(part)
                                                : part == recorded;

@@ -1,4 +1,4 @@
-// What an entry was before the first change, as far as it is known.
+// The previous value of an entry, before Q-DIX's first change, as far as it is known.
 #pragma once
 
 #include <optional>
@@ -8,59 +8,63 @@
 
 namespace qdix::undo {
 
-/// Characters of an entry that are read, and that a record can put back.
+/// Maximum number of characters that are read from an entry and that a record can restore.
 inline constexpr std::size_t kLongestText = 254;
 
 struct Before {
   enum class Known : unsigned char {
-    /// Neither the record nor the backup tells, or what they hold cannot be put back.
+    /// Neither the record nor the backup has the value, or the value cannot be put back.
     kNot,
     kFromRecord,
     kFromBackup,
-    /// The template is Q-DIX's own, so it was another one or none.
+    /// The template is Q-DIX's own, so previously there was a different one or none.
     kFromItsName,
   };
 
   Known known = Known::kNot;
-  /// Nothing where there was no entry.
+  /// Empty if there was no entry.
   std::optional<std::string> text{};
-  /// What cannot be put back.
+  /// A value that cannot be put back.
   std::string unusable{};
   /// False for a size of which only the leading number is known.
   bool is_exact = true;
 
   [[nodiscard]] bool IsKnown() const { return known != Known::kNot; }
-  /// True for a removal that nothing but the silence of the backup, or a name, speaks for.
+  /// True for a removal that rests only on the entry's absence from the backup, or on the name of the
+  /// template.
   [[nodiscard]] bool IsUncertain() const {
     return known == Known::kFromItsName || (known == Known::kFromBackup && !text.has_value());
   }
 };
 
-/// What the text of the record says of an entry; empty where the value is missing or no text.
+/// Returns the previous value according to the record. `recorded` is empty if the value is missing or not a
+/// text.
 [[nodiscard]] Before FromRecord(const Entry& entry, const std::optional<std::string>& recorded);
 
-/// The same of the backup's entry; empty where it has none.
+/// Returns the previous value according to the backup. `text` is empty if the backup has no such entry.
 [[nodiscard]] Before FromBackup(const std::optional<std::string>& text);
 
-/// What the record and a backup of the same time say together. The record is complete where it lacks nothing
-/// that is always recorded.
+/// Combines the record with a backup of the same time. The record is complete if it has every value that is
+/// always recorded.
 [[nodiscard]] Before FromBoth(const Entry& entry, const std::optional<std::string>& recorded,
                               bool is_record_complete, const std::optional<std::string>& backup_text);
 
-/// False where the entry of the backup cannot be the one that was recorded: the two are of different times.
+/// False if the backup's entry cannot be the one that was recorded: the backup and the record are of
+/// different times.
 [[nodiscard]] bool Agree(const Entry& entry, const std::optional<std::string>& recorded,
                          bool is_record_complete, const std::optional<std::string>& backup_text);
 
-/// True where the entry is as it was before; `before` is known, and empty where there was no entry.
+/// True if the entry has its previous value. `before` must be known; it has no text if there was no entry.
 [[nodiscard]] bool IsAsBefore(const Before& before, const std::optional<std::string>& now);
 
-/// "(none)", "(empty)", or the text in at most `most` characters, without control characters.
+/// Returns "(none)", "(empty)", or the text cut to `most` characters, with blanks in place of control
+/// characters.
 [[nodiscard]] std::string Shown(const std::optional<std::string>& text, std::size_t most);
 
-/// The text of the column of what was before.
+/// Returns the text for the "Before" column.
 [[nodiscard]] std::string ShownBefore(const Before& before, std::size_t most);
 
-/// "[vcache] MinFileCache" and its like.
+/// Returns, for example, "[vcache] MinFileCache".
 [[nodiscard]] std::string NameOf(const Entry& entry);
 
 }  // namespace qdix::undo

@@ -1,4 +1,4 @@
-// The entries of the system that Q-DIX changes and that this program can put back.
+// The system entries that Q-DIX changes and this program can put back.
 #pragma once
 
 #include <array>
@@ -10,23 +10,23 @@
 
 namespace qdix::undo {
 
-/// How the record holds an entry.
+/// How the record stores an entry.
 enum class Recorded : unsigned char {
-  /// The leading number of the entry; 0 where there was none.
+  /// The leading number of the entry; 0 if there was none.
   kAsNumber,
-  /// The text of the entry; empty where there was none.
+  /// The text of the entry; empty if there was none.
   kAsTextOrEmpty,
-  /// The text of the entry; missing where the entry was missing or had a single character.
+  /// The text of the entry; missing if the entry was missing or had a single character.
   kAsTextOrMissing,
   kNever,
 };
 
 struct Entry {
-  /// Of system.ini; null for the registry's template in force.
+  /// Section of system.ini; null for the active file-system template in the registry.
   const char* section;
   const char* key;
   Recorded recorded;
-  /// The value of the record; null where there is none.
+  /// Name of the value in the record; null if there is none.
   const char* value_name;
 
   [[nodiscard]] constexpr bool IsInSystemIni() const { return section != nullptr; }

@@ -8,10 +8,10 @@ namespace qdix::undo {
 
 namespace {
 
-/// Characters of a text in a question.
+/// Maximum number of characters of a text in a question.
 constexpr std::size_t kQuestionCharacters = 60;
 
-/// Of the template.
+/// Row of the file-system template.
 constexpr std::size_t kTemplateRow = 3;
 static_assert(!kEntries[kTemplateRow].IsInSystemIni());
 
@@ -26,7 +26,7 @@ const char* ReasonOfRemoval(Before::Known known) {
   }
 }
 
-/// One line of the question.
+/// Returns one line of the question.
 std::string ActionText(const Entry& entry, const Before& before) {
   const std::string name = NameOf(entry) + ": ";
   if (!before.text.has_value()) return name + ReasonOfRemoval(before.known);
@@ -44,7 +44,8 @@ EntryList::EntryList(const os::System& system, const ui::Application& applicatio
 }
 
 void EntryList::Show() {
-  // Writing an entry would make a system.ini of that entry alone, and hide that there is none.
+  // Writing an entry would create a system.ini with only that entry and hide the fact that the file is
+  // missing.
   const bool has_system_ini = settings_.SystemIniState() != IniState::kMissing;
   for (std::size_t row = 0; row < kEntries.size(); ++row) {
     State& state = states_[row];
@@ -93,8 +94,8 @@ EntryList::Choice EntryList::Chosen() {
   return chosen;
 }
 
-/// Another program may have changed the settings since they were read, so the question is about what is there
-/// now.
+/// Reads everything again first: another program may have changed the settings, and the question must match
+/// their current state.
 base::Status EntryList::cmdPutBack_Click() {
   ReadAgain();
   const Choice chosen = Chosen();
@@ -127,7 +128,7 @@ void EntryList::PutBack(const Choice& chosen) {
   }
 }
 
-/// What was not written, or was changed again at once, differs still.
+/// An entry that was not written, or that was changed again at once, still differs.
 void EntryList::NameFailures(const Choice& chosen) {
   std::string names;
   for (std::size_t row = 0; row < kEntries.size(); ++row) {

@@ -1,4 +1,5 @@
-// The rows of the window: what each entry was and is, which of them are chosen, and their putting back.
+// The rows of the window: the previous and current value of each entry, which entries are chosen, and how
+// they are put back.
 #pragma once
 
 #include <array>
@@ -18,18 +19,17 @@ class EntryList {
   EntryList(const os::System& system, const ui::Application& application, UndoScreen& screen,
             Settings& settings, tuning::Restart& restart);
 
-  /// Shows what `Settings` found and what the system holds now. A row that is as before, or of which nothing
-  /// is known, cannot be chosen.
+  /// Shows what `Settings` found and the current values. A row cannot be chosen if its entry has its previous
+  /// value or the previous value is unknown.
   void Show();
-  /// Ticks the rows that can be chosen, but for removals that are uncertain: those are the user's to tick.
+  /// Ticks the rows that can be chosen, except uncertain removals, which the user must tick.
   void ChooseCertain();
-  /// Ticks the row of the template where Q-DIX's own is in force and can be put back; true where it is.
+  /// If Q-DIX's own template is active and can be put back, ticks its row and returns true.
   bool ChooseOwnTemplate();
 
-  /// Reads everything again and has it shown.
+  /// Reads everything again and shows it.
   base::Callback<void()> ReadAgain;
 
-  /// "Put Back".
   base::Status cmdPutBack_Click();
   /// A box was ticked or cleared.
   base::Status Box_Click();

@@ -7,7 +7,7 @@ namespace qdix::undo {
 
 namespace {
 
-/// The mark with which some editors of DOS end a text.
+/// Some DOS editors write this character at the end of a text.
 constexpr char kEndOfText = '\x1A';
 
 /// True for a line such as "[boot]", in any case and with blanks around it.

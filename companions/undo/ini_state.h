@@ -1,4 +1,4 @@
-// Whether the bytes of a file are a whole system.ini.
+// Checks whether the bytes of a file are a complete system.ini.
 #pragma once
 
 #include <cstdint>
@@ -8,25 +8,26 @@
 
 namespace qdix::undo {
 
-/// Bytes that are read of a system.ini: far more than the 64 KB that Windows reads of one.
+/// Maximum number of bytes read from a system.ini: far more than the 64 KB that Windows reads.
 inline constexpr std::uint32_t kMaxIniBytes = 1024 * 1024;
 
 enum class IniState : unsigned char {
   kMissing,
-  /// There is a file, but it cannot be read.
+  /// The file exists but cannot be read.
   kUnreadable,
-  /// Without this section Windows does not start.
+  /// Windows does not start without this section.
   kWithoutBoot,
   kWithout386Enh,
-  /// It does not end with a line break: the rest may be lost, as after a power cut or on a full disk.
+  /// The file does not end with a line break. The rest may be lost, for example after a power cut or on a
+  /// full disk.
   kCut,
   kWhole,
 };
 
-/// Never kMissing or kUnreadable.
+/// Never returns kMissing or kUnreadable.
 [[nodiscard]] IniState StateOfIni(std::string_view bytes);
 
-/// The content of a file and what it is worth; the content is empty unless the file could be read.
+/// The content of a file and its state. The content is empty if the file could not be read.
 struct IniFile {
   IniState state = IniState::kMissing;
   std::string bytes{};

@@ -1,4 +1,4 @@
-// The record that Q-DIX took before its first change, as it was when it was last read.
+// The record that Q-DIX made before its first change, as last read.
 #pragma once
 
 #include <array>
@@ -15,18 +15,18 @@ class Record {
   using Values = std::array<std::optional<std::string>, kEntries.size()>;
 
   Record() = default;
-  /// `values` in the order of kEntries; nothing for a value that is missing or no text.
+  /// `values` is in the order of kEntries. A value is empty if it is missing or not a text.
   Record(bool is_taken, Values values) : is_taken_(is_taken), values_(std::move(values)) {}
 
   [[nodiscard]] static Record Read(os::Registry& registry);
 
-  /// Q-DIX began to take it; its values may be missing all the same.
+  /// True if Q-DIX began to make the record. Its values may still be missing.
   [[nodiscard]] bool IsTaken() const { return is_taken_; }
   [[nodiscard]] bool HasValues() const;
-  /// True where it has every value that is always written. What it lacks then was missing in system.ini, or
-  /// had a single character.
+  /// True if every value that is always written is there. Any other value that is missing was then missing in
+  /// system.ini, or had a single character.
   [[nodiscard]] bool IsComplete() const;
-  /// The recorded text of the entry with this index.
+  /// Returns the recorded text of the entry with this index.
   [[nodiscard]] const std::optional<std::string>& Value(std::size_t entry) const { return values_[entry]; }
 
  private:

@@ -9,13 +9,13 @@ namespace {
 
 using Outcome = Replacement::Outcome;
 
-/// The new file until it gets its name. Names of DOS, so that the command prompt knows them too.
+/// Name of the new file until it is renamed. These are DOS names, so they also work at the command prompt.
 constexpr const char* kNewName = "SYSTEM.Q00";
 constexpr const char* kKeptName = "SYSTEM.Q";
-/// Old files that are kept.
+/// Maximum number of old files that are kept.
 constexpr int kMaxKept = 99;
 
-/// SYSTEM.Q01 to SYSTEM.Q99.
+/// Returns a name from SYSTEM.Q01 to SYSTEM.Q99.
 std::string KeptName(int number) {
   std::string name = kKeptName;
   name += static_cast<char>('0' + number / 10);
@@ -45,7 +45,7 @@ class SystemIniFiles {
     return files_.MoveFileA(PathOf(from).c_str(), PathOf(to).c_str());
   }
 
-  /// What was written is read again before anything rests on it.
+  /// Reads the file again after writing, because from now on everything depends on it.
   [[nodiscard]] bool WriteNew(const std::string& content) {
     const std::string path = PathOf(kNewName);
     const os::FileHandle file = files_.CreateFileA(path.c_str(), os::kGenericWrite, os::kCreateAlways);
@@ -69,7 +69,7 @@ class SystemIniFiles {
     return {is_back ? Outcome::kRefused : Outcome::kRenamed, kept_name};
   }
 
-  /// Gives the old file the first name that is free; empty where it cannot have one.
+  /// Renames the old file to the first free name and returns that name; empty if that fails.
   [[nodiscard]] std::string KeepOld() {
     for (int number = 1; number <= kMaxKept; ++number) {
       const std::string name = KeptName(number);

@@ -1,5 +1,5 @@
-// A new system.ini in the place of the old one: written beside it, then the names are changed. At every
-// moment at least one whole file is on the disk, and no file of the user's is written over.
+// Replaces system.ini: writes the new file under another name, then renames both. At every moment at least
+// one complete file is on the disk, and none of the user's files is overwritten.
 #pragma once
 
 #include <string>
@@ -11,19 +11,19 @@ namespace qdix::undo {
 struct Replacement {
   enum class Outcome : unsigned char {
     kDone,
-    /// system.ini is as it was.
+    /// system.ini has not been changed.
     kRefused,
-    /// The old system.ini has its other name and could not be given its own again. There is no system.ini.
+    /// The old system.ini was renamed and could not be renamed back. There is no system.ini.
     kRenamed,
   };
 
   Outcome outcome = Outcome::kRefused;
-  /// The name of the old file in the Windows folder, as DOS writes it; empty where there was none.
+  /// The DOS name of the old file in the Windows folder; empty if there was none.
   std::string kept_name{};
 };
 
-/// Replaces system.ini in the folder, which ends with a backslash. A write-protected file is left alone.
-/// Windows must not keep entries of system.ini in memory: flush them before.
+/// Replaces system.ini in the folder, which must end with a backslash. Leaves a write-protected file alone.
+/// Windows must not hold entries of system.ini in its cache: flush them first.
 [[nodiscard]] Replacement ReplaceSystemIni(os::Files& files, const std::string& folder,
                                            const std::string& content);
 

@@ -10,15 +10,16 @@ namespace qdix::undo {
 
 namespace {
 
-/// What a missing entry reads as. An entry that holds one of them does not read as the other. Printable:
-/// Windows 95 may trim blanks and control characters, and an empty text would be put back as an empty line.
+/// Default values for reading an entry. An entry that equals one of them differs from the other. They are
+/// printable, because Windows 95 may trim blanks and control characters, and not empty, because an empty text
+/// would be put back as an empty line.
 constexpr std::array<const char*, 2> kMissing{"(missing)", "(none)"};
 
-/// More equal lines than a file of 64 KB has room for.
+/// More equal lines than fit into a file of 64 KB.
 constexpr int kMaxEqualLines = 8192;
 
-/// The value that reads as this text: blanks at its ends, and a pair of quotation marks around it, are no
-/// part of a value unless another pair encloses them.
+/// Returns the value to write so that Windows reads this text. Windows drops blanks at the ends and one pair
+/// of quotation marks around a value, unless another pair encloses them.
 std::string ValueThatReadsAs(const std::string& text) {
   const bool has_blanks = base::Trim(text).size() != text.size();
   const bool is_quoted =
@@ -92,11 +93,11 @@ std::optional<std::string> Settings::ReadTemplate() const {
   return name.value_or("").empty() ? std::nullopt : name;
 }
 
-/// A file that another program holds for a moment reads as if it had no entries, and what the backup does not
-/// have is offered for removal: an entry counts as missing only when two readings agree.
+/// Counts an entry as missing only if two reads agree. While another program holds the file for a moment, it
+/// reads as if it had no entries, and an entry missing from the backup is offered for removal.
 std::optional<std::string> Settings::ReadEntry(const Entry& entry, const char* file) const {
   for (const char* const missing : kMissing) {
-    // One character more than an entry may have shows that it was cut.
+    // One more character than an entry may have, to detect longer ones.
     std::array<char, kLongestText + 2> buffer{};
     const std::uint32_t copied = system_.profile_files.GetPrivateProfileStringA(
         entry.section, entry.key, missing, buffer.data(), buffer.size(), file);
@@ -117,7 +118,7 @@ void Settings::PutBack(const Entry& entry, const Before& before) {
   }
 }
 
-/// A removal takes the first of several equal lines, and the next one would be in force.
+/// Repeats the removal: it deletes only the first of several equal lines, and the next one would take effect.
 void Settings::Remove(const Entry& entry) {
   if (!entry.IsInSystemIni()) {
     module_registry_.DeleteRegistryValue(os::kHkeyLocalMachine, tuning::kTemplatesKey, tuning::kUnnamedValue);
@@ -130,7 +131,8 @@ void Settings::Remove(const Entry& entry) {
   }
 }
 
-/// What the system keeps of system.ini in memory would otherwise be written over the new file later.
+/// Flushes the entries of system.ini that Windows holds in memory. Otherwise Windows would write them over
+/// the new file later.
 Replacement Settings::RestoreWholeFile() {
   system_.profile_files.WritePrivateProfileStringA(nullptr, nullptr, nullptr, tuning::kSystemIni);
   const IniFile backup = ReadFile(BackupPath());

@@ -1,4 +1,4 @@
-// The record, the backup and the system itself: reading what was and what is, and putting back.
+// Reads the record, the backup and the current settings, and puts previous values back.
 #pragma once
 
 #include <optional>
@@ -14,16 +14,16 @@
 
 namespace qdix::undo {
 
-/// What is known of system.qdix.
+/// What is known about system.qdix.
 struct Backup {
   IniState state = IniState::kMissing;
-  /// Date and DOS name; nothing where they cannot be read.
+  /// Date and DOS name; empty if they cannot be read.
   std::optional<os::FoundFile> found{};
-  /// False where its entries are not those that were recorded: it is a copy of another time.
+  /// False if its entries differ from the recorded ones: the copy is from another time.
   bool agrees = false;
 
   [[nodiscard]] bool IsWhole() const { return state == IniState::kWhole; }
-  /// Single entries are taken from it.
+  /// True if single entries may be taken from it.
   [[nodiscard]] bool TellsEntries() const { return IsWhole() && agrees; }
 };
 
@@ -32,28 +32,28 @@ class Settings {
   explicit Settings(const os::System& system)
       : system_(system), module_registry_(system.registry), system_ini_(system.profile_files, system.files) {}
 
-  /// Looks at record, backup and system.ini again; the methods below tell what was found then.
+  /// Reads the record, the backup and system.ini again. The methods below return what was found then.
   void Read();
 
   [[nodiscard]] const Record& TheRecord() const { return record_; }
   [[nodiscard]] const Backup& TheBackup() const { return backup_; }
   [[nodiscard]] IniState SystemIniState() const { return system_ini_state_; }
-  /// What the entry with this index was.
+  /// Returns the previous value of the entry with this index.
   [[nodiscard]] Before BeforeOf(std::size_t entry) const { return before_[entry]; }
-  /// What the system holds now, a text above kLongestText cut; nothing where there is no such entry, or it
-  /// cannot be read. Asks the system.
+  /// Reads the current value now. Cuts a text longer than kLongestText. Empty if there is no such entry or it
+  /// cannot be read.
   [[nodiscard]] std::optional<std::string> ReadNow(const Entry& entry) const;
 
-  /// Writes what was before, or removes the entry with all its equals. A refusal shows in what is read
-  /// afterwards. `before` is known.
+  /// Writes the previous value, or removes the entry and all its duplicates. `before` must be known. A
+  /// failure shows when the value is read again.
   void PutBack(const Entry& entry, const Before& before);
 
-  /// Puts the backup in the place of system.ini, unless it is no longer whole.
+  /// Replaces system.ini by the backup, unless the backup is no longer complete.
   Replacement RestoreWholeFile();
-  /// From now on Q-DIX's own template can be removed also where no other is recorded.
+  /// From now on, Q-DIX's own template can be removed even if no other template is recorded.
   void OfferOwnTemplate() { offers_own_template_ = true; }
 
-  /// The Windows folder with a backslash at its end.
+  /// Returns the Windows folder with a backslash at the end.
   [[nodiscard]] std::string WindowsFolder() const { return system_ini_.WindowsFolder(); }
 
  private:

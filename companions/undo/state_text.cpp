@@ -18,7 +18,7 @@ const char* RecordText(const Record& record, const Backup& backup) {
                             "so there is nothing to put back.";
 }
 
-/// Of a backup that can be read and is not whole.
+/// Says what is wrong with a backup that is readable but not complete.
 const char* Fault(IniState state) {
   switch (state) {
     case IniState::kWithoutBoot:

@@ -1,4 +1,4 @@
-// What the window says of record, backup and system.ini.
+// The texts of the window about the record, the backup and system.ini.
 #pragma once
 
 #include <string>
@@ -8,13 +8,14 @@
 
 namespace qdix::undo {
 
-/// The text above the rows: a warning where Windows would not start, otherwise what the rows rest on.
+/// Returns the text above the rows: a warning if Windows would not start, otherwise where the values in the
+/// rows come from.
 [[nodiscard]] std::string StateText(const Settings& settings);
 
-/// The text below the rows. It tells the date of the backup and its name at the command prompt.
+/// Returns the text below the rows, with the date of the backup and its name at the command prompt.
 [[nodiscard]] std::string BackupText(const Backup& backup, const Record& record, os::Clock& clock);
 
-/// The day of the backup in the user's long date picture; empty where it is not known.
+/// Returns the date of the backup in the user's long date format; empty if it is unknown.
 [[nodiscard]] std::string DateOf(const Backup& backup, os::Clock& clock);
 
 }  // namespace qdix::undo

@@ -1,4 +1,4 @@
-// The program: owns the window, what works on it, and the start-up order.
+// The program: owns the window and everything that works on it, and controls the order of start-up.
 #pragma once
 
 #include "os/system.h"
@@ -13,23 +13,22 @@ namespace qdix::undo {
 
 class UndoForm {
  public:
-  /// The system must outlive this object.
+  /// `system` must outlive this object.
   explicit UndoForm(const os::System& system);
   UndoForm(const UndoForm&) = delete;
   UndoForm& operator=(const UndoForm&) = delete;
   ~UndoForm() = default;
 
-  /// Reads what was and what is, and shows the window.
+  /// Reads the previous and current values and shows the window.
   void Start();
 
-  /// The Windows session ends: nothing more is asked or written, and the window unloads.
+  /// The Windows session ends. Unloads the window without asking or writing anything.
   void EndSession();
 
   [[nodiscard]] ui::Application& TheApplication() { return application_; }
   [[nodiscard]] ui::Form& Window() { return screen_.Window; }
   [[nodiscard]] UndoScreen& Screen() { return screen_; }
 
-  /// "Close".
   base::Status cmdClose_Click();
 
  private:

@@ -1,4 +1,4 @@
-// The window of the program. What a form designer shows; no behaviour.
+// The window of the program. Contains what a form designer shows, no behaviour.
 #pragma once
 
 #include <array>
@@ -15,12 +15,12 @@ inline constexpr std::int16_t kNowLeft = 203;
 inline constexpr std::int16_t kNameWidth = 82;
 inline constexpr std::int16_t kBeforeWidth = 102;
 inline constexpr std::int16_t kNowWidth = 48;
-/// Characters that fit into the two columns of texts.
+/// Maximum number of characters that fit into each column.
 inline constexpr std::size_t kBeforeCharacters = 24;
 inline constexpr std::size_t kBackupCharacters = 8;
 inline constexpr std::size_t kNowCharacters = 11;
 
-/// What tells one row from the others.
+/// What distinguishes a row from the others.
 struct RowDesign {
   const char* box;
   const char* before;
@@ -31,7 +31,7 @@ struct RowDesign {
   std::int16_t top;
 };
 
-/// One entry: the box that chooses it, what it was before, what it is now.
+/// One entry: the check box that selects it, its previous value, its current value.
 struct EntryRow {
   EntryRow(ui::Container& on, const RowDesign& design)
       : box(on, {.name = design.box,
@@ -43,7 +43,7 @@ struct EntryRow {
         before(on, {.name = design.before, .place = {kBeforeLeft, Line(design.top), kBeforeWidth, 8}}),
         now(on, {.name = design.now, .place = {kNowLeft, Line(design.top), kNowWidth, 8}}) {}
 
-  /// A text beside a box stands one unit lower, so that both have one line.
+  /// A label beside a check box is one unit lower, so their texts are on one line.
   static constexpr std::int16_t Line(std::int16_t top) { return static_cast<std::int16_t>(top + 1); }
 
   ui::CheckBox box;

@@ -6,7 +6,8 @@ namespace qdix::undo {
 
 namespace {
 
-/// Drive and folder in two commands; `folder` ends with a backslash, which only a root keeps.
+/// Returns the commands that change to the drive and folder. `folder` ends with a backslash; only a root
+/// folder keeps it.
 std::string CommandsToEnter(const std::string& folder) {
   constexpr std::size_t kRootLength = 3;
   const std::size_t first_backslash = folder.find('\\');
@@ -31,7 +32,7 @@ WholeFile::WholeFile(const os::System& system, const ui::Application& applicatio
 
 void WholeFile::Show() { screen_.cmdRestore.SetEnabled(settings_.TheBackup().IsWhole()); }
 
-/// The backup may have changed since it was read, so the question is about what is there now.
+/// Reads everything again first: the backup may have changed, and the question must match its current state.
 base::Status WholeFile::cmdRestore_Click() {
   ReadAgain();
   if (!screen_.cmdRestore.Enabled()) return base::kDone;
@@ -65,8 +66,8 @@ std::string WholeFile::Question() const {
   return question + "Do you want to replace system.ini?";
 }
 
-/// The commands need no long name, which the command prompt does not know before Windows has started, and are
-/// short enough for one line of a box each.
+/// The commands contain no long names, which the command prompt does not know before Windows starts. Each
+/// fits on one line of the message box.
 void WholeFile::TellSuccess(const std::string& kept_name) {
   std::string text = "system.ini has been replaced.";
   if (!kept_name.empty()) {

@@ -1,4 +1,4 @@
-// The second way back: all of system.ini as it was when it was copied.
+// The second way to undo: restores all of system.ini from the backup.
 #pragma once
 
 #include "base/callback.h"
@@ -16,13 +16,12 @@ class WholeFile {
   WholeFile(const os::System& system, const ui::Application& application, UndoScreen& screen,
             Settings& settings, EntryList& entry_list, tuning::Restart& restart);
 
-  /// Enables the button where `Settings` found a whole backup.
+  /// Enables the button if `Settings` found a complete backup.
   void Show();
 
-  /// "Restore Whole File...".
   base::Status cmdRestore_Click();
 
-  /// Reads everything again and has it shown.
+  /// Reads everything again and shows it.
   base::Callback<void()> ReadAgain;
 
  private:

@@ -1,4 +1,4 @@
-// The entry of undo.exe: puts the program and the peers of its controls together. Decides nothing.
+// The entry point of undo.exe: connects the program and the peers of its controls. Contains no logic.
 #include <windows.h>
 
 #include <memory>
