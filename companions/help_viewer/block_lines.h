@@ -1,4 +1,4 @@
-// One line of a topic's body as a block.
+// Reads one line of a topic's body as a block.
 #pragma once
 
 #include <optional>
@@ -8,10 +8,10 @@
 
 namespace qdix::help_viewer {
 
-/// Columns of a row; further ones are left out.
+/// Maximum number of columns in a row. Further columns are dropped.
 inline constexpr std::size_t kMostCells = 8;
 
-/// Nothing for a line of no block: a picture, an unknown kind, a step without its number.
+/// Returns nothing for a line that is not a block: a picture, an unknown kind, a step without its number.
 [[nodiscard]] std::optional<Block> ReadBlock(std::string_view line);
 
 }  // namespace qdix::help_viewer

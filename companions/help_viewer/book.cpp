@@ -22,7 +22,7 @@ Block Titled(BlockKind kind, const std::string& characters, const std::string& l
 
 Book::Book(std::string_view stream) {
   std::string_view rest = stream;
-  // The body of the topic that is being read; none at first, and where a heading is malformed.
+  // The topic whose body is being read; null at first and after a malformed heading.
   Entry* open = nullptr;
   while (!rest.empty()) {
     const std::string_view line = TakeNextLine(rest);
@@ -38,7 +38,7 @@ Book::Book(std::string_view stream) {
   }
 }
 
-/// Null for a heading without a number, or with one that an earlier topic has.
+/// Returns null for a heading without a number, or with the number of an earlier topic.
 Book::Entry* Book::AddTopic(std::string_view heading, std::string_view rest) {
   const auto number = ParseNumber(TakeField(heading));
   if (!number.has_value() || IndexOf(*number) != kContentsPage) return nullptr;

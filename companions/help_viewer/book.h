@@ -1,5 +1,5 @@
-// The book: the topics of the stream that the build makes of the help texts, in the order of the contents.
-// Topics are read when they are asked for; what is malformed in the stream is passed over.
+// The book: the topics of the stream that the build makes from the help texts, in the order of the contents.
+// Topics are read on request. Malformed parts of the stream are skipped.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@
 
 namespace qdix::help_viewer {
 
-/// Index of the page of all topics, which the stream does not hold.
+/// Index of the page that lists all topics, which is not in the stream.
 inline constexpr int kContentsPage = -1;
 
 class Book {
@@ -21,7 +21,6 @@ class Book {
     std::string title;
     /// Index of the section, or -1 before the first one.
     int section;
-    /// The lines of the topic.
     std::string_view body;
   };
 
@@ -32,10 +31,10 @@ class Book {
   [[nodiscard]] const std::vector<Entry>& Entries() const { return entries_; }
   [[nodiscard]] int Count() const { return static_cast<int>(entries_.size()); }
 
-  /// Index of the topic with this number, or kContentsPage.
+  /// Returns the index of the topic with this number, or kContentsPage.
   [[nodiscard]] int IndexOf(std::int32_t number) const;
-  /// A topic, or the page of all of them for any index that no topic has. Links to topics that are not there
-  /// are plain text.
+  /// Returns a topic, or the page that lists all topics if there is no topic with this index. Links to
+  /// missing topics become plain text.
   [[nodiscard]] Topic Read(int index) const;
 
  private:

@@ -9,7 +9,7 @@ namespace qdix::help_viewer {
 
 namespace {
 
-/// What each column takes without wrapping.
+/// Returns the width of each column without wrapping.
 std::vector<int> NaturalWidths(const Topic& topic, std::size_t first, os::TextDevice& device) {
   std::vector<int> widths;
   for (std::size_t block = first; block < topic.blocks.size(); ++block) {
@@ -24,8 +24,8 @@ std::vector<int> NaturalWidths(const Topic& topic, std::size_t first, os::TextDe
   return widths;
 }
 
-/// Columns narrower than an even share keep what they take; the others share the rest evenly. Narrow ones are
-/// settled first, since each makes the share of the others greater.
+/// Columns narrower than an even share keep their width; the others share the rest evenly. Starts with the
+/// narrow columns, because each of them leaves more for the others.
 void Share(std::vector<int>& widths, int room_px) {
   std::vector<std::size_t> order(widths.size());
   std::iota(order.begin(), order.end(), std::size_t{0});

@@ -1,4 +1,4 @@
-// The widths of a table's columns.
+// The column widths of a table.
 #pragma once
 
 #include <vector>
@@ -8,11 +8,11 @@
 
 namespace qdix::help_viewer {
 
-/// Space between two columns beside each other.
+/// Space between two columns.
 [[nodiscard]] constexpr int ColumnGap(int body_line_px) { return body_line_px; }
 
-/// Widths of the columns of the table whose rows begin with the block `first`: what their texts take in one
-/// line where all of that fits into the width, else shares of it, one pixel at least.
+/// Returns the column widths of the table whose rows begin with the block `first`. If all texts fit in one
+/// line each, these are the widths of the texts; otherwise shares of `width_px`, at least one pixel each.
 [[nodiscard]] std::vector<int> ColumnsOf(const Topic& topic, std::size_t first, os::TextDevice& device,
                                          int width_px, int body_line_px);
 

@@ -11,13 +11,13 @@ namespace {
 
 constexpr std::string_view kExtension = ".EXE";
 
-/// What follows the first `length` characters, or nothing.
+/// Returns the rest after the first `length` characters; empty if the text is shorter.
 std::string_view After(std::string_view text, std::size_t length) {
   return text.substr(std::min(length, text.size()));
 }
 
-/// A name without quotation marks ends after its extension, which no number has; one without an extension at
-/// the first blank of its last part.
+/// A name without quotation marks ends after its extension, or at the first blank of its last part if it has
+/// none. A number never contains the extension.
 std::string_view ArgumentsAfterPlainName(std::string_view command_line) {
   const std::size_t extension = base::UpperAscii(command_line).rfind(kExtension);
   if (extension != std::string_view::npos) return After(command_line, extension + kExtension.size());

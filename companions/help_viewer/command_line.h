@@ -1,4 +1,4 @@
-// The topic that the program is started with.
+// Reads from the command line which topic to show at start.
 #pragma once
 
 #include <cstdint>
@@ -7,9 +7,9 @@
 
 namespace qdix::help_viewer {
 
-/// The one decimal number that follows the program's name on its command line; nothing where there is none,
-/// something else, or more. The name may be a path with blanks that does not stand in quotation marks, as the
-/// main program writes it.
+/// Returns the decimal number after the program's name on the command line; nothing if it is missing, not a
+/// number, or followed by something else. The name may be a path with blanks and without quotation marks, as
+/// the main program writes it.
 [[nodiscard]] std::optional<std::int32_t> TopicOfCommandLine(std::string_view command_line);
 
 }  // namespace qdix::help_viewer

@@ -4,7 +4,7 @@ namespace qdix::help_viewer {
 
 namespace {
 
-/// The number beside the row of a heading; others have the index of their topic.
+/// The item data of a heading's row. Other rows have the index of their topic.
 constexpr std::int32_t kHeadingRow = -1;
 constexpr const char* kIndent = "    ";
 
@@ -35,7 +35,7 @@ void ContentsList::Follow() {
     const bool is_topic = screen_.lstContents.ItemData(candidate) != kHeadingRow;
     if (is_topic && screen_.lstContents.ItemData(candidate) == reader_.Current()) row = candidate;
   }
-  // The row is there, and its handler finds its topic shown already.
+  // The row exists, and the handler finds its topic already shown.
   base::Ignore(screen_.lstContents.SetSelectedIndex(row));
 }
 

@@ -1,4 +1,4 @@
-// The list of all topics under the headings of their sections.
+// The list of all topics below the headings of their sections.
 #pragma once
 
 #include "help_viewer/book.h"
@@ -11,12 +11,12 @@ class ContentsList {
   /// All must outlive this object.
   ContentsList(const Book& book, HelpScreen& screen, Reader& reader);
 
-  /// Selects the row of the topic that is shown; none for the page of all of them.
+  /// Selects the row of the current topic; none for the page that lists all topics.
   void Follow();
 
-  /// A row was selected: its topic is shown. A heading shows nothing new.
+  /// A row was selected: shows its topic. A heading changes nothing.
   base::Status lstContents_Click();
-  /// Enter or a double click on a row: the keyboard goes to the topic, to scroll it.
+  /// Enter or a double click on a row: moves the focus to the topic, so the keys scroll it.
   base::Status lstContents_DblClick();
 
  private:

@@ -1,4 +1,4 @@
-// The field for a word and the list of the topics that have it.
+// The field for a search word and the list of the topics that contain it.
 #pragma once
 
 #include "help_viewer/book.h"
@@ -11,11 +11,12 @@ class FindPage {
   /// All must outlive this object.
   FindPage(const Book& book, HelpScreen& screen, Reader& reader);
 
-  /// The word was changed: lists the topics that have it.
+  /// The word changed: lists the topics that contain it.
   base::Status txtWord_Change();
-  /// Enter in the field: opens the first of them.
+  /// Enter in the field: opens the first topic found.
   base::Status txtWord_Enter();
-  /// Opens the selected topic at the first place of the word; the one that is open goes to the next place.
+  /// Opens the selected topic at the first occurrence of the word. If it is already open, goes to the next
+  /// occurrence.
   base::Status lstFound_DblClick();
 
  private:

@@ -35,7 +35,8 @@ void HelpForm::Bind() {
   reader_.OnOpened = base::Callback<void()>::To<&ContentsList::Follow>(contents_list_);
 }
 
-/// The next window is looked up before a message goes to the one that it lies behind.
+/// Finds the next window before it sends the message: the search continues from the window that is about to
+/// close.
 void HelpForm::CloseOtherViewers() const {
   os::WindowHandle viewer = system_.windows.FindWindowExA(0, kWindowTitle);
   while (viewer != 0) {
@@ -63,7 +64,7 @@ void HelpForm::EndSession() {
 
 void HelpForm::ShowSide(Side side) {
   const bool finds = side == Side::kFind;
-  // What comes is shown first, so that the keyboard has somewhere to go from what disappears.
+  // Shows the new controls first, so the focus can move there before the others disappear.
   ui::Control* const find_controls[] = {&screen_.lblWord, &screen_.txtWord, &screen_.lblFound,
                                         &screen_.lstFound};
   if (finds) {

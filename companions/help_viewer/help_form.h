@@ -1,4 +1,4 @@
-// The program: owns the book, the window and what works on it.
+// The program: owns the book, the window and everything that works on it.
 #pragma once
 
 #include <string>
@@ -18,7 +18,7 @@
 
 namespace qdix::help_viewer {
 
-/// What this program asks of the machine beside what all programs do.
+/// What this program needs from the system in addition to what every program needs.
 struct Devices {
   os::Clipboard& clipboard;
   os::Printer& printer;
@@ -27,37 +27,34 @@ struct Devices {
 
 /// What the program is started with.
 struct StartWith {
-  /// The topics, packed.
+  /// The packed topics.
   std::string_view packed_stream;
   std::string_view command_line;
 };
 
 class HelpForm {
  public:
-  /// System and devices must outlive this object. Asks every viewer that is open to close: there is one at
-  /// most.
+  /// System and devices must outlive this object. Asks every open viewer to close, so only one stays open.
   HelpForm(const os::System& system, const Devices& devices, const StartWith& start);
   HelpForm(const HelpForm&) = delete;
   HelpForm& operator=(const HelpForm&) = delete;
   ~HelpForm() = default;
 
-  /// Shows the window with the topic of the command line; without one, with the contents.
+  /// Shows the window with the topic of the command line, or with the contents.
   void Start();
 
-  /// The Windows session ends: the window unloads.
+  /// The Windows session ends. Unloads the window.
   void EndSession();
 
   [[nodiscard]] ui::Application& TheApplication() { return application_; }
   [[nodiscard]] ui::Form& Window() { return screen_.Window; }
   [[nodiscard]] HelpScreen& Screen() { return screen_; }
-  /// Index of the topic that is shown, or kContentsPage.
+  /// Returns the index of the current topic, or kContentsPage.
   [[nodiscard]] int Current() const { return reader_.Current(); }
 
-  /// "Contents".
   base::Status cmdContents_Click();
-  /// "Find".
   base::Status cmdFind_Click();
-  /// "Print...". As with "Copy Topic" and "Back" the keyboard goes to the topic, to scroll it.
+  /// "Print...". Moves the focus to the topic, so the keys scroll it; so do "Copy Topic" and "Back".
   base::Status cmdPrint_Click();
   /// "Copy Topic", and Ctrl+C.
   base::Status cmdCopy_Click();

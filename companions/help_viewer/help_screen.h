@@ -1,5 +1,5 @@
-// The window of the program: what a form designer shows, and how it fits windows of other sizes. No
-// behaviour.
+// The window of the program: what a form designer shows, and how it adapts to the size of the window. No
+// other behaviour.
 #pragma once
 
 #include <algorithm>
@@ -12,19 +12,19 @@
 
 namespace qdix::help_viewer {
 
-/// Title of the window, by which the main program finds it. No other window has it.
+/// Title of the window, by which the main program finds it. No other window has this title.
 inline constexpr const char* kWindowTitle = "Quondix Help";
-/// Title of the application, and of its boxes.
+/// Title of the application and its message boxes.
 inline constexpr const char* kTitle = "Q-DIX Help";
 
-/// Dialog units.
+/// In dialog units.
 inline constexpr std::int16_t kMargin = 7;
 inline constexpr std::int16_t kGap = 4;
 inline constexpr std::int16_t kButtonHeight = 14;
 inline constexpr std::int16_t kPanesTop = kMargin + kButtonHeight + kMargin;
 inline constexpr std::int16_t kFoundTop = kPanesTop + 41;
 
-/// Lists and pane have no place before Arrange: it follows from the size of the window.
+/// The lists and the pane have no place until Arrange runs: it depends on the size of the window.
 struct HelpScreen {
   explicit HelpScreen(ui::EventDispatcher& dispatcher) : events(dispatcher) { Arrange(); }
 
@@ -77,7 +77,7 @@ struct HelpScreen {
                         .visible = false}};
   TopicPane paneTopic{Window, {.name = "paneTopic"}};
 
-  /// Gives lists and pane their places in the present size of the window.
+  /// Places the lists and the pane for the current size of the window.
   void Arrange() {
     const ui::Place& window = Window.GetPlace();
     const auto side = static_cast<std::int16_t>(std::clamp(window.width * 34 / 100, 90, 160));
@@ -93,7 +93,8 @@ struct HelpScreen {
   }
 
  private:
-  /// A length of at least 1: a window can be smaller than its smallest size while the system arranges it.
+  /// Returns a length of at least 1: while Windows arranges a window, it can be smaller than its minimum
+  /// size.
   static std::int16_t Between(std::int16_t begin, std::int16_t end) {
     return static_cast<std::int16_t>(std::max(end - begin, 1));
   }

@@ -14,7 +14,7 @@ constexpr char kLinkText = '\x1F';
 
 bool IsControl(char character) { return static_cast<unsigned char>(character) < 0x20U; }
 
-/// Puts a text together from characters in the look of the moment.
+/// Builds a text from characters, each with the look that is current at that point.
 class Reader {
  public:
   explicit Reader(std::string_view marked) : rest_(marked) {}
@@ -49,7 +49,7 @@ class Reader {
     }
   }
 
-  /// The digits up to the link's text. A link that does not end is none.
+  /// Reads the digits before the link's text. A link without an end is not a link.
   std::int32_t TakeLinkNumber() {
     const std::size_t middle = rest_.find(kLinkText);
     const std::size_t end = rest_.find(kLinkEnd);

@@ -13,7 +13,7 @@ bool IsRow(BlockKind kind) { return kind == BlockKind::kHeaderRow || kind == Blo
 
 bool IsItem(BlockKind kind) { return kind == BlockKind::kBullet || kind == BlockKind::kStep; }
 
-/// Space between two blocks, in quarters of a body line.
+/// Returns the space between two blocks in quarters of a body line.
 int QuartersBetween(BlockKind above, BlockKind below) {
   if (below == BlockKind::kHeading) return 4;
   if (above == BlockKind::kTitle) return 3;
@@ -65,7 +65,7 @@ class Composer {
   void PlaceLabel(std::size_t line) {
     const std::string_view label(TheBlock().label);
     const int width = device_.GetTextExtentPoint32A(kBodyLook, label);
-    // Right-aligned to a gap before the text.
+    // Right-aligned, with a gap before the text.
     const int right = margin_px_ + 2 * body_px_ - body_px_ / 2;
     layout_.pieces.push_back({.left = std::max(right - width, margin_px_),
                               .width = width,
@@ -75,7 +75,7 @@ class Composer {
                               .characters = label});
   }
 
-  /// All rows of a table share their columns.
+  /// All rows of a table have the same columns.
   void AddRow() {
     if (block_ == 0 || !IsRow(Kind(block_ - 1))) {
       columns_ = ColumnsOf(topic_, block_, device_, width_px_, body_px_);
@@ -94,7 +94,8 @@ class Composer {
     }
   }
 
-  /// Puts the lines of a text, or the first that a row has already, one below the other.
+  /// Places the lines of a text one below the other, starting at the line `first`, which cells of the same
+  /// row share.
   void AddLines(const std::vector<Span>& spans, std::size_t cell, int left, std::size_t first) {
     const Text& text = TheBlock().cells[cell];
     std::size_t line = first;
@@ -126,7 +127,7 @@ class Composer {
     }
   }
 
-  /// The pieces of one link come one after the other.
+  /// Relies on the pieces of a link being consecutive.
   int LinkOf(const Run& run, std::size_t cell, std::size_t run_index) {
     if (run.link == kNoLink) return -1;
     const Passage identity{block_, cell, run_index, 0};
@@ -137,7 +138,7 @@ class Composer {
     return static_cast<int>(layout_.links.size()) - 1;
   }
 
-  /// Gives the lines of the block, and what stands in them, their heights.
+  /// Sets the heights of the block's lines and of the pieces in them.
   void FinishLines() {
     const auto first_piece = layout_.pieces.begin() + static_cast<std::ptrdiff_t>(first_piece_);
     std::sort(first_piece, layout_.pieces.end(), [](const Piece& one, const Piece& other) {

@@ -1,4 +1,5 @@
-// A topic in lines for a given width: where each piece of text stands. The same for the window and for paper.
+// Breaks a topic into lines of a given width and places each piece of text. Used for the window and for
+// paper.
 #pragma once
 
 #include <string_view>
@@ -9,8 +10,7 @@
 
 namespace qdix::help_viewer {
 
-/// A line of the picture, in pixels from the top of the topic. The texts of one line of a table's row share
-/// it.
+/// A line of the layout, in pixels from the top of the topic. The cells of a table row share lines.
 struct Line {
   int top = 0;
   int height = 0;
@@ -25,15 +25,15 @@ struct Piece {
   int height = 0;
   std::size_t line = 0;
   os::FontLook look{};
-  /// Index of the link it belongs to, or -1.
+  /// Index of the link that contains the piece, or -1.
   int link = -1;
-  /// Where the characters come from; a label comes from nowhere and has no length.
+  /// Where the characters come from. A label has no source: its length is 0.
   Passage source{};
-  /// In the topic that was laid out.
+  /// Points into the topic that was laid out.
   std::string_view characters{};
 };
 
-/// One link, whichever pieces it is made of.
+/// One link with all its pieces.
 struct LinkTarget {
   std::int32_t number = 0;
   int top = 0;
@@ -53,18 +53,18 @@ struct Layout {
   std::vector<Piece> pieces{};
   std::vector<LinkTarget> links{};
   std::vector<Rule> rules{};
-  /// Margins included.
+  /// Includes the margins.
   int height = 0;
 };
 
-/// Looks of body texts and headings. Each is a size that the system's bitmap font has.
+/// The looks of body text and headings. Each is a size that the bitmap font of Windows has.
 inline constexpr os::FontLook kBodyLook{.points = 8};
 inline constexpr os::FontLook kHeadingLook{.points = 10, .is_bold = true};
 inline constexpr os::FontLook kTitleLook{.points = 14, .is_bold = true};
 inline constexpr os::FontLook kFixedLook{.points = 9, .is_fixed = true};
 
-/// Any width is possible: a word that is wider than its line is broken, a letter that is, stands over. The
-/// topic must outlive the layout. `margin_px` is left free on all four sides.
+/// Accepts any width: a word wider than a line is broken, and a single character wider than a line sticks
+/// out. The topic must outlive the layout. `margin_px` stays free on all four sides.
 [[nodiscard]] Layout LayOut(const Topic& topic, os::TextDevice& device, int width_px, int margin_px);
 
 }  // namespace qdix::help_viewer

@@ -7,7 +7,7 @@
 
 namespace qdix::help_viewer {
 
-/// A number of one to nine decimal digits and nothing else.
+/// Parses a number of one to nine decimal digits and nothing else.
 [[nodiscard]] inline std::optional<std::int32_t> ParseNumber(std::string_view text) {
   constexpr std::size_t kMostDigits = 9;
   if (text.empty() || text.size() > kMostDigits) return std::nullopt;

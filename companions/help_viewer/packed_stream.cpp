@@ -44,7 +44,7 @@ class Unpacker {
     }
   }
 
-  /// May reach into what it is just writing. What is damaged ends the stream.
+  /// The repetition may include bytes that it writes itself. Damaged data ends the stream.
   void Repeat() {
     const unsigned low = TakeByte();
     const unsigned high = TakeByte();

@@ -1,4 +1,4 @@
-// The topic stream as it lies in the program: packed by tools/help/pack_topics.py.
+// Unpacks the topic stream in the program's resources, which tools/help/pack_topics.py packs.
 #pragma once
 
 #include <string>
@@ -6,13 +6,13 @@
 
 namespace qdix::help_viewer {
 
-/// Longest stream, in bytes. A size beyond it is damage.
+/// Maximum length of a stream in bytes. A larger size means that the data is damaged.
 inline constexpr std::size_t kMostStreamBytes = 0x100000;
 
-/// Unpacks a stream: four bytes with its size, the lowest first, then groups of a byte of flags, the lowest
-/// bit first, and eight items: a set bit stands before a byte of the stream, a clear one before a repetition
-/// of two bytes, 12 bits of distance less 1 and above them 4 bits of length less 3. Where the bytes are
-/// damaged the stream ends early.
+/// Unpacks a stream: four bytes with its size, lowest byte first, then groups of one byte of flags, lowest
+/// bit first, and eight items. A set bit means a byte of the stream. A clear bit means a repetition in two
+/// bytes: 12 bits of distance minus 1, and above them 4 bits of length minus 3. If the data is damaged, the
+/// stream ends early.
 [[nodiscard]] std::string Unpack(std::string_view packed);
 
 }  // namespace qdix::help_viewer

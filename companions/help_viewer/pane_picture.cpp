@@ -29,7 +29,7 @@ class Painter {
   [[nodiscard]] int Across(int left) const { return left + view_.left_px; }
   [[nodiscard]] int Down(int top) const { return top - view_.first_px + view_.top_px; }
 
-  /// Draws the characters of the marked place once more, on their own background.
+  /// Draws the marked characters again, on their own background.
   void DrawMark(const Piece& piece) const {
     const Passage& source = piece.source;
     if (source.block != marked_->block || source.cell != marked_->cell) return;

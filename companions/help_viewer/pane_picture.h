@@ -1,11 +1,11 @@
-// The picture of a topic: in the pane, and on paper.
+// Draws a topic in the pane and on paper.
 #pragma once
 
 #include "help_viewer/layout.h"
 
 namespace qdix::help_viewer {
 
-/// Colours as the surface takes them.
+/// Colours in the format of the surface.
 struct Palette {
   std::uint32_t background = 0xFFFFFFU;
   std::uint32_t text = 0;
@@ -14,8 +14,8 @@ struct Palette {
   std::uint32_t marked_text = 0;
 };
 
-/// What of the layout is drawn: the lines from `first_px` to before `end_px`, the first of these pixels at
-/// `top_px` of the surface and everything `left_px` further to the right.
+/// The part of the layout to draw: from `first_px` to before `end_px`. The first of these pixels is drawn at
+/// `top_px` of the surface, and everything is shifted right by `left_px`.
 struct View {
   int first_px = 0;
   int end_px = 0;
@@ -23,8 +23,8 @@ struct View {
   int top_px = 0;
 };
 
-/// Draws what stands in view, also in part. `marked` is the place of a word, or null. The background is the
-/// caller's.
+/// Draws everything that is at least partly in view. `marked` is the place of a word, or null. The caller
+/// draws the background.
 void DrawLayout(os::TextDevice& device, const Layout& layout, const View& view, const Palette& palette,
                 const Passage* marked);
 

@@ -1,4 +1,4 @@
-// A topic on paper.
+// Prints a topic.
 #pragma once
 
 #include <string>
@@ -15,10 +15,10 @@ struct Page {
   int end_px = 0;
 };
 
-/// No line is cut, unless it is higher than a page. At least one page.
+/// Cuts no line unless it is higher than a page. Returns at least one page.
 [[nodiscard]] std::vector<Page> Paginate(const Layout& layout, int page_height_px);
 
-/// Prints a topic on the printer that was chosen. False where it refuses; what was begun is given up.
+/// Prints a topic on the chosen printer. Returns false and aborts the document if the printer fails.
 [[nodiscard]] bool PrintTopic(os::Printer& printer, const Topic& topic, const std::string& document);
 
 }  // namespace qdix::help_viewer

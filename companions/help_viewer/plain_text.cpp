@@ -6,7 +6,7 @@ namespace qdix::help_viewer {
 
 namespace {
 
-/// Lines of one kind that stand directly below each other.
+/// True for lines of related kinds, which have no blank line between them.
 bool IsClose(BlockKind above, BlockKind below) {
   const auto is_item = [](BlockKind kind) { return kind == BlockKind::kBullet || kind == BlockKind::kStep; };
   const auto is_row = [](BlockKind kind) { return kind == BlockKind::kHeaderRow || kind == BlockKind::kRow; };

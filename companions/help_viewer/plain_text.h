@@ -1,4 +1,4 @@
-// A topic as plain text, for the clipboard.
+// Converts a topic to plain text for the clipboard.
 #pragma once
 
 #include <string>
@@ -7,8 +7,8 @@
 
 namespace qdix::help_viewer {
 
-/// Lines end in a carriage return and a line feed; the cells of a row have tabs between them; blank lines
-/// stand round title, headings and paragraphs.
+/// Lines end with a carriage return and a line feed. Tabs separate the cells of a row. Blank lines surround
+/// the title, headings and paragraphs.
 [[nodiscard]] std::string PlainText(const Topic& topic);
 
 }  // namespace qdix::help_viewer

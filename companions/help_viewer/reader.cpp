@@ -4,7 +4,7 @@ namespace qdix::help_viewer {
 
 namespace {
 
-/// Steps back that are remembered.
+/// Maximum number of steps that "Back" remembers.
 constexpr std::size_t kMostVisits = 50;
 
 }  // namespace
@@ -33,7 +33,7 @@ base::Status Reader::cmdBack_Click() {
   if (visits_.empty()) return base::kDone;
   const Visit visit = visits_.back();
   visits_.pop_back();
-  // As long as the button works: one that stops working would leave the keyboard nowhere.
+  // Before the button can be disabled, which would leave nothing with the focus.
   screen_.paneTopic.SetFocus();
   Show(visit.index);
   screen_.paneTopic.ScrollTo(visit.scroll_px);

@@ -1,4 +1,4 @@
-// Which topic is shown, and the way back to those before it.
+// Knows the current topic and the way back to the previous ones.
 #pragma once
 
 #include <vector>
@@ -13,17 +13,17 @@ class Reader {
   /// Both must outlive this object.
   Reader(const Book& book, HelpScreen& screen);
 
-  /// Index of the topic that is shown, or kContentsPage.
+  /// Returns the index of the current topic, or kContentsPage.
   [[nodiscard]] int Current() const { return current_; }
-  /// The first topic: there is no way back from it.
+  /// Shows the first topic. There is no way back from it.
   void Begin(int index) { Show(index); }
-  /// Shows a topic, or the page of all of them. The one that is shown already is shown from its beginning.
+  /// Shows a topic, or the page that lists all topics. Scrolls to the top if it is already shown.
   void Open(int index);
 
-  /// "Back". The keyboard goes to the topic, to scroll it.
+  /// "Back". Moves the focus to the topic, so the keys scroll it.
   base::Status cmdBack_Click();
 
-  /// Another topic is shown.
+  /// A different topic is shown.
   base::Callback<void()> OnOpened;
 
  private:

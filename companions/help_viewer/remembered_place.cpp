@@ -21,11 +21,11 @@ constexpr std::array<Side, 4> kSides{{{"Left", &ui::WindowBounds::left},
                                       {"Width", &ui::WindowBounds::width},
                                       {"Height", &ui::WindowBounds::height}}};
 
-/// In pixels. The window itself insists on more.
+/// In pixels. The minimum size of the window itself is larger.
 constexpr int kLeastSide = 1;
 constexpr int kMostPixels = 32767;
 
-/// Moves and cuts one direction so that it lies within the screen.
+/// Moves and shortens one dimension to fit the screen.
 void FitInto(int& begin, int& length, int screen_length) {
   length = std::clamp(length, kLeastSide, screen_length);
   begin = std::clamp(begin, 0, screen_length - length);

@@ -1,4 +1,4 @@
-// Where the window stood when it was closed, kept from one start to the next.
+// Stores the position of the window on closing and restores it at the next start.
 #pragma once
 
 #include "os/screen.h"
@@ -13,8 +13,8 @@ class RememberedPlace {
   /// Both must outlive this object.
   RememberedPlace(os::Registry& registry, os::Screen& screen) : settings_(registry), screen_(screen) {}
 
-  /// Places the window where it stood, moved and cut so that all of it is on the screen. Where nothing, or
-  /// something else than numbers, is kept, the window stays where it is.
+  /// Places the window at its stored position, moved and shrunk to fit the work area. If nothing is stored,
+  /// or something other than numbers, leaves the window where it is.
   void Restore(ui::Form& window) const;
   void Save(const ui::Form& window);
 

@@ -6,7 +6,8 @@ namespace qdix::help_viewer {
 
 namespace {
 
-/// The small letter of a Windows Latin character. Multiplication and division sign stand among the letters.
+/// Returns the lower-case letter of a Windows Latin character. The multiplication and division signs are
+/// among the letters and stay unchanged.
 unsigned char Small(char character) {
   const auto byte = static_cast<unsigned char>(character);
   const bool is_plain = byte >= 'A' && byte <= 'Z';

@@ -1,4 +1,4 @@
-// Looking for a word in the topics: any sequence of characters, capital letters or not.
+// Searches the topics for a word: any sequence of characters, without regard to case.
 #pragma once
 
 #include <string_view>
@@ -8,10 +8,10 @@
 
 namespace qdix::help_viewer {
 
-/// Every place of the word in a topic's texts, in the order of reading. An empty word is nowhere.
+/// Returns every place of the word in a topic's texts, in reading order; none for an empty word.
 [[nodiscard]] std::vector<Passage> FindInTopic(const Topic& topic, std::string_view word);
 
-/// Indexes of the topics that have the word, in the order of the contents.
+/// Returns the indexes of the topics that contain the word, in the order of the contents.
 [[nodiscard]] std::vector<int> FindInBook(const Book& book, std::string_view word);
 
 }  // namespace qdix::help_viewer

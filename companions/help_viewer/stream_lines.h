@@ -1,4 +1,4 @@
-// The lines of the topic stream: the first byte is the kind, the rest the text.
+// Splits the topic stream into lines: the first byte of a line is its kind, the rest its text.
 #pragma once
 
 #include <string_view>
@@ -8,7 +8,8 @@ namespace qdix::help_viewer {
 inline constexpr char kSectionLine = 'S';
 inline constexpr char kTopicLine = '@';
 
-/// Takes the next line off the front of the stream, without its end. The stream is not empty.
+/// Removes the next line from the front of the stream and returns it without its line end. The stream must
+/// not be empty.
 [[nodiscard]] inline std::string_view TakeNextLine(std::string_view& stream) {
   const std::size_t end = stream.find('\n');
   const std::string_view line = stream.substr(0, end);
@@ -16,7 +17,8 @@ inline constexpr char kTopicLine = '@';
   return line;
 }
 
-/// Takes what stands before the next tab off the front of a text, or all of it.
+/// Removes the text up to the next tab, with the tab, and returns it. Without a tab, removes and returns
+/// everything.
 [[nodiscard]] inline std::string_view TakeField(std::string_view& text) {
   const std::size_t end = text.find('\t');
   const std::string_view field = text.substr(0, end);

@@ -1,4 +1,4 @@
-// A topic as it is shown: blocks of texts. Plain data.
+// A topic as blocks of text. Plain data.
 #pragma once
 
 #include <cstdint>
@@ -9,15 +9,15 @@ namespace qdix::help_viewer {
 
 inline constexpr std::int32_t kNoLink = -1;
 
-/// A stretch of a text in one look, up to the next run or the end of the text.
+/// A part of a text with one look. Ends at the next run or at the end of the text.
 struct Run {
   std::size_t begin = 0;
   bool is_bold = false;
-  /// Number of the topic that the stretch leads to, or kNoLink.
+  /// Number of the topic to which this part links, or kNoLink.
   std::int32_t link = kNoLink;
 };
 
-/// Bytes of Windows Latin characters. The first run begins at 0; without characters there is none.
+/// Windows Latin characters, one byte each. The first run begins at 0; an empty text has no run.
 struct Text {
   std::string characters{};
   std::vector<Run> runs{};
@@ -31,18 +31,18 @@ enum class BlockKind : std::uint8_t {
   kStep,
   kHeaderRow,
   kRow,
-  /// One line in letters of one width, never wrapped.
+  /// One line in a fixed-width font; never wrapped.
   kFixed,
 };
 
-/// What stands before the text of a bullet.
+/// Sign before the text of a bullet.
 inline constexpr const char* kBulletSign = "\x95";
 
 struct Block {
   BlockKind kind = BlockKind::kParagraph;
-  /// What stands before the text of a bullet or a step.
+  /// Sign or number before the text of a bullet or step.
   std::string label{};
-  /// One text, or those of the columns of a row.
+  /// One text, or one for each column of a row.
   std::vector<Text> cells{};
 };
 
@@ -51,7 +51,7 @@ struct Topic {
   std::vector<Block> blocks{};
 };
 
-/// A stretch of a topic's texts.
+/// A part of a topic's text.
 struct Passage {
   std::size_t block = 0;
   std::size_t cell = 0;

@@ -12,7 +12,7 @@ TopicPane::TopicPane(ui::Container& parent, const ui::Design& design)
 }
 
 void TopicPane::Show(Topic topic) {
-  // The pieces point into the topic, so they go first.
+  // The pieces point into the topic, so delete them first.
   layout_ = {};
   topic_ = std::move(topic);
   places_.clear();
@@ -30,7 +30,7 @@ void TopicPane::SurfaceChanged(os::TextDevice* device, int width_px, int height_
     Changed();
     return;
   }
-  // The first line that is in view whole, as the place to come back to.
+  // Remember the first line that is completely in view, to scroll back to its block.
   const auto top = std::find_if(layout_.lines.begin(), layout_.lines.end(),
                                 [this](const Line& line) { return line.top >= scroll_px_; });
   const bool was_at_top = scroll_px_ == 0 || top == layout_.lines.end();
@@ -65,7 +65,7 @@ void TopicPane::ScrollTo(int position_px) {
 }
 
 void TopicPane::ScrollBy(Scroll step) {
-  // A page keeps one line of the one before in view.
+  // Keep one line of the previous page in view.
   const int page_px = std::max(height_px_ - BodyLine(), BodyLine());
   switch (step) {
     case Scroll::kLineUp:
@@ -85,8 +85,8 @@ void TopicPane::ScrollBy(Scroll step) {
 
 void TopicPane::ScrollLines(int lines) { ScrollTo(scroll_px_ + lines * BodyLine()); }
 
-/// Without a link that has the keyboard the first, or the last, of those in view is the next one; without any
-/// in view it is the nearest in that direction.
+/// If no link has the focus, returns the first (or last) link in view; if none is in view, the nearest one in
+/// that direction.
 int TopicPane::NextLink(bool backward) const {
   const int count = static_cast<int>(layout_.links.size());
   if (focused_link_ >= 0) {
@@ -131,7 +131,7 @@ int TopicPane::LinkAt(int left_px, int top_px) const {
 
 void TopicPane::Follow(int link) {
   if (!Reachable() || link < 0 || link >= static_cast<int>(layout_.links.size())) return;
-  // The handler shows another topic, and with it the links change.
+  // The handler shows another topic, which changes the links.
   const std::int32_t number = layout_.links[static_cast<std::size_t>(link)].number;
   Events().Run(OnFollow, number);
 }

@@ -1,5 +1,5 @@
-// The pane that shows a topic: which part of it is in view, which link has the keyboard, which place of a
-// word is marked. Complete without a window, but lays nothing out before it has a surface to measure for.
+// The pane that shows a topic: which part is in view, which link has the focus, which place of a word is
+// marked. Complete without a window, but lays nothing out until it has a surface for measuring.
 #pragma once
 
 #include <string>
@@ -23,51 +23,51 @@ class TopicPane final : public ui::Control {
 
   TopicPane(ui::Container& parent, const ui::Design& design);
 
-  /// Another topic, from its beginning, without a marked place.
+  /// Shows another topic from its beginning, without a marked place.
   void Show(Topic topic);
   [[nodiscard]] const Topic& Shown() const { return topic_; }
 
-  /// The surface was made or has another size; null when it goes. The block at the top stays there.
+  /// The surface was made or changed its size; null when it goes away. Keeps the block at the top in place.
   void SurfaceChanged(os::TextDevice* device, int width_px, int height_px);
   [[nodiscard]] const Layout& TheLayout() const { return layout_; }
   [[nodiscard]] int Height() const { return height_px_; }
 
-  /// Pixels of the topic above the upper edge of the pane: 0 to what keeps the pane filled.
+  /// Number of pixels of the topic above the upper edge of the pane. The maximum still fills the pane.
   [[nodiscard]] int ScrollPosition() const { return scroll_px_; }
-  /// The nearest possible one.
+  /// Scrolls to the nearest possible position.
   void ScrollTo(int position_px);
   void ScrollBy(Scroll step);
-  /// Lines of body text, upwards where negative.
+  /// Scrolls by lines of body text; negative is up.
   void ScrollLines(int lines);
 
-  /// Index of the link with the keyboard, or -1.
+  /// Returns the index of the link with the focus, or -1.
   [[nodiscard]] int FocusedLink() const { return focused_link_; }
-  /// True where the Tab key (with Shift: backward) finds one more link in the topic, and does not leave it.
+  /// True if the Tab key (with Shift: backward) finds another link in the topic instead of leaving it.
   [[nodiscard]] bool HasNextLink(bool backward) const { return NextLink(backward) >= 0; }
   void FocusNextLink(bool backward);
-  /// The link at a place of the pane, or -1.
+  /// Returns the link at a position in the pane, or -1.
   [[nodiscard]] int LinkAt(int left_px, int top_px) const;
-  /// The user's pointer went down on a link: it gets the keyboard.
+  /// The user pressed the mouse button on a link: gives it the focus.
   void FocusLink(int link);
-  /// Follows a link, as a click on it does.
+  /// Follows a link, as a click does.
   void Follow(int link);
-  /// Follows the link with the keyboard, if there is one.
+  /// Follows the link with the focus, if there is one.
   void PressEnter() override;
 
-  /// Marks the first place of a word, and scrolls to it. A word that the topic does not have, and an empty
-  /// one, marks nothing.
+  /// Marks the first occurrence of a word and scrolls to it. Marks nothing if the word is empty or not in the
+  /// topic.
   void Mark(std::string_view word);
-  /// Marks the next place; after the last one the first.
+  /// Marks the next occurrence; after the last one, the first.
   void MarkNext();
-  /// The word that a place is marked of; empty without one.
+  /// Returns the word with the marked place; empty if nothing is marked.
   [[nodiscard]] const std::string& MarkedWord() const { return word_; }
-  /// The marked place, or null.
+  /// Returns the marked place, or null.
   [[nodiscard]] const Passage* Marked() const;
 
-  /// The user asks for a copy of the topic.
+  /// The user asks to copy the topic.
   void Copy();
 
-  /// A link was followed; gets the number of the topic.
+  /// A link was followed. Receives the number of the topic.
   base::Callback<base::Status(std::int32_t)> OnFollow;
   ui::Handler OnCopy;
 

@@ -10,12 +10,12 @@ namespace {
 
 constexpr char kBlank = ' ';
 
-/// End of the run of this index.
+/// Returns the end of the run with this index.
 std::size_t RunEnd(const Text& text, std::size_t run) {
   return run + 1 < text.runs.size() ? text.runs[run + 1].begin : text.characters.size();
 }
 
-/// Puts words one after the other until the line is full.
+/// Adds words to a line until it is full.
 class Wrapper {
  public:
   Wrapper(os::TextDevice& device, BlockKind kind, const Text& text, int width_px)
@@ -41,7 +41,7 @@ class Wrapper {
 
   void AddWord(Span word) {
     const bool is_first = line_.begin == line_.end;
-    // The blanks before the word count as much as the word itself.
+    // Includes the blanks before the word.
     const int grown = line_width_px_ + Width({line_.end, word.end});
     if (grown <= width_px_ || (is_first && word.end == word.begin + 1)) {
       line_.end = word.end;
@@ -55,7 +55,7 @@ class Wrapper {
     BreakWord(word);
   }
 
-  /// Fills whole lines as long as the word is too wide for one.
+  /// Fills whole lines until the rest of the word fits in one line.
   void BreakWord(Span word) {
     int width = Width(word);
     while (width > width_px_ && word.end > word.begin + 1) {
@@ -68,7 +68,7 @@ class Wrapper {
     line_width_px_ = width;
   }
 
-  /// As many characters as fit, one at least.
+  /// Returns the end of the longest part that fits, at least one character.
   [[nodiscard]] std::size_t FittingEnd(Span word) const {
     std::size_t fits = word.begin + 1;
     std::size_t beyond = word.end;

@@ -1,4 +1,4 @@
-// Where the lines of a text end.
+// Finds the line breaks of a text.
 #pragma once
 
 #include <vector>
@@ -13,14 +13,15 @@ struct Span {
   std::size_t end = 0;
 };
 
-/// The look of a run in a block of this kind.
+/// Returns the look of a run in a block of this kind.
 [[nodiscard]] os::FontLook LookOf(BlockKind kind, const Run& run);
 
-/// Width of a stretch of the text, whichever looks it has.
+/// Returns the width of a part of the text, whatever its looks.
 [[nodiscard]] int WidthOf(os::TextDevice& device, BlockKind kind, const Text& text, Span span);
 
-/// At least one line, which is empty for an empty text. Breaks at blanks, which belong to no line there, and
-/// inside of words that are too wide; texts of one line are not broken. Every line has a character.
+/// Returns at least one line, which is empty for an empty text. Breaks at blanks, which then belong to no
+/// line, and inside words that are too wide. Fixed-width text is not broken. Every other line has at least
+/// one character.
 [[nodiscard]] std::vector<Span> Wrap(os::TextDevice& device, BlockKind kind, const Text& text, int width_px);
 
 }  // namespace qdix::help_viewer

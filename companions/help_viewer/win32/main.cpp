@@ -1,5 +1,5 @@
-// The entry of help.exe: puts the program, the peers of its controls, its devices and its topics together.
-// Decides nothing.
+// The entry point of help.exe: connects the program, the peers of its controls, its devices and its topics.
+// Contains no logic.
 #include <windows.h>
 
 #include <memory>

@@ -3,7 +3,7 @@
 namespace qdix::help_viewer::win32 {
 
 std::string_view PackedTopics(HINSTANCE instance, int resource_id) {
-  // The resource compiler's number of plain data.
+  // 10 is RT_RCDATA.
   HRSRC const found = FindResourceA(instance, MAKEINTRESOURCEA(resource_id), MAKEINTRESOURCEA(10));
   HGLOBAL const loaded = found == nullptr ? nullptr : LoadResource(instance, found);
   const void* const bytes = loaded == nullptr ? nullptr : LockResource(loaded);

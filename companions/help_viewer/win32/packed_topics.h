@@ -1,4 +1,4 @@
-// The topics as a program carries them.
+// Reads the topics from the program's resources.
 #pragma once
 
 #include <windows.h>
@@ -7,8 +7,8 @@
 
 namespace qdix::help_viewer::win32 {
 
-/// The packed topics of the resource of this number, which stay where they are as long as the program runs;
-/// empty where there are none.
+/// Returns the packed topics in the resource with this number, valid as long as the program runs; empty if
+/// there are none.
 [[nodiscard]] std::string_view PackedTopics(HINSTANCE instance, int resource_id);
 
 }  // namespace qdix::help_viewer::win32

@@ -4,17 +4,17 @@ namespace qdix::help_viewer::win32 {
 
 namespace {
 
-/// The system's colour of links; Windows 98 and later have one.
+/// The system colour of links, in Windows 98 and later.
 constexpr int kHotLight = 26;
-/// The green of the links in the help of Windows 95.
+/// The green of links in the help of Windows 95.
 constexpr COLORREF kHelpGreen = RGB(0, 128, 0);
 
-/// Shares of the three colours in brightness, in percent.
+/// Returns the brightness: the three colours weighted in percent.
 int Brightness(COLORREF colour) {
   return (GetRValue(colour) * 30 + GetGValue(colour) * 59 + GetBValue(colour) * 11) / 100;
 }
 
-/// On a dark background, as in a scheme of high contrast, the green could not be read.
+/// On a dark background, for example in a high-contrast scheme, the green would be unreadable.
 COLORREF LinkColour(COLORREF background) {
   constexpr int kDark = 128;
   if (GetSysColorBrush(kHotLight) != nullptr) return GetSysColor(kHotLight);

@@ -1,4 +1,4 @@
-// The colours of the pane, all from the user's settings.
+// The colours of the pane, according to the user's settings.
 #pragma once
 
 #include "help_viewer/pane_picture.h"
@@ -6,7 +6,7 @@
 
 namespace qdix::help_viewer::win32 {
 
-/// The colours of this moment, on a background of this colour word.
+/// Returns the current colours, with `background` as the background.
 [[nodiscard]] Palette SystemPalette(ui::Colour background);
 
 }  // namespace qdix::help_viewer::win32

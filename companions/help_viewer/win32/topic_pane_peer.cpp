@@ -8,15 +8,14 @@ namespace qdix::help_viewer::win32 {
 
 namespace {
 
-/// Windows 98 and later; 0 of them in the wheel's setting means that it scrolls nothing.
+/// For Windows 98 and later. If the user has set 0 lines, the wheel scrolls nothing.
 constexpr UINT kMouseWheel = 0x020A;
 constexpr UINT kAskWheelLines = 0x0068;
-/// On Windows 95 the mouse driver itself sends this to the window with the keyboard, with the turn as its
-/// first parameter.
+/// On Windows 95 the mouse driver itself sends this message to the window with the focus; wParam is the turn.
 constexpr const char* kDriverWheelMessage = "MSWHEEL_ROLLMSG";
 constexpr int kWheelNotch = 120;
 constexpr UINT kDefaultWheelLines = 3;
-/// Setting of the wheel: a page a notch.
+/// Setting for one page per notch.
 constexpr UINT kWheelPages = 0xFFFFFFFFU;
 /// The hand of Windows 98 and later.
 constexpr WORD kHandCursor = 32649;
@@ -112,7 +111,7 @@ bool TopicPanePeer::HandlePointer(UINT message, WPARAM wparam, LPARAM lparam) {
   }
 }
 
-/// The arrow stays where the system has no hand.
+/// Leaves the arrow if Windows has no hand cursor.
 bool TopicPanePeer::ShowHand(LPARAM hit) const {
   POINT pointer{};
   if (LOWORD(hit) != HTCLIENT || GetCursorPos(&pointer) == 0) return false;
@@ -170,8 +169,8 @@ bool TopicPanePeer::HandleKey(WPARAM key) {
   }
 }
 
-/// Letters are not taken for access keys here, arrows do not move the keyboard, and Tab stays as long as
-/// there are links.
+/// Keeps letters from being taken for access keys and arrow keys from moving the focus. Tab stays here as
+/// long as there are links.
 LRESULT TopicPanePeer::DialogCode(LPARAM message) {
   LRESULT code = DLGC_WANTARROWS | DLGC_WANTCHARS;
   const auto* const key = reinterpret_cast<const MSG*>(message);
@@ -214,7 +213,7 @@ void TopicPanePeer::SizeChanged() {
   pane_.SurfaceChanged(&memory_->text, static_cast<int>(inner.right), static_cast<int>(inner.bottom));
 }
 
-/// A scroll bar that comes and goes would change the width of the text, so it stays and is disabled.
+/// Disables the scroll bar instead of hiding it: hiding would change the width of the text.
 void TopicPanePeer::ValueChanged() {
   SCROLLINFO info{};
   info.cbSize = sizeof info;
@@ -226,7 +225,7 @@ void TopicPanePeer::ValueChanged() {
   InvalidateRect(Window(), nullptr, FALSE);
 }
 
-/// Drawn in memory first, so that scrolling does not flicker.
+/// Draws into memory first, to avoid flicker.
 void TopicPanePeer::PaintWindow() {
   PAINTSTRUCT paint{};
   HDC const window = BeginPaint(Window(), &paint);
@@ -258,7 +257,7 @@ void TopicPanePeer::Draw(const RECT& part) {
   if (GetFocus() == Window()) DrawFocus(scroll);
 }
 
-/// Round the link with the keyboard or, without one, round the pane.
+/// Draws the focus rectangle around the link with the focus or, if there is none, around the pane.
 void TopicPanePeer::DrawFocus(int down_px) const {
   SetTextColor(Device(), GetSysColor(COLOR_WINDOWTEXT));
   SetBkColor(Device(), ui::win32::ResolveColour(pane_.BackColour()));

@@ -1,4 +1,4 @@
-// The window of the pane: paints the topic, and hands keys, wheel, scroll bar and pointer to the model.
+// The window of the pane: paints the topic and passes keys, wheel, scroll bar and mouse to the model.
 #pragma once
 
 #include <memory>
@@ -20,12 +20,12 @@ class TopicPanePeer final : public ui::win32::NativeControl {
   void ValueChanged() override;
   void CaptionChanged() override {}
 
-  /// True where the message needs nothing more.
+  /// Returns true if the message needs no further handling.
   bool HandlePointer(UINT message, WPARAM wparam, LPARAM lparam);
   bool HandleKey(WPARAM key);
   [[nodiscard]] LRESULT DialogCode(LPARAM message);
   void ScrollBarMoved(UINT code);
-  /// In parts of a notch, away from the user positive.
+  /// `turned` is in parts of a notch; positive is away from the user.
   void WheelTurned(int turned);
   [[nodiscard]] bool ShowHand(LPARAM hit) const;
   void SizeChanged();
@@ -33,21 +33,21 @@ class TopicPanePeer final : public ui::win32::NativeControl {
   void Draw(const RECT& part);
   void DrawFocus(int down_px) const;
 
-  /// Measures at any time; has a bitmap only while the window is painted.
+  /// Can measure text at any time. Has a bitmap only while the window is painted.
   struct MemoryDevice {
     ui::win32::OwnedMemoryDevice device{CreateCompatibleDC(nullptr)};
     os::win32::GdiTextDevice text{device.get(), os::win32::kScreenFaces};
   };
 
   [[nodiscard]] HDC Device() const { return memory_->device.get(); }
-  /// Makes the memory device for the screen as it is now. The topic is laid out on it.
+  /// Makes the memory device for the current screen. The topic is laid out with it.
   void MakeMemoryDevice();
 
   TopicPane& pane_;
   UINT driver_wheel_message_;
   std::unique_ptr<MemoryDevice> memory_;
   int pressed_link_ = -1;
-  /// What the wheel has turned and not scrolled yet.
+  /// Turn of the wheel that has not been scrolled yet.
   int wheel_rest_ = 0;
 };
 

@@ -1,12 +1,13 @@
-// One process after the other: two viewers that start together would not find each other's window.
+// Makes processes start one after the other: two viewers that start at the same time would not find each
+// other's window.
 #pragma once
 
 #include <windows.h>
 
 namespace qdix::help_viewer::win32 {
 
-/// Waits until no other process has the turn of this name, and has it until it is destroyed. A process that
-/// takes longer than the limit is not waited for: a second viewer is better than none.
+/// Waits until no other process holds the turn of this name and holds it until destroyed. Gives up waiting
+/// after the limit: a second viewer is better than none.
 class Turn {
  public:
   explicit Turn(const char* name) : mutex_(CreateMutexA(nullptr, FALSE, name)) {
