@@ -1,5 +1,4 @@
-// The real memory, of which no more than one small release can be taken at a time; counts what is taken and
-// given back.
+// The real memory, limited to one small release at a time. Counts what is taken and given back.
 #pragma once
 
 #include "os/memory.h"
@@ -8,13 +7,13 @@ namespace qdix::self_test {
 
 class LimitedMemory final : public os::Memory {
  public:
-  /// One release of 1 MB is a little below that.
+  /// A release of 1 MB needs a little less.
   static constexpr std::uint32_t kMostBytes = 2000000;
 
   explicit LimitedMemory(os::Memory& real) : real_(real) {}
 
   [[nodiscard]] os::MemoryStatus GlobalMemoryStatus() override { return real_.GlobalMemoryStatus(); }
-  /// Null for a block above kMostBytes.
+  /// Returns null for a block above kMostBytes.
   [[nodiscard]] void* VirtualAlloc(std::uint32_t bytes) override;
   void TouchPages(void* block, std::uint32_t bytes) override;
   void VirtualFree(void* block) override;

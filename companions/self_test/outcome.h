@@ -1,4 +1,4 @@
-// What came of one check.
+// The result of one check.
 #pragma once
 
 #include <string>
@@ -8,12 +8,12 @@ namespace qdix::self_test {
 
 struct Outcome {
   bool is_ok = true;
-  /// What failed, or what is worth knowing of a check that is ok; may be empty then.
+  /// What failed. For a check that passed, additional information or nothing.
   std::string remark;
 
   [[nodiscard]] static Outcome Ok(std::string remark = {}) { return {true, std::move(remark)}; }
   [[nodiscard]] static Outcome Failed(std::string what) { return {false, std::move(what)}; }
-  /// Failed with this text unless `is_so`.
+  /// Returns a failure with this text unless `is_so`.
   [[nodiscard]] static Outcome Expect(bool is_so, const char* otherwise) {
     return is_so ? Ok() : Failed(otherwise);
   }

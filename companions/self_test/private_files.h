@@ -1,5 +1,5 @@
-// Files of which only those in one folder can be changed. That folder is the folder of Windows for whoever
-// asks, so system.ini is one of its own. Everything else can be read.
+// Allows changes only to files in one folder. That folder also counts as the Windows folder, so it has its
+// own system.ini. All other files can be read.
 #pragma once
 
 #include <string>
@@ -10,12 +10,12 @@
 
 namespace qdix::self_test {
 
-/// True for a file directly in the folder, which has no backslash at its end.
+/// True for a file directly in the folder. `folder` has no backslash at the end.
 [[nodiscard]] bool LiesIn(std::string_view folder, std::string_view path);
 
 class PrivateFiles final : public os::Files {
  public:
-  /// The real files must outlive this; whoever makes the folder deletes it.
+  /// `real` must outlive this object. The owner of the folder deletes it.
   PrivateFiles(os::Files& real, const std::string& folder) : real_(real), folder_(folder) {}
 
   [[nodiscard]] std::uint32_t GetWindowsDirectoryA(char* buffer, std::uint32_t size_bytes) override;
@@ -51,7 +51,7 @@ class PrivateProfileFiles final : public os::ProfileFiles {
                                   const char* file) override;
 
  private:
-  /// A bare name is one in the folder of Windows, and that is this one.
+  /// A file name without a path means the Windows folder, which is this folder.
   [[nodiscard]] std::string PathOf(const char* file) const;
 
   os::ProfileFiles& real_;

@@ -8,7 +8,7 @@ constexpr bool IsRoot(os::KeyHandle key) { return key >= os::kHkeyClassesRoot &&
 
 }  // namespace
 
-/// Keys that were opened through here lie inside already.
+/// Keys that were opened through this object are already inside.
 PrivateRegistry::Place PrivateRegistry::Inside(os::KeyHandle parent, const char* subkey) const {
   std::string below = subkey == nullptr ? "" : subkey;
   if (!IsRoot(parent)) return {parent, below};
@@ -65,7 +65,7 @@ std::int32_t PrivateRegistry::RegFlushKey(os::KeyHandle key) {
   return IsRoot(key) ? os::kErrorSuccess : real_.RegFlushKey(key);
 }
 
-/// The system takes the closing of a root as done.
+/// Windows reports success for closing a root.
 std::int32_t PrivateRegistry::RegCloseKey(os::KeyHandle key) {
   return IsRoot(key) ? os::kErrorSuccess : real_.RegCloseKey(key);
 }

@@ -1,5 +1,5 @@
-// The system that the programs run on inside the self-test: the real memory, clock, drives, processor and
-// event pump; registry and files in places of their own; everything that others would notice kept quiet.
+// The system on which the programs run inside the self-test: real memory, clock, drives, processor and event
+// pump; a private registry and private files; silent stand-ins for everything that the user would notice.
 #pragma once
 
 #include <string>
@@ -12,17 +12,17 @@
 
 namespace qdix::self_test {
 
-/// Places that nobody else uses.
+/// Places that no other program uses.
 struct OwnPlaces {
   /// A key below HKEY_CURRENT_USER.
   std::string key;
-  /// A folder that is there, without a backslash at its end.
+  /// An existing folder, without a backslash at the end.
   std::string folder;
 };
 
 class PrivateSystem {
  public:
-  /// The real system must outlive this.
+  /// The real system must outlive this object.
   PrivateSystem(const os::System& real, const OwnPlaces& places);
   PrivateSystem(const PrivateSystem&) = delete;
   PrivateSystem& operator=(const PrivateSystem&) = delete;

@@ -1,5 +1,5 @@
-// Stand-ins for what would be seen or heard outside of the self-test: boxes, the notification area, other
-// programs, the shell's folders, the end of the session. Each refuses or does nothing.
+// Stand-ins for everything that could be seen or heard outside the self-test: message boxes, the notification
+// area, other programs, the shell's folders, the end of the session. Each refuses or does nothing.
 #pragma once
 
 #include <optional>
@@ -17,19 +17,19 @@
 
 namespace qdix::self_test {
 
-/// Nothing is asked and nothing agreed; what was said is kept.
+/// Shows no box and agrees to nothing; keeps the texts.
 class QuietDialogs final : public os::Dialogs {
  public:
   int MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) override;
 
-  /// What was said since the last question, the texts parted by a slash; it is forgotten then.
+  /// Returns the texts since the last call, separated by slashes, and clears them.
   [[nodiscard]] std::string TakeTexts();
 
  private:
   std::string texts_;
 };
 
-/// The notification area takes every icon and shows none.
+/// A notification area that accepts every icon and shows none.
 class QuietShell final : public os::Shell {
  public:
   bool Shell_NotifyIconA(std::uint32_t /*request*/, const os::NotifyIconData& /*data*/) override {
@@ -56,8 +56,8 @@ class QuietShellFiles final : public os::ShellFiles {
   }
 };
 
-/// The first copy of a program that lies in a folder of its own. It starts others and nothing comes of it: a
-/// start that fails would be an error of the program.
+/// Pretends to be the first copy of a program in a folder of its own. Reports success for starting a program
+/// without starting it: a failure would be an error in the program under test.
 class QuietProcesses final : public os::Processes {
  public:
   explicit QuietProcesses(const std::string& program_path) : program_path_(program_path) {}
@@ -110,7 +110,7 @@ class QuietFileDialogs final : public os::FileDialogs {
   }
 };
 
-/// There is no printer, so nothing but the choice is ever asked of it.
+/// There is no printer, so only PrintDlgA is ever called.
 class QuietPrinter final : public os::Printer {
  public:
   explicit QuietPrinter(os::TextDevice& device) : device_(device) {}

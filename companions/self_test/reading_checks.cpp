@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::size_t kRoom = 260;
 constexpr std::uint32_t kFatOnlyBytesPerSector = 512;
-/// Days since 30 December 1899: 1 January of 1995 and of 2100.
+/// Days since 30 December 1899: 1 January 1995 and 1 January 2100.
 constexpr double kFirstDay = 34700;
 constexpr double kLastDay = 73051;
 
@@ -25,7 +25,7 @@ std::string WindowsFolder(os::Files& files) {
   return length < buffer.size() ? std::string(buffer.data()) : std::string();
 }
 
-/// "C:\" of a path on that drive.
+/// Returns "C:\" for a path on that drive.
 std::string DriveOf(const std::string& path) { return path.substr(0, 2) + "\\"; }
 
 Outcome ClockTells(const os::System& real) {
@@ -37,7 +37,7 @@ Outcome ClockTells(const os::System& real) {
 
 Outcome PumpWaits(const os::System& real) {
   constexpr std::uint32_t kWaitMs = 100;
-  // The clock of these systems ticks every 55 ms.
+  // The clock of Windows 95, 98 and ME ticks every 55 ms.
   constexpr std::uint32_t kTickMs = 55;
   const std::uint32_t before = real.clock.GetTickCount();
   real.event_pump.PumpEvents();
@@ -111,7 +111,7 @@ Outcome RegistryReads(const os::System& real) {
   return Outcome::Expect(!missing.IsOpen(), "a key that nobody made opens");
 }
 
-/// One reading of the value; a negative one where there is none.
+/// Reads the value once; negative if there is none.
 std::int32_t Load(os::Registry& registry, const char* path) {
   os::KeyHandle key = 0;
   if (registry.RegOpenKeyExA(os::kHkeyDynData, path, os::kKeyQueryValue, key) != os::kErrorSuccess) return -1;
@@ -128,7 +128,7 @@ std::int32_t Load(os::Registry& registry, const char* path) {
 
 Outcome StatisticTells(const os::System& real) {
   constexpr std::int32_t kMostPercent = 100;
-  static_cast<void>(Load(real.registry, "PerfStats\\StartStat"));  // the question starts the statistic
+  static_cast<void>(Load(real.registry, "PerfStats\\StartStat"));  // reading StartStat starts the statistic
   const std::int32_t percent = Load(real.registry, "PerfStats\\StatData");
   if (percent < 0) return Outcome::Failed("this system keeps no such statistic");
   if (percent > kMostPercent) return Outcome::Failed("a load of " + base::TextOf(percent) + " %");

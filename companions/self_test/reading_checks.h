@@ -1,4 +1,4 @@
-// Checks that the real system answers the harmless questions of the programs, and sensibly.
+// Checks that the real system gives sensible answers to harmless requests of the programs.
 #pragma once
 
 #include <string>
@@ -8,8 +8,8 @@
 
 namespace qdix::self_test {
 
-/// Asks everything that changes nothing. `own_folder` is one for files of our own, without a backslash at its
-/// end; the one that is made there is deleted.
+/// Makes every request that changes nothing. `own_folder` is a folder for our own files, without a backslash
+/// at the end; the file that is created there is deleted.
 void RunReadingChecks(Report& report, const os::System& real, const std::string& own_folder);
 
 }  // namespace qdix::self_test

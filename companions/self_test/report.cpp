@@ -7,7 +7,7 @@ namespace qdix::self_test {
 
 namespace {
 
-/// Names of facts and checks are filled up to these columns.
+/// Names of facts and checks are padded to these columns.
 constexpr std::size_t kFactColumn = 20;
 constexpr std::size_t kCheckColumn = 48;
 

@@ -1,5 +1,5 @@
-// The log of a run: facts of the machine, one line for each check, the totals. Every piece is on the disk as
-// soon as it is known, so that a machine that hangs or crashes leaves the name of the check that did it.
+// The log of a run: facts about the machine, one line per check, the totals. Every part is written to the
+// disk at once: if the machine hangs or crashes, the log ends with the name of the check that caused it.
 #pragma once
 
 #include <cstdint>
@@ -14,34 +14,34 @@ namespace qdix::self_test {
 
 class Report {
  public:
-  /// Makes the log anew, in the first of the two places that takes it. Files and clock must outlive this.
+  /// Creates the log, replacing an earlier one, in the first of the two places that works. Files and clock
+  /// must outlive this object.
   Report(os::Files& files, os::Clock& clock, const std::string& path, const std::string& other_path);
   Report(const Report&) = delete;
   Report& operator=(const Report&) = delete;
   ~Report();
 
-  /// Where the log is; empty where neither place took it.
+  /// Returns the path of the log; empty if neither place worked.
   [[nodiscard]] const std::string& Path() const { return path_; }
 
-  /// A line of its own.
   void Line(std::string_view text);
-  /// A line of a name and what it is.
+  /// Writes a line with a name and its value.
   void Fact(std::string_view name, std::string_view value);
 
-  /// Runs a check, which is called without arguments and gives an Outcome, and writes its line: name,
-  /// result, time in milliseconds.
+  /// Runs a check, which takes no arguments and returns an Outcome, and writes its line: name, result, time
+  /// in milliseconds.
   template <class Check>
   void Run(std::string_view name, const Check& check) {
     Begin(name);
     End(check());
   }
 
-  /// Writes the totals. Once, at the end.
+  /// Writes the totals. Call once, at the end.
   void Finish();
 
   [[nodiscard]] int Checks() const { return checks_; }
   [[nodiscard]] int Failures() const { return failures_; }
-  /// The disk did not take everything.
+  /// True if some part of the log could not be written.
   [[nodiscard]] bool IsIncomplete() const { return is_incomplete_; }
 
  private:

@@ -25,7 +25,7 @@ struct Pixel {
   ui::Colour colour;
 };
 
-/// Screens of 16 bits keep five or six of the eight bits of a colour's parts.
+/// Allows a difference: 16-bit screens keep only five or six of the eight bits of each colour component.
 bool LooksLike(COLORREF seen, COLORREF wanted) {
   constexpr int kRounding = 8;
   const auto is_near = [](int one, int other) {
@@ -35,7 +35,7 @@ bool LooksLike(COLORREF seen, COLORREF wanted) {
          is_near(GetGValue(seen), GetGValue(wanted)) && is_near(GetBValue(seen), GetBValue(wanted));
 }
 
-/// Screens of few colours show the nearest that they have.
+/// Compares with the nearest colour that the screen has.
 Outcome Shows(const ui::win32::BitmapCanvas& canvas, std::span<const Pixel> pixels) {
   for (const Pixel& pixel : pixels) {
     const COLORREF wanted = GetNearestColor(canvas.Device(), pixel.colour);
@@ -54,7 +54,8 @@ Outcome ColoursDiffer() {
                          "lit and unlit look the same");
 }
 
-/// A bar of the full height, then one of half of it: the first has moved by the width of a bar, 2 pixels.
+/// Draws a bar of full height, then one of half height. The first must have moved by the width of a bar, 2
+/// pixels.
 Outcome GraphDraws() {
   constexpr int kWidth = 100;
   constexpr int kHeight = 65;
@@ -79,7 +80,7 @@ Outcome GraphDraws() {
   return outcome;
 }
 
-/// Half of the segments are lit: the first and the 25th, but not the 26th and the last.
+/// Half of the segments must be lit: the first and the 25th, but not the 26th and the last.
 Outcome GaugeDraws() {
   constexpr std::array<Pixel, 4> kPixels{{{3, 7, controls::Meter3::kLit},
                                           {75, 7, controls::Meter3::kLit},

@@ -1,4 +1,4 @@
-// Checks that graph and gauges draw on the canvas of the screen what they should, pixel by pixel.
+// Checks pixel by pixel that the graph and the gauges draw correctly on a screen canvas.
 #pragma once
 
 #include "self_test/report.h"

@@ -1,4 +1,4 @@
-// What a reader of the log has to know of the machine.
+// Facts about the machine that a reader of the log needs.
 #pragma once
 
 #include "os/system.h"
@@ -6,7 +6,7 @@
 
 namespace qdix::self_test::win32 {
 
-/// Writes a line for each: date, Windows, memory, processor, display.
+/// Writes one line each for date, Windows, memory, page file, address space, processor and display.
 void WriteMachineFacts(Report& report, const os::System& real);
 
 }  // namespace qdix::self_test::win32

@@ -1,4 +1,4 @@
-// The entry of QDIXTEST.EXE: runs the checks in their order, writes the log, and says where it is.
+// The entry point of QDIXTEST.EXE: runs the checks in order, writes the log and says where it is.
 #include <windows.h>
 
 #include <memory>
@@ -24,7 +24,7 @@ namespace {
 constexpr const char* kTitle = "Q-DIX Self-Test";
 constexpr const char* kLogName = "QDIXTEST.LOG";
 
-/// Lives on the heap, as the real system is more than a frame of the stack should hold.
+/// Allocated on the heap: the real system would be too large for a stack frame.
 class SelfTest {
  public:
   explicit SelfTest(HINSTANCE instance)
@@ -47,7 +47,7 @@ class SelfTest {
     report_.Finish();
   }
 
-  /// Says what came of it; the exit code of the program.
+  /// Shows the result and returns the exit code of the program.
   [[nodiscard]] int Tell() {
     if (report_.Path().empty() || report_.IsIncomplete()) {
       Say("The log could not be written. Please copy QDIXTEST.EXE to a folder on the hard disk and start it "
@@ -69,7 +69,8 @@ class SelfTest {
     real_.GetSystem().dialogs.MessageBoxA(text, kTitle, os::kMbOk | icon);
   }
 
-  /// On a machine that has had Q-DIX before, and with the system.ini of this one to be read.
+  /// The programs run as on a machine that has had Q-DIX before, and read a copy of this machine's
+  /// system.ini.
   void RunPrograms() {
     const auto system = std::make_unique<PrivateSystem>(real_.GetSystem(), places_.Places());
     report_.Run("Settings of its own", [this, &system] { return Prepare(*system); });

@@ -1,4 +1,4 @@
-// One of the programs with its window, on the private system.
+// Runs one of the programs with its window on the private system.
 #pragma once
 
 #include <windows.h>
@@ -16,26 +16,26 @@
 
 namespace qdix::self_test::win32 {
 
-/// What every check of windows works with.
+/// What every check of windows needs.
 struct Bench {
   HINSTANCE instance;
   Report& report;
   PrivateSystem& system;
 };
 
-/// Peers of every kind of control that any of the programs has.
+/// Makes peers for every kind of control in any of the programs.
 [[nodiscard]] std::unique_ptr<ui::win32::NativeControl> MakeAnyPeer(const ui::win32::PeerContext& context,
                                                                     ui::Control& model, HWND parent,
                                                                     int number);
 
-/// The timers of a program: the companions have none.
+/// Returns the timers of a program. Companions have none.
 [[nodiscard]] inline screens::MainWindow::AllTimers TimersOf(app::Form1& program) { return program.Timers(); }
 template <class Program>
 [[nodiscard]] std::array<ui::Timer*, 0> TimersOf(Program& /*program*/) {
   return {};
 }
 
-/// Lives on the heap: the controls alone are more than a frame of the stack should hold.
+/// Allocate on the heap: the controls alone would be too large for a stack frame.
 template <class Program>
 class OpenProgram {
  public:
@@ -53,7 +53,7 @@ class OpenProgram {
   [[nodiscard]] Program& TheProgram() { return program_; }
   [[nodiscard]] HWND MainWindow() const { return window_.MainWindow(); }
 
-  /// Starts the program as its own entry does. What it says meanwhile becomes part of the outcome.
+  /// Starts the program as its own entry point does. Its message boxes become part of the outcome.
   [[nodiscard]] Outcome Start() {
     if (!window_.Complete()) return Outcome::Failed("a window could not be made");
     static_cast<void>(system_.Dialogs().TakeTexts());
@@ -65,7 +65,7 @@ class OpenProgram {
     return Outcome::Ok(said.empty() ? said : "it said: " + said);
   }
 
-  /// WalkWindows, after what is waiting to be drawn and done.
+  /// Handles pending events, then calls WalkWindows.
   [[nodiscard]] Outcome Walk() {
     system_.GetSystem().event_pump.PumpEvents();
     return WalkWindows(MainWindow(), program_.Window());
@@ -75,7 +75,7 @@ class OpenProgram {
     return win32::WindowOf(MainWindow(), program_.Window(), control);
   }
 
-  /// What the system tells the parent of a control that was clicked or changed by hand.
+  /// Sends the notification that Windows sends to the parent when the user clicks or changes a control.
   void Notify(const ui::Control& control, WORD code) {
     HWND const window = WindowOf(control);
     SendMessageA(GetParent(window), WM_COMMAND, static_cast<WPARAM>(MAKELONG(GetDlgCtrlID(window), code)),
@@ -85,7 +85,7 @@ class OpenProgram {
  private:
   using Timers = decltype(TimersOf(std::declval<Program&>()));
 
-  // The windows go first, then the program whose models they show.
+  // Destroyed in reverse order: first the windows, then the program whose models they show.
   PrivateSystem& system_;
   Program program_;
   Timers timers_;

@@ -8,7 +8,7 @@ namespace qdix::self_test::win32 {
 
 namespace {
 
-/// The key that the settings of Q-DIX lie in as well, beside others'.
+/// The key that also contains the settings of Q-DIX and of other programs.
 constexpr const char* kSettingsKey = "Software\\VB and VBA Program Settings";
 constexpr const char* kOwnKey = "Software\\VB and VBA Program Settings\\QDIX Self-Test";
 constexpr const char* kOwnFolder = "QDIXTEST";
@@ -20,7 +20,7 @@ bool HasKey(const char* path) {
   return true;
 }
 
-/// From below upwards, as Windows NT wants it. True where there is no such key in the end.
+/// Deletes subkeys first, as Windows NT requires. Returns true if the key does not exist afterwards.
 bool DeleteKeyTree(HKEY parent, const char* path) {
   HKEY key = nullptr;
   const LONG opened = RegOpenKeyExA(parent, path, 0, KEY_ALL_ACCESS, &key);
@@ -34,7 +34,7 @@ bool DeleteKeyTree(HKEY parent, const char* path) {
   return RegDeleteKeyA(parent, path) == ERROR_SUCCESS;
 }
 
-/// Windows 95 deletes a key with all that is in it, so this looks before.
+/// Checks first that the key is empty: Windows 95 deletes a key with all its contents.
 bool DeleteEmptyKey(const char* path) {
   HKEY key = nullptr;
   if (RegOpenKeyExA(HKEY_CURRENT_USER, path, 0, KEY_READ, &key) != ERROR_SUCCESS) return true;
@@ -47,10 +47,10 @@ bool DeleteEmptyKey(const char* path) {
   return keys != 0 || values != 0 || RegDeleteKeyA(HKEY_CURRENT_USER, path) == ERROR_SUCCESS;
 }
 
-/// The folder and the files directly in it; nothing of ours makes folders there.
+/// Deletes the folder and the files directly in it. The programs make no folders there.
 bool DeleteFolder(const std::string& folder) {
   if (GetFileAttributesA(folder.c_str()) == INVALID_FILE_ATTRIBUTES) return true;
-  // What the system keeps of an INI file in memory must not be written later.
+  // Otherwise Windows may write cached entries of the INI file later.
   WritePrivateProfileStringA(nullptr, nullptr, nullptr, (folder + "\\system.ini").c_str());
   WIN32_FIND_DATAA found{};
   HANDLE const search = FindFirstFileA((folder + "\\*").c_str(), &found);
@@ -78,7 +78,7 @@ OwnPlacesKeeper::OwnPlacesKeeper()
     : places_{.key = kOwnKey, .folder = TemporaryFolder() + kOwnFolder},
       settings_existed_(HasKey(kSettingsKey)) {
   if (!DeleteKeyTree(HKEY_CURRENT_USER, kOwnKey)) return;
-  // What cannot be deleted may still be used.
+  // If it cannot be deleted, it may still be usable.
   DeleteFolder(places_.folder);
   CreateDirectoryA(places_.folder.c_str(), nullptr);
   const DWORD attributes = GetFileAttributesA(places_.folder.c_str());

@@ -1,4 +1,4 @@
-// The key and the folder of a run, and their removal with everything in them.
+// Makes the private key and folder of a run, and removes them with everything in them.
 #pragma once
 
 #include <string>
@@ -8,18 +8,19 @@
 
 namespace qdix::self_test::win32 {
 
-/// The user's folder for temporary files, with a backslash at its end; empty where none is named.
+/// Returns the user's folder for temporary files, with a backslash at the end; empty if there is none.
 [[nodiscard]] std::string TemporaryFolder();
 
 class OwnPlacesKeeper {
  public:
-  /// Takes away what an interrupted run left, and makes the folder; the key is made by whoever writes to it.
+  /// Removes what an interrupted run left behind and makes the folder. The key is made by the first write to
+  /// it.
   OwnPlacesKeeper();
 
   [[nodiscard]] const OwnPlaces& Places() const { return places_; }
-  /// Failed where there is no such folder.
+  /// Returns a failure if the folder does not exist.
   [[nodiscard]] Outcome AreMade() const;
-  /// Takes away key and folder, and the key above ours where there was none before.
+  /// Removes the key and the folder, and also the parent key if it did not exist before.
   [[nodiscard]] Outcome Remove() const;
 
  private:

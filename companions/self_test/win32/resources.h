@@ -1,4 +1,4 @@
-// Numbers of the program's resources, for the resource compiler and for the code.
+// Numbers of the program's resources, shared by the resource compiler and the code.
 #pragma once
 
 #define QDIX_SELF_TEST_ICON 1

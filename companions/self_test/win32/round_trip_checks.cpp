@@ -37,7 +37,7 @@ Outcome Stored(const Bench& bench, std::string_view section, const char* key, co
   return Outcome::Failed(std::string(key) + " holds " + stored + ", not " + expected);
 }
 
-/// Adds a program to the list of the launcher and saves it.
+/// Adds a program to the launcher's list and saves it.
 Outcome SaveProgramList(const Bench& bench) {
   QuietFileDialogs dialogs;
   const auto open = std::make_unique<OpenProgram<config_launcher::ConfigForm>>(bench, dialogs);

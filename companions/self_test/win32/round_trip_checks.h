@@ -1,4 +1,4 @@
-// Checks that what a hand does in a window is stored, and found again by the next start; and that a small
+// Checks that the user's changes in a window are stored and restored at the next start, and that a small
 // release takes its memory and gives it back.
 #pragma once
 

@@ -13,7 +13,7 @@ namespace qdix::self_test::win32 {
 
 namespace {
 
-/// Closes the program; its windows must be gone then.
+/// Closes the program. Its window must be gone afterwards.
 template <class Program>
 Outcome Close(std::unique_ptr<OpenProgram<Program>>& open) {
   HWND const main = open->MainWindow();
@@ -21,7 +21,7 @@ Outcome Close(std::unique_ptr<OpenProgram<Program>>& open) {
   return Outcome::Expect(IsWindow(main) == FALSE, "its window is still there");
 }
 
-/// A program of one page: opened, walked, closed.
+/// Opens, checks and closes a program with a single page.
 template <class Program, class... Others>
 void CheckProgram(const Bench& bench, const std::string& name, Others&... others) {
   auto open = std::make_unique<OpenProgram<Program>>(bench, others...);

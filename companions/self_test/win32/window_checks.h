@@ -1,4 +1,4 @@
-// Checks that every window of the programs can be made, is what its models say, and goes again.
+// Checks that every window of the programs can be made, matches its models, and is destroyed again.
 #pragma once
 
 #include "self_test/win32/open_program.h"

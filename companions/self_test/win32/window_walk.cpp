@@ -14,7 +14,7 @@ const ui::Control* PageOf(const ui::Control& control) {
   return above;
 }
 
-/// The window that a control's own stands on directly.
+/// Returns the window that directly contains the control's window.
 HWND StandsOn(HWND main, const ui::Form& form, const ui::Control& control) {
   const ui::Control* const page = PageOf(control);
   return page == nullptr ? main : GetDlgItem(main, ui::NumberOf(form, page->Name()));

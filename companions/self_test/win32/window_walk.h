@@ -1,4 +1,4 @@
-// Compares the windows on the screen with the models that they mirror.
+// Compares the windows on the screen with their models.
 #pragma once
 
 #include <windows.h>
@@ -10,12 +10,12 @@
 
 namespace qdix::self_test::win32 {
 
-/// The native window of a control; null where there is none.
+/// Returns the native window of a control, or null if there is none.
 [[nodiscard]] HWND WindowOf(HWND main, const ui::Form& form, const ui::Control& control);
 
-/// Every control has a window, which is shown as the model says, carries its caption, and lies inside of the
-/// window that it stands on. Those of a page that is not open may have none: they are made when it is opened.
-/// `main` is the window of the form. Tells how many windows it saw.
+/// Checks that every control has a window, is shown or hidden as its model says, has its caption and lies
+/// inside its parent window. Controls on a page that is not open may have no window: it is made when the page
+/// is opened. `main` is the window of the form. The outcome gives the number of windows.
 [[nodiscard]] Outcome WalkWindows(HWND main, ui::Form& form);
 
 }  // namespace qdix::self_test::win32
