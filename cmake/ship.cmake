@@ -2,6 +2,8 @@
 # each finished exe.
 find_program(CROSS_OBJCOPY i686-w64-mingw32-objcopy REQUIRED)
 find_program(CROSS_OBJDUMP i686-w64-mingw32-objdump REQUIRED)
+find_program(CROSS_NM i686-w64-mingw32-nm REQUIRED)
+find_program(CROSS_STRIP i686-w64-mingw32-strip REQUIRED)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 include(cmake/packed_topics.cmake)
 
@@ -38,7 +40,7 @@ add_custom_target(win95_libraries DEPENDS ${import_libraries} ${reduced_libgcc})
 set(CMAKE_CXX_STANDARD_LIBRARIES "")
 set(ship_link_flags
   -flto-partition=one -nostdlib -nostartfiles -Wl,-e,_start -Wl,--gc-sections -Wl,--subsystem,windows:4.0
-  -Wl,--major-os-version,4,--minor-os-version,0 -s
+  -Wl,--major-os-version,4,--minor-os-version,0
   -Wl,--disable-reloc-section -Wl,--disable-dynamicbase -Wl,--disable-nxcompat -Wl,--no-insert-timestamp
   ${CMAKE_SOURCE_DIR}/src/runtime/noctors.ld)
 
@@ -50,6 +52,10 @@ function(qdix_link target)
   # By path: with -l it would quietly take the full libraries.
   target_link_libraries(${target} PRIVATE ${ARGN} qdix_runtime ${reduced_libgcc} ${import_libraries})
   set_target_properties(${target} PROPERTIES SUFFIX ".exe" LINK_DEPENDS ${CMAKE_SOURCE_DIR}/src/runtime/noctors.ld)
+  # The names of its functions go into a file beside it, by which tests name an address of the exe.
+  add_custom_command(TARGET ${target} POST_BUILD
+    COMMAND ${CROSS_NM} -C -n $<TARGET_FILE:${target}> > $<TARGET_FILE:${target}>.symbols
+    COMMAND ${CROSS_STRIP} -p $<TARGET_FILE:${target}> VERBATIM)
   add_dependencies(${target} win95_libraries)
 endfunction()
 
