@@ -15,10 +15,15 @@ def exported_names(folder):
     return {path.stem: set(_lines(path)) for path in pathlib.Path(folder).glob("*.txt") if path.stem not in (LATER, STUBS)}
 
 
-def stubs(folder):
-    """Of each library the names that are exported only to fail or to do nothing."""
+def listed_names(folder, stem):
+    """The names of each library in a list whose lines name the library as well."""
     found = {}
-    for line in _lines(pathlib.Path(folder) / f"{STUBS}.txt"):
+    for line in _lines(pathlib.Path(folder) / f"{stem}.txt"):
         dll, _, name = line.partition("!")
         found.setdefault(dll, set()).add(name)
     return found
+
+
+def stubs(folder):
+    """Of each library the names that are exported only to fail or to do nothing."""
+    return listed_names(folder, STUBS)

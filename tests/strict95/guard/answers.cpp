@@ -1,0 +1,123 @@
+// Questions that came with later systems are answered as the older one does: with no, null or its own
+// version.
+#include <algorithm>
+#include <cstring>
+#include <string>
+#include <string_view>
+
+#include "tests/strict95/guard/rules.h"
+
+namespace qdix::strict95 {
+
+namespace {
+
+enum class Lacks {
+  kBoth,
+  kRtmOnly
+};
+
+/// What is asked for in an argument above a number gets this answer, and the system is not asked.
+struct Answer {
+  const char* function;
+  unsigned argument;
+  std::uint32_t last_known;
+  std::uint32_t answer;
+  Lacks who;
+};
+
+constexpr Answer kAnswers[] = {
+    // Colours to that of a tip's background.
+    {"GetSysColor", 1, 24, 0, Lacks::kRtmOnly},
+    {"GetSysColorBrush", 1, 24, 0, Lacks::kRtmOnly},
+    {"GetSysColor", 1, 28, 0, Lacks::kBoth},
+    {"GetSysColorBrush", 1, 28, 0, Lacks::kBoth},
+    {"SystemParametersInfoA", 1, 0x5E, 0, Lacks::kRtmOnly},
+    {"SystemParametersInfoA", 1, 0x69, 0, Lacks::kBoth},
+    {"GetSystemMetrics", 1, 75, 0, Lacks::kRtmOnly},
+    {"GetSystemMetrics", 1, 83, 0, Lacks::kBoth},
+};
+
+constexpr std::uint32_t kHandCursor = 32649;
+
+std::string LibraryName(HMODULE module) {
+  char path[MAX_PATH] = "";
+  GetModuleFileNameA(module, path, sizeof path);
+  std::string name = path;
+  name = name.substr(name.find_last_of('\\') + 1);
+  name = name.substr(0, name.find('.'));
+  std::transform(name.begin(), name.end(), name.begin(), [](unsigned char one) { return std::tolower(one); });
+  return name;
+}
+
+/// Null where not even Windows ME has it.
+const Export* FindExport(const std::string& library, std::string_view name) {
+  const Export* const end = kExports + kExportCount;
+  const Export* const found = std::find_if(kExports, end, [&library, name](const Export& one) {
+    return library == one.library && name == one.name;
+  });
+  return found == end ? nullptr : found;
+}
+
+void CheckLookup(Call& call) {
+  const char* const name = call.Argument<const char*>(2);
+  if (HIWORD(name) == 0) return;
+  const Export* const found = FindExport(LibraryName(call.Argument<HMODULE>(1)), name);
+  if (found != nullptr && found->here == Here::kOnlyFails) {
+    Report(call, Rule::kLaterNames, Format("%s is there only to fail", name));
+  }
+  const Here last = ChosenMachine() == Machine::k98 ? Here::kLater : Here::kWorks;
+  const bool is_there = found != nullptr && (found->here == Here::kWorks || found->here == last);
+  if (!is_there) call.Refuse(0);
+}
+
+/// What is looked up is guarded like what is imported.
+void GuardLookup(HMODULE guard, Call& call) {
+  const char* const name = call.Argument<const char*>(2);
+  const std::size_t number = HIWORD(name) == 0 ? kImportCount : ImportNumber(name);
+  if (call.result == 0 || number == kImportCount) return;
+  system_functions[number] = reinterpret_cast<FARPROC>(static_cast<std::uintptr_t>(call.result));
+  call.result = static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(GetProcAddress(guard, name)));
+}
+
+void CheckLibrary(Call& call) {
+  std::string name = call.Argument<const char*>(1);
+  std::transform(name.begin(), name.end(), name.begin(), [](unsigned char one) { return std::tolower(one); });
+  name = name.substr(name.find_last_of('\\') + 1);
+  name = name.substr(0, name.find('.'));
+  const bool is_known = std::any_of(kExports, kExports + kExportCount,
+                                    [&name](const Export& one) { return name == one.library; });
+  if (!is_known) call.Refuse(0);
+}
+
+void TellVersion(Call& call) {
+  if (call.result == 0) return;
+  auto& version = *call.Argument<OSVERSIONINFOA*>(1);
+  const bool is_98 = ChosenMachine() == Machine::k98;
+  version.dwMajorVersion = 4;
+  version.dwMinorVersion = is_98 ? 10 : 0;
+  version.dwBuildNumber = is_98 ? 0x040A07CE : 0x040003B6;
+  version.dwPlatformId = VER_PLATFORM_WIN32_WINDOWS;
+  version.szCSDVersion[0] = '\0';
+}
+
+}  // namespace
+
+void AddAnswers(Watches& watches, HMODULE guard) {
+  for (const Answer& row : kAnswers) {
+    if (row.who == Lacks::kRtmOnly && ChosenMachine() != Machine::kRtm) continue;
+    watches.Before(row.function, [&row](Call& call) {
+      if (call.Argument(row.argument) > row.last_known) call.Refuse(row.answer);
+    });
+  }
+  if (ChosenMachine() == Machine::kRtm) {
+    watches.Before("LoadCursorA", [](Call& call) {
+      if (call.Argument(1) == 0 && call.Argument(2) == kHandCursor) call.Refuse(0);
+    });
+  }
+  watches.Before("GetProcAddress", &CheckLookup);
+  watches.After("GetProcAddress", [guard](Call& call) { GuardLookup(guard, call); });
+  watches.Before("LoadLibraryA", &CheckLibrary);
+  watches.After("GetVersionExA", &TellVersion);
+}
+
+}  // namespace qdix::strict95

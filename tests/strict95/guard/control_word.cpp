@@ -1,0 +1,63 @@
+// Printer drivers, file dialogs, COM and shell extensions leave the 387 in a state of their own. A program
+// sets its own again before it goes on, or its figures change.
+#include "tests/strict95/guard/rules.h"
+
+namespace qdix::strict95 {
+
+namespace {
+
+/// 24 bits of precision, rounding upwards, no exceptions.
+constexpr std::uint16_t kHostile = 0x087F;
+/// What decides about figures: precision and rounding. The exceptions that are masked are left alone.
+constexpr std::uint16_t kPrecisionAndRounding = 0x0F00;
+
+struct Expected {
+  std::uint16_t word = 0;
+  bool is_due = false;
+};
+
+Expected& TheExpected() {
+  static Expected expected;
+  return expected;
+}
+
+std::uint16_t ControlWord() {
+  std::uint16_t word = 0;
+  asm volatile("fnstcw %0" : "=m"(word));
+  return word;
+}
+
+void Remember(const Call& /*call*/) {
+  if (!TheExpected().is_due) TheExpected().word = ControlWord();
+}
+
+void BeHostile(const Call& /*call*/) {
+  const std::uint16_t word = kHostile;
+  asm volatile("fldcw %0" : : "m"(word));
+  TheExpected().is_due = true;
+}
+
+void CheckSetAgain(const Call& call) {
+  if (!TheExpected().is_due) return;
+  TheExpected().is_due = false;
+  const std::uint16_t found = ControlWord();
+  if (((found ^ TheExpected().word) & kPrecisionAndRounding) == 0) return;
+  Report(call, Rule::kControlWord, Format("goes on with the control word %#x of somebody else", found));
+  asm volatile("fldcw %0" : : "m"(TheExpected().word));
+}
+
+}  // namespace
+
+void AddControlWordRules(Watches& watches) {
+  for (const char* const function :
+       {"PrintDlgA", "GetOpenFileNameA", "SHBrowseForFolderA", "ShellExecuteA", "SHFileOperationA",
+        "CoCreateInstance", "StartDocA", "EndPage", "EndDoc"}) {
+    watches.Before(function, &Remember);
+    watches.After(function, &BeHostile);
+  }
+  for (const char* const function : {"GetMessageA", "PeekMessageA", "ExitProcess", "SetWindowTextA"}) {
+    watches.Before(function, &CheckSetAgain);
+  }
+}
+
+}  // namespace qdix::strict95

@@ -1,0 +1,43 @@
+// What is selected into a device context cannot be deleted: Windows 95 refuses, and the object stays for
+// ever.
+#include <map>
+
+#include "tests/strict95/guard/rules.h"
+
+namespace qdix::strict95 {
+
+namespace {
+
+/// The object of each type in each device context that the program has selected into.
+using Selections = std::map<HDC, std::map<DWORD, HGDIOBJ>>;
+
+Selections& TheSelections() {
+  static Selections selections;
+  return selections;
+}
+
+void Selected(const Call& call) {
+  auto* const object = call.Argument<HGDIOBJ>(2);
+  if (call.result != 0) TheSelections()[call.Argument<HDC>(1)][GetObjectType(object)] = object;
+}
+
+void CheckDeletion(const Call& call) {
+  auto* const deleted = call.Argument<HGDIOBJ>(1);
+  for (const auto& [device, objects] : TheSelections()) {
+    for (const auto& [type, object] : objects) {
+      if (object == deleted) Report(call, Rule::kBalance, "deletes an object that is still selected");
+    }
+  }
+}
+
+}  // namespace
+
+void AddSelectionRules(Watches& watches) {
+  watches.After("SelectObject", &Selected);
+  watches.Before("DeleteObject", &CheckDeletion);
+  watches.Before("DeleteDC", [](Call& call) { TheSelections().erase(call.Argument<HDC>(1)); });
+  watches.Before("ReleaseDC", [](Call& call) { TheSelections().erase(call.Argument<HDC>(2)); });
+  watches.Before("EndPaint", [](Call& call) { TheSelections().erase(call.Argument<const HDC*>(2)[0]); });
+}
+
+}  // namespace qdix::strict95

@@ -1,0 +1,292 @@
+// One call of each kind that the strict Windows 95 must report, each in a function of its own that the report
+// has to name, and then what it must play. Ends with the number of the first play that did not come true, or
+// with 0.
+#include <windows.h>
+// clang-format off
+#include <commctrl.h>
+#include <shlobj.h>
+// clang-format on
+
+#include <string_view>
+
+#include "runtime/entry.h"
+
+namespace planted {
+
+namespace {
+
+constexpr const char* kProfile = "planted.ini";
+constexpr const char* kProfilePath = "C:\\windows\\planted.ini";
+constexpr const char* kCopyPath = "C:\\windows\\planted.old";
+constexpr WORD kHandCursor = 32649;
+constexpr UINT kWheelLines = 0x68;
+constexpr int kHotColour = 26;
+
+/// A window that is not shown.
+class Window {
+ public:
+  explicit Window(const char* window_class)
+      : window_(CreateWindowExA(0, window_class, "", WS_POPUP, 0, 0, 20, 20, nullptr, nullptr, nullptr,
+                                nullptr)) {}
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+  ~Window() { DestroyWindow(window_); }
+  [[nodiscard]] HWND Get() const { return window_; }
+
+ private:
+  HWND window_;
+};
+
+#define PLANTED [[gnu::noinline]] void
+
+/// The box is ended by the end that waits in the queue.
+PLANTED BoxBehindOthers() {
+  PostQuitMessage(0);
+  MessageBoxA(nullptr, "planted", "planted", MB_OK);
+}
+
+PLANTED LookupOfAStub() { GetProcAddress(GetModuleHandleA("kernel32.dll"), "MoveFileExA"); }
+
+PLANTED LaterRecord() {
+  SCROLLINFO info{};
+  info.cbSize = sizeof info + 4;
+  info.fMask = SIF_POS;
+  SetScrollInfo(nullptr, SB_CTL, &info, FALSE);
+}
+
+PLANTED LaterToolRecord() {
+  const Window tips(TOOLTIPS_CLASSA);
+  TOOLINFOA tool{};
+  tool.cbSize = 44;
+  SendMessageA(tips.Get(), TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+PLANTED MessageOfAnotherClass() {
+  const Window list("LISTBOX");
+  SendMessageA(list.Get(), BM_SETSTATE, FALSE, 0);
+}
+
+PLANTED LaterMessage() {
+  constexpr UINT kChangeUiState = 0x127;
+  const Window button("BUTTON");
+  SendMessageA(button.Get(), kChangeUiState, 0, 0);
+}
+
+PLANTED LaterStyle() {
+  HWND const tab = CreateWindowExA(0, WC_TABCONTROLA, "", WS_POPUP | 0x2, 0, 0, 20, 20, nullptr, nullptr,
+                                   nullptr, nullptr);
+  DestroyWindow(tab);
+}
+
+PLANTED LaterFlag() { SetWindowPos(nullptr, nullptr, 0, 0, 0, 0, 0x8000); }
+
+PLANTED LaterNumber() {
+  LPITEMIDLIST list = nullptr;
+  SHGetSpecialFolderLocation(nullptr, 0x1A, &list);
+}
+
+PLANTED WaitWithADevice() {
+  HDC const screen = GetDC(nullptr);
+  MSG message{};
+  PostMessageA(nullptr, WM_NULL, 0, 0);
+  GetMessageA(&message, nullptr, 0, 0);
+  ReleaseDC(nullptr, screen);
+}
+
+PLANTED TooManyDevices() {
+  HDC screens[5] = {};
+  for (HDC& screen : screens) screen = GetDC(nullptr);
+  for (HDC const screen : screens) ReleaseDC(nullptr, screen);
+}
+
+PLANTED DeletionOfASelectedObject() {
+  HDC const device = CreateCompatibleDC(nullptr);
+  HBRUSH const brush = CreateSolidBrush(RGB(1, 2, 3));
+  HGDIOBJ const former = SelectObject(device, brush);
+  DeleteObject(brush);
+  SelectObject(device, former);
+  DeleteDC(device);
+}
+
+PLANTED DeletionOfAForeignObject() { DeleteObject(GetSysColorBrush(COLOR_WINDOW)); }
+
+PLANTED MenuLeftBehind() { CreatePopupMenu(); }
+
+PLANTED WideCoordinate() {
+  const Window button("BUTTON");
+  MoveWindow(button.Get(), 0, 0, 40000, 20, FALSE);
+}
+
+PLANTED LongInterval() {
+  const Window button("BUTTON");
+  SetTimer(button.Get(), 1, 70000, nullptr);
+}
+
+PLANTED WideWord() {
+  const Window list("LISTBOX");
+  SendMessageA(list.Get(), LB_GETTEXTLEN, 0x12345, 0);
+}
+
+PLANTED RootWithoutBackslash() { GetDriveTypeA("C:"); }
+
+PLANTED QuestionToAnEmptyDrive() { GetFileAttributesA("R:\\planted"); }
+
+PLANTED ForeignControlWord() {
+  EndDoc(nullptr);
+  MSG message{};
+  PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE);
+}
+
+PLANTED ClosedKey() {
+  HKEY key = nullptr;
+  RegOpenKeyExA(HKEY_CURRENT_USER, "Software", 0, KEY_READ, &key);
+  RegCloseKey(key);
+  RegQueryValueExA(key, "planted", nullptr, nullptr, nullptr, nullptr);
+}
+
+PLANTED CopyOfAnUnwrittenProfile() {
+  WritePrivateProfileStringA("planted", "planted", "1", kProfile);
+  CopyFileA(kProfilePath, kCopyPath, FALSE);
+  WritePrivateProfileStringA(nullptr, nullptr, nullptr, kProfile);
+  DeleteFileA(kProfilePath);
+  DeleteFileA(kCopyPath);
+}
+
+#undef PLANTED
+
+constexpr void (*kReported[])() = {
+    &BoxBehindOthers,
+    &LookupOfAStub,
+    &LaterRecord,
+    &LaterToolRecord,
+    &MessageOfAnotherClass,
+    &LaterMessage,
+    &LaterStyle,
+    &LaterFlag,
+    &LaterNumber,
+    &WaitWithADevice,
+    &TooManyDevices,
+    &DeletionOfASelectedObject,
+    &DeletionOfAForeignObject,
+    &MenuLeftBehind,
+    &WideCoordinate,
+    &LongInterval,
+    &WideWord,
+    &RootWithoutBackslash,
+    &QuestionToAnEmptyDrive,
+    &ForeignControlWord,
+    &ClosedKey,
+    &CopyOfAnUnwrittenProfile,
+};
+
+bool IsRtm() {
+  OSVERSIONINFOA version{};
+  version.dwOSVersionInfoSize = sizeof version;
+  return GetVersionExA(&version) != 0 && version.dwMinorVersion == 0;
+}
+
+bool LacksLaterFunctions() {
+  const bool is_missing = GetProcAddress(GetModuleHandleA("kernel32.dll"), "GetDiskFreeSpaceExA") == nullptr;
+  return is_missing == IsRtm() &&
+         GetProcAddress(GetModuleHandleA("kernel32.dll"), "GetTickCount64") == nullptr;
+}
+
+bool LacksLaterLibraries() { return LoadLibraryA("uxtheme.dll") == nullptr; }
+
+bool AnswersLaterQuestionsWithNo() {
+  UINT lines = 0;
+  return (GetSysColorBrush(kHotColour) == nullptr) == IsRtm() &&
+         (LoadCursorA(nullptr, MAKEINTRESOURCEA(kHandCursor)) == nullptr) == IsRtm() &&
+         (SystemParametersInfoA(kWheelLines, 0, &lines, 0) == 0) == IsRtm();
+}
+
+bool LeavesNoMeaningInTheLastError() {
+  SetLastError(ERROR_SUCCESS);
+  GetTickCount();
+  return GetLastError() != ERROR_SUCCESS;
+}
+
+bool RefusesWhatIsNotReady() {
+  SetErrorMode(SEM_FAILCRITICALERRORS);
+  const bool is_refused =
+      GetFileAttributesA("R:\\planted") == 0xFFFFFFFF && GetDriveTypeA("C:\\") == DRIVE_FIXED;
+  SetErrorMode(0);
+  return is_refused;
+}
+
+bool ResetsThePrinterAtEachPage() {
+  HDC const device = CreateCompatibleDC(nullptr);
+  SetTextColor(device, RGB(1, 2, 3));
+  StartPage(device);
+  const bool is_reset = SetTextColor(device, 0) == 0;
+  DeleteDC(device);
+  return is_reset;
+}
+
+bool CutsCoordinates() {
+  const Window button("BUTTON");
+  MoveWindow(button.Get(), 65536 + 7, 0, 20, 20, FALSE);
+  RECT box{};
+  GetWindowRect(button.Get(), &box);
+  return box.left == 7;
+}
+
+/// Ends with 0 where only the window without an owner is minimised.
+bool ShowsAsTheStarterWished() {
+  constexpr DWORD kFrame = WS_OVERLAPPEDWINDOW;
+  HWND const owner =
+      CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+  HWND const owned = CreateWindowExA(0, "STATIC", "", kFrame, 0, 0, 99, 99, owner, nullptr, nullptr, nullptr);
+  HWND const free =
+      CreateWindowExA(0, "STATIC", "", kFrame, 0, 0, 99, 99, nullptr, nullptr, nullptr, nullptr);
+  ShowWindow(owned, SW_SHOW);
+  ShowWindow(free, SW_SHOW);
+  return IsIconic(owned) == 0 && IsIconic(free) != 0;
+}
+
+bool GrantsTheStartersWish() {
+  STARTUPINFOA start{};
+  start.cb = sizeof start;
+  start.dwFlags = STARTF_USESHOWWINDOW;
+  start.wShowWindow = SW_SHOWMINNOACTIVE;
+  PROCESS_INFORMATION started{};
+  char command[] = "planted.exe wish";
+  char path[MAX_PATH] = "";
+  GetModuleFileNameA(nullptr, path, sizeof path);
+  if (CreateProcessA(path, command, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &started) == 0)
+    return false;
+  WaitForSingleObject(started.hProcess, INFINITE);
+  DWORD code = 1;
+  GetExitCodeProcess(started.hProcess, &code);
+  CloseHandle(started.hThread);
+  CloseHandle(started.hProcess);
+  return code == 0;
+}
+
+constexpr bool (*kPlayed[])() = {
+    &LacksLaterFunctions,
+    &LacksLaterLibraries,
+    &AnswersLaterQuestionsWithNo,
+    &LeavesNoMeaningInTheLastError,
+    &RefusesWhatIsNotReady,
+    &ResetsThePrinterAtEachPage,
+    &CutsCoordinates,
+    &GrantsTheStartersWish,
+};
+
+}  // namespace
+
+}  // namespace planted
+
+extern "C" int QdixMain(void* /*instance*/, int /*show_command*/) {
+  if (std::string_view(GetCommandLineA()).ends_with("wish"))
+    return planted::ShowsAsTheStarterWished() ? 0 : 1;
+  InitCommonControls();
+  for (const auto plant : planted::kReported) plant();
+  int number = 0;
+  for (const auto play : planted::kPlayed) {
+    ++number;
+    if (!play()) return number;
+  }
+  return 0;
+}
