@@ -1,5 +1,9 @@
 #include "tests/e2e/driver/import_redirect.h"
 
+#include <psapi.h>
+
+#include <array>
+#include <string_view>
 #include <vector>
 
 namespace qdix::e2e {
@@ -9,32 +13,55 @@ namespace {
 /// Where programs are loaded that say nothing else.
 constexpr std::uintptr_t kProgramBegin = 0x400000;
 
-/// The place in the program's image that holds the address of an imported function; null where none does.
-void* FindImport(HANDLE process, std::uint32_t function) {
-  std::uintptr_t address = kProgramBegin;
+/// Places in an image of the process that hold the address of a function.
+std::vector<void*> PlacesOf(HANDLE process, std::uintptr_t image, std::uint32_t function) {
+  std::vector<void*> places;
+  std::uintptr_t address = image;
   MEMORY_BASIC_INFORMATION region = {};
   while (VirtualQueryEx(process, reinterpret_cast<void*>(address), &region, sizeof region) != 0 &&
-         region.State == MEM_COMMIT && region.AllocationBase == reinterpret_cast<void*>(kProgramBegin)) {
+         region.State == MEM_COMMIT && region.AllocationBase == reinterpret_cast<void*>(image)) {
     std::vector<std::uint32_t> words(region.RegionSize / sizeof(std::uint32_t));
     ReadProcessMemory(process, region.BaseAddress, words.data(), region.RegionSize, nullptr);
     for (std::size_t i = 0; i < words.size(); ++i) {
-      if (words[i] == function) return reinterpret_cast<void*>(address + i * sizeof(std::uint32_t));
+      if (words[i] == function)
+        places.push_back(reinterpret_cast<void*>(address + i * sizeof(std::uint32_t)));
     }
     address += region.RegionSize;
   }
-  return nullptr;
+  return places;
+}
+
+/// Where the guard of a strict copy is loaded; 0 in a program as it ships.
+std::uintptr_t GuardOf(HANDLE process) {
+  constexpr std::string_view kGuard = "Guard.dll";
+  std::array<HMODULE, 256> modules{};
+  DWORD bytes = 0;
+  if (EnumProcessModules(process, modules.data(), sizeof modules, &bytes) == 0) return 0;
+  for (std::size_t i = 0; i < bytes / sizeof(HMODULE) && i < modules.size(); ++i) {
+    std::array<char, MAX_PATH> name{};
+    GetModuleBaseNameA(process, modules[i], name.data(), static_cast<DWORD>(name.size()));
+    if (name.data() == kGuard) return reinterpret_cast<std::uintptr_t>(modules[i]);
+  }
+  return 0;
+}
+
+bool Write(HANDLE process, void* place, std::uint32_t replacement) {
+  DWORD protection = 0;
+  VirtualProtectEx(process, place, sizeof replacement, PAGE_READWRITE, &protection);
+  const bool is_written = WriteProcessMemory(process, place, &replacement, sizeof replacement, nullptr) != 0;
+  VirtualProtectEx(process, place, sizeof replacement, protection, &protection);
+  return is_written;
 }
 
 }  // namespace
 
 bool RedirectImport(HANDLE process, std::uint32_t function, std::uint32_t replacement) {
-  void* const import = FindImport(process, function);
-  if (import == nullptr) return false;
-  DWORD protection = 0;
-  VirtualProtectEx(process, import, sizeof replacement, PAGE_READWRITE, &protection);
-  const bool is_redirected =
-      WriteProcessMemory(process, import, &replacement, sizeof replacement, nullptr) != 0;
-  VirtualProtectEx(process, import, sizeof replacement, protection, &protection);
+  std::vector<void*> places = PlacesOf(process, kProgramBegin, function);
+  // A strict copy imports the guard, and that has the addresses of the system.
+  const std::uintptr_t guard = places.empty() ? GuardOf(process) : 0;
+  if (guard != 0) places = PlacesOf(process, guard, function);
+  bool is_redirected = !places.empty();
+  for (void* const place : places) is_redirected = Write(process, place, replacement) && is_redirected;
   return is_redirected;
 }
 
