@@ -45,6 +45,7 @@ HEAD
   Wine's input methods add to every program.
 
 TAIL
+  # What bench/small_machine.sh and bench/held.sh wrote stays as it is.
   sed -n '/^## On an emulated PC$/,$p' "$report"
 } >"$report.new"
 mv "$report.new" "$report"

@@ -19,10 +19,14 @@ for size_mb in "${sizes_mb[@]}"; do
   results+=("$folder/release.json")
 done
 
-# The rest of the report is that of bench/run.sh.
+# What bench/run.sh wrote comes before that part, what bench/held.sh wrote after it; both stay as they are.
 {
-  sed '/^## On an emulated PC$/,$d' "$report"
+  sed '/^## On an emulated PC$/,$d; /^<!-- held/,$d' "$report"
   bench/small_machine.py "${results[@]}"
+  if grep -q '^<!-- held' "$report"; then
+    printf '\n'
+    sed -n '/^<!-- held/,/^<!-- end of held/p' "$report"
+  fi
 } >"$report.new"
 mv "$report.new" "$report"
 sed -n '/^## On an emulated PC$/,$p' "$report"
