@@ -9,7 +9,7 @@
 namespace qdix::tests {
 namespace {
 
-/// Flags as the system counts them.
+/// Flags with the values of the system.
 constexpr std::uint32_t kOk = 0;
 constexpr std::uint32_t kOkCancel = 1;
 constexpr std::uint32_t kYesNo = 4;
@@ -28,7 +28,7 @@ constexpr const char* kRestartOffer =
     "You must restart your computer before the new settings take effect.\r\n\r\n"
     "Do you want to restart your computer now?";
 
-/// A way to make the program show boxes, and the boxes.
+/// A way to make the program show boxes, and the boxes expected.
 struct Occasion {
   const char* name;
   void (*act)(TuningRig&);
@@ -76,8 +76,8 @@ void AskForASuggestion(TuningRig& rig) {
   rig.program->SwapFile().cmdBeginnerSwapFile.Press();
 }
 
-// With 14,000,000 bytes less than nothing available, the difference is beyond 32 bits; the share used is
-// 100.65 percent, of which the whole part is shown.
+// With -14,000,000 bytes available, the difference exceeds 32 bits. The used share is 100.65 percent, and its
+// whole part is shown.
 INSTANTIATE_TEST_SUITE_P(
     OfMemory, Boxes,
     testing::Values(Occasion{"page file misread",
@@ -129,8 +129,8 @@ INSTANTIATE_TEST_SUITE_P(
                              },
                              {Box(kLowResources)}}));
 
-// Memory of 3 GB reads as less than nothing, of which no share can be taken: no lack of memory, so the box
-// that silences the warning changes nothing.
+// 3 GB of memory reads as a negative number, which has no share. That is not a lack of memory, so the check
+// box that silences the warning changes nothing.
 INSTANTIATE_TEST_SUITE_P(
     OfErrors, Boxes,
     testing::Values(

@@ -1,4 +1,5 @@
-// Every call of the system that can fail is failed once, and from then on, through a whole session.
+// Runs a whole session for every system call that can fail: with that call failing once, and with all calls
+// failing from then on.
 #include <gtest/gtest.h>
 
 #include "tests/support/program_rig.h"
@@ -6,11 +7,11 @@
 namespace qdix::tests {
 namespace {
 
-/// The first steps open at a first start. Without the viewer the program ends.
+/// The first start opens the first steps. Without the viewer the program ends.
 constexpr const char* kMissingViewer = "Run-time error '53':\r\n\r\nFile not found";
 
 /// A session that reaches every call: first start, a release of two blocks, each tab, a change of settings,
-/// releases by themselves on a machine that runs short of memory, a taskbar made anew, the close.
+/// automatic releases on a machine that runs short of memory, a restarted taskbar, the close.
 void RunSession(ProgramRig& rig) {
   rig.machine.SetCpuLoad(10);
   rig.machine.TheProcessor().SetLeaf(0, {.eax = 1});
@@ -49,7 +50,7 @@ void ExpectSoundEnd(ProgramRig& rig, int call) {
   EXPECT_TRUE(rig.machine.Misuses().empty()) << call << ": " << rig.machine.Misuses().front();
 }
 
-TEST(Faults, EachCallFailedOnceEndsNothingButWhatItBelongsTo) {
+TEST(Faults, EachCallFailedOnceEndsOnlyItsOwnOperation) {
   const int calls = CallsOfASession();
   ASSERT_GT(calls, 50);
   for (int call = 1; call <= calls; ++call) {
@@ -60,7 +61,7 @@ TEST(Faults, EachCallFailedOnceEndsNothingButWhatItBelongsTo) {
   }
 }
 
-TEST(Faults, EachCallFailedFromThenOnEndsNothingButWhatItBelongsTo) {
+TEST(Faults, AllCallsFailedFromEachOnEndOnlyTheirOwnOperations) {
   const int calls = CallsOfASession();
   for (int call = 1; call <= calls; ++call) {
     ProgramRig rig;

@@ -1,4 +1,4 @@
-// What the first start on a machine stores and shows, and what later starts make of stored values.
+// What the first start on a machine stores and shows, and what later starts do with the stored values.
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -8,7 +8,7 @@
 namespace qdix::tests {
 namespace {
 
-TEST(FirstStart, StoresByItsEventsExactlyTheDefaultsOfA64MegabyteMachine) {
+TEST(FirstStart, StoresExactlyTheDefaultsOfA64MegabyteMachine) {
   ProgramRig rig(64 * kMegabyte);
   rig.Start();
   const std::map<std::string, std::string> settings =
@@ -58,7 +58,7 @@ TEST(FirstStart, ShowsTheDefaultsInItsControls) {
   EXPECT_TRUE(program.Window().Shown());
 }
 
-TEST(FirstStart, TicksStartWithWindowsAndRegistersTheProgram) {
+TEST(FirstStart, ChecksStartWithWindowsAndRegistersTheProgram) {
   ProgramRig rig;
   rig.machine.CreateRegistryKey(os::kHkeyLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Run");
   EXPECT_TRUE(rig.Start().Startup().Check2.Ticked());
@@ -67,7 +67,7 @@ TEST(FirstStart, TicksStartWithWindowsAndRegistersTheProgram) {
             "C:\\Program Files\\QDIX\\QDIX.exe");
 }
 
-TEST(FirstStart, MarksTheMachineSoThatItIsFirstOnlyOnce) {
+TEST(FirstStart, HappensOnlyOncePerMachine) {
   ProgramRig rig;
   rig.Start();
   EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine, "SOFTWARE\\QDIX", "HasRun"), "1");
@@ -77,7 +77,7 @@ TEST(FirstStart, MarksTheMachineSoThatItIsFirstOnlyOnce) {
   EXPECT_EQ(rig.Stored("Settings", "CounterValue"), "7");
 }
 
-TEST(FirstStart, MarkerFallsBackToTheUserWhereTheMachineKeyCannotBeWritten) {
+TEST(FirstStart, MarkerFallsBackToTheUserKeyIfTheMachineKeyIsReadOnly) {
   ProgramRig rig;
   rig.machine.CreateRegistryKey(os::kHkeyLocalMachine, "SOFTWARE\\QDIX");
   rig.machine.DenyWrites(os::kHkeyLocalMachine, "SOFTWARE\\QDIX");
@@ -147,7 +147,7 @@ TEST(StartRegistration, UntickingRemovesTheEntry) {
   EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine, run, "Quondix"), std::nullopt);
 }
 
-TEST(StartRegistration, NeverMakesTheRunKey) {
+TEST(StartRegistration, NeverCreatesTheRunKey) {
   ProgramRig rig;
   rig.Start();
   EXPECT_FALSE(
@@ -172,7 +172,7 @@ TEST_P(DefaultsBySize, FollowHalfOfTheMemory) {
   EXPECT_EQ(program.Automatic().Text2.Text(), GetParam().threshold);
 }
 
-// 16 MB count as 16.384 of the program's megabytes, half of which is 8; and so on.
+// 16 MB are 16.384 of the program's megabytes, and half of the whole part is 8; and so on.
 INSTANTIATE_TEST_SUITE_P(
     Machines, DefaultsBySize,
     testing::Values(MachineSize{1, "", "", "1"}, MachineSize{8, "4 MB", "", "1"},

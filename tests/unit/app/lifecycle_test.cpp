@@ -17,7 +17,7 @@ class Lifecycle : public testing::Test {
     rig.SetHasRunBefore();
     return rig.Start();
   }
-  /// Names of the settings that were written, in order, since the recording began at `first_call`.
+  /// Returns the names of the settings written since call `first_call`, in order.
   [[nodiscard]] Texts WrittenValues(std::size_t first_call = 0) const {
     return rig.machine.WrittenValueNames(first_call);
   }
@@ -47,7 +47,7 @@ TEST_F(Lifecycle, LoadReadsItsSettingsInItsFixedOrder) {
                          "StartDisplay", "StartupRAM",    "StartupTime", "Launcher RAM", "Launcher Retry"}));
 }
 
-TEST_F(Lifecycle, SevenTimersStandAsDesignedBeforeTheLoad) {
+TEST_F(Lifecycle, SevenTimersHaveTheirDesignStateBeforeTheLoad) {
   std::vector<std::tuple<std::string, std::int32_t, bool>> timers;
   for (const ui::Timer* timer : rig.Create().Timers()) {
     timers.emplace_back(timer->Name(), timer->Interval(), timer->Enabled());
@@ -61,7 +61,7 @@ TEST_F(Lifecycle, SevenTimersStandAsDesignedBeforeTheLoad) {
                                                                               {"Timer7", 3000, false}}));
 }
 
-TEST_F(Lifecycle, LoadMakesTheMachineWideKey) {
+TEST_F(Lifecycle, LoadCreatesTheMachineWideKey) {
   Start();
   EXPECT_TRUE(rig.machine.KeyExists(os::kHkeyLocalMachine, "SOFTWARE\\QDIX"));
 }
@@ -107,7 +107,7 @@ TEST_P(SecondCopyByClass, RestoresAndRaisesTheFirstAndEnds) {
 INSTANTIATE_TEST_SUITE_P(Classes, SecondCopyByClass,
                          testing::Values("ThunderRTMain", "ThunderRT5Main", "ThunderRT6Main"));
 
-TEST_F(SecondCopy, ShowsAFirstThatIsMerelyHidden) {
+TEST_F(SecondCopy, ShowsAFirstCopyThatIsOnlyHidden) {
   const os::WindowHandle behind = rig.machine.OpenWindow("ThunderRT6Main", "Q-DIX");
   rig.machine.PlaceDirectlyBehind(behind, first_window);
   rig.machine.HideWindow(first_window);
@@ -154,7 +154,7 @@ TEST_F(SecondCopy, CannotFindItselfBecauseItIsRenamedFirst) {
   EXPECT_TRUE(rig.program->Window().Unloaded());
 }
 
-TEST_F(SecondCopy, TouchesNoSettingAndMakesNoKey) {
+TEST_F(SecondCopy, ChangesNoSettingAndCreatesNoKey) {
   rig.Store("Settings", "FreeUpRAM", "16");
   rig.Start();
   EXPECT_TRUE(WrittenValues().empty());
@@ -162,13 +162,13 @@ TEST_F(SecondCopy, TouchesNoSettingAndMakesNoKey) {
   EXPECT_EQ(rig.Stored("Settings", "FreeUpRAM"), "16");
 }
 
-TEST_F(SecondCopy, EndsAlsoWhereTheFirstHasNoWindowYet) {
+TEST_F(SecondCopy, AlsoEndsIfTheFirstHasNoWindowYet) {
   rig.Start();
   EXPECT_TRUE(rig.program->Window().Unloaded());
   EXPECT_TRUE(rig.machine.Boxes().empty());
 }
 
-TEST_F(SecondCopy, SaysSoWhereNoWindowStandsBeforeTheHiddenOne) {
+TEST_F(SecondCopy, ReportsThatNoWindowIsInFrontOfTheHiddenOne) {
   rig.machine.CloseWindow(first_window);
   rig.machine.OpenWindow("ThunderRT6Main", "Q-DIX");
   rig.Start();
@@ -188,7 +188,7 @@ TEST_F(Lifecycle, CloseWritesAtMostFourValuesInOrder) {
   EXPECT_EQ(rig.Stored("Startup", "StartupRAM"), "32");
 }
 
-TEST_F(Lifecycle, CloseStoresAnEditThatWasNotValidated) {
+TEST_F(Lifecycle, CloseStoresAnUnvalidatedEdit) {
   auto& program = Start();
   program.MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
   program.Automatic().Text9.SetFocus();
@@ -200,7 +200,7 @@ TEST_F(Lifecycle, CloseStoresAnEditThatWasNotValidated) {
   EXPECT_EQ(rig.Stored("Settings", "LastTab"), "1");
 }
 
-TEST_F(Lifecycle, CloseWithARefusedLimitTellsTheUserAndKeepsTheStoredValue) {
+TEST_F(Lifecycle, CloseWithAnInvalidLimitTellsTheUserAndKeepsTheStoredValue) {
   rig.Store("Settings", "AutoCPU", "70");
   auto& program = Start();
   program.Automatic().Text9.SetText("4");
@@ -208,11 +208,11 @@ TEST_F(Lifecycle, CloseWithARefusedLimitTellsTheUserAndKeepsTheStoredValue) {
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "Please enter a number between 5 an 99");
   EXPECT_EQ(rig.Stored("Settings", "AutoCPU"), "70");
-  EXPECT_EQ(rig.Stored("Settings", "LastTab"), "1") << "the refusal opened the tab of the limit";
+  EXPECT_EQ(rig.Stored("Settings", "LastTab"), "1") << "the refusal opened the tab with the limit";
   EXPECT_TRUE(program.Window().Unloaded());
 }
 
-TEST_F(Lifecycle, EndOfTheSessionInABoxOfTheLoadLeavesNoIconAndStoresNothing) {
+TEST_F(Lifecycle, EndOfTheSessionDuringABoxOfTheLoadLeavesNoIconAndStoresNothing) {
   rig.machine.SetCpuLoad(300);
   rig.machine.WhileBoxIsOpen([this] { rig.program->EndSession(); });
   Start();
@@ -222,12 +222,12 @@ TEST_F(Lifecycle, EndOfTheSessionInABoxOfTheLoadLeavesNoIconAndStoresNothing) {
   EXPECT_EQ(WrittenValues(), Texts{});
 }
 
-/// What the system was asked from the given call on.
+/// Returns the recorded calls from `first` on.
 Texts CallsAfter(const os::SimulatedMachine& machine, std::size_t first) {
   return {machine.Calls().begin() + static_cast<std::ptrdiff_t>(first), machine.Calls().end()};
 }
 
-TEST(LoadOfAFirstRun, GoesNoFurtherWhenTheSessionEndsInTheTip) {
+TEST(LoadOfAFirstRun, StopsWhenTheSessionEndsDuringTheTip) {
   ProgramRig rig;
   rig.Store("Settings", "LastTab", "1");
   std::size_t at_the_end = 0;
@@ -243,7 +243,7 @@ TEST(LoadOfAFirstRun, GoesNoFurtherWhenTheSessionEndsInTheTip) {
   EXPECT_FALSE(rig.program->Window().Shown());
 }
 
-TEST_F(Lifecycle, EndOfTheSessionInTheBoxOfACloseSavesAndEndsAtOnce) {
+TEST_F(Lifecycle, EndOfTheSessionDuringTheBoxOfACloseSavesAndEndsAtOnce) {
   rig.Store("Settings", "AutoCPU", "70");
   auto& program = Start();
   program.Automatic().Text9.SetText("4");
@@ -252,9 +252,9 @@ TEST_F(Lifecycle, EndOfTheSessionInTheBoxOfACloseSavesAndEndsAtOnce) {
   rig.machine.WhileBoxIsOpen([&] {
     EXPECT_EQ(rig.Stored("Settings", "LastTab"), std::nullopt);
     program.EndSession();
-    EXPECT_TRUE(program.Window().Unloaded()) << "the process may stop now";
+    EXPECT_TRUE(program.Window().Unloaded()) << "the process may end now";
     EXPECT_EQ(rig.Stored("Settings", "TimeCPU"), "33");
-    EXPECT_EQ(rig.Stored("Settings", "LastTab"), "1") << "the refusal opened the tab of the limit";
+    EXPECT_EQ(rig.Stored("Settings", "LastTab"), "1") << "the refusal opened the tab with the limit";
     EXPECT_EQ(rig.machine.TrayIconCount(), 0);
     at_the_end = rig.machine.Calls().size();
   });
@@ -264,7 +264,7 @@ TEST_F(Lifecycle, EndOfTheSessionInTheBoxOfACloseSavesAndEndsAtOnce) {
   EXPECT_EQ(rig.Stored("Settings", "AutoCPU"), "70");
 }
 
-TEST_F(Lifecycle, EndOfTheSessionInTheSecondBoxOfACloseSavesAndEndsAtOnce) {
+TEST_F(Lifecycle, EndOfTheSessionDuringTheSecondBoxOfACloseSavesAndEndsAtOnce) {
   auto& program = Start();
   program.Automatic().Text9.SetText("33");
   program.TimeIntervals().Text10.SetText("4");
@@ -290,13 +290,13 @@ TEST_F(Lifecycle, CloseHappensOnce) {
   EXPECT_EQ(rig.machine.Calls().size(), calls) << "no timer ticks after the close";
 }
 
-TEST_F(Lifecycle, CloseBeforeTheLoadReachedItsEndSavesNothing) {
+TEST_F(Lifecycle, CloseBeforeTheEndOfTheLoadSavesNothing) {
   auto& program = rig.Create();
   program.Window().Unload();
   EXPECT_TRUE(WrittenValues().empty());
 }
 
-TEST_F(Lifecycle, EndOfTheSessionAsksNothingAndDropsWhatWouldBeRefused) {
+TEST_F(Lifecycle, EndOfTheSessionAsksNothingAndDropsInvalidLimits) {
   rig.Store("Settings", "AutoCPU", "70");
   auto& program = Start();
   program.Automatic().Text9.SetText("100");
@@ -321,7 +321,7 @@ TEST_F(Lifecycle, LeavingATabByTheKeyboardChecksTheLimitOnIt) {
   EXPECT_EQ(program.Automatic().Text9.SelectionLength(), 1);
 }
 
-TEST_F(Lifecycle, LeavingATabWithTheFocusInARefusedLimitAsksOnceAndStays) {
+TEST_F(Lifecycle, LeavingATabWithTheFocusInAnInvalidLimitAsksOnceAndStays) {
   auto& program = Start();
   auto& tabs = program.MainWindow().SSTab1;
   tabs.ChooseTab(screens::kTimeIntervalsTab);
@@ -334,7 +334,7 @@ TEST_F(Lifecycle, LeavingATabWithTheFocusInARefusedLimitAsksOnceAndStays) {
   EXPECT_TRUE(program.TimeIntervals().Text10.HasFocus());
 }
 
-TEST_F(Lifecycle, RefusedLimitThatOpensItsTabChecksNoOtherLimit) {
+TEST_F(Lifecycle, InvalidLimitThatOpensItsTabChecksNoOtherLimit) {
   auto& program = Start();
   auto& tabs = program.MainWindow().SSTab1;
   tabs.ChooseTab(screens::kTimeIntervalsTab);
@@ -362,7 +362,7 @@ INSTANTIATE_TEST_SUITE_P(Values, CpuLimits,
                                          Limit{"100", false}, Limit{"", false}, Limit{"4.9", false},
                                          Limit{"99.5", false}, Limit{"50", true}));
 
-TEST_F(Lifecycle, PauseStopsTheTimersAndResumeStartsThoseThatAreTicked) {
+TEST_F(Lifecycle, PauseStopsTheTimersAndResumeStartsThoseTicked) {
   auto& program = Start();
   auto& window = program.MainWindow();
   program.MainWindow().SSTab1.ChooseTab(screens::kTimeIntervalsTab);
@@ -380,7 +380,7 @@ TEST_F(Lifecycle, PauseStopsTheTimersAndResumeStartsThoseThatAreTicked) {
   pause.Press();
   EXPECT_EQ(pause.Caption(), "Pause All Activity");
   EXPECT_TRUE(window.Timer1.Enabled());
-  EXPECT_FALSE(window.Timer2.Enabled()) << "its box is not ticked";
+  EXPECT_FALSE(window.Timer2.Enabled()) << "its box is cleared";
   EXPECT_FALSE(window.Timer3.Enabled()) << "a paused start-up release is lost";
   EXPECT_TRUE(window.Timer4.Enabled());
   EXPECT_TRUE(program.Automatic().Check1.Enabled());
@@ -388,7 +388,7 @@ TEST_F(Lifecycle, PauseStopsTheTimersAndResumeStartsThoseThatAreTicked) {
   EXPECT_TRUE(program.TimeIntervals().lblNextRelease.Visible());
 }
 
-TEST_F(Lifecycle, ResumeLooksForLittleMemoryAgainWhereThatIsTicked) {
+TEST_F(Lifecycle, ResumeRestartsTheLowMemoryCheckIfItIsTicked) {
   auto& program = Start();
   program.MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
   program.Automatic().Check1.Press();
@@ -422,17 +422,17 @@ TEST_F(Lifecycle, ChoosingADisplayModeStoresItAndChangesNothingNow) {
 
 TEST_F(Lifecycle, UntrappedErrorShowsItsNumberAndUnloads) {
   auto& program = Start();
-  // A bar of height zero has no scale: dividing by it is an error that the button's handler does not trap.
+  // A bar of height zero has no scale. Dividing by it is an error that the button's handler does not trap.
   program.Quondix().XGraphMeter1.SetMax(0);
   rig.machine.WhileBoxIsOpen(
-      [&program] { EXPECT_FALSE(program.Window().Unloaded()) << "not before it was read"; });
+      [&program] { EXPECT_FALSE(program.Window().Unloaded()) << "it unloads only after the box was read"; });
   program.Quondix().Command1.Press();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "Run-time error '11':\r\n\r\nDivision by zero");
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX");
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk | os::kMbIconStop);
   EXPECT_TRUE(program.Window().Unloaded());
-  EXPECT_EQ(rig.Stored("Settings", "LastTab"), "0") << "it unloads in order";
+  EXPECT_EQ(rig.Stored("Settings", "LastTab"), "0") << "it unloads normally";
 }
 
 }  // namespace

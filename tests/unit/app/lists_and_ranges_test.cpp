@@ -1,4 +1,4 @@
-// Every list and every range of the main window, whole.
+// Every list and every range of the main window, complete.
 #include <gtest/gtest.h>
 
 #include <tuple>
@@ -26,7 +26,7 @@ class Lists : public testing::Test {
   app::Form1& program = *rig.program;
 };
 
-TEST_F(Lists, CheckIntervalsAreNineNumbersOfSeconds) {
+TEST_F(Lists, CheckIntervalsAreNineValuesInSeconds) {
   EXPECT_EQ(ItemsOf(program.Automatic().List2),
             (Texts{"5", "10", "20", "30", "60", "120", "180", "240", "300"}));
 }
@@ -68,14 +68,14 @@ TEST_F(Lists, PresetsAreThirteenNames) {
                    "CD Writer (Win98/ME)", "Low Memory System (Win95)", "Low Memory System (Win98/ME)"}));
 }
 
-/// Lists that show what the machine has: nothing on this one.
+/// Lists of programs and drives on the machine: empty on this one.
 TEST_F(Lists, ProgramsAndDrivesComeFromTheMachine) {
   EXPECT_EQ(ItemsOf(program.Launcher().List5), Texts{});
   EXPECT_EQ(ItemsOf(program.SwapFile().Combo3), Texts{});
 }
 
-/// Minimum, maximum, value, small and large change. The minimum is the value at the top of a scroll bar and
-/// at the left of a slider.
+/// Minimum, maximum, value, small and large change. The minimum is at the top of a scroll bar and at the left
+/// of a slider.
 using Range = std::tuple<int, int, int, int, int>;
 
 Range RangeOf(const ui::VerticalScrollBar& bar) {
@@ -101,7 +101,7 @@ Ranges SlidersOf(app::Form1& program) {
           {"Slider5", RangeOf(program.Cache().Slider5)}, {"Slider7", RangeOf(program.Startup().Slider7)}};
 }
 
-/// On a machine of 64 MB: 67,108,864 bytes, of which 500 KB for each 1,024,000 bytes make 32,768.
+/// On a machine of 64 MB: 67,108,864 bytes, at 500 KB per 1,024,000 bytes, make 32,768.
 TEST_F(Lists, RangesOfTheBars) {
   EXPECT_EQ(BarsOf(program), (Ranges{{"VScroll1", {20, 1, 1, 1, 5}},
                                      {"VScroll2", {32, 1, 2, 1, 4}},
@@ -118,7 +118,7 @@ TEST_F(Lists, RangesOfTheSliders) {
                                         {"Slider7", {1, 5, 1, 1, 1}}}));
 }
 
-TEST_F(Lists, ChunkAloneMovesInSteps) {
+TEST_F(Lists, OnlyChunkMovesInSteps) {
   const auto step = [](const ui::Slider& slider) { return slider.Range().step; };
   const screens::CacheScreen& cache = program.Cache();
   EXPECT_EQ((std::vector<int>{step(cache.Slider1), step(cache.Slider2), step(cache.Slider3),
@@ -126,7 +126,7 @@ TEST_F(Lists, ChunkAloneMovesInSteps) {
             (std::vector<int>{1, 1, 512, 1, 1, 1}));
 }
 
-/// The threshold has one range on every machine.
+/// The threshold has the same range on every machine.
 TEST(ThresholdRange, ReachesFrom1To32OnSmallAndLargeMachines) {
   for (const std::uint32_t megabytes : {4U, 16U, 1024U}) {
     ProgramRig rig(megabytes * kMegabyte);
@@ -138,7 +138,7 @@ TEST(ThresholdRange, ReachesFrom1To32OnSmallAndLargeMachines) {
 }
 
 /// A slider's smallest value is at its left, and the smallest interval is the fastest.
-TEST_F(Lists, FasterStandsBelowTheLeftEndOfTheGraphIntervalAndSlowerBelowTheRight) {
+TEST_F(Lists, FasterIsBelowTheLeftEndOfTheGraphIntervalAndSlowerBelowTheRight) {
   const screens::StartupScreen& screen = program.Startup();
   const auto middle = [](const ui::Control& control) {
     return control.GetPlace().left + control.GetPlace().width / 2;

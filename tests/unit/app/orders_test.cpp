@@ -1,4 +1,4 @@
-// Orders that a user or another program can notice: of the load, a tick, a release, a restart, the close.
+// Sequences that a user or another program can observe: load, tick, release, restart, close.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,8 +10,8 @@ namespace {
 using testing::ElementsAre;
 using Texts = std::vector<std::string>;
 
-/// The recorded calls of these names from the given number of calls on, in order; equal ones that follow each
-/// other count once.
+/// Returns the recorded calls with these names from call `first_call` on, in order. Consecutive equal calls
+/// count once.
 Texts CallsOf(const os::SimulatedMachine& machine, const Texts& names, std::size_t first_call = 0) {
   Texts calls;
   for (std::size_t i = first_call; i < machine.Calls().size(); ++i) {
@@ -23,7 +23,7 @@ Texts CallsOf(const os::SimulatedMachine& machine, const Texts& names, std::size
   return calls;
 }
 
-/// One call per line, for a long list's differences to be found.
+/// Joins the calls with one per line, which makes differences of long lists easy to find.
 std::string Lines(const Texts& calls) {
   std::string lines;
   for (const std::string& call : calls) lines += call + "\n";
@@ -36,7 +36,7 @@ std::string Setting(const std::string& section, const std::string& name) {
 std::string Query(const std::string& name) { return "RegQueryValueExA(" + name + ")"; }
 std::string Entry(const std::string& entry) { return "GetPrivateProfileStringA(system.ini " + entry + ")"; }
 
-/// What the load asks of the machine: settings, system.ini, memory, drives, clock, icon and list of programs.
+/// The calls of the load: settings, system.ini, memory, drives, clock, icon and list of programs.
 Texts StepsOfTheLoad() {
   return {"MutexExistedBefore(QDIX.SingleInstance)",
           Query("KERNEL\\CPUUsage"),
@@ -100,7 +100,7 @@ Texts StepsOfTheLoad() {
           "GlobalMemoryStatus()"};
 }
 
-TEST(LoadOrder, EveryStepHasItsPlace) {
+TEST(LoadOrder, EveryStepComesInOrder) {
   TuningRig rig;
   rig.machine.SetCpuLoad(10);
   rig.machine.CreateRegistryKey(os::kHkeyCurrentUser, ProgramRig::SectionPath("Settings"));
@@ -130,7 +130,7 @@ TEST(LoadOrder, IconIsThereBeforeTheStartUpModeIsRead) {
   }
 }
 
-/// All of it: the memory, then one reading of the processor load.
+/// The whole tick: the memory, then one reading of the processor load.
 TEST(TickOrder, MemoryIsReadBeforeTheProcessorLoad) {
   TuningRig rig;
   rig.machine.SetCpuLoad(10);
@@ -143,8 +143,8 @@ TEST(TickOrder, MemoryIsReadBeforeTheProcessorLoad) {
              "RegQueryValueExA(KERNEL\\CPUUsage)", "RegCloseKey()"}));
 }
 
-/// Without the question the system keeps no statistic, and every later reading is 0.
-TEST(StatisticOrder, IsStartedByAQuestionBeforeTheFirstReading) {
+/// Without this query the system keeps no statistic, and every later reading is 0.
+TEST(StatisticOrder, IsStartedByAQueryBeforeTheFirstReading) {
   TuningRig rig;
   rig.machine.SetCpuLoad(10);
   rig.Start();
@@ -180,7 +180,7 @@ TEST(SecondCopyOrder, FirstIsRestoredBeforeItIsBroughtToTheFront) {
                           "SetForegroundWindow()"));
 }
 
-/// The tab can be opened again behind the box: the tip comes once.
+/// The tab can be opened again behind the box, but the tip appears only once.
 TEST(TipOrder, IsNoLongerDueWhileItsBoxIsOpen) {
   ProgramRig rig;
   rig.machine.WhileBoxIsOpen([&rig] {
@@ -193,7 +193,7 @@ TEST(TipOrder, IsNoLongerDueWhileItsBoxIsOpen) {
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Quondix Tip");
 }
 
-TEST(ReleaseOrder, FirstBlockIsTakenAndGivenBackBeforeTheSecond) {
+TEST(ReleaseOrder, FirstBlockIsAllocatedAndFreedBeforeTheSecond) {
   TuningRig rig;
   rig.StartAt(screens::kQuondixTab);
   rig.TakeGraphAway();
@@ -238,8 +238,8 @@ INSTANTIATE_TEST_SUITE_P(
                              program.SwapFile().Command18.Press();
                            }}));
 
-/// Once by the way of today, once by that of older versions, then both shortcuts.
-TEST(RegistrationOrder, UntickingTakesItsStepsOneAfterTheOther) {
+/// The current entry, then the entry of older versions, then both shortcuts.
+TEST(RegistrationOrder, ClearingTheBoxTakesItsStepsInOrder) {
   TuningRig rig;
   rig.machine.SetRegistryValue(os::kHkeyLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Run",
                                "Quondix", "C:\\Program Files\\QDIX\\QDIX.exe");

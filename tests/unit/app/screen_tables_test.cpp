@@ -1,5 +1,6 @@
-// Every tab of the main window and the menu of the tray icon, whole: kinds, names, captions with their access
-// keys, tool tips, frames, tab order. Equal texts on other tabs hide nothing here.
+// Every tab of the main window and the menu of the tray icon, complete: kinds, names, captions with their
+// access keys, tool tips, frames, tab order. Each is compared on its own, so equal texts on other tabs cannot
+// hide a difference.
 #include <gtest/gtest.h>
 
 #include "tests/support/program_rig.h"
@@ -221,7 +222,7 @@ std::string MenuText(const ui::MenuItem& menu, const std::string& indent = "") {
   return text;
 }
 
-/// The submenu of programs holds 25 entries, of which the first cannot be hidden.
+/// The submenu of programs has 25 entries. The first of them cannot be hidden.
 TEST(TrayMenuTable, HoldsExactlyTheseEntries) {
   std::string programs = "    mnuProgram ''\n";
   for (int entry = 1; entry < 25; ++entry) programs += "    mnuProgram '' hidden\n";

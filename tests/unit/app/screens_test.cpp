@@ -1,4 +1,4 @@
-// What every screen of the main window keeps to.
+// Rules for every screen of the main window.
 #include <gtest/gtest.h>
 
 #include "tests/support/program_rig.h"
@@ -36,9 +36,9 @@ class Screens : public testing::TestWithParam<int> {
   ProgramRig rig_;
 };
 
-TEST_P(Screens, AccessKeysStandInTheirCaptionsAndAreDifferent) { ExpectDifferentAccessKeys(controls); }
+TEST_P(Screens, AccessKeysOccurInTheirCaptionsAndAreDifferent) { ExpectDifferentAccessKeys(controls); }
 
-TEST_P(Screens, KeyOfALabelBelongsToTheControlBehindIt) {
+TEST_P(Screens, KeyOfALabelBelongsToTheControlAfterIt) {
   for (std::size_t i = 0; i < controls.size(); ++i) {
     if (controls[i]->GetKind() != ui::Kind::kLabel || controls[i]->AccessKey() == 0) continue;
     ASSERT_LT(i + 1, controls.size());

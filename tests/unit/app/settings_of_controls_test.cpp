@@ -35,7 +35,7 @@ TEST_F(ControlSettings, ManualAmountAndPasses) {
   EXPECT_EQ(Settings("TryTimes"), "5");
 }
 
-TEST_F(ControlSettings, UpOnTheBarsIncreasesTheirValue) {
+TEST_F(ControlSettings, UpArrowOfTheBarsIncreasesTheirValue) {
   Open(screens::kAutomaticTab);
   rig.program->Automatic().VScroll2.Step(-1);
   EXPECT_EQ(rig.program->Automatic().Text2.Text(), "3");
@@ -119,7 +119,7 @@ TEST_F(ControlSettings, StartupTab) {
   EXPECT_EQ(Settings("Warnings"), "1");
   screen.Combo1.SetFocus();
   EXPECT_TRUE(screen.Combo1.Choose("16 MB"));
-  EXPECT_EQ(Startup("StartupRAM"), "(none)") << "stored when the focus leaves";
+  EXPECT_EQ(Startup("StartupRAM"), "(none)") << "it is stored when the focus leaves";
   screen.Text3.SetFocus();
   EXPECT_EQ(Startup("StartupRAM"), "16");
 }

@@ -1,4 +1,4 @@
-// What a start makes of the values that it finds: exact ones, odd ones, and ones that another hand wrote.
+// What a start does with stored values: exact ones, odd ones, and ones edited by somebody else.
 #include <gtest/gtest.h>
 
 #include "tests/support/program_rig.h"
@@ -25,7 +25,7 @@ TEST_F(StoredSettings, AmountsAreComparedAsNumbers) {
   EXPECT_EQ(Start().Quondix().List1.SelectedText(), "16 MB");
 }
 
-TEST_F(StoredSettings, TextBoxKeepsTheTextAsStoredAndTheBarTheNearestValue) {
+TEST_F(StoredSettings, TextBoxShowsTheStoredTextAndTheBarTheNearestValue) {
   rig.Store("Settings", "TryTimes", "2.5");
   rig.Store("Settings", "MinRAM", "1000");
   rig.Store("Startup", "StartupTime", "abc");
@@ -90,7 +90,7 @@ TEST_P(OddCount, ReadsZero) {
 }
 INSTANTIATE_TEST_SUITE_P(Values, OddCount, testing::Values("", "x", "2147483648", "-1E300"));
 
-TEST_F(StoredSettings, AutomaticReleaseStartsWithTheIntervalOfTheEmptyListThenTheStoredOne) {
+TEST_F(StoredSettings, AutomaticReleaseStartsWithTheDefaultIntervalThenTheStoredOne) {
   rig.Store("Settings", "AutoActive", "True");
   rig.Store("Settings", "AutoSecs", "30");
   auto& program = Start();
@@ -119,7 +119,7 @@ TEST_F(StoredSettings, LongCheckIntervalsAreCountedInMinutes) {
   EXPECT_EQ(program.AutomaticSettings().AutoCheckTicks(), 1);
 }
 
-TEST_F(StoredSettings, ClearedCpuGateLeavesItsBoxGreyedFromTheStart) {
+TEST_F(StoredSettings, ClearedCpuGateDisablesItsBoxFromTheStart) {
   rig.Store("Settings", "CPUAutoActive", "0");
   rig.Store("Settings", "AutoCPU", "55");
   rig.Store("Settings", "CPUTimeActive", "False");
@@ -160,7 +160,7 @@ TEST_F(StoredSettings, MinimisedStart) {
   EXPECT_TRUE(program.MainWindow().Timer1.Running());
 }
 
-TEST_F(StoredSettings, HiddenStartRunsTheDisplayTimerAllTheSame) {
+TEST_F(StoredSettings, HiddenStartStillRunsTheDisplayTimer) {
   rig.Store("Startup", "StartDisplay", "3");
   auto& program = Start();
   EXPECT_TRUE(program.Startup().Option3.Selected());

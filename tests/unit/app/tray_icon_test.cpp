@@ -10,7 +10,7 @@ constexpr double kDoubleClick = 515 * ui::kTwipsPerPixel;
 constexpr double kRightButton = 516 * ui::kTwipsPerPixel;
 constexpr double kLeftButton = 513 * ui::kTwipsPerPixel;
 
-/// Notes which menus were asked for, in place of a window that would show them.
+/// Records which menus were requested, in place of a window that would show them.
 class MenuNotes final : public ui::FormPeer {
  public:
   void PopUp(ui::MenuItem& menu) override { shown.push_back(std::string(menu.Name())); }
@@ -58,14 +58,14 @@ TEST_F(Tray, IconIsAddedOnceAtLoadWithItsWholeRecord) {
   EXPECT_EQ(added.data.icon, 0x5678U);
   EXPECT_EQ(added.tip, "Q-DIX");
   EXPECT_EQ(added.data.tip[5], '\0');
-  EXPECT_EQ(added.data.tip[6], ' ') << "the field is padded with blanks behind the text";
+  EXPECT_EQ(added.data.tip[6], ' ') << "the field is padded with blanks after the text";
   EXPECT_EQ(added.data.tip[63], ' ');
 }
 
 TEST_F(Tray, TipShowsTheAvailableMemoryAsOfTheLastMouseMove) {
   rig.machine.SetMemory(64 * kMegabyte, 24012345, 1000, 1000);
   rig.AdvanceMs(7500);
-  EXPECT_EQ(rig.machine.TrayRequests().size(), 1U) << "not continuously";
+  EXPECT_EQ(rig.machine.TrayRequests().size(), 1U) << "the tip is not refreshed continuously";
   MouseOnIcon(100);
   EXPECT_EQ(Last().request, os::kNimModify);
   EXPECT_EQ(Last().tip, "23.45 MB");
@@ -85,7 +85,7 @@ TEST_F(Tray, DoubleClickRestoresAMinimisedWindow) {
   EXPECT_EQ(rig.program->Window().State(), ui::WindowState::kNormal);
 }
 
-TEST_F(Tray, WindowThatAnotherProgramBringsBackWorksAsAfterDisplay) {
+TEST_F(Tray, WindowRestoredByAnotherProgramWorksAsAfterDisplay) {
   auto& program = *rig.program;
   program.Quondix().Command3.Press();
   program.Quondix().Command4.Press();
@@ -97,7 +97,7 @@ TEST_F(Tray, WindowThatAnotherProgramBringsBackWorksAsAfterDisplay) {
   EXPECT_EQ(program.MainWindow().SSTab1.Tab(), screens::kStartupTab);
   program.Window().UserChangedVisible(false);
   program.MainWindow().SSTab1.ChooseTab(screens::kAboutTab);
-  EXPECT_EQ(program.MainWindow().SSTab1.Tab(), screens::kStartupTab) << "no hand reaches a hidden window";
+  EXPECT_EQ(program.MainWindow().SSTab1.Tab(), screens::kStartupTab) << "a user cannot reach a hidden window";
 }
 
 TEST_F(Tray, RightButtonOpensTheMenuAndALeftClickDoesNothing) {
@@ -107,7 +107,7 @@ TEST_F(Tray, RightButtonOpensTheMenuAndALeftClickDoesNothing) {
   EXPECT_EQ(menus.shown, (std::vector<std::string>{"mnuTray"}));
 }
 
-TEST_F(Tray, DoubleClickIsMarkedAsTheEntryOfTheSameEffect) {
+TEST_F(Tray, EntryWithTheEffectOfADoubleClickIsTheDefault) {
   for (const ui::MenuItem* item : rig.program->TheTrayMenu().mnuTray.Children()) {
     EXPECT_EQ(item->IsDefault(), item->Caption() == "Display Q-DIX") << item->Caption();
   }
@@ -124,11 +124,11 @@ TEST_F(Tray, MenuHoldsItsEntriesInOrder) {
   EXPECT_EQ(rig.program->TheTrayMenu().mnuTrayBar3.Name(), "mnuTrayBar3");
 }
 
-TEST_F(Tray, ProgramsAreTwentyFiveHiddenEntriesOfADisabledSubmenuUntilThereAreSome) {
+TEST_F(Tray, EmptyListMeansTwentyFiveHiddenEntriesInADisabledSubmenu) {
   const ui::MenuItem& programs = rig.program->TheTrayMenu().mnuPrograms;
   EXPECT_FALSE(programs.Enabled());
   ASSERT_EQ(programs.Children().size(), 25U);
-  EXPECT_TRUE(programs.Children()[0]->Visible()) << "a submenu always shows one";
+  EXPECT_TRUE(programs.Children()[0]->Visible()) << "a submenu always shows one entry";
   for (std::size_t index = 1; index < 25; ++index) EXPECT_FALSE(programs.Children()[index]->Visible());
 }
 
@@ -139,12 +139,12 @@ TEST_F(Tray, SingleClicksAndMovesLeaveAHiddenWindowHidden) {
   EXPECT_FALSE(rig.program->Window().Shown());
 }
 
-TEST_F(Tray, PointerOverThatPixelOfTheWindowCountsAsTheClick) {
+TEST_F(Tray, PointerOverThatPixelOfTheWindowCountsAsAClick) {
   rig.program->Window().PointerMoved(0, 0, 516 * ui::kTwipsPerPixel, 300);
   EXPECT_EQ(menus.shown, (std::vector<std::string>{"mnuTray"}));
 }
 
-TEST_F(TrayAtLogOn, RefusedAddIsAskedForAgainAtTheNextRefreshAndThenNoMore) {
+TEST_F(TrayAtLogOn, RefusedAddIsRetriedAtTheNextRefreshAndThenNoMore) {
   EXPECT_EQ(rig.machine.TrayIconCount(), 0);
   rig.AdvanceMs(kRefreshMs);
   EXPECT_EQ(rig.machine.TrayIconCount(), 1);
@@ -153,15 +153,15 @@ TEST_F(TrayAtLogOn, RefusedAddIsAskedForAgainAtTheNextRefreshAndThenNoMore) {
   EXPECT_EQ(rig.machine.TrayRequests().size(), asked);
 }
 
-TEST_F(TrayAtLogOn, RefusedAddIsAskedForAgainWhateverTheDisplayMeets) {
-  rig.machine.SetMemory(0, 512 * kMegabyte, 0x7FFFFFFFU, 0xFFFFFFFEU);  // reported in a box, and not shown
+TEST_F(TrayAtLogOn, RefusedAddIsRetriedEvenIfTheRefreshFails) {
+  rig.machine.SetMemory(0, 512 * kMegabyte, 0x7FFFFFFFU, 0xFFFFFFFEU);  // reported in a box, not displayed
   int icons_in_box = -1;
   rig.machine.WhileBoxIsOpen([&] { icons_in_box = rig.machine.TrayIconCount(); });
   rig.AdvanceMs(kRefreshMs);
   EXPECT_EQ(icons_in_box, 1);
 }
 
-TEST_F(TrayAtLogOn, RefusedAddIsAskedForAgainAlsoWhilePaused) {
+TEST_F(TrayAtLogOn, RefusedAddIsAlsoRetriedWhilePaused) {
   rig.program->Quondix().Command3.Press();
   rig.AdvanceMs(64999);
   EXPECT_EQ(rig.machine.TrayIconCount(), 0);
@@ -169,19 +169,19 @@ TEST_F(TrayAtLogOn, RefusedAddIsAskedForAgainAlsoWhilePaused) {
   EXPECT_EQ(rig.machine.TrayIconCount(), 1);
 }
 
-TEST_F(Tray, NewTaskbarGetsTheIconWithinAMinuteWhereItSaysNothing) {
+TEST_F(Tray, SilentNewTaskbarGetsTheIconWithinAMinute) {
   const os::WindowHandle first = rig.machine.OpenWindow("Shell_TrayWnd", "");
   rig.AdvanceMs(65000);
   rig.machine.CloseWindow(first);
   rig.machine.ForgetTrayIcons();
   rig.AdvanceMs(65000);
-  EXPECT_EQ(rig.machine.TrayIconCount(), 0) << "no taskbar yet";
+  EXPECT_EQ(rig.machine.TrayIconCount(), 0) << "there is no taskbar yet";
   rig.machine.OpenWindow("Shell_TrayWnd", "");
   rig.AdvanceMs(65000);
   EXPECT_EQ(rig.machine.TrayIconCount(), 1);
 }
 
-TEST_F(Tray, NewTaskbarThatTellsGetsTheIconAtOnceAndNotTwice) {
+TEST_F(Tray, AnnouncedNewTaskbarGetsTheIconAtOnceAndNotTwice) {
   rig.machine.OpenWindow("Shell_TrayWnd", "");
   rig.machine.ForgetTrayIcons();
   rig.program->Tray().AddToTray();
@@ -191,7 +191,7 @@ TEST_F(Tray, NewTaskbarThatTellsGetsTheIconAtOnceAndNotTwice) {
   EXPECT_EQ(rig.machine.TrayRequests().size(), asked);
 }
 
-TEST_F(Tray, ClosedProgramNeverAsksForTheIconAgain) {
+TEST_F(Tray, ClosedProgramNeverAddsTheIconAgain) {
   rig.program->Window().Unload();
   rig.machine.OpenWindow("Shell_TrayWnd", "");
   rig.program->Tray().AddToTray();
@@ -219,13 +219,13 @@ TEST_F(Tray, MenuHidesShowsAndCloses) {
   EXPECT_TRUE(rig.program->Window().Unloaded());
 }
 
-TEST_F(Tray, CloseTakesTheIconAway) {
+TEST_F(Tray, CloseRemovesTheIcon) {
   rig.program->Window().Unload();
   EXPECT_EQ(Last().request, os::kNimDelete);
   EXPECT_EQ(rig.machine.TrayIconCount(), 0);
 }
 
-TEST_F(Tray, CloseInTheMiddleOfAReleaseTakesTheIconAway) {
+TEST_F(Tray, CloseInTheMiddleOfAReleaseRemovesTheIcon) {
   rig.machine.OnPump([&](int) { rig.program->Window().Unload(); });
   rig.program->Quondix().Command1.Press();
   EXPECT_EQ(rig.machine.TrayIconCount(), 0);

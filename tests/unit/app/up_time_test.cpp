@@ -1,4 +1,4 @@
-// The label that tells how long the system has been running.
+// The label that shows how long the system has been running.
 #include <gtest/gtest.h>
 
 #include "tests/support/program_rig.h"
@@ -47,7 +47,7 @@ TEST(UpTimeLabel, FollowsEvery65Seconds) {
   EXPECT_EQ(label.Caption(), "Your system has been running for 0 hour(s) and 2 minutes.");
 }
 
-TEST(UpTimeLabel, GoesOnWhilePaused) {
+TEST(UpTimeLabel, KeepsRunningWhilePaused) {
   ProgramRig rig;
   rig.SetHasRunBefore();
   auto& label = rig.Start().Startup().lblTimeRunning;
@@ -57,7 +57,7 @@ TEST(UpTimeLabel, GoesOnWhilePaused) {
   EXPECT_EQ(label.Caption(), "Your system has been running for 0 hour(s) and 2 minutes.");
 }
 
-TEST(UpTimeLabel, StartsAnewWhenTheCountOfTheSystemDoes) {
+TEST(UpTimeLabel, StartsAgainWhenTheTickCountWraps) {
   ProgramRig rig;
   rig.SetHasRunBefore();
   rig.machine.AdvanceMs(4294967296 + kHourMs);

@@ -68,7 +68,7 @@ TEST(DateTest, EveryDayFollowsTheDayBefore) {
   EXPECT_EQ(year, 10000);
 }
 
-TEST(DateTest, TimeOfDayIsCutOffTowardZero) {
+TEST(DateTest, TimeOfDayIsTruncatedTowardZero) {
   EXPECT_EQ(DateOfDays(46347.999)->day, 21);
   EXPECT_EQ(DateOfDays(0.75)->day, 30);
   EXPECT_EQ(DateOfDays(-0.75)->day, 30);
@@ -87,7 +87,7 @@ TEST(DateTest, NothingOutsideTheYears100To9999) {
   }
 }
 
-TEST(DateTest, NothingForWhatIsNoNumber) {
+TEST(DateTest, NothingForNotANumber) {
   EXPECT_FALSE(DateOfDays(std::nan("")).has_value());
   EXPECT_FALSE(DateOfDays(std::numeric_limits<double>::infinity()).has_value());
   EXPECT_FALSE(DateOfDays(-std::numeric_limits<double>::infinity()).has_value());

@@ -1,4 +1,4 @@
-// Run-time errors, and the small operations on texts.
+// Run-time errors, and the small text operations.
 #include <gtest/gtest.h>
 
 #include "base/result.h"
@@ -12,7 +12,7 @@ struct Described {
   const char* description;
 };
 class ErrorDescription : public testing::TestWithParam<Described> {};
-TEST_P(ErrorDescription, IsTheOneUsersKnow) {
+TEST_P(ErrorDescription, IsTheFamiliarText) {
   EXPECT_EQ(base::RuntimeError{GetParam().number}.Description(), GetParam().description);
 }
 INSTANTIATE_TEST_SUITE_P(

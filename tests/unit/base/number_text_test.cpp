@@ -50,7 +50,7 @@ TEST(LeadingNumberText, LeadingZerosTakeNoPlaceOfTheDigitsThatAreKept) {
   EXPECT_EQ(base::ParseLeadingNumber("0." + std::string(40, '0') + "123"), 1.23e-41);
 }
 
-TEST(LeadingNumberText, UpToFifteenDigitsAreReadCorrectlyRounded) {
+TEST(LeadingNumberText, UpToFifteenDigitsAreRoundedCorrectly) {
   constexpr unsigned kSeed = 20261121;
   SCOPED_TRACE(kSeed);
   std::mt19937_64 random(kSeed);
@@ -62,7 +62,7 @@ TEST(LeadingNumberText, UpToFifteenDigitsAreReadCorrectlyRounded) {
   }
 }
 
-TEST(LeadingNumberText, SmallestNumbersAreReadAndNotTakenForNothing) {
+TEST(LeadingNumberText, SmallestNumbersDoNotReadAsZero) {
   for (const char* text : {"1E-310", "123456789E-315", "5E-300", "1E-22"}) {
     const double expected = std::strtod(text, nullptr);
     EXPECT_NEAR(base::ParseLeadingNumber(text) / expected, 1, 1e-9) << text;
@@ -94,20 +94,20 @@ INSTANTIATE_TEST_SUITE_P(
                     Shown{1.23456789012345e-9, "1.23456789012345E-09"},
                     Shown{1.23456789012345e-10, "1.23456789012345E-10"}, Shown{999999999999999.9, "1E+15"}));
 
-TEST(ShortestTextOf, WhatIsNoNumber) {
+TEST(ShortestTextOf, NotANumber) {
   EXPECT_EQ(base::ShortestText(std::numeric_limits<double>::quiet_NaN()), "NaN");
   EXPECT_EQ(base::ShortestText(std::numeric_limits<double>::infinity()), "Infinity");
   EXPECT_EQ(base::ShortestText(-std::numeric_limits<double>::infinity()), "-Infinity");
 }
 
-/// The C library's fifteen digits, with the layout of this program's texts taken away.
+/// Returns the fifteen significant digits that the C library gives a value.
 std::string Digits15(double value) {
   char text[64];
   std::snprintf(text, sizeof text, "%.14e", value);
   return text;
 }
 
-TEST(ShortestTextOf, AnyValueHasTheSameFifteenDigitsAsTheCLibraryGives) {
+TEST(ShortestTextOf, AnyValueHasTheFifteenDigitsOfTheCLibrary) {
   constexpr unsigned kSeed = 386387;
   SCOPED_TRACE(kSeed);
   std::mt19937_64 random(kSeed);
@@ -139,7 +139,7 @@ INSTANTIATE_TEST_SUITE_P(Values, Thousands,
                                          Shown{-1234, "-1,234"}, Shown{1234567.5, "1,234,568"},
                                          Shown{999999.5, "1,000,000"}, Shown{2097152, "2,097,152"}));
 
-TEST(TextOf, WholeNumbersToTheirEnds) {
+TEST(TextOf, WholeNumbersToTheirLimits) {
   EXPECT_EQ(base::TextOf(0), "0");
   EXPECT_EQ(base::TextOf(-1), "-1");
   EXPECT_EQ(base::TextOf(2147483647), "2147483647");

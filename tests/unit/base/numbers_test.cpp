@@ -26,14 +26,14 @@ INSTANTIATE_TEST_SUITE_P(Values, HalfEven,
                                          Rounded{65.536, 66}, Rounded{1e300, 1e300},
                                          Rounded{4503599627370497.0, 4503599627370497.0}));
 
-TEST(WholePart, GoesDownAndTruncateTowardZero) {
+TEST(WholePart, RoundsDownAndTruncateRoundsTowardZero) {
   EXPECT_EQ(base::WholePart(2.9), 2);
   EXPECT_EQ(base::WholePart(-2.1), -3);
   EXPECT_EQ(base::Truncate(2.9), 2);
   EXPECT_EQ(base::Truncate(-2.9), -2);
 }
 
-TEST(Narrowing, ReachesTheEndsOfEachWidthAndOverflowsBeyond) {
+TEST(Narrowing, ReachesTheLimitsOfEachWidthAndOverflowsBeyond) {
   EXPECT_EQ(base::ToByte(255.5).ValueOr(1), 1) << "255.5 rounds to 256";
   EXPECT_EQ(base::ToByte(254.5).Value(), 254);
   EXPECT_EQ(base::ToByte(-0.5).Value(), 0);
@@ -46,7 +46,7 @@ TEST(Narrowing, ReachesTheEndsOfEachWidthAndOverflowsBeyond) {
   EXPECT_EQ(base::ToInt32(-2147483648.5).Value(), std::numeric_limits<std::int32_t>::min());
 }
 
-TEST(Narrowing, WhatIsNoNumberOverflows) {
+TEST(Narrowing, NotANumberOverflows) {
   for (const double value : {kNotANumber, kInfinity, -kInfinity, 1e300}) {
     EXPECT_EQ(base::ToByte(value).Error(), base::kOverflow);
     EXPECT_EQ(base::ToInt16(value).Error(), base::kOverflow);
@@ -54,7 +54,7 @@ TEST(Narrowing, WhatIsNoNumberOverflows) {
   }
 }
 
-TEST(Clamping, TakesTheNearestEndOfAnyDouble) {
+TEST(Clamping, TakesTheNearestLimitForAnyDouble) {
   EXPECT_EQ(base::ClampToInt32(5.5, 0, 10), 6);
   EXPECT_EQ(base::ClampToInt32(-1e300, 1, 32), 1);
   EXPECT_EQ(base::ClampToInt32(1e300, 1, 32), 32);

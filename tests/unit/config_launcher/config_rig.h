@@ -1,4 +1,4 @@
-// The program that edits the launcher's list, on a simulated machine with whatever list the test puts there.
+// The editor of the program list, on a simulated machine with a list of the test's choice.
 #pragma once
 
 #include <optional>
@@ -42,7 +42,7 @@ inline std::string BytesOf(const Entries& entries) {
   return bytes;
 }
 
-/// "Program 0", "Program 1"... with texts in all fields.
+/// Returns "Program 0", "Program 1"... with texts in all fields.
 inline Entries SomeEntries(int count) {
   Entries entries;
   for (int i = 0; i < count; ++i) {
@@ -63,7 +63,7 @@ class ConfigRig {
     form->Start();
     return *form;
   }
-  /// Ends the program and starts it anew on the same machine.
+  /// Ends the program and starts it again on the same machine.
   config_launcher::ConfigForm& Restart() {
     form->Window().Unload();
     machine.EndProcess();
@@ -71,7 +71,7 @@ class ConfigRig {
   }
   [[nodiscard]] config_launcher::ConfigScreen& Screen() { return form->Screen(); }
 
-  /// Types into the three fields over what is there.
+  /// Replaces the texts of the three fields.
   void Type(const launcher::LauncherEntry& entry) {
     TypeInto(Screen().txtName, entry.name);
     TypeInto(Screen().txtPath, entry.path);
@@ -94,12 +94,12 @@ class ConfigRig {
   }
 
   [[nodiscard]] std::optional<std::string> ListOnDisk() const { return machine.ReadFile(kListPath); }
-  /// The text of the newest box, of which there are `count` in all.
+  /// Returns the text of the newest of `count` boxes.
   [[nodiscard]] std::string BoxText(std::size_t count) const {
     if (machine.Boxes().size() != count) return std::to_string(machine.Boxes().size()) + " boxes";
     return machine.Boxes().back().text;
   }
-  /// Calls that change the disk, from the given number of recorded calls on.
+  /// Returns the calls that change the disk, from call `first_call` on.
   [[nodiscard]] std::vector<std::string> Changes(std::size_t first_call = 0) const {
     std::vector<std::string> changes;
     for (std::size_t call = first_call; call < machine.Calls().size(); ++call) {

@@ -1,4 +1,4 @@
-// Adding, changing, removing, moving, and what is typed.
+// Adding, changing, removing and moving entries, and unsaved typing.
 #include <gtest/gtest.h>
 
 #include "tests/unit/config_launcher/config_rig.h"
@@ -11,7 +11,7 @@ const launcher::LauncherEntry kGame{"Game", "\"C:\\My Games\\G.EXE\" /full", ""}
 
 using Names = std::vector<std::string>;
 
-TEST(ConfigEntryList, EmptyListOffersOnlyToAdd) {
+TEST(ConfigEntryList, EmptyListOffersOnlyAdd) {
   ConfigRig rig;
   rig.Start();
   EXPECT_TRUE(rig.form->Window().Shown());
@@ -24,7 +24,7 @@ TEST(ConfigEntryList, EmptyListOffersOnlyToAdd) {
   }
 }
 
-TEST(ConfigEntryList, FirstEntryIsSelectedAndEachSelectedOneShown) {
+TEST(ConfigEntryList, FirstEntryIsSelectedAndTheSelectedEntryIsShown) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();
   EXPECT_EQ(rig.Rows(), (Names{"Program 0", "Program 1", "Program 2"}));
@@ -48,12 +48,12 @@ TEST(ConfigEntryList, AddAppendsAndSelects) {
   EXPECT_EQ(rig.Rows(), (Names{"Program 0", "Program 1", "Editor"}));
   EXPECT_EQ(rig.form->Entries().back(), kEditor);
   EXPECT_EQ(rig.Screen().lstPrograms.SelectedIndex(), 2);
-  EXPECT_EQ(rig.Fields(), kEditor) << "the blanks are gone";
+  EXPECT_EQ(rig.Fields(), kEditor) << "the blanks at the ends are removed";
   EXPECT_EQ(rig.Screen().lblCount.Caption(), "(3 of 25)");
-  EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(2))) << "written before OK";
+  EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(2))) << "the list was written before OK";
 }
 
-TEST(ConfigEntryList, ChangeReplacesTheSelectedOne) {
+TEST(ConfigEntryList, ChangeReplacesTheSelectedEntry) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();
   rig.Screen().lstPrograms.ChooseIndex(1);
@@ -64,10 +64,10 @@ TEST(ConfigEntryList, ChangeReplacesTheSelectedOne) {
   EXPECT_EQ(rig.Screen().lstPrograms.SelectedIndex(), 1);
 }
 
-TEST(ConfigEntryList, NothingMovesBeyondTheEndsOrWithoutASelection) {
+TEST(ConfigEntryList, NothingMovesPastTheEndsOrWithoutASelection) {
   ConfigRig rig(SomeEntries(2));
   rig.Start();
-  // As an accelerator that comes late would, past the disabled buttons.
+  // Acts like a late access key that gets past the disabled buttons.
   EXPECT_TRUE(rig.Screen().cmdMoveUp.OnClick().Ok());
   EXPECT_EQ(rig.form->Entries(), SomeEntries(2));
   rig.Screen().lstPrograms.ChooseIndex(1);
@@ -81,7 +81,7 @@ TEST(ConfigEntryList, NothingMovesBeyondTheEndsOrWithoutASelection) {
   EXPECT_EQ(rig.form->Entries(), SomeEntries(1));
 }
 
-TEST(ConfigEntryList, FieldThatIsMissingGetsTheKeyboardAfterTheMessage) {
+TEST(ConfigEntryList, MissingFieldGetsTheKeyboardAfterTheMessage) {
   ConfigRig rig;
   rig.Start();
   const auto focus_after = [&rig](const launcher::LauncherEntry& typed, const ui::TextBox& missing) {
@@ -90,16 +90,17 @@ TEST(ConfigEntryList, FieldThatIsMissingGetsTheKeyboardAfterTheMessage) {
     bool was_early = false;
     rig.machine.WhileBoxIsOpen([&] { was_early = missing.HasFocus(); });
     rig.Screen().cmdAdd.Press();
-    EXPECT_FALSE(was_early) << "the box would give it back to the button";
+    EXPECT_FALSE(was_early) << "the box would give the focus back to the button";
     return missing.HasFocus();
   };
   EXPECT_TRUE(focus_after({"", "A.EXE", ""}, rig.Screen().txtName));
   EXPECT_TRUE(focus_after({"A", "", ""}, rig.Screen().txtPath));
   EXPECT_EQ(rig.machine.Boxes().size(), 2U);
-  EXPECT_TRUE(focus_after({"", "", ""}, rig.Screen().txtName)) << "one after the other";
+  EXPECT_TRUE(focus_after({"", "", ""}, rig.Screen().txtName))
+      << "missing fields are reported one after the other";
 }
 
-TEST(ConfigEntryList, RemoveSelectsWhatComesNext) {
+TEST(ConfigEntryList, RemoveSelectsTheNextEntry) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();
   rig.Screen().lstPrograms.ChooseIndex(1);
@@ -114,7 +115,7 @@ TEST(ConfigEntryList, RemoveSelectsWhatComesNext) {
   EXPECT_FALSE(rig.Screen().cmdRemove.Reachable());
 }
 
-TEST(ConfigEntryList, RemoveKeepsWhatIsTyped) {
+TEST(ConfigEntryList, RemoveKeepsTypedText) {
   ConfigRig rig(SomeEntries(2));
   rig.Start();
   rig.Type(kGame);
@@ -126,7 +127,7 @@ TEST(ConfigEntryList, RemoveKeepsWhatIsTyped) {
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
 }
 
-TEST(ConfigEntryList, MovingCarriesTheEntryAndWhatIsTyped) {
+TEST(ConfigEntryList, MovingKeepsTheEntryAndTypedText) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();
   rig.Type(kGame);
@@ -143,13 +144,13 @@ TEST(ConfigEntryList, MovingCarriesTheEntryAndWhatIsTyped) {
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
 }
 
-TEST(ConfigEntryList, AnotherRowAsksBeforeWhatIsTypedIsLost) {
+TEST(ConfigEntryList, AnotherRowAsksBeforeTypedTextIsLost) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();
   rig.Type(kGame);
   rig.Screen().lstPrograms.ChooseIndex(2);
   EXPECT_EQ(rig.BoxText(1), kDiscardFields);
-  EXPECT_EQ(rig.Screen().lstPrograms.SelectedIndex(), 0) << "No is the default";
+  EXPECT_EQ(rig.Screen().lstPrograms.SelectedIndex(), 0) << "the default answer is No";
   EXPECT_EQ(rig.Fields(), kGame);
   rig.machine.AnswerNextBox(os::kIdYes);
   rig.Screen().lstPrograms.ChooseIndex(2);
@@ -172,7 +173,7 @@ TEST(ConfigEntryList, NewEmptiesTheFieldsAndSelectsNothing) {
   EXPECT_EQ(rig.form->Entries(), (Entries{SomeEntries(2)[0], SomeEntries(2)[1], kEditor}));
 }
 
-TEST(ConfigEntryList, NewAsksBeforeWhatIsTypedIsLost) {
+TEST(ConfigEntryList, NewAsksBeforeTypedTextIsLost) {
   ConfigRig rig(SomeEntries(2));
   rig.Start();
   rig.Type(kGame);
@@ -180,7 +181,7 @@ TEST(ConfigEntryList, NewAsksBeforeWhatIsTypedIsLost) {
   EXPECT_EQ(rig.BoxText(1),
             "What you typed in the fields is not in the list. To put it there, answer No and press \"Add\" "
             "or \"Change\".\r\n\r\nDo you want to discard it?");
-  EXPECT_EQ(rig.Fields(), kGame) << "No is the default";
+  EXPECT_EQ(rig.Fields(), kGame) << "the default answer is No";
   EXPECT_EQ(rig.Screen().lstPrograms.SelectedIndex(), 0);
   rig.machine.AnswerNextBox(os::kIdYes);
   rig.Screen().cmdNew.Press();
@@ -198,13 +199,13 @@ TEST(ConfigEntryList, SecondAddOfTheSameEntryAsks) {
   EXPECT_EQ(rig.BoxText(1),
             "\"EDITOR\" is already in the list with the same command line and folder.\r\n\r\n"
             "Do you want to add it again?");
-  EXPECT_EQ(rig.form->Entries(), Entries{kEditor}) << "No is the default";
+  EXPECT_EQ(rig.form->Entries(), Entries{kEditor}) << "the default answer is No";
   rig.machine.AnswerNextBox(os::kIdYes);
   rig.Screen().cmdAdd.Press();
   EXPECT_EQ(rig.Rows(), (Names{"Editor", "EDITOR"}));
 }
 
-TEST(ConfigEntryList, EntryThatDiffersInOneTextIsAnother) {
+TEST(ConfigEntryList, EntryThatDiffersInOneTextIsADifferentEntry) {
   ConfigRig rig(Entries{kEditor});
   rig.Start();
   for (const launcher::LauncherEntry& other : Entries{{"Other", kEditor.path, kEditor.start_in},
@@ -222,7 +223,7 @@ TEST(ConfigEntryList, DelRemovesAndAltWithAnArrowMoves) {
   rig.Start();
   ui::ListBox& list = rig.Screen().lstPrograms;
   list.PressRowKey(ui::RowKey::kMoveUp);
-  EXPECT_EQ(rig.form->Entries(), SomeEntries(3)) << "the first one";
+  EXPECT_EQ(rig.form->Entries(), SomeEntries(3)) << "the first entry does not move up";
   list.PressRowKey(ui::RowKey::kMoveDown);
   EXPECT_EQ(rig.Rows(), (Names{"Program 1", "Program 0", "Program 2"}));
   EXPECT_EQ(list.SelectedIndex(), 1);
@@ -239,7 +240,7 @@ TEST(ConfigEntryList, DelRemovesAndAltWithAnArrowMoves) {
   EXPECT_EQ(rig.Rows(), Names{});
 }
 
-TEST(ConfigEntryList, NameThatIsADividingLineIsRefused) {
+TEST(ConfigEntryList, NameThatMeansADividingLineIsRefused) {
   ConfigRig rig(SomeEntries(1));
   rig.Start();
   rig.Type({" - ", "NOTEPAD.EXE", ""});
@@ -268,7 +269,7 @@ TEST(ConfigEntryList, FolderLosesItsQuotationMarks) {
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
 }
 
-TEST(ConfigEntryList, FolderThatTheLauncherCannotUseIsAskedFor) {
+TEST(ConfigEntryList, UnusableFolderCausesAQuestion) {
   const std::string question =
       "The launcher cannot use this folder and would show an error at each start. \"Start In:\" needs a "
       "drive letter, even for a network folder.\r\n\r\nDo you want to keep the folder anyway?";
@@ -280,7 +281,7 @@ TEST(ConfigEntryList, FolderThatTheLauncherCannotUseIsAskedFor) {
     rig.Screen().cmdAdd.Press();
     EXPECT_EQ(rig.BoxText(1), question) << folder;
     EXPECT_TRUE(rig.Screen().txtStartIn.HasFocus());
-    EXPECT_EQ(rig.Rows(), Names{}) << "No is the default";
+    EXPECT_EQ(rig.Rows(), Names{}) << "the default answer is No";
     rig.machine.AnswerNextBox(os::kIdYes);
     rig.Screen().cmdAdd.Press();
     EXPECT_EQ(rig.Rows(), Names{"Game"});
@@ -298,7 +299,7 @@ TEST(ConfigEntryList, SameRowAgainAsksNothing) {
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
 }
 
-TEST(ConfigEntryList, NameAndCommandLineAreNeeded) {
+TEST(ConfigEntryList, NameAndCommandLineAreRequired) {
   ConfigRig rig(SomeEntries(1));
   rig.Start();
   rig.Type({"   ", "NOTEPAD.EXE", ""});
@@ -318,7 +319,7 @@ TEST(ConfigEntryList, NameAndCommandLineAreNeeded) {
   EXPECT_EQ(rig.form->Entries(), SomeEntries(1));
 }
 
-TEST(ConfigEntryList, TheTwentySixthIsRefused) {
+TEST(ConfigEntryList, TwentySixthEntryIsRefused) {
   ConfigRig rig(SomeEntries(24));
   rig.Start();
   rig.Type(kEditor);
@@ -328,7 +329,7 @@ TEST(ConfigEntryList, TheTwentySixthIsRefused) {
   EXPECT_EQ(rig.BoxText(1),
             "The launcher takes 25 programs at most.\r\n\r\nPlease remove one before you add another.");
   EXPECT_EQ(rig.form->Entries().size(), 25U);
-  EXPECT_EQ(rig.Fields(), kGame) << "typed once, still there";
+  EXPECT_EQ(rig.Fields(), kGame) << "the typed text is kept";
   rig.machine.AnswerNextBox(os::kIdYes);
   rig.Screen().lstPrograms.ChooseIndex(0);
   rig.Type(kGame);

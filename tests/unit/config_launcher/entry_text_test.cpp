@@ -39,7 +39,7 @@ TEST(EntryText, FileGivesNameCommandLineAndFolder) {
   EXPECT_EQ(EntryOf("C:\\A \\ B .EXE"), (launcher::LauncherEntry{"B", "\"C:\\A \\ B .EXE\"", "C:\\A"}));
 }
 
-TEST(EntryText, FileWhoseTitleIsADividingLineKeepsItsExtension) {
+TEST(EntryText, FileWhoseTitleMeansADividingLineKeepsItsExtension) {
   EXPECT_EQ(EntryOf("C:\\-.EXE").name, "-.EXE");
   EXPECT_EQ(EntryOf("C:\\--.EXE").name, "--");
   EXPECT_TRUE(IsDividingLine("-"));
@@ -62,7 +62,7 @@ TEST(EntryText, DriveLetterIsALetterAndAColon) {
   }
 }
 
-TEST(EntryText, ProgramsAreToldByTheirExtensions) {
+TEST(EntryText, ProgramsAreRecognisedByTheirExtensions) {
   for (const char* const path : {"A.exe", "C:\\A.COM", "A.B.Bat", "A.PIF"})
     EXPECT_TRUE(IsProgram(path)) << path;
   for (const char* const path : {"A.EX", "A.EXE ", ".exe", "exe", "", "A.LNK", "A.EXE.TXT"}) {
@@ -76,9 +76,9 @@ TEST(EntryText, LongNameIsCutAndLongPathsDoNotFit) {
   EXPECT_EQ(entry.name, std::string(55, 'n'));
   EXPECT_TRUE(Fits(entry));
   const std::string folder = "C:\\" + std::string(240, 'd');
-  EXPECT_TRUE(Fits(EntryOf(folder + "\\1234567.EXE"))) << "255 characters";
+  EXPECT_TRUE(Fits(EntryOf(folder + "\\1234567.EXE"))) << "the command line has 255 characters";
   EXPECT_FALSE(Fits(EntryOf(folder + "\\12345678.EXE")));
-  EXPECT_FALSE(Fits(EntryOf(folder + "\\12345 7.EXE"))) << "two quotation marks more";
+  EXPECT_FALSE(Fits(EntryOf(folder + "\\12345 7.EXE"))) << "the quotation marks add two characters";
 }
 
 class EntryTextOfTwoByteCharacters : public testing::Test {
@@ -91,7 +91,7 @@ class EntryTextOfTwoByteCharacters : public testing::Test {
   os::SimulatedMachine machine;
 };
 
-/// The second byte of the first character is that of a backslash.
+/// The second byte of the first character has the value of a backslash.
 constexpr const char* kTable = "\x95\x5C\x8C\x76\x8E\x5A";
 
 TEST_F(EntryTextOfTwoByteCharacters, HalfOfACharacterIsNoBackslash) {
@@ -112,10 +112,10 @@ TEST_F(EntryTextOfTwoByteCharacters, LongNameIsCutBetweenCharacters) {
   for (int count = 0; count < 30; ++count) name += "\x95\x5C";
   EXPECT_EQ(Entry("C:\\" + name + ".EXE").name, name.substr(0, 54));
   EXPECT_EQ(Entry("C:\\n" + name + ".EXE").name, "n" + name.substr(0, 54));
-  EXPECT_EQ(Entry("C:\\A\x95").name, "A\x95") << "a character that is cut off already";
+  EXPECT_EQ(Entry("C:\\A\x95").name, "A\x95") << "the character was already cut off";
 }
 
-TEST_F(EntryTextOfTwoByteCharacters, SameBytesAreCharactersOfTheirOwnElsewhere) {
+TEST_F(EntryTextOfTwoByteCharacters, SameBytesAreSeparateCharactersInOtherCodePages) {
   EXPECT_EQ(EntryOf("C:\\\x95\\A.EXE").start_in, "C:\\\x95");
 }
 

@@ -1,5 +1,6 @@
-// Every call of the system that can fail is failed once, and from then on, through whole sessions; disks fill
-// up and are protected. The previous list or the new one is there whole at every end.
+// Runs whole sessions for every system call that can fail: with that call failing once, and with all calls
+// failing from then on. Disks fill up or are write-protected. At every end either the previous list or the
+// new one is complete.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -14,10 +15,10 @@ namespace {
 enum class Before : std::uint8_t {
   kNothing,
   kList,
-  /// A save was interrupted between its two renamings.
+  /// A save was interrupted between its two renames.
   kBackupOnly,
   kBackupAndEmptyList,
-  /// A save was interrupted before it threw the copy away.
+  /// A save was interrupted before it deleted the copy.
   kListAndOldBackup,
 };
 constexpr std::array<Before, 5> kAllBefore{Before::kNothing, Before::kList, Before::kBackupOnly,
@@ -66,7 +67,7 @@ bool IsKnown(const std::string& message) {
                      [&message](const char* beginning) { return message.starts_with(beginning); });
 }
 
-/// What the next start of the program shows.
+/// Returns the list that the next start of the program shows.
 Entries ListOfNextStart(ConfigRig& rig) {
   rig.machine.FailCallNumber(0);
   rig.machine.FailFromCallNumber(0);
@@ -81,7 +82,7 @@ void ExpectSound(ConfigRig& rig, Before before, int call) {
   EXPECT_EQ(rig.machine.OpenFileCount(), 0) << trace;
   for (const auto& box : rig.machine.Boxes()) EXPECT_TRUE(IsKnown(box.text)) << trace << ": " << box.text;
   const bool was_saved = rig.ListOnDisk() == BytesOf(NewList(before));
-  // A window that stays shows everything; one that closed has saved, or has read nothing.
+  // A window that stays open shows everything. A closed one has saved, or could read nothing.
   if (!rig.form->Window().Unloaded()) {
     EXPECT_EQ(rig.form->Entries().back(), kNew) << trace;
   }
@@ -115,7 +116,7 @@ TEST(ConfigFaults, EachCallFailedOnceLosesNothing) {
   }
 }
 
-TEST(ConfigFaults, EachCallFailedFromThenOnLosesNothing) {
+TEST(ConfigFaults, AllCallsFailedFromEachOnLoseNothing) {
   for (const Before before : kAllBefore) {
     const int calls = CallsOfASession(before);
     for (int call = 1; call <= calls; ++call) {
@@ -160,8 +161,8 @@ TEST(ConfigFaults, ProtectedListAndProtectedDiskAreLeftAlone) {
   }
 }
 
-/// The second renaming fails, and so does the way back.
-TEST(ConfigFaults, ListThatCouldNotGetItsNameBackIsFoundAgain) {
+/// The second rename fails, and so does its rollback.
+TEST(ConfigFaults, ListThatCouldNotBeRenamedBackIsFoundAgain) {
   int renamed = 0;
   for (int call = 1; call <= CallsOfASession(Before::kList); ++call) {
     ConfigRig rig(SomeEntries(3));
@@ -178,8 +179,8 @@ TEST(ConfigFaults, ListThatCouldNotGetItsNameBackIsFoundAgain) {
   EXPECT_EQ(renamed, 1);
 }
 
-/// It could be the only whole one, with an older copy beside it.
-TEST(ConfigFaults, ListThatCannotBeLookedAtIsNotTouched) {
+/// It could be the only complete one, with an older copy beside it.
+TEST(ConfigFaults, ListThatCannotBeExaminedIsNotTouched) {
   ConfigRig rig;
   Prepare(rig, Before::kListAndOldBackup);
   config_launcher::ListFile file(rig.machine.GetSystem());
@@ -190,7 +191,7 @@ TEST(ConfigFaults, ListThatCannotBeLookedAtIsNotTouched) {
   EXPECT_EQ(rig.machine.ReadFile(kListTemporaryPath), std::nullopt);
 }
 
-TEST(ConfigFaults, MoreThanTheLauncherTakesIsNeverWritten) {
+TEST(ConfigFaults, MoreEntriesThanTheLauncherAcceptsAreNeverWritten) {
   ConfigRig rig(SomeEntries(3));
   config_launcher::ListFile file(rig.machine.GetSystem());
   EXPECT_EQ(file.Write(SomeEntries(26)), config_launcher::Saved::kNo);

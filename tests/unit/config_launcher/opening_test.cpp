@@ -1,4 +1,4 @@
-// Whatever lies on the disk is shown as far as it can be, and stays as it is until the user saves.
+// Whatever is on the disk is shown as far as possible, and is left unchanged until the user saves.
 #include <gtest/gtest.h>
 
 #include "tests/unit/config_launcher/config_rig.h"
@@ -12,7 +12,7 @@ using Names = std::vector<std::string>;
 
 class ConfigOpening : public testing::Test {
  protected:
-  /// Opens what is there and expects one message with this remark, and an untouched disk.
+  /// Opens the list and expects one message with this remark, and an untouched disk.
   void ExpectRemark(ConfigRig& rig, const std::string& remark) {
     rig.Start();
     EXPECT_EQ(rig.BoxText(1), OpeningMessage(remark));
@@ -24,7 +24,7 @@ class ConfigOpening : public testing::Test {
   }
 };
 
-TEST_F(ConfigOpening, GoodListsAndNoneSayNothing) {
+TEST_F(ConfigOpening, GoodAndMissingListsCauseNoRemark) {
   for (const int count : {0, 1, 25}) {
     ConfigRig rig(SomeEntries(count));
     rig.Start();
@@ -43,7 +43,7 @@ TEST_F(ConfigOpening, OddLength) {
   EXPECT_EQ(rig.form->Entries(), (Entries{SomeEntries(2)[0], {"Program 1", "C:\\P1.EXE /x", ""}}));
 }
 
-TEST_F(ConfigOpening, TooManyAreShownAndNotSaved) {
+TEST_F(ConfigOpening, TooManyEntriesAreShownAndNotSaved) {
   ConfigRig rig(SomeEntries(27));
   rig.Start();
   EXPECT_EQ(rig.BoxText(1),
@@ -84,7 +84,7 @@ TEST_F(ConfigOpening, ProgramsWithoutNameOrCommandLine) {
   EXPECT_EQ(rig.Rows(), (Names{"(no name)", "B"}));
 }
 
-TEST_F(ConfigOpening, HugeFileIsReadAsFarAsItCanBeShown) {
+TEST_F(ConfigOpening, HugeFileIsReadAsFarAsPossible) {
   ConfigRig rig(SomeEntries(150));
   ExpectRemark(rig,
                "The file is longer than 100 programs. Only the first 100 were read.\r\n- It holds 100 "
@@ -92,7 +92,7 @@ TEST_F(ConfigOpening, HugeFileIsReadAsFarAsItCanBeShown) {
   EXPECT_EQ(rig.form->Entries(), SomeEntries(100));
 }
 
-TEST_F(ConfigOpening, CopyOfAnInterruptedSaveIsTaken) {
+TEST_F(ConfigOpening, CopyOfAnInterruptedSaveIsUsed) {
   for (const bool has_empty_list : {false, true}) {
     ConfigRig rig;
     rig.machine.WriteFile(kListBackupPath, BytesOf(SomeEntries(3)));
@@ -102,7 +102,7 @@ TEST_F(ConfigOpening, CopyOfAnInterruptedSaveIsTaken) {
   }
 }
 
-TEST_F(ConfigOpening, SeveralRemarksStandInOneMessageInTheirOrder) {
+TEST_F(ConfigOpening, SeveralRemarksAreInOneMessageInOrder) {
   Entries entries = SomeEntries(27);
   entries[3] = {"Tab\there", "", ""};
   const auto remarks_on = [](const std::string& bytes) {
@@ -160,7 +160,7 @@ TEST_F(ConfigOpening, CopyBesideAListIsLeftAlone) {
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
 }
 
-TEST_F(ConfigOpening, ListThatCannotBeReadIsNotWrittenOver) {
+TEST_F(ConfigOpening, UnreadableListIsNotOverwritten) {
   for (const char* const path : {kListPath, kListBackupPath}) {
     ConfigRig rig;
     rig.machine.WriteFile(path, BytesOf(SomeEntries(3)));
@@ -196,11 +196,11 @@ TEST_F(ConfigOpening, SecondCopyBringsTheFirstForwardAndEnds) {
   EXPECT_NE(called("SetForegroundWindow"), calls.end());
   EXPECT_TRUE(rig.form->Window().Unloaded());
   EXPECT_FALSE(rig.form->Window().Shown());
-  EXPECT_NE(rig.form->Window().Caption(), "Config Launcher") << "it could find itself";
+  EXPECT_NE(rig.form->Window().Caption(), "Config Launcher") << "the copy could find itself";
   EXPECT_NE(rig.form->TheApplication().Title(), "Config Launcher");
 }
 
-TEST_F(ConfigOpening, SecondCopyEndsAlsoWhereTheFirstHasNoWindow) {
+TEST_F(ConfigOpening, SecondCopyAlsoEndsIfTheFirstHasNoWindow) {
   ConfigRig rig;
   rig.machine.SetOtherCopyRunning(true);
   rig.Start();

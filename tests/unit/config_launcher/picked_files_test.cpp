@@ -1,4 +1,4 @@
-// Files that are dropped on the window or picked with "Browse...".
+// Files dropped on the window or picked with "Browse...".
 #include <gtest/gtest.h>
 
 #include "tests/unit/config_launcher/config_rig.h"
@@ -29,7 +29,7 @@ TEST(ConfigDroppedFiles, AreAddedWithNameCommandLineAndFolder) {
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
 }
 
-TEST(ConfigDroppedFiles, LeaveWhatIsTyped) {
+TEST(ConfigDroppedFiles, LeaveTypedText) {
   ConfigRig rig(SomeEntries(1));
   rig.Start();
   rig.Type(kGame);
@@ -44,13 +44,13 @@ TEST(ConfigDroppedFiles, FoldersAndLongPathsAreNamedAndLeftOut) {
   rig.Start();
   const std::string long_path = "C:\\" + std::string(250, 'd') + "\\A.EXE";
   rig.machine.WhileBoxIsOpen(
-      [&rig] { EXPECT_EQ(rig.Fields().name, "A") << "the fields are filled behind the box"; });
+      [&rig] { EXPECT_EQ(rig.Fields().name, "A") << "the fields are filled while the box is open"; });
   rig.form->FilesDropped({"C:\\WINDOWS", long_path, "C:\\A.EXE"});
   EXPECT_EQ(rig.Rows(), Names{"A"});
   EXPECT_EQ(rig.BoxText(1), kRefused + std::string("C:\\WINDOWS\r\n") + long_path + "\r\n");
 }
 
-TEST(ConfigDroppedFiles, ShortcutBecomesWhatItLeadsToUnderItsOwnName) {
+TEST(ConfigDroppedFiles, ShortcutBecomesItsTargetUnderItsOwnName) {
   ConfigRig rig;
   const std::string desktop = "C:\\WINDOWS\\Desktop\\";
   rig.machine.PutShortcut(
@@ -66,7 +66,7 @@ TEST(ConfigDroppedFiles, ShortcutBecomesWhatItLeadsToUnderItsOwnName) {
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
 }
 
-TEST(ConfigDroppedFiles, ShortcutsThatLeadToNoProgramAreNamedAndLeftOut) {
+TEST(ConfigDroppedFiles, ShortcutsToNoProgramAreNamedAndLeftOut) {
   ConfigRig rig;
   const std::string desktop = "C:\\WINDOWS\\Desktop\\";
   rig.machine.WriteFile(desktop + "My Computer.lnk", "leads to no file");
@@ -100,7 +100,7 @@ TEST(ConfigDroppedFiles, StopAtTwentyFive) {
   EXPECT_EQ(rig.BoxText(1), "The launcher takes 25 programs at most. Not all files were added.");
 }
 
-TEST(ConfigDroppedFiles, WhatIsRefusedIsNamedBeforeTheLackOfRoom) {
+TEST(ConfigDroppedFiles, RefusedFilesAreNamedBeforeTheFullList) {
   ConfigRig rig(SomeEntries(24));
   rig.Start();
   rig.form->FilesDropped({"C:\\WINDOWS", "C:\\A.EXE", "C:\\B.EXE"});
@@ -109,7 +109,7 @@ TEST(ConfigDroppedFiles, WhatIsRefusedIsNamedBeforeTheLackOfRoom) {
   EXPECT_EQ(rig.machine.Boxes()[1].text, "The launcher takes 25 programs at most. Not all files were added.");
 }
 
-TEST(ConfigDroppedFiles, NothingHappensUnderAQuestion) {
+TEST(ConfigDroppedFiles, NothingHappensDuringAQuestion) {
   ConfigRig rig(SomeEntries(2));
   rig.Start();
   rig.Type(kGame);
@@ -119,7 +119,7 @@ TEST(ConfigDroppedFiles, NothingHappensUnderAQuestion) {
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
 }
 
-TEST(ConfigDroppedFiles, OnlyProgramsAndShortcutsToProgramsAreTaken) {
+TEST(ConfigDroppedFiles, OnlyProgramsAndShortcutsToProgramsAreAdded) {
   ConfigRig rig;
   rig.machine.SetWindowsDirectory("C:\\FOLDER.EXE");
   rig.machine.PutShortcut("C:\\Letter.lnk", {.target = "C:\\LETTER.DOC", .arguments = {}, .folder = {}});
@@ -148,7 +148,7 @@ TEST(ConfigDroppedFiles, NoMoreThanTenAreNamed) {
   }
 }
 
-TEST(ConfigDroppedFiles, OneThatIsInTheListAlreadyIsAskedFor) {
+TEST(ConfigDroppedFiles, DuplicateEntryCausesAQuestion) {
   ConfigRig rig;
   rig.Start();
   rig.form->FilesDropped({"C:\\A.EXE"});
@@ -156,13 +156,13 @@ TEST(ConfigDroppedFiles, OneThatIsInTheListAlreadyIsAskedFor) {
   EXPECT_EQ(rig.BoxText(1),
             "\"a\" is already in the list with the same command line and folder.\r\n\r\n"
             "Do you want to add it again?");
-  EXPECT_EQ(rig.Rows(), (Names{"A", "B"})) << "No is the default";
+  EXPECT_EQ(rig.Rows(), (Names{"A", "B"})) << "the default answer is No";
   rig.machine.AnswerNextBox(os::kIdYes);
   rig.form->FilesDropped({"C:\\A.EXE"});
   EXPECT_EQ(rig.Rows(), (Names{"A", "B", "A"}));
 }
 
-TEST(ConfigDroppedFiles, SessionThatEndsUnderAQuestionEndsTheAdding) {
+TEST(ConfigDroppedFiles, EndOfTheSessionDuringAQuestionEndsTheAdding) {
   ConfigRig rig;
   rig.Start();
   rig.form->FilesDropped({"C:\\A.EXE"});
@@ -173,7 +173,7 @@ TEST(ConfigDroppedFiles, SessionThatEndsUnderAQuestionEndsTheAdding) {
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
 }
 
-TEST(ConfigDroppedFiles, NetworkFolderIsLeftOutAndSaid) {
+TEST(ConfigDroppedFiles, NetworkFolderIsLeftOutAndReported) {
   ConfigRig rig;
   rig.machine.PutShortcut("C:\\Sums.lnk",
                           {.target = "C:\\CALC.EXE", .arguments = {}, .folder = "\\\\PC\\DIR"});
@@ -194,7 +194,7 @@ TEST(ConfigDroppedFiles, FolderOfAShortcutLosesItsQuotationMarks) {
   EXPECT_EQ(rig.form->Entries(), (Entries{{"Sums", "C:\\CALC.EXE", "D:\\My Sums"}}));
 }
 
-TEST(ConfigDroppedFiles, RefusedOnesAloneChangeNothing) {
+TEST(ConfigDroppedFiles, RefusedFilesAloneChangeNothing) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();
   rig.form->FilesDropped({"C:\\NOTES.TXT"});
@@ -250,7 +250,7 @@ TEST(ConfigBrowse, AsksBeforeAChangeOfTheSelectedEntryIsLost) {
   rig.dialogs.PickNext("C:\\A.EXE");
   rig.Screen().cmdBrowsePath.Press();
   EXPECT_EQ(rig.BoxText(1), kDiscardFields);
-  EXPECT_EQ(rig.Fields(), kGame) << "No is the default";
+  EXPECT_EQ(rig.Fields(), kGame) << "the default answer is No";
   rig.dialogs.PickNext("C:\\A.EXE");
   rig.machine.AnswerNextBox(os::kIdYes);
   rig.Screen().cmdBrowsePath.Press();
@@ -258,7 +258,7 @@ TEST(ConfigBrowse, AsksBeforeAChangeOfTheSelectedEntryIsLost) {
   EXPECT_EQ(rig.form->Entries(), SomeEntries(1));
 }
 
-TEST(ConfigBrowse, WhatIsPickedAndNotAddedIsAskedForAtOk) {
+TEST(ConfigBrowse, OkAsksAboutAPickedFileThatWasNotAdded) {
   ConfigRig rig(SomeEntries(1));
   rig.Start();
   rig.dialogs.PickNext("C:\\A.EXE");
@@ -268,7 +268,7 @@ TEST(ConfigBrowse, WhatIsPickedAndNotAddedIsAskedForAtOk) {
   EXPECT_FALSE(rig.form->Window().Unloaded());
 }
 
-TEST(ConfigBrowse, ShortcutGivesWhatItStarts) {
+TEST(ConfigBrowse, ShortcutGivesItsTarget) {
   ConfigRig rig;
   rig.machine.PutShortcut("C:\\Game.lnk",
                           {.target = "D:\\G.EXE", .arguments = "/full", .folder = "E:\\Saved"});
@@ -278,7 +278,7 @@ TEST(ConfigBrowse, ShortcutGivesWhatItStarts) {
   EXPECT_EQ(rig.Fields(), (launcher::LauncherEntry{"Game", "D:\\G.EXE /full", "E:\\Saved"}));
 }
 
-TEST(ConfigBrowse, WhatIsNoProgramIsNamedAndChangesNothing) {
+TEST(ConfigBrowse, FileThatIsNoProgramIsNamedAndChangesNothing) {
   ConfigRig rig(SomeEntries(1));
   rig.Start();
   rig.dialogs.PickNext("C:\\NOTES.TXT");
@@ -288,12 +288,12 @@ TEST(ConfigBrowse, WhatIsNoProgramIsNamedAndChangesNothing) {
   EXPECT_EQ(rig.Screen().lstPrograms.SelectedIndex(), 0);
 }
 
-TEST(ConfigBrowse, NetworkFolderIsLeftOutAndSaid) {
+TEST(ConfigBrowse, NetworkFolderIsLeftOutAndReported) {
   ConfigRig rig;
   rig.Start();
   rig.dialogs.PickNext("\\\\PC\\TOOLS\\EDIT.EXE");
   rig.machine.WhileBoxIsOpen(
-      [&rig] { EXPECT_EQ(rig.Fields().name, "EDIT") << "the fields are filled behind the box"; });
+      [&rig] { EXPECT_EQ(rig.Fields().name, "EDIT") << "the fields are filled while the box is open"; });
   rig.Screen().cmdBrowsePath.Press();
   EXPECT_EQ(rig.Fields(), (launcher::LauncherEntry{"EDIT", "\\\\PC\\TOOLS\\EDIT.EXE", ""}));
   EXPECT_EQ(rig.BoxText(1), kWithoutFolder + std::string("EDIT\r\n"));
@@ -320,7 +320,7 @@ TEST(ConfigBrowse, PathThatIsTooLongIsRefused) {
   EXPECT_EQ(rig.Fields(), SomeEntries(1)[0]);
 }
 
-TEST(ConfigBrowse, WindowIsNotClosedUnderADialogAndSessionEndsIt) {
+TEST(ConfigBrowse, WindowStaysOpenDuringADialogUntilTheSessionEnds) {
   ConfigRig rig;
   rig.Start();
   rig.Type({"Game", "", ""});

@@ -31,7 +31,7 @@ TEST(ConfigSaving, ListIsWrittenByteForByteAndNothingIsLeftBehind) {
   EXPECT_EQ(rig.machine.OpenFileCount(), 0);
 }
 
-TEST(ConfigSaving, NamesChangeHandsInTheSafeOrder) {
+TEST(ConfigSaving, FilesAreRenamedInTheSafeOrder) {
   ConfigRig rig(SomeEntries(2));
   rig.Start();
   rig.Screen().cmdRemove.Press();
@@ -42,7 +42,7 @@ TEST(ConfigSaving, NamesChangeHandsInTheSafeOrder) {
                    "MoveFileA(" + folder + "tmp, " + folder + "dat)", "DeleteFileA(" + folder + "bak)"}));
 }
 
-TEST(ConfigSaving, ListsOfAnyCountComeBackAsTheyWere) {
+TEST(ConfigSaving, ListsOfAnyLengthAreReadBackUnchanged) {
   for (const int count : {0, 1, 2, 24, 25}) {
     ConfigRig rig(SomeEntries(count));
     rig.Start();
@@ -53,13 +53,13 @@ TEST(ConfigSaving, ListsOfAnyCountComeBackAsTheyWere) {
   }
 }
 
-TEST(ConfigSaving, FieldsThatWereNotAddedAreAskedFor) {
+TEST(ConfigSaving, FieldsThatWereNotAddedCauseAQuestion) {
   ConfigRig rig(SomeEntries(1));
   rig.Start();
   rig.Type(kEditor);
   rig.Screen().cmdOK.Press();
   EXPECT_EQ(rig.BoxText(1), kSaveWithoutFields);
-  EXPECT_FALSE(rig.form->Window().Unloaded()) << "No is the default";
+  EXPECT_FALSE(rig.form->Window().Unloaded()) << "the default answer is No";
   EXPECT_EQ(rig.Fields(), kEditor);
   EXPECT_EQ(rig.Changes(), Names{});
   rig.machine.AnswerNextBox(os::kIdYes);
@@ -68,7 +68,7 @@ TEST(ConfigSaving, FieldsThatWereNotAddedAreAskedFor) {
   EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(1)));
 }
 
-TEST(ConfigSaving, FieldsTypedBackToWhatTheyWereAreNotAskedFor) {
+TEST(ConfigSaving, FieldsChangedBackCauseNoQuestion) {
   ConfigRig rig(SomeEntries(1));
   rig.Start();
   rig.Type(kEditor);
@@ -90,7 +90,7 @@ TEST(ConfigClosing, UnchangedListClosesAtOnce) {
   EXPECT_EQ(rig.Changes(), Names{});
 }
 
-TEST(ConfigClosing, ChangesAreAskedForByCancelAndByTheWindow) {
+TEST(ConfigClosing, CancelAndCloseAskAboutChanges) {
   for (const bool by_window : {false, true}) {
     for (const bool typed_only : {false, true}) {
       ConfigRig rig(SomeEntries(3));
@@ -109,7 +109,7 @@ TEST(ConfigClosing, ChangesAreAskedForByCancelAndByTheWindow) {
       };
       close();
       EXPECT_EQ(rig.BoxText(1), "Do you want to discard your changes?");
-      EXPECT_FALSE(rig.form->Window().Unloaded()) << "No is the default";
+      EXPECT_FALSE(rig.form->Window().Unloaded()) << "the default answer is No";
       rig.machine.AnswerNextBox(os::kIdYes);
       close();
       EXPECT_TRUE(rig.form->Window().Unloaded());
@@ -118,7 +118,7 @@ TEST(ConfigClosing, ChangesAreAskedForByCancelAndByTheWindow) {
   }
 }
 
-TEST(ConfigClosing, NotUnderAnOpenQuestion) {
+TEST(ConfigClosing, IsIgnoredDuringAQuestion) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();
   rig.Screen().cmdMoveDown.Press();
@@ -130,17 +130,17 @@ TEST(ConfigClosing, NotUnderAnOpenQuestion) {
 
 constexpr const char* kNotSaved = "The list of programs has not been saved.\r\n\r\nDo you want to save it?";
 
-TEST(ConfigClosing, SessionMayEndAtOnceWhereNothingIsLost) {
+TEST(ConfigClosing, SessionMayEndAtOnceIfNothingIsLost) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();
   EXPECT_TRUE(rig.form->MaySessionEnd());
-  EXPECT_FALSE(rig.form->Window().Unloaded()) << "another program may still keep it going";
+  EXPECT_FALSE(rig.form->Window().Unloaded()) << "another program may still refuse to end the session";
   rig.Screen().cmdCancel.Press();
   EXPECT_TRUE(rig.form->MaySessionEnd());
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
 }
 
-TEST(ConfigClosing, SessionThatIsToEndAsksForTheList) {
+TEST(ConfigClosing, EndingSessionAsksAboutTheList) {
   for (const int answer : {os::kIdYes, os::kIdNo, os::kIdCancel, os::kIdNone}) {
     ConfigRig rig(SomeEntries(2));
     rig.Start();
@@ -154,23 +154,24 @@ TEST(ConfigClosing, SessionThatIsToEndAsksForTheList) {
     EXPECT_EQ(is_saved, answer == os::kIdYes) << answer;
     if (is_saved) {
       EXPECT_TRUE(rig.form->MaySessionEnd());
-      EXPECT_EQ(rig.machine.Boxes().size(), 1U) << "it is saved already";
+      EXPECT_EQ(rig.machine.Boxes().size(), 1U) << "the list is already saved";
     }
   }
 }
 
-TEST(ConfigClosing, SessionThatIsToEndAsksForWhatIsTypedAsWell) {
+TEST(ConfigClosing, EndingSessionAlsoAsksAboutTypedText) {
   ConfigRig rig(SomeEntries(2));
   rig.Start();
   rig.Type(kEditor);
-  EXPECT_FALSE(rig.form->MaySessionEnd()) << "Yes to saving, then No to saving without it";
+  EXPECT_FALSE(rig.form->MaySessionEnd())
+      << "the answers are Yes to saving, then No to saving without typed text";
   ASSERT_EQ(rig.machine.Boxes().size(), 2U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, kNotSaved);
   EXPECT_EQ(rig.machine.Boxes()[1].text, kSaveWithoutFields);
   EXPECT_EQ(rig.Fields(), kEditor);
 }
 
-TEST(ConfigClosing, SessionGoesOnWhereTheListCouldNotBeSaved) {
+TEST(ConfigClosing, SessionContinuesIfTheListCannotBeSaved) {
   ConfigRig rig(SomeEntries(2));
   rig.Start();
   rig.Screen().cmdMoveDown.Press();
@@ -180,8 +181,8 @@ TEST(ConfigClosing, SessionGoesOnWhereTheListCouldNotBeSaved) {
   EXPECT_FALSE(rig.form->Window().Unloaded());
 }
 
-/// How Windows comes to a window that is minimised: by a call of Q-DIX, or by the user's hand.
-TEST(ConfigActivation, QdixRestoresTheMinimisedWindowAndNobodyElse) {
+/// Windows reaches a minimised window either by a call of Q-DIX or by an action of the user.
+TEST(ConfigActivation, OnlyQdixRestoresTheMinimisedWindow) {
   ConfigRig rig(SomeEntries(1));
   rig.Start();
   const os::WindowHandle taskbar = rig.machine.OpenWindow("Shell_TrayWnd", "");
@@ -189,7 +190,7 @@ TEST(ConfigActivation, QdixRestoresTheMinimisedWindowAndNobodyElse) {
   ui::Form& window = rig.form->Window();
   window.UserChangedState(ui::WindowState::kMinimised);
   rig.form->ActivatedMinimised(0);
-  EXPECT_EQ(window.State(), ui::WindowState::kMinimised) << "no Q-DIX, no thread before";
+  EXPECT_EQ(window.State(), ui::WindowState::kMinimised) << "without Q-DIX there is no previous thread";
   const os::WindowHandle qdix = rig.machine.OpenWindow("ThunderRT6Main", "Q-DIX");
   for (const std::uint32_t thread : {1U, windows.GetWindowThreadProcessId(taskbar)}) {
     rig.form->ActivatedMinimised(thread);
@@ -214,7 +215,7 @@ TEST(ConfigClosing, EndOfTheSessionAsksAndWritesNothing) {
   EXPECT_EQ(rig.Changes(), Names{});
 }
 
-TEST(ConfigClosing, EndOfTheSessionUnderAQuestionIsNoAnswer) {
+TEST(ConfigClosing, EndOfTheSessionDuringAQuestionIsNoAnswer) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();
   rig.Type(kEditor);

@@ -1,5 +1,5 @@
-// The window of the editor of the program list, whole: kinds, names, captions with their access keys, tool
-// tips, frames, tab order.
+// The window of the program-list editor, complete: kinds, names, captions with their access keys, tool tips,
+// frames, tab order.
 #include <gtest/gtest.h>
 
 #include "config_launcher/config_screen.h"

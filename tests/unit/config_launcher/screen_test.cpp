@@ -1,4 +1,4 @@
-// The window as it is drawn: everything in its place and reachable by one key.
+// The window as drawn: every control is in position and reachable by one key.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -18,7 +18,7 @@ class ConfigWindow : public testing::Test {
   std::vector<ui::Control*> controls;
 };
 
-TEST_F(ConfigWindow, EverythingButOkAndCancelHasAKeyOfItsOwn) {
+TEST_F(ConfigWindow, EverythingExceptOkAndCancelHasItsOwnKey) {
   ExpectDifferentAccessKeys(controls);
   for (std::size_t i = 0; i < controls.size(); ++i) {
     const ui::Control& control = *controls[i];
@@ -29,7 +29,7 @@ TEST_F(ConfigWindow, EverythingButOkAndCancelHasAKeyOfItsOwn) {
   }
 }
 
-/// The key of a label works for what comes next in the tab order.
+/// The access key of a label works for the next control in tab order.
 TEST_F(ConfigWindow, FieldsAndListHaveTheKeyOfTheLabelBeforeThem) {
   const std::vector<std::pair<const ui::Control*, const ui::Control*>> pairs{
       {&screen.lblName, &screen.txtName},
@@ -44,7 +44,7 @@ TEST_F(ConfigWindow, FieldsAndListHaveTheKeyOfTheLabelBeforeThem) {
   EXPECT_NE(screen.lblPrograms.AccessKey(), 0);
 }
 
-/// From left to right, row by row: no step of the Tab key goes up, and none to the left in its row.
+/// From left to right, row by row: the Tab key never moves up, and never to the left within a row.
 TEST_F(ConfigWindow, TabKeyGoesFromLeftToRightAndFromTopToBottom) {
   const ui::Control* before = nullptr;
   int steps = 0;
@@ -61,7 +61,7 @@ TEST_F(ConfigWindow, TabKeyGoesFromLeftToRightAndFromTopToBottom) {
   EXPECT_EQ(steps, 13);
 }
 
-TEST_F(ConfigWindow, EverythingStandsInItsPlaceWithinTheMargins) {
+TEST_F(ConfigWindow, EverythingIsInPositionWithinTheMargins) {
   constexpr std::int16_t kMargin = 7;
   const ui::Place window = screen.Window.GetPlace();
   EXPECT_LE(window.width, 263);

@@ -1,5 +1,5 @@
-// What the tests of the drawing controls share: a form to stand on, a peer that counts what it is told, and a
-// canvas of any size that keeps a record of its operations instead of pixels.
+// Shared by the tests of the drawing controls: a form to place them on, a peer that counts its notifications,
+// and a canvas of any size that records its operations instead of pixels.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@
 
 namespace qdix::tests {
 
-/// Counts the changes of the two kinds that a drawing control makes.
+/// Counts the two kinds of changes that a drawing control makes.
 class CountingPeer final : public ui::ControlPeer {
  public:
   void ControlChanged(ui::Control& /*control*/, ui::Change change) override {
@@ -24,7 +24,7 @@ class CountingPeer final : public ui::ControlPeer {
   int borders = 0;
 };
 
-/// Takes no memory for pixels, so it can be as large as a whole number allows.
+/// Needs no memory for pixels, so it can be as large as an integer allows.
 class RecordingCanvas final : public ui::Canvas {
  public:
   RecordingCanvas(int width, int height) : width_(width), height_(height) {}

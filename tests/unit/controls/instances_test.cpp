@@ -1,4 +1,5 @@
-// The graph and the two gauges of the main window: their whole design, and the colours that reach the screen.
+// The graph and the two gauges of the main window: their complete design, and the colours that reach the
+// screen.
 #include <gtest/gtest.h>
 
 #include <set>
@@ -30,7 +31,7 @@ TEST_F(DrawingInstances, GraphIsRedOnTheColourOfMenus) {
   EXPECT_EQ(graph.InnerSize().height, 65);
 }
 
-/// Column by column from the right: the bar of a release, and what it pushed aside.
+/// Column by column from the right: the bar of a release, and the bars that it pushed aside.
 TEST_F(DrawingInstances, GraphDrawsBarsOfTwoPixelsFromTheBottom) {
   ASSERT_TRUE(screen.XGraphMeter1.Update(100).Ok());
   std::vector<std::pair<ui::Colour, ui::Colour>> top_and_bottom;
@@ -58,7 +59,7 @@ TEST_P(Gauges, AreDarkBarsWithABorderOfAFixedSize) {
   EXPECT_EQ(controls::Meter3::kHeightTwips, 300);
 }
 
-TEST_P(Gauges, LightSegmentsInCyanOnDarkTeal) {
+TEST_P(Gauges, ShowSegmentsInCyanOnDarkTeal) {
   PixelCanvas surface(156, 16);
   gauge.SurfaceChanged(&surface);
   const auto colours = [&surface] {

@@ -1,4 +1,4 @@
-// The level meter: what it accepts, when it draws, and every pixel of its picture.
+// The level meter: which values it accepts, when it draws, and every pixel of its picture.
 #include "controls/meter3.h"
 
 #include <initializer_list>
@@ -19,8 +19,7 @@ class Meter : public DrawingTest {
  protected:
   Meter() { meter.AttachPeer(&peer); }
 
-  /// The colour that the picture must have at a place: 50 boxes of 4 x 12 pixels, 3 apart, the first at (2,
-  /// 2).
+  /// Returns the expected colour at a position: 50 boxes of 4 x 12 pixels, 3 apart, the first at (2, 2).
   static ui::Colour Expected(int x, int y, int level) {
     constexpr int kEnd = 2 + 3 * 49 + 4;
     if (x < 2 || x >= kEnd || y < 2 || y > 13) return ui::kButtonFace;
@@ -41,7 +40,7 @@ class Meter : public DrawingTest {
   PixelCanvas canvas{156, 16};
 };
 
-TEST_F(Meter, AFreshControlIsADarkBarOnButtonFace) {
+TEST_F(Meter, ANewControlIsADarkBarOnButtonFace) {
   meter.SurfaceChanged(&canvas);
   EXPECT_EQ(meter.Value(), 0);
   ExpectPicture(0);
@@ -132,7 +131,7 @@ TEST_F(Meter, WithoutASurfaceTheValueIsKeptAndDrawnLater) {
   ExpectPicture(33);
 }
 
-TEST_F(Meter, ALostSurfaceIsNotDrawnOnAndANewOneGetsTheWholePicture) {
+TEST_F(Meter, ALostSurfaceIsNotDrawnOnAndANewOneGetsTheCompletePicture) {
   meter.SurfaceChanged(&canvas);
   meter.SurfaceChanged(nullptr);
   ASSERT_TRUE(meter.SetValue(9).Ok());
@@ -158,7 +157,7 @@ TEST_F(Meter, WithoutABorderTheInsideIsTheWhole160By20Pixels) {
   EXPECT_EQ(meter.InnerSize().height, 20);
 }
 
-TEST_F(Meter, APeerHearsOfABorderOnlyWhenItChanges) {
+TEST_F(Meter, APeerIsNotifiedOfABorderOnlyWhenItChanges) {
   ASSERT_TRUE(meter.SetBorder(1).Ok());
   EXPECT_EQ(peer.borders, 0);
   ASSERT_TRUE(meter.SetBorder(0).Ok());
@@ -177,7 +176,7 @@ TEST_F(Meter, OtherBordersAreRefusedUnchanged) {
 
 TEST_F(Meter, AnotherSizeFromTheContainerSnapsBack) {
   meter.Resize(3000, 300);
-  EXPECT_EQ(peer.borders, 1) << "the peer is told to size its window anew";
+  EXPECT_EQ(peer.borders, 1) << "the peer is told to resize its window";
   meter.Resize(2395, 15);
   EXPECT_EQ(peer.borders, 2);
   EXPECT_EQ(meter.InnerSize().width, 156);
@@ -220,7 +219,7 @@ TEST_F(Meter, PropertiesSurviveTheBag) {
   ExpectPicture(12);
 }
 
-TEST_F(Meter, ANumberThatThePropertyRefusesLeavesItAndAppliesTheOther) {
+TEST_F(Meter, AnInvalidNumberLeavesItsPropertyAndAppliesTheOther) {
   ASSERT_TRUE(meter.SetValue(12).Ok());
   ui::PropertyBag bag;
   bag.WriteProperty("Value", 51, 0);
@@ -236,7 +235,7 @@ TEST_F(Meter, ANumberThatThePropertyRefusesLeavesItAndAppliesTheOther) {
   EXPECT_EQ(meter.Border(), 0);
 }
 
-TEST_F(Meter, ANumberBeyond16BitsIsAnOverflowAndNotCutDown) {
+TEST_F(Meter, ANumberBeyond16BitsIsAnOverflowNotTruncated) {
   ASSERT_TRUE(meter.SetValue(12).Ok());
   ui::PropertyBag bag;
   bag.WriteProperty("Value", 65536 + 5, 0);

@@ -1,4 +1,4 @@
-// The bag that keeps a control's properties under their names.
+// The bag that stores a control's properties by name.
 #include "ui/property_bag.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ TEST(PropertyBag, AnUnknownNameReadsItsDefault) {
   EXPECT_EQ(bag.ReadProperty("Max", -7), -7);
 }
 
-TEST(PropertyBag, AWrittenValueReadsBackWhateverTheDefault) {
+TEST(PropertyBag, AWrittenValueReadsBackForAnyDefault) {
   PropertyBag bag;
   bag.WriteProperty("Max", 50, 100);
   EXPECT_EQ(bag.ReadProperty("Max", 100), 50);
@@ -31,7 +31,7 @@ TEST(PropertyBag, AValueEqualToItsDefaultIsNotKept) {
   EXPECT_EQ(bag.ReadProperty("Max", 3), 3);
 }
 
-TEST(PropertyBag, WritingTheDefaultDropsTheValueKeptBefore) {
+TEST(PropertyBag, WritingTheDefaultDropsTheStoredValue) {
   PropertyBag bag;
   bag.WriteProperty("Max", 50, 100);
   bag.WriteProperty("Max", 100, 100);
@@ -46,7 +46,7 @@ TEST(PropertyBag, TheLastValueWrittenCounts) {
   EXPECT_EQ(bag.ReadProperty("Max", 100), 60);
 }
 
-TEST(PropertyBag, NamesAreKeptApartInWhateverOrderTheyAreWritten) {
+TEST(PropertyBag, NamesAreKeptApartInAnyOrderOfWriting) {
   PropertyBag bag;
   bag.WriteProperty("M", 1, 0);
   bag.WriteProperty("Z", 2, 0);

@@ -31,14 +31,15 @@ class Graph : public DrawingTest {
 
   void Push(std::int32_t value) { ASSERT_TRUE(graph.Update(value).Ok()) << value; }
 
-  /// How many pixels of a column have the colour.
+  /// Returns how many pixels of a column have this colour.
   [[nodiscard]] int CountIn(int x, ui::Colour colour) const {
     int count = 0;
     for (int y = 0; y < kHeight; ++y) count += canvas.At(x, y) == colour ? 1 : 0;
     return count;
   }
 
-  /// Both columns of the newest bar show it in these rows, both ends included, and are empty elsewhere.
+  /// Expects both columns of the newest bar to be filled in these rows, both ends included, and empty
+  /// elsewhere.
   void ExpectNewestBar(int top, int bottom) const {
     for (int x = kWidth - 2; x < kWidth; ++x) {
       for (int y = 0; y < kHeight; ++y) {
@@ -48,7 +49,7 @@ class Graph : public DrawingTest {
   }
   void ExpectNoNewestBar() const { ExpectNewestBar(kHeight, -1); }
 
-  /// The empty picture all over.
+  /// Expects the whole picture to be empty.
   void ExpectCleared() const {
     for (int x = 0; x < kWidth; ++x) ASSERT_EQ(CountIn(x, graph.BackColour()), kHeight) << "column " << x;
   }
@@ -82,7 +83,7 @@ TEST_F(Graph, TheInstanceTakesItsPropertiesFromTheDesign) {
   EXPECT_EQ(other.Border(), ui::BorderStyle::kFlatLine);
 }
 
-TEST_F(Graph, WidthAndHeightAreTheSurfacesOr0) {
+TEST_F(Graph, WidthAndHeightAreThoseOfTheSurfaceOr0) {
   EXPECT_EQ(graph.Width(), kWidth);
   EXPECT_EQ(graph.Height(), kHeight);
   graph.SurfaceChanged(nullptr);
@@ -112,7 +113,7 @@ TEST_F(Graph, ValueEqualToMaxIsOnePixelShortOfTheHeight) {
   EXPECT_EQ(CountIn(9, kRed), 64);
 }
 
-TEST_F(Graph, HalfOfMaxIsRoundedToEven) {
+TEST_F(Graph, HalfOfMaxIsRoundedHalfToEven) {
   Push(50);  // 31.5
   ExpectNewestBar(33, 64);
   EXPECT_EQ(CountIn(9, kRed), 32);
@@ -153,7 +154,7 @@ TEST_F(Graph, ZeroAndNegativeValuesOnlyScroll) {
     Push(100);
     Push(value);
     ExpectNoNewestBar();
-    EXPECT_EQ(CountIn(kWidth - 3, kRed), 64) << "the bar before moved on, value " << value;
+    EXPECT_EQ(CountIn(kWidth - 3, kRed), 64) << "the previous bar moved, value " << value;
   }
 }
 
@@ -228,7 +229,7 @@ TEST_F(Graph, AnUpdateIsOneCopyAndTwoFillsWithTheseCoordinates) {
   EXPECT_EQ(record.operations.size(), 2U);
 }
 
-TEST_F(Graph, ThePeerHearsOfEachUpdateOnce) {
+TEST_F(Graph, ThePeerIsNotifiedOfEachUpdateOnce) {
   Push(50);
   EXPECT_EQ(peer.repaints, 1);
   Push(0);
@@ -289,7 +290,7 @@ TEST_F(Graph, AMaxOf0IsADivisionErrorAfterTheScroll) {
   EXPECT_EQ(peer.repaints, 1);
 }
 
-TEST_F(Graph, AMaxOf0IsNotReachedByValuesThatDrawNoBar) {
+TEST_F(Graph, AMaxOf0IsNoErrorForValuesThatDrawNoBar) {
   graph.SetMax(0);
   EXPECT_TRUE(graph.Update(0).Ok());
   EXPECT_TRUE(graph.Update(-1).Ok());
@@ -306,7 +307,7 @@ TEST_F(Graph, ATopBeyond32BitsIsAnOverflowAndHangingBarsHaveNoTop) {
   RecordingCanvas record(kWidth, 64);
   graph.SurfaceChanged(&record);
   graph.SetMax(-1);
-  constexpr std::int32_t kValue = (1 << 25) - 1;  // the height is -2147483585, and 64 less that does not fit
+  constexpr std::int32_t kValue = (1 << 25) - 1;  // the height is -2147483585, and 64 minus that does not fit
   EXPECT_EQ(graph.Update(kValue).Error().number, 6);
   graph.SetInverted(true);
   EXPECT_TRUE(graph.Update(kValue).Ok());

@@ -11,7 +11,7 @@
 namespace qdix::tests {
 namespace {
 
-/// Answers what a test wrote down.
+/// Returns the values that a test sets.
 class WrittenInformation final : public cpu::ProcessorInformation {
  public:
   void GetProcessorNormSpeed(cpu::TextBuffer& speed) override { Put(speed, norm_speed); }
@@ -32,7 +32,7 @@ class WrittenInformation final : public cpu::ProcessorInformation {
   int times_asked = 0;
 
  private:
-  /// Writes the text and its end; what stood behind it stays.
+  /// Writes the text and its NUL; the rest of the buffer stays as it was.
   static void Put(cpu::TextBuffer& buffer, const std::string& text) {
     std::copy(text.begin(), text.end(), buffer.begin());
     if (text.size() < buffer.size()) buffer[text.size()] = '\0';
@@ -58,13 +58,13 @@ TEST_F(CpuSpeed, ShowsNameAndClockWithTwoBlanksBetween) {
   EXPECT_EQ(information.times_asked, 0);
 }
 
-TEST_F(CpuSpeed, ClockIsRoundedHalfToEvenAndTheLeadingNumberOfItsText) {
+TEST_F(CpuSpeed, ClockIsTheLeadingNumberOfItsTextRoundedHalfToEven) {
   information.name = "X";
   information.norm_speed = "66.5 or so";
   EXPECT_EQ(Shown(), "CPU : X  66 MHz");
 }
 
-TEST_F(CpuSpeed, SecondSourceAloneShowsItsClockAlone) {
+TEST_F(CpuSpeed, SecondSourceAloneShowsOnlyItsClock) {
   information.name = "Intel Pentium";
   information.measured_mhz = 733;
   EXPECT_EQ(Shown(), "CPU Speed : 733 MHz");
@@ -82,7 +82,7 @@ TEST_F(CpuSpeed, EmptySpeedTextCountsAsZero) {
   EXPECT_EQ(Shown(), "CPU Speed : 25 MHz");
 }
 
-TEST_F(CpuSpeed, TextWithoutAnEndIsTakenWhole) {
+TEST_F(CpuSpeed, TextWithoutANulIsTakenCompletely) {
   information.name = std::string(255, 'x');
   information.norm_speed = "100";
   EXPECT_EQ(Shown(), "CPU : " + std::string(255, 'x') + "  100 MHz");
@@ -95,7 +95,7 @@ TEST(StripZero, GivesThePartBeforeTheFirstNulOrTheWholeText) {
   EXPECT_EQ(cpu::CpuSpeed::StripZero(""), "");
 }
 
-TEST(CpuSpeedAtLoad, ShowsWhatTheProcessorTells) {
+TEST(CpuSpeedAtLoad, ShowsWhatTheProcessorReports) {
   ProgramRig rig;
   rig.SetHasRunBefore();
   auto& processor = rig.machine.TheProcessor();

@@ -1,4 +1,4 @@
-// The processor's load: readings, average, label, graph, and what happens where there are no statistics.
+// The processor load: readings, average, label, graph, and machines without statistics.
 #include <gtest/gtest.h>
 
 #include "tests/support/program_rig.h"
@@ -19,7 +19,7 @@ class CpuUsage : public testing::Test {
   void Refresh(int times = 1) { rig.AdvanceMs(times * kRefreshMs); }
   [[nodiscard]] const std::string& Label() { return rig.program->Quondix().lblUSAGE.Caption(); }
   [[nodiscard]] std::int32_t Average() { return rig.program->Cpu().AverageCpuUsage(); }
-  /// Place of the first recorded call that begins like this.
+  /// Returns the index of the first recorded call with this beginning.
   [[nodiscard]] std::size_t FirstCall(const std::string& beginning) const {
     const auto& calls = rig.machine.Calls();
     for (std::size_t place = 0; place < calls.size(); ++place) {
@@ -31,7 +31,7 @@ class CpuUsage : public testing::Test {
   ProgramRig rig;
 };
 
-TEST_F(CpuUsage, SamplesStartWithSevenFoursAndTheFirstReading) {
+TEST_F(CpuUsage, SamplesStartAsSevenFoursAndTheFirstReading) {
   rig.machine.SetCpuLoad(100);
   rig.Start();
   EXPECT_EQ(Average(), (7 * 4 + 100) / 8);
@@ -51,7 +51,7 @@ TEST_F(CpuUsage, LabelAndBarShowTheWholePartOfTheMean) {
   rig.machine.SetCpuLoad(50);
   rig.Start();
   Refresh(1);
-  // 50 and seven fours; the first reading has fallen off.
+  // The samples are 50 and seven fours; the first reading has dropped out.
   EXPECT_EQ(Label(), "9 %");
   Refresh(7);
   EXPECT_EQ(Label(), "50 %");
@@ -70,7 +70,7 @@ TEST_F(CpuUsage, DisplayFollowsEveryThirdReadingAtThree) {
     if (rig.graph.CopyCount() != before) updates.push_back(tick);
   }
   EXPECT_EQ(updates, (std::vector<int>{1, 4, 7}));
-  EXPECT_EQ(Average(), (7 * 80 + 4) / 8) << "the samples shifted at every tick";
+  EXPECT_EQ(Average(), (7 * 80 + 4) / 8) << "the samples are shifted at every tick";
 }
 
 TEST_F(CpuUsage, LowerIntervalBelowTheCountUpdatesAtOnce) {
@@ -85,7 +85,7 @@ TEST_F(CpuUsage, LowerIntervalBelowTheCountUpdatesAtOnce) {
   EXPECT_EQ(rig.graph.CopyCount(), 1);
 }
 
-TEST_F(CpuUsage, WithoutStatisticsNothingIsShownAndNothingSaid) {
+TEST_F(CpuUsage, WithoutStatisticsNothingIsShownOrReported) {
   rig.Start();
   Refresh(20);
   EXPECT_EQ(Label(), "0 %");
@@ -102,10 +102,10 @@ TEST_F(CpuUsage, StatisticIsStartedBeforeItsFirstReading) {
   ASSERT_NE(started, kNoCall);
   ASSERT_NE(read, kNoCall);
   EXPECT_LT(started, read);
-  EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << "the load closes both";
+  EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << "the load closes both keys";
 }
 
-TEST_F(CpuUsage, QueryThatFailsReadsZero) {
+TEST_F(CpuUsage, FailedQueryReadsZero) {
   rig.machine.SetCpuLoad(100);
   rig.Start();
   Refresh(8);
@@ -116,7 +116,7 @@ TEST_F(CpuUsage, QueryThatFailsReadsZero) {
   EXPECT_TRUE(rig.machine.Boxes().empty());
 }
 
-TEST_F(CpuUsage, OpenThatFailsSkipsTheReading) {
+TEST_F(CpuUsage, FailedOpenSkipsTheReading) {
   rig.machine.SetCpuLoad(100);
   rig.Start();
   Refresh(8);
@@ -136,7 +136,7 @@ TEST_F(CpuUsage, KeysOfReadingsBetweenTwoUpdatesStayOpen) {
   Refresh(2);
   EXPECT_EQ(rig.machine.OpenKeyCount(), 2);
   Refresh(3);
-  EXPECT_EQ(rig.machine.OpenKeyCount(), 4) << "S - 1 in S ticks";
+  EXPECT_EQ(rig.machine.OpenKeyCount(), 4) << "S - 1 keys stay open in S ticks";
 }
 
 TEST_F(CpuUsage, NoKeyStaysOpenAtTheFastestInterval) {
@@ -146,16 +146,16 @@ TEST_F(CpuUsage, NoKeyStaysOpenAtTheFastestInterval) {
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0);
 }
 
-TEST_F(CpuUsage, ReadingThatNoByteHoldsIsReportedWhenItReachesTheOldestSlotAndAgainEachTime) {
+TEST_F(CpuUsage, ReadingOutsideAByteIsReportedWheneverItIsInTheOldestSlot) {
   rig.machine.SetCpuLoad(300);
   rig.Store("Settings", "CPU", "1");
   rig.machine.WhileBoxIsOpen([this] { EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << "closed before the box"; });
   rig.Start();
-  ASSERT_EQ(rig.machine.Boxes().size(), 1U) << "the first reading of all";
+  ASSERT_EQ(rig.machine.Boxes().size(), 1U) << "this is the very first reading";
   EXPECT_EQ(rig.machine.Boxes()[0].text, "error in CPU Usage Code\r\nOverflow - err number 6");
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX");
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk);
-  EXPECT_FALSE(rig.program->Window().Unloaded()) << "the load goes on";
+  EXPECT_FALSE(rig.program->Window().Unloaded()) << "the load continues";
   EXPECT_EQ(rig.machine.TrayIconCount(), 1);
   Refresh(7);
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
@@ -185,7 +185,7 @@ TEST_F(CpuUsage, BytesAreReadInLittleEndianOrder) {
   EXPECT_EQ(Average(), (7 * 4 + 264) / 8);
 }
 
-TEST_F(CpuUsage, ShortValueCountsAsFarAsItGoesAndALongOneAsZero) {
+TEST_F(CpuUsage, ShortValueIsPaddedAndALongOneCountsAsZero) {
   rig.machine.SetCpuLoadBytes("\x50");
   rig.Start();
   Refresh();

@@ -1,4 +1,4 @@
-// Every model of every family that a maker has processors in, named or not.
+// Every model of every family in which a maker has processors, named or not.
 #include <gtest/gtest.h>
 
 #include "base/numbers.h"
@@ -10,7 +10,7 @@ namespace {
 struct Family {
   const char* vendor;
   std::uint32_t family;
-  /// Models one after the other with their names, those without a name left out: "0-1 One, 4 Other".
+  /// Consecutive models with their names, unnamed ones left out: "0-1 One, 4 Other".
   const char* names;
 };
 
@@ -26,7 +26,7 @@ std::string NameOf(const Family& family, std::uint32_t model) {
 
 bool HasNoName(const std::string& name) { return name.find(" family ") != std::string::npos; }
 
-/// What `Family::names` says, found out model by model.
+/// Builds the text of `Family::names`, model by model.
 std::string NamesOf(const Family& family) {
   constexpr std::uint32_t kModels = 20;
   std::string text;

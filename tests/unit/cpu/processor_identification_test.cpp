@@ -1,4 +1,4 @@
-// The clock out of counted cycles, and the texts as the label takes them.
+// The clock worked out from counted cycles, and the texts in the form that the label takes.
 #include "cpu/processor_identification.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 namespace qdix::tests {
 namespace {
 
-/// A Pentium whose count is what a test says.
+/// A Pentium whose cycle count a test sets.
 class CountingProcessor final : public os::Processor {
  public:
   int Generation() override { return 5; }
@@ -22,7 +22,7 @@ class CountingProcessor final : public os::Processor {
   os::CycleCount count;
 };
 
-TEST(ProcessorIdentification, ClockIsCyclesByMicrosecondsRoundedAndNothingWhereThatIsNone) {
+TEST(ProcessorIdentification, ClockIsCyclesPerMicrosecondRoundedOrNothing) {
   constexpr std::uint64_t kLargestMhz = 2147483647;
   struct Counted {
     os::CycleCount count;
@@ -44,7 +44,7 @@ TEST(ProcessorIdentification, ClockIsCyclesByMicrosecondsRoundedAndNothingWhereT
   }
 }
 
-TEST(ProcessorIdentification, TellsMakerNameAndSignature) {
+TEST(ProcessorIdentification, ReportsMakerNameAndSignature) {
   CountingProcessor processor;
   cpu::ProcessorIdentification identification(processor);
   cpu::TextBuffer vendor;

@@ -1,4 +1,4 @@
-// Names of processors out of the registers that they answer in.
+// Names of processors, derived from the registers of the identification instruction.
 #include "cpu/processor_name.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@ namespace {
 
 using os::CpuidRegisters;
 
-/// The answer of leaf 0 for the twelve characters of a maker.
+/// Returns the result of leaf 0 for the twelve characters of a maker.
 CpuidRegisters Maker(const std::string& characters, std::uint32_t highest_leaf = 1) {
   const auto word = [&characters](std::size_t from) {
     std::uint32_t value = 0;
@@ -48,7 +48,7 @@ TEST_P(RecordedProcessor, HasItsName) {
   EXPECT_EQ(cpu::SignatureOf(identity), GetParam().signature_text);
 }
 
-TEST(ProcessorBrand, IsReadWhereTheHighestLeafSaysSo) {
+TEST(ProcessorBrand, IsReadIfTheHighestLeafAllowsIt) {
   const auto name_with_highest = [](std::uint32_t highest_leaf) {
     os::simulated::CallLog log;
     os::simulated::SimulatedProcessor processor(log);
@@ -82,7 +82,7 @@ TEST(ProcessorSignature, EachNumberHasItsOwnBits) {
   EXPECT_EQ(identified(0x00100F00U, 0), (Numbers{16, 0, 0, 0}));
   EXPECT_EQ(identified(0x00010F00U, 0), (Numbers{15, 16, 0, 0}));
   EXPECT_EQ(identified(0x00010610U, 0), (Numbers{6, 17, 0, 0}));
-  EXPECT_EQ(identified(0x00110510U, 0), (Numbers{5, 1, 0, 0})) << "other families have no more bits";
+  EXPECT_EQ(identified(0x00110510U, 0), (Numbers{5, 1, 0, 0})) << "other families have no extended bits";
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -93,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(
         Recorded{"GenuineIntel", 0x0480, 0, "Intel 486DX4", "Family 4 Model 8 Stepping 0"},
         Recorded{"GenuineIntel", 0x0517, 0, "Intel Pentium", "Family 5 Model 1 Stepping 7"},
         Recorded{"GenuineIntel", 0x052C, 0, "Intel Pentium", "Family 5 Model 2 Stepping 12"},
-        // An OverDrive: its type stands above the family.
+        // An OverDrive: its type is in the bits above the family.
         Recorded{"GenuineIntel", 0x1532, 0, "Intel Pentium", "Family 5 Model 3 Stepping 2"},
         Recorded{"GenuineIntel", 0x0543, 0, "Intel Pentium MMX", "Family 5 Model 4 Stepping 3"},
         Recorded{"GenuineIntel", 0x0619, 0, "Intel Pentium Pro", "Family 6 Model 1 Stepping 9"},
@@ -118,17 +118,17 @@ INSTANTIATE_TEST_SUITE_P(
         Recorded{"NexGenDriven", 0x0500, 0, "NexGen Nx586", "Family 5 Model 0 Stepping 0"},
         Recorded{"UMC UMC UMC ", 0x0423, 0, "UMC U5S", "Family 4 Model 2 Stepping 3"},
         Recorded{"RiseRiseRise", 0x0502, 0, "Rise mP6", "Family 5 Model 0 Stepping 2"},
-        // Models without a row: the maker as people call it, or its own twelve characters.
+        // Models without a row: the maker's usual name, or its own twelve characters.
         Recorded{"GenuineIntel", 0x05E0, 0, "Intel family 5 model 14", "Family 5 Model 14 Stepping 0"},
         Recorded{"Some Maker  ", 0x0621, 0, "Some Maker family 6 model 2", "Family 6 Model 2 Stepping 1"},
-        // Family and model above 15 are made up of two fields each.
+        // Family and model above 15 are the sum of two fields each.
         Recorded{"AuthenticAMD", 0x00800F12, 0, "AMD family 23 model 1", "Family 23 Model 1 Stepping 2"},
         Recorded{"GenuineIntel", 0x000306C3, 0, "Intel family 6 model 60", "Family 6 Model 60 Stepping 3"}));
 
 class OneProcessor : public testing::Test {
  protected:
   [[nodiscard]] std::string Name() { return cpu::NameOf(cpu::Identify(processor)); }
-  /// The processor's own text, cut into the registers of three leaves.
+  /// Splits the processor's own text into the registers of three leaves.
   void SetBrandText(std::string text, std::uint32_t highest_leaf = 0x80000004U) {
     text.resize(48, '\0');
     processor.SetLeaf(0x80000000U, {.eax = highest_leaf});
@@ -152,7 +152,7 @@ TEST_F(OneProcessor, WithoutIdentificationIsA386OrA486) {
   EXPECT_EQ(cpu::SignatureOf(cpu::Identify(processor)), "");
 }
 
-TEST_F(OneProcessor, ThatTellsItsMakerOnlyIsCalledByIt) {
+TEST_F(OneProcessor, WithOnlyAMakerIsNamedAfterIt) {
   processor.SetLeaf(0, Maker("GenuineIntel", 0));
   EXPECT_EQ(Name(), "Intel");
   EXPECT_EQ(cpu::SignatureOf(cpu::Identify(processor)), "");
@@ -165,21 +165,21 @@ TEST_F(OneProcessor, OwnTextWinsAndLosesItsSuperfluousBlanks) {
   EXPECT_EQ(Name(), "Intel(R) Pentium(R) 4 CPU 2.40GHz");
 }
 
-TEST_F(OneProcessor, OwnTextOfFortyEightCharactersNeedsNoEnd) {
+TEST_F(OneProcessor, OwnTextOfFortyEightCharactersNeedsNoNul) {
   processor.SetLeaf(0, Maker("AuthenticAMD"));
   processor.SetLeaf(1, {.eax = 0x0662});
   SetBrandText(std::string(48, 'z'));
   EXPECT_EQ(Name(), std::string(48, 'z'));
 }
 
-TEST_F(OneProcessor, EmptyOwnTextLeavesTheTable) {
+TEST_F(OneProcessor, EmptyOwnTextFallsBackToTheTable) {
   processor.SetLeaf(0, Maker("AuthenticAMD"));
   processor.SetLeaf(1, {.eax = 0x0642});
   SetBrandText("   ");
   EXPECT_EQ(Name(), "AMD Athlon");
 }
 
-TEST_F(OneProcessor, TooFewOrSenselessExtendedLeavesAreNoText) {
+TEST_F(OneProcessor, TooFewOrInvalidExtendedLeavesAreNoText) {
   processor.SetLeaf(0, Maker("GenuineIntel"));
   processor.SetLeaf(1, {.eax = 0x0543});
   SetBrandText("nonsense", 0x80000001U);
@@ -190,7 +190,7 @@ TEST_F(OneProcessor, TooFewOrSenselessExtendedLeavesAreNoText) {
   EXPECT_EQ(Name(), "Intel Pentium MMX");
 }
 
-TEST_F(OneProcessor, CounterIsKnownByItsBit) {
+TEST_F(OneProcessor, CounterIsDetectedByItsBit) {
   processor.SetLeaf(0, Maker("GenuineIntel"));
   processor.SetLeaf(1, {.eax = 0x0543, .edx = 0x10});
   EXPECT_TRUE(cpu::Identify(processor).has_time_stamp_counter);
@@ -219,7 +219,7 @@ INSTANTIATE_TEST_SUITE_P(Values, MeasuredClock,
                          testing::Values(Clock{0, "0"}, Clock{66666, "67"}, Clock{133333, "133"},
                                          Clock{199490, "199"}, Clock{3600123, "3600"}));
 
-TEST_F(OneProcessor, TellsMakerNameAndSignature) {
+TEST_F(OneProcessor, ReportsMakerNameAndSignature) {
   processor.SetLeaf(0, Maker("GenuineIntel"));
   processor.SetLeaf(1, {.eax = 0x0543, .edx = 0x10});
   cpu::ProcessorIdentification identification(processor);

@@ -1,4 +1,4 @@
-// The topic stream as a book: what is well made is read, what is not is passed over.
+// The topic stream as a book: well-formed lines are read, malformed ones are skipped.
 #include "help_viewer/book.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ using help_viewer::kNoLink;
 using help_viewer::Text;
 using help_viewer::Topic;
 
-/// The only text of a topic of one paragraph.
+/// Returns the only text of a topic with one paragraph.
 Text Paragraph(const std::string& marked) {
   const std::string stream = "@1\tOne\nP" + marked + "\n@2\tTwo\n";
   return Book(stream).Read(0).blocks.at(1).cells.front();
@@ -46,7 +46,7 @@ TEST(HelpBook, EachKindOfLineIsABlock) {
   const std::vector<BlockKind> kinds{BlockKind::kTitle,  BlockKind::kHeading, BlockKind::kParagraph,
                                      BlockKind::kBullet, BlockKind::kStep,    BlockKind::kHeaderRow,
                                      BlockKind::kRow,    BlockKind::kFixed};
-  ASSERT_EQ(topic.blocks.size(), kinds.size()) << "a picture is nothing";
+  ASSERT_EQ(topic.blocks.size(), kinds.size()) << "a picture makes no block";
   for (std::size_t i = 0; i < kinds.size(); ++i) EXPECT_EQ(topic.blocks[i].kind, kinds[i]) << i;
   EXPECT_EQ(topic.blocks[0].cells[0].characters, "T");
   EXPECT_EQ(topic.blocks[3].label, "\x95");
@@ -57,7 +57,7 @@ TEST(HelpBook, EachKindOfLineIsABlock) {
   EXPECT_EQ(topic.blocks[7].cells[0].characters, "x  y");
 }
 
-TEST(HelpBook, MarksMakeRunsAndAreNoCharacters) {
+TEST(HelpBook, MarksMakeRunsAndAreNotCharacters) {
   const Text text = Paragraph(
       "a \x01"
       "b\x01 c \x02"
@@ -69,13 +69,13 @@ TEST(HelpBook, MarksMakeRunsAndAreNoCharacters) {
   EXPECT_FALSE(text.runs[0].is_bold);
   EXPECT_EQ(text.runs[1].begin, 2U);
   EXPECT_TRUE(text.runs[1].is_bold);
-  EXPECT_TRUE(text.runs[3].is_bold) << "what is typed looks bold";
+  EXPECT_TRUE(text.runs[3].is_bold) << "typed input looks bold";
   EXPECT_EQ(text.runs[5].begin, 8U);
   EXPECT_EQ(text.runs[5].link, 2);
   EXPECT_EQ(text.runs[6].link, kNoLink);
 }
 
-TEST(HelpBook, LinkHasOneLookThroughout) {
+TEST(HelpBook, LinkHasTheSameLookThroughout) {
   const Text text = Paragraph(
       "\x01"
       "bold \x03"
@@ -83,10 +83,10 @@ TEST(HelpBook, LinkHasOneLookThroughout) {
   ASSERT_EQ(text.runs.size(), 3U);
   EXPECT_FALSE(text.runs[1].is_bold);
   EXPECT_EQ(text.runs[1].link, 2);
-  EXPECT_TRUE(text.runs[2].is_bold) << "what was switched on before goes on after it";
+  EXPECT_TRUE(text.runs[2].is_bold) << "the earlier bold continues after the link";
 }
 
-TEST(HelpBook, LinksThatLeadNowhereOrAreIncompleteArePlainText) {
+TEST(HelpBook, DeadAndIncompleteLinksArePlainText) {
   for (const char* const marked : {"\x03"
                                    "99\x1Fx\x04",
                                    "\x03"
@@ -109,7 +109,7 @@ TEST(HelpBook, OtherControlCharactersAreLeftOut) {
             "abcd\x7F\xE9");
 }
 
-TEST(HelpBook, MalformedLinesArePassedOver) {
+TEST(HelpBook, MalformedLinesAreSkipped) {
   const std::string stream =
       "\n\nPbefore any topic\nXunknown\n@x\tNo number\nPlost\n@1\tOne\nN\tno number\nNx\tnor "
       "here\nZ\n\nPkept\n"
@@ -123,13 +123,13 @@ TEST(HelpBook, MalformedLinesArePassedOver) {
   EXPECT_EQ(book.Read(1).blocks.size(), 1U);
 }
 
-TEST(HelpBook, LastLineNeedsNoEnd) {
+TEST(HelpBook, LastLineNeedsNoLineBreak) {
   const Topic topic = Book("@1\tOne\nPlast").Read(0);
   ASSERT_EQ(topic.blocks.size(), 2U);
   EXPECT_EQ(topic.blocks[1].cells[0].characters, "last");
 }
 
-TEST(HelpBook, RowsHaveAtMostSoManyCells) {
+TEST(HelpBook, RowsHaveALimitedNumberOfCells) {
   const std::string stream = "@1\tOne\nR" + std::string(100, '\t') + "\n";
   EXPECT_EQ(Book(stream).Read(0).blocks.at(1).cells.size(), help_viewer::kMostCells);
 }

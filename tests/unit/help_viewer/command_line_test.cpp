@@ -1,4 +1,4 @@
-// The number of the topic on the command line, however the program was started.
+// The topic number on the command line, for every way of starting the program.
 #include "help_viewer/command_line.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ TEST(HelpCommandLine, NumberFollowsTheProgram) {
   EXPECT_EQ(TopicOfCommandLine("help.exe 007"), 7);
 }
 
-TEST(HelpCommandLine, FolderMayHaveBlanksWithAndWithoutQuotationMarks) {
+TEST(HelpCommandLine, FolderMayContainBlanksWithOrWithoutQuotationMarks) {
   EXPECT_EQ(TopicOfCommandLine("C:\\Program Files\\QDIX\\help.exe 11"), 11);
   EXPECT_EQ(TopicOfCommandLine("\"C:\\Program Files\\QDIX\\help.exe\" 11"), 11);
   EXPECT_EQ(TopicOfCommandLine(" \"C:\\Program Files\\QDIX\\help 9.exe\" 11"), 11);

@@ -1,4 +1,4 @@
-// The topic on the clipboard and on paper, and what is said where that fails.
+// The topic on the clipboard and on paper, and the messages when that fails.
 #include <gtest/gtest.h>
 
 #include "help_viewer/paper.h"
@@ -20,7 +20,7 @@ TEST(HelpCopy, WholeTopicIsPutOnTheClipboardAsText) {
   EXPECT_TRUE(rig.machine.Boxes().empty());
 }
 
-TEST(HelpCopy, RowsHaveTabsAndFixedLinesStandTogether) {
+TEST(HelpCopy, RowsHaveTabsAndFixedLinesAreNotSeparated) {
   HelpRig rig;
   rig.Start("5");
   rig.Pane().Copy();
@@ -39,7 +39,7 @@ TEST(HelpCopy, BulletsAreHyphens) {
   EXPECT_TRUE(rig.clipboard.text.ends_with("in it.\r\n\r\n- Back to the start\r\n"));
 }
 
-TEST(HelpCopy, ClipboardThatAnotherProgramHoldsIsTold) {
+TEST(HelpCopy, ClipboardHeldByAnotherProgramIsReported) {
   HelpRig rig;
   rig.clipboard.is_held = true;
   rig.Start("0");
@@ -65,11 +65,12 @@ TEST(HelpPrint, TopicIsPrintedWithMarginsOnOnePage) {
   EXPECT_EQ(rig.printer.pages[0][0].text, "Welcome");
   EXPECT_EQ(rig.printer.pages[0][0].left, 50);
   EXPECT_EQ(rig.printer.pages[0][0].top, 50);
-  for (const auto& drawn : rig.printer.pages[0]) EXPECT_EQ(drawn.colour, 0U) << "black, links as well";
+  for (const auto& drawn : rig.printer.pages[0])
+    EXPECT_EQ(drawn.colour, 0U) << "everything is black, also links";
   EXPECT_TRUE(rig.machine.Boxes().empty());
 }
 
-TEST(HelpPrint, LongTopicTakesSeveralPagesAndEveryLineStandsWholeOnOne) {
+TEST(HelpPrint, LongTopicTakesSeveralPagesAndNoLineIsSplit) {
   HelpRig rig;
   rig.Start("7");
   rig.Screen().cmdPrint.Press();
@@ -93,10 +94,9 @@ TEST(HelpPrint, PagesEndBetweenLines) {
   ASSERT_EQ(pages.size(), 4U);
   EXPECT_EQ(pages[1].first_px, 30);
   EXPECT_EQ(pages[1].end_px, 60);
-  EXPECT_EQ(help_viewer::Paginate(layout, 5).size(), 10U)
-      << "a line that is higher than the paper has a page";
+  EXPECT_EQ(help_viewer::Paginate(layout, 5).size(), 10U) << "a line higher than the paper gets its own page";
   EXPECT_EQ(help_viewer::Paginate({}, 35).size(), 1U);
-  EXPECT_EQ(help_viewer::Paginate(layout, 30).size(), 4U) << "three lines fill it to the last pixel";
+  EXPECT_EQ(help_viewer::Paginate(layout, 30).size(), 4U) << "three lines fill a page to the last pixel";
   EXPECT_EQ(help_viewer::Paginate(layout, 29).size(), 5U);
 }
 
@@ -128,7 +128,7 @@ TEST(HelpPrint, PageIsFilledToItsLowerMargin) {
 }
 
 TEST(HelpPrint, LinesAreWrappedWithinBothMargins) {
-  // 100 pixels less two margins of 25 leave room for six letters and not for seven.
+  // 100 pixels minus two margins of 25 leave room for six letters, but not for seven.
   HelpRig rig("@3\tOne\nPab cde f\n");
   rig.printer.page = {.width_px = 100, .height_px = 600, .dots_an_inch = 100};
   rig.Start("3");
@@ -147,7 +147,7 @@ TEST(HelpPrint, CancelPrintsNothingAndSaysNothing) {
   EXPECT_TRUE(rig.machine.Boxes().empty());
 }
 
-TEST(HelpPrint, MissingPrinterIsTold) {
+TEST(HelpPrint, MissingPrinterIsReported) {
   HelpRig rig;
   rig.printer.choice = Choice::kFailed;
   rig.Start("0");
@@ -158,7 +158,7 @@ TEST(HelpPrint, MissingPrinterIsTold) {
             "The topic could not be printed.\r\n\r\nPlease make sure that a printer is installed and ready.");
 }
 
-TEST(HelpPrint, PrinterThatRefusesIsToldAndTheDocumentGivenUp) {
+TEST(HelpPrint, RefusingPrinterIsReportedAndTheDocumentAbandoned) {
   for (const char* const call : {"StartDocA", "StartPage", "EndPage", "EndDoc"}) {
     HelpRig rig;
     rig.printer.failing_call = call;
@@ -174,7 +174,7 @@ TEST(HelpPrint, PrinterThatRefusesIsToldAndTheDocumentGivenUp) {
   }
 }
 
-TEST(HelpPrint, ProgramThatEndsBehindTheDialogPrintsNothing) {
+TEST(HelpPrint, ProgramThatEndsDuringTheDialogPrintsNothing) {
   for (const Choice choice : {Choice::kPrint, Choice::kFailed}) {
     HelpRig rig;
     rig.printer.choice = choice;
@@ -188,7 +188,7 @@ TEST(HelpPrint, ProgramThatEndsBehindTheDialogPrintsNothing) {
   }
 }
 
-TEST(HelpPrint, TinyPaperIsNoHarm) {
+TEST(HelpPrint, TinyPaperDoesNoHarm) {
   for (const int side : {0, 1, 5}) {
     HelpRig rig;
     rig.printer.page = {.width_px = side, .height_px = side, .dots_an_inch = 600};

@@ -1,4 +1,4 @@
-// Looking for a word: the list follows what is typed, and each Enter goes to the next place.
+// Finding a word: the list follows the typed text, and each Enter goes to the next occurrence.
 #include <gtest/gtest.h>
 
 #include "help_viewer/search.h"
@@ -19,13 +19,13 @@ class HelpFind : public testing::Test {
   HelpRig rig;
 };
 
-TEST_F(HelpFind, ButtonPutsTheFieldInPlaceOfTheContents) {
+TEST_F(HelpFind, ButtonReplacesTheContentsWithTheField) {
   help_viewer::HelpScreen& screen = rig.Screen();
   EXPECT_FALSE(screen.lstContents.Visible());
   EXPECT_TRUE(screen.lblWord.Visible());
   EXPECT_TRUE(screen.txtWord.HasFocus());
   EXPECT_TRUE(screen.lstFound.Visible());
-  EXPECT_EQ(rig.Title(), "Memory") << "the topic stays";
+  EXPECT_EQ(rig.Title(), "Memory") << "the topic stays open";
   screen.cmdContents.Press();
   EXPECT_TRUE(screen.lstContents.Visible());
   EXPECT_TRUE(screen.lstContents.HasFocus());
@@ -35,7 +35,7 @@ TEST_F(HelpFind, ButtonPutsTheFieldInPlaceOfTheContents) {
   EXPECT_FALSE(screen.lstFound.Visible());
 }
 
-TEST_F(HelpFind, WordThatWasTypedBeforeIsSelectedToBeTypedOver) {
+TEST_F(HelpFind, PreviousWordIsSelectedForReplacement) {
   rig.TypeWord("press");
   rig.Screen().cmdContents.Press();
   rig.Screen().cmdFind.Press();
@@ -65,7 +65,7 @@ TEST_F(HelpFind, TitlesRowsAndFixedLinesAreSearched) {
   }
 }
 
-TEST_F(HelpFind, WordIsFoundAcrossLooksButNotAcrossTexts) {
+TEST_F(HelpFind, WordIsFoundAcrossRunsButNotAcrossTexts) {
   rig.TypeWord("and bold words");
   EXPECT_EQ(rig.Screen().lstFound.Count(), 1);
   rig.TypeWord("QDIX.exe100");
@@ -89,7 +89,7 @@ TEST_F(HelpFind, EnterWithoutAHitDoesNothing) {
   EXPECT_TRUE(rig.Screen().txtWord.HasFocus());
 }
 
-TEST_F(HelpFind, EnterAndDoubleClickGoFromPlaceToPlace) {
+TEST_F(HelpFind, EnterAndDoubleClickGoToTheNextOccurrence) {
   rig.TypeWord("caf\xE9");
   rig.Screen().lstFound.DoubleClick(0);
   EXPECT_EQ(rig.Title(), "A Long One");
@@ -100,10 +100,10 @@ TEST_F(HelpFind, EnterAndDoubleClickGoFromPlaceToPlace) {
   EXPECT_EQ(rig.Pane().Marked()->block, 3U);
   EXPECT_TRUE(rig.Screen().cmdBack.Enabled());
   rig.Screen().cmdBack.Press();
-  EXPECT_EQ(rig.Title(), "Memory") << "the places of one topic are one step";
+  EXPECT_EQ(rig.Title(), "Memory") << "all occurrences in one topic are one step";
 }
 
-TEST_F(HelpFind, AnotherWordInTheSameTopicStartsAtItsFirstPlace) {
+TEST_F(HelpFind, AnotherWordInTheSameTopicStartsAtItsFirstOccurrence) {
   rig.TypeWord("in it");
   rig.Screen().lstFound.DoubleClick(0);
   rig.Screen().lstFound.DoubleClick(0);
@@ -120,7 +120,7 @@ TEST_F(HelpFind, AnotherTopicHasNoMark) {
   EXPECT_EQ(rig.Pane().Marked(), nullptr);
 }
 
-TEST_F(HelpFind, TopicThatWasComeBackToIsMarkedAnew) {
+TEST_F(HelpFind, TopicShownAgainIsMarkedAgain) {
   rig.TypeWord("press");
   rig.Screen().lstFound.DoubleClick(0);
   ASSERT_EQ(rig.Title(), "Welcome");
@@ -138,7 +138,7 @@ TEST_F(HelpFind, DoubleClickBelowTheLastRowOpensNothing) {
   EXPECT_EQ(rig.Title(), "Memory");
 }
 
-TEST(HelpSearch, CapitalsOfTheCodePageAreTheirSmallLetters) {
+TEST(HelpSearch, CapitalsOfTheCodePageMatchTheirSmallLetters) {
   const help_viewer::Book book("@1\tOne\nP\xC4pfel \xD7 \xF7 \xDF\n");
   const help_viewer::Topic topic = book.Read(0);
   EXPECT_EQ(FindInTopic(topic, "\xE4PFEL").size(), 1U);

@@ -1,5 +1,5 @@
-// Every call of the system that can fail is failed once, and from then on, while the help is read, copied and
-// printed; then each step of the printing.
+// Reads, copies and prints the help for every system call that can fail: with that call failing once, and
+// with all calls failing from then on. Then fails each step of the printing.
 #include <gtest/gtest.h>
 
 #include "tests/unit/help_viewer/help_rig.h"
@@ -32,7 +32,7 @@ void ReadHelp(HelpRig& rig) {
   rig.form->Window().PressEscape();
 }
 
-/// Each side of the window is the one from before or the new one.
+/// Expects each side of the window to have its old or its new position.
 void ExpectSoundEnd(HelpRig& rig, int call) {
   EXPECT_TRUE(rig.form->Window().Unloaded()) << call;
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << call;
@@ -48,7 +48,7 @@ void ExpectSoundEnd(HelpRig& rig, int call) {
   }
 }
 
-/// Runs the session once for each call of the sound one, with the fault that `plan` sets up.
+/// Runs the session once for each call of the fault-free session, with the fault that `plan` sets up.
 template <class Plan>
 void RunWithFaults(const Plan& plan) {
   HelpRig sound;
@@ -68,11 +68,11 @@ TEST(HelpFaults, EachCallFailedOnceKeepsTheTopicsReadable) {
   RunWithFaults([](os::SimulatedMachine& machine, int call) { machine.FailCallNumber(call); });
 }
 
-TEST(HelpFaults, EachCallFailedFromThenOnKeepsTheTopicsReadable) {
+TEST(HelpFaults, AllCallsFailedFromEachOnKeepTheTopicsReadable) {
   RunWithFaults([](os::SimulatedMachine& machine, int call) { machine.FailFromCallNumber(call); });
 }
 
-TEST(HelpFaults, PrinterThatFailsAtAnyStepIsToldOnceAndGivenBack) {
+TEST(HelpFaults, PrinterFailureAtAnyStepIsReportedOnceAndReleasesThePrinter) {
   for (const char* step : {"StartDocA", "StartPage", "EndPage", "EndDoc"}) {
     HelpRig rig;
     rig.printer.failing_call = step;

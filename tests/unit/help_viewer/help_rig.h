@@ -1,5 +1,5 @@
 // The help viewer on a simulated machine, with a small book of its own, a pane of 300 by 200 pixels and
-// letters of one width.
+// letters of equal width.
 #pragma once
 
 #include <optional>
@@ -16,7 +16,7 @@
 
 namespace qdix::tests {
 
-/// Five topics in two sections. Topic 7 is long, topic 5 has a table; 0 leads to 5 and 7.
+/// Five topics in two sections. Topic 7 is long, topic 5 has a table; 0 links to 5 and 7.
 inline const std::string kBook = [] {
   std::string book =
       "SFirst Steps\n"
@@ -49,7 +49,7 @@ inline const std::string kBook = [] {
          "Ckey=value\n";
 }();
 
-/// A packed stream that repeats nothing.
+/// Packs a stream without any repetitions.
 inline std::string PackPlainly(std::string_view stream) {
   std::string packed;
   for (unsigned byte = 0; byte < 4; ++byte) packed += static_cast<char>(stream.size() >> (8 * byte));
@@ -72,7 +72,7 @@ class HelpRig {
     form->Start();
     return *form;
   }
-  /// As Start, before anything is shown.
+  /// Does the same as Start(), but stops before anything is shown.
   help_viewer::HelpForm& Make(const std::string& arguments = "") {
     command_line_ = "C:\\Program Files\\QDIX\\help.exe" + (arguments.empty() ? "" : " " + arguments);
     form.emplace(machine.GetSystem(), help_viewer::Devices{clipboard, printer, screen},
@@ -83,14 +83,14 @@ class HelpRig {
 
   [[nodiscard]] help_viewer::HelpScreen& Screen() { return form->Screen(); }
   [[nodiscard]] help_viewer::TopicPane& Pane() { return Screen().paneTopic; }
-  /// The title of the topic in the pane.
+  /// Returns the title of the topic in the pane.
   [[nodiscard]] std::string Title() { return Pane().Shown().blocks.front().cells.front().characters; }
   [[nodiscard]] static std::vector<std::string> RowsOf(const ui::ListBox& list) {
     std::vector<std::string> rows;
     for (int row = 0; row < list.Count(); ++row) rows.push_back(list.Item(row));
     return rows;
   }
-  /// Types into the field for a word over what is there.
+  /// Replaces the text in the search field.
   void TypeWord(const std::string& word) {
     Screen().txtWord.SelectAll();
     if (word.empty()) Screen().txtWord.Type('\b');

@@ -1,5 +1,5 @@
-// Where the pieces of a topic stand: letters of the body are 8 pixels wide and their lines 16 high; bold
-// ones 9.
+// Positions of the pieces of a topic. Letters of the body are 8 pixels wide and their lines 16 high; bold
+// letters are 9 wide.
 #include "help_viewer/layout.h"
 
 #include <gtest/gtest.h>
@@ -22,7 +22,7 @@ class HelpLayout : public testing::Test {
     layout_ = help_viewer::LayOut(topic_, device_, width_px, margin_px);
     return layout_;
   }
-  /// The texts of the lines below the title, pieces one after the other.
+  /// Returns the texts of the lines below the title; the pieces of a line are joined.
   [[nodiscard]] std::vector<std::string> Lines() const {
     std::vector<std::string> lines(layout_.lines.size());
     for (const Piece& piece : layout_.pieces) lines[piece.line] += piece.characters;
@@ -59,7 +59,7 @@ TEST_F(HelpLayout, MarginIsKeptOnBothSides) {
   EXPECT_EQ(Lines(), (Texts{"aaa", "bbb cc", "dddd"}));
 }
 
-TEST_F(HelpLayout, BlanksRoundABreakBelongToNoLine) {
+TEST_F(HelpLayout, BlanksAroundABreakBelongToNoLine) {
   LayOut("P  aaa   bbb  \n", 5 * 8);
   EXPECT_EQ(Lines(), (Texts{"aaa", "bbb"}));
 }
@@ -71,13 +71,13 @@ TEST_F(HelpLayout, WordThatIsTooWideIsBroken) {
   EXPECT_EQ(Lines(), (Texts{"a", "b", "c"}));
 }
 
-TEST_F(HelpLayout, WordOfSeveralLooksIsNotBrokenBetweenThem) {
+TEST_F(HelpLayout, WordOfSeveralRunsIsNotBrokenBetweenThem) {
   LayOut(
       "Paaa b\x01"
       "b\x01"
       "b\n",
       7 * 8);
-  EXPECT_EQ(Lines(), (Texts{"aaa", "bbb"})) << "the bold letter makes it a pixel wider than the line";
+  EXPECT_EQ(Lines(), (Texts{"aaa", "bbb"})) << "the bold letter makes the word a pixel wider than the line";
   EXPECT_EQ(layout_.pieces.size(), 5U);
 }
 
@@ -104,7 +104,7 @@ TEST_F(HelpLayout, LinesDoNotOverlapAndFillTheHeight) {
 }
 
 TEST_F(HelpLayout, SpaceBetweenBlocksIsInQuartersOfABodyLine) {
-  // From one block to the next, the first of which is the title.
+  // Gaps from one block to the next; the first block is the title.
   const auto gaps_px = [this](const std::string& body) {
     LayOut(body, 400);
     std::vector<int> gaps;
@@ -120,7 +120,7 @@ TEST_F(HelpLayout, SpaceBetweenBlocksIsInQuartersOfABodyLine) {
   EXPECT_EQ(gaps_px("Bb\nBb\nN1\tn\nN2\tn\nPp\nBb\n"), (Gaps{12, 4, 4, 4, 8, 8}));
   EXPECT_EQ(gaps_px("Cc\nCc\nPp\nCc\n"), (Gaps{12, 0, 8, 8}));
   EXPECT_EQ(gaps_px("Ra\tb\nRc\td\nPp\nRe\tf\nBb\n"), (Gaps{12, 4, 8, 8, 8}));
-  EXPECT_EQ(gaps_px("Ta\tb\nRc\td\n"), (Gaps{12, 5})) << "with the rule of a pixel";
+  EXPECT_EQ(gaps_px("Ta\tb\nRc\td\n"), (Gaps{12, 5})) << "this includes the one-pixel rule";
 }
 
 TEST_F(HelpLayout, EachKindHasItsLook) {
@@ -135,7 +135,7 @@ TEST_F(HelpLayout, EachKindHasItsLook) {
   for (const char* const plain : {"para", "fixed", "row"}) EXPECT_FALSE(PieceOf(plain).look.is_bold) << plain;
 }
 
-TEST_F(HelpLayout, BulletsAndStepsHangBeforeTheirText) {
+TEST_F(HelpLayout, BulletsAndStepsAreInTheMarginOfTheirText) {
   LayOut("Baaa bbb\nN12\tccc\n", 32 + 3 * 8);
   EXPECT_EQ(Lines(), (Texts{"\x95"
                             "aaa",
@@ -145,13 +145,13 @@ TEST_F(HelpLayout, BulletsAndStepsHangBeforeTheirText) {
   EXPECT_EQ(PieceOf("ccc").left, 32);
   EXPECT_EQ(PieceOf("\x95").left + PieceOf("\x95").width, 24) << "half a line before the text";
   EXPECT_EQ(PieceOf("12.").left + PieceOf("12.").width, PieceOf("\x95").left + PieceOf("\x95").width);
-  EXPECT_EQ(PieceOf("12.").source.length, 0U) << "a label is no text of the topic";
+  EXPECT_EQ(PieceOf("12.").source.length, 0U) << "a label is not text of the topic";
 }
 
-TEST_F(HelpLayout, ColumnHasAPixelAtLeast) {
+TEST_F(HelpLayout, ColumnIsAtLeastAPixelWide) {
   LayOut("Rab\t\tcd\tef\n", 1);
   EXPECT_EQ(PieceOf("a").left, 0);
-  EXPECT_EQ(PieceOf("c").left, 2 * (1 + 16)) << "behind an empty column";
+  EXPECT_EQ(PieceOf("c").left, 2 * (1 + 16)) << "it follows an empty column";
   EXPECT_EQ(PieceOf("e").left, 3 * (1 + 16));
 }
 
@@ -163,14 +163,14 @@ TEST_F(HelpLayout, WideLabelBeginsAtTheMargin) {
   EXPECT_EQ(PieceOf("y").left, 5 + 32);
 }
 
-TEST_F(HelpLayout, FixedLinesAreNotWrappedAndStandClose) {
+TEST_F(HelpLayout, FixedLinesAreNotWrappedAndHaveNoGaps) {
   LayOut("Caaa bbb ccc ddd\nCe\n", 40);
   EXPECT_EQ(Lines(), (Texts{"aaa bbb ccc ddd", "e"}));
   EXPECT_TRUE(PieceOf("e").look.is_fixed);
   EXPECT_EQ(layout_.lines[2].top, layout_.lines[1].top + layout_.lines[1].height);
 }
 
-TEST_F(HelpLayout, ColumnsTakeWhatTheirTextsTakeWhereThereIsRoom) {
+TEST_F(HelpLayout, ColumnsAreAsWideAsTheirTextsIfThereIsRoom) {
   LayOut("Tab\tc\nRd\tefg\n", 400);
   EXPECT_EQ(PieceOf("c").left, 2 * 9 + 16);
   EXPECT_EQ(PieceOf("efg").left, 2 * 9 + 16);
@@ -182,7 +182,7 @@ TEST_F(HelpLayout, ColumnsTakeWhatTheirTextsTakeWhereThereIsRoom) {
 }
 
 TEST_F(HelpLayout, WideColumnIsWrappedAndNarrowOnesKeepTheirWidth) {
-  // 160 pixels less two gaps of 16: the narrow columns take 8 each and leave 112, which are 14 letters.
+  // 160 pixels minus two gaps of 16: the narrow columns take 8 each and leave 112, which is 14 letters.
   LayOut("Ra\taaaa bbbb cccc dddd\tz\nRb\te\tf\n", 160);
   EXPECT_EQ(Lines(), (Texts{"aaaaa bbbb ccccz", "dddd", "bef"}));
   EXPECT_EQ(PieceOf("z").left, 8 + 16 + 112 + 16);
@@ -190,7 +190,7 @@ TEST_F(HelpLayout, WideColumnIsWrappedAndNarrowOnesKeepTheirWidth) {
   EXPECT_EQ(PieceOf("a").top, PieceOf("z").top);
 }
 
-TEST_F(HelpLayout, LinkIsOneHoweverManyPiecesItHas) {
+TEST_F(HelpLayout, LinkOfSeveralPiecesIsOneLink) {
   LayOut(
       "Px \x03"
       "2\x1F"
@@ -210,7 +210,7 @@ TEST_F(HelpLayout, LinkIsOneHoweverManyPiecesItHas) {
   EXPECT_FALSE(PieceOf("x ").look.is_underlined);
 }
 
-TEST_F(HelpLayout, PiecesTellWhereTheyComeFrom) {
+TEST_F(HelpLayout, PiecesKnowTheirSource) {
   LayOut("Ra\tbb cc\n", 16 + 8 + 2 * 8);
   EXPECT_EQ(PieceOf("cc").source, (help_viewer::Passage{1, 1, 3, 2}));
 }

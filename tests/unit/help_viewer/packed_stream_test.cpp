@@ -11,14 +11,14 @@ namespace {
 using namespace std::string_literals;
 using help_viewer::Unpack;
 
-TEST(PackedHelp, BytesComeBack) {
+TEST(PackedHelp, BytesAreRestored) {
   EXPECT_EQ(Unpack(PackPlainly("")), "");
   EXPECT_EQ(Unpack(PackPlainly("a")), "a");
   EXPECT_EQ(Unpack(PackPlainly(kBook)), kBook);
 }
 
 TEST(PackedHelp, RepetitionsAreCopied) {
-  // "abc", three bytes from three back, then six bytes of the last one.
+  // "abc", three bytes from a distance of three, then six bytes from a distance of one.
   EXPECT_EQ(Unpack("\x0C\0\0\0\x07"
                    "abc\x02\x00\x00\x30"s),
             "abcabccccccc");
@@ -40,18 +40,18 @@ TEST(PackedHelp, DamageEndsTheStreamEarly) {
   EXPECT_EQ(Unpack("\x05\0\0\0\xFF"
                    "ab"s),
             "ab");
-  EXPECT_EQ(Unpack("\x05\0\0\0\x00\x00\x00"s), "") << "a repetition of nothing";
+  EXPECT_EQ(Unpack("\x05\0\0\0\x00\x00\x00"s), "") << "a repetition with nothing before it";
   EXPECT_EQ(Unpack("\x05\0\0\0\x03"
                    "ab\x02\x00"s),
             "ab")
-      << "of what was before the beginning";
+      << "a repetition from before the beginning";
   EXPECT_EQ(Unpack("\x03\0\0\0\x01"
                    "a\x00\xF0"s),
             "aaa")
-      << "no more than its size";
+      << "no more bytes than the stated size";
 }
 
-TEST(PackedHelp, SizeThatCannotBeIsNotBelieved) {
+TEST(PackedHelp, ImpossibleSizeIsRejected) {
   EXPECT_EQ(Unpack("\xFF\xFF\xFF\xFF\xFF"
                    "abc"s),
             "abc");

@@ -1,4 +1,4 @@
-// What the pane and the paper show of a topic: its pieces, rules and marked places in their colours.
+// What the pane and the paper show of a topic: pieces, rules and highlighted matches in their colours.
 #include "help_viewer/pane_picture.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ class HelpPicture : public testing::Test {
     rig.Start(topic);
     return rig.Pane();
   }
-  /// The texts of the view between two lines of pixels.
+  /// Returns the texts that are visible between two pixel rows.
   std::vector<std::string> TextsBetween(int first_px, int end_px) {
     rig.device.texts.clear();
     rig.device.boxes.clear();
@@ -31,7 +31,7 @@ class HelpPicture : public testing::Test {
   HelpRig rig;
 };
 
-TEST_F(HelpPicture, ShowsWhatIsInViewInItsColours) {
+TEST_F(HelpPicture, ShowsVisiblePiecesInTheirColours) {
   TopicPane& pane = Open("0");
   const help_viewer::Palette palette{
       .background = 1, .text = 2, .link = 3, .marked_background = 4, .marked_text = 5};
@@ -50,7 +50,7 @@ TEST_F(HelpPicture, ShowsWhatIsInViewInItsColours) {
   EXPECT_TRUE(rig.device.boxes.empty());
 }
 
-TEST_F(HelpPicture, LeavesOutWhatIsNotInView) {
+TEST_F(HelpPicture, LeavesOutInvisiblePieces) {
   TopicPane& pane = Open("7");
   DrawLayout(rig.device, pane.TheLayout(), {.first_px = 400, .end_px = 420, .top_px = 0}, {}, nullptr);
   EXPECT_FALSE(rig.device.texts.empty());
@@ -85,7 +85,7 @@ TEST_F(HelpPicture, RuleOfATableIsDrawn) {
   EXPECT_EQ(rig.device.boxes[0].colour, 2U);
 }
 
-TEST_F(HelpPicture, PieceAndRuleShowFromTheirFirstPixelToTheirLast) {
+TEST_F(HelpPicture, PieceAndRuleAreVisibleFromFirstToLastPixel) {
   using Texts = std::vector<std::string>;
   const help_viewer::Piece title = Open("5").TheLayout().pieces[0];
   EXPECT_EQ(TextsBetween(0, title.top), Texts{});
@@ -110,7 +110,7 @@ TEST_F(HelpPicture, MarkedPlaceOfSeveralPiecesIsMarkedInEach) {
   EXPECT_EQ(rig.device.boxes[2].left, rig.device.boxes[1].left + 4 * 9);
 }
 
-/// Notes in which order boxes and texts are drawn.
+/// Records the order in which boxes and texts are drawn.
 class OrderDevice final : public os::TextDevice {
  public:
   int GetTextExtentPoint32A(const os::FontLook& /*look*/, std::string_view text) override {
@@ -128,7 +128,7 @@ class OrderDevice final : public os::TextDevice {
   std::vector<std::string> drawn;
 };
 
-TEST_F(HelpPicture, MarkedTextStandsOnItsBackgroundAndThatOnTheText) {
+TEST_F(HelpPicture, MarkedTextIsAboveItsBackgroundAndThatAboveTheText) {
   TopicPane& pane = Open("4");
   pane.Mark("button");
   OrderDevice device;
@@ -136,7 +136,7 @@ TEST_F(HelpPicture, MarkedTextStandsOnItsBackgroundAndThatOnTheText) {
   EXPECT_EQ(device.drawn, (std::vector<std::string>{"Memory", "Press the button.", "(box)", "button"}));
 }
 
-TEST_F(HelpPicture, MarkedCellIsNotTheOneBesideIt) {
+TEST_F(HelpPicture, MarkedCellLeavesItsNeighbourUnmarked) {
   TopicPane& pane = Open("5");
   pane.Mark("100");
   ASSERT_EQ(pane.Marked()->cell, 1U);

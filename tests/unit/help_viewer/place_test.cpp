@@ -1,4 +1,4 @@
-// The place of the window from one start to the next, and whatever else is stored in its stead.
+// The position of the window from one start to the next, and odd values stored in its place.
 #include <gtest/gtest.h>
 
 #include "tests/unit/help_viewer/help_rig.h"
@@ -24,7 +24,7 @@ class HelpPlace : public testing::Test {
   [[nodiscard]] std::string Stored(const std::string& name) {
     return rig.machine.RegistryText(os::kHkeyCurrentUser, kKey, name).value_or("(none)");
   }
-  /// Where a start puts the window.
+  /// Returns the position that a start gives the window.
   [[nodiscard]] std::optional<ui::WindowBounds> Restored() { return rig.Start("4").Window().Bounds(); }
 
   HelpRig rig;
@@ -50,7 +50,7 @@ TEST_F(HelpPlace, IsSavedWhenTheSessionEnds) {
   EXPECT_EQ(Stored("Maximised"), "True");
 }
 
-TEST_F(HelpPlace, WindowThatWasNeverPlacedSavesNothing) {
+TEST_F(HelpPlace, WindowNeverPlacedSavesNothing) {
   rig.Start("4");
   rig.form->Window().Close();
   EXPECT_EQ(Stored("Left"), "(none)");
@@ -68,9 +68,9 @@ TEST_F(HelpPlace, MaximisedWindowComesBackMaximised) {
   EXPECT_EQ(rig.form->Window().State(), ui::WindowState::kMaximised);
 }
 
-TEST_F(HelpPlace, WithoutOneTheWindowStaysWhereTheSystemPutsIt) { EXPECT_EQ(Restored(), std::nullopt); }
+TEST_F(HelpPlace, MissingPlaceLeavesTheWindowWhereTheSystemPutsIt) { EXPECT_EQ(Restored(), std::nullopt); }
 
-TEST_F(HelpPlace, WhatIsNoNumberIsNoPlace) {
+TEST_F(HelpPlace, TextThatIsNoNumberIsNoPlace) {
   for (const char* const text : {"", "x", "10x", "True", "1E", "\xFF"}) {
     Store("10", text, "500", "400");
     EXPECT_EQ(Restored(), std::nullopt) << text;
@@ -84,17 +84,17 @@ TEST_F(HelpPlace, PlaceOffTheScreenIsMovedOntoIt) {
   EXPECT_EQ(Restored(), (ui::WindowBounds{140, 52, 500, 400}));
 }
 
-TEST_F(HelpPlace, WindowOfALargerScreenIsCut) {
+TEST_F(HelpPlace, WindowOfALargerScreenIsMadeSmaller) {
   Store("0", "0", "1600", "1200");
   EXPECT_EQ(Restored(), (ui::WindowBounds{0, 0, 640, 452}));
 }
 
-TEST_F(HelpPlace, WindowWithoutASizeHasAPixel) {
+TEST_F(HelpPlace, WindowWithoutASizeGetsOnePixel) {
   Store("10", "20", "0", "-5");
   EXPECT_EQ(Restored(), (ui::WindowBounds{10, 20, 1, 1}));
 }
 
-TEST_F(HelpPlace, AnyNumbersAreNoHarm) {
+TEST_F(HelpPlace, AnyNumbersDoNoHarm) {
   for (const char* const text : {"1E+300", "-1E+300", "2147483647", "-2147483648", "0.5", "-0"}) {
     Store(text, text, text, text);
     const auto bounds = Restored();
@@ -106,7 +106,7 @@ TEST_F(HelpPlace, AnyNumbersAreNoHarm) {
   }
 }
 
-TEST_F(HelpPlace, FailingRegistryIsNoHarm) {
+TEST_F(HelpPlace, FailingRegistryDoesNoHarm) {
   Store("10", "20", "500", "400");
   for (int call = 1; call < 30; ++call) {
     rig.machine.FailFromCallNumber(rig.machine.FaultableCallCount() + call);

@@ -1,4 +1,4 @@
-// The program from its start to its end: topics by number, contents, links, the way back.
+// The program from start to end: topics by number, contents, links, Back.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -9,7 +9,7 @@
 namespace qdix::tests {
 namespace {
 
-TEST(HelpReading, OpensTheTopicOfItsNumberWithTheKeyboardOnIt) {
+TEST(HelpReading, OpensTheTopicByNumberAndGivesItTheKeyboard) {
   HelpRig rig;
   rig.Start("5");
   EXPECT_TRUE(rig.form->Window().Shown());
@@ -20,7 +20,7 @@ TEST(HelpReading, OpensTheTopicOfItsNumberWithTheKeyboardOnIt) {
   EXPECT_FALSE(rig.Screen().cmdBack.Enabled());
 }
 
-TEST(HelpReading, EveryViewerThatIsOpenIsAskedToClose) {
+TEST(HelpReading, EveryOpenViewerIsAskedToClose) {
   HelpRig rig;
   os::Windows& windows = rig.machine.GetSystem().windows;
   rig.machine.OpenWindow("QDIXMain", "Quondix Help");
@@ -48,11 +48,11 @@ TEST(HelpReading, UnknownMissingAndMalformedNumbersOpenTheContents) {
   }
 }
 
-TEST(HelpReading, TitleOfTheWindowIsThatOfNoOther) {
+TEST(HelpReading, TitleOfTheWindowIsUnique) {
   HelpRig rig;
   rig.Start("4");
   EXPECT_NE(rig.form->TheApplication().Title(), "Quondix Help")
-      << "the hidden window and boxes have this one";
+      << "the hidden window and boxes have this title";
 }
 
 TEST(HelpReading, ContentsListHasTheTopicsUnderTheirSections) {
@@ -63,7 +63,7 @@ TEST(HelpReading, ContentsListHasTheTopicsUnderTheirSections) {
                                       "    A Long One", "    About"}));
 }
 
-TEST(HelpReading, RowOfTheContentsShowsItsTopicAndAHeadingNothingNew) {
+TEST(HelpReading, RowOfTheContentsShowsItsTopicAndAHeadingChangesNothing) {
   HelpRig rig;
   rig.Start("4");
   rig.Screen().lstContents.Choose("    About");
@@ -73,7 +73,7 @@ TEST(HelpReading, RowOfTheContentsShowsItsTopicAndAHeadingNothingNew) {
   EXPECT_EQ(rig.Screen().lstContents.SelectedText(), "The Rest");
 }
 
-TEST(HelpReading, LinkToTheTopicThatItStandsInGoesBackToItsTop) {
+TEST(HelpReading, LinkToItsOwnTopicScrollsToTheTop) {
   std::string stream = "@3\tOne\n";
   for (int i = 0; i < 30; ++i) stream += "PText.\n";
   HelpRig rig(stream +
@@ -85,11 +85,11 @@ TEST(HelpReading, LinkToTheTopicThatItStandsInGoesBackToItsTop) {
   ASSERT_EQ(rig.Pane().ScrollPosition(), 100);
   rig.Pane().Follow(0);
   EXPECT_EQ(rig.Pane().ScrollPosition(), 0);
-  EXPECT_FALSE(rig.Screen().cmdBack.Enabled()) << "it is no step to come back from";
+  EXPECT_FALSE(rig.Screen().cmdBack.Enabled()) << "the link is no step to go back from";
 }
 
-TEST(HelpReading, FiftyStepsBackAreRememberedAndStayingIsNone) {
-  // Each topic leads to itself and to the other.
+TEST(HelpReading, FiftyStepsBackAreRememberedAndStayingIsNotAStep) {
+  // Each topic links to itself and to the other.
   HelpRig rig(
       "@1\tOne\nP\x03"
       "1\x1Fhere\x04 \x03"
@@ -106,16 +106,16 @@ TEST(HelpReading, FiftyStepsBackAreRememberedAndStayingIsNone) {
   EXPECT_FALSE(rig.Screen().cmdBack.Enabled());
 }
 
-TEST(HelpReading, NothingToComeBackToIsNoHarm) {
+TEST(HelpReading, BackWithoutAPreviousTopicDoesNoHarm) {
   HelpRig rig;
   rig.Start("4");
-  // As an accelerator that comes late would, past the disabled button.
+  // Acts like a late access key that gets past the disabled button.
   EXPECT_TRUE(rig.Screen().cmdBack.OnClick().Ok());
   EXPECT_EQ(rig.Title(), "Memory");
   EXPECT_FALSE(rig.Screen().cmdBack.Enabled());
 }
 
-/// Notes at each change what a test asks for.
+/// Makes the checks of a test at each change.
 class AskingPeer final : public ui::ControlPeer {
  public:
   explicit AskingPeer(std::function<std::string()> ask) : ask_(std::move(ask)) {}
@@ -139,7 +139,7 @@ TEST(HelpReading, WindowShowsItselfWithItsTopic) {
   EXPECT_EQ(peer.answers, (Answers{{ui::Change::kVisible, "Memory"}}));
 }
 
-TEST(HelpReading, KeyboardIsElsewhereBeforeItsControlGoes) {
+TEST(HelpReading, KeyboardMovesBeforeItsControlIsHidden) {
   HelpRig rig;
   rig.Start("4");
   const auto focused = [&rig] { return std::string(rig.form->Window().Focused()->Name()); };
@@ -173,7 +173,7 @@ TEST(HelpReading, UntrappedErrorIsShownAndEndsTheProgram) {
   EXPECT_TRUE(rig.form->Window().Unloaded());
 }
 
-TEST(HelpReading, EnterInTheContentsGoesToTheTopicToScrollIt) {
+TEST(HelpReading, EnterInTheContentsGivesTheTopicTheKeyboard) {
   HelpRig rig;
   rig.Start("");
   rig.Screen().lstContents.PressEnter();
@@ -186,7 +186,7 @@ TEST(HelpReading, EnterInTheContentsGoesToTheTopicToScrollIt) {
   EXPECT_TRUE(rig.Pane().HasFocus());
 }
 
-TEST(HelpReading, LinkAndBackComeToTheSamePlace) {
+TEST(HelpReading, BackReturnsToThePlaceOfTheLink) {
   HelpRig rig;
   rig.Start("7");
   rig.Pane().ScrollBy(help_viewer::TopicPane::Scroll::kBottom);
@@ -215,7 +215,7 @@ TEST(HelpReading, BackGoesStepByStep) {
   EXPECT_EQ(rig.Title(), "Welcome");
 }
 
-TEST(HelpReading, VeryLongWayBackForgetsItsBeginning) {
+TEST(HelpReading, VeryLongHistoryForgetsItsBeginning) {
   HelpRig rig;
   rig.Start("0");
   for (int i = 0; i < 200; ++i) rig.Screen().lstContents.Choose(i % 2 == 0 ? "    Memory" : "    Files");
@@ -254,11 +254,11 @@ TEST(HelpReading, ContentsButtonShowsThePageOfAllTopics) {
   EXPECT_EQ(rig.Title(), "Memory");
 }
 
-TEST(HelpReading, TopicThatIsOpenedAgainIsShownFromItsBeginning) {
+TEST(HelpReading, TopicOpenedAgainIsShownFromItsBeginning) {
   HelpRig rig;
   rig.Start("");
   rig.Screen().cmdContents.Press();
-  EXPECT_FALSE(rig.Screen().cmdBack.Enabled()) << "it was shown already";
+  EXPECT_FALSE(rig.Screen().cmdBack.Enabled()) << "the topic was already shown";
 }
 
 TEST(HelpReading, EscClosesAndSoDoesTheSystem) {
@@ -276,7 +276,7 @@ TEST(HelpReading, EscClosesAndSoDoesTheSystem) {
   EXPECT_TRUE(ending.form->Window().Unloaded());
 }
 
-TEST(HelpReading, BookWithoutTopicsIsShownAsWell) {
+TEST(HelpReading, BookWithoutTopicsIsAlsoShown) {
   for (const char* const stream : {"", "SOnly a section\n", "garbage\n"}) {
     HelpRig rig(stream);
     rig.Start("4");

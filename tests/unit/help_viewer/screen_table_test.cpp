@@ -1,5 +1,5 @@
-// The window of the help viewer, whole: kinds, names, captions with their access keys, tool tips, frames, tab
-// order.
+// The window of the help viewer, complete: kinds, names, captions with their access keys, tool tips, frames,
+// tab order.
 #include <gtest/gtest.h>
 
 #include "help_viewer/help_screen.h"

@@ -1,4 +1,4 @@
-// The window as it is drawn, in its first size and in others.
+// The window as drawn, in its initial size and in others.
 #include <gtest/gtest.h>
 
 #include "tests/support/screen_rules.h"
@@ -16,7 +16,7 @@ class HelpWindow : public testing::Test {
     Collect(rig.form->Window(), controls);
   }
 
-  /// Only one side of the window is seen at a time: its contents, or what finds a word.
+  /// Only one side of the window is visible at a time: the contents, or the controls that find a word.
   void ExpectRoomOnEachSide() {
     constexpr std::int16_t kMargin = 7;
     const ui::Place window = rig.form->Window().GetPlace();
@@ -35,7 +35,7 @@ class HelpWindow : public testing::Test {
   std::vector<ui::Control*> controls;
 };
 
-TEST_F(HelpWindow, EveryButtonHasAKeyOfItsOwn) {
+TEST_F(HelpWindow, EveryButtonHasItsOwnKey) {
   ExpectDifferentAccessKeys(controls);
   for (const ui::Control* control : controls) {
     if (control->GetKind() == ui::Kind::kButton) {
@@ -75,8 +75,8 @@ TEST_F(HelpWindow, BothPanesFollowTheWindow) {
   EXPECT_GT(rig.Pane().GetPlace().width, pane.width);
 }
 
-/// While the system arranges a window it can be smaller than the smallest that a user can make.
-TEST_F(HelpWindow, NoSizeIsSoSmallThatAPlaceTurnsRound) {
+/// While the system arranges a window, it can be smaller than the minimum that a user can set.
+TEST_F(HelpWindow, NoSizeMakesAPlaceNegative) {
   for (const ui::FormSize size : {ui::FormSize{0, 0}, ui::FormSize{1, 1}, ui::FormSize{100, 20}}) {
     rig.form->Window().UserResized(size);
     for (const ui::Control* control : controls) {
@@ -86,9 +86,9 @@ TEST_F(HelpWindow, NoSizeIsSoSmallThatAPlaceTurnsRound) {
   }
 }
 
-TEST_F(HelpWindow, FirstSizeFitsOn640By480) {
-  // A dialog unit is 1.5 pixels wide and 13 eighths high at 96 dots an inch; frame, caption and taskbar take
-  // the rest.
+TEST_F(HelpWindow, InitialSizeFitsOn640By480) {
+  // A dialog unit is 1.5 pixels wide and 13/8 pixels high at 96 dots per inch; frame, caption and taskbar
+  // take the rest.
   const ui::Place window = rig.form->Window().GetPlace();
   EXPECT_EQ(window.width, kFirstSize.width);
   EXPECT_LE(window.width * 3 / 2 + 8, 640);

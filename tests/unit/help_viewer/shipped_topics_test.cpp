@@ -1,4 +1,4 @@
-// The topics as the build makes them: what is packed is what was made, and every bit of it is understood.
+// The topics as built: the packed stream equals the original, and every bit of it is understood.
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -30,13 +30,13 @@ TEST_F(ShippedTopics, PackedStreamIsTheStream) {
   EXPECT_LT(packed.size(), stream.size() * 2 / 3);
 }
 
-TEST_F(ShippedTopics, EveryNumberThatTheMainProgramAsksForHasATopic) {
+TEST_F(ShippedTopics, EveryNumberUsedByTheMainProgramHasATopic) {
   for (const int number : {0, 4, 5, 6, 7, 8, 9, 10, 11}) {
     EXPECT_NE(book.IndexOf(number), help_viewer::kContentsPage) << number;
   }
 }
 
-TEST_F(ShippedTopics, NoLineIsPassedOver) {
+TEST_F(ShippedTopics, NoLineIsSkipped) {
   std::string_view rest = stream;
   int topics = 0;
   while (!rest.empty()) {

@@ -1,4 +1,4 @@
-// The pane without a window: scrolling, links by keyboard and pointer, and marked places.
+// The pane without a window: scrolling, links by keyboard and pointer, and highlighted matches.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -31,7 +31,7 @@ TEST_F(HelpPane, LinesAndPagesAreScrolledWithinTheTopic) {
   pane.ScrollBy(Scroll::kLineDown);
   EXPECT_EQ(pane.ScrollPosition(), 16);
   pane.ScrollBy(Scroll::kPageDown);
-  EXPECT_EQ(pane.ScrollPosition(), 16 + 200 - 16) << "one line of the page before stays in view";
+  EXPECT_EQ(pane.ScrollPosition(), 16 + 200 - 16) << "one line of the previous page stays visible";
   pane.ScrollBy(Scroll::kPageUp);
   EXPECT_EQ(pane.ScrollPosition(), 16);
   pane.ScrollBy(Scroll::kBottom);
@@ -52,7 +52,7 @@ TEST_F(HelpPane, ShortTopicDoesNotScroll) {
   EXPECT_EQ(pane.ScrollPosition(), 0);
 }
 
-TEST_F(HelpPane, AnotherWidthKeepsTheBlockAtTheTopAndAnotherHeightThePosition) {
+TEST_F(HelpPane, NewWidthKeepsTheTopBlockAndNewHeightThePosition) {
   TopicPane& pane = Open("7");
   const auto first_block_in_view = [&pane] {
     const auto& lines = pane.TheLayout().lines;
@@ -73,16 +73,16 @@ TEST_F(HelpPane, AnotherWidthKeepsTheBlockAtTheTopAndAnotherHeightThePosition) {
   EXPECT_EQ(pane.ScrollPosition(), 0);
 }
 
-TEST_F(HelpPane, AnotherHeightAloneIsToldToThePeer) {
+TEST_F(HelpPane, ChangeOfHeightAloneIsReportedToThePeer) {
   TopicPane& pane = Open("7");
   NotingPeer peer;
   pane.AttachPeer(&peer);
   pane.SurfaceChanged(&rig.device, 300, 150);
   EXPECT_EQ(peer.changes, std::vector<ui::Change>{ui::Change::kValue})
-      << "its scroll bar has longer pages now";
+      << "its scroll bar now has longer pages";
 }
 
-TEST_F(HelpPane, LineThatBeginsWhereTheViewBeginsIsTheOneToComeBackTo) {
+TEST_F(HelpPane, LineAtTheTopOfTheViewIsThePlaceToReturnTo) {
   TopicPane& pane = Open("7");
   const auto top_of_block = [&pane](std::size_t block) {
     const auto& lines = pane.TheLayout().lines;
@@ -95,7 +95,7 @@ TEST_F(HelpPane, LineThatBeginsWhereTheViewBeginsIsTheOneToComeBackTo) {
   EXPECT_EQ(pane.ScrollPosition(), top_of_block(9));
 }
 
-TEST_F(HelpPane, AnotherWidthKeepsTheTopOfTheTopic) {
+TEST_F(HelpPane, NewWidthKeepsTheTopOfTheTopic) {
   constexpr int kMarginPx = 8;
   TopicPane& pane = Open("7");
   pane.SurfaceChanged(&rig.device, 120, 200);
@@ -114,7 +114,7 @@ TEST_F(HelpPane, LosingTheSurfaceGoesBackToTheTop) {
   EXPECT_EQ(pane.ScrollPosition(), 0);
 }
 
-TEST_F(HelpPane, LinkThatIsInViewToItsLastPixelIsNotScrolledTo) {
+TEST_F(HelpPane, LinkEntirelyInViewIsNotScrolledTo) {
   const int height_px = Open("0").TheLayout().links[0].height;
   const int top_px = rig.Pane().TheLayout().links[0].top;
   const auto scrolled_from = [this](int scroll_px, int view_px) {
@@ -128,12 +128,12 @@ TEST_F(HelpPane, LinkThatIsInViewToItsLastPixelIsNotScrolledTo) {
     return pane.ScrollPosition();
   };
   EXPECT_EQ(scrolled_from(0, top_px + height_px), 0);
-  EXPECT_EQ(scrolled_from(0, top_px + height_px - 1), 16 + 1) << "a line more than needed";
+  EXPECT_EQ(scrolled_from(0, top_px + height_px - 1), 16 + 1) << "it scrolls one line more than needed";
   EXPECT_EQ(scrolled_from(top_px, height_px), top_px);
   EXPECT_EQ(scrolled_from(top_px + 1, height_px), top_px - 16);
 }
 
-/// Notes where the pane stands at each change.
+/// Records position and link at each change.
 class StandReader final : public ui::ControlPeer {
  public:
   void ControlChanged(ui::Control& control, ui::Change /*change*/) override {
@@ -181,10 +181,10 @@ TEST_F(HelpPane, TabGoesThroughTheLinksAndThenLeaves) {
   EXPECT_EQ(pane.FocusedLink(), 0);
   pane.FocusNextLink(false);
   EXPECT_EQ(pane.FocusedLink(), 1);
-  EXPECT_FALSE(pane.HasNextLink(false)) << "a link to nowhere is none";
+  EXPECT_FALSE(pane.HasNextLink(false)) << "a dead link is not a link";
   EXPECT_TRUE(pane.HasNextLink(true));
   pane.FocusNextLink(false);
-  EXPECT_EQ(pane.FocusedLink(), 1) << "where there is no further one, the last keeps the focus";
+  EXPECT_EQ(pane.FocusedLink(), 1) << "without a further link the last one keeps the focus";
   pane.FocusNextLink(true);
   EXPECT_EQ(pane.FocusedLink(), 0);
   EXPECT_FALSE(pane.HasNextLink(true));
@@ -192,16 +192,16 @@ TEST_F(HelpPane, TabGoesThroughTheLinksAndThenLeaves) {
   EXPECT_EQ(pane.FocusedLink(), 0);
 }
 
-TEST_F(HelpPane, FirstTabTakesTheNearestLinkFromTheViewOnAndScrollsToIt) {
+TEST_F(HelpPane, FirstTabTakesTheFirstLinkFromTheViewOnAndScrollsToIt) {
   TopicPane& pane = Open("7");
   EXPECT_TRUE(pane.HasNextLink(false));
-  EXPECT_FALSE(pane.HasNextLink(true)) << "there is none in view or above";
+  EXPECT_FALSE(pane.HasNextLink(true)) << "no link is in view or above";
   pane.FocusNextLink(false);
   EXPECT_EQ(pane.FocusedLink(), 0);
   EXPECT_EQ(pane.ScrollPosition(), Bottom());
 }
 
-TEST_F(HelpPane, LinkThatEndsWhereTheViewBeginsOrBeginsWhereItEndsIsNotInView) {
+TEST_F(HelpPane, LinkThatOnlyTouchesTheViewIsNotInView) {
   constexpr int kHeightPx = 20;
   const std::vector<help_viewer::LinkTarget> links = Open("0").TheLayout().links;
   ASSERT_EQ(links.size(), 2U);
@@ -232,7 +232,7 @@ TEST_F(HelpPane, EnterFollowsTheLinkWithTheKeyboard) {
   EXPECT_EQ(pane.FocusedLink(), -1);
 }
 
-TEST_F(HelpPane, LinkIsFoundUnderThePointerAlsoWhenScrolled) {
+TEST_F(HelpPane, LinkUnderThePointerIsFoundAlsoWhenScrolled) {
   TopicPane& pane = Open("7");
   pane.ScrollBy(Scroll::kBottom);
   const auto& pieces = pane.TheLayout().pieces;
@@ -250,7 +250,7 @@ TEST_F(HelpPane, LinkIsFoundUnderThePointerAlsoWhenScrolled) {
   EXPECT_EQ(rig.Title(), "Welcome");
 }
 
-TEST_F(HelpPane, FollowingALinkThatIsNotThereOrWithoutAWindowDoesNothing) {
+TEST_F(HelpPane, FollowingAMissingLinkOrWithoutAWindowDoesNothing) {
   TopicPane& pane = Open("0");
   pane.Follow(2);
   pane.Follow(-1);
@@ -273,7 +273,7 @@ TEST_F(HelpPane, MarkedPlacesComeInOrderAndIntoView) {
   EXPECT_GE(line->top, pane.ScrollPosition());
   EXPECT_LE(line->top + line->height, pane.ScrollPosition() + 200);
   for (int i = 0; i < 10; ++i) pane.MarkNext();
-  EXPECT_EQ(pane.Marked()->block, 1U) << "after the last one the first";
+  EXPECT_EQ(pane.Marked()->block, 1U) << "the first follows the last";
   EXPECT_LE(pane.ScrollPosition(), lines[1].top);
   pane.Mark("nowhere");
   EXPECT_EQ(pane.Marked(), nullptr);
@@ -281,7 +281,7 @@ TEST_F(HelpPane, MarkedPlacesComeInOrderAndIntoView) {
   EXPECT_EQ(pane.Marked(), nullptr);
 }
 
-TEST_F(HelpPane, MarkedPlaceIsLookedForInThePieceThatHasIt) {
+TEST_F(HelpPane, MarkedPlaceIsFoundInThePieceThatContainsIt) {
   constexpr int kLetterPx = 8;
   HelpRig broken_word("@3\tOne\nPabcdefgh\n");
   broken_word.Start("3");
@@ -292,7 +292,7 @@ TEST_F(HelpPane, MarkedPlaceIsLookedForInThePieceThatHasIt) {
   });
   ASSERT_NE(second, pieces.end());
   broken_word.Pane().Mark("ef");
-  // With a line above it.
+  // With one line above it.
   EXPECT_EQ(broken_word.Pane().ScrollPosition(), second->top - 16)
       << "and not the piece that ends where the word begins";
 }

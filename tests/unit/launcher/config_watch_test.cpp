@@ -1,4 +1,4 @@
-// The editor of the program list: opened once, and watched until it closes.
+// The editor of the program list: started once, and watched until it closes.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -74,7 +74,7 @@ TEST_F(ConfigWatchTest, EditorOpenedByTheUserIsBroughtForwardAndNotWatched) {
   EXPECT_FALSE(Timer7().Enabled());
 }
 
-TEST_F(ConfigWatchTest, ListIsReadAnewWithTheFirstTickAfterTheEditorHasClosed) {
+TEST_F(ConfigWatchTest, ListIsReadAgainAtTheFirstTickAfterTheEditorClosed) {
   PressConfigure();
   const os::WindowHandle editor = rig.machine.OpenWindow("Any", "Config Launcher");
   rig.AdvanceMs(10 * kTickMs);
@@ -100,7 +100,7 @@ TEST_F(ConfigWatchTest, EditorHasThreeTicksToOpenItsWindow) {
   EXPECT_FALSE(Timer7().Enabled());
 }
 
-TEST_F(ConfigWatchTest, WatchGivesUpWithTick251) {
+TEST_F(ConfigWatchTest, WatchGivesUpAtTick251) {
   PressConfigure();
   rig.machine.OpenWindow("Any", "Config Launcher");
   rig.AdvanceMs(250 * kTickMs);
@@ -110,7 +110,7 @@ TEST_F(ConfigWatchTest, WatchGivesUpWithTick251) {
   EXPECT_THAT(Listed(), ElementsAre("Old"));
 }
 
-TEST_F(ConfigWatchTest, TickThatGivesUpStillLooks) {
+TEST_F(ConfigWatchTest, TickThatGivesUpStillChecks) {
   PressConfigure();
   const os::WindowHandle editor = rig.machine.OpenWindow("Any", "Config Launcher");
   rig.AdvanceMs(250 * kTickMs);
@@ -120,7 +120,7 @@ TEST_F(ConfigWatchTest, TickThatGivesUpStillLooks) {
   EXPECT_THAT(Listed(), ElementsAre("New"));
 }
 
-TEST_F(ConfigWatchTest, CountBeginsAnewWithEachStart) {
+TEST_F(ConfigWatchTest, CountStartsAgainWithEachStart) {
   PressConfigure();
   rig.AdvanceMs(4 * kTickMs);
   PressConfigure();
@@ -139,7 +139,7 @@ TEST_F(ConfigWatchTest, EmptiedListDisablesTheMenuAndKeepsItsLastEntry) {
   EXPECT_EQ(InMenu().size(), 1U);
 }
 
-TEST_F(ConfigWatchTest, ShorterListHidesTheEntriesBehindIt) {
+TEST_F(ConfigWatchTest, ShorterListHidesTheRemainingEntries) {
   WriteList({"1", "2", "3"});
   PressConfigure();
   rig.AdvanceMs(4 * kTickMs);
@@ -150,7 +150,7 @@ TEST_F(ConfigWatchTest, ShorterListHidesTheEntriesBehindIt) {
   EXPECT_THAT(InMenu(), ElementsAre("4"));
 }
 
-TEST_F(ConfigWatchTest, RefusedListIsKeptAndReadWithTheNextTick) {
+TEST_F(ConfigWatchTest, UnreadableListIsKeptAndReadAtTheNextTick) {
   for (const char* const refused : {"CreateFileA", "ReadFile", "GetFileSize"}) {
     WriteList({"Old"});
     PressConfigure();
@@ -173,7 +173,7 @@ TEST_F(ConfigWatchTest, RefusedListIsKeptAndReadWithTheNextTick) {
   EXPECT_EQ(rig.machine.OpenFileCount(), 0);
 }
 
-TEST_F(ConfigWatchTest, RefusedListIsTriedUntilTheWatchGivesUp) {
+TEST_F(ConfigWatchTest, UnreadableListIsRetriedUntilTheWatchGivesUp) {
   PressConfigure();
   const os::WindowHandle editor = rig.machine.OpenWindow("Any", "Config Launcher");
   rig.AdvanceMs(249 * kTickMs);
@@ -215,7 +215,7 @@ TEST_F(ConfigWatchTest, MissingEditorIsARunTimeError) {
   EXPECT_TRUE(rig.program->Window().Unloaded());
 }
 
-TEST_F(ConfigWatchTest, FolderThatIsARootGetsNoSecondSeparator) {
+TEST_F(ConfigWatchTest, RootFolderGetsNoSecondSeparator) {
   rig.machine.SetModuleFileName("A:\\QDIX.exe");
   rig.machine.AddProgram("A:\\configL.exe");
   PressConfigure();

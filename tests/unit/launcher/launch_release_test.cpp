@@ -1,4 +1,4 @@
-// The release before a launch: its share, its passes, its settings and its failures.
+// The release before a launch: its share, passes, settings and failures.
 #include <gtest/gtest.h>
 
 #include "launcher/launcher_file.h"
@@ -11,7 +11,7 @@ namespace {
 constexpr const char* kListPath = "C:\\Program Files\\QDIX\\launcher.dat";
 constexpr int kPumpsOfAPass = 2 * memory::MemoryRelease::kPumpsPerPhase;
 
-/// A machine of this memory, in megabytes of 1,024,000 bytes, with one program in the list.
+/// A machine with this much memory, in megabytes of 1,024,000 bytes, and one program in the list.
 class LaunchRig : public TuningRig {
  public:
   explicit LaunchRig(double ram_mb = 64) : TuningRig(ram_mb) {
@@ -20,7 +20,7 @@ class LaunchRig : public TuningRig {
   }
   screens::LauncherScreen& Tab() { return program->Launcher(); }
   void StartLauncher() { StartAt(screens::kLauncherTab); }
-  /// Starts the program of the list, with the graph away: pumps are many.
+  /// Starts the program in the list, without the graph, because there are many pumps.
   void Launch() {
     TakeGraphAway();
     Tab().List5.DoubleClick(0);
@@ -35,7 +35,7 @@ struct Share {
 
 class LaunchShare : public testing::TestWithParam<Share> {};
 
-TEST_P(LaunchShare, IsTakenOfTheMemoryUpTo250) {
+TEST_P(LaunchShare, IsAShareOfTheMemoryUpTo250) {
   LaunchRig rig(GetParam().ram_mb);
   rig.Store("Settings", "Launcher RAM", GetParam().stored);
   rig.StartLauncher();
@@ -129,7 +129,7 @@ TEST(LaunchSettings, TextsOfTheTab) {
   EXPECT_EQ(rig.Tab().List5.ToolTip(), "Double click a program to launch");
 }
 
-TEST(LaunchRelease, AmountWithoutAShareStaysWhatThePassBeforeTook) {
+TEST(LaunchRelease, AmountWithoutAShareStaysThatOfThePreviousPass) {
   LaunchRig rig;
   rig.Store("Settings", "Launcher Retry", "2");
   rig.StartLauncher();
@@ -140,7 +140,7 @@ TEST(LaunchRelease, AmountWithoutAShareStaysWhatThePassBeforeTook) {
   EXPECT_EQ(rig.machine.AllAllocations(), (std::vector<std::uint32_t>(2, 21 * 1040000 + 1)));
 }
 
-TEST(LaunchRelease, LackOfMemoryIsToldEndsThePassesAndTheProgramStarts) {
+TEST(LaunchRelease, LackOfMemoryIsReportedEndsThePassesAndTheProgramStarts) {
   LaunchRig rig;
   rig.Store("Settings", "Launcher Retry", "3");
   rig.StartLauncher();
@@ -163,8 +163,8 @@ TEST(LaunchRelease, WarningIsSilencedByTheResourcesBox) {
   EXPECT_EQ(rig.machine.StartedPrograms(), std::vector<std::string>{"calc"});
 }
 
-// Totals of 2 GB and more read negative, and no block can have a negative size.
-TEST(LaunchRelease, NegativeMemoryIsToldByItsOwnError) {
+// Totals of 2 GB and more read as negative, and no block can have a negative size.
+TEST(LaunchRelease, NegativeMemoryIsReportedByItsOwnError) {
   LaunchRig rig;
   rig.StartLauncher();
   rig.machine.SetMemory(0xF0000000U, 0x10000000U, 0xF0000000U, 0x10000000U);

@@ -1,5 +1,5 @@
-// Every call of the system that can fail is failed once, and from then on, while programs are started from
-// the tab and from the menu and the list is changed in the editor.
+// Starts programs from the tab and from the menu and changes the list in the editor, for every system call
+// that can fail: with that call failing once, and with all calls failing from then on.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -14,7 +14,7 @@ namespace {
 constexpr const char* kListPath = "C:\\Program Files\\QDIX\\launcher.dat";
 constexpr std::int64_t kFourTicksMs = 12000;
 
-/// Beginnings of every box that the session may show. The last one ends the program: the editor is missing.
+/// How every box begins that the session may show. The last one ends the program: the editor is missing.
 constexpr std::array<const char*, 7> kKnownBoxes{"The Automatic free up function",
                                                  "File not found",
                                                  "Path not found",
@@ -73,7 +73,7 @@ void ExpectSoundEnd(ProgramRig& rig, int call) {
   }
 }
 
-/// Runs the session once for each call of the sound one, with the fault that `plan` sets up.
+/// Runs the session once for each call of the fault-free session, with the fault that `plan` sets up.
 template <class Plan>
 void RunWithFaults(const Plan& plan) {
   ProgramRig sound;
@@ -90,11 +90,11 @@ void RunWithFaults(const Plan& plan) {
   }
 }
 
-TEST(LauncherFaults, EachCallFailedOnceLeavesTheListAndEveryHandleInOrder) {
+TEST(LauncherFaults, EachCallFailedOnceKeepsTheListAndLeaksNoHandle) {
   RunWithFaults([](os::SimulatedMachine& machine, int call) { machine.FailCallNumber(call); });
 }
 
-TEST(LauncherFaults, EachCallFailedFromThenOnLeavesTheListAndEveryHandleInOrder) {
+TEST(LauncherFaults, AllCallsFailedFromEachOnKeepTheListAndLeakNoHandle) {
   RunWithFaults([](os::SimulatedMachine& machine, int call) { machine.FailFromCallNumber(call); });
 }
 

@@ -29,7 +29,7 @@ TEST(LauncherFile, RecordIsThreeFieldsFilledWithBlanks) {
   EXPECT_EQ(RecordBytes({}), Blanks(565));
 }
 
-TEST(LauncherFile, FieldsOfFullWidthTouchAndLongerOnesAreCut) {
+TEST(LauncherFile, FieldsOfFullWidthAreAdjacentAndLongerOnesAreCut) {
   const std::string full =
       std::string(55, 'n') + std::string(255, 'p') + std::string(254, 's') + std::string(1, 'e');
   EXPECT_EQ(RecordBytes({std::string(55, 'n'), std::string(255, 'p'), std::string(254, 's') + "e"}), full);
@@ -42,7 +42,7 @@ TEST(LauncherFile, FieldsOfFullWidthTouchAndLongerOnesAreCut) {
   EXPECT_EQ(entry.start_in, std::string(254, 's') + "e");
 }
 
-TEST(LauncherFile, BlanksGoAtTheEndsAndStayInside) {
+TEST(LauncherFile, BlanksAreTrimmedAtTheEndsAndKeptInside) {
   const LauncherEntry entry =
       ReadRecord(RecordBytes({"  two  words ", " \"C:\\My Games\\A B.EXE\" /x ", "   "}), 0);
   EXPECT_EQ(entry, (LauncherEntry{"two  words", "\"C:\\My Games\\A B.EXE\" /x", ""}));
@@ -53,14 +53,14 @@ TEST(LauncherFile, OtherWhiteSpaceAndNulsStay) {
   EXPECT_EQ(ReadRecord(RecordBytes(odd), 0), odd);
 }
 
-TEST(LauncherFile, EveryByteOfTheCodePageComesBack) {
+TEST(LauncherFile, EveryByteOfTheCodePageSurvives) {
   std::string bytes;
   for (int byte = 255; byte >= 1; --byte) bytes += static_cast<char>(byte);
   const LauncherEntry entry{"\xC4\xD6\xDC \xE4\xF6\xFC\xDF", bytes, "C:\\\xE9t\xE9"};
   EXPECT_EQ(ReadRecord(RecordBytes(entry), 0), entry);
 }
 
-TEST(LauncherFile, ListsOfManyLengthsComeBackInOrder) {
+TEST(LauncherFile, ListsOfManyLengthsAreReadBackInOrder) {
   for (const std::size_t count : {0U, 1U, 25U, 26U, 27U}) {
     const std::vector<LauncherEntry> entries = ReadRecords(Records(count));
     ASSERT_EQ(entries.size(), count);
@@ -73,7 +73,7 @@ TEST(LauncherFile, ListsOfManyLengthsComeBackInOrder) {
   }
 }
 
-TEST(LauncherFile, BrokenRecordCountsFromItsHalfOn) {
+TEST(LauncherFile, PartialRecordCountsFromHalfItsLength) {
   EXPECT_EQ(RecordCount(0), 0U);
   EXPECT_EQ(RecordCount(1), 0U);
   EXPECT_EQ(RecordCount(282), 0U);
@@ -87,7 +87,7 @@ TEST(LauncherFile, BrokenRecordCountsFromItsHalfOn) {
   EXPECT_EQ(RecordCount(14125 + 283), 26U);
 }
 
-TEST(LauncherFile, FieldsBehindTheEndReadAsBlanks) {
+TEST(LauncherFile, FieldsBeyondTheEndReadAsBlanks) {
   const std::string content = Records(2).substr(0, 848);
   const std::vector<LauncherEntry> entries = ReadRecords(content);
   ASSERT_EQ(entries.size(), 2U);
@@ -111,7 +111,7 @@ TEST(LauncherFile, WholeFileIsReadAndClosed) {
   EXPECT_EQ(machine.OpenFileCount(), 0);
 }
 
-TEST(LauncherFile, FailuresGiveNothingAndLeaveNothingOpen) {
+TEST(LauncherFile, FailuresReturnNothingAndLeaveNothingOpen) {
   for (const char* const call : {"CreateFileA", "GetFileSize", "ReadFile"}) {
     os::SimulatedMachine machine;
     machine.WriteFile("C:\\launcher.dat", Records(2));

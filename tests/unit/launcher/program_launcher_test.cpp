@@ -71,7 +71,7 @@ class Launcher : public testing::Test {
     for (const auto& box : rig.machine.Boxes()) texts.push_back(box.text);
     return texts;
   }
-  /// What was asked of the system to change folder and start programs.
+  /// Returns the calls that change the folder and start programs.
   std::vector<std::string> Starts() {
     std::vector<std::string> calls;
     for (std::size_t i = calls_before_; i < rig.machine.Calls().size(); ++i) {
@@ -88,7 +88,7 @@ class Launcher : public testing::Test {
   std::size_t calls_before_ = 0;
 };
 
-TEST_F(Launcher, WithoutAListEverythingIsEmptyAndAnEmptyListIsLeft) {
+TEST_F(Launcher, MissingListShowsNothingAndIsCreatedEmpty) {
   Start();
   EXPECT_THAT(Listed(), IsEmpty());
   EXPECT_FALSE(Menu().mnuPrograms.Enabled());
@@ -153,7 +153,7 @@ TEST_F(Launcher, TwentySixthProgramEndsTheProgramAndLeavesTheListAsItIs) {
   }
 }
 
-TEST_F(Launcher, FieldsLoseTheirBlanksAndEndAtTheFirstNul) {
+TEST_F(Launcher, FieldsAreTrimmedAndEndAtTheFirstNul) {
   StartWith({{"  Two words ", "calc", ""}, {std::string("Cut\0off", 7), std::string("game1\0x", 7), ""}});
   EXPECT_THAT(Listed(), ElementsAre("Two words", "Cut"));
   EXPECT_THAT(InMenu(), ElementsAre("Two words", "Cut"));
@@ -167,7 +167,7 @@ TEST_F(Launcher, HighCharactersAndAmpersandsShowAsTheyAre) {
   EXPECT_THAT(InMenu(), ElementsAre("R&D \xC4\xD6\xDC"));
 }
 
-TEST_F(Launcher, ListThatCannotBeMadeCountsAsEmptyWithoutAWord) {
+TEST_F(Launcher, ListThatCannotBeCreatedCountsAsEmptySilently) {
   rig.machine.ProtectDisk();
   Start();
   EXPECT_THAT(Listed(), IsEmpty());
@@ -196,7 +196,7 @@ TEST_F(Launcher, ProgramWithoutAFolderStartsInTheCurrentOne) {
   EXPECT_THAT(Starts(), ElementsAre("CreateProcessA(calc)"));
 }
 
-TEST_F(Launcher, FolderOfTheLastProgramStaysTheCurrentOne) {
+TEST_F(Launcher, FolderOfTheLastProgramRemainsCurrent) {
   StartWith({{"Game", "game1", "D:\\GAMES"}, {"Calculator", "calc", ""}});
   Tab().List5.DoubleClick(0);
   Tab().List5.DoubleClick(1);
@@ -219,7 +219,7 @@ TEST_F(Launcher, DoubleClickOnTheEmptyPartDoesNothing) {
   EXPECT_EQ(rig.machine.PumpCount(), 0);
 }
 
-TEST_F(Launcher, LabelShowsAndListRestsWhileMemoryIsFreed) {
+TEST_F(Launcher, LabelIsShownAndListIsDisabledWhileMemoryIsFreed) {
   StartWith({{"Calculator", "calc", ""}});
   bool seen = false;
   rig.machine.OnPump([&](int) {
@@ -274,7 +274,7 @@ TEST_F(Launcher, DrivesAreTheLettersFromAToZInEitherCase) {
                                         "SetCurrentDirectoryA(a:)", "SetCurrentDirectoryA(z:)"));
 }
 
-TEST_F(Launcher, MissingDriveIsToldAndTheRestGoesOn) {
+TEST_F(Launcher, MissingDriveIsReportedAndTheLaunchContinues) {
   StartWith({{"Calculator", "calc", "X:\\GAMES"}});
   Tab().List5.DoubleClick(0);
   EXPECT_THAT(Boxes(), ElementsAre("Device unavailable", "Path not found"));
@@ -283,7 +283,7 @@ TEST_F(Launcher, MissingDriveIsToldAndTheRestGoesOn) {
   EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("calc"));
 }
 
-TEST_F(Launcher, ProgramOnADriveWithoutADiskIsToldAfterItsFolder) {
+TEST_F(Launcher, ProgramOnADriveWithoutADiskIsReportedAfterItsFolder) {
   rig.machine.AddFolder("E:");
   rig.machine.AddFolder("E:\\");
   rig.machine.AddProgram("E:\\SETUP.EXE");
@@ -299,34 +299,34 @@ TEST_F(Launcher, ProgramOnADriveWithoutADiskIsToldAfterItsFolder) {
   EXPECT_EQ(rig.machine.StartedPrograms().size(), 1U);
 }
 
-TEST_F(Launcher, MissingFolderIsToldAndTheRestGoesOn) {
+TEST_F(Launcher, MissingFolderIsReportedAndTheLaunchContinues) {
   StartWith({{"Calculator", "calc", "D:\\NOWHERE"}});
   Tab().List5.DoubleClick(0);
   EXPECT_THAT(Boxes(), ElementsAre("Path not found"));
   EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("calc"));
 }
 
-TEST_F(Launcher, FolderWithoutADriveIsToldAndTheRestGoesOn) {
+TEST_F(Launcher, FolderWithoutADriveIsReportedAndTheLaunchContinues) {
   StartWith({{"Calculator", "calc", "\\\\server\\share"}});
   Tab().List5.DoubleClick(0);
   EXPECT_THAT(Boxes(), ElementsAre("Invalid procedure call or argument", "Path not found"));
   EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("calc"));
 }
 
-TEST_F(Launcher, MissingProgramIsTold) {
+TEST_F(Launcher, MissingProgramIsReported) {
   StartWith({{"Gone", "nothing.exe", ""}});
   Tab().List5.DoubleClick(0);
   EXPECT_THAT(Boxes(), ElementsAre("File not found"));
   EXPECT_FALSE(rig.program->Window().Unloaded());
 }
 
-TEST_F(Launcher, EmptyCommandLineIsTold) {
+TEST_F(Launcher, EmptyCommandLineIsReported) {
   StartWith({{"Empty", "", ""}});
   Menu().mnuProgram[0].Choose();
   EXPECT_THAT(Boxes(), ElementsAre("Invalid procedure call or argument"));
 }
 
-TEST_F(Launcher, ProgramThatWasChosenStartsAlsoWhenTheListIsReadAnewMeanwhile) {
+TEST_F(Launcher, ChosenProgramStartsEvenIfTheListIsReadAgainDuringTheRelease) {
   StartWith({{"First", "game1", ""}});
   rig.machine.OnPump([&](int number) {
     if (number != 1) return;
@@ -339,7 +339,7 @@ TEST_F(Launcher, ProgramThatWasChosenStartsAlsoWhenTheListIsReadAnewMeanwhile) {
               ElementsAre("\"C:\\Program Files\\QDIX\\configL.exe\"", "game1"));
 }
 
-TEST_F(Launcher, ClosingTheWindowMeanwhileStartsNothing) {
+TEST_F(Launcher, ClosingTheWindowDuringTheReleaseStartsNothing) {
   StartWith({{"Calculator", "calc", "D:\\GAMES"}});
   rig.machine.OnPump([&](int number) {
     if (number == 10) rig.program->Window().Unload();
@@ -349,7 +349,7 @@ TEST_F(Launcher, ClosingTheWindowMeanwhileStartsNothing) {
   EXPECT_TRUE(rig.machine.OutstandingBlocks().empty());
 }
 
-TEST_F(Launcher, SessionThatEndsInABoxStartsNothingMore) {
+TEST_F(Launcher, EndOfTheSessionDuringABoxStartsNothingMore) {
   StartWith({{"Calculator", "calc", "X:\\"}});
   rig.machine.WhileBoxIsOpen([&] {
     rig.program->EndSession();

@@ -1,4 +1,5 @@
-// The list of programs read again while the program runs: the settings with it, and not under a launch.
+// The list of programs is read again while the program runs, and its settings with it, but not during a
+// launch.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,7 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// Ticks of three seconds until the watch looks for the editor for the first time.
+/// Ticks of three seconds until the watch first looks for the editor.
 constexpr std::int64_t kUntilReloadMs = 4 * 3000;
 
 class LauncherReload : public testing::Test {
@@ -37,7 +38,7 @@ class LauncherReload : public testing::Test {
       listed_in_pump = rig.program->Launcher().List5.Item(0);
     });
   }
-  /// What was asked of the system from here on to change folder and start a program.
+  /// Returns the calls from `first_call` on that change the folder and start a program.
   [[nodiscard]] std::vector<std::string> Starts(std::size_t first_call) const {
     std::vector<std::string> calls;
     for (std::size_t i = first_call; i < rig.machine.Calls().size(); ++i) {
@@ -62,7 +63,7 @@ TEST_F(LauncherReload, ReadsTheSettingsOfTheReleaseAgain) {
   EXPECT_TRUE(rig.program->Launcher().Slider_6[3].Selected());
 }
 
-TEST_F(LauncherReload, ProgramOfTheListKeepsItsPathAndFolderUnderItsRelease) {
+TEST_F(LauncherReload, ProgramOfTheListKeepsItsPathAndFolderDuringItsRelease) {
   ReloadAtTheFirstPump();
   const std::size_t before = rig.machine.Calls().size();
   rig.program->Launcher().List5.DoubleClick(0);
@@ -71,7 +72,7 @@ TEST_F(LauncherReload, ProgramOfTheListKeepsItsPathAndFolderUnderItsRelease) {
                                           "CreateProcessA(game1)"));
 }
 
-TEST_F(LauncherReload, ProgramOfTheMenuKeepsItsPathAndFolderUnderItsRelease) {
+TEST_F(LauncherReload, ProgramOfTheMenuKeepsItsPathAndFolderDuringItsRelease) {
   ReloadAtTheFirstPump();
   const std::size_t before = rig.machine.Calls().size();
   rig.program->TheTrayMenu().mnuProgram[0].Choose();

@@ -1,4 +1,4 @@
-// The automatic release: when it looks, when it acts, what it counts.
+// The automatic release: when it checks, when it acts, what it counts.
 #include <gtest/gtest.h>
 
 #include "tests/support/program_rig.h"
@@ -14,7 +14,7 @@ using Sizes = std::vector<std::uint32_t>;
 
 class AutomaticRelease : public testing::Test {
  protected:
-  /// Looks every 20 seconds, acts below 8 MB, frees 24 MB. The start-up release is out of the way.
+  /// Checks every 20 seconds, acts below 8 MB, frees 24 MB. The start-up release is disabled.
   AutomaticRelease() {
     rig.SetHasRunBefore();
     rig.Store("Settings", "AutoActive", "1");
@@ -28,7 +28,7 @@ class AutomaticRelease : public testing::Test {
   [[nodiscard]] const Sizes& Allocations() const { return rig.machine.AllAllocations(); }
   [[nodiscard]] std::string Count() const { return rig.Stored("Settings", "CounterValue").value_or("none"); }
   [[nodiscard]] const std::string& CounterText() { return rig.program->Automatic().lblCounter.Caption(); }
-  /// Ticks of the check timer, without the display's thousands of refreshes between them.
+  /// Runs ticks of the check timer, without the thousands of display refreshes between them.
   void RunChecks(int ticks) {
     rig.program->MainWindow().Timer1.SetEnabled(false);
     rig.AdvanceMs(ticks * rig.program->MainWindow().Timer2.Interval());
@@ -72,7 +72,7 @@ TEST_F(AutomaticRelease, ThresholdIsTheLeadingNumberOfItsText) {
   EXPECT_EQ(Count(), "1");
 }
 
-TEST_F(AutomaticRelease, UntickedNeverLooks) {
+TEST_F(AutomaticRelease, UntickedNeverChecks) {
   rig.Store("Settings", "AutoActive", "0");
   rig.Start();
   rig.AdvanceMs(10 * kMinuteMs);
@@ -95,7 +95,7 @@ TEST_F(AutomaticGate, AverageOfExactlyTheLimitSkipsTheRelease) {
   ASSERT_EQ(rig.program->Cpu().AverageCpuUsage(), 80);
   EXPECT_EQ(Allocations(), Sizes{});
   EXPECT_EQ(Count(), "none") << "nothing is counted";
-  EXPECT_LT(rig.NewestBarPx(), kFullBarPx) << "no spike";
+  EXPECT_LT(rig.NewestBarPx(), kFullBarPx) << "there is no spike";
 }
 
 TEST_F(AutomaticGate, AverageBelowTheLimitLetsItRun) {
@@ -104,7 +104,7 @@ TEST_F(AutomaticGate, AverageBelowTheLimitLetsItRun) {
   EXPECT_EQ(Count(), "1");
 }
 
-TEST_F(AutomaticGate, StoredLimitCountsAndNotTheOneBeingTyped) {
+TEST_F(AutomaticGate, StoredLimitCountsNotTheOneBeingTyped) {
   StartWithLoad(79);
   rig.program->Automatic().Text9.SetText("5");
   rig.AdvanceMs(20000);
@@ -149,10 +149,10 @@ TEST_F(AutomaticRelease, TicksWhileTheCompanionWorksAreNotCounted) {
   EXPECT_EQ(Count(), "none");
   rig.machine.CloseWindow(companion);
   RunChecks(1);
-  EXPECT_EQ(Count(), "1") << "the one tick before still counts";
+  EXPECT_EQ(Count(), "1") << "the one earlier tick still counts";
 }
 
-TEST_F(AutomaticRelease, CompanionThatOnlyStandsThereDisturbsNothing) {
+TEST_F(AutomaticRelease, IdleCompanionDisturbsNothing) {
   rig.Start();
   rig.machine.OpenWindow("ThunderRT6Main", "Kestrin Launcher");
   rig.machine.OpenWindow("ThunderRT6Form", "Kestrin Launcher (Working)");
@@ -168,7 +168,7 @@ TEST_P(ReleaseEndedInABox, NeitherCountsNorTakesMemoryAgain) {
   rig.machine.OnPump([this](int pump) {
     if (pump != 8000) return;
     rig.machine.SetMemory(64 * kMegabyte, static_cast<std::uint32_t>(GetParam() * 1024000), 0x7FFFFFFFU,
-                          0xFFFFFFFEU);  // the question before the second attempt reports an error
+                          0xFFFFFFFEU);  // the check before the second attempt reports an error
   });
   rig.machine.WhileBoxIsOpen([this] { rig.program->EndSession(); });
   RunChecks(1);
@@ -181,7 +181,7 @@ TEST_P(ReleaseEndedInABox, NeitherCountsNorTakesMemoryAgain) {
 
 INSTANTIATE_TEST_SUITE_P(AvailableMb, ReleaseEndedInABox, testing::Values(5, 24.01));
 
-TEST_F(AutomaticRelease, EveryAttemptLooksAfreshAndStopsWhenEnoughIsFree) {
+TEST_F(AutomaticRelease, EveryAttemptChecksAgainAndStopsWhenEnoughIsFree) {
   rig.Store("Settings", "TryTimes", "3");
   rig.Start();
   rig.machine.OnPump([this](int pump) {
@@ -189,10 +189,10 @@ TEST_F(AutomaticRelease, EveryAttemptLooksAfreshAndStopsWhenEnoughIsFree) {
   });
   RunChecks(1);
   EXPECT_EQ(Allocations(), (Sizes{kBytesOf24Mb, kBytesOf24Mb}));
-  EXPECT_EQ(Count(), "1") << "one release, however many attempts";
+  EXPECT_EQ(Count(), "1") << "any number of attempts counts as one release";
 }
 
-TEST_F(AutomaticRelease, AmountIsReadAfreshAtEveryAttempt) {
+TEST_F(AutomaticRelease, AmountIsReadAgainAtEveryAttempt) {
   rig.Store("Settings", "TryTimes", "2");
   rig.Start();
   rig.machine.OnPump([this](int pump) {
@@ -260,7 +260,7 @@ TEST_F(AutomaticRelease, CloseInTheMiddleCountsNothingAndKeepsNoBlock) {
   EXPECT_LE(rig.machine.PumpCount(), 100);
 }
 
-TEST_F(AutomaticRelease, ChecksThatFallDueInsideAReleaseAreLost) {
+TEST_F(AutomaticRelease, ChecksDueDuringAReleaseAreLost) {
   rig.Start();
   rig.machine.OnPump([this](int pump) {
     if (pump == 1) rig.AdvanceMs(5 * 20000);
@@ -269,7 +269,7 @@ TEST_F(AutomaticRelease, ChecksThatFallDueInsideAReleaseAreLost) {
   EXPECT_EQ(Count(), "1");
 }
 
-TEST_F(AutomaticRelease, TwoTimersFireInsideARelease) {
+TEST_F(AutomaticRelease, TwoTimersFireDuringARelease) {
   rig.Store("Settings", "TimeActive", "1");
   rig.Store("Settings", "TimeQuondix", "40");
   rig.Store("Settings", "CPUTimeActive", "0");
@@ -281,14 +281,14 @@ TEST_F(AutomaticRelease, TwoTimersFireInsideARelease) {
     if (pump == 1) rig.AdvanceMs(5 * kMinuteMs);
   });
   rig.AdvanceMs(20000);
-  // The start-up release began and ended inside the automatic one, the timed one after it.
+  // The start-up release began and ended inside the automatic one, the timed one ended after it.
   EXPECT_EQ(Allocations(), (Sizes{kBytesOf24Mb, 16 * 1040000 + 1, 40 * 1040000 + 1}));
   EXPECT_EQ(Count(), "1");
   EXPECT_EQ(rig.machine.OutstandingBlocks(), Sizes{});
   EXPECT_EQ(rig.program->TimeIntervals().lblNextRelease.Caption(), "Next Release of RAM is due in 5 minutes");
 }
 
-TEST_F(AutomaticRelease, ShorterIntervalInTheMiddleOfACountLetsItPassItsMark) {
+TEST_F(AutomaticRelease, ShorterIntervalDuringACountLetsItPassItsEnd) {
   rig.Store("Settings", "AutoSecs", "300");
   rig.Start();
   RunChecks(3);
@@ -297,7 +297,7 @@ TEST_F(AutomaticRelease, ShorterIntervalInTheMiddleOfACountLetsItPassItsMark) {
   EXPECT_EQ(Count(), "none");
 }
 
-TEST_F(AutomaticRelease, CountThatPassedItsMarkOverflowsInTheEnd) {
+TEST_F(AutomaticRelease, CountThatPassedItsEndFinallyOverflows) {
   rig.Store("Settings", "AutoSecs", "300");
   rig.Start();
   RunChecks(3);
@@ -322,7 +322,7 @@ TEST_F(AutomaticRelease, CounterAtItsLimitOverflowsUntrapped) {
   EXPECT_EQ(Count(), "2147483647");
 }
 
-TEST_F(AutomaticRelease, PauseStopsItAndResumeStartsItWithAFreshInterval) {
+TEST_F(AutomaticRelease, PauseStopsItAndResumeStartsAFullInterval) {
   rig.Start();
   rig.AdvanceMs(15000);
   rig.program->Quondix().Command3.Press();
@@ -335,7 +335,7 @@ TEST_F(AutomaticRelease, PauseStopsItAndResumeStartsItWithAFreshInterval) {
   EXPECT_EQ(Count(), "1");
 }
 
-TEST_F(AutomaticRelease, ResetStartsTheCountAnewFromToday) {
+TEST_F(AutomaticRelease, ResetRestartsTheCountFromToday) {
   rig.Store("Settings", "CounterDate", "40000.25");
   rig.Store("Settings", "CounterValue", "41");
   rig.Start();

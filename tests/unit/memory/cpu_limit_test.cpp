@@ -1,5 +1,4 @@
-// The two fields for the limit of the processor load, under the hand: what they take, and when they let the
-// focus go.
+// The two fields for the limit of the processor load: what they accept, and when they let the focus go.
 #include <gtest/gtest.h>
 
 #include "tests/support/program_rig.h"
@@ -25,7 +24,7 @@ class CpuLimitField : public testing::TestWithParam<LimitField> {
     Box().SelectAll();
   }
   ui::TextBox& Box() { return GetParam().box(*rig.program); }
-  /// Sends the focus to another field of the tab.
+  /// Moves the focus to another field of the tab.
   void Leave() { GetParam().beside(*rig.program).SetFocus(); }
   [[nodiscard]] std::optional<std::string> Stored() const {
     return rig.Stored("Settings", GetParam().stored_key);
@@ -34,7 +33,7 @@ class CpuLimitField : public testing::TestWithParam<LimitField> {
   ProgramRig rig;
 };
 
-TEST_P(CpuLimitField, TakesDigitsAndBackspaceOnly) {
+TEST_P(CpuLimitField, AcceptsOnlyDigitsAndBackspace) {
   Box().TypeText("a6-.5x\b7");
   EXPECT_EQ(Box().Text(), "67");
 }
@@ -48,7 +47,7 @@ TEST_P(CpuLimitField, IsStoredWhenTheFocusLeavesIt) {
   EXPECT_TRUE(rig.machine.Boxes().empty());
 }
 
-TEST_P(CpuLimitField, KeepsTheFocusWithANumberThatIsNoLimit) {
+TEST_P(CpuLimitField, KeepsTheFocusOnAnInvalidLimit) {
   Box().TypeText("100");
   Leave();
   EXPECT_TRUE(Box().HasFocus());

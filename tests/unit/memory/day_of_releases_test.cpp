@@ -1,4 +1,4 @@
-// A whole day of automatic, timed, held back and paused operation, with the exact moment of every release.
+// A whole day of automatic, timed, delayed and paused operation, with the exact time of every release.
 #include <gtest/gtest.h>
 
 #include "tests/support/program_rig.h"
@@ -58,14 +58,14 @@ class DayOfReleases : public testing::Test {
   std::size_t noted = 0;
 };
 
-TEST_F(DayOfReleases, HappenAtTheirExactMoments) {
+TEST_F(DayOfReleases, HappenAtTheirExactTimes) {
   RunUntil(At(1, 59));
   rig.SetAvailableMb(5);
   RunUntil(At(2, 12));
   rig.SetAvailableMb(20);
   RunUntil(At(11, 55, 30));
   rig.machine.SetCpuLoad(100);
-  rig.SetAvailableMb(5);  // low memory on a busy machine: held back as well
+  rig.SetAvailableMb(5);  // low memory on a busy machine: also held back
   RunUntil(At(12, 3, 30));
   rig.machine.SetCpuLoad(10);
   rig.SetAvailableMb(20);
@@ -83,7 +83,7 @@ TEST_F(DayOfReleases, HappenAtTheirExactMoments) {
                           {At(2, 5), kAutomatic},
                           {At(2, 10), kAutomatic},
                           {At(6, 0), kTimed},
-                          // Eight minutes were not counted, the retry at 12:03:40 counted one of its own.
+                          // Eight minutes were not counted, and the retry at 12:03:40 counted one extra.
                           {At(12, 7), kTimed},
                           {At(18, 7), kTimed},
                       }));

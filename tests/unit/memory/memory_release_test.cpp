@@ -43,7 +43,7 @@ TEST_F(Release, OneBlockUpTo250Megabytes) {
   EXPECT_EQ(rig.machine.AllAllocations(), (Sizes{260000001}));
 }
 
-TEST_F(Release, SecondBlockTakesWhatIsAbove250Megabytes) {
+TEST_F(Release, SecondBlockTakesTheRestAbove250Megabytes) {
   (void)FreeUp(251, 1);
   EXPECT_EQ(rig.machine.AllAllocations(), (Sizes{260000001, 1040001}));
 }
@@ -98,7 +98,7 @@ TEST_P(PassCount, FollowsTheTextWithOneBarAndTheButtonDisabledAndEnabledAgain) {
   Button().AttachPeer(&peer);
   Press("12 MB", GetParam().text);
   EXPECT_EQ(rig.machine.AllAllocations().size(), GetParam().count);
-  EXPECT_EQ(rig.graph.CopyCount(), 1) << "one bar a release";
+  EXPECT_EQ(rig.graph.CopyCount(), 1) << "one bar per release";
   EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kEnabled, ui::Change::kEnabled}));
   EXPECT_TRUE(Button().Enabled());
 }
@@ -119,7 +119,7 @@ TEST_F(Release, PassCountIsReadOnceAndTheAmountAtEveryPass) {
   EXPECT_EQ(rig.machine.AllAllocations(), (Sizes{1040001, 2080001}));
 }
 
-TEST_F(Release, NothingSelectedTakesASingleByte) {
+TEST_F(Release, NoSelectionAllocatesASingleByte) {
   ASSERT_TRUE(rig.program->Quondix().List1.SetSelectedIndex(ui::ListControl::kNoSelection).Ok());
   rig.program->Quondix().Command1.Press();
   EXPECT_EQ(rig.machine.AllAllocations(), (Sizes{1}));
@@ -136,7 +136,7 @@ TEST_F(Release, OutOfMemoryOnTheSecondPassEndsTheRunWithOneWarning) {
   EXPECT_TRUE(Button().Enabled());
 }
 
-TEST_F(Release, ManualReleaseWarnsAlsoWithTheWarningSwitchedOff) {
+TEST_F(Release, ManualReleaseWarnsEvenWithTheWarningSwitchedOff) {
   rig.program->Startup().Check4.SetTicked(true);
   rig.machine.LimitAllocatableBytes(1000);
   Press("12 MB", "1");
@@ -144,7 +144,7 @@ TEST_F(Release, ManualReleaseWarnsAlsoWithTheWarningSwitchedOff) {
   EXPECT_EQ(rig.machine.Boxes()[0].text, kWarning);
 }
 
-TEST_F(Release, RefusedSecondBlockGivesTheFirstBackAfterTheBox) {
+TEST_F(Release, RefusedSecondBlockFreesTheFirstAfterTheBox) {
   rig.machine.LimitAllocatableBytes(260000001 + kMegabyte);
   bool box_seen = false;
   rig.machine.WhileBoxIsOpen([&] {
@@ -163,14 +163,14 @@ TEST_F(Release, NegativeAmountShowsTheErrorsDescription) {
   EXPECT_TRUE(rig.machine.AllAllocations().empty());
 }
 
-TEST_F(Release, AmountBeyond32BitsShowsOverflowAndGivesTheFirstBlockBack) {
+TEST_F(Release, AmountBeyond32BitsShowsOverflowAndFreesTheFirstBlock) {
   EXPECT_EQ(FreeUp(250 + 2147.483647 / 1.04 + 1, 1), memory::ReleaseOutcome::kFailed);
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "Overflow");
   EXPECT_TRUE(rig.machine.OutstandingBlocks().empty());
 }
 
-TEST_F(Release, LargestIndexOf32BitsStillAsksTheSystem) {
+TEST_F(Release, LargestIndexOf32BitsStillReachesTheSystem) {
   EXPECT_EQ(FreeUp(250 + 2147483647 / 1040000.0, 1), memory::ReleaseOutcome::kFinished);
   EXPECT_EQ(rig.machine.AllAllocations(), (Sizes{260000001, 2147483648U}));
 }
@@ -189,7 +189,7 @@ TEST_F(Release, SilencedWarningShowsNothing) {
   EXPECT_TRUE(rig.machine.Boxes().empty());
 }
 
-TEST_F(Release, TestBetweenPassesEndsTheReleaseBeforeThePass) {
+TEST_F(Release, CheckBetweenPassesEndsTheRelease) {
   amount_mb = 12;
   struct Question {
     std::vector<double> asked;
@@ -213,7 +213,7 @@ TEST_F(Release, ReleasesNestAndEachDisablesAndEnablesTheButton) {
   rig.machine.OnPump([&](int) {
     if (nested) return;
     nested = true;
-    // The tray menu calls the handler also while the button is disabled.
+    // The tray menu calls the handler even while the button is disabled.
     base::Ignore(Button().OnClick());
     enabled_after_nested.push_back(Button().Enabled());
   });
@@ -224,7 +224,7 @@ TEST_F(Release, ReleasesNestAndEachDisablesAndEnablesTheButton) {
   EXPECT_TRUE(rig.machine.OutstandingBlocks().empty());
 }
 
-TEST_F(Release, DisplayGoesOnBeingRefreshedDuringARelease) {
+TEST_F(Release, DisplayIsRefreshedDuringARelease) {
   rig.machine.SetMemory(64 * kMegabyte, 24012345, 1000, 1000);
   int pumps = 0;
   rig.machine.OnPump([&](int) {
@@ -236,7 +236,7 @@ TEST_F(Release, DisplayGoesOnBeingRefreshedDuringARelease) {
 
 class CloseInRelease : public Release, public testing::WithParamInterface<int> {};
 
-TEST_P(CloseInRelease, UnloadsOnceFreesTheBlocksAndDoesNothingMore) {
+TEST_P(CloseInRelease, UnloadsOnceFreesTheBlocksAndDoesNothingElse) {
   const int pumps_before = rig.machine.PumpCount();
   std::size_t calls_at_close = 0;
   rig.machine.OnPump([&](int number) {
@@ -283,7 +283,7 @@ TEST_F(Release, CloseWhileTheWarningIsOpenShowsNothingMore) {
   EXPECT_FALSE(Button().Enabled());
 }
 
-TEST_F(Release, AfterTheCloseNoPassBegins) {
+TEST_F(Release, NoPassBeginsAfterTheClose) {
   rig.program->Window().Unload();
   EXPECT_EQ(FreeUp(12, 1), memory::ReleaseOutcome::kUnloaded);
   EXPECT_EQ(FreeUp(12, 0), memory::ReleaseOutcome::kUnloaded);

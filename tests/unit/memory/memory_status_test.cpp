@@ -18,14 +18,14 @@ TEST(MemoryStatus, TotalIsCountedInMegabytesOf1024000BytesWithFractions) {
   EXPECT_EQ(rig.program->Monitor().TotalRamMb(), 66);  // 65.536 rounded
 }
 
-TEST(MemoryStatus, TotalOfTwoGigabytesAndMoreReadsNegative) {
+TEST(MemoryStatus, TotalOfTwoGigabytesOrMoreReadsNegative) {
   ProgramRig rig(64 * kMegabyte);
   rig.machine.SetMemory(0x80000000U, 1000, 1000, 1000);
   EXPECT_DOUBLE_EQ(rig.Start().Monitor().TotalRAM(), -2147483648.0 / 1.024 / 1000000);
   EXPECT_EQ(rig.program->Monitor().TotalRamMb(), -2097);
 }
 
-TEST(MemoryStatus, SwapFileTotalIsDividedOnceMoreBy1024) {
+TEST(MemoryStatus, SwapFileTotalIsDividedAgainBy1024) {
   ProgramRig rig;
   rig.machine.SetMemory(64 * kMegabyte, 32 * kMegabyte, 200 * kMegabyte, 100 * kMegabyte);
   EXPECT_DOUBLE_EQ(rig.Start().Monitor().TotalSwapFile(), 200.0 * kMegabyte / 1.024 / 1000000 / 1024);
@@ -39,7 +39,7 @@ TEST(MemoryStatus, TotalsAreShownOnceAtLoad) {
   EXPECT_EQ(screen.lblSwapfile.Caption(), "Virtual Memory (Swapfile) :  1,500 MB");
 }
 
-TEST(MemoryStatus, TotalsOfNothingShowNoNumber) {
+TEST(MemoryStatus, ZeroTotalsShowNoNumber) {
   ProgramRig rig;
   rig.machine.SetMemory(0, 0, 0, 0);
   auto& screen = rig.Start().Quondix();
@@ -54,7 +54,7 @@ TEST(MemoryStatus, AvailableMemoryHasTwoDecimals) {
   EXPECT_DOUBLE_EQ(rig.program->Monitor().MemStatus(), 23.45);  // 23.4495...
 }
 
-TEST(MemoryStatus, AvailableAboveTotalShowsAsTheFigureDividedBy102Point4) {
+TEST(MemoryStatus, AvailableAboveTotalIsShownDividedBy102Point4) {
   ProgramRig rig;
   rig.Start();  // total 66
   rig.machine.SetMemory(64 * kMegabyte, 512 * kMegabyte, 1000, 1000);
@@ -90,7 +90,7 @@ TEST(MemoryStatus, WithoutSwapFileTheGaugeKeepsItsValueAndTheLabelShowsIt) {
   (void)rig.program->Monitor().MemStatus();
   EXPECT_EQ(rig.program->Quondix().Gauge2.Value(), 30);
   EXPECT_EQ(rig.program->Quondix().lblSwapfileUsed.Caption(), "60% Used");
-  EXPECT_TRUE(rig.machine.Boxes().empty()) << "it is no error";
+  EXPECT_TRUE(rig.machine.Boxes().empty()) << "a missing swap file is not an error";
 }
 
 TEST(MemoryStatus, PercentagesShownAreAlwaysEven) {
@@ -119,7 +119,7 @@ TEST(MemoryStatus, SubtractionThatOverflowsIsReportedOncePerRun) {
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX");
   EXPECT_EQ(rig.machine.Boxes()[0].flags, kMbOk);
   EXPECT_EQ(rig.program->Quondix().lblSwapfileUsed.Caption(), "0% Used")
-      << "goes on after the failed statement";
+      << "execution continues after the failed statement";
   for (int tick = 0; tick < 100; ++tick) rig.AdvanceMs(750);
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
 }
@@ -136,7 +136,7 @@ TEST(MemoryStatus, ErrorThatRecursWhileItsBoxIsOpenShowsNoSecondBox) {
 TEST(MemoryStatus, GaugeLevelOutsideItsRangeIsReportedLikeAnyError) {
   ProgramRig rig;
   rig.Start();
-  rig.machine.SetMemory(64 * kMegabyte, 24012345, 1000, 1100);  // less used than nothing
+  rig.machine.SetMemory(64 * kMegabyte, 24012345, 1000, 1100);  // the used amount is negative
   (void)rig.program->Monitor().MemStatus();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text,
@@ -180,7 +180,7 @@ struct Misread {
 
 class MisreadMemory : public testing::TestWithParam<Misread> {};
 
-TEST_P(MisreadMemory, SaysSoInTheCaptionAndGoesOn) {
+TEST_P(MisreadMemory, IsReportedInTheCaptionAndTheProgramContinues) {
   ProgramRig rig;
   rig.machine.SetMemory(GetParam().total, GetParam().available, 1000, 1000);
   rig.Start();
@@ -231,7 +231,7 @@ TEST(MemoryDisplay, TickReadsTheMemoryAndThenTheProcessorLoad) {
   EXPECT_LT(memory, load);
 }
 
-TEST(MemoryDisplay, TickThatIsEndedByTheReportOfAnErrorReadsNoProcessorLoad) {
+TEST(MemoryDisplay, TickEndedByAnErrorReportReadsNoProcessorLoad) {
   ProgramRig rig;
   rig.machine.SetCpuLoad(50);
   rig.Start();
@@ -247,7 +247,7 @@ TEST(MemoryDisplay, TickThatIsEndedByTheReportOfAnErrorReadsNoProcessorLoad) {
   EXPECT_EQ(rig.program->Window().Caption(), "Q-DIX");
 }
 
-TEST(MemoryDisplay, TickGoesOnEvery750MsWhileTheWindowIsHidden) {
+TEST(MemoryDisplay, TickContinuesEvery750MsWhileTheWindowIsHidden) {
   ProgramRig rig;
   rig.Store("Startup", "StartDisplay", "3");
   rig.Start();

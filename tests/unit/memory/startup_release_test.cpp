@@ -1,4 +1,4 @@
-// The one release after start-up and the delay before it.
+// The single release after start-up and the delay before it.
 #include <gtest/gtest.h>
 
 #include "tests/support/program_rig.h"
@@ -37,12 +37,12 @@ TEST_P(StartupDelayInSeconds, PassesExactlyBeforeTheOneRelease) {
   EXPECT_EQ(Allocations(), Sizes{kBytesOf16Mb});
   EXPECT_FALSE(rig.program->MainWindow().Timer3.Enabled());
   rig.AdvanceMs(24 * 60 * kMinuteMs);
-  EXPECT_EQ(Allocations(), Sizes{kBytesOf16Mb}) << "once a run";
+  EXPECT_EQ(Allocations(), Sizes{kBytesOf16Mb}) << "once per run";
 }
 INSTANTIATE_TEST_SUITE_P(Values, StartupDelayInSeconds,
                          testing::Values(1, 59, 60, 61, 119, 120, 121, 179, 180, 181, 240, 300, 32767));
 
-TEST_F(StartupRelease, DelayOf61SecondsIsAMinuteTickAndAOneSecondTick) {
+TEST_F(StartupRelease, DelayOf61SecondsIsAOneMinuteTickAndAOneSecondTick) {
   StartWithDelay("61");
   rig.AdvanceMs(60 * kSecondMs);
   EXPECT_EQ(rig.program->MainWindow().Timer3.Interval(), 1000);
@@ -68,23 +68,23 @@ TEST_F(StartupRelease, DelayIsRoundedToWholeSecondsFirst) {
   EXPECT_EQ(Allocations(), Sizes{kBytesOf16Mb});
 }
 
-TEST_F(StartupRelease, DelayOfNothingNeverFires) {
+TEST_F(StartupRelease, ZeroDelayNeverFires) {
   StartWithDelay("0");
   rig.AdvanceMs(60 * kMinuteMs);
   EXPECT_EQ(Allocations(), Sizes{});
 }
 
-TEST_F(StartupRelease, EveryAttemptRunsHoweverMuchIsFree) {
+TEST_F(StartupRelease, EveryAttemptRunsForAnyFreeAmount) {
   rig.Store("Settings", "TryTimes", "3");
   rig.SetAvailableMb(60);
   StartWithDelay("1");
   rig.AdvanceMs(kSecondMs);
   EXPECT_EQ(Allocations(), (Sizes{kBytesOf16Mb, kBytesOf16Mb, kBytesOf16Mb}));
   EXPECT_EQ(rig.NewestBarPx(), kFullBarPx);
-  EXPECT_EQ(rig.Stored("Settings", "CounterValue"), std::nullopt) << "not counted";
+  EXPECT_EQ(rig.Stored("Settings", "CounterValue"), std::nullopt) << "the release is not counted";
 }
 
-TEST_F(StartupRelease, LackOfMemoryWarnsOnceAndIsOver) {
+TEST_F(StartupRelease, LackOfMemoryWarnsOnceAndEndsTheRelease) {
   rig.Store("Settings", "TryTimes", "3");
   rig.machine.LimitAllocatableBytes(1000);
   StartWithDelay("1");
@@ -104,7 +104,7 @@ TEST_F(StartupRelease, LackOfMemoryIsSilentWithTheWarningTicked) {
   EXPECT_FALSE(rig.program->MainWindow().Timer3.Enabled());
 }
 
-TEST_F(StartupRelease, PauseDropsItForThisRun) {
+TEST_F(StartupRelease, PauseCancelsItForThisRun) {
   StartWithDelay("240");
   rig.AdvanceMs(90 * kSecondMs);
   rig.program->Quondix().Command3.Press();
@@ -115,7 +115,7 @@ TEST_F(StartupRelease, PauseDropsItForThisRun) {
   EXPECT_EQ(Allocations(), Sizes{});
 }
 
-TEST_F(StartupRelease, ErrorOfTheBarIsShownAndNothingIsReleased) {
+TEST_F(StartupRelease, ErrorOfTheGraphIsShownAndNothingIsReleased) {
   StartWithDelay("1");
   rig.program->Quondix().XGraphMeter1.SetMax(0);
   rig.AdvanceMs(kSecondMs);

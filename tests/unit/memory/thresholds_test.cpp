@@ -1,4 +1,4 @@
-// Defaults by the size of the memory, and limits of the processor load that do not hold.
+// Defaults by memory size, and limits of the processor load that do not apply.
 #include <gtest/gtest.h>
 
 #include "tests/support/tuning_rig.h"
@@ -6,7 +6,7 @@
 namespace qdix::tests {
 namespace {
 
-/// At both ends of every band, on a machine that has exactly so many megabytes of 1,024,000 bytes.
+/// Tests both ends of every band, on machines with exactly that many megabytes of 1,024,000 bytes.
 TEST(DefaultThreshold, FollowsTheWholeMegabytesOfTheMemory) {
   std::vector<std::pair<double, std::string>> thresholds;
   for (const double mb :
@@ -31,7 +31,7 @@ TEST(DefaultThreshold, FollowsTheWholeMegabytesOfTheMemory) {
                                                                      {500.0, "8"}}));
 }
 
-/// A machine whose processor is busy all the time; neither limit is ticked, and both are stored.
+/// A machine whose processor is always busy. Both limits are stored, and neither is ticked.
 class ClearedLimits : public testing::Test {
  protected:
   ClearedLimits() {

@@ -11,7 +11,7 @@ constexpr std::uint32_t kBytesOf40Mb = 40 * 1040000 + 1;
 
 class TimedRelease : public testing::Test {
  protected:
-  /// Every 5 minutes, 40 MB. The start-up release is out of the way.
+  /// Every 5 minutes, 40 MB. The start-up release is disabled.
   TimedRelease() {
     rig.SetHasRunBefore();
     rig.Store("Settings", "TimeActive", "1");
@@ -33,7 +33,7 @@ class TimedRelease : public testing::Test {
   ProgramRig rig;
 };
 
-TEST_F(TimedRelease, CountsDownReleasesAndStartsAnew) {
+TEST_F(TimedRelease, CountsDownReleasesAndStartsAgain) {
   rig.Start();
   EXPECT_EQ(Label(), DueIn(5));
   RunMinutes(4);
@@ -61,18 +61,18 @@ TEST_F(TimedRelease, HoursAnd24Are1440Minutes) {
   EXPECT_EQ(Label(), DueIn(1440));
 }
 
-TEST_F(TimedRelease, EnoughMemoryReleasesNothingAndStartsTheCountdownAnew) {
+TEST_F(TimedRelease, EnoughMemoryReleasesNothingAndRestartsTheCountdown) {
   rig.SetAvailableMb(40.01);
   rig.Start();
   RunMinutes(5);
   EXPECT_EQ(Allocations(), Sizes{});
   EXPECT_EQ(Label(), DueIn(5));
-  EXPECT_EQ(rig.NewestBarPx(), kFullBarPx) << "the spike shows all the same";
+  EXPECT_EQ(rig.NewestBarPx(), kFullBarPx) << "the spike is shown anyway";
 }
 
 class TimedGate : public TimedRelease {
  protected:
-  /// Busy from the start.
+  /// The processor is busy from the start.
   void SetUp() override {
     rig.Store("Settings", "CPUTimeActive", "1");
     rig.Store("Settings", "TimeCPU", "80");
@@ -87,10 +87,10 @@ TEST_F(TimedGate, BusyMinutesAreNotCountedAndRetriedEveryTenSeconds) {
   EXPECT_TRUE(rig.program->MainWindow().Timer5.Enabled());
   rig.AdvanceMs(10000);
   EXPECT_EQ(Label(), DueIn(5));
-  EXPECT_TRUE(rig.program->MainWindow().Timer5.Enabled()) << "still busy: once more";
+  EXPECT_TRUE(rig.program->MainWindow().Timer5.Enabled()) << "the processor is still busy, so it retries";
 }
 
-TEST_F(TimedGate, RetryThatPassesCountsAMinuteMore) {
+TEST_F(TimedGate, SuccessfulRetryCountsAnExtraMinute) {
   rig.AdvanceMs(kMinuteMs);
   rig.machine.SetCpuLoad(0);
   rig.AdvanceMs(10000);
@@ -100,7 +100,7 @@ TEST_F(TimedGate, RetryThatPassesCountsAMinuteMore) {
   EXPECT_EQ(Label(), DueIn(3)) << "the minute's own tick";
 }
 
-TEST_F(TimedGate, RetryItselfMayRelease) {
+TEST_F(TimedGate, RetryMayRelease) {
   rig.machine.SetCpuLoad(0);
   rig.AdvanceMs(4 * kMinuteMs);
   EXPECT_EQ(Label(), DueIn(1));
@@ -113,15 +113,14 @@ TEST_F(TimedGate, RetryItselfMayRelease) {
   EXPECT_EQ(Label(), DueIn(5));
 }
 
-TEST_F(TimedGate, RetryGoesOnWhilePaused) {
+TEST_F(TimedGate, RetryContinuesWhilePaused) {
   rig.AdvanceMs(kMinuteMs);
   rig.program->Quondix().Command3.Press();
   EXPECT_TRUE(rig.program->MainWindow().Timer5.Enabled());
   EXPECT_FALSE(rig.program->MainWindow().Timer4.Enabled());
 }
 
-/// A release that is due, was held back by the processor and is tried again in a second; the processor is
-/// idle.
+/// A release is due, was held back by the processor and is retried in a second; the processor is idle now.
 class WaitingRelease : public TimedGate {
  protected:
   void SetUp() override {
@@ -135,32 +134,32 @@ class WaitingRelease : public TimedGate {
   }
 };
 
-TEST_F(WaitingRelease, RunsInSpiteOfAPause) {
+TEST_F(WaitingRelease, RunsDespiteAPause) {
   rig.program->Quondix().Command3.Press();
   EXPECT_EQ(Allocations(), Sizes{});
   rig.AdvanceMs(1000);
   EXPECT_EQ(Allocations(), Sizes{kBytesOf40Mb});
 }
 
-TEST_F(WaitingRelease, IsCalledBackByUnticking) {
+TEST_F(WaitingRelease, IsCancelledByUnticking) {
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kTimeIntervalsTab);
   rig.program->TimeIntervals().Check3.Press();
   rig.AdvanceMs(10 * kMinuteMs);
   EXPECT_EQ(Allocations(), Sizes{});
 }
 
-TEST_F(TimedRelease, ChangingTheUnitGoesOnCountingWhereItWas) {
+TEST_F(TimedRelease, ChangingTheUnitContinuesTheCount) {
   rig.Store("Startup", "TimeMinutes", "30");
   rig.Start();
   RunMinutes(10);
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kTimeIntervalsTab);
   rig.program->TimeIntervals().Option5.Press();
-  EXPECT_EQ(Label(), DueIn(50)) << "an hour less ten minutes";
+  EXPECT_EQ(Label(), DueIn(50)) << "an hour minus ten minutes";
   rig.program->TimeIntervals().Option4.Press();
   EXPECT_EQ(Label(), DueIn(20));
 }
 
-TEST_F(TimedRelease, ChoosingAnIntervalStartsTheCountdownAnew) {
+TEST_F(TimedRelease, ChoosingAnIntervalRestartsTheCountdown) {
   rig.Start();
   RunMinutes(3);
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kTimeIntervalsTab);
@@ -197,7 +196,7 @@ TEST_F(TimedRelease, NoAmountSelectedReleasesNothing) {
   EXPECT_EQ(Label(), DueIn(5));
 }
 
-TEST_F(TimedRelease, LackOfMemoryWarnsAndTriesAgainAMinuteLater) {
+TEST_F(TimedRelease, LackOfMemoryWarnsAndRetriesAMinuteLater) {
   rig.machine.LimitAllocatableBytes(1000);
   rig.Start();
   RunMinutes(5);

@@ -1,4 +1,4 @@
-// The simulated machine itself: every other test believes what it says.
+// The simulated machine itself. All other tests rely on it.
 #include "os/simulated/simulated_machine.h"
 
 #include <gmock/gmock.h>
@@ -21,7 +21,7 @@ class SimulatedMachineTest : public testing::Test {
 
 // Memory.
 
-TEST_F(SimulatedMachineTest, TellsTheMemoryThatWasSet) {
+TEST_F(SimulatedMachineTest, ReportsTheMemoryThatWasSet) {
   machine.SetMemory(64000000, 16000000, 128000000, 100000000);
   const MemoryStatus status = system.memory.GlobalMemoryStatus();
   EXPECT_EQ(status.length, 32U);
@@ -57,12 +57,12 @@ TEST_F(SimulatedMachineTest, RefusesBlocksBeyondTheLimitUntilOthersAreFreed) {
   EXPECT_NE(system.memory.VirtualAlloc(20000), nullptr);
 }
 
-TEST_F(SimulatedMachineTest, NotesABlockFreedWithUntouchedPages) {
+TEST_F(SimulatedMachineTest, RecordsABlockFreedWithUntouchedPages) {
   system.memory.VirtualFree(system.memory.VirtualAlloc(4096));
   EXPECT_THAT(machine.Misuses(), ElementsAre(HasSubstr("not all written")));
 }
 
-TEST_F(SimulatedMachineTest, NotesABlockFreedTwice) {
+TEST_F(SimulatedMachineTest, RecordsABlockFreedTwice) {
   void* block = system.memory.VirtualAlloc(4096);
   system.memory.TouchPages(block, 4096);
   system.memory.VirtualFree(block);
@@ -70,12 +70,13 @@ TEST_F(SimulatedMachineTest, NotesABlockFreedTwice) {
   EXPECT_THAT(machine.Misuses(), ElementsAre(HasSubstr("not held")));
 }
 
-TEST_F(SimulatedMachineTest, NotesPagesTouchedBeyondABlock) {
+TEST_F(SimulatedMachineTest, RecordsPagesTouchedBeyondABlock) {
   system.memory.TouchPages(system.memory.VirtualAlloc(4096), 8192);
   EXPECT_THAT(machine.Misuses(), ElementsAre(HasSubstr("no block of this size")));
 }
 
-// Registry. What a real registry answers as well is in the contract tests; here is what only a test can do.
+// Registry. What a real registry also does is in the contract tests; these tests cover what only a test can
+// do.
 
 TEST_F(SimulatedMachineTest, ReadsBackWhatATestStored) {
   machine.SetRegistryValue(kHkeyCurrentUser, "Software\\Thing", "Name", "text");
@@ -91,7 +92,7 @@ TEST_F(SimulatedMachineTest, KeepsTheSpellingOfValueNames) {
   EXPECT_THAT(machine.RegistryTexts(kHkeyCurrentUser, "Key"), ElementsAre(testing::Pair("MixedCase", "2")));
 }
 
-TEST_F(SimulatedMachineTest, DoesNotGiveATypedValueAsText) {
+TEST_F(SimulatedMachineTest, DoesNotReturnATypedValueAsText) {
   machine.SetRegistryBytes(kHkeyCurrentUser, "Key", "Number", kRegDword, std::string(4, '\1'));
   EXPECT_EQ(machine.RegistryText(kHkeyCurrentUser, "Key", "Number"), std::nullopt);
 }
@@ -108,8 +109,7 @@ TEST_F(SimulatedMachineTest, ProtectsOneKeyAgainstWriting) {
             kErrorSuccess);
 }
 
-// As the systems of the NT line do; Windows 95 and 98 look at no rights. A program that gets along here gets
-// along on both.
+// As on the NT line; Windows 95 and 98 do not check rights. A program that works here works on both.
 TEST_F(SimulatedMachineTest, HandleOpenedForReadingDoesNotWrite) {
   machine.SetRegistryValue(kHkeyCurrentUser, "Key", "Name", "kept");
   KeyHandle key = 0;
@@ -129,7 +129,7 @@ TEST_F(SimulatedMachineTest, HandleOpenedForWritingDoesNotRead) {
   EXPECT_EQ(system.registry.RegQueryValueExA(key, "Name", type, nullptr, size), kErrorAccessDenied);
 }
 
-TEST_F(SimulatedMachineTest, CountsOpenKeysAndNotesAKeyClosedTwice) {
+TEST_F(SimulatedMachineTest, CountsOpenKeysAndRecordsAKeyClosedTwice) {
   machine.CreateRegistryKey(kHkeyCurrentUser, "Key");
   KeyHandle key = 0;
   ASSERT_EQ(system.registry.RegOpenKeyExA(kHkeyCurrentUser, "Key", kKeyQueryValue, key), kErrorSuccess);
@@ -157,7 +157,7 @@ TEST_F(SimulatedMachineTest, RecordsNamesOfWrittenAndQueriedValuesInOrder) {
 
 // Event pump.
 
-TEST_F(SimulatedMachineTest, PlaysAHandInsideEachPump) {
+TEST_F(SimulatedMachineTest, RunsAnActionInsideEachPump) {
   std::vector<int> pumps;
   machine.OnPump([&](int number) { pumps.push_back(number); });
   system.event_pump.PumpEvents();
@@ -176,7 +176,7 @@ TEST_F(SimulatedMachineTest, PumpsInsideAPump) {
 
 // Windows.
 
-TEST_F(SimulatedMachineTest, TheLastOpenedWindowStandsInFront) {
+TEST_F(SimulatedMachineTest, TheLastOpenedWindowIsInFront) {
   const WindowHandle behind = machine.OpenWindow("Class", "Behind");
   const WindowHandle front = machine.OpenWindow("Class", "Front");
   EXPECT_EQ(system.windows.FindWindowA("class", nullptr), front);
@@ -184,7 +184,7 @@ TEST_F(SimulatedMachineTest, TheLastOpenedWindowStandsInFront) {
   EXPECT_EQ(system.windows.GetWindow(front, kGwHwndPrev), 0U);
 }
 
-TEST_F(SimulatedMachineTest, WindowsChangePlacesTitlesAndStates) {
+TEST_F(SimulatedMachineTest, WindowsChangeOrderTitlesAndStates) {
   const WindowHandle hidden = machine.OpenWindow("Hidden", "Title");
   const WindowHandle main = machine.OpenWindow("Main", "Title");
   machine.OpenWindow("Other", "Title");
@@ -206,7 +206,7 @@ TEST_F(SimulatedMachineTest, WindowsChangePlacesTitlesAndStates) {
 
 // Message boxes.
 
-TEST_F(SimulatedMachineTest, BoxesGetTheirDefaultButtonUnlessAnAnswerIsWaiting) {
+TEST_F(SimulatedMachineTest, BoxesGetTheirDefaultButtonUnlessAnAnswerIsQueued) {
   EXPECT_EQ(system.dialogs.MessageBoxA("a", "T", kMbOk), kIdOk);
   EXPECT_EQ(system.dialogs.MessageBoxA("b", "T", kMbYesNo), kIdYes);
   EXPECT_EQ(system.dialogs.MessageBoxA("c", "T", kMbYesNo | kMbDefaultButton2), kIdNo);
@@ -220,14 +220,14 @@ TEST_F(SimulatedMachineTest, BoxesGetTheirDefaultButtonUnlessAnAnswerIsWaiting) 
   EXPECT_EQ(machine.Boxes()[2].flags, kMbYesNo | kMbDefaultButton2);
 }
 
-TEST_F(SimulatedMachineTest, SomethingHappensWhileABoxIsOpen) {
+TEST_F(SimulatedMachineTest, RunsAnActionWhileABoxIsOpen) {
   std::size_t boxes_then = 0;
   machine.WhileBoxIsOpen([&] { boxes_then = machine.Boxes().size(); });
   EXPECT_EQ(system.dialogs.MessageBoxA("text", "T", kMbOk), kIdOk);
   EXPECT_EQ(boxes_then, 1U);
 }
 
-TEST_F(SimulatedMachineTest, ABoxThatTheEndDismissesIsUnanswered) {
+TEST_F(SimulatedMachineTest, BoxDismissedByTheEndIsUnanswered) {
   machine.WhileBoxIsOpen([&] { machine.EndBoxes(); });
   EXPECT_EQ(system.dialogs.MessageBoxA("first", "T", kMbOk), kIdNone);
   EXPECT_EQ(system.dialogs.MessageBoxA("second", "T", kMbOk), kIdNone);
@@ -276,7 +276,7 @@ TEST_F(SimulatedMachineTest, TicksWrapAround) {
   EXPECT_EQ(system.clock.GetTickCount(), 5U);
 }
 
-TEST_F(SimulatedMachineTest, ShowsDaysInTheEnglishLongPicture) {
+TEST_F(SimulatedMachineTest, FormatsDaysAsEnglishLongDates) {
   EXPECT_EQ(system.clock.LongDate(46347.9), "Saturday, November 21, 2026");
   EXPECT_EQ(system.clock.LongDate(2), "Monday, January 1, 1900");
   EXPECT_EQ(system.clock.LongDate(2958466), "");
@@ -289,7 +289,7 @@ TEST_F(SimulatedMachineTest, AnotherCopyHoldsTheMutex) {
   EXPECT_TRUE(system.processes.MutexExistedBefore("Another"));
 }
 
-TEST_F(SimulatedMachineTest, TheProgramStandsWhereATestPutsIt) {
+TEST_F(SimulatedMachineTest, TheProgramIsWhereATestPutsIt) {
   EXPECT_EQ(system.processes.ModuleFileName(), "C:\\Program Files\\QDIX\\QDIX.exe");
   machine.SetModuleFileName("D:\\Tools\\QDIX.exe");
   EXPECT_EQ(system.processes.ModuleFileName(), "D:\\Tools\\QDIX.exe");
@@ -312,7 +312,7 @@ TEST_F(SimulatedMachineTest, FailsTheNextCallOfAName) {
   EXPECT_NE(system.memory.VirtualAlloc(4096), nullptr);
 }
 
-TEST_F(SimulatedMachineTest, FailsACallByItsNumberOnce) {
+TEST_F(SimulatedMachineTest, FailsACallOnceByItsNumber) {
   machine.FailCallNumber(2);
   EXPECT_NE(system.memory.VirtualAlloc(1), nullptr);
   EXPECT_EQ(system.memory.VirtualAlloc(2), nullptr);
@@ -328,7 +328,7 @@ TEST_F(SimulatedMachineTest, FailsEveryCallFromANumberOn) {
   EXPECT_THAT(machine.Boxes(), IsEmpty());
 }
 
-TEST_F(SimulatedMachineTest, CallsThatCannotFailAreNotCountedAmongThoseThatCan) {
+TEST_F(SimulatedMachineTest, CallsThatCannotFailAreNotCounted) {
   void* block = system.memory.VirtualAlloc(4096);
   static_cast<void>(system.memory.GlobalMemoryStatus());
   system.memory.TouchPages(block, 4096);
@@ -371,7 +371,7 @@ TEST_F(SimulatedMachineTest, EveryOtherCallFailsAsTheSystemWould) {
   EXPECT_EQ(system.processes.ModuleFileName(), "");
 }
 
-TEST_F(SimulatedMachineTest, CopyOverAProfileFileThatIsKeptInMemoryIsMisuse) {
+TEST_F(SimulatedMachineTest, CopyOverACachedProfileFileIsMisuse) {
   machine.WriteFile("C:\\WINDOWS\\a.ini", "[s]\r\nk=1\r\n");
   machine.WriteFile("C:\\WINDOWS\\b.ini", "");
   ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "2", "A.INI"));
@@ -386,7 +386,7 @@ TEST_F(SimulatedMachineTest, CopyOverAProfileFileThatIsKeptInMemoryIsMisuse) {
   machine.ForgetMisuses();
 }
 
-TEST_F(SimulatedMachineTest, FullDiskTakesThePartOfACopyThatFitsAndNoEntryThatMakesAFileGrow) {
+TEST_F(SimulatedMachineTest, FullDiskTakesPartOfACopyAndNoEntryThatMakesAFileGrow) {
   machine.WriteFile("C:\\WINDOWS\\system.ini", "[a]\r\nkey=12345\r\n");
   machine.WriteFile("C:\\COPY", "an earlier file, which the copy empties first");
   machine.LimitFreeBytes(3);
@@ -405,7 +405,7 @@ TEST_F(SimulatedMachineTest, PowerCutLeavesHalfAWriteAndNothingAfterIt) {
   machine.WriteFile("C:\\B", "earlier");
   machine.CutPowerInDiskWrite(2);
   EXPECT_FALSE(system.files.CopyFileA("C:\\A", "C:\\B"))
-      << "emptied by the first write, half filled by the second";
+      << "the first write emptied it, the second filled half of it";
   EXPECT_EQ(machine.ReadFile("C:\\B"), "1234");
   EXPECT_FALSE(system.files.MoveFileA("C:\\A", "C:\\C"));
   EXPECT_FALSE(system.files.DeleteFileA("C:\\A"));
@@ -414,14 +414,14 @@ TEST_F(SimulatedMachineTest, PowerCutLeavesHalfAWriteAndNothingAfterIt) {
   EXPECT_EQ(machine.ReadFile("C:\\A"), "12345678");
 }
 
-TEST_F(SimulatedMachineTest, PowerCutInTheMakingOfAFileLeavesItEmpty) {
+TEST_F(SimulatedMachineTest, PowerCutDuringTheCreationOfAFileLeavesItEmpty) {
   machine.WriteFile("C:\\A", "12345678");
   machine.CutPowerInDiskWrite(1);
   EXPECT_EQ(system.files.CreateFileA("C:\\A", kGenericWrite, kCreateAlways), kInvalidFile);
   EXPECT_EQ(machine.ReadFile("C:\\A"), "");
 }
 
-TEST_F(SimulatedMachineTest, FileThatAnotherProgramHoldsIsClosedToAll) {
+TEST_F(SimulatedMachineTest, FileHeldByAnotherProgramCannotBeOpened) {
   machine.WriteFile("C:\\WINDOWS\\A.INI", "[s]\r\nk=1\r\n");
   machine.HoldFile("C:\\windows\\a.ini");
   std::array<char, 8> value{};
@@ -437,7 +437,7 @@ TEST_F(SimulatedMachineTest, FileThatAnotherProgramHoldsIsClosedToAll) {
   EXPECT_TRUE(system.files.MoveFileA("C:\\WINDOWS\\A.INI", "C:\\WINDOWS\\B.INI"));
 }
 
-TEST_F(SimulatedMachineTest, WriteProtectionGoesWithANameAndACopy) {
+TEST_F(SimulatedMachineTest, WriteProtectionFollowsARenameAndACopy) {
   machine.WriteFile("C:\\A", "a");
   machine.ProtectFile("C:\\A");
   EXPECT_TRUE(system.files.CopyFileA("C:\\A", "C:\\B"));
@@ -446,7 +446,7 @@ TEST_F(SimulatedMachineTest, WriteProtectionGoesWithANameAndACopy) {
   EXPECT_EQ(system.files.GetFileAttributesA("C:\\C"), kFileAttributeReadOnly);
 }
 
-TEST_F(SimulatedMachineTest, MovingAProfileFileThatIsKeptInMemoryIsMisuse) {
+TEST_F(SimulatedMachineTest, MovingACachedProfileFileIsMisuse) {
   ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "1", "a.ini"));
   EXPECT_TRUE(system.files.MoveFileA("C:\\WINDOWS\\a.ini", "C:\\WINDOWS\\b.ini"));
   EXPECT_EQ(machine.Misuses().size(), 1U);
@@ -455,7 +455,7 @@ TEST_F(SimulatedMachineTest, MovingAProfileFileThatIsKeptInMemoryIsMisuse) {
 
 // Long runs.
 
-TEST_F(SimulatedMachineTest, ForgetsWhatWasAskedAndNothingThatIsHeld) {
+TEST_F(SimulatedMachineTest, ForgetsRecordedCallsButNothingThatIsHeld) {
   machine.CreateRegistryKey(kHkeyCurrentUser, "A");
   KeyHandle key = 0;
   ASSERT_EQ(system.registry.RegOpenKeyExA(kHkeyCurrentUser, "A", kKeyAllAccess, key), kErrorSuccess);
@@ -476,7 +476,7 @@ TEST_F(SimulatedMachineTest, ForgetsWhatWasAskedAndNothingThatIsHeld) {
   EXPECT_EQ(machine.TrayIconCount(), 1);
 }
 
-TEST_F(SimulatedMachineTest, ClosesTheHandlesOfOneKeyAndNoOther) {
+TEST_F(SimulatedMachineTest, ClosesOnlyTheHandlesOfOneKey) {
   machine.CreateRegistryKey(kHkeyDynData, "A\\B");
   KeyHandle key = 0;
   for (const char* path : {"A", "A\\B", "a\\b"}) {

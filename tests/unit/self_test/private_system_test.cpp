@@ -1,5 +1,5 @@
-// The programs on the private system of the self-test: whatever they do, the machine outside of one key and
-// one folder stays as it was.
+// The programs on the private system of the self-test: whatever they do, the machine outside one registry key
+// and one folder stays unchanged.
 #include "self_test/private_system.h"
 
 #include <gtest/gtest.h>
@@ -53,7 +53,7 @@ class PrivateSystem : public testing::Test {
   self_test::PrivateSystem system{machine.GetSystem(), {.key = kOwnKey, .folder = kOwnFolder}};
 };
 
-TEST_F(PrivateSystem, EveryRootOfTheRegistryLiesInTheOwnKey) {
+TEST_F(PrivateSystem, EveryRegistryRootIsInsideItsOwnKey) {
   EXPECT_TRUE(
       shell::RegistryKey::Create(Registry(), os::kHkeyLocalMachine, "SOFTWARE\\QDIX").WriteText("A", "1"));
   EXPECT_TRUE(
@@ -65,7 +65,7 @@ TEST_F(PrivateSystem, EveryRootOfTheRegistryLiesInTheOwnKey) {
   EXPECT_EQ(read.ReadText("A"), "1");
 }
 
-TEST_F(PrivateSystem, TheOldCallsOfTheRegistryLeadThereAsWell) {
+TEST_F(PrivateSystem, OldRegistryCallsAlsoUseItsOwnKey) {
   os::KeyHandle key = 0;
   ASSERT_EQ(Registry().RegCreateKeyA(os::kHkeyUsers, "A", key), os::kErrorSuccess);
   EXPECT_EQ(Registry().RegCloseKey(key), os::kErrorSuccess);
@@ -75,7 +75,7 @@ TEST_F(PrivateSystem, TheOldCallsOfTheRegistryLeadThereAsWell) {
   EXPECT_FALSE(machine.KeyExists(os::kHkeyUsers, "A"));
 }
 
-TEST_F(PrivateSystem, APathByNamesLeadsThereStepByStep) {
+TEST_F(PrivateSystem, PathByNamesAlsoUsesItsOwnKey) {
   shell::RegistryPaths paths(Registry());
   paths.CreateRegistryKey("A\\B", os::kHkeyLocalMachine);
   const std::int32_t key = paths.GetSubkeyHandle("HKEY_LOCAL_MACHINE\\A\\B");
@@ -83,7 +83,7 @@ TEST_F(PrivateSystem, APathByNamesLeadsThereStepByStep) {
   EXPECT_FALSE(paths.CloseSubkey(key));
 }
 
-TEST_F(PrivateSystem, TheRootsThemselvesTakeAndHaveNothing) {
+TEST_F(PrivateSystem, RootsHaveNoValuesAndAcceptNone) {
   std::uint8_t byte = 0;
   std::uint32_t type = 0;
   std::uint32_t size_bytes = 1;
@@ -94,7 +94,7 @@ TEST_F(PrivateSystem, TheRootsThemselvesTakeAndHaveNothing) {
             os::kErrorFileNotFound);
 }
 
-TEST_F(PrivateSystem, TheStatisticIsTheRealOneAndCanOnlyBeRead) {
+TEST_F(PrivateSystem, StatisticIsTheRealOneAndReadOnly) {
   machine.CreateRegistryKey(os::kHkeyDynData, "PerfStats\\StatData");
   os::KeyHandle key = 0;
   ASSERT_EQ(Registry().RegOpenKeyExA(os::kHkeyDynData, "PerfStats\\StatData", os::kKeyQueryValue, key),
@@ -104,7 +104,7 @@ TEST_F(PrivateSystem, TheStatisticIsTheRealOneAndCanOnlyBeRead) {
             os::kErrorAccessDenied);
 }
 
-TEST_F(PrivateSystem, FilesAreChangedInTheOwnFolderOnly) {
+TEST_F(PrivateSystem, FilesAreChangedOnlyInItsOwnFolder) {
   machine.WriteFile("C:\\A.TXT", "a");
   EXPECT_FALSE(Files().DeleteFileA("C:\\A.TXT"));
   EXPECT_FALSE(Files().DeleteFileA("A.TXT"));
@@ -116,7 +116,7 @@ TEST_F(PrivateSystem, FilesAreChangedInTheOwnFolderOnly) {
             os::kInvalidFile);
   EXPECT_EQ(Files().CreateFileA("C:\\TEMP\\QDIXTEST\\", os::kGenericWrite, os::kCreateAlways),
             os::kInvalidFile)
-      << "a folder is no file in itself";
+      << "a folder is not a file";
   EXPECT_EQ(machine.ReadFile("C:\\A.TXT"), "a");
 
   EXPECT_TRUE(Files().CopyFileA("C:\\A.TXT", "C:\\TEMP\\QDIXTEST\\A.TXT"));
@@ -125,17 +125,17 @@ TEST_F(PrivateSystem, FilesAreChangedInTheOwnFolderOnly) {
   EXPECT_TRUE(Files().DeleteFileA("C:\\TEMP\\QDIXTEST\\B.TXT"));
 }
 
-TEST_F(PrivateSystem, EveryFileCanBeLookedUpAndTheOwnKeysFlushed) {
+TEST_F(PrivateSystem, EveryFileCanBeFoundAndItsOwnKeysFlushed) {
   machine.WriteFile("C:\\A.TXT", "a");
   os::FoundFile found;
   EXPECT_TRUE(Files().FindFirstFileA("C:\\A.TXT", found));
   EXPECT_EQ(found.dos_name, "A.TXT");
   auto key = shell::RegistryKey::Create(Registry(), os::kHkeyLocalMachine, "SOFTWARE\\QDIX");
   EXPECT_TRUE(key.Flush());
-  EXPECT_EQ(Registry().RegFlushKey(os::kHkeyLocalMachine), os::kErrorSuccess) << "nothing to write";
+  EXPECT_EQ(Registry().RegFlushKey(os::kHkeyLocalMachine), os::kErrorSuccess) << "there is nothing to write";
 }
 
-TEST_F(PrivateSystem, SystemIniIsOneOfItsOwn) {
+TEST_F(PrivateSystem, SystemIniIsItsOwn) {
   char text[16] = {};
   EXPECT_TRUE(ProfileFiles().WritePrivateProfileStringA("vcache", "MinFileCache", "1", "system.ini"));
   EXPECT_EQ(
@@ -146,19 +146,19 @@ TEST_F(PrivateSystem, SystemIniIsOneOfItsOwn) {
   EXPECT_TRUE(machine.ReadFile("C:\\TEMP\\QDIXTEST\\system.ini").has_value());
 }
 
-TEST_F(PrivateSystem, TheFolderOfWindowsIsItsOwn) {
+TEST_F(PrivateSystem, WindowsFolderIsItsOwn) {
   const std::size_t length = std::string_view(kOwnFolder).size();
   char folder[32];
   std::fill(std::begin(folder), std::end(folder), '?');
   EXPECT_EQ(Files().GetWindowsDirectoryA(folder, static_cast<std::uint32_t>(length) + 1), length);
   EXPECT_STREQ(folder, kOwnFolder);
-  EXPECT_EQ(folder[length + 1], '?') << "written beyond its room";
+  EXPECT_EQ(folder[length + 1], '?') << "wrote beyond the end of the buffer";
   folder[0] = '?';
   EXPECT_EQ(Files().GetWindowsDirectoryA(folder, static_cast<std::uint32_t>(length)), length + 1);
   EXPECT_EQ(folder[0], '?');
 }
 
-TEST_F(PrivateSystem, MemoryIsTakenInSmallBlocksAndCounted) {
+TEST_F(PrivateSystem, MemoryIsAllocatedInSmallBlocksAndCounted) {
   os::Memory& memory = system.GetSystem().memory;
   EXPECT_EQ(memory.VirtualAlloc(self_test::LimitedMemory::kMostBytes + 1), nullptr);
   void* const largest = memory.VirtualAlloc(self_test::LimitedMemory::kMostBytes);
@@ -176,7 +176,7 @@ TEST_F(PrivateSystem, MemoryIsTakenInSmallBlocksAndCounted) {
   EXPECT_EQ(system.Memory().TouchedBytes(), self_test::LimitedMemory::kMostBytes + 1000000U);
 }
 
-TEST_F(PrivateSystem, WhatIsSaidIsKeptInOneLineUntilItIsAskedFor) {
+TEST_F(PrivateSystem, MessagesAreKeptInOneLineUntilTheyAreRead) {
   os::Dialogs& dialogs = system.GetSystem().dialogs;
   EXPECT_EQ(dialogs.MessageBoxA("one\r\ntwo", "", os::kMbYesNo), os::kIdNone);
   EXPECT_EQ(dialogs.MessageBoxA("three", "", os::kMbOk), os::kIdNone);
@@ -184,7 +184,7 @@ TEST_F(PrivateSystem, WhatIsSaidIsKeptInOneLineUntilItIsAskedFor) {
   EXPECT_EQ(system.Dialogs().TakeTexts(), "");
 }
 
-TEST_F(PrivateSystem, AFirstStartAndAHandOnEverythingLeaveTheMachineAlone) {
+TEST_F(PrivateSystem, FirstStartAndUseOfEverythingLeaveTheMachineAlone) {
   const auto form1 = std::make_unique<app::Form1>(system.GetSystem());
   form1->Start();
   ASSERT_FALSE(form1->Window().Unloaded()) << system.Dialogs().TakeTexts();

@@ -24,7 +24,7 @@ class SelfTestReport : public testing::Test {
   std::optional<Report> report;
 };
 
-TEST_F(SelfTestReport, EachCheckHasItsLineWithResultAndTime) {
+TEST_F(SelfTestReport, EachCheckHasALineWithResultAndTime) {
   Make();
   report->Fact("System", "Windows 4.10");
   report->Run("One", [this] {
@@ -45,7 +45,7 @@ TEST_F(SelfTestReport, EachCheckHasItsLineWithResultAndTime) {
             "3 checks, 2 ok, 1 failed, 55 ms\r\n");
 }
 
-TEST_F(SelfTestReport, TheNameIsOnTheDiskBeforeTheCheckBegins) {
+TEST_F(SelfTestReport, NameIsOnTheDiskBeforeTheCheckBegins) {
   Make();
   report->Run("Hangs", [this] {
     EXPECT_EQ(machine.ReadFile(kPath), "Hangs .......................................... ");
@@ -53,7 +53,7 @@ TEST_F(SelfTestReport, TheNameIsOnTheDiskBeforeTheCheckBegins) {
   });
 }
 
-TEST_F(SelfTestReport, TheOtherPlaceIsTakenWhereTheFirstRefuses) {
+TEST_F(SelfTestReport, SecondFolderIsUsedIfTheFirstRefuses) {
   machine.WriteFile(kPath, "before");
   machine.ProtectFile(kPath);
   Make();
@@ -63,7 +63,7 @@ TEST_F(SelfTestReport, TheOtherPlaceIsTakenWhereTheFirstRefuses) {
   EXPECT_EQ(machine.ReadFile(kOtherPath), "text\r\n");
 }
 
-TEST_F(SelfTestReport, WithoutAnyPlaceTheChecksRunAllTheSame) {
+TEST_F(SelfTestReport, ChecksRunEvenWithoutALog) {
   machine.ProtectDisk();
   Make();
   report->Run("One", [] { return Outcome::Failed("no"); });
@@ -71,7 +71,7 @@ TEST_F(SelfTestReport, WithoutAnyPlaceTheChecksRunAllTheSame) {
   EXPECT_EQ(report->Failures(), 1);
 }
 
-TEST_F(SelfTestReport, AFullDiskIsNoticed) {
+TEST_F(SelfTestReport, FullDiskIsDetected) {
   Make();
   report->Line("text");
   EXPECT_FALSE(report->IsIncomplete());
@@ -80,7 +80,7 @@ TEST_F(SelfTestReport, AFullDiskIsNoticed) {
   EXPECT_TRUE(report->IsIncomplete());
 }
 
-TEST_F(SelfTestReport, TheFileIsClosedInTheEnd) {
+TEST_F(SelfTestReport, FileIsClosedAtTheEnd) {
   Make();
   report.reset();
   EXPECT_EQ(machine.OpenFileCount(), 0);

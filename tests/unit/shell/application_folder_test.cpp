@@ -1,4 +1,4 @@
-// Where the program lies.
+// The folder that contains the program.
 #include "shell/application_folder.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ TEST(ApplicationFolder, HasOneBackslashAtItsEnd) {
   EXPECT_EQ(ApplicationFolder(machine.GetSystem().processes), "A:\\");
 }
 
-TEST(ApplicationFolder, IsABackslashWhereTheSystemDoesNotTell) {
+TEST(ApplicationFolder, IsABackslashIfTheSystemFails) {
   os::SimulatedMachine machine;
   machine.FailNextCall("ModuleFileName");
   EXPECT_EQ(ApplicationFolder(machine.GetSystem().processes), "\\");

@@ -1,4 +1,4 @@
-// "Create shortcut Icon on desktop": by way of the recent documents, and directly where that makes none.
+// "Create shortcut Icon on desktop": through the recent documents, or directly if that makes no shortcut.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -21,7 +21,7 @@ class DesktopShortcutTest : public testing::Test {
     rig.Start().MainWindow().SSTab1.ChooseTab(screens::kStartupTab);
   }
   void Press() { rig.program->Startup().Command5.Press(); }
-  /// The calls of one press, those that only ask left out.
+  /// Returns the calls of one press, without those that only query.
   Calls CallsOfAPress() {
     const std::size_t before = rig.machine.Calls().size();
     Press();
@@ -39,7 +39,7 @@ class DesktopShortcutTest : public testing::Test {
   ProgramRig rig;
 };
 
-TEST_F(DesktopShortcutTest, ShellMakesItAmongTheRecentDocumentsAndItIsCopied) {
+TEST_F(DesktopShortcutTest, ShellMakesItInTheRecentDocumentsAndItIsCopied) {
   EXPECT_EQ(CallsOfAPress(),
             (Calls{"SpecialFolder(16)", "SpecialFolder(8)", "DeleteFileA(C:\\WINDOWS\\Recent\\Quondix.lnk)",
                    "SHAddToRecentDocs(2, C:\\Program Files\\QDIX\\QDIX.exe)",
@@ -52,7 +52,7 @@ TEST_F(DesktopShortcutTest, ShellMakesItAmongTheRecentDocumentsAndItIsCopied) {
   EXPECT_TRUE(rig.machine.Misuses().empty());
 }
 
-TEST_F(DesktopShortcutTest, PressedTwiceItIsThereOnce) {
+TEST_F(DesktopShortcutTest, TwoPressesMakeOneShortcut) {
   Press();
   rig.machine.PutShortcut(kOnDesktop, {.target = "D:\\Old\\QDIX.exe", .arguments = {}, .folder = {}});
   Press();
@@ -61,7 +61,7 @@ TEST_F(DesktopShortcutTest, PressedTwiceItIsThereOnce) {
   EXPECT_TRUE(rig.machine.Boxes().empty());
 }
 
-TEST_F(DesktopShortcutTest, WhereTheShellMakesNoneItIsWrittenDirectly) {
+TEST_F(DesktopShortcutTest, IsWrittenDirectlyIfTheShellMakesNone) {
   rig.machine.MakeNoRecentShortcuts();
   EXPECT_EQ(CallsOfAPress(),
             (Calls{"SpecialFolder(16)", "SpecialFolder(8)", "DeleteFileA(C:\\WINDOWS\\Recent\\Quondix.lnk)",
@@ -72,25 +72,25 @@ TEST_F(DesktopShortcutTest, WhereTheShellMakesNoneItIsWrittenDirectly) {
   EXPECT_EQ(rig.machine.ShortcutAt(kOnDesktop)->folder, "C:\\Program Files\\QDIX\\");
 }
 
-TEST_F(DesktopShortcutTest, RefusedCopyIsMadeUpForDirectly) {
+TEST_F(DesktopShortcutTest, IsWrittenDirectlyIfTheCopyIsRefused) {
   rig.machine.FailNextCall("SHFileOperationA");
   Press();
   EXPECT_EQ(TargetAt(kOnDesktop), kProgram);
 }
 
-TEST_F(DesktopShortcutTest, ShellWithoutRecentDocumentsGetsTheDirectOne) {
+TEST_F(DesktopShortcutTest, IsWrittenDirectlyWithoutRecentDocuments) {
   rig.machine.SetSpecialFolder(os::kRecentFolder, "");
-  // What a path put together from nothing would find.
+  // A path built from an empty folder would find this file.
   rig.machine.WriteFile("Quondix.lnk", "somebody's");
   const Calls calls = CallsOfAPress();
   EXPECT_TRUE(
       std::count(calls.begin(), calls.end(), "SHAddToRecentDocs(2, C:\\Program Files\\QDIX\\QDIX.exe)"))
-      << "the shell is asked all the same";
+      << "the shell is still asked";
   EXPECT_EQ(TargetAt(kOnDesktop), kProgram);
   EXPECT_EQ(rig.machine.ReadFile("Quondix.lnk"), "somebody's");
 }
 
-TEST_F(DesktopShortcutTest, ShellWithoutADesktopGetsNone) {
+TEST_F(DesktopShortcutTest, IsNotMadeWithoutADesktopFolder) {
   rig.machine.SetSpecialFolder(os::kDesktopFolder, "");
   Press();
   EXPECT_FALSE(rig.machine.ReadFile("Quondix.lnk").has_value());

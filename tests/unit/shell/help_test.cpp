@@ -1,4 +1,4 @@
-// Help: which topic each button opens, the one viewer, the manual, the first steps.
+// Help: which topic each button opens, the single viewer, the manual, the first steps.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -55,7 +55,7 @@ TEST_F(HelpTest, ButtonOfTheSwapFileTabHasTheLightBulb) {
   EXPECT_EQ(rig.program->SwapFile().Command20.PictureId(), screens::kLightBulbPicture);
 }
 
-TEST_F(HelpTest, ProgramInARootHasASingleSeparator) {
+TEST_F(HelpTest, ProgramInARootFolderUsesASingleSeparator) {
   rig.machine.SetModuleFileName("A:\\QDIX.exe");
   rig.machine.AddProgram("A:\\help.exe");
   rig.machine.WriteFile("A:\\help.htm", "manual");
@@ -88,7 +88,7 @@ TEST_F(HelpTest, OnlyTheExactTitleIsTheViewer) {
   EXPECT_EQ(rig.machine.GetSystem().windows.FindWindowA(nullptr, "Quondix Help - Notes"), other);
 }
 
-TEST_F(HelpTest, ViewerThatIsNotFoundIsStartedByItsNameInQuotationMarks) {
+TEST_F(HelpTest, ViewerNotFoundIsTriedAgainInQuotationMarks) {
   rig.Start();
   rig.machine.FailNextCall("CreateProcessA");
   PressOnTab(screens::kQuondixTab, "Command21");
@@ -96,7 +96,7 @@ TEST_F(HelpTest, ViewerThatIsNotFoundIsStartedByItsNameInQuotationMarks) {
   EXPECT_THAT(rig.machine.Boxes(), IsEmpty());
 }
 
-TEST_F(HelpTest, MissingViewerIsAnUntrappedErrorAndWhatIsTypedIsKept) {
+TEST_F(HelpTest, MissingViewerIsAnUntrappedErrorAndTypedTextIsKept) {
   rig.Start();
   rig.machine.RemoveProgram("C:\\Program Files\\QDIX\\help.exe");
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
@@ -112,7 +112,7 @@ TEST_F(HelpTest, MissingViewerIsAnUntrappedErrorAndWhatIsTypedIsKept) {
   EXPECT_EQ(rig.Stored("Settings", "LastTab"), "1");
 }
 
-TEST_F(HelpTest, ManualIsHandedToTheShellWhole) {
+TEST_F(HelpTest, ShellGetsTheFullPathOfTheManual) {
   rig.machine.WriteFile("C:\\Program Files\\QDIX\\help.htm", "manual");
   rig.Start();
   PressOnTab(screens::kAboutTab, "Command6");
@@ -120,7 +120,7 @@ TEST_F(HelpTest, ManualIsHandedToTheShellWhole) {
   EXPECT_THAT(rig.machine.StartedPrograms(), IsEmpty());
 }
 
-TEST_F(HelpTest, MissingManualIsTheShellsToReport) {
+TEST_F(HelpTest, MissingManualIsReportedByTheShell) {
   rig.Start();
   PressOnTab(screens::kAboutTab, "Command6");
   EXPECT_THAT(rig.machine.Boxes(), IsEmpty());
@@ -145,14 +145,14 @@ TEST(FirstHelp, WaitsForAWindowThatStartsHidden) {
   EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("C:\\Program Files\\QDIX\\help.exe 0"));
 }
 
-TEST(FirstHelp, DoesNotOpenOnAMachineThatKnowsTheProgram) {
+TEST(FirstHelp, DoesNotOpenOnAMachineThatHasRunTheProgram) {
   ProgramRig rig;
   rig.SetHasRunBefore();
   rig.Start();
   EXPECT_THAT(rig.machine.StartedPrograms(), IsEmpty());
 }
 
-TEST(FirstHelp, WithoutAViewerTheFirstStartShowsTheWindowAndNothingElse) {
+TEST(FirstHelp, WithoutAViewerTheFirstStartShowsOnlyTheWindow) {
   ProgramRig rig;
   rig.machine.RemoveProgram("C:\\Program Files\\QDIX\\help.exe");
   rig.Start();
@@ -162,10 +162,10 @@ TEST(FirstHelp, WithoutAViewerTheFirstStartShowsTheWindowAndNothingElse) {
   rig.machine.AddProgram("C:\\Program Files\\QDIX\\help.exe");
   rig.program->Window().Hide();
   rig.program->Window().Show();
-  EXPECT_THAT(rig.machine.StartedPrograms(), IsEmpty()) << "the first steps are for the first start";
+  EXPECT_THAT(rig.machine.StartedPrograms(), IsEmpty()) << "the first steps open only at the first start";
 }
 
-TEST(FirstHelp, OpensAlsoInAWindowThatAnotherProgramShows) {
+TEST(FirstHelp, AlsoOpensInAWindowThatAnotherProgramShows) {
   ProgramRig rig;
   rig.Store("Startup", "StartDisplay", "3");
   rig.Start();

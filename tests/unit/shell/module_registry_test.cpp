@@ -14,7 +14,7 @@ constexpr os::KeyHandle kRoot = os::kHkeyLocalMachine;
 class ModuleRegistry : public testing::Test {
  protected:
   ~ModuleRegistry() override {
-    EXPECT_EQ(machine.OpenKeyCount(), 0) << "every key is closed in the end";
+    EXPECT_EQ(machine.OpenKeyCount(), 0) << "a key is still open at the end";
     EXPECT_TRUE(machine.Misuses().empty());
   }
   void SetBytes(std::uint32_t type, const std::string& bytes) {
@@ -65,7 +65,7 @@ TEST_F(ModuleRegistry, OtherTypesReadAsEmpty) {
   EXPECT_EQ(Read(), "");
 }
 
-TEST_F(ModuleRegistry, MissingKeyOrValueReadsAsEmptyAndIsNotMade) {
+TEST_F(ModuleRegistry, MissingKeyOrValueReadsAsEmptyAndIsNotCreated) {
   EXPECT_EQ(Read(), "");
   EXPECT_FALSE(machine.KeyExists(kRoot, kKey));
   machine.CreateRegistryKey(kRoot, kKey);
@@ -101,7 +101,7 @@ TEST_F(ModuleRegistry, TextThatIsNoNumberOfSixteenBitsWritesNothing) {
   EXPECT_EQ(Stored()->bytes, std::string("\xFF\x7F\x00\x00", 4));
 }
 
-TEST_F(ModuleRegistry, DeleteMakesTheKeyAndRemovesTheValue) {
+TEST_F(ModuleRegistry, DeleteCreatesTheKeyAndRemovesTheValue) {
   registry.DeleteRegistryValue(kRoot, kKey, "V");
   EXPECT_TRUE(machine.KeyExists(kRoot, kKey));
   SetBytes(os::kRegSz, "x");
@@ -111,7 +111,7 @@ TEST_F(ModuleRegistry, DeleteMakesTheKeyAndRemovesTheValue) {
   EXPECT_EQ(machine.RegistryText(kRoot, kKey, "Other"), "y");
 }
 
-TEST_F(ModuleRegistry, TextGoesIntoAnExistingKeyOnly) {
+TEST_F(ModuleRegistry, TextIsWrittenOnlyIntoAnExistingKey) {
   registry.WriteRegistryText(kRoot, kKey, "", "Quondix");
   EXPECT_FALSE(machine.KeyExists(kRoot, kKey));
   machine.CreateRegistryKey(kRoot, kKey);
@@ -119,7 +119,7 @@ TEST_F(ModuleRegistry, TextGoesIntoAnExistingKeyOnly) {
   EXPECT_EQ(machine.RegistryText(kRoot, kKey, ""), "Quondix");
 }
 
-TEST_F(ModuleRegistry, SetValueExWritesTextsAndNumbersAndNothingElse) {
+TEST_F(ModuleRegistry, SetValueExWritesOnlyTextsAndNumbers) {
   os::KeyHandle key = 0;
   ASSERT_EQ(machine.GetSystem().registry.RegCreateKeyA(kRoot, kKey, key), os::kErrorSuccess);
   EXPECT_EQ(registry.SetValueEx(key, "V", os::kRegSz, "ab"), os::kErrorSuccess);
@@ -128,7 +128,7 @@ TEST_F(ModuleRegistry, SetValueExWritesTextsAndNumbersAndNothingElse) {
   EXPECT_EQ(Stored()->type, os::kRegDword);
   EXPECT_EQ(Stored()->bytes, "\xFE\xFF\xFF\xFF");
   EXPECT_EQ(registry.SetValueEx(key, "V", os::kRegBinary, "7"), os::kErrorSuccess);
-  EXPECT_EQ(Stored()->type, os::kRegDword) << "not written";
+  EXPECT_EQ(Stored()->type, os::kRegDword) << "the value was not written";
   machine.FailNextCall("RegSetValueExA");
   EXPECT_EQ(registry.SetValueEx(key, "V", os::kRegSz, "x"), os::kErrorAccessDenied);
   machine.GetSystem().registry.RegCloseKey(key);

@@ -1,4 +1,4 @@
-// A key that is open for as long as the object lives, and the texts in it.
+// A key that is open for the lifetime of its object, and the texts in it.
 #include "shell/registry_key.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@ namespace qdix::tests {
 namespace {
 
 constexpr const char* kKey = "SOFTWARE\\QDIX";
-/// Longest text that is read, its end counted.
+/// Longest text that is read, including its NUL.
 constexpr std::size_t kLongestBytes = 65536;
 
 class RegistryKeyText : public testing::Test {

@@ -1,4 +1,4 @@
-// Registry keys by their textual paths.
+// Registry keys by textual path.
 #include "shell/registry_paths.h"
 
 #include <gtest/gtest.h>
@@ -13,14 +13,14 @@ constexpr const char* kRun = "Software\\Microsoft\\Windows\\CurrentVersion\\Run"
 class RegistryPaths : public testing::Test {
  protected:
   ~RegistryPaths() override {
-    EXPECT_EQ(machine.OpenKeyCount(), 0) << "every key is closed in the end";
+    EXPECT_EQ(machine.OpenKeyCount(), 0) << "a key is still open at the end";
     EXPECT_TRUE(machine.Misuses().empty());
   }
-  /// Opens, closes, and tells whether that worked.
+  /// Opens the key, closes it, and returns whether that worked.
   bool Opens(const std::string& path) {
     const std::int32_t handle = paths.GetSubkeyHandle(path);
     if (handle == shell::RegistryPaths::kNoKey) return false;
-    EXPECT_EQ(machine.OpenKeyCount(), 1) << "the keys above are closed";
+    EXPECT_EQ(machine.OpenKeyCount(), 1) << "the parent keys are closed";
     EXPECT_FALSE(paths.CloseSubkey(handle));
     return true;
   }
@@ -43,13 +43,13 @@ TEST_F(RegistryPaths, RootInLowerCaseOpens) {
   EXPECT_TRUE(Opens("hkey_local_machine\\Software"));
 }
 
-TEST_F(RegistryPaths, DoubledSeparatorsAreAsSingleOnes) {
+TEST_F(RegistryPaths, DoubledSeparatorsCountAsSingleOnes) {
   machine.CreateRegistryKey(os::kHkeyCurrentUser, "Software\\A");
   EXPECT_TRUE(Opens("HKEY_CURRENT_USER\\\\Software\\\\\\A\\"));
   EXPECT_TRUE(Opens("\\HKEY_CURRENT_USER\\Software"));
 }
 
-TEST_F(RegistryPaths, BlanksAroundAreTrimmed) {
+TEST_F(RegistryPaths, SurroundingBlanksAreTrimmed) {
   machine.CreateRegistryKey(os::kHkeyUsers, "X Y");
   EXPECT_TRUE(Opens("  HKEY_USERS\\X Y  "));
 }
@@ -65,7 +65,8 @@ TEST_F(RegistryPaths, SixRootsAreKnown) {
       {"HKEY_LOCAL_MACHINE", 0x80000002U},    {"HKEY_USERS", 0x80000003U},
       {"HKEY_PERFORMANCE_DATA", 0x80000004U}, {"HKEY_CURRENT_CONFIG", 0x80000005U}};
   for (const auto& [name, handle] : roots) {
-    EXPECT_EQ(static_cast<std::uint32_t>(paths.GetSubkeyHandle(name)), handle) << "a bare root is itself";
+    EXPECT_EQ(static_cast<std::uint32_t>(paths.GetSubkeyHandle(name)), handle)
+        << "a bare root returns its own handle";
     machine.CreateRegistryKey(handle, "Below");
     EXPECT_TRUE(Opens(name + "\\Below")) << name;
   }
@@ -76,7 +77,7 @@ TEST_F(RegistryPaths, EmptyPathIsNoKey) {
   EXPECT_EQ(paths.GetSubkeyHandle("  \\\\ "), -1);
 }
 
-TEST_F(RegistryPaths, MissingElementClosesWhatWasOpened) {
+TEST_F(RegistryPaths, MissingElementClosesTheOpenedKeys) {
   machine.CreateRegistryKey(os::kHkeyLocalMachine, "Software\\A");
   EXPECT_EQ(paths.GetSubkeyHandle("HKEY_LOCAL_MACHINE\\Software\\A\\Missing\\B"), -1);
 }
@@ -99,7 +100,7 @@ TEST_F(RegistryPaths, CloseOfAClosedKeyReportsTheError) {
   machine.ForgetMisuses();
 }
 
-TEST_F(RegistryPaths, RegDeleteRemovesTheEntryOfTheProgramOnly) {
+TEST_F(RegistryPaths, RegDeleteRemovesOnlyTheEntryOfTheProgram) {
   machine.SetRegistryValue(os::kHkeyLocalMachine, kRun, "Quondix", "C:\\Q\\QDIX.exe");
   machine.SetRegistryValue(os::kHkeyLocalMachine, kRun, "Other", "x");
   EXPECT_EQ(paths.RegDelete(), "");
@@ -107,12 +108,12 @@ TEST_F(RegistryPaths, RegDeleteRemovesTheEntryOfTheProgramOnly) {
   EXPECT_EQ(machine.RegistryText(os::kHkeyLocalMachine, kRun, "Other"), "x");
 }
 
-TEST_F(RegistryPaths, RegDeleteMakesNoKey) {
+TEST_F(RegistryPaths, RegDeleteCreatesNoKey) {
   EXPECT_EQ(paths.RegDelete(), "");
   EXPECT_FALSE(machine.KeyExists(os::kHkeyLocalMachine, kRun));
 }
 
-TEST_F(RegistryPaths, CreateMakesTheKeyAndClosesIt) {
+TEST_F(RegistryPaths, CreateCreatesTheKeyAndClosesIt) {
   paths.CreateRegistryKey("SOFTWARE\\A\\B", os::kHkeyLocalMachine);
   EXPECT_TRUE(machine.KeyExists(os::kHkeyLocalMachine, "SOFTWARE\\A\\B"));
   machine.FailNextCall("RegCreateKeyExA");

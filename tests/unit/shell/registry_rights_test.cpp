@@ -1,5 +1,5 @@
-// The rights that each key of the registry is opened with: too many are refused to a user without them, too
-// few refuse what follows.
+// The access rights with which each registry key is opened. Requesting too many fails for a user who lacks
+// them; requesting too few makes later calls fail.
 #include <gtest/gtest.h>
 
 #include <set>
@@ -16,7 +16,7 @@ constexpr std::uint32_t kToWrite = 2;
 constexpr std::uint32_t kAllOfAPath = 63;
 constexpr std::uint32_t kToMakeAKey = 0xF003F;
 
-/// Every key that was opened or made, with its rights.
+/// Returns every key that was opened or created, with its rights.
 Texts Openings(const os::SimulatedMachine& machine, std::size_t first_call = 0) {
   Texts openings;
   for (std::size_t i = first_call; i < machine.Calls().size(); ++i) {
@@ -34,7 +34,7 @@ std::string Made(const std::string& path, std::uint32_t rights) {
 }
 std::string Store(const char* section) { return "HKCU\\" + ProgramRig::SectionPath(section); }
 
-TEST(RegistryRights, OfAFirstStartWithItsLoadTickAndClose) {
+TEST(RegistryRights, OfAFirstStartItsTickAndItsClose) {
   ProgramRig rig;
   rig.machine.SetCpuLoad(10);
   rig.machine.CreateRegistryKey(os::kHkeyLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Run");
@@ -56,7 +56,7 @@ TEST(RegistryRights, OfAFirstStartWithItsLoadTickAndClose) {
              "RegOpenKeyA(HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\FS Templates\\Quondix)"}));
 }
 
-TEST(RegistryRights, OfTheEntryThatIsRemoved) {
+TEST(RegistryRights, OfTheRemovedEntry) {
   TuningRig rig;
   rig.machine.SetRegistryValue(os::kHkeyLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Run",
                                "Quondix", "C:\\Program Files\\QDIX\\QDIX.exe");

@@ -1,5 +1,5 @@
-// Every call of the system that can fail is failed once, and from then on, while the program registers itself
-// to start with Windows, puts its shortcut on the desktop and opens its help.
+// Registers the program to start with Windows, puts its shortcut on the desktop and opens its help, for every
+// system call that can fail: with that call failing once, and with all calls failing from then on.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -17,7 +17,7 @@ constexpr const char* kInStartUp = "C:\\WINDOWS\\Start Menu\\Programs\\StartUp\\
 constexpr const char* kManual = "C:\\Program Files\\QDIX\\help.htm";
 constexpr const char* kForeignShortcut = "C:\\WINDOWS\\Start Menu\\Programs\\StartUp\\Other.lnk";
 constexpr const char* kMissingViewer = "Run-time error '53':\r\n\r\nFile not found";
-/// Shown when it cannot be read that the program has run before.
+/// Shown when the program cannot read that it has run before.
 constexpr const char* kFirstStart = "The Automatic free up function has been disabled on purpose";
 
 void PressAllHelpButtons(app::Form1& program) {
@@ -40,8 +40,9 @@ void PressAllHelpButtons(app::Form1& program) {
   }
 }
 
-/// Registers, with a shortcut in the StartUp folder besides; unregisters; registers again. A shortcut on the
-/// desktop by way of the recent documents, and one without. Every help button, with a viewer open at first.
+/// Registers, with a shortcut in the StartUp folder as well; unregisters; registers again. Makes one desktop
+/// shortcut through the recent documents, and one directly. Presses every help button, the first with a
+/// viewer open.
 void UseShell(ProgramRig& rig) {
   rig.SetHasRunBefore();
   rig.machine.CreateRegistryKey(os::kHkeyLocalMachine, kRunKey);
@@ -61,7 +62,7 @@ void UseShell(ProgramRig& rig) {
   rig.program->Window().Unload();
 }
 
-/// An icon that the taskbar does not take away on demand is out of the program's hands.
+/// An icon that the taskbar does not remove on request is out of the program's hands.
 bool RemovalOfIconWasAsked(const os::SimulatedMachine& machine) {
   const std::string request = "Shell_NotifyIconA(" + std::to_string(os::kNimDelete) + ",";
   return std::ranges::any_of(machine.Calls(), [&](const auto& call) { return call.starts_with(request); });
@@ -72,7 +73,7 @@ void ExpectSoundEnd(ProgramRig& rig, int call) {
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << call;
   EXPECT_TRUE(rig.machine.Misuses().empty()) << call;
   EXPECT_TRUE(rig.machine.TrayIconCount() == 0 || RemovalOfIconWasAsked(rig.machine)) << call;
-  // What the program registers is its own path or nothing, and other programs' entries stay.
+  // The program registers its own path or nothing, and other programs' entries stay.
   const auto entry = rig.machine.RegistryText(os::kHkeyLocalMachine, kRunKey, "Quondix");
   EXPECT_EQ(entry.value_or(kProgram), kProgram) << call;
   EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine, kRunKey, "Other"), "other.exe") << call;
@@ -85,7 +86,7 @@ void ExpectSoundEnd(ProgramRig& rig, int call) {
   }
 }
 
-/// Runs the session once for each call of the sound one, with the fault that `plan` sets up.
+/// Runs the session once for each call of the fault-free session, with the fault that `plan` sets up.
 template <class Plan>
 void RunWithFaults(const Plan& plan) {
   ProgramRig sound;
@@ -109,7 +110,7 @@ TEST(ShellFaults, EachCallFailedOnceLeavesNothingHalfRegistered) {
   RunWithFaults([](os::SimulatedMachine& machine, int call) { machine.FailCallNumber(call); });
 }
 
-TEST(ShellFaults, EachCallFailedFromThenOnLeavesNothingHalfRegistered) {
+TEST(ShellFaults, AllCallsFailedFromEachOnLeaveNothingHalfRegistered) {
   RunWithFaults([](os::SimulatedMachine& machine, int call) { machine.FailFromCallNumber(call); });
 }
 

@@ -1,4 +1,4 @@
-// Starting other programs: what each code of the system means to the program.
+// Starting other programs: what each error code of the system means to the program.
 #include "shell/start_program.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 namespace qdix::shell {
 namespace {
 
-/// A system that answers each start with one code.
+/// A system that returns the same code for each start.
 class AnsweringProcesses final : public os::Processes {
  public:
   explicit AnsweringProcesses(std::int32_t code) : code_(code) {}
@@ -26,7 +26,7 @@ int ErrorFor(std::int32_t code) {
   return StartProgram(processes, "defrag C:").Error().number;
 }
 
-TEST(StartProgram, HandsTheCommandLineToTheSystemAsItIs) {
+TEST(StartProgram, PassesTheCommandLineUnchanged) {
   os::SimulatedMachine machine;
   EXPECT_TRUE(StartProgram(machine.GetSystem().processes, "defrag  C:").Ok());
   EXPECT_EQ(machine.StartedPrograms(), std::vector<std::string>{"defrag  C:"});
@@ -41,12 +41,12 @@ TEST(StartProgram, MissingProgramIsError53) {
 
 TEST(StartProgram, ForbiddenProgramIsError70) { EXPECT_EQ(ErrorFor(os::kErrorAccessDenied), 70); }
 
-TEST(StartProgram, WhatIsNoProgramIsError5) {
+TEST(StartProgram, FileThatIsNoProgramIsError5) {
   constexpr std::int32_t kBadExeFormat = 193;
   EXPECT_EQ(ErrorFor(kBadExeFormat), 5);
 }
 
-TEST(StartProgram, EmptyTextIsError5AndNotHandedOn) {
+TEST(StartProgram, EmptyTextIsError5AndNotPassedOn) {
   os::SimulatedMachine machine;
   EXPECT_EQ(StartProgram(machine.GetSystem().processes, " ").Error(), base::kInvalidProcedureCall);
   EXPECT_TRUE(machine.Calls().empty());

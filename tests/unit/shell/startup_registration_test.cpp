@@ -41,14 +41,14 @@ TEST_F(StartupRegistrationTest, ShortcutInTheStartUpFolderCountsAndWritesTheEntr
   EXPECT_TRUE(Exists(kStartUpShortcut));
 }
 
-TEST_F(StartupRegistrationTest, EntryOfAnotherPlaceIsRepairedAtEachStart) {
+TEST_F(StartupRegistrationTest, EntryOfAnotherFolderIsRepairedAtEachStart) {
   SetEntry("D:\\Old\\QDIX.exe");
   StartOnTab();
   EXPECT_TRUE(Check2().Ticked());
   EXPECT_EQ(Entry(), kProgram);
 }
 
-TEST_F(StartupRegistrationTest, WithNeitherTheBoxIsClearAndAStaleShortcutGoes) {
+TEST_F(StartupRegistrationTest, WithNeitherTheBoxIsClearAndAStaleShortcutIsRemoved) {
   PutShortcut(kStaleShortcut);
   StartOnTab();
   EXPECT_FALSE(Check2().Ticked());
@@ -63,10 +63,10 @@ TEST_F(StartupRegistrationTest, StaleShortcutStaysWhileTheProgramIsRegistered) {
   EXPECT_TRUE(Exists(kStaleShortcut));
 }
 
-TEST_F(StartupRegistrationTest, ShellWithoutFoldersLeavesTheEntryToDecide) {
+TEST_F(StartupRegistrationTest, WithoutShellFoldersTheEntryDecides) {
   rig.machine.SetSpecialFolder(os::kStartupFolder, "");
   rig.machine.SetSpecialFolder(os::kStartMenuFolder, "");
-  // What a path put together from nothing would find.
+  // A path built from an empty folder would find this file.
   PutShortcut("Quondix.lnk");
   PutShortcut("Programs\\StartUp\\QDIX.exe.lnk");
   StartOnTab();
@@ -74,7 +74,7 @@ TEST_F(StartupRegistrationTest, ShellWithoutFoldersLeavesTheEntryToDecide) {
   EXPECT_TRUE(Exists("Programs\\StartUp\\QDIX.exe.lnk"));
 }
 
-TEST_F(StartupRegistrationTest, TickWritesTheBarePathAndClearRemovesEverything) {
+TEST_F(StartupRegistrationTest, TickWritesTheBarePathAndClearingRemovesEverything) {
   StartOnTab();
   Check2().Press();
   EXPECT_EQ(Entry(), kProgram);
@@ -87,7 +87,7 @@ TEST_F(StartupRegistrationTest, TickWritesTheBarePathAndClearRemovesEverything) 
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0);
 }
 
-TEST_F(StartupRegistrationTest, ClearWithNothingThereIsSilent) {
+TEST_F(StartupRegistrationTest, ClearingWithoutAnEntryIsSilent) {
   SetEntry(kProgram);
   StartOnTab();
   Check2().Press();
@@ -95,7 +95,7 @@ TEST_F(StartupRegistrationTest, ClearWithNothingThereIsSilent) {
   EXPECT_TRUE(rig.machine.Boxes().empty());
 }
 
-TEST_F(StartupRegistrationTest, EntryThatIsRefusedOnceGoesAtTheSecondTry) {
+TEST_F(StartupRegistrationTest, EntryNotRemovedAtFirstIsRemovedAtTheSecondTry) {
   SetEntry(kProgram);
   StartOnTab();
   rig.machine.FailNextCall("RegDeleteValueA");
@@ -103,7 +103,7 @@ TEST_F(StartupRegistrationTest, EntryThatIsRefusedOnceGoesAtTheSecondTry) {
   EXPECT_EQ(Entry(), std::nullopt);
 }
 
-TEST_F(StartupRegistrationTest, ClearRemovesTheShortcutOfTheProgramsOwnFileName) {
+TEST_F(StartupRegistrationTest, ClearingRemovesTheShortcutWithTheProgramsFileName) {
   rig.machine.SetModuleFileName("C:\\RAM\\MEMORY.EXE");
   SetEntry("C:\\RAM\\MEMORY.exe");
   PutShortcut("C:\\WINDOWS\\Start Menu\\Programs\\StartUp\\MEMORY.exe.lnk");
@@ -113,7 +113,7 @@ TEST_F(StartupRegistrationTest, ClearRemovesTheShortcutOfTheProgramsOwnFileName)
   EXPECT_FALSE(Exists("C:\\WINDOWS\\Start Menu\\Programs\\StartUp\\MEMORY.exe.lnk"));
 }
 
-TEST_F(StartupRegistrationTest, MissingRunKeyIsNotMade) {
+TEST_F(StartupRegistrationTest, MissingRunKeyIsNotCreated) {
   ProgramRig bare;
   bare.SetHasRunBefore();
   bare.Start().MainWindow().SSTab1.ChooseTab(screens::kStartupTab);
@@ -129,14 +129,14 @@ TEST_F(StartupRegistrationTest, FirstStartThatCouldNotRegisterShowsTheBoxClear) 
   EXPECT_FALSE(bare.program->Startup().Check2.Ticked());
 }
 
-TEST_F(StartupRegistrationTest, ProgramInARootHasASingleSeparator) {
+TEST_F(StartupRegistrationTest, ProgramInARootFolderUsesASingleSeparator) {
   rig.machine.SetModuleFileName("A:\\QDIX.exe");
   StartOnTab();
   Check2().Press();
   EXPECT_EQ(Entry(), "A:\\QDIX.exe");
 }
 
-TEST_F(StartupRegistrationTest, ProgramThatDoesNotKnowItsPathWritesNoEntry) {
+TEST_F(StartupRegistrationTest, ProgramWithoutAKnownPathWritesNoEntry) {
   StartOnTab();
   rig.machine.SetModuleFileName("");
   Check2().Press();

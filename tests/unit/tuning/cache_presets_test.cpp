@@ -37,7 +37,8 @@ TEST_P(AppliedPreset, SetsItsRowOfTheTable) {
   EXPECT_EQ(values.Value().directory_cache, GetParam().values.directory_cache);
 }
 
-// Worked out apart from the program; minimum, whether enabled, maximum, chunk, name and directory cache.
+// Worked out independently of the program: minimum, whether it is enabled, maximum, chunk, name and directory
+// cache.
 INSTANTIATE_TEST_SUITE_P(
     Table, AppliedPreset,
     testing::Values(Applied{16, "Standard System (Win95)", {512, false, 2048, 512, 2048, 64}},
@@ -78,7 +79,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Applied{512, "CD Writer (Win98/ME)", {49664, true, 49664, 512, 6144, 128}},
                     Applied{512, "Low Memory System (Win98/ME)", {512, false, 23552, 512, 337, 16}}));
 
-TEST(CachePresets, AreOfferedInTheirOrder) {
+TEST(CachePresets, AreOfferedInOrder) {
   std::vector<std::string_view> names;
   for (const tuning::CachePreset& preset : tuning::CachePresets()) names.push_back(preset.name);
   EXPECT_EQ(names, (std::vector<std::string_view>{
@@ -106,14 +107,14 @@ TEST(CachePresets, StayInsideTheRangesOfTheSlidersOnEveryMachine) {
   }
 }
 
-/// On a small machine two pairs have the same values.
+/// On a small machine two pairs of presets have the same values.
 std::string_view NameThatIsShown(std::string_view applied, double total_ram_mb) {
   if (total_ram_mb < 33 && applied == "Low Memory System (Win95)") return "Low Memory System (Win98/ME)";
   if (total_ram_mb < 33 && applied == "Multimedia (Win95)") return "Multimedia (Win98/ME)";
   return applied;
 }
 
-TEST(CachePresets, AreRecognisedOnEveryMachineWithTheTwoTiesOfSmallOnes) {
+TEST(CachePresets, AreRecognisedOnEveryMachineExceptForTwoTiesOnSmallOnes) {
   for (const double mb : kSizesMb) {
     for (const tuning::CachePreset& preset : tuning::CachePresets()) {
       EXPECT_EQ(tuning::RecogniseCachePreset(preset.For(mb).Value(), mb), NameThatIsShown(preset.name, mb))
@@ -149,7 +150,7 @@ TEST(CachePresets, ValuesOfAnotherMachineAreUserDefined) {
   EXPECT_EQ(tuning::RecogniseCachePreset(at_64, 128), "User-defined");
 }
 
-TEST(CachePresets, MemoryBeyondAllNumbersOverflowsAndIsRecognisedAsNothing) {
+TEST(CachePresets, MemoryBeyondAllLimitsOverflowsAndMatchesNoPreset) {
   EXPECT_EQ(tuning::FindCachePreset("Standard System (Win95)")->For(1e12).Error(), base::kOverflow);
   EXPECT_EQ(tuning::RecogniseCachePreset({512, false, 1024, 512, 2048, 64}, 1e12), "User-defined");
 }

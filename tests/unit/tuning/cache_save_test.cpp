@@ -1,5 +1,5 @@
-// "Save Settings" and "System Defaults" of the "Cache Settings" tab: what is asked, what is written, in which
-// order, byte for byte.
+// "Save Settings" and "System Defaults" of the "Cache Settings" tab: what is asked, and what is written in
+// which order, byte for byte.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -39,7 +39,7 @@ class CacheSaving : public testing::Test {
   TuningRig rig;
 };
 
-TEST_F(CacheSaving, NoWritesNothingNotEvenTheRecord) {
+TEST_F(CacheSaving, AnswerNoWritesNothingNotEvenTheRecord) {
   rig.WriteSystemIni("[vcache]\r\nMinFileCache=1024\r\n");
   Start();
   Tab().Combo2.Choose("Multimedia (Win95)");
@@ -53,7 +53,7 @@ TEST_F(CacheSaving, NoWritesNothingNotEvenTheRecord) {
   EXPECT_EQ(Value(kMachineKeyPath, "FirstSave"), "none");
 }
 
-TEST_F(CacheSaving, BoxThatWasNotAnsweredWritesNothing) {
+TEST_F(CacheSaving, UnansweredBoxWritesNothing) {
   Start();
   const std::size_t before = rig.machine.Calls().size();
   rig.machine.WhileBoxIsOpen([this] { rig.machine.EndBoxes(); });
@@ -99,7 +99,7 @@ TEST_F(CacheSaving, NameCacheOf337IsStoredAsItsFourBytes) {
   EXPECT_EQ(rig.ValueBytes(kOwnTemplatePath, "PathCache"), "3: 10 00 00 00");
 }
 
-TEST_F(CacheSaving, CaptionOfTheTemplateComesWithTheSecondSave) {
+TEST_F(CacheSaving, CaptionOfTheTemplateIsWrittenByTheSecondSave) {
   Start();
   Tab().Combo2.Choose("Power User (Win95)");
   Save({os::kIdYes, os::kIdNo});
@@ -108,7 +108,7 @@ TEST_F(CacheSaving, CaptionOfTheTemplateComesWithTheSecondSave) {
   EXPECT_EQ(rig.ValueBytes(kOwnTemplatePath, ""), "1: 51 75 6F 6E 64 69 78 20 53 65 74 74 69 6E 67 73 00");
 }
 
-TEST_F(CacheSaving, CaptionComesWithTheSecondSaveAlsoWhereTheFirstOnlyDeletes) {
+TEST_F(CacheSaving, SecondSaveWritesTheCaptionEvenIfTheFirstOnlyDeletes) {
   Start();
   Save({os::kIdYes, os::kIdNo});
   EXPECT_EQ(Value(kOwnTemplatePath, ""), "none");
@@ -117,7 +117,7 @@ TEST_F(CacheSaving, CaptionComesWithTheSecondSaveAlsoWhereTheFirstOnlyDeletes) {
   EXPECT_EQ(Value(kOwnTemplatePath, ""), "Quondix Settings");
 }
 
-TEST_F(CacheSaving, MachineWithoutTheTemplatesKeyNamesTheTemplateWithTheSecondSave) {
+TEST_F(CacheSaving, SecondSaveNamesTheTemplateEvenWithoutTheTemplatesKey) {
   ProgramRig bare;
   bare.SetHasRunBefore();
   bare.Start().MainWindow().SSTab1.ChooseTab(screens::kCacheTab);
@@ -130,7 +130,7 @@ TEST_F(CacheSaving, MachineWithoutTheTemplatesKeyNamesTheTemplateWithTheSecondSa
   }
 }
 
-TEST_F(CacheSaving, BoxesNotTickedRemoveTheEntriesAndStillNameTheTemplate) {
+TEST_F(CacheSaving, ClearBoxesRemoveTheEntriesAndStillNameTheTemplate) {
   rig.WriteSystemIni("[vcache]\r\nMinFileCache=1024\r\nMaxFileCache=4096\r\nChunkSize=512\r\nOther=1\r\n");
   rig.machine.SetRegistryBytes(os::kHkeyLocalMachine, kOwnTemplatePath, "NameCache", os::kRegBinary,
                                {0, '\x08', 0, 0});
@@ -217,7 +217,7 @@ TEST_F(CacheSaving, YesRestartsTheMachineAndEndsTheProgram) {
   EXPECT_EQ(rig.Stored("Settings", "LastTab"), "5");
 }
 
-TEST_F(CacheSaving, WindowThatClosesDuringTheQuestionWritesNothing) {
+TEST_F(CacheSaving, WindowClosedDuringTheQuestionWritesNothing) {
   Start();
   const std::size_t before = rig.machine.Calls().size();
   rig.machine.WhileBoxIsOpen([this] {
@@ -231,7 +231,7 @@ TEST_F(CacheSaving, WindowThatClosesDuringTheQuestionWritesNothing) {
   EXPECT_THAT(rig.BoxTexts(), ElementsAre(kQuestion));
 }
 
-// Wider sliders than the tab has: sizes beyond 16 bits are a run-time error, and nothing follows it.
+// With wider sliders than the tab has: sizes beyond 16 bits cause a run-time error, and nothing follows it.
 TEST_F(CacheSaving, EntriesBeyond16BitsAreAnOverflow) {
   rig.WriteSystemIni("[vcache]\r\nMinFileCache=1024\r\n");
   Start();
@@ -244,7 +244,7 @@ TEST_F(CacheSaving, EntriesBeyond16BitsAreAnOverflow) {
   EXPECT_TRUE(rig.program->Window().Unloaded());
 }
 
-TEST_F(CacheSaving, ProtectedFileStaysAsItIsAndNothingIsSaid) {
+TEST_F(CacheSaving, WriteProtectedFileStaysUnchangedSilently) {
   rig.WriteSystemIni("[vcache]\r\nMinFileCache=1024\r\n");
   rig.machine.ProtectFile(kSystemIniPath);
   Start();

@@ -1,4 +1,4 @@
-// The "Cache Settings" tab: what it reads, what a preset and a hand do to it.
+// The "Cache Settings" tab: what it reads, and what presets and the user change.
 #include <gtest/gtest.h>
 
 #include "tests/support/tuning_rig.h"
@@ -13,7 +13,7 @@ void StoreTemplate(TuningRig& rig, const char* name, const std::string& bytes) {
   rig.machine.SetRegistryBytes(os::kHkeyLocalMachine, kOwnTemplatePath, name, os::kRegBinary, bytes);
 }
 
-/// What the tab shows of one of its settings: value, whether it can be moved, caption.
+/// What the tab shows of one setting: value, whether it can be moved, caption.
 struct Shown {
   std::int32_t value;
   bool enabled;
@@ -71,7 +71,7 @@ TEST_F(CacheTab, PresetListHoldsThirteenEntriesInOrder) {
                                       "Low Memory System (Win95)", "Low Memory System (Win98/ME)"}));
 }
 
-TEST_F(CacheTab, SlidersReachFrom512To500KilobytesForEachMegabyte) {
+TEST_F(CacheTab, SlidersReachFrom512To500KilobytesPerMegabyte) {
   Start();
   EXPECT_EQ(Tab().Slider1.Minimum(), 512);
   EXPECT_EQ(Tab().Slider1.Maximum(), 32000);
@@ -158,7 +158,7 @@ TEST_F(CacheTab, ChunkOutsideTheRangeIsSetAndClamped) {
   EXPECT_EQ(Chunk(), (Shown{4096, true, "Chunk Size : 4096 Kb"}));
 }
 
-TEST_F(CacheTab, ChunkBetweenTwoStepsIsShownAsItIs) {
+TEST_F(CacheTab, ChunkBetweenTwoStepsIsShownUnchanged) {
   rig.WriteSystemIni("[vcache]\r\nChunkSize=700\r\n");
   Start();
   EXPECT_EQ(Chunk(), (Shown{700, true, "Chunk Size : 700 Kb"}));
@@ -181,7 +181,7 @@ TEST_F(CacheTab, TemplateEntriesOutsideTheRangeAreClampedAndTheCaptionShowsTheSl
 }
 
 // Text, empty, longer and shorter than four bytes.
-TEST_F(CacheTab, TemplateEntriesOfAnyKindAreTaken) {
+TEST_F(CacheTab, TemplateEntriesOfAnyTypeAreRead) {
   rig.machine.SetRegistryValue(os::kHkeyLocalMachine, kOwnTemplatePath, "NameCache", "many");
   StoreTemplate(rig, "PathCache", "");
   Start();
@@ -209,7 +209,7 @@ TEST_F(CacheTab, PresetWithoutAMinimumSetsTheSliderAndLeavesItDisabled) {
   EXPECT_EQ(Max(), (Shown{10240, true, "Max Cache Size : 10240 Kb"}));
 }
 
-TEST_F(CacheTab, AfterAPresetTheBoxesMakeTheSettingsTheUsersOwn) {
+TEST_F(CacheTab, ChangingABoxAfterAPresetMakesItUserDefined) {
   for (const int number : {5, 6, 7, 8}) {
     rig.StartAt(screens::kCacheTab);
     Tab().Combo2.Choose("CD Writer (Win95)");
@@ -283,7 +283,7 @@ TEST_F(CacheTab, EachSliderShowsItsValueAndEndsThePreset) {
   EXPECT_EQ(Directories().caption, "Directory Cache : 9");
 }
 
-TEST_F(CacheTab, HandMovesTheChunkInStepsOf512) {
+TEST_F(CacheTab, UserMovesTheChunkInStepsOf512) {
   rig.WriteSystemIni("[vcache]\r\nChunkSize=700\r\n");
   Start();
   Tab().Slider3.Drag(1300);
@@ -300,7 +300,7 @@ TEST_F(CacheTab, UserDefinedChangesNothing) {
   EXPECT_EQ(Tab().Combo2.Text(), "User-defined");
 }
 
-TEST_F(CacheTab, NothingIsWrittenByLookingAndMoving) {
+TEST_F(CacheTab, ViewingAndMovingWritesNothing) {
   rig.WriteSystemIni("[vcache]\r\nMaxFileCache=2048\r\n");
   Start();
   const std::size_t before = rig.machine.Calls().size();
@@ -312,10 +312,10 @@ TEST_F(CacheTab, NothingIsWrittenByLookingAndMoving) {
   EXPECT_EQ(rig.SystemIni(), "[vcache]\r\nMaxFileCache=2048\r\n");
 }
 
-// Applied, saved, and the program started anew: for each preset on machines of every size.
+// Each preset on machines of every size: applied, saved, and read at the next start.
 class SavedPreset : public testing::TestWithParam<double> {
  protected:
-  /// What the tab names after the preset was saved and the program started anew.
+  /// Returns what the tab shows after the preset was saved and the program started again.
   static std::string AfterRestart(double ram_mb, std::string_view preset) {
     TuningRig rig(ram_mb);
     rig.StartAt(screens::kCacheTab);
@@ -326,7 +326,7 @@ class SavedPreset : public testing::TestWithParam<double> {
     return rig.program->Cache().Combo2.Text();
   }
 
-  /// The presets that have the values of another on small machines, and whose name wins.
+  /// The presets with the same values as another on small machines, and the name that is shown for them.
   static std::string_view Expected(double ram_mb, std::string_view preset) {
     const bool is_small = ram_mb < 33;
     if (is_small && preset == "Low Memory System (Win95)") return "Low Memory System (Win98/ME)";
@@ -401,8 +401,8 @@ TEST_F(MachineOf33Mb, DoesNotUseTheSmallSizes) {
   EXPECT_EQ(Max().value, 3072);
 }
 
-// Totals of 2 GB and more read negative: the sliders have one value only, and nothing breaks.
-TEST(CacheTabOnAHugeMachine, LeavesTheSlidersAtTheirSmallest) {
+// Totals of 2 GB and more read as negative: the sliders have only one value, and nothing breaks.
+TEST(CacheTabOnAHugeMachine, LeavesTheSlidersAtTheirMinimum) {
   TuningRig rig;
   rig.machine.SetMemory(0xF0000000U, 0x10000000U, 0xF0000000U, 0x10000000U);
   rig.WriteSystemIni("[vcache]\r\nMaxFileCache=2048\r\n");

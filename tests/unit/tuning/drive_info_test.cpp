@@ -38,7 +38,7 @@ TEST_F(DriveInfo, ExtendedQueryIsProbedOnDriveC) {
   EXPECT_FALSE(info.HasDiskFreeSpaceEx());
 }
 
-TEST_F(DriveInfo, ListIsLeftBehindTheLastDrive) {
+TEST_F(DriveInfo, ListEndsAfterTheLastDrive) {
   AddFixed('C', 0);
   AddFixed('D', 0);
   EXPECT_EQ(Listed().size(), 2U);
@@ -49,7 +49,7 @@ TEST_F(DriveInfo, ListIsLeftBehindTheLastDrive) {
   EXPECT_EQ(asked, (Texts{"GetDriveTypeA(C:\\)", "GetDriveTypeA(D:\\)"}));
 }
 
-TEST_F(DriveInfo, ExtendedQueryTellsWholeByteCountsOfAnySize) {
+TEST_F(DriveInfo, ExtendedQueryReturnsByteCountsOfAnySize) {
   AddFixed('D', 3 * kGigabyte + 1, 40 * kGigabyte);
   info.SetUseDiskFreeSpaceEx(true);
   tuning::DriveSpaceInfo space;
@@ -90,13 +90,13 @@ TEST_F(DriveInfo, VolumeOf2GigabytesOverflowsTheClassicQuery) {
   AddFixed('C', 1000, 2 * kGigabyte);
   tuning::DriveSpaceInfo space;
   EXPECT_EQ(info.GetDiskSpace("C:\\", space), 0);
-  EXPECT_EQ(space.total_clusters, 524288) << "filled as far as it went";
+  EXPECT_EQ(space.total_clusters, 524288) << "the record is filled up to the overflow";
   EXPECT_EQ(space.total_bytes, 0);
   AddFixed('C', 1000, 2 * kGigabyte - 4096);
   EXPECT_EQ(info.GetDiskSpace("C:\\", space), 1);
 }
 
-/// A driver that tells any figures.
+/// A driver that reports arbitrary figures.
 class TellingDrives final : public os::Drives {
  public:
   explicit TellingDrives(const os::DiskClusters& figures) : figures_(figures) {}
@@ -113,7 +113,7 @@ class TellingDrives final : public os::Drives {
   os::DiskClusters figures_;
 };
 
-TEST(DriveInfoOfAnyDriver, EachProductMayOverflowAndLeavesTheRestOut) {
+TEST(DriveInfoOfAnyDriver, EachProductMayOverflowAndSkipsTheRest) {
   const auto space_of = [](const os::DiskClusters& figures, std::int32_t result) {
     TellingDrives drives(figures);
     tuning::DriveInfo info(drives);
@@ -131,7 +131,7 @@ TEST(DriveInfoOfAnyDriver, EachProductMayOverflowAndLeavesTheRestOut) {
   EXPECT_EQ(space_of({65536, 16384, 1, 1}, 1), (Bytes{1073741824, 1073741824, 1073741824, 0}));
 }
 
-TEST_F(DriveInfo, FailedQueriesGiveNothing) {
+TEST_F(DriveInfo, FailedQueriesReturnNothing) {
   tuning::DriveSpaceInfo space;
   EXPECT_EQ(info.GetDiskSpace("Q:\\", space), 0);
   info.SetUseDiskFreeSpaceEx(true);
@@ -171,7 +171,7 @@ TEST_F(DriveInfo, StripNullCutsPieceByPiece) {
   EXPECT_EQ(text, "");
 }
 
-TEST_F(DriveInfo, StripNullWithoutANulGivesNothingAndLeavesTheText) {
+TEST_F(DriveInfo, StripNullWithoutANulReturnsNothingAndKeepsTheText) {
   std::string text = "abc";
   EXPECT_EQ(tuning::DriveInfo::StripNull(text), "");
   EXPECT_EQ(text, "abc");
@@ -192,7 +192,7 @@ TEST_F(DriveInfo, ListThatDoesNotFitIsEmpty) {
   EXPECT_EQ(Listed(), Texts{});
 }
 
-TEST_F(DriveInfo, ListThatFailsMakesItsPassesOverNothing) {
+TEST_F(DriveInfo, FailedListIsEmptyAfterAllItsPasses) {
   machine.FailNextCall("GetLogicalDriveStringsA");
   EXPECT_EQ(Listed(), Texts{});
   EXPECT_EQ(std::count(machine.Calls().begin(), machine.Calls().end(), "GetDriveTypeA()"), 27);
@@ -206,15 +206,15 @@ TEST_F(DriveInfo, FixedDrivesAreListedWithTheirFreeSpaceRoundedDown) {
   AddFixed('E', 1023999);
   machine.AddDrive('F', {.type = 5});
   EXPECT_EQ(Listed(), (Texts{"C:\\ 1234MB Free", "D:\\ 1MB Free", "E:\\ 0MB Free"}));
-  EXPECT_EQ(Listed().size(), 3U) << "filled anew, not added to";
+  EXPECT_EQ(Listed().size(), 3U) << "the list is refilled, not extended";
 }
 
-TEST_F(DriveInfo, VolumeThatCannotBeAskedIsListedAsItsBareRoot) {
+TEST_F(DriveInfo, UnreadableVolumeIsListedAsItsBareRoot) {
   machine.AddDrive('D', {.total_bytes = kGigabyte, .free_bytes = kGigabyte, .flags = std::nullopt});
   EXPECT_EQ(Listed(), Texts{"D:\\"});
 }
 
-TEST_F(DriveInfo, FailedSpaceQueryShowsNoneFreeAndNotThatOfTheDriveBefore) {
+TEST_F(DriveInfo, FailedSpaceQueryShowsNoFreeSpaceInsteadOfThePreviousDrives) {
   AddFixed('C', 512000000);
   AddFixed('D', 512000000, 4 * kGigabyte);
   EXPECT_EQ(Listed(), (Texts{"C:\\ 500MB Free", "D:\\ 0MB Free"}));

@@ -1,5 +1,5 @@
-// Figures of the tuning tabs that are cut where others are rounded, divided in a certain order, or compared
-// before others. Worked out apart from the program.
+// Figures of the tuning tabs that are truncated where others are rounded, divided in a certain order, or
+// compared first. They are worked out independently of the program.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -26,9 +26,9 @@ void PrintTo(const Share& share, std::ostream* out) {
 
 class SharesOfMemory : public testing::TestWithParam<Share> {};
 
-/// A share such as 767.744 KB counts as 767 before the nearest multiple of 512 is taken, which 768 would
-/// raise to the next one.
-TEST_P(SharesOfMemory, AreCutToWholeKilobytesFirst) {
+/// A share such as 767.744 KB is truncated to 767 before it is rounded to a multiple of 512; 768 would round
+/// up to the next one.
+TEST_P(SharesOfMemory, AreTruncatedToWholeKilobytesFirst) {
   const auto values = tuning::FindCachePreset(GetParam().preset)->For(GetParam().total_ram_mb);
   ASSERT_TRUE(values.Ok());
   EXPECT_EQ(values.Value().min_cache_kb, GetParam().min_kb);
@@ -52,7 +52,7 @@ void PrintTo(const SliderEnd& end, std::ostream* out) { *out << end.memory_bytes
 
 class SliderEnds : public testing::TestWithParam<SliderEnd> {};
 
-/// 500 KB for each 1,024,000 bytes: 2998.25, 2998.75, 2999.25 and 2999.75.
+/// 500 KB per 1,024,000 bytes: 2998.25, 2998.75, 2999.25 and 2999.75.
 TEST_P(SliderEnds, AreRounded) {
   ProgramRig rig(GetParam().memory_bytes);
   rig.SetHasRunBefore();
@@ -65,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(Bytes, SliderEnds,
                          testing::Values(SliderEnd{6140416, 2998}, SliderEnd{6141440, 2999},
                                          SliderEnd{6142464, 2999}, SliderEnd{6143488, 3000}));
 
-/// Maximum and chunk are not set here, but read as the preset has them.
+/// Maximum and chunk are not set here, but their values equal those of the preset.
 TEST(RecognisedPreset, DoesNotDependOnTheBoxesOfMaximumAndChunk) {
   TuningRig rig(5.998);
   using std::string_literals::operator""s;
@@ -79,8 +79,8 @@ TEST(RecognisedPreset, DoesNotDependOnTheBoxesOfMaximumAndChunk) {
   EXPECT_EQ(tab.Combo2.Text(), "Standard System (Win95)");
 }
 
-/// 44,032,000 bytes are 43 megabytes of memory, but a breath less of free space, which is divided in another
-/// order.
+/// 44,032,000 bytes are exactly 43 megabytes of memory, but slightly less of free space, which is divided in
+/// a different order.
 TEST(Megabytes, AreDividedInTheOrderOfTheirKind) {
   TuningRig rig;
   rig.machine.SetMemory(44032000, 22016000, 44032000, 22016000);
@@ -100,7 +100,7 @@ void PrintTo(const Room& room, std::ostream* out) { *out << room.free_mb << " MB
 
 class SuggestionRoom : public testing::TestWithParam<Room> {};
 
-/// With 64 MB the size is 192, and more than 292 have to be free: rounded, with ties to even.
+/// With 64 MB the size is 192, and more than 292 MB must be free, after rounding half to even.
 TEST_P(SuggestionRoom, IsTheRoundedFreeSpace) {
   TuningRig rig;
   rig.machine.AddDrive('C', {.total_bytes = FreeBytes(4000), .free_bytes = FreeBytes(GetParam().free_mb)});
@@ -118,8 +118,8 @@ INSTANTIATE_TEST_SUITE_P(Megabytes, SuggestionRoom,
                          testing::Values(Room{292.4, false}, Room{292.5, false}, Room{292.6, true},
                                          Room{293.4, true}));
 
-/// 10 MB are less than the memory, and with 19 more than the 20 that are free.
-TEST(SwapSizeThatIsRefusedTwice, IsToldToBeTooLow) {
+/// 10 MB are less than the memory, and 10 + 19 are also more than the 20 MB free.
+TEST(SwapSizeThatIsRefusedTwice, IsReportedAsTooLow) {
   TuningRig rig;
   rig.machine.AddDrive('C', {.total_bytes = FreeBytes(4000), .free_bytes = FreeBytes(20)});
   rig.StartAt(screens::kSwapFileTab);
@@ -140,7 +140,7 @@ void PrintTo(const PagingEntry& paging, std::ostream* out) { *out << paging.entr
 
 class PagingEntries : public testing::TestWithParam<PagingEntry> {};
 
-/// Blanks within quotation marks are part of what the system reads, and do not count.
+/// Blanks inside quotation marks are part of what the system reads, and do not count.
 TEST_P(PagingEntries, AreTrimmedAndComparedWithCase) {
   TuningRig rig;
   rig.WriteSystemIni(std::string("[386Enh]\r\n") + GetParam().entry + "\r\n");
@@ -156,8 +156,8 @@ INSTANTIATE_TEST_SUITE_P(Texts, PagingEntries,
                                          PagingEntry{"Paging=\" off \"", false},
                                          PagingEntry{"Paging=x", true}));
 
-/// Drives whose roots are told in small letters, one of them longer than a root, and on which the user may
-/// take less than is free.
+/// Drives whose roots are reported in small letters, one of them longer than a root. The user may use less
+/// than the free space.
 class OddDrives final : public os::Drives {
  public:
   std::int32_t GetDiskFreeSpaceExA(const char* /*root*/, os::DiskBytes& bytes) override {
@@ -183,7 +183,7 @@ class OddDrives final : public os::Drives {
   bool removable = false;
 };
 
-TEST(DriveFigures, RootsAreCutToThreeCapitalCharactersAndShowWhatIsFreeInAll) {
+TEST(DriveFigures, RootsAreCutToThreeCapitalsAndShowTheTotalFreeSpace) {
   OddDrives drives;
   tuning::DriveInfo info(drives);
   info.SetUseDiskFreeSpaceEx(true);

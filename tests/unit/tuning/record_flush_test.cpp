@@ -1,5 +1,5 @@
 // The record is on the disk before a tab changes anything else: after a crash there is no changed setting
-// without the record of what was there.
+// without a record of its old value.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -19,7 +19,7 @@ class RecordFlush : public testing::Test {
     first_call = rig.machine.Calls().size();
     rig.Answer({os::kIdYes, os::kIdNo});
   }
-  /// The calls of the save that change something or flush.
+  /// Returns the calls of the save that change something or flush.
   [[nodiscard]] std::vector<std::string> ChangesAndFlushes() const {
     std::vector<std::string> found;
     for (std::size_t call = first_call; call < rig.machine.Calls().size(); ++call) {

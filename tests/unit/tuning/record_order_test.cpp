@@ -1,4 +1,4 @@
-// The backup and the record of what was there before: taken first, and once.
+// The backup and the record of the old settings are made first, and only once.
 #include <gtest/gtest.h>
 
 #include "tests/support/tuning_rig.h"
@@ -6,7 +6,7 @@
 namespace qdix::tests {
 namespace {
 
-/// Which of the recorded calls since the given one begin with this text.
+/// Returns the indexes of the recorded calls from `first_call` on that begin with this text.
 std::vector<std::size_t> PlacesOf(const TuningRig& rig, const std::string& beginning,
                                   std::size_t first_call) {
   std::vector<std::size_t> places;
@@ -33,7 +33,7 @@ TEST(RecordOrder, ComesBeforeTheSwapFileIsLeftToWindows) {
   const auto writes = PlacesOf(rig, "WritePrivateProfileStringA(system.ini [386Enh]", before);
   ASSERT_FALSE(records.empty());
   ASSERT_EQ(questions.size(), 2U);
-  ASSERT_EQ(writes.size(), 4U) << "three entries removed, one written";
+  ASSERT_EQ(writes.size(), 4U) << "the save removes three entries and writes one";
   EXPECT_LT(records.back(), questions.front());
   EXPECT_LT(questions.front(), writes.front());
   EXPECT_LT(writes.back(), questions.back());
@@ -45,8 +45,8 @@ TEST(RecordOrder, ComesBeforeTheSwapFileIsLeftToWindows) {
             "102400");
 }
 
-/// A backup or record made by a second save would tell of the first one's settings.
-TEST(RecordOrder, BackupAndRecordThatFailedAreNotTriedAgainByTheNextSave) {
+/// A backup or record made by a second save would contain the first save's settings.
+TEST(RecordOrder, FailedBackupAndRecordAreNotRetriedByTheNextSave) {
   TuningRig rig;
   rig.WriteSystemIni("[vcache]\r\nMinFileCache=1024\r\n");
   rig.StartAt(screens::kCacheTab);

@@ -42,13 +42,13 @@ TEST_F(RestartTest, NoDoesNeither) {
   EXPECT_FALSE(form.Unloaded());
 }
 
-TEST_F(RestartTest, BoxThatWasNotAnsweredDoesNeither) {
+TEST_F(RestartTest, UnansweredBoxDoesNeither) {
   machine.WhileBoxIsOpen([this] { machine.EndBoxes(); });
   restart.Offer();
   EXPECT_EQ(machine.RestartCount(), 0);
 }
 
-TEST_F(RestartTest, RefusedRestartEndsTheProgramAllTheSame) {
+TEST_F(RestartTest, RefusedRestartStillEndsTheProgram) {
   machine.AnswerNextBox(os::kIdYes);
   machine.FailNextCall("ExitWindowsEx");
   restart.Offer();

@@ -1,4 +1,4 @@
-// The "Optimize Swapfile" tab: which set-up it derives from system.ini, what it proposes, how its size is
+// The "Optimize Swapfile" tab: which setup it derives from system.ini, what it proposes, and how its size is
 // edited.
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 namespace qdix::tests {
 namespace {
 
-/// Entries of [386Enh] and what the tab makes of them on a machine of 64 MB with 2,000 MB free on drive C.
+/// Entries of [386Enh] and what the tab shows for them on a machine of 64 MB with 2,000 MB free on drive C.
 struct Setup {
   const char* what;
   std::string entries;
@@ -99,7 +99,7 @@ INSTANTIATE_TEST_SUITE_P(
         Setup{"huge", "PagingDrive=C:\r\nMinPagingFileSize=1E300\r\nMaxPagingFileSize=1E300\r\n", 2, kC,
               "9.765625E+296", 32750}));
 
-/// A machine without entries, by memory and by what is free on its drive, in megabytes.
+/// A machine without entries, with its memory and the free space on its drive in megabytes.
 struct Machine {
   double ram_mb;
   double free_mb;
@@ -168,7 +168,7 @@ TEST_F(SwapTab, MachineWithoutAFixedDriveHasNoneToSelect) {
   EXPECT_TRUE(bare.machine.Boxes().empty());
 }
 
-TEST_F(SwapTab, ClassicQueryIsUsedWhereTheSystemHasNoOther) {
+TEST_F(SwapTab, ClassicQueryIsUsedIfTheSystemHasNoOther) {
   rig.machine.RemoveExtendedQuery();
   rig.machine.AddDrive('C', {.total_bytes = FreeBytes(1000), .free_bytes = FreeBytes(400)});
   rig.machine.AddDrive('D', {.total_bytes = std::uint64_t{1} << 31U, .free_bytes = FreeBytes(400)});
@@ -263,7 +263,7 @@ TEST_F(SwapTab, BarDoesNotMoveWhileItIsDisabled) {
   EXPECT_EQ(Tab().Text8.Text(), "192");
 }
 
-TEST_F(SwapTab, FractionOfAnotherSetupBecomesWholeWithTheFirstMove) {
+TEST_F(SwapTab, FractionOfAForeignSetupBecomesWholeWithTheFirstMove) {
   rig.WriteSystemIni(
       "[386Enh]\r\nPagingDrive=C:\r\nMinPagingFileSize=100000\r\nMaxPagingFileSize=100000\r\n");
   Start();
@@ -295,7 +295,7 @@ TEST_F(SwapTab, TextsOfTheTab) {
             "settings.");
 }
 
-TEST_F(SwapTab, NothingIsWrittenByLookingAndChoosing) {
+TEST_F(SwapTab, ViewingAndChoosingWritesNothing) {
   rig.WriteSystemIni("[386Enh]\r\nPagingDrive=C:\r\n");
   Start();
   const std::size_t before = rig.machine.Calls().size();

@@ -1,5 +1,5 @@
-// "Save Changes", the suggestion and the defragmenter of the "Optimize Swapfile" tab: what is asked, said and
-// written.
+// "Save Changes", the suggestion and the defragmenter of the "Optimize Swapfile" tab: questions, messages and
+// what is written.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -33,7 +33,7 @@ class SwapSaving : public testing::Test {
   explicit SwapSaving(double ram_mb = 64) : rig(ram_mb) {}
 
   screens::SwapFileScreen& Tab() { return rig.program->SwapFile(); }
-  /// Starts on a machine where the record has been taken.
+  /// Starts on a machine that already has the record.
   void StartWithRecord(const std::string& ini) {
     rig.machine.SetRegistryValue(os::kHkeyLocalMachine, kMachineKeyPath, "FirstSave", "1");
     Start(ini);
@@ -94,7 +94,7 @@ TEST_F(SwapSaving, SavedSetupIsShownAtTheNextStart) {
   EXPECT_EQ(Tab().Combo3.Text(), "C:\\ 2000MB Free");
 }
 
-TEST_F(SwapSaving, NoWritesNothingButTheRecord) {
+TEST_F(SwapSaving, AnswerNoWritesOnlyTheRecord) {
   Start(kOptimised);
   Save({os::kIdNo});
   EXPECT_THAT(rig.BoxTexts(), ElementsAre(kQuestion));
@@ -118,7 +118,7 @@ TEST_F(SwapSaving, RecordComesBeforeTheQuestion) {
 
 class SwapSavingOf : public SwapSaving, public testing::WithParamInterface<const char*> {};
 
-TEST_P(SwapSavingOf, EitherSetupOffersTheRestartWhenEverythingIsWritten) {
+TEST_P(SwapSavingOf, EitherSetupOffersTheRestartAfterEverythingIsWritten) {
   StartWithRecord(GetParam());
   std::vector<std::size_t> changes_at_boxes;
   rig.machine.WhileBoxIsOpen([&] { changes_at_boxes.push_back(Changes().size()); });
@@ -130,7 +130,7 @@ TEST_P(SwapSavingOf, EitherSetupOffersTheRestartWhenEverythingIsWritten) {
 
 INSTANTIATE_TEST_SUITE_P(Both, SwapSavingOf, testing::Values(kOptimised, "[386Enh]\r\nEMMExclude=A000\r\n"));
 
-TEST_F(SwapSaving, BoxThatWasNotAnsweredWritesNothing) {
+TEST_F(SwapSaving, UnansweredBoxWritesNothing) {
   StartWithRecord(kOptimised);
   rig.machine.WhileBoxIsOpen([this] { rig.machine.EndBoxes(); });
   Save();
@@ -188,8 +188,8 @@ TEST_F(SwapSaving, With500FreeASizeOf480IsAcceptedAnd481Refused) {
   EXPECT_TRUE(Changes().empty());
 }
 
-// The file counts megabytes of 1,048,576 bytes, the disk those of 1,024,000.
-TEST_F(SwapSaving, LargestSizeThatIsAcceptedCanExceedTheFreeSpace) {
+// The file size is in megabytes of 1,048,576 bytes, the free space in megabytes of 1,024,000.
+TEST_F(SwapSaving, LargestAcceptedSizeCanExceedTheFreeSpace) {
   SetFree(1000);
   StartWithRecord(kOptimised);
   SetSize("980");
@@ -198,7 +198,7 @@ TEST_F(SwapSaving, LargestSizeThatIsAcceptedCanExceedTheFreeSpace) {
   EXPECT_GT(1003520ULL * 1024, FreeBytes(1000));
 }
 
-// 499.5 rounds to the even 500, 500.5 to 500 as well.
+// 499.5 rounds to the even 500, and 500.5 also rounds to 500.
 TEST_F(SwapSaving, FreeSpaceIsRoundedHalfToEven) {
   StartWithRecord(kOptimised);
   for (const double free_mb : {499.5, 500.5}) {
@@ -209,7 +209,7 @@ TEST_F(SwapSaving, FreeSpaceIsRoundedHalfToEven) {
   }
 }
 
-TEST_F(SwapSaving, DriveThatCannotBeAskedRefusesEverySize) {
+TEST_F(SwapSaving, UnreadableDriveRefusesEverySize) {
   StartWithRecord(kOptimised);
   rig.machine.FailNextCall("GetDiskFreeSpaceExA");
   Save();
@@ -230,7 +230,7 @@ TEST_F(SwapSaving, EmptySizeIsRefusedAsTooLow) {
   EXPECT_THAT(Box(0), StartsWith("It is not very safe"));
 }
 
-// The size is still being edited when a key presses the button: what stands in the box counts.
+// The size is still being edited when a key presses the button: the text in the box counts.
 TEST_F(SwapSaving, FractionIsWrittenAsItsKilobytes) {
   StartWithRecord("[386Enh]\r\nPagingDrive=C:\r\nMinPagingFileSize=100000\r\nMaxPagingFileSize=100000\r\n");
   Tab().optSwap2.Press();
@@ -260,7 +260,7 @@ TEST_F(SwapSaving, WindowsDefaultWithNoWritesNothing) {
   EXPECT_TRUE(Changes().empty());
 }
 
-TEST_F(SwapSaving, WindowsDefaultRestartsWhereTheUserAgrees) {
+TEST_F(SwapSaving, WindowsDefaultRestartsIfTheUserAgrees) {
   StartWithRecord(kOptimised);
   Tab().optSwap1.Press();
   Save({os::kIdYes, os::kIdYes});
@@ -268,7 +268,7 @@ TEST_F(SwapSaving, WindowsDefaultRestartsWhereTheUserAgrees) {
   EXPECT_TRUE(rig.program->Window().Unloaded());
 }
 
-TEST_F(SwapSaving, OtherSetupIsLeftAlone) {
+TEST_F(SwapSaving, ForeignSetupIsLeftAlone) {
   Start("[386Enh]\r\nPagingDrive=C:\r\n");
   Save();
   EXPECT_THAT(rig.BoxTexts(), ElementsAre("No changes have been made to your virtual memory settings."));
@@ -277,7 +277,7 @@ TEST_F(SwapSaving, OtherSetupIsLeftAlone) {
   EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine, kMachineKeyPath, "FirstSave"), "1");
 }
 
-TEST_F(SwapSaving, ProtectedFileStaysAsItIs) {
+TEST_F(SwapSaving, WriteProtectedFileStaysUnchanged) {
   StartWithRecord(kOptimised);
   rig.machine.ProtectFile(kSystemIniPath);
   SetSize("200");
@@ -328,7 +328,7 @@ TEST_F(SwapSaving, SuggestionWithoutRoomLeavesItToWindows) {
   EXPECT_EQ(Tab().Text8.Text(), "128");
 }
 
-TEST_F(SwapSaving, SuggestionWithoutAnyDriveSpeaksOfOneDisk) {
+TEST_F(SwapSaving, SuggestionWithoutAnyDriveMentionsOneDisk) {
   rig.machine.AddDrive('C', {.type = 5});
   StartWithRecord("");
   Tab().optSwap2.Press();
@@ -345,7 +345,7 @@ TEST_F(SwapSaving, SuggestionWithoutAnyDriveSpeaksOfOneDisk) {
   EXPECT_TRUE(Tab().optSwap1.Selected());
 }
 
-TEST_F(SwapSaving, DefragmenterTakesTheProgramsPlace) {
+TEST_F(SwapSaving, DefragmenterReplacesTheProgram) {
   rig.machine.AddDrive('D', {.total_bytes = FreeBytes(9000), .free_bytes = FreeBytes(500)});
   StartWithRecord("[386Enh]\r\nPagingDrive=D:\r\n");
   rig.Answer({os::kIdOk});
@@ -375,7 +375,7 @@ TEST_F(SwapSaving, MissingDefragmenterIsARunTimeError) {
   EXPECT_TRUE(rig.program->Window().Unloaded());
 }
 
-// A size that the suggestion gives on a machine whose total reads negative does not fit the bar.
+// On a machine whose total reads as negative, the suggested size does not fit the bar.
 TEST_F(SwapSaving, SuggestionOnAMachineOf2GigabytesIsARunTimeError) {
   StartWithRecord(kOptimised);
   rig.machine.SetMemory(0xF0000000U, 0x10000000U, 0xF0000000U, 0x10000000U);

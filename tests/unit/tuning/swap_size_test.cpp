@@ -14,11 +14,11 @@ struct Proposal {
 
 class ProposedSwap : public testing::TestWithParam<Proposal> {};
 
-TEST_P(ProposedSwap, IsThreeTimesTheMemoryOrWhatIsFreeLessTen) {
+TEST_P(ProposedSwap, IsThreeTimesTheMemoryOrTheFreeSpaceMinusTen) {
   EXPECT_EQ(ProposedSwapMb(GetParam().ram_mb, GetParam().free_mb), GetParam().proposed_mb);
 }
 
-// The first free space is a thousandth of the size, the second one just above it.
+// With 1,000 MB of memory, 3 MB free are exactly a thousandth of the 3,000 MB; 4 MB are just above it.
 INSTANTIATE_TEST_SUITE_P(Table, ProposedSwap,
                          testing::Values(Proposal{64, 2000, 192}, Proposal{64, 1, 192}, Proposal{64, 0, -10},
                                          Proposal{31.9, 5, 95}, Proposal{1000, 3, -7},

@@ -1,4 +1,4 @@
-// Entries of system.ini, its backup, and the record of what stood there before the first change.
+// Entries of system.ini, its backup, and the record of its entries before the first change.
 #include "tuning/cache/system_ini.h"
 
 #include <gtest/gtest.h>
@@ -54,7 +54,7 @@ TEST_F(SystemIni, EntriesOf254AndMoreCharactersGive254) {
   }
 }
 
-TEST_F(SystemIni, WriteReplacesTheValueAndNothingElse) {
+TEST_F(SystemIni, WriteReplacesOnlyTheValue) {
   ini.WriteIniValue("vcache", "minfilecache", 1024, "System.ini");
   EXPECT_EQ(
       Content(),
@@ -63,7 +63,7 @@ TEST_F(SystemIni, WriteReplacesTheValueAndNothingElse) {
   EXPECT_EQ(machine.Calls().back(), "WritePrivateProfileStringA(System.ini [vcache] minfilecache 1024)");
 }
 
-TEST_F(SystemIni, DeleteRemovesTheLineAndNothingElse) {
+TEST_F(SystemIni, DeleteRemovesOnlyTheLine) {
   ini.DeleteIniValue("vcache", "chunksize", "system.ini");
   EXPECT_EQ(
       Content(),
@@ -71,14 +71,14 @@ TEST_F(SystemIni, DeleteRemovesTheLineAndNothingElse) {
       "[vcache]\r\nMinFileCache=2048\r\nmaxfilecache= 8192 KB\r\n");
 }
 
-TEST_F(SystemIni, RefusedWriteLeavesTheFileAndSaysNothing) {
+TEST_F(SystemIni, RefusedWriteLeavesTheFileSilently) {
   machine.ProtectFile(kIniPath);
   ini.WriteIniValue("vcache", "ChunkSize", 4096, "system.ini");
   ini.DeleteIniValue("vcache", "ChunkSize", "system.ini");
   EXPECT_EQ(Content(), kIni);
 }
 
-TEST_F(SystemIni, BackupIsTheSameBytesAndReplacesAnEarlierOne) {
+TEST_F(SystemIni, BackupHasTheSameBytesAndReplacesAnEarlierOne) {
   machine.WriteFile(kBackupPath, "old");
   ini.BackupSystemINI();
   EXPECT_EQ(machine.ReadFile(kBackupPath), kIni);
@@ -92,7 +92,7 @@ TEST_F(SystemIni, RootAsWindowsDirectoryGetsNoSecondSeparator) {
   EXPECT_EQ(machine.ReadFile("E:\\system.qdix"), "x");
 }
 
-TEST_F(SystemIni, BackupThatFailsSaysNothing) {
+TEST_F(SystemIni, FailedBackupIsSilent) {
   machine.FailNextCall("CopyFileA");
   ini.BackupSystemINI();
   EXPECT_EQ(machine.ReadFile(kBackupPath), std::nullopt);
@@ -106,7 +106,7 @@ struct Snapped {
   std::int32_t snapped_kb;
 };
 class VcacheValue : public testing::TestWithParam<Snapped> {};
-TEST_P(VcacheValue, IsTheNearestMultipleOf512WithTiesToTheEvenOne) {
+TEST_P(VcacheValue, IsTheNearestMultipleOf512WithTiesToEven) {
   const auto snapped = tuning::GetVCACHEValue(GetParam().size_kb);
   ASSERT_TRUE(snapped.Ok());
   EXPECT_EQ(snapped.Value(), GetParam().snapped_kb);
@@ -159,7 +159,7 @@ TEST_F(FirstSave, RecordIsOnTheDiskAtTheEnd) {
   EXPECT_EQ(machine.OpenKeyCount(), 0);
 }
 
-TEST_F(FirstSave, CopyOnAFullDiskLeavesAPart) {
+TEST_F(FirstSave, CopyOnAFullDiskLeavesAPartialFile) {
   machine.LimitFreeBytes(10);
   first_save.CheckFirstSave();
   EXPECT_EQ(machine.ReadFile(kBackupPath), std::string(kIni).substr(0, 10));
@@ -193,7 +193,7 @@ TEST_F(FirstSave, PagingEntryOfOneCharacterIsNotRecordedAndAnEmptyOneIs) {
   EXPECT_FALSE(Record().contains("OldMaxPagingFileSize"));
 }
 
-TEST_F(FirstSave, EveryFailedCallIsPassedOverAndNotTriedAgain) {
+TEST_F(FirstSave, EveryFailedCallIsIgnoredAndNotRetried) {
   first_save.CheckFirstSave();
   const int calls = machine.FaultableCallCount();
   for (int call = 1; call <= calls; ++call) {

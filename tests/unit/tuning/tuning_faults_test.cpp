@@ -1,5 +1,6 @@
-// Every call of the system that can fail is failed once, and from then on, while both tuning tabs are used.
-// Where the free space cannot be asked the suggestion is the system's default, which is then saved instead.
+// Uses both tuning tabs for every system call that can fail: with that call failing once, and with all calls
+// failing from then on. If the free space cannot be read, the suggestion is the system's default, which is
+// then saved instead.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -14,7 +15,7 @@ namespace {
 constexpr const char* kBefore =
     "[386Enh]\r\nEMMExclude=A000\r\nPaging=on\r\n[vcache]\r\nMinFileCache=1024\r\nOther=1\r\n";
 
-/// Every line that may stand in system.ini at the end: what was there, and what the session writes.
+/// Every line that may be in system.ini at the end: the original lines, and those that the session writes.
 constexpr std::array<const char*, 13> kSoundLines{"[386Enh]",
                                                   "EMMExclude=A000",
                                                   "Paging=on",
@@ -29,7 +30,7 @@ constexpr std::array<const char*, 13> kSoundLines{"[386Enh]",
                                                   "Other=1",
                                                   ""};
 
-/// Beginnings of every box that the session may show.
+/// How every box begins that the session may show.
 constexpr std::array<const char*, 10> kKnownBoxes{"Are you sure you want to set the virtual memory",
                                                   "Quondix has reset your virtual memory",
                                                   "Are you sure you want to save these new cache settings?",
@@ -41,7 +42,7 @@ constexpr std::array<const char*, 10> kKnownBoxes{"Are you sure you want to set 
                                                   "The Automatic free up function",
                                                   "Run-time error '53':"};
 
-/// Every question is answered with Yes but that for the restart.
+/// Answers Yes to every question except the one about the restart.
 void AnswerBoxes(TuningRig& rig) {
   rig.machine.WhileBoxIsOpen([&rig] {
     const std::string& text = rig.machine.Boxes().back().text;
@@ -69,7 +70,7 @@ void UseBothTabs(TuningRig& rig) {
   rig.program->Window().Unload();
 }
 
-/// Nothing else than whole lines of before and of after, and what the session does not touch is still there.
+/// Expects only complete old and new lines, and every line that the session does not touch.
 void ExpectSoundFile(const std::string& content, int call) {
   for (std::size_t begin = 0; begin < content.size();) {
     const std::size_t end = std::min(content.find("\r\n", begin), content.size());
@@ -82,7 +83,7 @@ void ExpectSoundFile(const std::string& content, int call) {
   EXPECT_NE(content.find("Other=1\r\n"), std::string::npos) << call;
 }
 
-/// Each value of the templates is what it was or what a session writes, whole.
+/// Expects each value of the templates to be complete, with its old content or with what a session writes.
 void ExpectSoundTemplate(const TuningRig& rig, int call) {
   const auto is_one_of = [&](const char* path, const char* name, std::initializer_list<const char*> sound) {
     const std::string bytes = rig.ValueBytes(path, name);
@@ -101,7 +102,7 @@ void ExpectSoundEnd(TuningRig& rig, int call) {
   EXPECT_TRUE(rig.machine.Misuses().empty()) << call;
   EXPECT_EQ(rig.machine.RestartCount(), 0) << call;
   ExpectSoundFile(rig.SystemIni(), call);
-  // The backup is missing where the copy failed, and is taken again where the record cannot be read.
+  // The backup is missing if the copy failed, and is made again if the record cannot be read.
   ExpectSoundFile(rig.machine.ReadFile(kBackupPath).value_or(kBefore), call);
   ExpectSoundTemplate(rig, call);
   for (const std::string& text : rig.BoxTexts()) {
@@ -111,8 +112,7 @@ void ExpectSoundEnd(TuningRig& rig, int call) {
   }
 }
 
-/// Gives both back to Windows: clears the boxes of the cache and saves, chooses the default swap file and
-/// saves.
+/// Returns both to Windows: clears the boxes of the cache and saves, chooses the default swap file and saves.
 void GoBackToDefaults(TuningRig& rig) {
   rig.WriteSystemIni(kBefore);
   rig.machine.SetRegistryBytes(os::kHkeyLocalMachine, kOwnTemplatePath, "NameCache", os::kRegBinary,
@@ -139,7 +139,7 @@ void PrintTo(const Scenario& scenario, std::ostream* out) { *out << scenario.nam
 
 class TuningFaults : public testing::TestWithParam<Scenario> {
  protected:
-  /// How many calls of an undisturbed run can fail; it also shows that the run does what it is for.
+  /// Returns how many calls of a fault-free run can fail, and checks that the run does what it is for.
   static int Calls() {
     TuningRig rig;
     GetParam().run(rig);
@@ -150,7 +150,7 @@ class TuningFaults : public testing::TestWithParam<Scenario> {
   }
 };
 
-TEST_P(TuningFaults, EachCallFailedOnceHurtsOnlyWhatItBelongsTo) {
+TEST_P(TuningFaults, EachCallFailedOnceAffectsOnlyItsOwnOperation) {
   const int calls = Calls();
   for (int call = 1; call <= calls; ++call) {
     TuningRig rig;
@@ -160,7 +160,7 @@ TEST_P(TuningFaults, EachCallFailedOnceHurtsOnlyWhatItBelongsTo) {
   }
 }
 
-TEST_P(TuningFaults, EachCallFailedFromThenOnHurtsOnlyWhatItBelongsTo) {
+TEST_P(TuningFaults, AllCallsFailedFromEachOnAffectOnlyTheirOwnOperations) {
   const int calls = Calls();
   for (int call = 1; call <= calls; ++call) {
     TuningRig rig;

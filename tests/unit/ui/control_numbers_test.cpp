@@ -34,7 +34,7 @@ struct Record {
   }
 };
 
-TEST(ControlNumbers, WalkVisitsContainersBeforeTheirContentsAndCountsOn) {
+TEST(ControlNumbers, WalkNumbersContainersBeforeTheirContents) {
   const Numbered demo;
   Record record;
   VisitControls(demo.form, ControlVisitor::To<&Record::Visit>(record));
@@ -43,10 +43,10 @@ TEST(ControlNumbers, WalkVisitsContainersBeforeTheirContentsAndCountsOn) {
   EXPECT_EQ(record.numbers, (std::vector<int>{1001, 1002, 1003, 1004, 1005, 1006, 1007}));
 }
 
-TEST(ControlNumbers, NumberIsFoundByNameAndZeroWithoutOne) {
+TEST(ControlNumbers, NumberIsFoundByNameAndIsZeroWithoutOne) {
   const Numbered demo;
   EXPECT_EQ(NumberOf(demo.form, "After"), 1005);
-  EXPECT_EQ(NumberOf(demo.form, "Form"), 0) << "the form itself has none";
+  EXPECT_EQ(NumberOf(demo.form, "Form"), 0) << "the form itself has no number";
   EXPECT_EQ(NumberOf(demo.form, "Nobody"), 0);
 }
 

@@ -1,5 +1,5 @@
-// What the handlers of a focus move may do while it is under way: move the focus themselves, put controls out
-// of reach, unload the form.
+// What handlers may do during a focus move: move the focus themselves, make controls unreachable, unload the
+// form.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -41,21 +41,21 @@ class FocusHandlers : public testing::Test {
   int validations = 0;
 };
 
-TEST_F(FocusHandlers, TakingTheFocusFromAllControlsValidatesAndTellsTheOneLeft) {
+TEST_F(FocusHandlers, TakingTheFocusFromAllControlsValidatesAndNotifiesTheOldControl) {
   EXPECT_TRUE(bench.form.MoveFocus(nullptr));
   EXPECT_EQ(bench.form.Focused(), nullptr);
   EXPECT_EQ(validations, 1);
   EXPECT_EQ(lost.count, 1);
 }
 
-TEST_F(FocusHandlers, ControlThatCannotBeReachedRefusesAndTheOneWithTheFocusKeepsIt) {
+TEST_F(FocusHandlers, UnreachableControlRefusesAndTheFocusStays) {
   target.SetEnabled(false);
   EXPECT_FALSE(bench.form.MoveFocus(&target));
   EXPECT_TRUE(left.HasFocus());
   EXPECT_EQ(validations, 0);
 }
 
-TEST_F(FocusHandlers, ControlThatGetsTheFocusTellsItsPeerBeforeItsHandlerRuns) {
+TEST_F(FocusHandlers, GotFocusNotifiesThePeerBeforeTheHandlerRuns) {
   NotingPeer peer;
   target.AttachPeer(&peer);
   got.action = [&] { EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kFocus})); };
@@ -71,7 +71,7 @@ TEST_F(FocusHandlers, ValidationCannotSendTheFocusToAThirdControl) {
   EXPECT_EQ(lost.count, 1);
 }
 
-TEST_F(FocusHandlers, ValidationThatDisablesTheTargetLeavesTheFocusNowhere) {
+TEST_F(FocusHandlers, ValidationThatDisablesTheTargetLeavesNoFocus) {
   on_validate = [&] { target.SetEnabled(false); };
   EXPECT_FALSE(bench.form.MoveFocus(&target));
   EXPECT_EQ(bench.form.Focused(), nullptr);
@@ -86,7 +86,7 @@ TEST_F(FocusHandlers, ValidationThatClosesItsOwnPageLosesTheFocusOnce) {
   EXPECT_TRUE(target.HasFocus());
 }
 
-TEST_F(FocusHandlers, RefusalOfAControlThatClosedItsOwnPageGivesItNoFocusBack) {
+TEST_F(FocusHandlers, RefusingControlThatClosedItsOwnPageDoesNotGetTheFocusBack) {
   NotingPeer peer;
   left.AttachPeer(&peer);
   answer = false;
@@ -154,7 +154,7 @@ TEST_F(FocusHandlers, PressingAButtonOrAnOptionMovesNoFocus) {
   EXPECT_EQ(validations, 0);
 }
 
-TEST_F(FocusHandlers, UsersTabValidatesBeforeThePageChanges) {
+TEST_F(FocusHandlers, TabChosenByTheUserValidatesBeforeThePageChanges) {
   int open_page = -1;
   on_validate = [&] { open_page = strip.Tab(); };
   strip.ChooseTab(1);
@@ -164,7 +164,7 @@ TEST_F(FocusHandlers, UsersTabValidatesBeforeThePageChanges) {
   EXPECT_TRUE(strip.HasFocus());
 }
 
-TEST_F(FocusHandlers, RefusedTabTellsTheStripsPeerToGoBack) {
+TEST_F(FocusHandlers, RefusedTabTellsThePeerOfTheStripToGoBack) {
   NotingPeer peer;
   strip.AttachPeer(&peer);
   answer = false;
@@ -172,7 +172,7 @@ TEST_F(FocusHandlers, RefusedTabTellsTheStripsPeerToGoBack) {
   EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kValue}));
 }
 
-TEST_F(FocusHandlers, UsersTabThatIsOpenOrDoesNotExistLeavesTheFocusAlone) {
+TEST_F(FocusHandlers, ChoosingAnOpenOrMissingTabLeavesTheFocusAlone) {
   for (const int index : {0, -1, 2}) {
     strip.ChooseTab(index);
     EXPECT_TRUE(left.HasFocus()) << index;

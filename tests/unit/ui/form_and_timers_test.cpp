@@ -48,7 +48,7 @@ TEST_F(FormRules, ActivatesAtTheFirstShowAndAtEachShowAfterHiding) {
   EXPECT_EQ(activated.count, 2);
 }
 
-TEST_F(FormRules, WindowThatOthersShowAndHideActivatesLikeTheFormsOwnAndIsLeftAlone) {
+TEST_F(FormRules, WindowShownByOthersActivatesLikeTheFormsOwnAndIsLeftAlone) {
   ui::EventDispatcher events;
   ui::Form form(events, {.name = "Form"});
   ui::Button inside{form, {.name = "Inside"}};
@@ -74,12 +74,12 @@ TEST_F(FormRules, WindowThatOthersShowAndHideActivatesLikeTheFormsOwnAndIsLeftAl
   EXPECT_EQ(activated.count, 2);
 }
 
-TEST_F(FormRules, UnloadAtOnceOvertakesAnUnloadThatItsHandlerHoldsUp) {
+TEST_F(FormRules, ImmediateUnloadOvertakesAnUnloadDelayedByItsHandler) {
   Handled unloading;
   unloading.action = [&] {
     if (unloading.count > 1) return;
     bench.form.Unload();
-    EXPECT_FALSE(bench.form.Unloaded()) << "the unload is still running";
+    EXPECT_FALSE(bench.form.Unloaded()) << "the handler of the unload is still running";
     bench.form.UnloadAtOnce();
     EXPECT_TRUE(bench.form.Unloaded());
   };
@@ -87,7 +87,7 @@ TEST_F(FormRules, UnloadAtOnceOvertakesAnUnloadThatItsHandlerHoldsUp) {
   bench.form.OnUnload = unloading.Handler();
   bench.form.Unload();
   EXPECT_EQ(unloading.count, 2);
-  EXPECT_EQ(bench.errors.size(), 1U) << "the first one came to its end after the stop";
+  EXPECT_EQ(bench.errors.size(), 1U) << "the first unload ended after the stop";
   bench.form.UnloadAtOnce();
   EXPECT_EQ(unloading.count, 2);
 }
@@ -118,10 +118,10 @@ TEST_F(FormRules, ClosingAsksAndUnloadingDoesNot) {
   EXPECT_TRUE(bench.form.Unloaded());
   EXPECT_EQ(unloaded.count, 1);
   bench.form.Close();
-  EXPECT_EQ(refusal.count, 2) << "asked after the end";
+  EXPECT_EQ(refusal.count, 2) << "the form was asked after the end";
   ControlBench other;
   other.form.Close();
-  EXPECT_TRUE(other.form.Unloaded()) << "nobody to ask";
+  EXPECT_TRUE(other.form.Unloaded()) << "there is no handler to ask";
 }
 
 TEST_F(FormRules, ShowingAShownFormBringsItsWindowToTheFront) {
@@ -131,7 +131,7 @@ TEST_F(FormRules, ShowingAShownFormBringsItsWindowToTheFront) {
   EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kVisible}));
 }
 
-TEST_F(FormRules, FocusThatLeavesIsValidatedBeforeItIsLost) {
+TEST_F(FormRules, LeavingFocusIsValidatedBeforeItIsLost) {
   box.SetFocus();
   on_validate = [&] { EXPECT_EQ(lost.count, 0); };
   button.SetFocus();
@@ -159,7 +159,7 @@ TEST_F(FormRules, HandlerThatPutsTheFocusBackKeepsIt) {
   EXPECT_TRUE(box.HasFocus());
 }
 
-TEST_F(FormRules, ErrorOfAValidationIsReportedAndLetsTheFocusGo) {
+TEST_F(FormRules, ValidationErrorIsReportedAndLetsTheFocusGo) {
   box.SetFocus();
   answer = base::kPathNotFound;
   EXPECT_TRUE(bench.form.MoveFocus(&button));
@@ -172,7 +172,7 @@ TEST_F(FormRules, FocusOnItselfValidatesNothing) {
   EXPECT_EQ(validations, 0);
 }
 
-TEST_F(FormRules, UnloadRunsItsHandlerOnceWhileHandlersStillRunAndThenNone) {
+TEST_F(FormRules, UnloadRunsItsHandlerOnceAndThenNoOther) {
   Handled changed;
   Handled unloaded;
   box.OnChange = changed.Handler();
@@ -210,7 +210,7 @@ class NotingFormPeer final : public ui::FormPeer {
   int unloads = 0;
 };
 
-TEST_F(FormRules, PeerHearsOfTheUnloadOnceAndAfterTheHandler) {
+TEST_F(FormRules, PeerIsNotifiedOfTheUnloadOnceAndAfterTheHandler) {
   NotingFormPeer peer;
   bench.form.AttachFormPeer(&peer);
   Handled unloaded;
@@ -225,7 +225,7 @@ TEST_F(FormRules, PeerHearsOfTheUnloadOnceAndAfterTheHandler) {
   EXPECT_EQ(peer.unloads, 1);
 }
 
-TEST_F(FormRules, FailingUnloadHandlerUnloadsAllTheSame) {
+TEST_F(FormRules, FailingUnloadHandlerStillUnloads) {
   Handled unloaded;
   unloaded.answer = base::kPathNotFound;
   bench.form.OnUnload = unloaded.Handler();
@@ -257,7 +257,7 @@ TEST_F(FormRules, UnloadedFormIsNeitherShownNorMinimised) {
   EXPECT_EQ(bench.form.State(), ui::WindowState::kNormal);
 }
 
-TEST_F(FormRules, PeerIsToldOfAStateFromCodeAndNotOfTheUsersOwn) {
+TEST_F(FormRules, PeerIsNotifiedOfAStateFromCodeNotFromTheUser) {
   NotingPeer peer;
   bench.form.AttachPeer(&peer);
   bench.form.SetState(ui::WindowState::kMinimised);
@@ -275,7 +275,7 @@ struct PointerLog {
   }
 };
 
-TEST_F(FormRules, PointersPlaceArrivesWithButtonAndShift) {
+TEST_F(FormRules, PointerPositionArrivesWithButtonAndShift) {
   PointerLog log;
   bench.form.OnMouseMove =
       base::Callback<base::Status(int, int, double, double)>::To<&PointerLog::Moved>(log);
@@ -318,7 +318,7 @@ TEST_F(Timers, TickAfterEachFullIntervalWhileEnabled) {
   EXPECT_EQ(ticked.count, 4);
 }
 
-TEST_F(Timers, NewIntervalAndFalseToTrueRestartTheCountAndTrueOntoTrueDoesNot) {
+TEST_F(Timers, NewIntervalAndFalseToTrueRestartTheCountAndTrueToTrueDoesNot) {
   timer.SetEnabled(true);
   clock.AdvanceMs(900);
   timer.SetEnabled(true);
@@ -346,7 +346,7 @@ TEST_F(Timers, IntervalOfZeroNeverTicks) {
   EXPECT_FALSE(timer.Running());
 }
 
-TEST_F(Timers, IntervalOutsideItsRangeIsRefusedAndNearestIsNot) {
+TEST_F(Timers, IntervalOutsideItsRangeIsRefusedUnlessTheNearestIsRequested) {
   EXPECT_EQ(timer.SetInterval(-1).Error(), base::kInvalidPropertyValue);
   EXPECT_EQ(timer.SetInterval(65536).Error(), base::kInvalidPropertyValue);
   EXPECT_EQ(timer.Interval(), 1000);
@@ -356,7 +356,7 @@ TEST_F(Timers, IntervalOutsideItsRangeIsRefusedAndNearestIsNot) {
   EXPECT_EQ(timer.Interval(), 0);
 }
 
-TEST_F(Timers, NeverTicksInsideItsOwnHandlerAndThoseTicksAreLost) {
+TEST_F(Timers, TicksDueInsideTheOwnHandlerAreLost) {
   ticked.action = [&] { clock.AdvanceMs(10000); };
   timer.SetEnabled(true);
   clock.AdvanceMs(1000);
@@ -379,7 +379,7 @@ TEST_F(Timers, OtherTimersTickInsideAHandler) {
     inside = other_ticked.count - before;
   };
   clock.AdvanceMs(1000);
-  EXPECT_EQ(inside, 4) << "at 1100, 1210, 1320 and 1430";
+  EXPECT_EQ(inside, 4) << "the ticks are at 1100, 1210, 1320 and 1430";
 }
 
 TEST_F(Timers, ElapsedCountOfAStoppedTimerIsNoTick) {
@@ -394,14 +394,14 @@ TEST_F(Timers, HandlerThatStopsItsTimerStopsIt) {
   EXPECT_EQ(ticked.count, 1);
 }
 
-TEST_F(Timers, FailingHandlerIsReportedAndTheTimerGoesOn) {
+TEST_F(Timers, FailingHandlerIsReportedAndTheTimerContinues) {
   ticked.answer = base::kOverflow;
   timer.SetEnabled(true);
   clock.AdvanceMs(2000);
   EXPECT_EQ(bench.errors, (std::vector<int>{6, 6}));
 }
 
-TEST_F(Timers, LongestIntervalIsTaken) {
+TEST_F(Timers, LongestIntervalIsAccepted) {
   EXPECT_TRUE(timer.SetInterval(ui::Timer::kLongestIntervalMs).Ok());
   timer.SetEnabled(true);
   clock.AdvanceMs(65534);
@@ -410,16 +410,16 @@ TEST_F(Timers, LongestIntervalIsTaken) {
   EXPECT_EQ(ticked.count, 1);
 }
 
-/// Counts how often a peer is told to count anew.
+/// Counts how often a peer is told to restart its count.
 struct RestartCounter final : ui::TimerPeer {
   void TimerRestarted(ui::Timer& /*timer*/) override { ++restarts; }
   int restarts = 0;
 };
 
-TEST_F(Timers, PeerIsToldOfEachNewCountAndOfEachStop) {
+TEST_F(Timers, PeerIsNotifiedOfEachRestartAndEachStop) {
   RestartCounter peer;
   timer.AttachPeer(&peer);
-  EXPECT_EQ(peer.restarts, 1) << "a timer may run already";
+  EXPECT_EQ(peer.restarts, 1) << "a timer may already be running";
   timer.SetEnabled(true);
   timer.SetEnabled(true);
   EXPECT_EQ(peer.restarts, 2);

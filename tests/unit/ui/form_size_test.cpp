@@ -1,5 +1,4 @@
-// Forms whose size the user can change, Enter and Esc where no button takes them, and controls that are
-// moved.
+// Resizable forms, Enter and Esc when no button takes them, and controls that move.
 #include <gtest/gtest.h>
 
 #include "tests/support/control_bench.h"
@@ -7,7 +6,7 @@
 namespace qdix::tests {
 namespace {
 
-TEST(FormSize, OnlyAFormWithASmallestSizeIsResizable) {
+TEST(FormSize, OnlyAFormWithAMinimumSizeIsResizable) {
   ControlBench bench;
   EXPECT_FALSE(bench.form.IsResizable());
   const ui::Form resizable(bench.events, {.name = "Form", .place = {0, 0, 200, 100}},
@@ -16,7 +15,7 @@ TEST(FormSize, OnlyAFormWithASmallestSizeIsResizable) {
   EXPECT_EQ(resizable.Smallest().height, 40);
 }
 
-TEST(FormSize, NewSizeIsThatOfThePlaceAndRunsTheHandlerOnce) {
+TEST(FormSize, NewSizeUpdatesThePlaceAndRunsTheHandlerOnce) {
   ControlBench bench;
   Handled resized;
   bench.form.OnResize = resized.Handler();
@@ -24,10 +23,10 @@ TEST(FormSize, NewSizeIsThatOfThePlaceAndRunsTheHandlerOnce) {
   EXPECT_EQ(bench.form.GetPlace(), (ui::Place{0, 0, 300, 200}));
   EXPECT_EQ(resized.count, 1);
   bench.form.UserResized({.width = 300, .height = 200});
-  EXPECT_EQ(resized.count, 1) << "it has that size already";
+  EXPECT_EQ(resized.count, 1) << "the form already has that size";
 }
 
-TEST(FormSize, BoundsFromCodeReachThePeerAndThoseOfTheUserDoNot) {
+TEST(FormSize, OnlyBoundsFromCodeReachThePeer) {
   ControlBench bench;
   NotingPeer peer;
   bench.form.AttachPeer(&peer);
@@ -56,7 +55,7 @@ TEST(FormSize, EscRunsItsHandler) {
   EXPECT_EQ(escaped.count, 1);
 }
 
-TEST(FormSize, ControlThatIsMovedTellsItsPeerOnce) {
+TEST(FormSize, MovedControlNotifiesItsPeerOnce) {
   ControlBench bench;
   ui::Button button(bench.form, {.name = "Command1", .place = {1, 2, 3, 4}});
   NotingPeer peer;
@@ -68,7 +67,7 @@ TEST(FormSize, ControlThatIsMovedTellsItsPeerOnce) {
   EXPECT_EQ(button.GetPlace(), (ui::Place{5, 2, 3, 4}));
 }
 
-TEST(FormSize, EnterInATextBoxRunsItsHandlerWhereAHandCanReachIt) {
+TEST(FormSize, EnterInATextBoxRunsItsHandlerIfTheUserCanReachIt) {
   ControlBench bench;
   ui::TextBox box(bench.form, {.name = "Text1"});
   Handled entered;

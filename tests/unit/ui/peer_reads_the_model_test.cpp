@@ -1,5 +1,5 @@
-// At each change that a peer is told of, the model already has its new state: the peer copies it to the
-// window.
+// The model already has its new state when it notifies a peer of a change, because the peer copies that state
+// to the window.
 #include <gtest/gtest.h>
 
 #include "controls/meter3.h"
@@ -9,7 +9,7 @@
 namespace qdix::tests {
 namespace {
 
-/// Reads the model as a window would, at each change.
+/// Reads the model at each change, as a window would.
 class ReadingPeer final : public ui::ControlPeer {
  public:
   explicit ReadingPeer(std::function<std::string()> read) : read_(std::move(read)) {}
@@ -27,7 +27,7 @@ class PeerReadsTheModel : public testing::Test {
   ControlBench bench;
 };
 
-TEST_F(PeerReadsTheModel, WhatEveryControlHas) {
+TEST_F(PeerReadsTheModel, CommonPropertiesOfControls) {
   ui::Label label(bench.form, {.name = "Label", .caption = "old", .place = {1, 1, 1, 1}});
   ReadingPeer peer([&label] {
     return label.Caption() + (label.Enabled() ? " enabled" : " disabled") +
@@ -211,7 +211,7 @@ TEST_F(PeerReadsTheModel, BeforeTheHandlerRuns) {
   EXPECT_EQ(told, (std::vector<std::size_t>{1, 2, 3, 4, 5}));
 }
 
-TEST_F(PeerReadsTheModel, TabIsOpenAndTheFocusGoneBeforeItsHandlerRuns) {
+TEST_F(PeerReadsTheModel, TabIsOpenAndTheFocusHasLeftBeforeItsHandlerRuns) {
   constexpr ui::Design kPages[] = {{.name = "One"}, {.name = "Two"}};
   ui::TabStrip strip(bench.form, {.name = "Tabs"}, kPages);
   ui::Button button(strip.Page(0), {.name = "Button"});
@@ -237,7 +237,7 @@ TEST_F(PeerReadsTheModel, TabIsOpenAndTheFocusGoneBeforeItsHandlerRuns) {
   EXPECT_EQ(order, (Seen{"told", "lost", "opened"}));
 }
 
-TEST_F(PeerReadsTheModel, WindowGoesWhenTheFormIsUnloadedAndNoHandlerRunsAnyMore) {
+TEST_F(PeerReadsTheModel, WindowIsRemovedAfterTheUnloadAndTheLastHandler) {
   struct Window final : ui::FormPeer {
     explicit Window(const ui::Form& its_form) : form(its_form) {}
     void PopUp(ui::MenuItem& /*menu*/) override {}
@@ -250,7 +250,7 @@ TEST_F(PeerReadsTheModel, WindowGoesWhenTheFormIsUnloadedAndNoHandlerRunsAnyMore
   EXPECT_TRUE(window.was_over);
 }
 
-/// Reads a timer as the system's timer would be set.
+/// Reads the values with which the system's timer would be set.
 struct ReadingTimerPeer final : ui::TimerPeer {
   void TimerRestarted(ui::Timer& timer) override {
     seen.push_back(std::to_string(timer.Interval()) + (timer.Running() ? " runs" : " rests"));

@@ -14,7 +14,7 @@ class Ranges : public testing::Test {
   Handled changed;
 };
 
-TEST_F(Ranges, ScrollBarStartsAtItsLowestValueAlsoWhenItIsInverted) {
+TEST_F(Ranges, ScrollBarStartsAtItsLowestValueEvenIfInverted) {
   EXPECT_EQ(ui::VerticalScrollBar(bench.form, {.name = "A"}, {.minimum = 3, .maximum = 9}).Value(), 3);
   EXPECT_EQ(ui::VerticalScrollBar(bench.form, {.name = "B"}, {.minimum = 20, .maximum = 1}).Value(), 1);
 }
@@ -45,7 +45,7 @@ TEST_F(Ranges, NarrowerRangeMovesTheValueWithoutFiring) {
   EXPECT_EQ(changed.count, 0);
 }
 
-TEST_F(Ranges, HandStepsPagesAndDragsInsideTheRange) {
+TEST_F(Ranges, UserStepsPagesAndDragsInsideTheRange) {
   ui::VerticalScrollBar bar(bench.form, {.name = "Bar"},
                             {.minimum = 0, .maximum = 100, .small_change = 5, .large_change = 10});
   bar.OnChange = changed.Handler();
@@ -60,7 +60,7 @@ TEST_F(Ranges, HandStepsPagesAndDragsInsideTheRange) {
   EXPECT_EQ(changed.count, 4);
 }
 
-TEST_F(Ranges, UpOnAnInvertedBarIncreases) {
+TEST_F(Ranges, UpArrowOfAnInvertedBarIncreases) {
   ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 32750, .maximum = 0, .small_change = 5});
   bar.Step(-1);
   EXPECT_EQ(bar.Value(), 5);
@@ -104,7 +104,7 @@ TEST_F(Ranges, SliderIsClampedAndFiresForTheUsersMovesOnly) {
   EXPECT_EQ(moves.values.size(), 2U);
 }
 
-TEST_F(Ranges, SliderOfStepsIsMovedToTheNearestStepByAHandOnly) {
+TEST_F(Ranges, OnlyTheUserMovesASliderOfStepsToTheNearestStep) {
   ui::Slider slider(bench.form, {.name = "Slider"},
                     {.minimum = 512, .maximum = 4096, .value = 700, .step = 512});
   EXPECT_EQ(slider.Value(), 700);
@@ -120,22 +120,22 @@ TEST_F(Ranges, SliderOfStepsIsMovedToTheNearestStepByAHandOnly) {
   EXPECT_EQ(slider.Value(), 4096);
 }
 
-TEST_F(Ranges, SlidersFirstValueLiesInsideItsRange) {
+TEST_F(Ranges, InitialValueOfASliderIsInsideItsRange) {
   EXPECT_EQ(ui::Slider(bench.form, {.name = "A"}, {.minimum = 512, .maximum = 4096}).Value(), 512);
   EXPECT_EQ(ui::Slider(bench.form, {.name = "B"}, {.minimum = 1, .maximum = 5, .value = 9}).Value(), 5);
 }
 
-TEST_F(Ranges, SlidersNewRangeMovesTheValueToItsNearestEnd) {
+TEST_F(Ranges, NewRangeOfASliderMovesTheValueToTheNearestEnd) {
   ui::Slider slider(bench.form, {.name = "Slider"}, {.minimum = 0, .maximum = 100, .value = 50});
   slider.SetMinimum(60);
   EXPECT_EQ(slider.Value(), 60);
   slider.SetMaximum(30);
-  EXPECT_EQ(slider.Value(), 60) << "a minimum above the maximum is the only value";
+  EXPECT_EQ(slider.Value(), 60) << "with a minimum above the maximum, the minimum is the only value";
   slider.SetMinimum(10);
   EXPECT_EQ(slider.Value(), 30);
 }
 
-/// Notes which value a peer would find at each change.
+/// Records the value that a peer would find at each change.
 class ValueReader final : public ui::ControlPeer {
  public:
   void ControlChanged(ui::Control& control, ui::Change change) override {
@@ -158,7 +158,7 @@ TEST_F(Ranges, PeerOfASliderFindsTheValueInsideTheNewRange) {
   EXPECT_EQ(reader.values, (std::vector<std::int32_t>{40, 7}));
 }
 
-TEST_F(Ranges, PeerOfAScrollBarIsToldOfARangeOnlyWhenItIsNew) {
+TEST_F(Ranges, PeerOfAScrollBarIsNotifiedOnlyOfANewRange) {
   ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 1, .maximum = 20});
   NotingPeer peer;
   bar.AttachPeer(&peer);
@@ -182,7 +182,7 @@ TEST_F(Ranges, UnreachableBarAndSliderDoNotMove) {
   EXPECT_EQ(slider.Value(), 0);
 }
 
-TEST_F(Ranges, StepsAndPagesOfAnyNumberStopAtTheEnds) {
+TEST_F(Ranges, AnyNumberOfStepsAndPagesStopsAtTheEnds) {
   constexpr std::int32_t kMost = 0x7FFFFFFF;
   ui::VerticalScrollBar bar(
       bench.form, {.name = "Bar"},
@@ -218,7 +218,7 @@ class Tabs : public testing::Test {
   std::vector<int> left;
 };
 
-TEST_F(Tabs, ClickCarriesTheTabThatWasLeft) {
+TEST_F(Tabs, ClickReportsThePreviousTab) {
   EXPECT_TRUE(strip.SetTab(2).Ok());
   EXPECT_TRUE(strip.SetTab(2).Ok());
   strip.ChooseTab(1);
@@ -233,7 +233,7 @@ TEST_F(Tabs, PageThatDoesNotExistIsRefused) {
   EXPECT_TRUE(left.empty());
 }
 
-TEST_F(Tabs, ControlsOfAClosedPageAreOutOfReach) {
+TEST_F(Tabs, ControlsOfAClosedPageAreUnreachable) {
   ui::Button button(strip.Page(1), {.name = "Button"});
   EXPECT_FALSE(button.Reachable());
   strip.ChooseTab(1);
@@ -250,7 +250,7 @@ TEST_F(Tabs, RefusingControlKeepsItsPageOpenAndTheFocus) {
   EXPECT_TRUE(left.empty());
 }
 
-TEST_F(Tabs, TabFromCodeTakesTheFocusFromThePageLeftWithoutAsking) {
+TEST_F(Tabs, TabOpenedByCodeTakesTheFocusFromTheOldPageWithoutAsking) {
   ui::TextBox box(strip.Page(0), {.name = "Text"});
   box.OnValidate = base::Callback<base::Result<bool>()>::To<&Tabs::Refuse>(*this);
   Handled lost;
@@ -273,7 +273,7 @@ class Menus : public testing::Test {
   Handled clicked;
 };
 
-TEST_F(Menus, ChoiceRunsTheEntryAndNothingElseDoes) {
+TEST_F(Menus, OnlyChoosingRunsAnEntry) {
   for (ui::MenuItem* item : {&entry, &bar, &sub, &first}) item->OnClick = clicked.Handler();
   entry.Choose();
   first.Choose();
@@ -314,7 +314,7 @@ TEST_F(Menus, RootMenuCanBeHidden) {
   EXPECT_FALSE(menu.Visible());
 }
 
-TEST_F(Menus, EntriesStandInTheOrderOfTheirMaking) {
+TEST_F(Menus, EntriesAreInOrderOfCreation) {
   EXPECT_EQ(menu.Children(), (std::vector<ui::MenuItem*>{&entry, &bar, &sub}));
 }
 

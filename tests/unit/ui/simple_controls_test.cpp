@@ -1,4 +1,4 @@
-// Check box, option button, button, and what every control has.
+// Check box, option button, button, and the properties common to all controls.
 #include <gtest/gtest.h>
 
 #include "tests/support/control_bench.h"
@@ -12,7 +12,7 @@ class SimpleControls : public testing::Test {
   Handled clicked;
 };
 
-TEST_F(SimpleControls, CheckBoxFiresWhenItsValueChangesAndNotOtherwise) {
+TEST_F(SimpleControls, CheckBoxFiresOnlyWhenItsValueChanges) {
   ui::CheckBox box(bench.form, {.name = "Box"});
   box.OnClick = clicked.Handler();
   EXPECT_TRUE(box.SetValue(1).Ok());
@@ -70,7 +70,7 @@ TEST_F(SimpleControls, PressTicksAClearBoxAndClearsAnyOther) {
   EXPECT_EQ(box.Value(), 0);
 }
 
-TEST_F(SimpleControls, OptionsOfOneContainerExcludeEachOtherSilently) {
+TEST_F(SimpleControls, OptionsOfOneContainerAreExclusiveAndClearedSilently) {
   ui::Frame frame(bench.form, {.name = "Frame"});
   ui::Frame other(bench.form, {.name = "Other"});
   ui::OptionButton a(frame, {.name = "A"});
@@ -90,7 +90,7 @@ TEST_F(SimpleControls, OptionsOfOneContainerExcludeEachOtherSilently) {
   EXPECT_EQ(a_clicked.count, 1);
   EXPECT_EQ(b_clicked.count, 1);
   b.SetSelected(false);
-  EXPECT_EQ(b_clicked.count, 1) << "clearing fires nothing";
+  EXPECT_EQ(b_clicked.count, 1) << "clearing fires no event";
 }
 
 TEST_F(SimpleControls, OptionsHandlerSeesTheOthersCleared) {
@@ -136,7 +136,7 @@ INSTANTIATE_TEST_SUITE_P(
         Obstacle{"form unloaded",
                  [](ControlBench& bench, ui::Frame&, ui::Button&) { bench.form.Unload(); }}));
 
-TEST_F(SimpleControls, PeerIsToldWhatChangedAndOnlyThen) {
+TEST_F(SimpleControls, PeerIsNotifiedOfEachChangeAndNothingElse) {
   ui::Label label(bench.form, {.name = "Label", .caption = "a"});
   NotingPeer peer;
   label.AttachPeer(&peer);
@@ -153,7 +153,7 @@ TEST_F(SimpleControls, PeerIsToldWhatChangedAndOnlyThen) {
                                                    ui::Change::kVisible, ui::Change::kColour}));
 }
 
-TEST_F(SimpleControls, DisablingAFrameTellsThePeersOfWhatStandsInIt) {
+TEST_F(SimpleControls, DisablingAFrameNotifiesThePeersInsideIt) {
   ui::Frame frame(bench.form, {.name = "Frame"});
   ui::Button button(frame, {.name = "Button"});
   NotingPeer peer;
@@ -164,7 +164,7 @@ TEST_F(SimpleControls, DisablingAFrameTellsThePeersOfWhatStandsInIt) {
   EXPECT_FALSE(button.EffectivelyEnabled());
 }
 
-TEST_F(SimpleControls, FieldsForTextAndListsAreWhiteAndTheOthersGrey) {
+TEST_F(SimpleControls, TextFieldsAndListsAreWhiteAndOtherControlsGrey) {
   EXPECT_EQ(ui::TextBox(bench.form, {.name = "Text"}).BackColour(), ui::kWindowBackground);
   EXPECT_EQ(ui::ListBox(bench.form, {.name = "List"}).BackColour(), ui::kWindowBackground);
   EXPECT_EQ(ui::DropDownList(bench.form, {.name = "Drop"}).BackColour(), ui::kWindowBackground);
@@ -194,7 +194,7 @@ TEST_F(SimpleControls, ControlStartsAsItWasDesigned) {
   EXPECT_EQ(&button.GetForm(), &bench.form);
 }
 
-TEST_F(SimpleControls, PeersOfCheckBoxAndOptionsAreToldOfEachValueThatChanged) {
+TEST_F(SimpleControls, PeersOfCheckBoxAndOptionsAreNotifiedOfEachChangedValue) {
   ui::CheckBox box(bench.form, {.name = "Box"});
   ui::OptionButton a(bench.form, {.name = "A"});
   ui::OptionButton b(bench.form, {.name = "B"});
@@ -217,7 +217,7 @@ TEST_F(SimpleControls, PeersOfCheckBoxAndOptionsAreToldOfEachValueThatChanged) {
   EXPECT_TRUE(untouched_peer.changes.empty());
 }
 
-TEST_F(SimpleControls, PeerIsToldBeforeTheHandlerRuns) {
+TEST_F(SimpleControls, PeerIsNotifiedBeforeTheHandlerRuns) {
   ui::CheckBox box(bench.form, {.name = "Box"});
   NotingPeer peer;
   box.AttachPeer(&peer);
@@ -254,7 +254,7 @@ TEST_F(SimpleControls, HandlerThatUnloadsTheFormIsTheLastToRun) {
   box.SetTicked(true);
   box.SetTicked(false);
   EXPECT_EQ(clicked.count, 1);
-  EXPECT_EQ(box.Value(), 0) << "assignments go on without handlers";
+  EXPECT_EQ(box.Value(), 0) << "assignments still work, without handlers";
 }
 
 TEST_F(SimpleControls, ControlsAreFoundByNameAtAnyDepth) {
@@ -264,7 +264,7 @@ TEST_F(SimpleControls, ControlsAreFoundByNameAtAnyDepth) {
   EXPECT_EQ(bench.form.Find("Missing"), nullptr);
 }
 
-TEST_F(SimpleControls, ChildrenStandInTheOrderOfTheirMaking) {
+TEST_F(SimpleControls, ChildrenAreInOrderOfCreation) {
   ui::Button first(bench.form, {.name = "First"});
   ui::Label second(bench.form, {.name = "Second"});
   EXPECT_EQ(bench.form.Children(), (std::vector<ui::Control*>{&first, &second}));

@@ -1,4 +1,4 @@
-// The canvas and the time that other tests trust.
+// The canvas and the stepped time that other tests rely on.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -13,7 +13,7 @@ namespace {
 constexpr ui::Colour kFill = ui::kButtonFace;
 constexpr ui::Colour kBorder = 0x0000FF;
 
-/// One letter a pixel: f fill, b border, a dot for what nobody drew on.
+/// Draws one letter per pixel: f fill, b border, a dot for an untouched pixel.
 std::string Picture(const PixelCanvas& canvas) {
   std::string picture;
   for (int y = 0; y < canvas.Height(); ++y) {
@@ -38,15 +38,15 @@ TEST(PixelCanvasRules, BoxCoversBothCornersInEitherOrder) {
   EXPECT_EQ(Picture(turned), Picture(canvas));
 }
 
-TEST(PixelCanvasRules, BoxIsCutAtTheSurface) {
+TEST(PixelCanvasRules, BoxIsClippedToTheSurface) {
   PixelCanvas canvas(3, 2);
   canvas.FillBox(-5, 1, 100, 100, kFill);
   EXPECT_EQ(Picture(canvas), "...\nfff\n");
   canvas.FillBox(3, 0, 9, 9, kBorder);
-  EXPECT_EQ(Picture(canvas), "...\nfff\n") << "all of it outside";
+  EXPECT_EQ(Picture(canvas), "...\nfff\n") << "the whole box is outside";
 }
 
-TEST(PixelCanvasRules, BorderStandsInsideTheBoxAndLeavesNoInsideToASmallOne) {
+TEST(PixelCanvasRules, BorderIsInsideTheBoxAndFillsASmallOne) {
   PixelCanvas canvas(5, 4);
   canvas.FillBorderedBox(4, 3, 0, 0, kFill, kBorder);
   EXPECT_EQ(Picture(canvas), "bbbbb\nbfffb\nbfffb\nbbbbb\n");
@@ -55,14 +55,14 @@ TEST(PixelCanvasRules, BorderStandsInsideTheBoxAndLeavesNoInsideToASmallOne) {
   EXPECT_EQ(Picture(small), ".bb.\n.bb.\n.bb.\n");
 }
 
-TEST(PixelCanvasRules, CopyReadsBeforeItWritesAndLeavesOutWhatIsOutside) {
+TEST(PixelCanvasRules, CopyReadsBeforeItWritesAndIsClipped) {
   PixelCanvas canvas(4, 1);
   canvas.FillBox(1, 0, 1, 0, kFill);
   canvas.FillBox(2, 0, 2, 0, kBorder);
   canvas.CopyOntoSelf(1, 0, 3, 1, 0, 0);
   EXPECT_EQ(Picture(canvas), "..fb\n");
   canvas.CopyOntoSelf(-1, 0, 4, 1, 0, 0);
-  EXPECT_EQ(Picture(canvas), ".fbb\n") << "nothing came in from outside";
+  EXPECT_EQ(Picture(canvas), ".fbb\n") << "no pixel came from outside";
 }
 
 TEST(PixelCanvasRules, OperationsAreCountedUntilTheCountsAreCleared) {
@@ -76,7 +76,7 @@ TEST(PixelCanvasRules, OperationsAreCountedUntilTheCountsAreCleared) {
   EXPECT_EQ(canvas.FillCount() + canvas.CopyCount(), 0);
 }
 
-/// Two timers that write their letter and the moment of each tick.
+/// Two timers that log their letter and the time of each tick.
 class SteppedTime : public testing::Test {
  protected:
   SteppedTime() {
@@ -98,25 +98,25 @@ class SteppedTime : public testing::Test {
   std::string log;
 };
 
-TEST_F(SteppedTime, TicksComeInTheOrderOfTimeAndThenOfAdding) {
+TEST_F(SteppedTime, TicksComeInOrderOfTimeThenOfAdding) {
   clock.AdvanceMs(400);
   EXPECT_EQ(log, "b100 a200 b200 b300 a400 b400 ");
   EXPECT_EQ(clock.NowMs(), 400);
 }
 
-TEST_F(SteppedTime, SeveralStepsAreAsGoodAsOne) {
+TEST_F(SteppedTime, SeveralStepsEqualOne) {
   for (int i = 0; i < 400; ++i) clock.AdvanceMs(1);
   EXPECT_EQ(log, "b100 a200 b200 b300 a400 b400 ");
 }
 
-TEST_F(SteppedTime, StepInsideATickRunsTheOthersAndMovesTheTimeForAll) {
+TEST_F(SteppedTime, StepInsideATickRunsTheOtherTimersAndAdvancesTheTimeForAll) {
   a_ticked.action = [this] {
     Note('a');
     clock.AdvanceMs(250);
     Note('A');
   };
   clock.AdvanceMs(210);
-  EXPECT_EQ(log, "b100 a200 b200 b300 b400 A450 ") << "the tick of a at 400 fell into its own handler";
+  EXPECT_EQ(log, "b100 a200 b200 b300 b400 A450 ") << "timer a's tick at 400 fell into its own handler";
   EXPECT_EQ(clock.NowMs(), 450);
   log.clear();
   a_ticked.action = [this] { Note('a'); };

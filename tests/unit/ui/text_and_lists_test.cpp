@@ -21,12 +21,12 @@ TEST_F(TextBoxRules, AssignmentFiresWhenTheTextDiffers) {
   EXPECT_EQ(box.Text(), "ab");
 }
 
-TEST_F(TextBoxRules, AssignmentIsCutToTheMostCharacters) {
+TEST_F(TextBoxRules, AssignmentIsCutToTheMaximumLength) {
   box.SetText("abcdefgh");
   EXPECT_EQ(box.Text(), "abcde");
 }
 
-TEST_F(TextBoxRules, AssignmentPutsTheInsertionPointInFront) {
+TEST_F(TextBoxRules, AssignmentPutsTheInsertionPointAtTheStart) {
   box.TypeText("ab");
   box.SetText("abc");
   EXPECT_EQ(box.SelectionStart(), 0);
@@ -42,23 +42,23 @@ TEST_F(TextBoxRules, EachTypedCharacterReplacesTheSelectionAndFires) {
   EXPECT_EQ(box.SelectionStart(), 2);
 }
 
-TEST_F(TextBoxRules, BackspaceTakesTheSelectionOrTheCharacterBefore) {
+TEST_F(TextBoxRules, BackspaceDeletesTheSelectionOrThePreviousCharacter) {
   box.TypeText("abc\b");
   EXPECT_EQ(box.Text(), "ab");
   box.SelectAll();
   EXPECT_TRUE(box.Type('\b'));
   EXPECT_EQ(box.Text(), "");
-  EXPECT_FALSE(box.Type('\b')) << "nothing before it";
+  EXPECT_FALSE(box.Type('\b')) << "there is no character before the caret";
 }
 
-TEST_F(TextBoxRules, BackspaceTakesOneCharacterAndLeavesWhatIsBehind) {
+TEST_F(TextBoxRules, BackspaceDeletesOneCharacterAndKeepsTheRest) {
   box.UserEdited("abcd", 2, 0);
   EXPECT_TRUE(box.Type('\b'));
   EXPECT_EQ(box.Text(), "acd");
   EXPECT_EQ(box.SelectionStart(), 1);
 }
 
-TEST_F(TextBoxRules, FullBoxTakesNoMore) {
+TEST_F(TextBoxRules, FullBoxAcceptsNoMoreCharacters) {
   box.TypeText("abcdefg");
   EXPECT_EQ(box.Text(), "abcde");
   EXPECT_FALSE(box.Type('x'));
@@ -71,7 +71,7 @@ struct DigitFilter {
   }
 };
 
-TEST_F(TextBoxRules, SwallowedKeysTypeNothingAndFireNothing) {
+TEST_F(TextBoxRules, IgnoredKeysTypeNothingAndFireNothing) {
   DigitFilter filter;
   box.OnKeyPress = base::Callback<base::Status(char&)>::To<&DigitFilter::Filter>(filter);
   box.TypeText("1a2b");
@@ -120,7 +120,7 @@ TEST_F(TextBoxRules, SameTextKeepsTheSelection) {
   EXPECT_EQ(box.SelectionLength(), 1);
 }
 
-TEST_F(TextBoxRules, SelectionAndTextAreToldToThePeer) {
+TEST_F(TextBoxRules, PeerIsNotifiedOfSelectionAndText) {
   NotingPeer peer;
   box.AttachPeer(&peer);
   box.SetText("80");
@@ -137,7 +137,7 @@ TEST_F(TextBoxRules, SelectionCanBeReplacedInAFullBox) {
   EXPECT_EQ(box.Text(), "x");
 }
 
-TEST_F(TextBoxRules, SameCharacterOverItselfMovesTheCaretAndFiresNothing) {
+TEST_F(TextBoxRules, TypingTheSelectedCharacterMovesTheCaretAndFiresNothing) {
   NotingPeer peer;
   box.SetText("7");
   box.SelectAll();
@@ -170,13 +170,13 @@ TEST_F(TextBoxRules, ChangeHandlerMayAssignAgain) {
   EXPECT_EQ(changed.count, 2);
 }
 
-TEST_F(TextBoxRules, UnreachableBoxTakesNoTyping) {
+TEST_F(TextBoxRules, UnreachableBoxIgnoresTyping) {
   box.SetEnabled(false);
   EXPECT_FALSE(box.Type('1'));
   EXPECT_EQ(box.Text(), "");
 }
 
-TEST_F(TextBoxRules, KeyHandlerThatUnloadsTheFormLetsNothingBeTyped) {
+TEST_F(TextBoxRules, KeyHandlerThatUnloadsTheFormPreventsTyping) {
   struct Unloader {
     ui::Form& form;
     base::Status Unload(char& /*character*/) {
@@ -241,7 +241,7 @@ TEST_F(ListRules, SelectingFiresWhenTheIndexChangesAndClearingItDoesNot) {
   EXPECT_EQ(list.SelectedText(), "");
 }
 
-TEST_F(ListRules, RowKeyArrivesWhereAHandCanReachTheList) {
+TEST_F(ListRules, RowKeyArrivesIfTheUserCanReachTheList) {
   ui::ListBox list(bench.form, {.name = "List"});
   Fill(list);
   struct Keys {
@@ -271,7 +271,7 @@ TEST_F(ListRules, IndexOutsideTheListIsRefused) {
   }
 }
 
-TEST_F(ListRules, UsersClickOnTheSelectedRowOfAListFiresAgain) {
+TEST_F(ListRules, ClickOnTheSelectedRowOfAListFiresAgain) {
   ui::ListBox list(bench.form, {.name = "List"});
   Fill(list);
   EXPECT_TRUE(list.Choose("10"));
@@ -329,7 +329,7 @@ TEST_F(ListRules, EnterOpensTheSelectedRow) {
   EXPECT_EQ(opened.count, 1);
 }
 
-TEST_F(ListRules, UnreachableListTakesNoChoice) {
+TEST_F(ListRules, UnreachableListAcceptsNoChoice) {
   ui::ListBox list(bench.form, {.name = "List"});
   Fill(list);
   list.SetVisible(false);
@@ -339,7 +339,7 @@ TEST_F(ListRules, UnreachableListTakesNoChoice) {
   EXPECT_EQ(clicked.count, 0);
 }
 
-TEST_F(ListRules, ChoiceOutsideTheListIsNone) {
+TEST_F(ListRules, ChoiceOutsideTheListSelectsNothing) {
   ui::ListBox list(bench.form, {.name = "List"});
   Fill(list);
   list.ChooseIndex(3);
@@ -348,7 +348,7 @@ TEST_F(ListRules, ChoiceOutsideTheListIsNone) {
   EXPECT_EQ(clicked.count, 0);
 }
 
-TEST_F(ListRules, PeerIsToldOfRowsAndOfTheSelection) {
+TEST_F(ListRules, PeerIsNotifiedOfRowsAndSelection) {
   ui::ListBox list(bench.form, {.name = "List"});
   NotingPeer peer;
   list.AttachPeer(&peer);
@@ -385,10 +385,10 @@ TEST_F(ListRules, DropDownKeepsItsSelectionForATextThatIsNoRow) {
   EXPECT_EQ(list.Text(), "20");
   EXPECT_EQ(clicked.count, 1);
   EXPECT_TRUE(list.Choose("20"));
-  EXPECT_EQ(clicked.count, 1) << "the row was selected already";
+  EXPECT_EQ(clicked.count, 1) << "the row was already selected";
 }
 
-TEST_F(ListRules, DropDownForTheUsersChoiceOnlyFiresNothingFromCode) {
+TEST_F(ListRules, DropDownListFiresNothingFromCode) {
   ui::DropDownList list(bench.form, {.name = "Drop"}, ui::CodeFiresClick::kNo);
   Fill(list);
   list.SetText("5");
@@ -397,7 +397,7 @@ TEST_F(ListRules, DropDownForTheUsersChoiceOnlyFiresNothingFromCode) {
   EXPECT_EQ(clicked.count, 1);
 }
 
-TEST_F(ListRules, ComboTakesAnyTextAndSelectsTheRowThatEqualsIt) {
+TEST_F(ListRules, ComboAcceptsAnyTextAndSelectsTheEqualRow) {
   ui::DropDownCombo combo(bench.form, {.name = "Combo"});
   Fill(combo);
   Handled changed;
@@ -407,14 +407,14 @@ TEST_F(ListRules, ComboTakesAnyTextAndSelectsTheRowThatEqualsIt) {
   combo.UserEdited("20");
   EXPECT_EQ(combo.SelectedIndex(), 2);
   EXPECT_EQ(changed.count, 2);
-  EXPECT_EQ(clicked.count, 0) << "typing is no choice";
+  EXPECT_EQ(clicked.count, 0) << "typing is not a choice";
   EXPECT_TRUE(combo.Choose("5"));
   EXPECT_EQ(combo.Text(), "5");
   EXPECT_EQ(clicked.count, 1);
   EXPECT_EQ(changed.count, 3);
 }
 
-TEST_F(ListRules, CombosChangeHandlerSeesTheSelectionThatBelongsToTheText) {
+TEST_F(ListRules, ComboChangeHandlerSeesTheSelectionOfTheNewText) {
   ui::DropDownCombo combo(bench.form, {.name = "Combo"});
   Fill(combo);
   Handled changed;
@@ -428,7 +428,7 @@ TEST_F(ListRules, CombosChangeHandlerSeesTheSelectionThatBelongsToTheText) {
   EXPECT_EQ(seen, (std::vector<int>{2, ui::ListControl::kNoSelection, 1}));
 }
 
-/// Notes what text and selection a peer would find at each change.
+/// Records the text and selection that a peer would find at each change.
 class ComboReader final : public ui::ControlPeer {
  public:
   void ControlChanged(ui::Control& control, ui::Change /*change*/) override {
@@ -438,7 +438,7 @@ class ComboReader final : public ui::ControlPeer {
   std::vector<std::string> read;
 };
 
-TEST_F(ListRules, CombosPeerNeverFindsTheOldTextAfterTheUserEditedIt) {
+TEST_F(ListRules, ComboPeerNeverFindsTheOldTextAfterAnEdit) {
   ui::DropDownCombo combo(bench.form, {.name = "Combo"});
   Fill(combo);
   combo.SetText("20");

@@ -1,4 +1,4 @@
-// What record and backup say of one entry, and how it is shown.
+// What record and backup contain about one entry, and how it is shown.
 #include "undo/before.h"
 
 #include <gtest/gtest.h>
@@ -26,20 +26,20 @@ TEST(BeforeFromRecord, SizeIsItsNumber) {
   EXPECT_EQ(FromRecord(kSize, " 512 ").text, "512");
 }
 
-TEST(BeforeFromRecord, SizeOfZeroWasNone) {
+TEST(BeforeFromRecord, SizeOfZeroMeansNoEntry) {
   for (const char* const text : {"0", "0.0", "-0", " 0 "}) {
     EXPECT_TRUE(FromRecord(kSize, text).IsKnown()) << text;
     EXPECT_EQ(FromRecord(kSize, text).text, std::nullopt) << text;
   }
 }
 
-TEST(BeforeFromRecord, SizeThatIsNoNumberIsShownAndNotUsed) {
+TEST(BeforeFromRecord, SizeThatIsNoNumberIsShownButNotUsed) {
   for (const char* const text : {"many", "2048 KB", "", "12\r\nshell=x"}) {
     ExpectUnusable(FromRecord(kSize, text), text);
   }
 }
 
-TEST(BeforeFromRecord, EmptyTemplateWasNoneAndEmptyDriveWasEmpty) {
+TEST(BeforeFromRecord, EmptyTemplateMeansNoneAndEmptyDriveMeansEmpty) {
   EXPECT_TRUE(FromRecord(kTemplate, "").IsKnown());
   EXPECT_EQ(FromRecord(kTemplate, "").text, std::nullopt);
   EXPECT_EQ(FromRecord(kTemplate, "Server").text, "Server");
@@ -47,21 +47,21 @@ TEST(BeforeFromRecord, EmptyTemplateWasNoneAndEmptyDriveWasEmpty) {
   EXPECT_EQ(FromRecord(kDrive, "C:").text, "C:");
 }
 
-TEST(BeforeFromRecord, MissingValueSaysNothing) {
+TEST(BeforeFromRecord, MissingValueMeansNothing) {
   for (const Entry& entry : kEntries) {
     EXPECT_FALSE(FromRecord(entry, std::nullopt).IsKnown());
     EXPECT_EQ(ShownBefore(FromRecord(entry, std::nullopt), kRoom), "not recorded");
   }
 }
 
-TEST(BeforeFromRecord, TextThatCannotStandInOneLineIsNotUsed) {
+TEST(BeforeFromRecord, TextThatDoesNotFitIntoOneLineIsNotUsed) {
   for (const std::string& text : {std::string("C:\r\nshell=x"), std::string("a\tb"), std::string(255, '1')}) {
     for (const Entry& entry : {kSize, kTemplate, kDrive}) ExpectUnusable(FromRecord(entry, text), text);
   }
   EXPECT_TRUE(FromRecord(kDrive, std::string(254, 'x')).IsKnown());
 }
 
-TEST(BeforeFromBackup, TellsTextAndLackOfIt) {
+TEST(BeforeFromBackup, ReportsTextOrItsAbsence) {
   EXPECT_EQ(FromBackup("on").known, Before::Known::kFromBackup);
   EXPECT_EQ(FromBackup("on").text, "on");
   EXPECT_EQ(FromBackup(std::nullopt).known, Before::Known::kFromBackup);
@@ -69,7 +69,7 @@ TEST(BeforeFromBackup, TellsTextAndLackOfIt) {
   ExpectUnusable(FromBackup(std::string(255, 'x')), std::string(255, 'x'));
 }
 
-TEST(IsAsBefore, SizesOfWhichOnlyTheNumberIsKnownCompareAsNumbers) {
+TEST(IsAsBefore, SizesKnownOnlyAsNumbersCompareAsNumbers) {
   const Before recorded = FromRecord(kSize, "8192");
   EXPECT_TRUE(IsAsBefore(recorded, "8192 KB"));
   EXPECT_FALSE(IsAsBefore(recorded, "4096"));
@@ -94,7 +94,7 @@ TEST(BeforeFromBoth, BackupGivesTheExactTextOfARecordedNumber) {
     EXPECT_EQ(before.known, Before::Known::kFromRecord) << text;
     EXPECT_EQ(before.text, text);
     EXPECT_FALSE(before.IsUncertain());
-    EXPECT_FALSE(IsAsBefore(before, "2048.0")) << "only the text itself is as before";
+    EXPECT_FALSE(IsAsBefore(before, "2048.0")) << "only the exact text is as before";
   }
   EXPECT_EQ(FromBoth(kSize, "1", true, "1,024").text, "1,024");
   EXPECT_EQ(FromBoth(kSize, "0", true, "none").text, "none") << "there was an entry without a number";
@@ -109,20 +109,20 @@ TEST(BeforeFromBoth, MissingInACompleteRecordAndInTheBackupIsCertain) {
   EXPECT_FALSE(FromBoth(kDrive, std::nullopt, true, "D").IsUncertain());
 }
 
-TEST(BeforeFromBoth, SilenceOfTheBackupAloneIsUncertain) {
+TEST(BeforeFromBoth, EntryMissingOnlyInTheBackupIsUncertain) {
   EXPECT_TRUE(FromBoth(kDrive, std::nullopt, false, std::nullopt).IsUncertain());
   EXPECT_TRUE(FromBoth(kSize, std::nullopt, false, std::nullopt).IsUncertain());
   EXPECT_TRUE(FromBoth(kPaging, std::nullopt, true, std::nullopt).IsUncertain()) << "it is never recorded";
   EXPECT_FALSE(FromBoth(kPaging, std::nullopt, true, "off").IsUncertain());
 }
 
-TEST(RecordAndBackup, AgreeWhereTheEntriesAreTheSame) {
+TEST(RecordAndBackup, AgreeIfTheEntriesAreTheSame) {
   EXPECT_TRUE(Agree(kSize, "2048", true, "2048 KB"));
   EXPECT_TRUE(Agree(kSize, "0", true, std::nullopt));
   EXPECT_TRUE(Agree(kSize, "0", true, "none"));
   EXPECT_TRUE(Agree(kSize, "1.23456789012346E+16", true, "12345678901234567"));
   const std::string long_number(300, '1');
-  EXPECT_TRUE(Agree(kSize, "1.11111111111111E+253", true, long_number)) << "of 254 digits the record knows";
+  EXPECT_TRUE(Agree(kSize, "1.11111111111111E+253", true, long_number)) << "the record keeps only 254 digits";
   EXPECT_TRUE(Agree(kDrive, "D:", true, "D:"));
   EXPECT_TRUE(Agree(kDrive, "", true, ""));
   EXPECT_TRUE(Agree(kDrive, std::nullopt, true, std::nullopt));
@@ -130,7 +130,7 @@ TEST(RecordAndBackup, AgreeWhereTheEntriesAreTheSame) {
   EXPECT_TRUE(Agree(kDrive, std::string(254, 'x'), true, std::string(255, 'x'))) << "the record is cut";
 }
 
-TEST(RecordAndBackup, DifferWhereTheBackupIsOfAnotherTime) {
+TEST(RecordAndBackup, DifferIfTheBackupIsFromAnotherTime) {
   EXPECT_FALSE(Agree(kSize, "2048", true, "4096"));
   EXPECT_FALSE(Agree(kSize, "2048", true, std::nullopt));
   EXPECT_FALSE(Agree(kSize, "0", true, "512"));
@@ -139,15 +139,15 @@ TEST(RecordAndBackup, DifferWhereTheBackupIsOfAnotherTime) {
   EXPECT_FALSE(Agree(kDrive, std::nullopt, true, "D:"));
 }
 
-TEST(RecordAndBackup, WhatTheRecordDoesNotTellCannotDiffer) {
-  EXPECT_TRUE(Agree(kDrive, std::nullopt, false, "D:")) << "its writing may have failed";
+TEST(RecordAndBackup, ValuesMissingInTheRecordCannotDiffer) {
+  EXPECT_TRUE(Agree(kDrive, std::nullopt, false, "D:")) << "writing it may have failed";
   EXPECT_TRUE(Agree(kSize, std::nullopt, false, "512"));
   EXPECT_TRUE(Agree(kSize, "many", true, "512"));
-  EXPECT_TRUE(Agree(kTemplate, "Desktop", true, std::nullopt)) << "it is not in system.ini";
+  EXPECT_TRUE(Agree(kTemplate, "Desktop", true, std::nullopt)) << "the template is not in system.ini";
   EXPECT_TRUE(Agree(kPaging, std::nullopt, true, "on"));
 }
 
-TEST(Shown, TextsFitTheirRoomAndHoldNoControlCharacters) {
+TEST(Shown, TextsFitTheirColumnAndContainNoControlCharacters) {
   EXPECT_EQ(Shown(std::nullopt, kRoom), "(none)");
   EXPECT_EQ(Shown("", kRoom), "(empty)");
   EXPECT_EQ(Shown(std::string(20, 'x'), kRoom), std::string(20, 'x'));
@@ -156,7 +156,7 @@ TEST(Shown, TextsFitTheirRoomAndHoldNoControlCharacters) {
   EXPECT_EQ(Shown("M\xFCnchen", kRoom), "M\xFCnchen");
 }
 
-TEST(Shown, ColumnTellsWhereTheTextComesFrom) {
+TEST(Shown, ColumnShowsTheSourceOfTheText) {
   EXPECT_EQ(ShownBefore(FromRecord(kDrive, "C:"), kRoom), "C:");
   EXPECT_EQ(ShownBefore(FromRecord(kSize, "0"), kRoom), "(none)");
   EXPECT_EQ(ShownBefore(FromRecord(kSize, "many"), kRoom), "many");

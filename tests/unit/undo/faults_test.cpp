@@ -1,4 +1,5 @@
-// Every call of the system that can fail is failed once, and from then on, through a whole session.
+// Runs a whole session for every system call that can fail: with that call failing once, and with all calls
+// failing from then on.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,7 +11,7 @@ namespace {
 
 constexpr const char* kKeptPath = "C:\\WINDOWS\\SYSTEM.Q01";
 
-/// A session that reaches every call: half of the entries put back, the whole file restored, a restart.
+/// A session that reaches every call: half of the entries undone, the whole file restored, a restart.
 void RunSession(UndoRig& rig) {
   rig.Start();
   rig.machine.AnswerNextBox(os::kIdYes);
@@ -41,11 +42,10 @@ bool IsKnown(const std::string& message) {
                      [&message](const char* beginning) { return message.starts_with(beginning); });
 }
 
-/// Each line of the file as it stood before, after, or neither: nothing that a failed call could leave
-/// behind.
+/// Expects each line of the file to be an old or a new one: nothing that a failed call could leave behind.
 void ExpectOldOrNew(const UndoRig& rig, int call) {
   const std::string known = std::string(kIniBefore) + kIniAfter;
-  // Where neither name could be given to a file, the old one is whole under the name that the box told.
+  // If neither rename succeeded, the old file is complete under the name that the message names.
   const std::string ini =
       rig.machine.ReadFile(kIniPath).value_or(rig.machine.ReadFile(kKeptPath).value_or(""));
   for (std::size_t begin = 0; begin < ini.size();) {
@@ -83,7 +83,7 @@ TEST(UndoFaults, EachCallFailedOnceLosesNothing) {
   }
 }
 
-TEST(UndoFaults, EachCallFailedFromThenOnLosesNothing) {
+TEST(UndoFaults, AllCallsFailedFromEachOnLoseNothing) {
   int first = 0;
   const int calls = CallsOfASession(first);
   for (int call = first + 1; call <= calls; ++call) {
@@ -95,8 +95,8 @@ TEST(UndoFaults, EachCallFailedFromThenOnLosesNothing) {
   }
 }
 
-/// Whatever fails once, what is written for an entry is what stood there before.
-TEST(UndoFaults, NoFailedReadingMakesAWrongAction) {
+/// Whichever call fails, each entry that is written gets its original value.
+TEST(UndoFaults, NoFailedReadCausesAWrongAction) {
   int first = 0;
   const int calls = CallsOfASession(first);
   for (int call = first + 1; call <= calls; ++call) {

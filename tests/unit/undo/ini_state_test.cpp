@@ -1,4 +1,4 @@
-// Which bytes are a whole system.ini.
+// Which bytes are a complete system.ini.
 #include "undo/ini_state.h"
 
 #include <gtest/gtest.h>
@@ -9,13 +9,14 @@ namespace {
 constexpr const char* kWholeFile =
     "; set up by hand\r\n[Boot]\r\nshell=Explorer.exe\r\n\r\n [386ENH] \r\nPagingDrive=D:\r\n";
 
-TEST(IniState, WholeFileHasBothSectionsAndEndsWithALine) {
+TEST(IniState, WholeFileHasBothSectionsAndEndsWithALineBreak) {
   EXPECT_EQ(StateOfIni(kWholeFile), IniState::kWhole);
   EXPECT_EQ(StateOfIni("[386Enh]\n[boot]\n"), IniState::kWhole);
-  EXPECT_EQ(StateOfIni(std::string(kWholeFile) + "\x1A"), IniState::kWhole) << "the mark of an old editor";
+  EXPECT_EQ(StateOfIni(std::string(kWholeFile) + "\x1A"), IniState::kWhole)
+      << "the end mark of an old editor";
 }
 
-TEST(IniState, EveryCutOfAFileIsFound) {
+TEST(IniState, EveryTruncationIsDetected) {
   const std::string whole = kWholeFile;
   for (std::size_t length = 0; length < whole.size(); ++length) {
     const bool is_at_the_end_of_a_line = length > 0 && whole[length - 1] == '\n';
@@ -24,7 +25,7 @@ TEST(IniState, EveryCutOfAFileIsFound) {
     EXPECT_EQ(StateOfIni(whole.substr(0, length)) == IniState::kWhole, is_taken_for_whole) << length;
   }
   EXPECT_EQ(StateOfIni(whole.substr(0, whole.size() - 1)), IniState::kCut);
-  EXPECT_EQ(StateOfIni(whole + std::string(3, '\0')), IniState::kCut) << "what a power cut leaves";
+  EXPECT_EQ(StateOfIni(whole + std::string(3, '\0')), IniState::kCut) << "a power cut leaves such bytes";
 }
 
 TEST(IniState, MissingSectionIsNamed) {

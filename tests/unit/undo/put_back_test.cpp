@@ -1,4 +1,4 @@
-// "Put Back": the question, what is written and what is not, what is said afterwards.
+// "Put Back": the question, what is written and what is not, and the messages afterwards.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -50,17 +50,17 @@ TEST_F(PutBack, QuestionNamesEachActionAndProposesNo) {
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbYesNo | os::kMbIconQuestion | os::kMbDefaultButton2);
 }
 
-TEST_F(PutBack, NoWritesNothing) {
+TEST_F(PutBack, AnswerNoWritesNothing) {
   StartChanged();
   PressAndAnswer(os::kIdNo);
   EXPECT_THAT(rig.Changes(first_call), IsEmpty());
   EXPECT_EQ(rig.Ini(), kIniAfter);
   EXPECT_EQ(rig.Template(), "Quondix");
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
-  EXPECT_TRUE(rig.Screen().cmdPutBack.Enabled()) << "it can be asked again";
+  EXPECT_TRUE(rig.Screen().cmdPutBack.Enabled()) << "the user can try again";
 }
 
-TEST_F(PutBack, YesPutsBackEverythingAndNothingElse) {
+TEST_F(PutBack, AnswerYesPutsBackEverythingAndNothingElse) {
   StartChanged();
   rig.TickAll();
   PressAndAnswer(os::kIdYes);
@@ -79,7 +79,7 @@ TEST_F(PutBack, YesPutsBackEverythingAndNothingElse) {
   EXPECT_TRUE(rig.RecordIsUntouched());
 }
 
-TEST_F(PutBack, NewStateIsShownAndTheRestartOffered) {
+TEST_F(PutBack, NewStateIsShownAndARestartIsOffered) {
   StartChanged();
   rig.TickAll();
   PressAndAnswer(os::kIdYes);
@@ -97,7 +97,7 @@ TEST_F(PutBack, NewStateIsShownAndTheRestartOffered) {
   EXPECT_FALSE(rig.form->Window().Unloaded());
 }
 
-TEST_F(PutBack, RestartIsAskedForOnceWhenTheUserAgrees) {
+TEST_F(PutBack, RestartIsRequestedOnceIfTheUserAgrees) {
   StartChanged();
   PressAndAnswer(os::kIdYes, os::kIdYes);
   EXPECT_EQ(rig.machine.RestartCount(), 1);
@@ -105,7 +105,7 @@ TEST_F(PutBack, RestartIsAskedForOnceWhenTheUserAgrees) {
   EXPECT_TRUE(rig.form->Window().Unloaded());
 }
 
-TEST_F(PutBack, OnlyTickedEntriesAreAskedForAndWritten) {
+TEST_F(PutBack, OnlyTickedEntriesAreListedAndWritten) {
   StartChanged();
   UntickAllBut(rig.Screen().PagingDrive);
   PressAndAnswer(os::kIdYes);
@@ -118,10 +118,10 @@ TEST_F(PutBack, OnlyTickedEntriesAreAskedForAndWritten) {
   EXPECT_EQ(rig.Template(), "Quondix");
   EXPECT_FALSE(rig.Screen().PagingDrive.box.Enabled());
   EXPECT_TRUE(rig.Screen().MinFileCache.box.Enabled());
-  EXPECT_FALSE(rig.Screen().MinFileCache.box.Ticked()) << "what was left out stays left out";
+  EXPECT_FALSE(rig.Screen().MinFileCache.box.Ticked()) << "an entry that was left out stays left out";
 }
 
-TEST_F(PutBack, TemplateThatWasNotThereIsRemoved) {
+TEST_F(PutBack, TemplateThatDidNotExistIsRemoved) {
   UndoRig other(kIniBefore, "");
   other.TakeRecord();
   other.SetTemplate("Quondix");
@@ -154,10 +154,10 @@ TEST_F(PutBack, WriteProtectedFileIsNamedEntryByEntry) {
   EXPECT_EQ(rig.Ini(), kIniAfter);
   EXPECT_EQ(rig.Template(), "Desktop");
   EXPECT_EQ(BoxText(2), kRestartQuestion) << "the template was changed";
-  EXPECT_TRUE(rig.Screen().MinFileCache.box.Ticked()) << "ready for another try";
+  EXPECT_TRUE(rig.Screen().MinFileCache.box.Ticked()) << "the entry is ready for another try";
 }
 
-TEST_F(PutBack, NoRestartIsOfferedWhereNothingChanged) {
+TEST_F(PutBack, NoRestartIsOfferedIfNothingChanged) {
   StartChanged();
   rig.machine.ProtectFile(kIniPath);
   UntickAllBut(rig.Screen().ChunkSize);
@@ -187,7 +187,7 @@ TEST_F(PutBack, SettingsAreReadAgainBeforeTheQuestion) {
             "want to put these settings back?");
 }
 
-TEST_F(PutBack, NothingIsAskedWhereNothingIsLeftToPutBack) {
+TEST_F(PutBack, NothingIsAskedIfNothingIsLeftToPutBack) {
   StartChanged();
   rig.machine.WriteFile(kIniPath, kIniBefore);
   rig.SetTemplate("Desktop");
@@ -196,7 +196,7 @@ TEST_F(PutBack, NothingIsAskedWhereNothingIsLeftToPutBack) {
   EXPECT_FALSE(rig.Screen().cmdPutBack.Enabled());
 }
 
-TEST_F(PutBack, SessionThatEndsInTheQuestionWritesNothing) {
+TEST_F(PutBack, EndOfTheSessionDuringTheQuestionWritesNothing) {
   StartChanged();
   rig.machine.WhileBoxIsOpen([this] { rig.form->EndSession(); });
   PressAndAnswer(os::kIdYes);
@@ -205,7 +205,7 @@ TEST_F(PutBack, SessionThatEndsInTheQuestionWritesNothing) {
   EXPECT_TRUE(rig.form->TheApplication().SessionIsEnding());
 }
 
-TEST_F(PutBack, WindowClosedWhileTheFailuresAreNamedOffersNoRestart) {
+TEST_F(PutBack, WindowClosedDuringTheListOfFailuresOffersNoRestart) {
   StartChanged();
   rig.machine.ProtectFile(kIniPath);
   rig.machine.WhileBoxIsOpen([this] {
@@ -216,7 +216,7 @@ TEST_F(PutBack, WindowClosedWhileTheFailuresAreNamedOffersNoRestart) {
   EXPECT_EQ(rig.Template(), "Desktop");
 }
 
-TEST_F(PutBack, ExactTextsOfTheBackupComeBack) {
+TEST_F(PutBack, ExactTextsOfTheBackupAreRestored) {
   const std::string before =
       "[boot]\r\n[386Enh]\r\nMinPagingFileSize=1,024\r\n"
       "[vcache]\r\nMinFileCache=2048 KB\r\nMaxFileCache=1,024\r\nChunkSize=none\r\n";
@@ -233,7 +233,7 @@ TEST_F(PutBack, ExactTextsOfTheBackupComeBack) {
   EXPECT_EQ(other.Ini(), before);
 }
 
-TEST_F(PutBack, BlanksAndQuotationMarksOfAValueComeBack) {
+TEST_F(PutBack, BlanksAndQuotationMarksOfAValueAreRestored) {
   UndoRig other("[boot]\r\n[386Enh]\r\nPagingDrive=\"D: \"\r\nPaging=\"'on'\"\r\n");
   other.TakeRecord();
   other.machine.WriteFile(kIniPath, "[boot]\r\n[386Enh]\r\nPagingDrive=C:\r\n");
@@ -242,10 +242,10 @@ TEST_F(PutBack, BlanksAndQuotationMarksOfAValueComeBack) {
   other.machine.AnswerNextBox(os::kIdNo);
   other.Screen().cmdPutBack.Press();
   EXPECT_EQ(other.Ini(), "[boot]\r\n[386Enh]\r\nPagingDrive=\"D: \"\r\nPaging=\"'on'\"\r\n");
-  EXPECT_EQ(other.machine.Boxes().size(), 2U) << "nothing is left to put back";
+  EXPECT_EQ(other.machine.Boxes().size(), 2U) << "there is nothing left to put back";
 }
 
-TEST_F(PutBack, TextThatAMissingEntryWouldReadAsIsAnEntryLikeAnother) {
+TEST_F(PutBack, TextEqualToTheDefaultIsAnOrdinaryEntry) {
   for (const char* const text : {"(missing)", "(none)"}) {
     UndoRig other("[boot]\r\n[386Enh]\r\nPagingDrive=" + std::string(text) + "\r\n");
     const std::string before = other.Ini();
@@ -259,7 +259,7 @@ TEST_F(PutBack, TextThatAMissingEntryWouldReadAsIsAnEntryLikeAnother) {
   }
 }
 
-TEST_F(PutBack, RemovalTakesAllOfSeveralEqualLines) {
+TEST_F(PutBack, RemovalDeletesAllEqualLines) {
   UndoRig other("[boot]\r\n[386Enh]\r\n");
   other.TakeRecord();
   other.machine.WriteFile(kIniPath,
@@ -273,7 +273,7 @@ TEST_F(PutBack, RemovalTakesAllOfSeveralEqualLines) {
   EXPECT_EQ(other.Screen().PagingDrive.now.Caption(), "(none)");
 }
 
-TEST_F(PutBack, UncertainRemovalIsForTheUserToTick) {
+TEST_F(PutBack, UncertainRemovalMustBeTickedByTheUser) {
   StartChanged();
   EXPECT_TRUE(rig.Screen().Paging.box.Enabled());
   EXPECT_FALSE(rig.Screen().Paging.box.Ticked());

@@ -1,4 +1,4 @@
-// A new system.ini in the place of the old one: whatever fails, and wherever the power does, a whole file is
+// Replaces system.ini with a new file: whichever call fails, and whenever the power fails, a complete file is
 // on the disk.
 #include "undo/replacement.h"
 
@@ -61,7 +61,7 @@ TEST_F(SystemIniReplacement, EarlierKeptFilesStay) {
   EXPECT_EQ(Content(machine, "C:\\WINDOWS\\SYSTEM.Q02"), kOld);
 }
 
-TEST_F(SystemIniReplacement, NinetyNineFilesAreKeptAndNoneIsWrittenOver) {
+TEST_F(SystemIniReplacement, NinetyNineFilesAreKeptAndNoneIsOverwritten) {
   for (int number = 1; number <= 99; ++number) {
     machine.WriteFile(kIni, kOld);
     const std::string name = std::string("SYSTEM.Q") + (number < 10 ? "0" : "") + std::to_string(number);
@@ -73,7 +73,7 @@ TEST_F(SystemIniReplacement, NinetyNineFilesAreKeptAndNoneIsWrittenOver) {
   EXPECT_EQ(machine.ReadFile(kNewFile), std::nullopt);
 }
 
-TEST_F(SystemIniReplacement, MissingFileIsMade) {
+TEST_F(SystemIniReplacement, MissingFileIsCreated) {
   machine.EraseFile(kIni);
   const Replacement replacement = Replace(machine);
   EXPECT_EQ(replacement.outcome, Outcome::kDone);
@@ -81,7 +81,7 @@ TEST_F(SystemIniReplacement, MissingFileIsMade) {
   EXPECT_EQ(Content(machine, kIni), kNew);
 }
 
-TEST_F(SystemIniReplacement, HalfFileOfAnInterruptedAttemptIsWrittenOver) {
+TEST_F(SystemIniReplacement, PartialFileOfAnInterruptedAttemptIsOverwritten) {
   machine.WriteFile(kNewFile, "[bo");
   EXPECT_EQ(Replace(machine).outcome, Outcome::kDone);
   EXPECT_EQ(Content(machine, kIni), kNew);
@@ -107,10 +107,10 @@ TEST_F(SystemIniReplacement, FullDiskLeavesTheOldFileAndNothingElse) {
   }
 }
 
-/// Between the two changes of names there is no file of the name system.ini: then both whole files are there.
-TEST_F(SystemIniReplacement, PowerCutInAnyWriteLeavesAWholeFile) {
+/// Between the two renames no file has the name system.ini; then both files are there and complete.
+TEST_F(SystemIniReplacement, PowerCutDuringAnyWriteLeavesACompleteFile) {
   const int writes = WritesOfAReplacement();
-  ASSERT_EQ(writes, 4) << "the new file made and filled, and two names";
+  ASSERT_EQ(writes, 4) << "the new file is created and filled, then two files are renamed";
   for (int write = 1; write <= writes; ++write) {
     os::SimulatedMachine cut;
     cut.WriteFile(kIni, kOld);
@@ -119,14 +119,14 @@ TEST_F(SystemIniReplacement, PowerCutInAnyWriteLeavesAWholeFile) {
     if (cut.ReadFile(kIni).has_value()) {
       EXPECT_EQ(Content(cut, kIni), kOld) << write;
     } else {
-      EXPECT_EQ(write, writes) << "the name is free for one change only";
+      EXPECT_EQ(write, writes) << "the name is free only between the two renames";
       EXPECT_EQ(Content(cut, kKept), kOld) << write;
       EXPECT_EQ(Content(cut, kNewFile), kNew) << write;
     }
   }
 }
 
-TEST_F(SystemIniReplacement, AnyFailedCallLeavesAWholeFileInItsPlace) {
+TEST_F(SystemIniReplacement, AnyFailedCallLeavesACompleteFileInPlace) {
   const int calls = CallsOfAReplacement();
   for (int call = 1; call <= calls; ++call) {
     os::SimulatedMachine failing;
@@ -140,7 +140,7 @@ TEST_F(SystemIniReplacement, AnyFailedCallLeavesAWholeFileInItsPlace) {
   }
 }
 
-TEST_F(SystemIniReplacement, OldFileWithoutItsNameIsNamed) {
+TEST_F(SystemIniReplacement, OldFileThatLostItsNameIsReported) {
   const int calls = CallsOfAReplacement();
   bool is_seen = false;
   for (int call = 1; call <= calls; ++call) {
@@ -160,8 +160,8 @@ TEST_F(SystemIniReplacement, OldFileWithoutItsNameIsNamed) {
   EXPECT_TRUE(is_seen);
 }
 
-/// Bytes that a disk took without an error and gives back otherwise never become system.ini.
-TEST_F(SystemIniReplacement, NewFileIsReadAgainBeforeTheNamesChange) {
+/// If the disk accepts bytes without an error but returns different ones, they never become system.ini.
+TEST_F(SystemIniReplacement, NewFileIsVerifiedBeforeTheRenames) {
   machine.FailNextCall("ReadFile");
   EXPECT_EQ(Replace(machine).outcome, Outcome::kRefused);
   EXPECT_EQ(Content(machine, kIni), kOld);

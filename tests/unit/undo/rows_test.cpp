@@ -22,7 +22,7 @@ std::vector<std::string> NowOf(undo::UndoScreen& screen) {
   return texts;
 }
 
-/// "x" ticked, "o" clear, "-" disabled.
+/// Returns "x" for ticked, "o" for clear, "-" for disabled.
 std::string BoxesOf(undo::UndoScreen& screen) {
   std::string boxes;
   for (const undo::EntryRow* const row : screen.Rows()) {
@@ -32,7 +32,7 @@ std::string BoxesOf(undo::UndoScreen& screen) {
   return boxes;
 }
 
-TEST(UndoRows, ShowWhatWasBesideWhatIs) {
+TEST(UndoRows, ShowOldBesideCurrentValues) {
   UndoRig rig;
   rig.TakeRecordAndChange();
   rig.Start();
@@ -41,7 +41,8 @@ TEST(UndoRows, ShowWhatWasBesideWhatIs) {
                           "not recorded; backup: (none)"));
   EXPECT_THAT(NowOf(rig.Screen()),
               ElementsAre("4096", "8192", "512", "Quondix", "C:", "65536", "65536", "on"));
-  EXPECT_EQ(BoxesOf(rig.Screen()), "xxxxxxxo") << "nothing but the backup's silence speaks for the last";
+  EXPECT_EQ(BoxesOf(rig.Screen()), "xxxxxxxo")
+      << "the only evidence for the last entry is that the backup lacks it";
   EXPECT_TRUE(rig.Screen().cmdPutBack.Enabled());
   EXPECT_TRUE(rig.Screen().cmdRestore.Enabled());
   EXPECT_TRUE(rig.Screen().lblState.Caption().starts_with("These settings were recorded"));
@@ -60,16 +61,16 @@ TEST(UndoRows, StartWritesNothing) {
   EXPECT_TRUE(rig.RecordIsUntouched());
 }
 
-TEST(UndoRows, WhatStandsAsBeforeCannotBeChosen) {
+TEST(UndoRows, UnchangedEntriesCannotBeChosen) {
   UndoRig rig;
   rig.TakeRecord();
   rig.Start();
   EXPECT_EQ(BoxesOf(rig.Screen()), "--------");
   EXPECT_FALSE(rig.Screen().cmdPutBack.Enabled());
-  EXPECT_TRUE(rig.Screen().cmdRestore.Enabled()) << "other changes may be undone by it";
+  EXPECT_TRUE(rig.Screen().cmdRestore.Enabled()) << "it may undo other changes";
 }
 
-TEST(UndoRows, OneDifferenceIsOneTick) {
+TEST(UndoRows, OneDifferenceMakesOneTick) {
   UndoRig rig;
   rig.TakeRecord();
   rig.SetTemplate("Server");
@@ -98,7 +99,7 @@ TEST(UndoRows, NothingRecordedLeavesOnlyClose) {
   }
 }
 
-TEST(UndoRows, WithoutBackupNothingIsOfferedForWhatIsNotRecorded) {
+TEST(UndoRows, UnrecordedEntriesAreNotOfferedWithoutABackup) {
   UndoRig rig("[386Enh]\r\nPagingDrive=C:\r\n[vcache]\r\nChunkSize=512\r\n");
   rig.machine.FailNextCall("CopyFileA");
   rig.TakeRecordAndChange();
@@ -112,7 +113,7 @@ TEST(UndoRows, WithoutBackupNothingIsOfferedForWhatIsNotRecorded) {
             "There is no backup of system.ini (system.qdix in the Windows folder).");
 }
 
-TEST(UndoRows, FolderInTheBackupsPlaceIsNoBackup) {
+TEST(UndoRows, FolderWithTheNameOfTheBackupIsNoBackup) {
   UndoRig rig;
   rig.TakeRecord();
   rig.machine.SetWindowsDirectory("C:\\WINDOWS\\system.qdix");
@@ -120,7 +121,7 @@ TEST(UndoRows, FolderInTheBackupsPlaceIsNoBackup) {
   EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
 }
 
-TEST(UndoRows, SizeThatTheRecordLacksComesFromTheBackup) {
+TEST(UndoRows, SizeMissingInTheRecordComesFromTheBackup) {
   UndoRig rig("[vcache]\r\nMinFileCache=2048 KB\r\n");
   rig.machine.SetRegistryValue(os::kHkeyLocalMachine, kRecordKey, "FirstSave", "1");
   rig.machine.WriteFile(kBackupPath, kIniBefore);
@@ -130,7 +131,7 @@ TEST(UndoRows, SizeThatTheRecordLacksComesFromTheBackup) {
   EXPECT_EQ(BoxesOf(rig.Screen()), "x---xx--");
 }
 
-TEST(UndoRows, GarbageInTheRecordIsShownAndNotOffered) {
+TEST(UndoRows, GarbageInTheRecordIsShownButNotOffered) {
   UndoRig rig;
   rig.TakeRecordAndChange();
   rig.SetRecord("OldMinCache", "a lot");
@@ -159,7 +160,7 @@ TEST(UndoRows, LongTextsAreCutInEveryColumn) {
   EXPECT_EQ(rig.Screen().Paging.before.Caption(), "not recorded; backup: ppppp...");
 }
 
-TEST(UndoRows, EntryOfTheBackupThatCannotBeReadWholeIsNotOffered) {
+TEST(UndoRows, BackupEntryThatCannotBeReadCompletelyIsNotOffered) {
   UndoRig rig("[boot]\r\n[386Enh]\r\nPaging=" + std::string(255, 'p') + "\r\n");
   rig.TakeRecordAndChange();
   rig.Start();
@@ -185,7 +186,7 @@ TEST(UndoRows, UntrappedErrorIsShownAndEndsTheProgram) {
   UndoRig rig;
   rig.Start();
   rig.machine.WhileBoxIsOpen(
-      [&rig] { EXPECT_FALSE(rig.form->Window().Unloaded()) << "not before it was read"; });
+      [&rig] { EXPECT_FALSE(rig.form->Window().Unloaded()) << "it unloads only after the box was read"; });
   rig.form->Window().Dispatcher().Report(base::kOverflow);
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Undo");

@@ -1,4 +1,4 @@
-// The window of Q-DIX Undo, whole: kinds, names, captions with their access keys, tool tips, frames, tab
+// The window of Q-DIX Undo, complete: kinds, names, captions with their access keys, tool tips, frames, tab
 // order.
 #include <gtest/gtest.h>
 

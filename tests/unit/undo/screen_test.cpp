@@ -1,4 +1,4 @@
-// The window as it is drawn: everything in its place and reachable by one key.
+// The window as drawn: every control is in position and reachable by one key.
 #include <gtest/gtest.h>
 
 #include "tests/support/screen_rules.h"
@@ -17,7 +17,7 @@ class UndoWindow : public testing::Test {
   std::vector<ui::Control*> controls;
 };
 
-TEST_F(UndoWindow, EveryBoxAndButtonHasAKeyOfItsOwn) {
+TEST_F(UndoWindow, EveryBoxAndButtonHasItsOwnKey) {
   ExpectDifferentAccessKeys(controls);
   for (const ui::Control* const control : controls) {
     const bool is_pressed =
@@ -26,7 +26,7 @@ TEST_F(UndoWindow, EveryBoxAndButtonHasAKeyOfItsOwn) {
   }
 }
 
-TEST_F(UndoWindow, EverythingStandsInItsPlaceWithinTheMargins) {
+TEST_F(UndoWindow, EverythingIsInPositionWithinTheMargins) {
   constexpr std::int16_t kMargin = 7;
   const ui::Place window = screen.Window.GetPlace();
   EXPECT_LE(window.width, 263);

@@ -1,4 +1,4 @@
-// What the window says of record, backup and system.ini, and what it offers in each state.
+// What the window says about record, backup and system.ini, and what it offers in each state.
 #include <gtest/gtest.h>
 
 #include "tests/unit/undo/undo_rig.h"
@@ -45,7 +45,7 @@ class UndoState : public testing::Test {
     EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
     EXPECT_EQ(rig.Screen().MinPagingFileSize.before.Caption(), "not recorded");
     EXPECT_EQ(rig.Screen().Paging.before.Caption(), "not recorded");
-    EXPECT_EQ(RowsToPutBack(), 5) << "those of the record";
+    EXPECT_EQ(RowsToPutBack(), 5) << "only the recorded entries";
   }
 
   UndoRig rig;
@@ -79,7 +79,8 @@ TEST_F(UndoState, RecordWithoutValues) {
   EXPECT_EQ(rig.Screen().MinFileCache.before.Caption(), "not recorded; backup: 2048");
   EXPECT_TRUE(rig.Screen().MinFileCache.box.Ticked());
   EXPECT_TRUE(rig.Screen().MaxFileCache.box.Enabled());
-  EXPECT_FALSE(rig.Screen().MaxFileCache.box.Ticked()) << "only the backup's silence speaks for its removal";
+  EXPECT_FALSE(rig.Screen().MaxFileCache.box.Ticked())
+      << "the only evidence for its removal is that the backup lacks it";
 }
 
 TEST_F(UndoState, RecordWithoutValuesAndWithoutBackup) {
@@ -91,7 +92,7 @@ TEST_F(UndoState, RecordWithoutValuesAndWithoutBackup) {
   EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
 }
 
-TEST_F(UndoState, BackupWithoutRecordServesTheWholeFile) {
+TEST_F(UndoState, BackupWithoutRecordOffersOnlyTheWholeFile) {
   rig.machine.WriteFile(kBackupPath, kIniBefore);
   Start();
   EXPECT_EQ(State(), "Nothing is recorded, so you can only restore the whole of system.ini.");
@@ -109,7 +110,7 @@ TEST_F(UndoState, NeitherRecordNorBackup) {
   EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
 }
 
-TEST_F(UndoState, BackupOfAnotherTimeIsNotBelievedEntryByEntry) {
+TEST_F(UndoState, BackupFromAnotherTimeIsNotUsedForSingleEntries) {
   rig.machine.WriteFile(kBackupPath, "[boot]\r\n[386Enh]\r\nPagingDrive=E:\r\nPaging=off\r\n");
   rig.machine.ProtectFile(kBackupPath);
   rig.TakeRecord();
@@ -127,7 +128,7 @@ TEST_F(UndoState, BackupOfAnotherTimeIsNotBelievedEntryByEntry) {
       << rig.machine.Boxes()[0].text;
 }
 
-TEST_F(UndoState, NoTextCallsAnOldWriteProtectedCopyOneOfTheFirstChange) {
+TEST_F(UndoState, NoTextPresentsAnOldWriteProtectedCopyAsTheFirstBackup) {
   rig.machine.SetNow(kThirdOfMay1999 - 300);
   rig.machine.WriteFile(kBackupPath, kIniBefore);
   rig.machine.ProtectFile(kBackupPath);
@@ -150,7 +151,7 @@ TEST_F(UndoState, BackupWithout386EnhIsDamaged) {
   ExpectDamaged("[boot]\r\nshell=Explorer.exe\r\n", "has no [386Enh] section");
 }
 
-TEST_F(UndoState, BackupCutOnAFullDiskIsDamaged) {
+TEST_F(UndoState, BackupTruncatedByAFullDiskIsDamaged) {
   rig.machine.LimitFreeBytes(std::string(kIniBefore).size() - 4);
   rig.TakeRecord();
   rig.machine.LimitFreeBytes(1000000);
@@ -159,7 +160,7 @@ TEST_F(UndoState, BackupCutOnAFullDiskIsDamaged) {
   ExpectDamaged(cut, "ends in the middle of a line");
 }
 
-TEST_F(UndoState, BackupThatCannotBeReadOffersNothing) {
+TEST_F(UndoState, UnreadableBackupOffersNothing) {
   rig.TakeRecord();
   rig.machine.HoldFile(kBackupPath);
   Start();
@@ -171,14 +172,14 @@ TEST_F(UndoState, BackupThatCannotBeReadOffersNothing) {
   EXPECT_EQ(RowsToPutBack(), 5);
 }
 
-TEST_F(UndoState, DateAndNameThatCannotBeReadAreLeftOut) {
+TEST_F(UndoState, UnreadableDateAndNameAreLeftOut) {
   rig.TakeRecord();
   rig.machine.FailNextCall("FindFirstFileA");
   Start();
   EXPECT_EQ(Backup(), "Backup: system.qdix in the Windows folder.");
 }
 
-TEST_F(UndoState, MissingSystemIniIsWarnedOf) {
+TEST_F(UndoState, MissingSystemIniCausesAWarning) {
   rig.TakeRecord();
   rig.machine.EraseFile(kIniPath);
   rig.SetTemplate("Quondix");
@@ -186,7 +187,7 @@ TEST_F(UndoState, MissingSystemIniIsWarnedOf) {
   EXPECT_EQ(State(),
             "Warning: system.ini is missing. Windows cannot start without it. Restore the whole file before "
             "you restart.");
-  EXPECT_EQ(RowsToPutBack(), 1) << "the template; an entry would make a system.ini without anything else";
+  EXPECT_EQ(RowsToPutBack(), 1) << "only the template; an entry would create a system.ini with nothing else";
   EXPECT_TRUE(rig.Screen().Template.box.Ticked());
   rig.machine.EraseFile(kBackupPath);
   rig.Start();
@@ -195,7 +196,7 @@ TEST_F(UndoState, MissingSystemIniIsWarnedOf) {
             "the Windows folder before you restart.");
 }
 
-TEST_F(UndoState, SystemIniWithoutBootIsWarnedOf) {
+TEST_F(UndoState, SystemIniWithoutBootCausesAWarning) {
   rig.TakeRecord();
   rig.machine.WriteFile(kIniPath, "[386Enh]\r\nPagingDrive=C:\r\n");
   rig.Start();

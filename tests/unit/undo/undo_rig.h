@@ -1,4 +1,4 @@
-// The undo program on a simulated machine that Q-DIX has changed: with the record that Q-DIX itself takes.
+// The undo program on a simulated machine that Q-DIX has changed, with the record that Q-DIX itself makes.
 #pragma once
 
 #include <optional>
@@ -19,11 +19,11 @@ inline constexpr const char* kRestartQuestion =
 inline constexpr const char* kIniPath = "C:\\WINDOWS\\system.ini";
 inline constexpr const char* kBackupPath = "C:\\WINDOWS\\system.qdix";
 inline constexpr const char* kRecordKey = "SOFTWARE\\QDIX";
-/// Before the first change: a size of each kind, an entry of a single character, an entry that is missing.
+/// Before the first change: a size of each kind, an entry of a single character, a missing entry.
 inline constexpr const char* kIniBefore =
     "[boot]\r\nshell=Explorer.exe\r\n\r\n[386Enh]\r\nPagingDrive=D:\r\nMinPagingFileSize=0\r\n\r\n"
     "[vcache]\r\nMinFileCache=2048\r\n";
-/// After both tabs were saved, and after a change that has nothing to do with them.
+/// After both tabs were saved, and after an unrelated change.
 inline constexpr const char* kIniAfter =
     "[boot]\r\nshell=Explorer.exe\r\nsound=new.drv\r\n\r\n"
     "[386Enh]\r\nPagingDrive=C:\r\nMinPagingFileSize=65536\r\nMaxPagingFileSize=65536\r\nPaging=on\r\n\r\n"
@@ -36,14 +36,14 @@ inline constexpr const char* kIniPutBack =
 
 class UndoRig {
  public:
-  /// A machine that Q-DIX has seen but not changed. With no template, the key holds no unnamed value.
+  /// Makes a machine that Q-DIX has seen but not changed. Without a template the key has no unnamed value.
   explicit UndoRig(const std::string& ini = kIniBefore, const std::string& template_in_force = "Desktop") {
     machine.WriteFile(kIniPath, ini);
     machine.CreateRegistryKey(os::kHkeyLocalMachine, tuning::kTemplatesKey);
     if (!template_in_force.empty()) SetTemplate(template_in_force);
   }
 
-  /// Takes record and backup.
+  /// Makes record and backup.
   void TakeRecord() {
     tuning::SystemIni ini(machine.GetSystem().profile_files, machine.GetSystem().files);
     tuning::FirstSave(machine.GetSystem(), ini).CheckFirstSave();
@@ -60,7 +60,7 @@ class UndoRig {
     Change();
   }
 
-  /// Writes a value of the record as another hand would.
+  /// Writes a value of the record from outside the program.
   void SetRecord(const std::string& name, const std::string& text) {
     machine.SetRegistryValue(os::kHkeyLocalMachine, kRecordKey, name, text);
     record = machine.RegistryTexts(os::kHkeyLocalMachine, kRecordKey);
@@ -73,7 +73,7 @@ class UndoRig {
   }
   [[nodiscard]] undo::UndoScreen& Screen() { return form->Screen(); }
 
-  /// Every row that can be put back.
+  /// Ticks every row that can be put back.
   void TickAll() {
     for (undo::EntryRow* const row : Screen().Rows()) row->box.SetTicked(row->box.Enabled());
   }
@@ -89,7 +89,7 @@ class UndoRig {
     return machine.RegistryTexts(os::kHkeyLocalMachine, kRecordKey) == record &&
            machine.ReadFile(kBackupPath) == backup;
   }
-  /// Calls that change something, from the given number of recorded calls on.
+  /// Returns the calls that change something, from call `first_call` on.
   [[nodiscard]] std::vector<std::string> Changes(std::size_t first_call = 0) const {
     std::vector<std::string> changes;
     for (std::size_t call = first_call; call < machine.Calls().size(); ++call) {

@@ -1,4 +1,4 @@
-// "Restore Whole File...": the question, the new file, what is said afterwards.
+// "Restore Whole File...": the question, the new file, and the messages afterwards.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -49,7 +49,7 @@ class WholeFile : public testing::Test {
   std::size_t first_call = 0;
 };
 
-TEST_F(WholeFile, QuestionTellsTheDateOfTheCopyAndProposesNo) {
+TEST_F(WholeFile, QuestionShowsTheDateOfTheCopyAndDefaultsToNo) {
   rig.Screen().cmdRestore.Press();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(BoxText(0),
@@ -60,7 +60,7 @@ TEST_F(WholeFile, QuestionTellsTheDateOfTheCopyAndProposesNo) {
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbYesNo | os::kMbIconExclamation | os::kMbDefaultButton2);
 }
 
-TEST_F(WholeFile, QuestionDoesWithoutADateThatCannotBeRead) {
+TEST_F(WholeFile, QuestionOmitsAnUnreadableDate) {
   rig.machine.FailNextCall("FindFirstFileA");
   rig.Screen().cmdRestore.Press();
   EXPECT_EQ(BoxText(0),
@@ -69,13 +69,13 @@ TEST_F(WholeFile, QuestionDoesWithoutADateThatCannotBeRead) {
             "file will be kept under another name.\r\n\r\nDo you want to replace system.ini?");
 }
 
-TEST_F(WholeFile, NoChangesNothing) {
+TEST_F(WholeFile, AnswerNoChangesNothing) {
   PressAndAnswer({os::kIdNo});
   EXPECT_THAT(rig.Changes(first_call), IsEmpty());
   EXPECT_EQ(rig.Ini(), kIniAfter);
 }
 
-TEST_F(WholeFile, YesWritesANewFileAndChangesNames) {
+TEST_F(WholeFile, AnswerYesWritesANewFileAndRenames) {
   PressAndAnswer({os::kIdYes, os::kIdOk, os::kIdNo});
   EXPECT_EQ(rig.Ini(), kIniBefore);
   EXPECT_EQ(rig.machine.ReadFile(kKeptPath), kIniAfter);
@@ -87,10 +87,10 @@ TEST_F(WholeFile, YesWritesANewFileAndChangesNames) {
                   "MoveFileA(C:\\WINDOWS\\SYSTEM.Q00, C:\\WINDOWS\\system.ini)"));
   EXPECT_TRUE(rig.machine.Misuses().empty());
   EXPECT_TRUE(rig.RecordIsUntouched());
-  EXPECT_EQ(rig.Template(), "Quondix") << "it is in the registry";
+  EXPECT_EQ(rig.Template(), "Quondix") << "the template is in the registry";
 }
 
-TEST_F(WholeFile, NewStateIsShownAndTheRestartOffered) {
+TEST_F(WholeFile, NewStateIsShownAndARestartIsOffered) {
   rig.SetTemplate("Desktop");
   PressAndAnswer({os::kIdYes, os::kIdOk, os::kIdYes});
   EXPECT_EQ(rig.Screen().MinFileCache.now.Caption(), "2048");
@@ -102,7 +102,7 @@ TEST_F(WholeFile, NewStateIsShownAndTheRestartOffered) {
   EXPECT_EQ(rig.machine.RestartCount(), 1);
 }
 
-TEST_F(WholeFile, OwnTemplateStillInForceIsSaidAndTicked) {
+TEST_F(WholeFile, OwnTemplateStillInEffectIsReportedAndTicked) {
   rig.Screen().Template.box.SetTicked(false);
   PressAndAnswer({os::kIdYes, os::kIdOk, os::kIdNo});
   EXPECT_EQ(BoxText(1), std::string(kReplaced) + kTemplateIsStillOwn);
@@ -110,26 +110,26 @@ TEST_F(WholeFile, OwnTemplateStillInForceIsSaidAndTicked) {
   EXPECT_TRUE(rig.Screen().cmdPutBack.Enabled());
 }
 
-TEST_F(WholeFile, OwnTemplateCanBeRemovedAlsoWithoutARecord) {
+TEST_F(WholeFile, OwnTemplateCanBeRemovedWithoutARecord) {
   UndoRig other;
   other.machine.WriteFile(kBackupPath, kIniBefore);
   other.SetTemplate("Quondix");
   other.Start();
-  EXPECT_FALSE(other.Screen().Template.box.Enabled()) << "not before the file was restored";
+  EXPECT_FALSE(other.Screen().Template.box.Enabled()) << "it is disabled until the file is restored";
   for (const int answer : {os::kIdYes, os::kIdOk, os::kIdNo}) other.machine.AnswerNextBox(answer);
   other.Screen().cmdRestore.Press();
   EXPECT_EQ(other.machine.Boxes()[1].text, std::string(kReplaced) + kTemplateIsStillOwn);
   EXPECT_TRUE(other.Screen().Template.box.Ticked());
   for (const int answer : {os::kIdYes, os::kIdNo}) other.machine.AnswerNextBox(answer);
   other.Screen().cmdPutBack.Press();
-  ASSERT_EQ(other.machine.Boxes().size(), 5U) << "question, news and restart, question and restart";
+  ASSERT_EQ(other.machine.Boxes().size(), 5U) << "question, result and restart, then question and restart";
   EXPECT_EQ(other.machine.Boxes()[3].text,
             "Q-DIX Undo will make these changes:\r\n\r\nFile system template: remove (not "
             "recorded)\r\n\r\nDo you want to put these settings back?");
   EXPECT_EQ(other.Template(), std::nullopt);
 }
 
-TEST_F(WholeFile, TemplateOfSomebodyElseIsNotMentioned) {
+TEST_F(WholeFile, ForeignTemplateIsNotMentioned) {
   UndoRig other;
   other.machine.WriteFile(kBackupPath, kIniBefore);
   other.Start();
@@ -139,7 +139,7 @@ TEST_F(WholeFile, TemplateOfSomebodyElseIsNotMentioned) {
   EXPECT_FALSE(other.Screen().Template.box.Enabled());
 }
 
-TEST_F(WholeFile, MissingSystemIniIsMadeAndNoOtherNameTold) {
+TEST_F(WholeFile, MissingSystemIniIsCreatedAndNoOtherNameIsMentioned) {
   rig.machine.EraseFile(kIniPath);
   rig.SetTemplate("Desktop");
   PressAndAnswer({os::kIdYes, os::kIdOk, os::kIdNo});
@@ -147,7 +147,7 @@ TEST_F(WholeFile, MissingSystemIniIsMadeAndNoOtherNameTold) {
   EXPECT_EQ(BoxText(1), "system.ini has been replaced.");
 }
 
-TEST_F(WholeFile, FailureIsSaidAndOffersNoRestart) {
+TEST_F(WholeFile, FailureIsReportedWithoutARestart) {
   rig.machine.ProtectFile(kIniPath);
   PressAndAnswer({os::kIdYes, os::kIdOk});
   ASSERT_EQ(rig.machine.Boxes().size(), 2U);
@@ -160,8 +160,8 @@ TEST_F(WholeFile, FailureIsSaidAndOffersNoRestart) {
   EXPECT_EQ(rig.machine.RestartCount(), 0);
 }
 
-TEST_F(WholeFile, FileThatLostItsNameIsNamed) {
-  // The new file made and filled, and the first change of names: nothing after them reaches the disk.
+TEST_F(WholeFile, FileThatLostItsNameIsReported) {
+  // The new file is created and filled and the first rename done; nothing after that reaches the disk.
   constexpr int kLastGoodWrite = 3;
   rig.machine.CutPowerInDiskWrite(rig.machine.DiskWriteCount() + kLastGoodWrite + 1);
   PressAndAnswer({os::kIdYes, os::kIdOk});
@@ -177,7 +177,7 @@ TEST_F(WholeFile, FileThatLostItsNameIsNamed) {
             "you restart.");
 }
 
-TEST_F(WholeFile, FileThatAnotherProgramHoldsStaysAsItIs) {
+TEST_F(WholeFile, FileHeldByAnotherProgramStaysUnchanged) {
   rig.machine.HoldFile(kIniPath);
   PressAndAnswer({os::kIdYes, os::kIdOk});
   EXPECT_EQ(BoxText(1), kNotReplaced);
@@ -185,7 +185,7 @@ TEST_F(WholeFile, FileThatAnotherProgramHoldsStaysAsItIs) {
   EXPECT_EQ(rig.machine.ReadFile("C:\\WINDOWS\\SYSTEM.Q00"), std::nullopt);
 }
 
-TEST_F(WholeFile, BackupThatIsNoLongerWholeIsNotTaken) {
+TEST_F(WholeFile, BackupDamagedSinceTheStartIsNotUsed) {
   rig.machine.WhileBoxIsOpen([this] {
     if (rig.machine.Boxes().size() == 1) rig.machine.WriteFile(kBackupPath, "[boot]\r\nshel");
   });
@@ -203,14 +203,14 @@ TEST_F(WholeFile, BackupIsReadAgainBeforeTheQuestion) {
   EXPECT_EQ(rig.Ini(), kIniAfter);
 }
 
-TEST_F(WholeFile, SessionThatEndsInTheQuestionReplacesNothing) {
+TEST_F(WholeFile, EndOfTheSessionDuringTheQuestionReplacesNothing) {
   rig.machine.WhileBoxIsOpen([this] { rig.form->EndSession(); });
   PressAndAnswer({os::kIdYes});
   EXPECT_THAT(rig.Changes(first_call), IsEmpty());
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
 }
 
-TEST_F(WholeFile, WindowClosedUnderTheNewsOffersNoRestart) {
+TEST_F(WholeFile, WindowClosedDuringTheResultOffersNoRestart) {
   rig.machine.WhileBoxIsOpen([this] {
     if (rig.machine.Boxes().size() == 2) rig.form->Window().Unload();
   });
