@@ -1,4 +1,4 @@
-// Message boxes: what they show and what comes back.
+// Message boxes: their texts and their answers.
 #include "tests/contract/machine.h"
 
 namespace qdix::contract {
@@ -34,7 +34,7 @@ TEST_F(DialogsContract, AnswersAreTheButtonsPressed) {
   }
 }
 
-TEST_F(DialogsContract, BoxThatIsOpenWhenTheProgramEndsIsUnanswered) {
+TEST_F(DialogsContract, BoxOpenWhenTheProgramEndsIsUnanswered) {
   machine->StopInNextBox();
   EXPECT_EQ(Ask(os::kMbYesNo), os::kIdNone);
   EXPECT_EQ(machine->Boxes().size(), 1U);

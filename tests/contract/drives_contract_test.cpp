@@ -1,4 +1,4 @@
-// Drives: the list, and the drive that Windows is on.
+// Drives: the list, and the drive that Windows is installed on.
 #include <array>
 
 #include "tests/contract/machine.h"
@@ -10,7 +10,7 @@ constexpr const char* kSystemRoot = "C:\\";
 
 using DrivesContract = ContractTest;
 
-TEST_F(DrivesContract, ListHoldsTheSystemsDriveAndEndsWithTwoNuls) {
+TEST_F(DrivesContract, ListHasTheSystemDriveAndEndsWithTwoNuls) {
   std::array<char, 128> buffer{};
   buffer.fill('x');
   const std::uint32_t length = system.drives.GetLogicalDriveStringsA(buffer.size(), buffer.data());
@@ -21,7 +21,7 @@ TEST_F(DrivesContract, ListHoldsTheSystemsDriveAndEndsWithTwoNuls) {
   EXPECT_EQ(list.substr(length - 1), std::string(2, '\0'));
 }
 
-TEST_F(DrivesContract, ListThatDoesNotFitTellsTheRoomAndWritesNothing) {
+TEST_F(DrivesContract, ListThatDoesNotFitReturnsTheSizeAndWritesNothing) {
   std::array<char, 128> buffer{};
   const std::uint32_t length = system.drives.GetLogicalDriveStringsA(buffer.size(), buffer.data());
   std::array<char, 2> small{'x', 'x'};
@@ -29,12 +29,12 @@ TEST_F(DrivesContract, ListThatDoesNotFitTellsTheRoomAndWritesNothing) {
   EXPECT_EQ(small[0], 'x');
 }
 
-TEST_F(DrivesContract, SystemsDriveIsFixedAndAnUnknownRootIsNone) {
+TEST_F(DrivesContract, SystemDriveIsFixedAndAnUnknownRootIsNoDrive) {
   EXPECT_EQ(system.drives.GetDriveTypeA(kSystemRoot), os::kDriveFixed);
   EXPECT_EQ(system.drives.GetDriveTypeA("Q:\\"), 1U);
 }
 
-TEST_F(DrivesContract, BothQueriesKnowTheSystemsDriveAndNotAnUnknownOne) {
+TEST_F(DrivesContract, BothQueriesKnowTheSystemDriveAndNotAnUnknownOne) {
   os::DiskBytes bytes;
   ASSERT_EQ(system.drives.GetDiskFreeSpaceExA(kSystemRoot, bytes), 1);
   EXPECT_GT(bytes.total, 0U);
@@ -54,7 +54,7 @@ TEST_F(DrivesContract, RootWithoutItsBackslashIsRefusedByBothQueries) {
   EXPECT_EQ(system.drives.GetDiskFreeSpaceA("C:", clusters), 0);
 }
 
-TEST_F(DrivesContract, VolumeOfTheSystemsDriveCanBeAsked) {
+TEST_F(DrivesContract, VolumeOfTheSystemDriveCanBeQueried) {
   std::uint32_t flags = 0xFFFFFFFFU;
   EXPECT_EQ(system.drives.GetVolumeInformationA(kSystemRoot, flags), 1);
   EXPECT_NE(flags, 0xFFFFFFFFU);

@@ -1,4 +1,4 @@
-// Event pump: handlers run inside it, and it comes back.
+// Event pump: handlers run inside it, and it returns.
 #include "tests/contract/machine.h"
 
 namespace qdix::contract {
@@ -8,7 +8,7 @@ using EventPumpContract = ContractTest;
 
 TEST_F(EventPumpContract, ReturnsWithNothingWaiting) {
   for (int pump = 0; pump < 1000; ++pump) system.event_pump.PumpEvents();
-  SUCCEED() << "a pump that waits would never come here";
+  SUCCEED() << "a pump that waits would never get here";
 }
 
 TEST_F(EventPumpContract, RunsWhatIsWaitingBeforeItReturns) {
@@ -21,7 +21,7 @@ TEST_F(EventPumpContract, RunsWhatIsWaitingBeforeItReturns) {
   EXPECT_EQ(runs, 1);
 }
 
-TEST_F(EventPumpContract, WaitTakesItsTimeAndRunsWhatComesInIt) {
+TEST_F(EventPumpContract, WaitTakesItsTimeAndRunsWhatArrives) {
   int runs = 0;
   machine->DoInNextPump([&] { ++runs; });
   const std::uint32_t before_ms = system.clock.GetTickCount();
@@ -31,7 +31,7 @@ TEST_F(EventPumpContract, WaitTakesItsTimeAndRunsWhatComesInIt) {
   EXPECT_GE(passed_ms, 300U);
 }
 
-TEST_F(EventPumpContract, HandlerPumpsInTurn) {
+TEST_F(EventPumpContract, HandlerMayPump) {
   std::string order;
   machine->DoInNextPump([&] {
     order += "outer(";

@@ -1,5 +1,5 @@
-// The machine that the contract tests run against: the simulated one or the real one. What a test needs
-// beside the interfaces themselves, a user's hands above all, is here; each side brings its own.
+// The machine that the contract tests run against: the simulated one or the real one. It adds what a test
+// needs beyond the interfaces themselves, mainly the actions of a user. Each side supplies its own.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -27,7 +27,8 @@ class Machine {
 
   [[nodiscard]] virtual const os::System& GetSystem() = 0;
 
-  /// Opens a top-level window in front of all others of the tests; it closes with the machine at the latest.
+  /// Opens a top-level window in front of all other windows of the tests. It closes with the machine at the
+  /// latest.
   virtual os::WindowHandle OpenWindow(const std::string& window_class, const std::string& title) = 0;
   virtual void CloseWindow(os::WindowHandle window) = 0;
   virtual void PlaceDirectlyBehind(os::WindowHandle window, os::WindowHandle front) = 0;
@@ -36,25 +37,25 @@ class Machine {
   virtual void Hide(os::WindowHandle window) = 0;
   [[nodiscard]] virtual bool IsShown(os::WindowHandle window) = 0;
 
-  /// Something that happens inside the next pump.
+  /// Runs an action inside the next pump.
   virtual void DoInNextPump(std::function<void()> action) = 0;
 
-  /// The button that a hand presses in the next box.
+  /// Presses this button in the next box.
   virtual void AnswerNextBox(int button) = 0;
-  /// The program ends while the next box is open.
+  /// Ends the program while the next box is open.
   virtual void StopInNextBox() = 0;
   [[nodiscard]] virtual std::vector<ShownBox> Boxes() = 0;
 
   /// Lets at least this much time pass.
   virtual void LetTimePass(int ms) = 0;
 
-  // What is not part of the system that every program gets.
+  // Parts that only some programs get.
   [[nodiscard]] virtual os::Clipboard& TheClipboard() = 0;
   [[nodiscard]] virtual os::Screen& TheScreen() = 0;
   [[nodiscard]] virtual os::TextDevice& TheTextDevice() = 0;
-  /// The text that another program would paste.
+  /// Returns the text that another program would paste.
   [[nodiscard]] virtual std::string ClipboardText() = 0;
-  /// Another window opens the clipboard, and closes it again.
+  /// Opens the clipboard from another window until ReleaseClipboard() closes it.
   virtual void HoldClipboard() = 0;
   virtual void ReleaseClipboard() = 0;
 

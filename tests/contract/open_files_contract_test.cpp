@@ -1,4 +1,4 @@
-// Files byte by byte: opening, reading on, writing, other names.
+// Files byte by byte: opening, sequential reading, writing, renaming.
 #include <string>
 
 #include "base/text.h"
@@ -26,7 +26,7 @@ class OpenFilesContract : public ContractTest {
     EXPECT_TRUE(system.files.FlushFileBuffers(file));
     system.files.CloseHandle(file);
   }
-  /// At most so many bytes; what is shown is what came.
+  /// Reads at most `size_bytes` bytes and returns what was read.
   std::string ReadOn(os::FileHandle file, std::uint32_t size_bytes) {
     std::string text(size_bytes, '?');
     std::uint32_t read = 0;
@@ -51,7 +51,7 @@ TEST_F(OpenFilesContract, MissingFileIsNotOpened) {
   EXPECT_EQ(Content(kFile), "no file");
 }
 
-TEST_F(OpenFilesContract, OpenAlwaysMakesAnEmptyFileAndKeepsOneThatIsThere) {
+TEST_F(OpenFilesContract, OpenAlwaysCreatesAnEmptyFileAndKeepsAnExistingOne) {
   os::FileHandle file = system.files.CreateFileA(kFile, os::kGenericRead, os::kOpenAlways);
   ASSERT_NE(file, os::kInvalidFile);
   EXPECT_EQ(system.files.GetFileSize(file), 0U);
@@ -69,7 +69,7 @@ TEST_F(OpenFilesContract, CreateAlwaysEmptiesAFile) {
   EXPECT_EQ(Content(kFile), "short");
 }
 
-TEST_F(OpenFilesContract, ReadingGoesOnWhereItEnded) {
+TEST_F(OpenFilesContract, ReadingContinuesWhereItEnded) {
   Write(kFile, std::string("ab\0cd", 5));
   const os::FileHandle file = system.files.CreateFileA(kFile, os::kGenericRead, os::kOpenExisting);
   EXPECT_EQ(ReadOn(file, 2), "ab");
@@ -88,14 +88,14 @@ TEST_F(OpenFilesContract, FileOpenedForReadingCannotBeWritten) {
   EXPECT_EQ(Content(kFile), "kept");
 }
 
-TEST_F(OpenFilesContract, MovedFileHasItsOtherNameOnly) {
+TEST_F(OpenFilesContract, MovedFileHasOnlyItsNewName) {
   Write(kFile, "content");
   EXPECT_TRUE(system.files.MoveFileA(kFile, kOther));
   EXPECT_EQ(Content(kFile), "no file");
   EXPECT_EQ(Content(kOther), "content");
 }
 
-TEST_F(OpenFilesContract, FileIsNotMovedOverAnotherNorFromNowhere) {
+TEST_F(OpenFilesContract, MoveFailsOverAnotherFileAndWithoutASource) {
   Write(kOther, "other");
   EXPECT_FALSE(system.files.MoveFileA(kFile, kOther));
   Write(kFile, "content");
@@ -104,7 +104,7 @@ TEST_F(OpenFilesContract, FileIsNotMovedOverAnotherNorFromNowhere) {
   EXPECT_EQ(Content(kOther), "other");
 }
 
-TEST_F(OpenFilesContract, FoundFileTellsItsDateAndItsDosName) {
+TEST_F(OpenFilesContract, FoundFileHasItsDateAndItsDosName) {
   constexpr double kMinute = 1.0 / (24 * 60);
   Write(kFile, "content");
   os::FoundFile found;
@@ -115,7 +115,7 @@ TEST_F(OpenFilesContract, FoundFileTellsItsDateAndItsDosName) {
   EXPECT_EQ(found.dos_name.find_first_of(" \\"), std::string::npos) << found.dos_name;
 }
 
-TEST_F(OpenFilesContract, NameThatSuitsDosIsItsOwnDosName) {
+TEST_F(OpenFilesContract, ValidDosNameIsItsOwnDosName) {
   Write(kShort, "content");
   os::FoundFile found;
   EXPECT_TRUE(system.files.FindFirstFileA(kShort, found));

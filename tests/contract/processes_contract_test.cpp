@@ -1,4 +1,4 @@
-// This process among others: the mutex of the single copy, the program's own file.
+// This process among others: the single-instance mutex, the path of the program's own file.
 #include "base/text.h"
 #include "tests/contract/machine.h"
 
@@ -7,12 +7,12 @@ namespace {
 
 using ProcessesContract = ContractTest;
 
-TEST_F(ProcessesContract, MutexExistsFromTheFirstCallOn) {
+TEST_F(ProcessesContract, MutexExistsAfterTheFirstCall) {
   EXPECT_FALSE(system.processes.MutexExistedBefore("QDIX.ContractTests.Once"));
   EXPECT_TRUE(system.processes.MutexExistedBefore("QDIX.ContractTests.Once"));
 }
 
-TEST_F(ProcessesContract, MutexesOfDifferentNamesAreDifferentOnes) {
+TEST_F(ProcessesContract, MutexesOfDifferentNamesAreDistinct) {
   EXPECT_FALSE(system.processes.MutexExistedBefore("QDIX.ContractTests.A"));
   EXPECT_FALSE(system.processes.MutexExistedBefore("QDIX.ContractTests.B"));
 }
@@ -24,15 +24,15 @@ TEST_F(ProcessesContract, ModuleFileNameIsAFullPathOfAProgram) {
   EXPECT_TRUE(base::EqualsIgnoringCase(path.substr(path.size() - 4), ".exe")) << path;
 }
 
-TEST_F(ProcessesContract, ProgramThatIsThereIsStarted) {
+TEST_F(ProcessesContract, ExistingProgramIsStarted) {
   EXPECT_EQ(system.processes.CreateProcessA("cmd /c exit"), os::kErrorSuccess);
 }
 
-TEST_F(ProcessesContract, ProgramThatIsMissingIsNotFound) {
+TEST_F(ProcessesContract, MissingProgramIsNotFound) {
   EXPECT_EQ(system.processes.CreateProcessA("qdix_no_such_program C:"), os::kErrorFileNotFound);
 }
 
-TEST_F(ProcessesContract, FolderThatIsThereBecomesTheCurrentOne) {
+TEST_F(ProcessesContract, ExistingFolderBecomesTheCurrentOne) {
   EXPECT_TRUE(system.processes.SetCurrentDirectoryA("C:"));
   EXPECT_TRUE(system.processes.SetCurrentDirectoryA("C:\\windows"));
   EXPECT_FALSE(system.processes.SetCurrentDirectoryA("C:\\qdix no such folder"));

@@ -1,4 +1,4 @@
-// The processor: what it says of itself, and its clock.
+// The processor: how it identifies itself, and its cycle counter.
 #include "tests/contract/machine.h"
 
 namespace qdix::contract {
@@ -9,7 +9,7 @@ constexpr std::uint32_t kMeasuringMs = 20;
 
 using ProcessorContract = ContractTest;
 
-TEST_F(ProcessorContract, GenerationIsThatOfA386OrLater) {
+TEST_F(ProcessorContract, GenerationIs386OrLater) {
   const int generation = system.processor.Generation();
   EXPECT_TRUE(generation == 3 || generation == 4) << generation;
 }
@@ -26,7 +26,7 @@ TEST_F(ProcessorContract, CyclesAreCountedOverAtLeastTheTimeAskedFor) {
   ASSERT_NE(system.processor.Cpuid(1).edx & kTimeStampCounterBit, 0U);
   const os::CycleCount count = system.processor.CountCycles(kMeasuringMs);
   EXPECT_GE(count.microseconds, std::uint64_t{1000} * kMeasuringMs);
-  EXPECT_GT(count.cycles, 10 * count.microseconds) << "no processor with the counter is slower than that";
+  EXPECT_GT(count.cycles, 10 * count.microseconds) << "every processor with the counter is faster than that";
 }
 
 }  // namespace

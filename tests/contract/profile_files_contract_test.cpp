@@ -16,7 +16,7 @@ class ProfileFilesContract : public ContractTest {
   bool Write(const char* section, const char* key, const char* value) {
     return system.profile_files.WritePrivateProfileStringA(section, key, value, kFile);
   }
-  /// With the number of characters that were copied in front.
+  /// Returns the number of characters copied, followed by the text.
   std::string Read(const char* section, const char* key, std::uint32_t room = 255) {
     std::array<char, 255> buffer{};
     const std::uint32_t copied =
@@ -35,7 +35,7 @@ TEST_F(ProfileFilesContract, DefaultLosesTheBlanksAtItsEnd) {
   EXPECT_STREQ(buffer.data(), "none");
 }
 
-TEST_F(ProfileFilesContract, WrittenEntryComesBackWhateverTheCaseOfItsNames) {
+TEST_F(ProfileFilesContract, WrittenEntryIsReadInAnyCaseOfItsNames) {
   EXPECT_TRUE(Write("vcache", "Size", "4096"));
   EXPECT_EQ(Read("vcache", "Size"), "4:4096");
   EXPECT_EQ(Read("VCACHE", "size"), "4:4096");
@@ -43,7 +43,7 @@ TEST_F(ProfileFilesContract, WrittenEntryComesBackWhateverTheCaseOfItsNames) {
   EXPECT_EQ(Read("vcache", "Size"), "3:512");
 }
 
-TEST_F(ProfileFilesContract, EntriesStandBesideEachOther) {
+TEST_F(ProfileFilesContract, EntriesOfOneSectionCoexist) {
   EXPECT_TRUE(Write("vcache", "Size", "1"));
   EXPECT_TRUE(Write("vcache", "Other", "2"));
   EXPECT_TRUE(Write("vcache", "Size", nullptr));
@@ -51,7 +51,7 @@ TEST_F(ProfileFilesContract, EntriesStandBesideEachOther) {
   EXPECT_EQ(Read("vcache", "Other"), "1:2");
 }
 
-TEST_F(ProfileFilesContract, EmptyEntryIsThere) {
+TEST_F(ProfileFilesContract, EmptyEntryExists) {
   EXPECT_TRUE(Write("vcache", "Text", ""));
   EXPECT_EQ(Read("vcache", "Text"), "0:");
 }
@@ -64,14 +64,14 @@ TEST_F(ProfileFilesContract, ValueThatDoesNotFitIsCut) {
   EXPECT_EQ(Read("vcache", "Text"), "254:" + std::string(254, 'y'));
 }
 
-TEST_F(ProfileFilesContract, OnePairOfQuotationMarksAndTheBlanksAroundAreNoPartOfAValue) {
+TEST_F(ProfileFilesContract, OnePairOfQuotationMarksAndSurroundingBlanksAreStripped) {
   EXPECT_TRUE(Write("vcache", "Text", "\"a b\""));
   EXPECT_EQ(Read("vcache", "Text"), "3:a b");
   EXPECT_TRUE(Write("vcache", "Text", "  c  "));
   EXPECT_EQ(Read("vcache", "Text"), "1:c");
 }
 
-TEST_F(ProfileFilesContract, RemovingWhatIsNotThereIsNoFailure) {
+TEST_F(ProfileFilesContract, RemovingAMissingEntrySucceeds) {
   EXPECT_TRUE(Write("vcache", "Size", nullptr));
   EXPECT_EQ(Read("vcache", "Size"), "1:0");
 }
@@ -85,7 +85,7 @@ TEST_F(ProfileFilesContract, FlushIsAlwaysFalseAndKeepsWhatWasWritten) {
 
 class FilesContract : public ContractTest {
  protected:
-  /// With a backslash at its end.
+  /// Returns the Windows directory with a backslash at its end.
   std::string WindowsFolder() {
     std::array<char, 255> buffer{};
     EXPECT_GT(system.files.GetWindowsDirectoryA(buffer.data(), buffer.size()), 0U);
@@ -125,7 +125,7 @@ TEST_F(FilesContract, CopyReplacesAnEarlierFileAndFailsWithoutASource) {
   EXPECT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", nullptr, kFile));
 }
 
-TEST_F(FilesContract, FlushedProfileFileCanBeReplacedAndIsReadAnew) {
+TEST_F(FilesContract, FlushedProfileFileCanBeReplacedAndIsReadAgain) {
   const std::string file = WindowsFolder() + kFile;
   const std::string copy = WindowsFolder() + "qdixcopy.ini";
   ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "1", kFile));
@@ -156,7 +156,7 @@ TEST_F(FilesContract, EntryKeepsTheSpellingOfItsKey) {
   EXPECT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "Key", nullptr, kFile));
 }
 
-TEST_F(FilesContract, AttributesTellAFileAFolderAndNothing) {
+TEST_F(FilesContract, AttributesDistinguishAFileAFolderAndNothing) {
   const std::string folder = WindowsFolder();
   ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "1", kFile));
   system.profile_files.WritePrivateProfileStringA(nullptr, nullptr, nullptr, kFile);

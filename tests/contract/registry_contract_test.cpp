@@ -16,7 +16,7 @@ class RegistryContract : public ContractTest {
  protected:
   ~RegistryContract() override { machine->DeleteRegistryTree(os::kHkeyCurrentUser, kTestKey); }
 
-  /// Everything that is opened here is closed with the test.
+  /// Closes the key at the end of the test.
   struct OpenKey {
     os::Registry& registry;
     KeyHandle handle = 0;
@@ -48,7 +48,7 @@ class RegistryContract : public ContractTest {
     std::uint32_t size_bytes = 0;
     std::string bytes;
   };
-  /// Asks for a value with this much room.
+  /// Queries a value with a buffer of this size.
   [[nodiscard]] Answer Query(KeyHandle key, const char* name, std::uint32_t room_bytes = 4096) const {
     Answer answer;
     std::string room(room_bytes, '#');
@@ -67,7 +67,7 @@ TEST_F(RegistryContract, MissingKeyIsNotFoundAndLeavesTheHandleAlone) {
   EXPECT_EQ(key, kUntouched);
 }
 
-TEST_F(RegistryContract, CreateMakesTheKeysAboveAsWell) {
+TEST_F(RegistryContract, CreateAlsoCreatesTheParentKeys) {
   const OpenKey deep = Create(Below("One\\Two\\Three"));
   KeyHandle key = 0;
   ASSERT_EQ(Open(Below("One\\Two"), key), os::kErrorSuccess);
@@ -83,7 +83,7 @@ TEST_F(RegistryContract, CreateOpensAnExistingKeyWithItsValues) {
   EXPECT_EQ(Query(again.handle, "Name").bytes, TextWithNul("kept"));
 }
 
-TEST_F(RegistryContract, CallsOfOldOpenAndMakeKeysWithAllThatCanBeDone) {
+TEST_F(RegistryContract, OldCallsOpenAndCreateKeysWithAllRights) {
   KeyHandle missing = kUntouched;
   EXPECT_EQ(system.registry.RegOpenKeyA(os::kHkeyCurrentUser, Below("Old").c_str(), missing),
             os::kErrorFileNotFound);
@@ -144,7 +144,7 @@ TEST_F(RegistryContract, TextComesBackWithItsNul) {
   EXPECT_EQ(answer.bytes, TextWithNul("64 MB"));
 }
 
-TEST_F(RegistryContract, EmptyTextIsItsNulAlone) {
+TEST_F(RegistryContract, EmptyTextIsOnlyItsNul) {
   const OpenKey key = Create();
   ASSERT_EQ(Set(key.handle, "Empty", os::kRegSz, TextWithNul("")), os::kErrorSuccess);
   const Answer answer = Query(key.handle, "Empty");
@@ -152,7 +152,7 @@ TEST_F(RegistryContract, EmptyTextIsItsNulAlone) {
   EXPECT_EQ(answer.size_bytes, 1U);
 }
 
-TEST_F(RegistryContract, WithoutDataTypeAndSizeAreTold) {
+TEST_F(RegistryContract, QueryWithoutABufferReturnsTypeAndSize) {
   const OpenKey key = Create();
   ASSERT_EQ(Set(key.handle, "Text", os::kRegSz, TextWithNul("12345")), os::kErrorSuccess);
   std::uint32_t type = 0;
@@ -163,7 +163,7 @@ TEST_F(RegistryContract, WithoutDataTypeAndSizeAreTold) {
   EXPECT_EQ(size_bytes, 6U);
 }
 
-TEST_F(RegistryContract, TooLittleRoomIsMoreDataWithTheSizeThatIsNeeded) {
+TEST_F(RegistryContract, TooSmallABufferGivesMoreDataAndTheSizeNeeded) {
   const OpenKey key = Create();
   ASSERT_EQ(Set(key.handle, "Data", os::kRegBinary, "123456789"), os::kErrorSuccess);
   const Answer answer = Query(key.handle, "Data", 8);
@@ -191,7 +191,7 @@ TEST_F(RegistryContract, EachTypeIsKept) {
   EXPECT_EQ(Query(key.handle, "Number").bytes, number);
 }
 
-TEST_F(RegistryContract, NewValueReplacesTheOldTypeAndAll) {
+TEST_F(RegistryContract, NewValueAlsoReplacesTheType) {
   const OpenKey key = Create();
   ASSERT_EQ(Set(key.handle, "Name", os::kRegSz, TextWithNul("a long text")), os::kErrorSuccess);
   ASSERT_EQ(Set(key.handle, "Name", os::kRegBinary, "b"), os::kErrorSuccess);
@@ -206,7 +206,7 @@ TEST_F(RegistryContract, LongTextIsKeptWhole) {
   EXPECT_EQ(Query(key.handle, "Long").bytes, text);
 }
 
-TEST_F(RegistryContract, UnnamedValueStandsBesideTheNamedOnes) {
+TEST_F(RegistryContract, UnnamedValueCoexistsWithNamedOnes) {
   const OpenKey key = Create();
   ASSERT_EQ(Set(key.handle, "", os::kRegSz, TextWithNul("unnamed")), os::kErrorSuccess);
   ASSERT_EQ(Set(key.handle, "Name", os::kRegSz, TextWithNul("named")), os::kErrorSuccess);
@@ -259,7 +259,7 @@ TEST_F(RegistryContract, ClosedHandleIsInvalid) {
   EXPECT_EQ(opened, kUntouched);
 }
 
-TEST_F(RegistryContract, TextsOfTheProgramMakeTheRoundTrip) {
+TEST_F(RegistryContract, TextsOfTheProgramSurviveTheRoundTrip) {
   const std::string path = Below("Settings");
   for (const std::string text : {"", "64 MB", "True", "1,5", "a\tb", "\xE4\xF6\xFC"}) {
     auto writer = shell::RegistryKey::Create(system.registry, os::kHkeyCurrentUser, path, os::kKeySetValue);

@@ -1,4 +1,4 @@
-// Notification area: an icon is added once, modified while it is there, deleted once.
+// Notification area: an icon is added once, modified while it exists, deleted once.
 #include <algorithm>
 
 #include "tests/contract/machine.h"
@@ -22,7 +22,7 @@ class ShellContract : public ContractTest {
 
 TEST_F(ShellContract, RecordHas88Bytes) { EXPECT_EQ(icon.size_bytes, 88U); }
 
-TEST_F(ShellContract, IconLivesFromItsAddToItsDelete) {
+TEST_F(ShellContract, IconExistsFromAddToDelete) {
   EXPECT_FALSE(system.shell.Shell_NotifyIconA(os::kNimModify, icon));
   EXPECT_TRUE(system.shell.Shell_NotifyIconA(os::kNimAdd, icon));
   EXPECT_TRUE(system.shell.Shell_NotifyIconA(os::kNimModify, icon));
@@ -36,7 +36,7 @@ TEST_F(ShellContract, IconIsNotAddedTwice) {
   EXPECT_TRUE(system.shell.Shell_NotifyIconA(os::kNimDelete, icon));
 }
 
-TEST_F(ShellContract, FileThatIsMissingIsNotOpened) {
+TEST_F(ShellContract, MissingFileIsNotOpened) {
   EXPECT_FALSE(system.shell.ShellExecuteA("Open", "C:\\qdix no such file.htm", os::kSwShowMaximized));
 }
 

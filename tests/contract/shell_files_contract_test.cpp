@@ -1,5 +1,5 @@
-// The shell's folders, its operations on files without questions, and shortcuts. What the list of recent
-// documents makes of a file differs between systems and is not asked here.
+// The shell's folders, its file operations without prompts, and shortcuts. The list of recent documents is
+// not tested here: what it makes of a file differs between systems.
 #include "tests/contract/machine.h"
 
 namespace qdix::contract {
@@ -41,7 +41,7 @@ class ShellFilesContract : public ContractTest {
   }
 };
 
-TEST_F(ShellFilesContract, FoldersOfTheShellAreFullPathsWithoutAClosingBackslash) {
+TEST_F(ShellFilesContract, ShellFoldersAreFullPathsWithoutATrailingBackslash) {
   for (const int number : {os::kStartupFolder, os::kRecentFolder, os::kStartMenuFolder, os::kDesktopFolder}) {
     const std::string folder = system.shell_files.SpecialFolder(number);
     ASSERT_GT(folder.size(), 3U) << number;
@@ -50,7 +50,7 @@ TEST_F(ShellFilesContract, FoldersOfTheShellAreFullPathsWithoutAClosingBackslash
   }
 }
 
-TEST_F(ShellFilesContract, FolderThatTheShellDoesNotHaveIsEmpty) {
+TEST_F(ShellFilesContract, FolderUnknownToTheShellIsEmpty) {
   EXPECT_EQ(system.shell_files.SpecialFolder(0x7FFF), "");
 }
 
@@ -94,7 +94,7 @@ TEST_F(ShellFilesContract, ShortcutIsWrittenOverAnEarlierOne) {
   EXPECT_EQ(system.shell_files.ReadShortcut(path)->arguments, "");
 }
 
-TEST_F(ShellFilesContract, FileThatIsNoShortcutLeadsNowhere) {
+TEST_F(ShellFilesContract, FileThatIsNoShortcutHasNoTarget) {
   EXPECT_FALSE(system.shell_files.ReadShortcut(kProgram).has_value());
   EXPECT_FALSE(system.shell_files.ReadShortcut("C:\\windows\\qdix_a.txt").has_value());
 }

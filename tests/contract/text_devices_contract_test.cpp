@@ -1,4 +1,4 @@
-// Clipboard, work area, and texts that are measured.
+// Clipboard, work area, and text measurement.
 #include "tests/contract/machine.h"
 
 namespace qdix::contract {
@@ -9,7 +9,7 @@ class ClipboardContract : public ContractTest {
   os::Clipboard& clipboard = machine->TheClipboard();
 };
 
-TEST_F(ClipboardContract, TextTakesThePlaceOfTheOneBefore) {
+TEST_F(ClipboardContract, TextReplacesThePreviousOne) {
   EXPECT_TRUE(clipboard.SetClipboardData("One\r\nCaf\xE9\r\n"));
   EXPECT_EQ(machine->ClipboardText(), "One\r\nCaf\xE9\r\n");
   EXPECT_TRUE(clipboard.SetClipboardData("Two"));
@@ -18,7 +18,7 @@ TEST_F(ClipboardContract, TextTakesThePlaceOfTheOneBefore) {
   EXPECT_EQ(machine->ClipboardText(), "");
 }
 
-TEST_F(ClipboardContract, LongTextIsTakenWhole) {
+TEST_F(ClipboardContract, LongTextIsTakenCompletely) {
   const std::string text(100000, 'x');
   EXPECT_TRUE(clipboard.SetClipboardData(text));
   EXPECT_EQ(machine->ClipboardText(), text);
@@ -35,7 +35,7 @@ TEST_F(ClipboardContract, ClipboardThatAnotherWindowHasOpenRefuses) {
 
 using ScreenContract = ContractTest;
 
-TEST_F(ScreenContract, WorkAreaIsAsLargeAsAScreenCanBe) {
+TEST_F(ScreenContract, WorkAreaHasAPlausibleSize) {
   const os::ScreenSize area = machine->TheScreen().WorkArea();
   EXPECT_GE(area.width, 640);
   EXPECT_GE(area.height, 440);
@@ -67,7 +67,7 @@ TEST_F(TextDeviceContract, BoldIsWiderAndFixedHasOneWidth) {
   EXPECT_EQ(Width(fixed, "iii"), Width(fixed, "MMM"));
 }
 
-TEST_F(TextDeviceContract, LinesAreHigherThanWhatStandsOnThem) {
+TEST_F(TextDeviceContract, LinesAreHigherThanTheirCharacters) {
   int lower = 0;
   for (const int points : {8, 10, 14}) {
     const os::FontHeight height = device.GetTextMetricsA({.points = points});
@@ -77,7 +77,7 @@ TEST_F(TextDeviceContract, LinesAreHigherThanWhatStandsOnThem) {
   }
 }
 
-TEST_F(TextDeviceContract, UnderlineTakesNoRoom) {
+TEST_F(TextDeviceContract, UnderlineTakesNoSpace) {
   const os::FontLook link{.points = 8, .is_underlined = true};
   EXPECT_EQ(Width(link, "the files"), Width(body, "the files"));
   EXPECT_EQ(device.GetTextMetricsA(link).line_px, device.GetTextMetricsA(body).line_px);

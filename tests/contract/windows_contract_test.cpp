@@ -1,4 +1,4 @@
-// Windows of other programs: found, walked, restored, brought forward.
+// Windows of other programs: finding, walking, restoring, bringing to the front.
 #include "tests/contract/machine.h"
 
 namespace qdix::contract {
@@ -26,14 +26,14 @@ TEST_F(WindowsContract, ClassAndTitleIgnoreCase) {
   EXPECT_EQ(system.windows.FindWindowA("QDIXCONTRACTWINDOW", "a tITLE"), window);
 }
 
-TEST_F(WindowsContract, TitleHasToMatchWhole) {
+TEST_F(WindowsContract, TitleMustMatchCompletely) {
   machine->OpenWindow(kClass, "A Title");
   EXPECT_EQ(system.windows.FindWindowA(kClass, "A Titl"), 0U);
   EXPECT_EQ(system.windows.FindWindowA(kClass, "A Title "), 0U);
   EXPECT_EQ(system.windows.FindWindowA(kClass, ""), 0U);
 }
 
-TEST_F(WindowsContract, BothHaveToMatch) {
+TEST_F(WindowsContract, BothMustMatch) {
   machine->OpenWindow(kClass, "One");
   const os::WindowHandle other = machine->OpenWindow(kOtherClass, "Two");
   EXPECT_EQ(system.windows.FindWindowA(kClass, "Two"), 0U);
@@ -55,7 +55,7 @@ TEST_F(WindowsContract, WindowsOfOneTitleAreFoundFromFrontToBack) {
   EXPECT_EQ(system.windows.FindWindowExA(behind, "A Title"), 0U);
 }
 
-TEST_F(WindowsContract, BehindAWindowThatIsGoneNothingIsFound) {
+TEST_F(WindowsContract, NothingIsFoundBehindAClosedWindow) {
   machine->OpenWindow(kClass, "A Title");
   const os::WindowHandle gone = machine->OpenWindow(kClass, "A Title");
   machine->CloseWindow(gone);
@@ -68,14 +68,14 @@ TEST_F(WindowsContract, ClosedWindowIsNotFound) {
   EXPECT_EQ(system.windows.FindWindowA(kClass, nullptr), 0U);
 }
 
-TEST_F(WindowsContract, TheWindowBeforeIsTheOneNearerToTheUser) {
+TEST_F(WindowsContract, TheWindowInFrontIsTheOneNearerToTheUser) {
   const os::WindowHandle behind = machine->OpenWindow(kClass, "Behind");
   const os::WindowHandle front = machine->OpenWindow(kClass, "Front");
   machine->PlaceDirectlyBehind(behind, front);
   EXPECT_EQ(system.windows.GetWindow(behind, os::kGwHwndPrev), front);
 }
 
-TEST_F(WindowsContract, NothingStandsBeforeAClosedWindow) {
+TEST_F(WindowsContract, NothingIsInFrontOfAClosedWindow) {
   const os::WindowHandle closed = machine->OpenWindow(kClass, "Closed");
   machine->OpenWindow(kClass, "Front");
   machine->CloseWindow(closed);
@@ -108,7 +108,7 @@ TEST_F(WindowsContract, HiddenWindowIsShownAsItIs) {
   EXPECT_FALSE(machine->IsShown(window)) << "it is not minimised, so there is nothing to restore";
   EXPECT_FALSE(system.windows.ShowWindow(window, os::kSwShowNa));
   EXPECT_TRUE(machine->IsShown(window));
-  EXPECT_TRUE(system.windows.ShowWindow(window, os::kSwShowNa)) << "shown already";
+  EXPECT_TRUE(system.windows.ShowWindow(window, os::kSwShowNa)) << "it is already shown";
   EXPECT_TRUE(machine->IsShown(window));
 }
 
@@ -129,7 +129,7 @@ TEST_F(WindowsContract, ClosedWindowIsNeitherRestoredNorShownNorRaised) {
   EXPECT_FALSE(system.windows.SetForegroundWindow(window));
 }
 
-TEST_F(WindowsContract, WindowThatIsAskedToCloseIsGoneSoonAfter) {
+TEST_F(WindowsContract, WindowAskedToCloseDisappearsSoonAfter) {
   const os::WindowHandle window = machine->OpenWindow("QdixPosted", "posted");
   EXPECT_TRUE(system.windows.PostMessageA(window, os::kWmClose));
   system.event_pump.PumpEvents();

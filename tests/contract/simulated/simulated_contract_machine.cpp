@@ -18,7 +18,7 @@ class SimulatedContractMachine final : public Machine {
     machine_.SetNow(kNoon21November2026);
     machine_.AddDrive('C', {.total_bytes = 1000 * kMegabyte, .free_bytes = 400 * kMegabyte});
     machine_.AddProgram("cmd");
-    // A Pentium of 133 MHz, as it tells of itself.
+    // A 133 MHz Pentium, as it identifies itself.
     machine_.TheProcessor().SetLeaf(0, {.eax = 1, .ebx = 0x756E6547, .ecx = 0x6C65746E, .edx = 0x49656E69});
     machine_.TheProcessor().SetLeaf(1, {.eax = 0x052C, .edx = 0x01BF});
     machine_.TheProcessor().SetClock(133000);
@@ -65,7 +65,7 @@ class SimulatedContractMachine final : public Machine {
   void HoldClipboard() override { clipboard_.is_held = true; }
   void ReleaseClipboard() override { clipboard_.is_held = false; }
 
-  /// The registry goes with the machine.
+  /// The simulated registry goes away with the machine.
   void DeleteRegistryTree(os::KeyHandle /*root*/, const std::string& /*path*/) override {}
 
  private:

@@ -1,4 +1,4 @@
-// A form with a control of each kind and its real windows, for the tests of the peers.
+// A form with a control of each kind and its native windows, for the tests of the peers.
 #pragma once
 
 #include <windows.h>
@@ -94,7 +94,7 @@ struct DemoModels {
                   {.name = "Stop", .caption = "Stop", .access_key = 'p', .place = {60, 100, 50, 14}},
                   ui::ButtonRole::kCancel};
   ui::Button other{tabs.Page(0), {.name = "Other", .caption = "Other", .place = {116, 100, 50, 14}}};
-  /// Its icon is not among the resources of the tests.
+  /// Its icon is not in the resources of the tests.
   ui::Button pictured{tabs.Page(0),
                       {.name = "Pictured", .caption = "With picture", .place = {4, 118, 70, 14}},
                       ui::ButtonRole::kPlain,
@@ -138,7 +138,7 @@ struct DemoModels {
   std::vector<int> errors;
 };
 
-/// The demo with its windows, shown, and a hand that works on them.
+/// The shown demo with its windows, and the actions of a user on it.
 class DemoWindow : public DemoModels {
  public:
   DemoWindow() : window(GetModuleHandleA(nullptr), 1, application, form, timers, ui::win32::MakePeer) {
@@ -147,7 +147,7 @@ class DemoWindow : public DemoModels {
 
   [[nodiscard]] HWND Main() const { return window.MainWindow(); }
 
-  /// The native window of a control, found as a program from outside finds it: by its number.
+  /// Returns the native window of a control, found by its number as another program would find it.
   [[nodiscard]] HWND Native(const ui::Control& control) const {
     const int number = ui::NumberOf(form, control.Name());
     HWND const direct = GetDlgItem(Main(), number);
@@ -163,14 +163,14 @@ class DemoWindow : public DemoModels {
     return SendMessageA(Native(control), message, wparam, lparam);
   }
 
-  /// Sends the parent of a control what the control reports.
+  /// Sends the control's notification to its parent.
   void Report(const ui::Control& control, UINT code) const {
     HWND const native = Native(control);
     SendMessageA(GetParent(native), WM_COMMAND, MAKEWPARAM(static_cast<UINT>(GetDlgCtrlID(native)), code),
                  reinterpret_cast<LPARAM>(native));
   }
 
-  /// Puts a key press into the queue as the keyboard does, for the window with the focus, and handles it.
+  /// Queues a key press for the window with the focus, as the keyboard does, and handles it.
   void Press(WPARAM key) {
     PostMessageA(GetFocus(), WM_KEYDOWN, key, 1);
     PostMessageA(GetFocus(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001U));
@@ -185,7 +185,7 @@ class DemoWindow : public DemoModels {
     Handle();
   }
 
-  /// Handles what waits in the queue, all of it.
+  /// Handles all queued messages.
   void Handle() {
     for (int round = 0; round < 10; ++round) pump.PumpEvents();
   }
@@ -194,7 +194,7 @@ class DemoWindow : public DemoModels {
   ui::win32::FormWindow window;
 };
 
-/// Holds a key of the keyboard state down for as long as it lives.
+/// Holds a key down in the keyboard state during its lifetime.
 class HeldKey {
  public:
   explicit HeldKey(int key) : key_(key) { Set(0x80); }

@@ -1,4 +1,4 @@
-// Functions of the system that do what a test wants.
+// Replaces functions of the system with functions of a test.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@
 
 namespace qdix::contract {
 
-/// A function of the system that leads to another one of the same parameters for as long as this lives.
+/// Redirects a system function to another with the same parameters during its lifetime.
 class Detour {
  public:
   Detour(const char* function, const void* replacement, const char* library = "kernel32.dll")

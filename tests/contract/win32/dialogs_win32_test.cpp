@@ -17,7 +17,7 @@ class DialogsWin32 : public testing::Test {
   Win32ContractMachine machine;
 };
 
-TEST_F(DialogsWin32, BoxBelongsToTheMainWindowAndDisablesItMeanwhile) {
+TEST_F(DialogsWin32, BoxBelongsToTheMainWindowAndDisablesIt) {
   HWND main = OpenMainWindow();
   HWND owner = nullptr;
   bool was_enabled = true;
@@ -69,9 +69,9 @@ int WINAPI NotedBox(HWND /*owner*/, const char* /*text*/, const char* /*title*/,
   return IDOK;
 }
 
-/// Windows 98 and later do not let a program that the user is not working with come to the foreground. Wine
-/// does not know this flag, so that the box itself shows nothing of it.
-TEST_F(DialogsWin32, BoxStaysAboveAllOtherWindowsWhateverItsOwnerLooksLike) {
+/// Windows 98 and later do not let a background program come to the foreground. Wine ignores this flag, so the
+/// test looks at the call and not at the box.
+TEST_F(DialogsWin32, BoxStaysAboveAllOtherWindowsInAnyStateOfItsOwner) {
   HWND main = OpenMainWindow();
   const Detour noted("MessageBoxA", reinterpret_cast<const void*>(&NotedBox), "user32.dll");
   for (const int way : {SW_SHOW, SW_HIDE, SW_SHOWMINNOACTIVE}) {
@@ -82,7 +82,7 @@ TEST_F(DialogsWin32, BoxStaysAboveAllOtherWindowsWhateverItsOwnerLooksLike) {
   }
 }
 
-TEST_F(DialogsWin32, BoxOverABoxEndsWithIt) {
+TEST_F(DialogsWin32, BoxOverABoxClosesWithIt) {
   OpenMainWindow();
   int inner = -1;
   machine.DoToNextBox([&](HWND) {

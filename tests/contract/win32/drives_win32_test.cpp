@@ -1,4 +1,4 @@
-// Questions about a volume and the error mode of the process: without it Windows asks the user for a disk.
+// Volume queries and the error mode of the process. Without the error mode Windows asks the user for a disk.
 #include <tuple>
 
 #include "tests/contract/win32/detour.h"
@@ -45,13 +45,13 @@ TEST_F(DrivesWin32, ClassicQueryLetsTheSystemAskForNoDisk) {
   ExpectAskedQuietlyAndPutBack();
 }
 
-TEST_F(DrivesWin32, QuestionForTheFileSystemLetsTheSystemAskForNoDisk) {
+TEST_F(DrivesWin32, FileSystemQueryLetsTheSystemAskForNoDisk) {
   const Detour noted("GetVolumeInformationA", reinterpret_cast<const void*>(&NotedVolume));
   EXPECT_EQ(system.drives.GetVolumeInformationA("C:\\", flags), 0);
   ExpectAskedQuietlyAndPutBack();
 }
 
-TEST_F(DrivesWin32, ModeIsPutBackAfterRealQuestionsAndRefusedRoots) {
+TEST_F(DrivesWin32, ModeIsRestoredAfterRealQueriesAndRefusedRoots) {
   for (const char* const root : {"C:\\", "Q:\\", "C:"}) {
     std::ignore = system.drives.GetDiskFreeSpaceExA(root, bytes);
     std::ignore = system.drives.GetDiskFreeSpaceA(root, clusters);

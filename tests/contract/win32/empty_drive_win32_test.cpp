@@ -1,4 +1,5 @@
-// Folders and programs on a drive without a disk: Windows would ask the user for one, in a box of its own.
+// Folders and programs on a drive without a disk: Windows would ask the user for the disk in a box of its
+// own.
 #include "tests/contract/win32/detour.h"
 #include "tests/contract/win32/error_mode.h"
 
@@ -27,19 +28,19 @@ BOOL WINAPI NotedStart(const char* /*program*/, char* /*command_line*/, SECURITY
 
 class EmptyDriveWin32 : public ErrorModeTest {};
 
-TEST_F(EmptyDriveWin32, FolderIsGoneToWithoutAskingForADisk) {
+TEST_F(EmptyDriveWin32, FolderIsChangedWithoutAskingForADisk) {
   const Detour noted("SetCurrentDirectoryA", reinterpret_cast<const void*>(&NotedFolder));
   EXPECT_FALSE(system.processes.SetCurrentDirectoryA("E:"));
   ExpectAskedQuietlyAndPutBack();
 }
 
-TEST_F(EmptyDriveWin32, FileIsLookedForWithoutAskingForADisk) {
+TEST_F(EmptyDriveWin32, FileIsSearchedForWithoutAskingForADisk) {
   const Detour noted("GetFileAttributesA", reinterpret_cast<const void*>(&NotedAttributes));
   EXPECT_EQ(system.files.GetFileAttributesA("E:\\setup.exe"), os::kInvalidFileAttributes);
   ExpectAskedQuietlyAndPutBack();
 }
 
-TEST_F(EmptyDriveWin32, ProgramOnItIsNotStarted) {
+TEST_F(EmptyDriveWin32, ProgramOnTheDriveIsNotStarted) {
   const Detour attributes("GetFileAttributesA", reinterpret_cast<const void*>(&NotedAttributes));
   const Detour start("CreateProcessA", reinterpret_cast<const void*>(&NotedStart));
   for (const char* const command_line : {"E:\\setup.exe", "\"E:\\Set up.exe\" /s", "  e:\\setup.exe -x"}) {
@@ -48,7 +49,7 @@ TEST_F(EmptyDriveWin32, ProgramOnItIsNotStarted) {
   }
 }
 
-TEST_F(EmptyDriveWin32, ProgramIsStartedInTheModeThatWasBefore) {
+TEST_F(EmptyDriveWin32, ProgramIsStartedInThePreviousMode) {
   const Detour start("CreateProcessA", reinterpret_cast<const void*>(&NotedStart));
   for (const char* const command_line :
        {"C:\\windows\\qdix_none.exe", "qdix_none.exe", "Q:\\none.exe", "E", ""}) {

@@ -1,4 +1,4 @@
-// The error mode of the process while the system is asked, and afterwards.
+// Checks the error mode of the process during a system call and afterwards.
 #pragma once
 
 #include "tests/contract/win32/win32_contract_machine.h"
@@ -7,7 +7,7 @@ namespace qdix::contract {
 
 class ErrorModeTest : public ContractTest {
  public:
-  /// To be called by a function that stands in for one of the system's.
+  /// Call this from the function that replaces a system function.
   static void NoteMode() {
     ModeSeen() = SetErrorMode(0);
     SetErrorMode(ModeSeen());
@@ -19,7 +19,7 @@ class ErrorModeTest : public ContractTest {
   ErrorModeTest() : former_(SetErrorMode(kModeBefore)) { ModeSeen() = 0; }
   ~ErrorModeTest() override { SetErrorMode(former_); }
 
-  /// The error mode during the latest question that was led astray.
+  /// The error mode during the latest redirected call.
   static UINT& ModeSeen() {
     static UINT mode = 0;
     return mode;
@@ -27,7 +27,7 @@ class ErrorModeTest : public ContractTest {
 
   static void ExpectAskedQuietlyAndPutBack() {
     EXPECT_EQ(ModeSeen(), static_cast<UINT>(SEM_FAILCRITICALERRORS));
-    EXPECT_EQ(SetErrorMode(kModeBefore), kModeBefore) << "programs that are started inherit the mode";
+    EXPECT_EQ(SetErrorMode(kModeBefore), kModeBefore) << "started programs inherit the mode";
   }
 
  private:

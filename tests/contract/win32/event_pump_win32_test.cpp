@@ -1,4 +1,4 @@
-// The real message queue: bounds, the end of the program, messages without a window, keyboard walking.
+// The real message queue: limits, the end of the program, thread messages, keyboard navigation.
 #include "tests/contract/win32/win32_contract_machine.h"
 
 namespace qdix::contract {
@@ -14,7 +14,7 @@ class EventPumpWin32 : public testing::Test {
   os::win32::Win32EventPump& pump = machine.GetWin32System().EventPump();
 };
 
-TEST_F(EventPumpWin32, OnePumpHandlesABoundedNumber) {
+TEST_F(EventPumpWin32, OnePumpHandlesALimitedNumberOfMessages) {
   int runs = 0;
   PostActions(100, [&] { ++runs; });
   pump.PumpEvents();
@@ -23,7 +23,7 @@ TEST_F(EventPumpWin32, OnePumpHandlesABoundedNumber) {
   EXPECT_EQ(runs, 100);
 }
 
-TEST_F(EventPumpWin32, FloodThatFeedsItselfDoesNotHoldThePump) {
+TEST_F(EventPumpWin32, FloodThatFeedsItselfDoesNotBlockThePump) {
   int runs = 0;
   std::function<void()> feed = [&] {
     if (++runs < 1000) machine.DoInNextPump(feed);
@@ -44,7 +44,7 @@ TEST_F(EventPumpWin32, StopEndsAPumpThatIsRunning) {
   EXPECT_EQ(runs, 0);
   EXPECT_FALSE(pump.WaitAndHandle());
   EXPECT_EQ(runs, 0);
-  // The rest stays in the queue of the ended program; here it is taken so that nothing is lost.
+  // The rest stays in the queue. Handling it here shows that nothing was lost.
   MSG message;
   while (PeekMessageA(&message, machine.HiddenWindow(), 0, 0, PM_REMOVE)) DispatchMessageA(&message);
   EXPECT_EQ(runs, 3);
@@ -57,7 +57,7 @@ TEST_F(EventPumpWin32, StopEndsAWait) {
   EXPECT_LT(GetTickCount() - before_ms, 30000U);
 }
 
-TEST_F(EventPumpWin32, WaitGoesOnBehindMoreMessagesThanOnePumpHandles) {
+TEST_F(EventPumpWin32, WaitContinuesAfterMoreMessagesThanOnePumpHandles) {
   int runs = 0;
   PostActions(200, [&] { ++runs; });
   pump.WaitMs(1);
@@ -66,7 +66,7 @@ TEST_F(EventPumpWin32, WaitGoesOnBehindMoreMessagesThanOnePumpHandles) {
   EXPECT_EQ(runs, 200);
 }
 
-TEST_F(EventPumpWin32, WaitLeavesTheEndOfTheLoopToTheLoop) {
+TEST_F(EventPumpWin32, WaitLeavesTheQuitMessageToTheLoop) {
   PostQuitMessage(7);
   const DWORD before_ms = GetTickCount();
   pump.WaitMs(60000);
@@ -82,7 +82,7 @@ VOID CALLBACK CountTimerCall(HWND /*window*/, UINT /*message*/, UINT_PTR /*id*/,
   ++timer_calls;
 }
 
-TEST_F(EventPumpWin32, MessagesOfTheThreadAreDropped) {
+TEST_F(EventPumpWin32, ThreadMessagesAreDropped) {
   timer_calls = 0;
   const UINT_PTR timer = SetTimer(nullptr, 0, 1, &CountTimerCall);
   ASSERT_NE(timer, 0U);
@@ -123,7 +123,7 @@ TEST_F(EventPumpWin32, MainLoopEndsWithTheMessageThatStopsIt) {
   EXPECT_FALSE(pump.WaitAndHandle());
 }
 
-TEST_F(EventPumpWin32, TabWalksTheControlsOfTheDialogWindow) {
+TEST_F(EventPumpWin32, TabMovesThroughTheControlsOfTheDialogWindow) {
   HWND window = reinterpret_cast<HWND>(machine.OpenWindow("QdixContractForm", "Form"));
   HWND first = CreateWindowA("BUTTON", "First", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 50, 20, window,
                              nullptr, GetModuleHandleA(nullptr), nullptr);

@@ -1,4 +1,4 @@
-// The system's dialogs of files and folders, and files dropped on a window.
+// The system's file and folder dialogs, and files dropped on a window.
 #include "os/win32/dropped_files.h"
 #include "os/win32/win32_file_dialogs.h"
 #include "tests/contract/win32/win32_contract_machine.h"
@@ -15,7 +15,7 @@
 namespace qdix::contract {
 namespace {
 
-/// Number of the field for the name in the dialog of files.
+/// Control number of the name field in the file dialog.
 constexpr int kFileNameField = 0x47C;
 constexpr const char* kFilter = "Programs\0*.exe;*.com\0All files\0*.*\0";
 
@@ -36,7 +36,7 @@ class FileDialogsWin32 : public testing::Test {
   os::win32::Win32FileDialogs dialogs;
 };
 
-TEST_F(FileDialogsWin32, FileIsPickedByItsNameInTheFolderThatIsOpenAtFirst) {
+TEST_F(FileDialogsWin32, FileIsPickedByItsNameInTheInitialFolder) {
   char before[MAX_PATH] = {};
   GetCurrentDirectoryA(sizeof(before), before);
   machine.DoToNextBox([](HWND box) {
@@ -58,12 +58,12 @@ TEST_F(FileDialogsWin32, CancelPicksNothing) {
   EXPECT_EQ(dialogs.SHBrowseForFolderA("Which?", windows_), "");
 }
 
-TEST_F(FileDialogsWin32, FolderGivenIsTheOneChosenAtFirst) {
+TEST_F(FileDialogsWin32, GivenFolderIsSelectedInitially) {
   machine.DoToNextBox([](HWND box) { PostMessageA(box, WM_COMMAND, IDOK, 0); });
   EXPECT_EQ(base::UpperAscii(dialogs.SHBrowseForFolderA("Which?", windows_)), Windows());
 }
 
-/// As a program that drags files puts them into memory: a heading, the paths, and one NUL more.
+/// Lays out the memory as a drag source does: a header, the paths, and one more NUL.
 WPARAM MakeDrop(const std::string& paths) {
   HGLOBAL const memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DROPFILES) + paths.size() + 1);
   auto* const heading = static_cast<DROPFILES*>(GlobalLock(memory));
@@ -79,11 +79,11 @@ TEST_F(FileDialogsWin32, DroppedFilesAreTakenInOrder) {
   const std::string paths = "C:\\One.exe\0D:\\Two words\\T.exe\0"s + longest + "x\0"s + longest + "\0"s;
   EXPECT_EQ(os::win32::TakeDroppedPaths(MakeDrop(paths)),
             (std::vector<std::string>{"C:\\One.exe", "D:\\Two words\\T.exe", longest}))
-      << "one is longer than the system opens";
+      << "one path is longer than the system can open";
   EXPECT_TRUE(os::win32::TakeDroppedPaths(MakeDrop("")).empty());
 }
 
-TEST_F(FileDialogsWin32, WindowAcceptsFilesAfterwards) {
+TEST_F(FileDialogsWin32, WindowAcceptsDroppedFiles) {
   HWND window = reinterpret_cast<HWND>(machine.OpenWindow("QdixContractMain", "Drop here"));
   EXPECT_EQ(GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_ACCEPTFILES, 0);
   os::win32::AcceptDroppedFiles(window);

@@ -1,4 +1,4 @@
-// The 387's control word after calls that run code of others, which leaves another one behind on Windows 9x.
+// The 387's control word after calls into foreign code, which leaves a different one behind on Windows 9x.
 #include "os/win32/dropped_files.h"
 #include "os/win32/win32_file_dialogs.h"
 #include "os/win32/win32_printer.h"
@@ -8,7 +8,7 @@
 namespace qdix::contract {
 namespace {
 
-/// 53 bits, to the nearest, no exceptions.
+/// 53 bits, to nearest, exceptions masked.
 constexpr unsigned short kOurs = 0x027F;
 /// 24 bits, toward zero.
 constexpr unsigned short kAnother = 0x0C7F;
@@ -26,7 +26,8 @@ class FloatControlWin32 : public testing::Test {
   FloatControlWin32() : former_(ControlWord()) {}
   ~FloatControlWin32() override { SetControlWord(former_); }
 
-  /// What a call leaves behind is what is set before it: it cannot be told from what the code of others sets.
+  /// Sets the other control word before the call, which has the same effect as foreign code setting it during
+  /// the call.
   template <class Call>
   static void ExpectOursAfter(const char* name, Call call) {
     SetControlWord(kAnother);
@@ -78,7 +79,7 @@ TEST_F(FloatControlWin32, IsSetAgainAfterDialogs) {
   ExpectOursAfter("PrintDlgA", [&] { static_cast<void>(printer.PrintDlgA()); });
 }
 
-TEST_F(FloatControlWin32, IsSetAgainAfterThePrintersDriver) {
+TEST_F(FloatControlWin32, IsSetAgainAfterThePrinterDriver) {
   os::win32::Win32Printer printer;
   printer.Open(CreateCompatibleDC(nullptr));
   ExpectOursAfter("GetDeviceCaps", [&] { static_cast<void>(printer.GetDeviceCaps()); });
@@ -98,7 +99,7 @@ struct WordSeen {
   }
 };
 
-TEST_F(FloatControlWin32, HandlerSeesOursAlsoInsideTheMessageLoopOfOthers) {
+TEST_F(FloatControlWin32, HandlerSeesOursEvenInsideAForeignMessageLoop) {
   DemoWindow demo;
   demo.form.Show();
   WordSeen seen;

@@ -25,12 +25,12 @@ TEST_F(ClockWin32, NowIsTheLocalTimeInWholeSeconds) {
   EXPECT_NEAR(now_seconds, std::round(now_seconds), 0.001);
 }
 
-TEST_F(ClockWin32, LongDateKnowsTheYearsFrom1601On) {
+TEST_F(ClockWin32, LongDateCoversTheYearsFrom1601) {
   EXPECT_NE(system.clock.LongDate(base::DaysOfDate(1601, 1, 1)), "");
   EXPECT_EQ(system.clock.LongDate(base::DaysOfDate(1600, 12, 31)), "");
 }
 
-TEST(ProcessesWin32, MutexGoesWithItsOwner) {
+TEST(ProcessesWin32, MutexDisappearsWithItsOwner) {
   constexpr const char* kName = "QDIX.ContractTests.Owned";
   {
     os::win32::Win32Processes first;
@@ -42,7 +42,7 @@ TEST(ProcessesWin32, MutexGoesWithItsOwner) {
   EXPECT_FALSE(third.MutexExistedBefore(kName));
 }
 
-TEST(ProcessesWin32, NameThatIsNoMutexReadsAsNoOtherCopy) {
+TEST(ProcessesWin32, NameOfAnotherObjectMeansNoOtherCopy) {
   HANDLE event = CreateEventA(nullptr, FALSE, FALSE, "QDIX.ContractTests.Event");
   ASSERT_NE(event, nullptr);
   os::win32::Win32Processes processes;
@@ -70,7 +70,7 @@ TEST_F(WindowsWin32, OpenIconLeavesAnOrdinaryWindowAlone) {
   EXPECT_TRUE(IsWindowVisible(native));
 }
 
-TEST_F(WindowsWin32, ForegroundWindowIsTheOneThatWasRaised) {
+TEST_F(WindowsWin32, RaisedWindowIsTheForegroundWindow) {
   const os::WindowHandle window = machine->OpenWindow("QdixContractWindow", "Raised");
   machine->OpenWindow("QdixContractOther", "In front");
   ASSERT_TRUE(system.windows.SetForegroundWindow(window));

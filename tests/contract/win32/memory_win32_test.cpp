@@ -1,4 +1,5 @@
-// Memory of the real system, looked at from inside and by the system's own account of the address space.
+// Memory of the real system, seen from inside the process and through the system's own record of the address
+// space.
 #include <windows.h>
 
 #include "tests/contract/machine.h"
@@ -24,7 +25,7 @@ TEST_F(MemoryWin32, BlockIsCommittedInWholePages) {
   system.memory.VirtualFree(block);
 }
 
-TEST_F(MemoryWin32, FreedBlockIsFreeWithItsAddresses) {
+TEST_F(MemoryWin32, FreedBlockAlsoFreesItsAddresses) {
   void* block = system.memory.VirtualAlloc(kBytes);
   ASSERT_NE(block, nullptr);
   system.memory.VirtualFree(block);
@@ -33,7 +34,7 @@ TEST_F(MemoryWin32, FreedBlockIsFreeWithItsAddresses) {
   EXPECT_EQ(region.State, static_cast<DWORD>(MEM_FREE));
 }
 
-TEST_F(MemoryWin32, BlockIsZeroedAndStaysSoWhenTouched) {
+TEST_F(MemoryWin32, BlockIsZeroedAndStaysZeroWhenTouched) {
   auto* block = static_cast<unsigned char*>(system.memory.VirtualAlloc(kBytes));
   ASSERT_NE(block, nullptr);
   system.memory.TouchPages(block, kBytes);
@@ -41,7 +42,7 @@ TEST_F(MemoryWin32, BlockIsZeroedAndStaysSoWhenTouched) {
   system.memory.VirtualFree(block);
 }
 
-TEST_F(MemoryWin32, TouchWritesEveryPageAndNoPageMore) {
+TEST_F(MemoryWin32, TouchWritesEveryPageAndNoOther) {
   auto* block = static_cast<unsigned char*>(system.memory.VirtualAlloc(8 * os::kPageBytes));
   ASSERT_NE(block, nullptr);
   for (std::uint32_t page = 0; page < 8; ++page) block[page * os::kPageBytes] = 0xFF;

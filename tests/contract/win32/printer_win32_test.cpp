@@ -1,4 +1,4 @@
-// The printer of a machine that has none, a device that takes no document, and texts as pixels.
+// A machine without a printer, a device that accepts no document, and text as pixels.
 #include <gtest/gtest.h>
 
 #include "os/win32/win32_printer.h"
@@ -31,13 +31,13 @@ class TextOnBitmap : public testing::Test {
   os::win32::GdiTextDevice text{canvas.Device(), os::win32::kScreenFaces};
 };
 
-TEST_F(TextOnBitmap, BoxIsFilledWithinItsSides) {
+TEST_F(TextOnBitmap, BoxIsFilledWithinItsBounds) {
   text.FillRect(10, 20, 5, 3, kRed);
   EXPECT_EQ(CountPixels(canvas.Device(), {0, 0, 100, 60}, kRed), 15);
   EXPECT_EQ(CountPixels(canvas.Device(), {10, 20, 15, 23}, kRed), 15);
 }
 
-TEST_F(TextOnBitmap, TextStandsInTheBoxThatItsMeasuresGive) {
+TEST_F(TextOnBitmap, TextFitsTheBoxOfItsMeasurements) {
   const os::FontLook look{.points = 14, .is_bold = true};
   text.TextOutA(20, 10, look, kRed, "Hg");
   const RECT box{20, 10, 20 + text.GetTextExtentPoint32A(look, "Hg"),
@@ -45,23 +45,23 @@ TEST_F(TextOnBitmap, TextStandsInTheBoxThatItsMeasuresGive) {
   const int inside = CountPixels(canvas.Device(), box, kRed);
   EXPECT_GT(inside, 20);
   EXPECT_EQ(CountPixels(canvas.Device(), {0, 0, 100, 60}, kRed), inside);
-  EXPECT_GT(CountPixels(canvas.Device(), box, kWhite), inside / 2) << "the ground stays";
+  EXPECT_GT(CountPixels(canvas.Device(), box, kWhite), inside / 2) << "the background stays";
 }
 
 TEST_F(TextOnBitmap, LinkIsUnderlined) {
   text.TextOutA(20, 10, {.points = 8, .is_underlined = true}, kRed, "    ");
-  EXPECT_GT(CountPixels(canvas.Device(), {0, 0, 100, 60}, kRed), 5) << "the line below blanks";
+  EXPECT_GT(CountPixels(canvas.Device(), {0, 0, 100, 60}, kRed), 5) << "the underline of blanks";
 }
 
-TEST_F(TextOnBitmap, LongTextIsCutAndNotRefused) {
+TEST_F(TextOnBitmap, LongTextIsCutNotRefused) {
   const std::string longest(20000, 'i');
   EXPECT_GT(text.GetTextExtentPoint32A({.points = 8}, longest), 100);
   text.TextOutA(0, 0, {.points = 8}, kRed, longest);
   EXPECT_GT(CountPixels(canvas.Device(), {90, 0, 100, 60}, kRed), 0);
 }
 
-/// Wine tells the user by itself that there is no printer, although it is asked not to, and then answers as
-/// if the user had cancelled; Windows says nothing and fails. Both expectations fail when this gap closes.
+/// Wine tells the user that there is no printer, although it is asked not to, and then returns as if the user
+/// had cancelled. Windows says nothing and fails. Both expectations fail when Wine closes this gap.
 TEST(PrinterWin32, MachineWithoutAPrinterPrintsNothing) {
   Win32ContractMachine machine;
   os::win32::Win32Printer printer;
@@ -71,7 +71,7 @@ TEST(PrinterWin32, MachineWithoutAPrinterPrintsNothing) {
   EXPECT_EQ(machine.Boxes().size(), 1U);
 }
 
-TEST(PrinterWin32, DeviceThatIsNoPrinterIsMeasuredAndTakesNoDocument) {
+TEST(PrinterWin32, DeviceThatIsNoPrinterHasASizeAndTakesNoDocument) {
   os::win32::Win32Printer printer;
   printer.Open(CreateCompatibleDC(nullptr));
   EXPECT_GT(printer.GetDeviceCaps().dots_an_inch, 0);

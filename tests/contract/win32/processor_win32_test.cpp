@@ -1,4 +1,4 @@
-// The real processor, with its time-stamp counter forbidden as a system may do.
+// The real processor, also with its time-stamp counter disabled as a system may do.
 #include "os/win32/win32_processor.h"
 #include "tests/contract/machine.h"
 
@@ -9,11 +9,12 @@ using os::win32::Win32Processor;
 
 constexpr int kAllow = 1;
 constexpr int kForbid = 2;
-/// What Linux's own answer never is for these two: qemu's user mode does not know the call.
+/// Linux itself never returns this for these two modes. The user mode of qemu does, because it does not know
+/// the call.
 constexpr int kInvalidArgument = -22;
 
-/// Linux, on which Wine runs, lets a thread forbid itself the counter: the call "prctl" with its
-/// PR_SET_TSC. Called directly, since Wine passes nothing of it on. 0 is success.
+/// Linux, on which Wine runs, lets a thread disable the counter for itself by the system call "prctl" with
+/// PR_SET_TSC. It is called directly because Wine does not forward it. 0 means success.
 int SetCounter(int mode) {
   constexpr int kPrctl = 172;
   constexpr int kSetTsc = 26;
@@ -32,9 +33,10 @@ TEST(ProcessorWin32, CounterRuns) {
   EXPECT_GT(*second, *first);
 }
 
-TEST(ProcessorWin32, ForbiddenCounterIsAbsentAndFaultsNothing) {
+TEST(ProcessorWin32, ForbiddenCounterIsAbsentAndCausesNoFault) {
   const int forbidden = SetCounter(kForbid);
-  if (forbidden == kInvalidArgument) GTEST_SKIP() << "an emulator that cannot forbid the counter runs this";
+  if (forbidden == kInvalidArgument)
+    GTEST_SKIP() << "this runs under an emulator that cannot disable the counter";
   ASSERT_EQ(forbidden, 0);
   const auto reading = Win32Processor::ReadTimeStampCounter();
   const int allowed_again = SetCounter(kAllow);

@@ -1,5 +1,5 @@
-// Each kind of control both ways: act on the window and look at the model, change the model and look at the
-// window.
+// Each kind of control in both directions: act on the window and check the model, change the model and check
+// the window.
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
@@ -18,7 +18,7 @@ class UiControls : public testing::Test {
   EventCount events;
 };
 
-TEST_F(UiControls, NumbersAreThoseOfTheWalk) {
+TEST_F(UiControls, NumbersFollowTheOrderOfTheControls) {
   EXPECT_EQ(GetDlgCtrlID(demo.Native(demo.tabs)), ui::kFirstControlNumber);
   EXPECT_EQ(GetDlgCtrlID(demo.Native(demo.text)), ui::NumberOf(demo.form, "Text"));
   EXPECT_EQ(ui::NumberOf(demo.form, "Text"), ui::kFirstControlNumber + 4);
@@ -34,7 +34,7 @@ TEST_F(UiControls, CaptionsCarryTheAccessKeyAndShowTheirOwnAmpersands) {
   EXPECT_EQ(WindowText(demo.Native(demo.go)), "Resume && &Go");
 }
 
-TEST_F(UiControls, AllControlsWearTheDialogFont) {
+TEST_F(UiControls, AllControlsUseTheDialogFont) {
   const auto font = reinterpret_cast<HFONT>(demo.Send(demo.go, WM_GETFONT));
   LOGFONTA description{};
   ASSERT_NE(GetObjectA(font, sizeof(description), &description), 0);
@@ -67,7 +67,7 @@ TEST_F(UiControls, CheckBoxFollowsBothWays) {
   EXPECT_EQ(demo.Send(demo.check, BM_GETCHECK), BST_UNCHECKED);
 }
 
-TEST_F(UiControls, OptionsFollowBothWaysAndExcludeEachOther) {
+TEST_F(UiControls, OptionsFollowBothWaysAndAreExclusive) {
   demo.Send(demo.option2, BM_CLICK);
   EXPECT_TRUE(demo.option2.Selected());
   EXPECT_EQ(demo.Send(demo.option2, BM_GETCHECK), BST_CHECKED);
@@ -96,7 +96,7 @@ TEST_F(UiControls, LabelAndItsVisibilityFollowTheModel) {
   EXPECT_TRUE(IsWindowVisible(demo.Native(demo.label)));
 }
 
-TEST_F(UiControls, HiddenOrDisabledFrameTakesItsContentsWithIt) {
+TEST_F(UiControls, HiddenOrDisabledFrameHidesOrDisablesItsContents) {
   demo.frame.SetVisible(false);
   EXPECT_FALSE(IsWindowVisible(demo.Native(demo.frame)));
   EXPECT_FALSE(IsWindowVisible(demo.Native(demo.text)));
@@ -129,12 +129,12 @@ TEST_F(UiControls, TextBoxAsksAboutEachCharacterAndReportsTheText) {
   EXPECT_EQ(events.Count(), 4);
 }
 
-TEST_F(UiControls, TextBoxAssignmentChangesTheWindowOnceAndIsNoEditOfTheUser) {
+TEST_F(UiControls, TextBoxAssignmentChangesTheWindowOnceAndIsNoUserEdit) {
   demo.text.OnChange = events.AsHandler();
   demo.text.SetText("abc");
   EXPECT_EQ(WindowText(demo.Native(demo.text)), "abc");
   EXPECT_EQ(events.Count(), 1);
-  EXPECT_EQ(demo.Send(demo.text, EM_GETSEL), 0) << "the caret stands before the text";
+  EXPECT_EQ(demo.Send(demo.text, EM_GETSEL), 0) << "the caret is before the text";
   demo.text.SelectAll();
   EXPECT_EQ(demo.Send(demo.text, EM_GETSEL), MAKELONG(0, 3));
 }
@@ -146,7 +146,7 @@ TEST_F(UiControls, TextBoxTypedThroughTheModelKeepsTheModelsCaret) {
   EXPECT_EQ(demo.Send(demo.text, EM_GETSEL), MAKELONG(2, 2));
 }
 
-TEST_F(UiControls, TextBoxTakesNoMoreThanItsLength) {
+TEST_F(UiControls, TextBoxAcceptsNoMoreThanItsMaximumLength) {
   demo.text.SetFocus();
   for (int count = 0; count < 12; ++count) demo.Send(demo.text, WM_CHAR, 'a', 1);
   EXPECT_EQ(demo.text.Text(), "aaaaaaaa");
@@ -160,7 +160,7 @@ struct Corrector {
   }
 };
 
-TEST_F(UiControls, TextBoxHandlerMayReplaceTheTextItHearsOf) {
+TEST_F(UiControls, TextBoxHandlerMayReplaceTheNewText) {
   Corrector corrector{demo.text};
   demo.text.OnChange = ui::Handler::To<&Corrector::Changed>(corrector);
   demo.text.SetFocus();
@@ -188,7 +188,7 @@ TEST_F(UiControls, BackColoursAreThoseOfTheModel) {
   EXPECT_EQ(BackgroundOf(demo, demo.label, WM_CTLCOLORSTATIC), GetSysColor(COLOR_BTNFACE));
 }
 
-TEST_F(UiControls, DisabledTextBoxHasTheColourThatItWasGivenAndGreyText) {
+TEST_F(UiControls, DisabledTextBoxHasItsAssignedColourAndGreyText) {
   demo.text.SetBackColour(ui::kMenuBackground);
   demo.text.SetEnabled(false);
   HWND const native = demo.Native(demo.text);
@@ -226,7 +226,7 @@ TEST_F(UiControls, ListBoxFollowsBothWays) {
   EXPECT_EQ(demo.Send(demo.list, LB_GETCOUNT), 1);
 }
 
-TEST_F(UiControls, ListBoxClickOnTheSelectedRowIsAClickAgain) {
+TEST_F(UiControls, ListBoxClickOnTheSelectedRowIsAnotherClick) {
   OpenPage(1);
   demo.list.AddItem("one");
   demo.list.OnClick = events.AsHandler();
@@ -237,7 +237,7 @@ TEST_F(UiControls, ListBoxClickOnTheSelectedRowIsAClickAgain) {
   EXPECT_EQ(events.Count(), 2);
 }
 
-TEST_F(UiControls, ListBoxDoubleClickTellsRowFromEmptyPart) {
+TEST_F(UiControls, ListBoxDoubleClickDistinguishesRowFromEmptyPart) {
   OpenPage(1);
   demo.list.AddItem("one");
   demo.list.OnDoubleClick = events.AsHandler();
@@ -283,7 +283,7 @@ TEST_F(UiControls, DropDownListDecidesWhenItCloses) {
   demo.drop.SetFocus();
   demo.Send(demo.drop, CB_SHOWDROPDOWN, TRUE);
   demo.Press(VK_DOWN);
-  EXPECT_EQ(demo.drop.Text(), "a") << "still looking";
+  EXPECT_EQ(demo.drop.Text(), "a") << "the user is still looking";
   demo.Press(VK_RETURN);
   EXPECT_EQ(demo.drop.Text(), "b");
   EXPECT_EQ(events.Count(), 1);
@@ -363,7 +363,7 @@ TEST_F(UiControls, SliderFollowsBothWaysBeyond16Bits) {
   EXPECT_EQ(demo.Send(demo.slider, TBM_GETPOS), 150000);
 }
 
-// Marks at both ends and at nine places between them, also where the distance needs more than 16 bits.
+// Marks at both ends and at nine places between them, also if the range exceeds 16 bits.
 TEST_F(UiControls, SliderOfALongRangeHasElevenMarks) {
   OpenPage(1);
   demo.slider.SetMaximum(1001000);
@@ -373,7 +373,7 @@ TEST_F(UiControls, SliderOfALongRangeHasElevenMarks) {
   EXPECT_EQ(demo.Send(demo.slider, TBM_GETNUMTICS), 4);
 }
 
-TEST_F(UiControls, SliderOfStepsHasAMarkAtEachAndEndsOnOne) {
+TEST_F(UiControls, SliderOfStepsHasAMarkAtEachStepAndEndsOnOne) {
   OpenPage(1);
   EXPECT_EQ(demo.Send(demo.stepped, TBM_GETNUMTICS), 8);
   EXPECT_EQ(demo.Send(demo.stepped, TBM_GETPOS), 700);
@@ -414,7 +414,7 @@ TEST_F(UiControls, TabStripFollowsBothWaysAndShowsOnlyTheOpenPage) {
   EXPECT_FALSE(IsWindowVisible(demo.Native(demo.list)));
 }
 
-TEST_F(UiControls, PagesStandInTheDisplayAreaAboveTheStrip) {
+TEST_F(UiControls, PagesAreInTheDisplayAreaAboveTheStrip) {
   HWND const page = GetParent(demo.Native(demo.go));
   HWND const strip = demo.Native(demo.tabs);
   RECT area{};

@@ -1,4 +1,4 @@
-// The drawing controls: the canvas in its border, and what becomes of the picture when the screen changes.
+// The drawing controls: the canvas in its border, and what happens to the picture when the screen changes.
 #include <gtest/gtest.h>
 
 #include "tests/contract/win32/demo_window.h"
@@ -11,7 +11,7 @@ class UiDrawing : public testing::Test {
  protected:
   UiDrawing() { demo.form.Show(); }
 
-  /// The page that the drawing controls stand on.
+  /// Opens the page with the drawing controls.
   void OpenPage() { ASSERT_TRUE(demo.tabs.SetTab(2).Ok()); }
 
   DemoWindow demo;
@@ -43,7 +43,7 @@ TEST_F(UiDrawing, DrawingControlShowsItsCanvasInsideItsBorder) {
   EXPECT_EQ(pixel(95, 19), PaintedControl::kFill);
 }
 
-TEST_F(UiDrawing, CanvasIsCutAtItsEdgesAndTakesAnyCoordinates) {
+TEST_F(UiDrawing, CanvasIsClippedAtItsEdgesAndTakesAnyCoordinates) {
   ui::Canvas& canvas = *demo.flat.Canvas();
   constexpr int kFar = 2000000000;
   canvas.FillBox(-kFar, -kFar, kFar, kFar, 0x00112233U);
@@ -80,7 +80,7 @@ TEST_F(UiDrawing, DrawingControlKeepsItsPictureOnANewBitmapWhenTheScreenChanges)
   ReleaseDC(demo.Native(demo.flat), device);
 }
 
-TEST_F(UiDrawing, DrawingControlDrawsAnewWhenSystemColoursOrItsBorderChange) {
+TEST_F(UiDrawing, DrawingControlRedrawsWhenSystemColoursOrItsBorderChange) {
   demo.flat.PushBar();
   SendMessageA(demo.Main(), WM_SYSCOLORCHANGE, 0, 0);
   OpenPage();

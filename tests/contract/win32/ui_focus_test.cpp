@@ -1,5 +1,5 @@
-// The keyboard: focus on both sides, refusals, Tab and arrow keys, access keys, Enter and Esc, the switching
-// of tabs.
+// The keyboard: focus on both sides, refusals, Tab and arrow keys, access keys, Enter and Esc, switching
+// tabs.
 #include <gtest/gtest.h>
 
 #include "tests/contract/win32/demo_window.h"
@@ -44,7 +44,7 @@ TEST_F(UiFocus, NativeFocusReachesTheModelAndTheModelsFocusTheWindow) {
   EXPECT_TRUE(NativeFocusOn(demo.go));
 }
 
-TEST_F(UiFocus, FieldThatIsGoneToIsSelectedWhole) {
+TEST_F(UiFocus, FieldThatGetsTheFocusIsSelectedCompletely) {
   demo.text.SetText("abc");
   SetFocus(demo.Native(demo.check));
   SendMessageA(demo.Native(demo.text), EM_SETSEL, 1, 1);
@@ -67,13 +67,13 @@ TEST_F(UiFocus, ControlThatRefusesKeepsTheKeyboard) {
   EXPECT_EQ(gate.asked, 2);
 }
 
-TEST_F(UiFocus, ClickOnAButtonIsVoidWhereTheFocusIsRefused) {
+TEST_F(UiFocus, ClickOnAButtonIsIgnoredWhenTheFocusIsRefused) {
   Gate gate;
   demo.text.SetFocus();
   demo.text.OnValidate = base::Callback<base::Result<bool>()>::To<&Gate::Validate>(gate);
   demo.other.OnClick = events.AsHandler();
   demo.Send(demo.other, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-  EXPECT_EQ(GetCapture(), nullptr) << "letting go elsewhere must not click";
+  EXPECT_EQ(GetCapture(), nullptr) << "releasing the button elsewhere must not click";
   demo.Handle();
   EXPECT_EQ(demo.Send(demo.other, BM_GETSTATE) & BST_PUSHED, 0);
   demo.Send(demo.other, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
@@ -85,7 +85,7 @@ TEST_F(UiFocus, ClickOnAButtonIsVoidWhereTheFocusIsRefused) {
   EXPECT_EQ(events.Count(), 1);
 }
 
-/// Counts the message that raises a button, which is another one to windows of other classes.
+/// Counts the message that raises a button; the same number means something else to other window classes.
 class RaiseCount {
  public:
   explicit RaiseCount(HWND window) : window_(window) {
@@ -136,7 +136,7 @@ TEST_F(UiFocus, OnlyAButtonIsRaisedAfterTheFocusWasRefused) {
   }
 }
 
-TEST_F(UiFocus, AccessKeyOfAButtonIsVoidWhereTheFocusIsRefused) {
+TEST_F(UiFocus, AccessKeyOfAButtonIsIgnoredWhenTheFocusIsRefused) {
   Gate gate;
   demo.text.SetFocus();
   demo.text.OnValidate = base::Callback<base::Result<bool>()>::To<&Gate::Validate>(gate);
@@ -162,7 +162,7 @@ TEST_F(UiFocus, TabThatIsRefusedStaysClosed) {
   EXPECT_EQ(demo.tabs.Tab(), 1);
 }
 
-TEST_F(UiFocus, TabKeyWalksThePageThenTheStripAndRoundAgain) {
+TEST_F(UiFocus, TabKeyCyclesThroughThePageAndTheStrip) {
   demo.text.SetFocus();
   for (const ui::Control* next :
        std::initializer_list<const ui::Control*>{&demo.check, &demo.option1, &demo.go, &demo.stop,
@@ -181,7 +181,7 @@ TEST_F(UiFocus, MovingTheFocusToAnOptionChoosesNothing) {
   EXPECT_EQ(events.Count(), 0);
 }
 
-/// Reports a click of an option while the focus arrives there, as some systems do.
+/// Reports a click of an option when the focus arrives there, as some systems do.
 struct ClickOnArrival {
   const DemoWindow& demo;
   const ui::Control& option;
@@ -191,7 +191,7 @@ struct ClickOnArrival {
   }
 };
 
-TEST_F(UiFocus, ClickThatTheSystemReportsWithTheArrivalOfTheFocusChoosesNothing) {
+TEST_F(UiFocus, ClickReportedWhenTheFocusArrivesChoosesNothing) {
   ClickOnArrival arrival{demo, demo.option1};
   demo.option1.OnGotFocus = ui::Handler::To<&ClickOnArrival::Arrived>(arrival);
   SetFocus(demo.Native(demo.option1));
@@ -220,7 +220,7 @@ TEST_F(UiFocus, AccessKeysPressButtonsAndGoFromALabelToItsNeighbour) {
   EXPECT_EQ(events.Count(), 1);
   demo.label.OnGotFocus = events.AsHandler();
   demo.PressAlt('n');
-  EXPECT_EQ(events.Count(), 1) << "of the check box: the keyboard only passes the label by";
+  EXPECT_EQ(events.Count(), 1) << "only the check box has it: the keyboard skips the label";
   EXPECT_TRUE(NativeFocusOn(demo.text));
   EXPECT_TRUE(demo.text.HasFocus());
   demo.PressAlt('t');
@@ -243,16 +243,17 @@ TEST_F(UiFocus, EnterPressesTheButtonThatHasTheKeyboard) {
   demo.go.OnClick = of_default.AsHandler();
   demo.other.OnClick = events.AsHandler();
   demo.other.SetFocus();
-  EXPECT_NE(demo.Send(demo.other, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON, 0) << "shown as the default";
+  EXPECT_NE(demo.Send(demo.other, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON, 0)
+      << "the focused button is shown as the default";
   EXPECT_EQ(demo.Send(demo.go, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON, 0);
   demo.Press(VK_RETURN);
   EXPECT_EQ(events.Count(), 1);
   EXPECT_EQ(of_default.Count(), 0);
   demo.text.SetFocus();
-  EXPECT_NE(demo.Send(demo.go, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON, 0) << "the default again";
+  EXPECT_NE(demo.Send(demo.go, WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON, 0) << "this button is the default again";
 }
 
-TEST_F(UiFocus, EnterOpensTheSelectedRowWhereNoDefaultButtonIsReachable) {
+TEST_F(UiFocus, EnterOpensTheSelectedRowIfNoDefaultButtonIsReachable) {
   ASSERT_TRUE(demo.tabs.SetTab(1).Ok());
   demo.list.AddItem("one");
   demo.list.OnDoubleClick = events.AsHandler();
@@ -267,7 +268,7 @@ TEST_F(UiFocus, EnterOpensTheSelectedRowWhereNoDefaultButtonIsReachable) {
   EXPECT_EQ(events.Count(), 1);
 }
 
-TEST_F(UiFocus, EnterDoesNothingWhereNoDefaultButtonIsReachable) {
+TEST_F(UiFocus, EnterDoesNothingIfNoDefaultButtonIsReachable) {
   demo.go.OnClick = events.AsHandler();
   ASSERT_TRUE(demo.tabs.SetTab(1).Ok());
   demo.list.SetFocus();
@@ -275,7 +276,7 @@ TEST_F(UiFocus, EnterDoesNothingWhereNoDefaultButtonIsReachable) {
   EXPECT_EQ(events.Count(), 0);
 }
 
-TEST_F(UiFocus, EscPressesTheCancelButtonAndNothingWithoutOne) {
+TEST_F(UiFocus, EscPressesTheCancelButtonIfThereIsOne) {
   demo.stop.OnClick = events.AsHandler();
   demo.Press(VK_ESCAPE);
   EXPECT_EQ(events.Count(), 1);
@@ -289,7 +290,8 @@ TEST_F(UiFocus, ControlWithTabOrPageKeysSwitchesTabs) {
   const HeldKey control(VK_CONTROL);
   demo.Press(VK_TAB);
   EXPECT_EQ(demo.tabs.Tab(), 1);
-  EXPECT_TRUE(NativeFocusOn(demo.tabs)) << "the page left is hidden, its control cannot keep the keyboard";
+  EXPECT_TRUE(NativeFocusOn(demo.tabs))
+      << "the previous page is hidden, so its control cannot keep the keyboard";
   demo.Press(VK_NEXT);
   EXPECT_EQ(demo.tabs.Tab(), 2);
   demo.Press(VK_TAB);
@@ -301,7 +303,7 @@ TEST_F(UiFocus, ControlWithTabOrPageKeysSwitchesTabs) {
   EXPECT_EQ(demo.tabs.Tab(), 1);
 }
 
-TEST_F(UiFocus, TabThatCodeOpensTakesTheKeyboardFromThePageThatHides) {
+TEST_F(UiFocus, TabOpenedByCodeTakesTheKeyboardFromTheHiddenPage) {
   demo.go.SetFocus();
   ASSERT_TRUE(demo.tabs.SetTab(1).Ok());
   EXPECT_TRUE(NativeFocusOn(demo.tabs));
@@ -316,7 +318,7 @@ TEST_F(UiFocus, DisabledControlGetsTheKeyboardBackWhenItIsEnabledAgain) {
   EXPECT_TRUE(NativeFocusOn(demo.go));
   demo.go.SetEnabled(false);
   demo.Press(VK_TAB);
-  EXPECT_TRUE(IsChild(demo.Main(), GetFocus())) << "the user went on";
+  EXPECT_TRUE(IsChild(demo.Main(), GetFocus())) << "the user has moved on";
   HWND const went_to = GetFocus();
   demo.go.SetEnabled(true);
   EXPECT_EQ(GetFocus(), went_to);

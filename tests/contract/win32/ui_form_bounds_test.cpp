@@ -1,5 +1,4 @@
-// A window whose size the user can change: frame, smallest size, place on the screen, and the keys that no
-// button takes.
+// A resizable window: frame, minimum size, place on the screen, and the keys that no button takes.
 #include <gtest/gtest.h>
 
 #include "tests/contract/win32/demo_window.h"
@@ -28,7 +27,7 @@ class ResizableForm : public testing::Test {
     GetClientRect(Main(), &inner);
     return inner;
   }
-  /// Puts a key press into the queue as the keyboard does, for the window with the keyboard, and handles it.
+  /// Queues a key press for the focused window, as the keyboard does, and handles it.
   void Press(WPARAM key) {
     PostMessageA(GetFocus(), WM_KEYDOWN, key, 1);
     PostMessageA(GetFocus(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
@@ -51,7 +50,7 @@ TEST_F(ResizableForm, HasASizingFrameAndCanBeMaximised) {
   EXPECT_EQ(Inner().bottom, 80 * 13 / 8);
 }
 
-TEST_F(ResizableForm, FirstShowIsMaximisedWhereTheStarterAsksForIt) {
+TEST_F(ResizableForm, FirstShowIsMaximisedIfTheCallerAsksForIt) {
   window.SetStartCommand(SW_SHOWMAXIMIZED);
   form.Show();
   EXPECT_TRUE(IsZoomed(Main()));
@@ -69,7 +68,7 @@ TEST_F(ResizableForm, MaximisedWindowThatStartsMinimisedIsMaximisedAgainWhenItIs
   EXPECT_EQ(form.State(), ui::WindowState::kMaximised);
 }
 
-TEST_F(ResizableForm, SizeThatTheUserGivesArrivesInDialogUnits) {
+TEST_F(ResizableForm, SizeSetByTheUserArrivesInDialogUnits) {
   EventCount resized;
   form.OnResize = resized.AsHandler();
   form.Show();
@@ -79,7 +78,7 @@ TEST_F(ResizableForm, SizeThatTheUserGivesArrivesInDialogUnits) {
   EXPECT_GE(resized.Count(), 1);
 }
 
-TEST_F(ResizableForm, WindowKeepsItsSmallestSize) {
+TEST_F(ResizableForm, WindowKeepsItsMinimumSize) {
   form.Show();
   SetWindowPos(Main(), nullptr, 0, 0, 10, 10, SWP_NOMOVE | SWP_NOZORDER);
   EXPECT_EQ(Inner().right, kSmallest.width * 6 / 4);
@@ -98,7 +97,7 @@ TEST_F(ResizableForm, BoundsFromCodePlaceTheHiddenWindowAndLeaveItHidden) {
   EXPECT_EQ(form.GetPlace().width, Inner().right * 4 / 6);
 }
 
-TEST_F(ResizableForm, BoundsOfTheUserArriveAndOutliveMaximisingAndMinimising) {
+TEST_F(ResizableForm, BoundsSetByTheUserSurviveMaximisingAndMinimising) {
   form.Show();
   SetWindowPos(Main(), nullptr, 50, 60, 450, 350, SWP_NOZORDER);
   const ui::WindowBounds bounds{.left = 50, .top = 60, .width = 450, .height = 350};
@@ -119,7 +118,7 @@ TEST_F(ResizableForm, BoundsOfTheUserArriveAndOutliveMaximisingAndMinimising) {
   EXPECT_EQ(form.Bounds(), bounds);
 }
 
-TEST_F(ResizableForm, StartsMaximisedWhereTheStateWasSetBefore) {
+TEST_F(ResizableForm, StartsMaximisedIfTheStateWasSetBefore) {
   form.SetBounds({.left = 30, .top = 40, .width = 420, .height = 310});
   form.SetState(ui::WindowState::kMaximised);
   form.Show();
@@ -159,8 +158,8 @@ TEST_F(ResizableForm, EnterGoesToTheControlAndEscToTheFormWithoutButtons) {
   EXPECT_EQ(entered.Count(), 1);
 }
 
-/// The fixed window of most programs.
-TEST(FixedForm, BoundsMeanNothing) {
+/// The fixed window that most programs here have.
+TEST(FixedForm, IgnoresBounds) {
   DemoWindow demo;
   demo.form.Show();
   RECT before{};

@@ -24,7 +24,7 @@ TEST(FormWindow, ApplicationWindowIsHiddenOwnsTheMainWindowAndCarriesTheTitle) {
   EXPECT_EQ(WindowText(application), "Renamed");
 }
 
-TEST(FormWindow, MainWindowStandsDirectlyBeforeTheApplicationWindowAlsoAfterAnotherWindowWasInFront) {
+TEST(FormWindow, MainWindowIsDirectlyInFrontOfTheApplicationWindowAlsoAfterAnotherWindowWasInFront) {
   DemoWindow demo;
   demo.form.Show();
   EXPECT_EQ(GetWindow(demo.window.ApplicationWindow(), GW_HWNDPREV), demo.Main());
@@ -69,7 +69,7 @@ TEST(FormWindow, CaptionVisibilityAndStateFollowTheModel) {
   EXPECT_FALSE(IsWindowVisible(demo.Main()));
 }
 
-TEST(FormWindow, StartsMinimisedWhereTheStateWasSetBeforeTheFirstShow) {
+TEST(FormWindow, StartsMinimisedIfTheStateWasSetBeforeTheFirstShow) {
   DemoWindow demo;
   demo.form.SetState(ui::WindowState::kMinimised);
   EXPECT_FALSE(IsWindowVisible(demo.Main()));
@@ -78,7 +78,7 @@ TEST(FormWindow, StartsMinimisedWhereTheStateWasSetBeforeTheFirstShow) {
   EXPECT_TRUE(IsIconic(demo.Main()));
 }
 
-TEST(FormWindow, FirstShowIsMinimisedWhereTheStarterAsksForIt) {
+TEST(FormWindow, FirstShowIsMinimisedIfTheCallerAsksForIt) {
   for (const int command : {SW_SHOWMINIMIZED, SW_MINIMIZE, SW_SHOWMINNOACTIVE}) {
     DemoWindow demo;
     demo.window.SetStartCommand(command);
@@ -90,11 +90,11 @@ TEST(FormWindow, FirstShowIsMinimisedWhereTheStarterAsksForIt) {
     EXPECT_EQ(demo.form.State(), ui::WindowState::kNormal) << command;
     demo.form.Hide();
     demo.form.Show();
-    EXPECT_FALSE(IsIconic(demo.Main())) << "the wish is for the first show, command " << command;
+    EXPECT_FALSE(IsIconic(demo.Main())) << "the request applies to the first show only, command " << command;
   }
 }
 
-TEST(FormWindow, OtherWishesOfTheStarterShowAWindowOfFixedSizeAsItIs) {
+TEST(FormWindow, OtherShowCommandsShowAFixedSizeWindowAsItIs) {
   for (const int command : {SW_SHOWDEFAULT, SW_SHOWNORMAL, SW_SHOWMAXIMIZED, SW_HIDE}) {
     DemoWindow demo;
     demo.window.SetStartCommand(command);
@@ -105,7 +105,7 @@ TEST(FormWindow, OtherWishesOfTheStarterShowAWindowOfFixedSizeAsItIs) {
   }
 }
 
-TEST(FormWindow, MinimisedFormTakesNoWishOfTheStarter) {
+TEST(FormWindow, MinimisedFormIgnoresTheShowCommand) {
   DemoWindow demo;
   demo.window.SetStartCommand(SW_SHOWMAXIMIZED);
   demo.form.SetState(ui::WindowState::kMinimised);
@@ -115,7 +115,7 @@ TEST(FormWindow, MinimisedFormTakesNoWishOfTheStarter) {
   EXPECT_FALSE(IsIconic(demo.Main()));
 }
 
-TEST(FormWindow, StateThatTheUserChangesArrivesInTheModel) {
+TEST(FormWindow, StateChangedByTheUserReachesTheModel) {
   DemoWindow demo;
   demo.form.Show();
   ShowWindow(demo.Main(), SW_MINIMIZE);
@@ -126,8 +126,8 @@ TEST(FormWindow, StateThatTheUserChangesArrivesInTheModel) {
   EXPECT_EQ(demo.form.State(), ui::WindowState::kNormal);
 }
 
-/// As another program does: no call of the form's own.
-TEST(FormWindow, WindowThatOthersShowHideAndMinimiseIsFollowedByTheForm) {
+/// Acts as another program does, without the form's own calls.
+TEST(FormWindow, FormFollowsAWindowThatOthersShowHideAndMinimise) {
   DemoWindow demo;
   EventCount activated;
   demo.form.OnActivate = activated.AsHandler();
@@ -151,7 +151,7 @@ TEST(FormWindow, WindowThatOthersShowHideAndMinimiseIsFollowedByTheForm) {
   EXPECT_EQ(activated.Count(), 3);
 }
 
-TEST(FormWindow, MinimisedWindowThatTheFormHidWorksWhenAnotherProgramRestoresIt) {
+TEST(FormWindow, MinimisedAndHiddenWindowWorksWhenAnotherProgramRestoresIt) {
   DemoWindow demo;
   demo.form.Show();
   demo.form.SetState(ui::WindowState::kMinimised);
@@ -160,7 +160,7 @@ TEST(FormWindow, MinimisedWindowThatTheFormHidWorksWhenAnotherProgramRestoresIt)
   EXPECT_TRUE(IsWindowVisible(demo.Main()));
   EXPECT_TRUE(demo.go.Reachable());
   demo.form.Hide();
-  EXPECT_FALSE(IsWindowVisible(demo.Main())) << "the form's own calls go on working";
+  EXPECT_FALSE(IsWindowVisible(demo.Main())) << "the form's own calls still work";
   demo.form.Show();
   EXPECT_TRUE(IsWindowVisible(demo.Main()));
   EXPECT_FALSE(IsIconic(demo.Main()));
@@ -218,9 +218,9 @@ struct ClosingGate {
   bool MayClose() { return is_open; }
 };
 
-TEST(FormWindow, DroppedFilesAreHandedOn) {
+TEST(FormWindow, DroppedFilesReachTheHandler) {
   DemoWindow demo;
-  SendMessageA(demo.Main(), WM_DROPFILES, 0, 0);  // nobody there to take them
+  SendMessageA(demo.Main(), WM_DROPFILES, 0, 0);  // no handler takes them
   DropCount drops;
   demo.window.OnFilesDropped = base::Callback<void(WPARAM)>::To<&DropCount::Dropped>(drops);
   SendMessageA(demo.Main(), WM_DROPFILES, 1234, 0);
@@ -249,7 +249,7 @@ TEST(FormWindow, MessageOfATrayIconArrivesAsTheXOfAMouseMove) {
   EXPECT_EQ(pointer.x_twips / ui::kTwipsPerPixel, WM_RBUTTONDOWN);
 }
 
-/// Runs the message loop until the condition holds; false after five seconds.
+/// Runs the message loop until the condition holds; returns false after five seconds.
 template <class Condition>
 bool Eventually(DemoWindow& demo, Condition condition) {
   const DWORD start = GetTickCount();
@@ -304,8 +304,7 @@ TEST(FormWindow, ClosingUnloadsHidesAndEndsTheLoop) {
   EXPECT_TRUE(demo.form.Unloaded());
   EXPECT_EQ(ending.unloaded, 1);
   EXPECT_FALSE(IsWindowVisible(demo.Main()));
-  EXPECT_TRUE(IsWindow(demo.Main()))
-      << "the windows go with their owner, not under the feet of a running handler";
+  EXPECT_TRUE(IsWindow(demo.Main())) << "the owner destroys the windows, not a handler that still runs";
 }
 
 DWORD WINAPI EndSessionFromOutside(void* window) {
@@ -313,7 +312,7 @@ DWORD WINAPI EndSessionFromOutside(void* window) {
   return 0;
 }
 
-TEST(FormWindow, LoopThatWaitsWakesWhenTheFormUnloadsInsideASentMessage) {
+TEST(FormWindow, WaitingLoopWakesWhenASentMessageUnloadsTheForm) {
   DemoWindow demo;
   Ending ending{.demo = &demo};
   demo.window.OnUnloaded = base::Callback<void()>::To<&Ending::Unloaded>(ending);
@@ -327,13 +326,13 @@ TEST(FormWindow, LoopThatWaitsWakesWhenTheFormUnloadsInsideASentMessage) {
   CloseHandle(sender);
 }
 
-TEST(FormWindow, EndOfTheSessionIsAllowedAndGoesToTheProgram) {
+TEST(FormWindow, EndOfTheSessionIsAllowedAndReported) {
   DemoWindow demo;
   Ending ending{.demo = &demo};
   demo.window.OnSessionEnding = base::Callback<void()>::To<&Ending::SessionEnding>(ending);
   EXPECT_EQ(SendMessageA(demo.Main(), WM_QUERYENDSESSION, 0, 0), TRUE);
   SendMessageA(demo.Main(), WM_ENDSESSION, FALSE, 0);
-  EXPECT_EQ(ending.session_ended, 0) << "another program refused the end of the session";
+  EXPECT_EQ(ending.session_ended, 0) << "another program refused to end the session";
   SendMessageA(demo.Main(), WM_ENDSESSION, TRUE, 0);
   EXPECT_EQ(ending.session_ended, 1);
   EXPECT_TRUE(demo.form.Unloaded());
@@ -347,8 +346,8 @@ TEST(FormWindow, RestartOfTheTaskbarIsReported) {
   EXPECT_EQ(ending.unloaded, 1);
 }
 
-/// Objects of the graphics system that exist in this process. Its table is one of 16-bit numbers under Wine,
-/// so it can be walked.
+/// Returns the number of GDI objects of this process. Under Wine the table of objects has 16-bit indexes, so
+/// it can be walked.
 int GraphicsObjects() {
   int count = 0;
   for (UINT_PTR number = 1; number < 0x10000; ++number) {
@@ -373,9 +372,9 @@ int WindowsOfThisThread() {
   return count;
 }
 
-TEST(FormWindow, EverythingThatIsMadeIsDestroyed) {
+TEST(FormWindow, EverythingCreatedIsDestroyed) {
   {
-    DemoWindow first;  // fills the caches that the system itself keeps
+    DemoWindow first;  // fills the system's own caches
     first.form.Show();
     first.Handle();
   }
@@ -393,7 +392,7 @@ TEST(FormWindow, EverythingThatIsMadeIsDestroyed) {
   EXPECT_EQ(WindowsOfThisThread(), windows_before);
 }
 
-/// Takes the memory of objects that have gone and fills it, so that a call of one of them goes wrong at once.
+/// Reuses and fills the memory of destroyed objects, so that a call of one of them fails at once.
 std::vector<std::string> OverwriteFreedMemory() {
   std::vector<std::string> filled;
   for (std::size_t size = 32; size < 2048; size += 8) {
@@ -402,7 +401,7 @@ std::vector<std::string> OverwriteFreedMemory() {
   return filled;
 }
 
-TEST(FormWindow, ModelsThatOutliveTheWindowHaveNoPeerLeft) {
+TEST(FormWindow, ModelsThatOutliveTheWindowHaveNoPeer) {
   DemoModels models;
   {
     const ui::win32::FormWindow window(GetModuleHandleA(nullptr), 1, models.application, models.form,

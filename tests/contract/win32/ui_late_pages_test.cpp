@@ -1,5 +1,5 @@
-// Windows of tab pages that are made when their page is first seen: what happened to the models before is on
-// them, for each kind of control.
+// Tab pages whose windows are created when the page is first shown: for each kind of control they show the
+// earlier changes of their models.
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ class UiLatePages : public testing::Test {
   [[nodiscard]] bool HasStyle(const ui::Control& control, DWORD style) const {
     return (GetWindowLongA(demo.Native(control), GWL_STYLE) & static_cast<LONG>(style)) != 0;
   }
-  /// The controls of a page from front to back, which is the order of the Tab key.
+  /// Returns the controls of a page from front to back, which is the order of the Tab key.
   [[nodiscard]] std::vector<int> NumbersInOrder(int page) const {
     std::vector<int> numbers;
     HWND window = GetWindow(demo.Native(demo.tabs.Page(page)), GW_CHILD);
@@ -34,15 +34,15 @@ class UiLatePages : public testing::Test {
   EventCount events;
 };
 
-/// What stands on a page, from the first number to the last.
+/// Returns the control numbers of a page, from the first to the last.
 std::vector<int> Numbers(int first, int last) {
   std::vector<int> numbers;
   for (int number = first; number <= last; ++number) numbers.push_back(number);
   return numbers;
 }
 
-TEST_F(UiLatePages, WindowsComeWhenTheirPageIsOpenedAndStay) {
-  EXPECT_NE(demo.Native(demo.tabs.Page(0)), nullptr) << "the pages themselves are there";
+TEST_F(UiLatePages, WindowsAreCreatedWhenTheirPageIsOpenedAndStay) {
+  EXPECT_NE(demo.Native(demo.tabs.Page(0)), nullptr) << "the pages themselves exist";
   EXPECT_EQ(demo.Native(demo.go), nullptr);
   EXPECT_EQ(demo.Native(demo.list), nullptr);
   EXPECT_TRUE(IsWindowVisible(demo.Native(demo.sunken)));
@@ -100,7 +100,7 @@ TEST_F(UiLatePages, LabelAndFrame) {
   EXPECT_EQ(corner.x, 30);
 }
 
-TEST_F(UiLatePages, HiddenFrameTakesItsContentsWithIt) {
+TEST_F(UiLatePages, HiddenFrameHidesItsContents) {
   demo.frame.SetVisible(false);
   OpenPage(0);
   EXPECT_FALSE(IsWindowVisible(demo.Native(demo.frame)));
@@ -171,7 +171,7 @@ TEST_F(UiLatePages, TextBoxWithItsSelectionColourLengthAndTip) {
   EXPECT_EQ(WindowText(native), "abcd");
   EXPECT_EQ(demo.Send(demo.text, EM_GETSEL), MAKELONG(0, 4));
   EXPECT_EQ(demo.Send(demo.text, EM_GETLIMITTEXT), 8);
-  EXPECT_EQ(events.Count(), 0) << "what the window takes over is no change";
+  EXPECT_EQ(events.Count(), 0) << "taking over the model is no change";
   HDC const device = GetDC(native);
   SendMessageA(GetParent(native), WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(device),
                reinterpret_cast<LPARAM>(native));
@@ -259,7 +259,7 @@ struct FocusGiver {
   }
 };
 
-TEST_F(UiLatePages, HandlerOfTheTabCanPutTheKeyboardOnTheNewPage) {
+TEST_F(UiLatePages, TabHandlerCanPutTheKeyboardOnTheNewPage) {
   FocusGiver giver{demo.drop};
   demo.tabs.OnClick = base::Callback<base::Status(int)>::To<&FocusGiver::Give>(giver);
   demo.tabs.ChooseTab(1);
@@ -267,11 +267,11 @@ TEST_F(UiLatePages, HandlerOfTheTabCanPutTheKeyboardOnTheNewPage) {
   EXPECT_EQ(GetFocus(), demo.Native(demo.drop));
 }
 
-TEST_F(UiLatePages, KeyboardWalksTheNewPage) {
+TEST_F(UiLatePages, KeyboardMovesThroughTheNewPage) {
   demo.tabs.SetFocus();
   demo.tabs.ChooseTab(0);
   demo.Press(VK_TAB);
-  EXPECT_TRUE(demo.text.HasFocus()) << "the first of the page follows the strip";
+  EXPECT_TRUE(demo.text.HasFocus()) << "the first control of the page follows the strip";
   demo.Press(VK_TAB);
   EXPECT_TRUE(demo.check.HasFocus());
   demo.go.OnClick = events.AsHandler();
@@ -287,12 +287,12 @@ TEST_F(UiLatePages, ModelCannotTakeTheKeyboardToAPageThatIsNotOpen) {
   EXPECT_EQ(GetFocus(), demo.Native(demo.text));
 }
 
-/// Refuses the windows of controls with this caption, as a system does that has no room for them.
+/// Refuses windows to controls with this caption, as a system does when it runs out of room for them.
 constexpr const char* kRefused = "no room";
 std::unique_ptr<ui::win32::NativeControl> MakeUnlessRefused(const ui::win32::PeerContext& context,
                                                             ui::Control& model, HWND parent, int number) {
   if (model.Caption() != kRefused) return ui::win32::MakePeer(context, model, parent, number);
-  // No window can stand on one that does not exist.
+  // A window cannot have a parent that does not exist.
   return ui::win32::MakePeer(context, model, reinterpret_cast<HWND>(INT_PTR{-77}), number);
 }
 
@@ -306,7 +306,7 @@ class UiLateWindowsRefused : public testing::Test, protected DemoModels {
   ui::win32::FormWindow window{GetModuleHandleA(nullptr), 1, application, form, timers, MakeUnlessRefused};
 };
 
-TEST_F(UiLateWindowsRefused, TheRestWorksAndTheNextOpeningTriesAgainInTheOrderOfTheTabKey) {
+TEST_F(UiLateWindowsRefused, TheRestWorksAndTheNextOpeningTriesAgainInTabOrder) {
   EXPECT_TRUE(window.Complete());
   check.SetCaption(kRefused);
   go.SetCaption(kRefused);
@@ -338,7 +338,7 @@ TEST_F(UiLateWindowsRefused, TheRestWorksAndTheNextOpeningTriesAgainInTheOrderOf
   EXPECT_EQ(GetWindow(OnFirstPage(go), GW_HWNDNEXT), OnFirstPage(stop));
 }
 
-TEST(UiWindowsRefused, FormWithoutAWindowThatIsNeededAtOnceIsNotComplete) {
+TEST(UiWindowsRefused, FormWithoutAnEssentialWindowIsIncomplete) {
   DemoModels models;
   models.sunken.SetCaption(kRefused);
   const ui::win32::FormWindow window(GetModuleHandleA(nullptr), 1, models.application, models.form,

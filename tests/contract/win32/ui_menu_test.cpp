@@ -49,7 +49,7 @@ TEST(PopUpMenu, LeavesHiddenEntriesOut) {
   EXPECT_EQ(ItemText(native.Handle(), 1), "More");
 }
 
-TEST(PopUpMenu, GoesWithItsObject) {
+TEST(PopUpMenu, DisappearsWithItsObject) {
   ui::EventDispatcher events;
   const DemoMenu menu(events);
   HMENU handle = nullptr;
@@ -64,7 +64,7 @@ TEST(PopUpMenu, GoesWithItsObject) {
   EXPECT_FALSE(IsMenu(submenu));
 }
 
-/// A hand at the open menu, played by a timer of the form.
+/// Acts on the open menu as a user does, from a timer of the form.
 struct Hand {
   DemoWindow& demo;
   std::vector<WPARAM> keys;
@@ -87,7 +87,7 @@ struct Hand {
   }
 };
 
-TEST(PopUpMenu, ChosenEntryRunsAfterTheMenuHasGone) {
+TEST(PopUpMenu, ChosenEntryRunsAfterTheMenuHasClosed) {
   DemoWindow demo;
   demo.form.Show();
   DemoMenu menu(demo.events);
@@ -125,13 +125,13 @@ struct SecondAsker {
 
   base::Status Act() {
     demo.timer.SetEnabled(false);
-    demo.form.PopUpMenu(menu);  // would wait for ever if it opened
+    demo.form.PopUpMenu(menu);  // would never return if it opened
     PostMessageA(demo.Main(), WM_KEYDOWN, VK_ESCAPE, 1);
     return base::kDone;
   }
 };
 
-TEST(PopUpMenu, SecondOneDoesNotOpenOverTheFirst) {
+TEST(PopUpMenu, SecondMenuDoesNotOpenOverTheFirst) {
   DemoWindow demo;
   demo.form.Show();
   DemoMenu menu(demo.events);
@@ -140,7 +140,7 @@ TEST(PopUpMenu, SecondOneDoesNotOpenOverTheFirst) {
   ASSERT_TRUE(demo.timer.SetInterval(50).Ok());
   demo.timer.SetEnabled(true);
   demo.form.PopUpMenu(menu.root);
-  EXPECT_FALSE(demo.timer.Enabled()) << "the hand was there while the menu was open";
+  EXPECT_FALSE(demo.timer.Enabled()) << "the user acted while the menu was open";
 }
 
 TEST(PopUpMenu, ClosesWhenTheFormUnloads) {
@@ -149,7 +149,7 @@ TEST(PopUpMenu, ClosesWhenTheFormUnloads) {
   DemoMenu menu(demo.events);
   Hand hand{demo, {}, true};
   hand.ActSoon();
-  demo.form.PopUpMenu(menu.root);  // would wait for ever
+  demo.form.PopUpMenu(menu.root);  // would never return
   EXPECT_TRUE(demo.form.Unloaded());
 }
 

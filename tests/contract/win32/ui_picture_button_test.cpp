@@ -1,4 +1,4 @@
-// The button that is drawn here: it must look and act like the system's own.
+// The owner-drawn button: it must look and act like the system's own.
 #include <gtest/gtest.h>
 
 #include "tests/contract/win32/demo_window.h"
@@ -6,7 +6,7 @@
 namespace qdix::contract {
 namespace {
 
-/// No icon of this number is among the resources of the tests.
+/// The resources of the tests have no icon with this number.
 constexpr int kMissingPicture = 99;
 
 COLORREF PixelOf(HWND window, LONG x, LONG y) {
@@ -33,7 +33,7 @@ TEST_F(UiPictureButton, IsPressedAndLooksLikeAButton) {
   UpdateWindow(window);
   EXPECT_EQ(pixel(0, 0), GetSysColor(COLOR_3DHILIGHT));
   EXPECT_EQ(pixel(inside.right - 1, inside.bottom - 1), GetSysColor(COLOR_3DDKSHADOW));
-  // The heavy border of the button that Enter presses comes and goes with the keyboard.
+  // The heavy border of the default button comes and goes with the focus.
   demo.pictured.SetFocus();
   UpdateWindow(window);
   EXPECT_EQ(pixel(0, 0), GetSysColor(COLOR_WINDOWFRAME));
@@ -48,7 +48,7 @@ TEST_F(UiPictureButton, IsPressedAndLooksLikeAButton) {
   EXPECT_EQ(events.Count(), 1);
 }
 
-TEST(UiDefaultPictureButton, HasTheHeavyBorderFromTheBeginning) {
+TEST(UiDefaultPictureButton, HasTheHeavyBorderFromTheStart) {
   ui::EventDispatcher events;
   ui::Application application{"Title"};
   ui::Form form{events, {.name = "Form", .place = {0, 0, 100, 50}}};

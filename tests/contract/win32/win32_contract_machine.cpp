@@ -13,7 +13,7 @@ constexpr const char* kHiddenClass = "QdixContractHidden";
 constexpr UINT kRunAction = WM_USER + 0x200;
 constexpr UINT_PTR kBoxTimer = 1;
 constexpr UINT kBoxTimerMs = 10;
-/// The text of a message box stands in the control of this number.
+/// Control number of the text in a message box.
 constexpr int kBoxTextNumber = 0xFFFF;
 
 HWND Native(os::WindowHandle window) { return reinterpret_cast<HWND>(window); }
@@ -40,7 +40,7 @@ BOOL CALLBACK TakeIfOpenBox(HWND window, LPARAM found) {
   return FALSE;
 }
 
-/// The message box of this thread that waits for an answer, or null.
+/// Returns the message box of this thread that waits for an answer, or null.
 HWND OpenBox() {
   HWND box = nullptr;
   EnumThreadWindows(GetCurrentThreadId(), &TakeIfOpenBox, reinterpret_cast<LPARAM>(&box));
@@ -63,7 +63,7 @@ Win32ContractMachine::Win32ContractMachine() {
   hidden_ = CreateWindowA(kHiddenClass, "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, GetModuleHandleA(nullptr),
                           nullptr);
   if (hidden_ == nullptr) {
-    // Everything that follows would wait for ever for messages of a window that does not exist.
+    // Without it everything below would wait for ever for messages of a window that does not exist.
     std::fputs("no window can be made: these tests need a screen\n", stderr);
     std::abort();
   }
@@ -76,7 +76,7 @@ Win32ContractMachine::~Win32ContractMachine() {
   DestroyWindow(hidden_);
   classes_.emplace_back(kHiddenClass);
   for (const std::string& name : classes_) UnregisterClassA(name.c_str(), GetModuleHandleA(nullptr));
-  // Nothing may wait in the queue for the next test.
+  // The next test must find an empty queue.
   MSG message;
   while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
   }

@@ -1,4 +1,4 @@
-// The real machine of the contract tests: the forwarding layer, and hands that work through real windows.
+// The real machine of the contract tests: the forwarding layer, and a user who acts through real windows.
 #pragma once
 
 #include <windows.h>
@@ -21,7 +21,7 @@ class Win32ContractMachine final : public Machine {
 
   const os::System& GetSystem() override { return system_.GetSystem(); }
   [[nodiscard]] os::win32::Win32System& GetWin32System() { return system_; }
-  /// A window that runs an action posted to it; never shown.
+  /// Returns a window that runs an action posted to it; never shown.
   [[nodiscard]] HWND HiddenWindow() const { return hidden_; }
 
   os::WindowHandle OpenWindow(const std::string& window_class, const std::string& title) override;
@@ -44,7 +44,7 @@ class Win32ContractMachine final : public Machine {
   void ReleaseClipboard() override;
   void DeleteRegistryTree(os::KeyHandle root, const std::string& path) override;
 
-  /// Something that a hand does to the next box when it is open; what it does must close the box.
+  /// Runs an action on the next box once it is open. The action must close the box.
   void DoToNextBox(std::function<void(HWND)> action);
 
  private:

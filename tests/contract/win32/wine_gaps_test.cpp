@@ -1,5 +1,5 @@
-// Where Wine does not answer as a Windows does that the program also runs on. Each test holds the present
-// answer and fails when Wine changes: then the check belongs to the contract that all sides keep.
+// Where Wine behaves differently from a Windows version that the program also runs on. Each test expects
+// Wine's present behaviour and fails when that changes; then its check belongs in the common contract.
 #include <windows.h>
 
 #include "tests/contract/machine.h"
@@ -9,8 +9,8 @@ namespace {
 
 using WineGaps = ContractTest;
 
-/// The status with 64-bit fields. Windows 95 has no such call and the headers for it do not declare it; here
-/// it tells what the machine under Wine really has.
+/// The memory status with 64-bit fields. Windows 95 has no such call and its headers do not declare it. Here
+/// it returns what the machine under Wine really has.
 struct WideMemoryStatus {
   DWORD length = sizeof(WideMemoryStatus);
   DWORD memory_load_percent = 0;
@@ -32,8 +32,8 @@ WideMemoryStatus ReadWideMemoryStatus() {
   return status;
 }
 
-// On a machine whose page file needs more than 32 bits the total is cut lower than what is available of it.
-TEST_F(WineGaps, LargePageFileHasMoreAvailableThanThereIs) {
+// On a machine whose page file needs more than 32 bits, the total is clipped lower than the available amount.
+TEST_F(WineGaps, LargePageFileHasMoreAvailableThanItsTotal) {
   constexpr ULONGLONG kLargest = 0xFFFFFFFFU;
   const WideMemoryStatus wide = ReadWideMemoryStatus();
   const os::MemoryStatus status = system.memory.GlobalMemoryStatus();
@@ -44,7 +44,8 @@ TEST_F(WineGaps, LargePageFileHasMoreAvailableThanThereIs) {
   }
 }
 
-// The rights asked for at the opening of a key are not looked at. Neither does Windows 95; the NT line does.
+// Wine does not check the access rights requested when a key is opened. Neither does Windows 95; the NT line
+// does.
 TEST_F(WineGaps, KeyOpenedForReadingCanBeWritten) {
   constexpr const char* kKey = "Software\\QDIX contract tests";
   os::KeyHandle key = 0;
@@ -56,7 +57,7 @@ TEST_F(WineGaps, KeyOpenedForReadingCanBeWritten) {
   machine->DeleteRegistryTree(os::kHkeyCurrentUser, kKey);
 }
 
-// A box whose owner is gone gives the failure code of the dialog inside it instead of 0.
+// A box whose owner is gone returns the failure code of the dialog inside it instead of 0.
 TEST_F(WineGaps, MessageBoxThatFailsGivesMinusOne) {
   const os::WindowHandle closed = machine->OpenWindow("QdixContractMain", "Main");
   machine->CloseWindow(closed);
