@@ -1,5 +1,5 @@
-// The "Cache Settings" tab of the shipped exe: what it shows of the machine, what presets and hands make of
-// it, what a save asks and writes, byte for byte.
+// The "Cache Settings" tab of the shipped exe: what it shows of the machine, what presets and the user
+// change, and what a save asks and writes, byte for byte.
 #include <array>
 
 #include "screens/main_window.h"
@@ -32,7 +32,7 @@ std::string Kilobytes(bool is_set, int size_kb) { return is_set ? std::to_string
 
 std::string Entries(bool is_set, int entries) { return is_set ? std::to_string(entries) : ""; }
 
-/// A number as four bytes of the registry.
+/// Returns a number as four bytes of the registry.
 std::string BinaryValue(int number) {
   constexpr const char* kDigits = "0123456789ABCDEF";
   std::string text = "3:";
@@ -49,7 +49,8 @@ class CacheSession : public TuningSession {
 
   void ExpectGroup(const std::string& box, const std::string& label, const std::string& slider, bool is_set,
                    const std::string& caption, int position) const {
-    EXPECT_TRUE(Becomes([&] { return Shown(label) == caption; })) << caption << ", shown " << Shown(label);
+    EXPECT_TRUE(Becomes([&] { return Shown(label) == caption; }))
+        << caption << ", but it shows " << Shown(label);
     EXPECT_EQ(program.IsChecked(box), is_set) << box;
     EXPECT_EQ(program.IsEnabled(label), is_set) << label;
     EXPECT_EQ(program.IsEnabled(slider), is_set) << slider;
@@ -84,18 +85,18 @@ class CacheSession : public TuningSession {
     ASSERT_TRUE(Becomes([&] { return program.IsChecked(box); }));
   }
 
-  /// Presses "Save Settings", answers Yes and then No to the restart.
+  /// Presses "Save Settings", answers Yes, then No to the restart.
   void Save() const {
     PressKeyWith(VK_MENU, 'S');
     Answer(kSaveQuestion, IDYES);
     Answer(kRestartQuestion, IDNO);
   }
 
-  /// Moves a slider that has the keyboard and sees where it arrives.
+  /// Presses a key on the focused slider and expects this position.
   void ExpectKeyMoves(int key, const std::string& slider, int position) const {
     PressKey(key);
     EXPECT_TRUE(Becomes([&] { return SliderPosition(program.Control(slider)) == position; }))
-        << position << " expected, is " << SliderPosition(program.Control(slider));
+        << position << " expected, but it is at " << SliderPosition(program.Control(slider));
   }
 
   const Machine machine;
@@ -156,8 +157,8 @@ TEST_F(CacheSession, FreshMachineShowsNoSizesAndUserDefined) {
   CloseProgram();
 }
 
-TEST_F(CacheSession, SlidersHaveTenMarksWhateverTheirRange) {
-  // One more where the last part of the way is shorter, and one at the end.
+TEST_F(CacheSession, SlidersHaveTenMarksForAnyRange) {
+  // One more mark where the last interval is shorter, and one at the end.
   constexpr int kMostMarks = 12;
   StartOnCacheTab();
   for (const char* const slider : {"Slider1", "Slider2", "Slider3", "Slider4", "Slider5"}) {
@@ -177,7 +178,7 @@ TEST_F(CacheSession, PresetsChosenWithArrowKeysSetSlidersCaptionsAndBoxes) {
   CloseProgram();
 }
 
-TEST_F(CacheSession, PresetClickedInTheOpenListIsTakenOver) {
+TEST_F(CacheSession, PresetClickedInTheOpenListIsApplied) {
   StartOnCacheTab();
   const HWND list = program.Control("Combo2");
   ASSERT_TRUE(ChooseByPointer(list, RowWithText(list, standard.preset)));
@@ -213,7 +214,8 @@ TEST_F(CacheSession, FirstSaveWritesSizesTemplateBackupAndRecord) {
   EXPECT_EQ(RegistryBytes(kTemplates, ""), "1: 51 75 6F 6E 64 69 78 00");
   EXPECT_EQ(RegistryBytes(kOwnTemplate, "NameCache"), "3: 00 18 00 00");
   EXPECT_EQ(RegistryBytes(kOwnTemplate, "PathCache"), "3: 80 00 00 00");
-  EXPECT_EQ(RegistryBytes(kOwnTemplate, ""), std::nullopt) << "the key is made after its caption is written";
+  EXPECT_EQ(RegistryBytes(kOwnTemplate, ""), std::nullopt)
+      << "the key is created after its caption is written";
   EXPECT_EQ(TextsOf(kMachineKey), (RegistryTexts{{"HasRun", "1"},
                                                  {"FirstSave", "1"},
                                                  {"OldMinCache", "0"},
@@ -223,7 +225,7 @@ TEST_F(CacheSession, FirstSaveWritesSizesTemplateBackupAndRecord) {
   CloseProgram();
 }
 
-TEST_F(CacheSession, RecordHoldsWhatStoodInSystemIni) {
+TEST_F(CacheSession, RecordHoldsTheOldContentsOfSystemIni) {
   SetSystemIni(
       "[386Enh]\r\nPagingDrive=C:\r\nMinPagingFileSize=131072\r\nMaxPagingFileSize=131072\r\n"
       "[vcache]\r\nMinFileCache=1024\r\nmaxfilecache=8192\r\nchunksize=512\r\n");
@@ -265,7 +267,7 @@ TEST_F(CacheSession, SecondSaveNamesTheTemplateAndKeepsBackupAndRecord) {
   EXPECT_EQ(RegistryBytes(kOwnTemplate, "PathCache"), "3: 10 00 00 00");
   EXPECT_EQ(WindowsFile(kSystemBackup), before);
   EXPECT_EQ(TextsOf(kMachineKey), record);
-  EXPECT_EQ(SystemIniText("vcache", "MinFileCache"), std::nullopt) << "its box is not ticked";
+  EXPECT_EQ(SystemIniText("vcache", "MinFileCache"), std::nullopt) << "its box is cleared";
   EXPECT_EQ(SystemIniText("vcache", "MaxFileCache"), std::to_string(low_memory.max_kb));
   CloseProgram();
 }
@@ -312,7 +314,7 @@ TEST_F(CacheSession, SystemDefaultsRemoveEverySizeWithTheNextSave) {
   CloseProgram();
 }
 
-TEST_F(CacheSession, YesToTheRestartAsksForOneAndEndsTheProgram) {
+TEST_F(CacheSession, YesToTheRestartRequestsOneAndEndsTheProgram) {
   StartOnCacheTab();
   ChooseByArrowKeys(standard.preset);
   PressKeyWith(VK_MENU, 'S');
@@ -336,7 +338,7 @@ TEST_F(CacheSession, SliderMovedByKeysIsUserDefinedAndPushesTheOtherSize) {
   ExpectKeyMoves(VK_NEXT, "Slider1", 1024 + 4096);
   ExpectKeyMoves(VK_PRIOR, "Slider1", 1024);
   EXPECT_EQ(SliderPosition(program.Control("Slider2")), standard.max_kb)
-      << "a smaller minimum pushes nothing";
+      << "a smaller minimum leaves the maximum alone";
   ExpectKeyMoves(VK_END, "Slider1", machine.LargestCacheKb());
   const std::string largest = std::to_string(machine.LargestCacheKb()) + " Kb";
   EXPECT_TRUE(Becomes([&] { return Shown("lblMinCache") == "Min Cache Size : " + largest; }));
@@ -346,7 +348,7 @@ TEST_F(CacheSession, SliderMovedByKeysIsUserDefinedAndPushesTheOtherSize) {
   ExpectKeyMoves(VK_HOME, "Slider2", 512);
   EXPECT_TRUE(Becomes([this] { return Shown("lblMinCache") == "Min Cache Size : 512 Kb"; }));
   EXPECT_TRUE(Becomes([this] { return Shown("lblMaxCache") == "Max Cache Size : 512 Kb"; }));
-  EXPECT_EQ(SliderPosition(program.Control("Slider1")), 512) << "the maximum takes the minimum along";
+  EXPECT_EQ(SliderPosition(program.Control("Slider1")), 512) << "the maximum pulls the minimum along";
   CloseProgram();
 }
 
@@ -359,7 +361,7 @@ TEST_F(CacheSession, ChunkSliderMovesInStepsOf512) {
   ExpectKeyMoves(VK_NEXT, "Slider3", 2048);
   ExpectKeyMoves(VK_END, "Slider3", 4096);
   ExpectKeyMoves(VK_HOME, "Slider3", 512);
-  // From about there on 50 pixels are some 500 kilobytes, and hardly ever a multiple of 512.
+  // From about there on, 50 pixels are about 500 kilobytes, and hardly ever a multiple of 512.
   const HWND slider = program.Control("Slider3");
   ASSERT_TRUE(PullThumb(slider, 57));
   EXPECT_TRUE(Becomes([slider] { return SliderPosition(slider) == 1024; })) << SliderPosition(slider);

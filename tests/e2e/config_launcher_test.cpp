@@ -1,4 +1,4 @@
-// The shipped configL.exe and the list beside it, which gets back after each test what it held.
+// The shipped configL.exe and the list beside it. Each test restores the previous list afterwards.
 #include <gtest/gtest.h>
 
 #include "base/text.h"
@@ -15,7 +15,7 @@
 namespace qdix::e2e {
 namespace {
 
-/// Number of the field for the name in the system's dialog of files.
+/// Control number of the name field in the system's file dialog.
 constexpr int kFileNameField = 0x47C;
 
 std::string ThreeEntries() {
@@ -36,7 +36,7 @@ class SessionQuestion {
   SessionQuestion& operator=(const SessionQuestion&) = delete;
   ~SessionQuestion() = default;
 
-  /// The answer arrives while this thread looks for messages.
+  /// The answer arrives while this thread checks for messages.
   [[nodiscard]] bool IsAnswered() const {
     MSG message = {};
     PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE);
@@ -74,7 +74,7 @@ class ConfigSession : public testing::Test {
     ASSERT_TRUE(list.SetBytes(bytes));
     Start();
   }
-  /// The box or dialog that the program shows now; one that does not come fails the test.
+  /// Returns the box or dialog that the program shows now. The test fails if none appears.
   [[nodiscard]] MessageBox AwaitBox() {
     EXPECT_TRUE(program.Await([this] { return program.MessageBoxes().size() == 1; }));
     const std::vector<MessageBox> boxes = program.MessageBoxes();
@@ -83,9 +83,9 @@ class ConfigSession : public testing::Test {
   void ExpectEnd() { EXPECT_EQ(program.WaitForExit(), 0); }
   void ExpectKeyboardOn(const std::string& name) {
     EXPECT_TRUE(program.Await([&] { return program.FocusedControl() == name; }))
-        << name << " expected, " << program.FocusedControl() << " has it";
+        << name << " expected, " << program.FocusedControl() << " has the keyboard";
   }
-  /// Goes to a field by its key and types over what it holds.
+  /// Goes to a field by its access key and replaces its text.
   void TypeInto(char access_key, const std::string& field, const std::string& text) {
     PressKeyWith(VK_MENU, access_key);
     ExpectKeyboardOn(field);
@@ -105,7 +105,7 @@ class ConfigSession : public testing::Test {
   ShippedProgram program{ConfigLauncher()};
 };
 
-TEST_F(ConfigSession, ListIsShownAndUnchangedItClosesAtOnce) {
+TEST_F(ConfigSession, ListIsShownAndClosesAtOnceIfUnchanged) {
   StartWith(ThreeEntries());
   EXPECT_EQ(program.Caption(), "Config Launcher");
   EXPECT_TRUE(HasRows(3));
@@ -143,7 +143,7 @@ TEST_F(ConfigSession, ListIsBuiltByKeyboardAndWrittenByteForByte) {
   ASSERT_TRUE(HasRows(2));
   PressKeyWith(VK_MENU, 'U');
   EXPECT_TRUE(HasSelectedRow(0));
-  EXPECT_EQ(list.Bytes(), std::nullopt) << "written before OK";
+  EXPECT_EQ(list.Bytes(), std::nullopt) << "the list was written before OK";
   PressKeyWith(VK_MENU, 'P');
   ExpectKeyboardOn("lstPrograms");
   PressKey(VK_RETURN);
@@ -190,7 +190,7 @@ TEST_F(ConfigSession, CancelAndTheCloseButtonAskBeforeChangesAreLost) {
   EXPECT_EQ(question.text, "Do you want to discard your changes?");
   program.Close();
   PressKey(VK_RETURN);
-  EXPECT_TRUE(program.Await([&] { return IsWindow(question.window) == 0; })) << "No is the default";
+  EXPECT_TRUE(program.Await([&] { return IsWindow(question.window) == 0; })) << "the default answer is No";
   EXPECT_TRUE(program.IsRunning());
   program.Close();
   ASSERT_TRUE(PressButton(AwaitBox(), IDYES));
@@ -292,7 +292,7 @@ TEST_F(ConfigSession, LongNamesScrollSidewaysAndShortOnesDoNot) {
   EXPECT_TRUE(program.Await([&] { return !has_scroll_bar(); }));
 }
 
-TEST_F(ConfigSession, EndOfTheWindowsSessionAsksForTheList) {
+TEST_F(ConfigSession, EndOfTheWindowsSessionAsksAboutTheList) {
   StartWith(ThreeEntries());
   EXPECT_NE(Ask(program.MainWindow(), WM_QUERYENDSESSION), 0) << "nothing is lost";
   PressKeyWith(VK_MENU, 'R');
@@ -320,7 +320,7 @@ TEST_F(ConfigSession, MinimisedWindowThatTheUserActivatesStaysMinimised) {
   ShowWindow(program.MainWindow(), SW_MINIMIZE);
   ASSERT_TRUE(program.Await([this] { return IsIconic(program.MainWindow()) != 0; }));
   SetForegroundWindow(program.MainWindow());
-  // Comes after what the activation has left in the queue of the program.
+  // Comes after the messages that the activation left in the program's queue.
   program.Close();
   const MessageBox question = AwaitBox();
   EXPECT_NE(IsIconic(program.MainWindow()), 0);
@@ -356,7 +356,7 @@ TEST_F(ConfigSession, FieldsTakeNoMoreThanARecordHolds) {
   EXPECT_EQ(Ask(program.Control("txtStartIn"), EM_GETLIMITTEXT), 255);
 }
 
-TEST_F(ConfigSession, ProgramIsLookedForInTheSystemsDialog) {
+TEST_F(ConfigSession, ProgramIsBrowsedForInTheSystemDialog) {
   Start();
   PressKeyWith(VK_MENU, 'B');
   const MessageBox dialog = AwaitBox();
@@ -376,7 +376,7 @@ TEST_F(ConfigSession, ProgramIsLookedForInTheSystemsDialog) {
   EXPECT_EQ(program.Text("txtStartIn"), "C:\\windows");
 }
 
-TEST_F(ConfigSession, FolderIsLookedForInTheSystemsDialog) {
+TEST_F(ConfigSession, FolderIsBrowsedForInTheSystemDialog) {
   StartWith(ThreeEntries());
   PressKeyWith(VK_MENU, 'W');
   const MessageBox dialog = AwaitBox();
@@ -384,10 +384,10 @@ TEST_F(ConfigSession, FolderIsLookedForInTheSystemsDialog) {
   ASSERT_TRUE(PressButton(dialog, IDOK));
   EXPECT_TRUE(program.Await([this] { return IsWindowEnabled(program.MainWindow()) != 0; }));
   const std::string folder = base::UpperAscii(program.Text("txtStartIn"));
-  EXPECT_EQ(folder, "C:\\WINDOWS") << "the folder that was there is chosen at first";
+  EXPECT_EQ(folder, "C:\\WINDOWS") << "the current folder is selected initially";
 }
 
-TEST_F(ConfigSession, DroppedFilesAndWhatAShortcutLeadsToAreAdded) {
+TEST_F(ConfigSession, DroppedFilesAndTargetsOfShortcutsAreAdded) {
   const FileKeeper shortcut{"C:\\windows\\Sums.lnk"};
   os::win32::Win32ShellFiles shell;
   ASSERT_TRUE(shell.WriteShortcut(
@@ -466,7 +466,7 @@ TEST_F(ConfigSession, TabKeyGoesThroughEverythingInOrder) {
   }
 }
 
-TEST_F(ConfigSession, EveryControlStandsInTheWindowAndTheWindowOn640By480) {
+TEST_F(ConfigSession, EveryControlFitsTheWindowAndTheWindowFits640By480) {
   Start();
   ExpectFitsOn640By480(program);
   ASSERT_GT(program.Controls().size(), 15U);

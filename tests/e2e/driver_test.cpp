@@ -1,5 +1,4 @@
-// The driver itself, where it watches over the machine that the tests run on. The one program it needs is
-// this one.
+// Tests the parts of the driver that protect the machine under test. The only program they need is this one.
 #include <gtest/gtest.h>
 
 #include "tests/e2e/driver/restart_watch.h"
@@ -10,7 +9,7 @@ namespace {
 
 constexpr const char* kKeyBelow = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\FS Templates\\Server";
 
-TEST(Driver, RestartIsSeenAndNotLetThrough) {
+TEST(Driver, RestartIsDetectedAndBlocked) {
   RestartWatch watch(GetCurrentProcess());
   ASSERT_TRUE(watch.Begin());
   EXPECT_EQ(watch.Count(), 0U);
@@ -23,7 +22,7 @@ TEST(Driver, RestartIsSeenAndNotLetThrough) {
   EXPECT_EQ(watch.Flags(), EWX_LOGOFF);
 }
 
-TEST(Driver, WhatTheProgramsChangeOfTheSystemIsPutBack) {
+TEST(Driver, ChangesToTheSystemAreUndone) {
   const SystemIniKeeper before;
   {
     const SystemIniKeeper keeper;
@@ -40,7 +39,7 @@ TEST(Driver, WhatTheProgramsChangeOfTheSystemIsPutBack) {
   EXPECT_TRUE(before.NothingChanged());
 }
 
-TEST(Driver, FilesOfTheWindowsDirectoryComeBackByteForByte) {
+TEST(Driver, FilesOfTheWindowsDirectoryAreRestoredByteForByte) {
   const SystemIniKeeper keeper;
   const std::string bytes("[s]\r\nk=1\r\n\0\n\xFF;", 14);
   SetWindowsFile(kSystemIni, bytes);

@@ -1,5 +1,5 @@
 // Every way in which the shipped exe ends: always by itself, with exit code 0, its settings stored, its icon
-// gone and nothing asked.
+// removed and no questions.
 #include "tests/e2e/driver/process_memory.h"
 #include "tests/e2e/session.h"
 
@@ -13,7 +13,7 @@ class EndSession : public Session {
     SetRegistryText(kSettings, "LastTab", "0");
   }
 
-  /// Begins a release that no test waits for.
+  /// Begins a release; no test waits for its end.
   void BeginLongRelease() {
     ASSERT_TRUE(program.Choose("List1", "64 MB"));
     program.Press("Command1");
@@ -60,7 +60,7 @@ TEST_F(EndSession, EndOfTheWindowsSessionThatAnotherProgramRefuses) {
   EXPECT_NE(Ask(program.MainWindow(), WM_QUERYENDSESSION), 0);
   Ask(program.MainWindow(), WM_ENDSESSION, FALSE);
   program.OpenTab(3);
-  EXPECT_TRUE(program.IsVisible("Option1")) << "the program goes on";
+  EXPECT_TRUE(program.IsVisible("Option1")) << "the program keeps running";
   CloseProgram();
 }
 
@@ -80,7 +80,7 @@ TEST_F(EndSession, EndOfTheWindowsSessionWhileABoxIsOpen) {
   EXPECT_EQ(RegistryText(kSettings, "LastTab"), "1");
 }
 
-TEST_F(EndSession, EndOfTheWindowsSessionAsksNothingAboutALimitThatWouldBeRefused) {
+TEST_F(EndSession, EndOfTheWindowsSessionAsksNothingAboutAnInvalidLimit) {
   SetRegistryText(kSettings, "AutoCPU", "300");
   StartProgram();
   EndWindowsSession();

@@ -1,4 +1,4 @@
-// What a program holds at one moment, and whether it holds more later.
+// Compares the resources that a program holds at one moment with those that it holds later.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@ class HeldResources {
  public:
   explicit HeldResources(const ShippedProgram& program)
       : program_(program), before_(program.Resources()), committed_before_(program.CommittedBytes()) {
-    // What could not be counted would never grow.
+    // A kind that could not be counted would never grow.
     EXPECT_GT(before_.windows, 0);
     EXPECT_GT(before_.drawing_objects, 0);
     EXPECT_GT(before_.handles, 0);
@@ -20,7 +20,7 @@ class HeldResources {
 
   void ExpectNoMoreNow() const {
     ProcessResources now;
-    // A refresh that is drawing right now holds objects for a moment.
+    // A refresh that is just drawing holds objects for a moment.
     EXPECT_TRUE(program_.Await([&] {
       now = program_.Resources();
       return now.windows <= before_.windows && now.drawing_objects <= before_.drawing_objects &&
@@ -32,7 +32,7 @@ class HeldResources {
   }
 
  private:
-  /// A heap may keep a little of what it once gave out.
+  /// A heap may keep a little of the memory that it once handed out.
   static constexpr std::uint64_t kSlackBytes = 64 * 1024;
 
   const ShippedProgram& program_;

@@ -1,4 +1,4 @@
-// The help that the shipped exe opens: the viewer at the topic of each tab, never two of them, and the
+// The help that the shipped exe opens: the viewer at the topic of each tab, never two viewers, and the
 // manual.
 #include <algorithm>
 #include <array>
@@ -33,7 +33,7 @@ constexpr std::array<TopicOfTab, 8> kTopics{{{screens::kQuondixTab, "Command21",
                                              {screens::kSwapFileTab, "Command20", "10"},
                                              {screens::kAboutTab, "Command17", "11"}}};
 
-/// True where a pixel of this part of the screen is yellow.
+/// True if this part of the screen has a yellow pixel.
 bool HasYellow(const RECT& part) {
   constexpr std::string_view kYellow("\xFF\xFF\x00", 3);
   const std::string pixels = ScreenPixels(part);
@@ -55,7 +55,7 @@ class HelpOfTheProgram : public Session {
     Session::SetUp();
     MarkMachineAsKnown();
   }
-  /// One viewer, with this topic, and no second one soon after.
+  /// Expects one viewer with this topic, and no second one soon after.
   void ExpectOneViewer(const std::string& topic) const {
     const std::string expected = ProgramPath("help.exe") + " " + topic;
     EXPECT_TRUE(program.Await([&] {
@@ -76,7 +76,7 @@ TEST_F(HelpOfTheProgram, EachTabLeavesExactlyOneViewerAtItsTopic) {
   }
   EXPECT_FALSE(Eventually([] { return HelpWindows().size() != 1; }, kSecondViewerMs));
   CloseProgram();
-  EXPECT_EQ(HelpWindows().size(), 1U) << "the viewer outlives the program";
+  EXPECT_EQ(HelpWindows().size(), 1U) << "the viewer stays after the program";
 }
 
 TEST_F(HelpOfTheProgram, DoubleClickLeavesOneViewer) {
@@ -105,11 +105,11 @@ TEST_F(HelpOfTheProgram, KeyboardOpensTheTopicOfTheTab) {
   CloseProgram();
 }
 
-TEST_F(HelpOfTheProgram, LightBulbStandsOnTheButtonOfTheSwapFile) {
+TEST_F(HelpOfTheProgram, LightBulbIsOnTheSwapFileButton) {
   StartProgram();
   program.OpenTab(screens::kSwapFileTab);
   ASSERT_TRUE(BringForward(program.MainWindow()));
-  // The glass of the bulb, in the left half of the button and nowhere in the right.
+  // The glass of the bulb: in the left half of the button and nowhere in the right half.
   RECT left = program.ScreenRect("Command20");
   RECT right = left;
   left.right = right.left = (left.left + left.right) / 2;
@@ -120,7 +120,7 @@ TEST_F(HelpOfTheProgram, LightBulbStandsOnTheButtonOfTheSwapFile) {
   CloseProgram();
 }
 
-TEST_F(HelpOfTheProgram, ManualIsHandedToTheShellToBeShownMaximised) {
+TEST_F(HelpOfTheProgram, ShellOpensTheManualMaximised) {
   const KeyPath kHtmFiles{HKEY_LOCAL_MACHINE, "Software\\Classes\\.htm"};
   const KeyPath kWitnessFiles{HKEY_LOCAL_MACHINE, "Software\\Classes\\QdixWitness"};
   const KeyPath kWitnessOpens{HKEY_LOCAL_MACHINE, "Software\\Classes\\QdixWitness\\shell\\open\\command"};

@@ -1,5 +1,4 @@
-// The shipped help.exe with the topics that it carries: by number, by keyboard, and as another program sees
-// it.
+// The shipped help.exe with its built-in topics: by number, by keyboard, and as another program sees it.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -23,10 +22,10 @@ namespace {
 using help_viewer::kContentsPage;
 
 constexpr const char* kWindowTitle = "Quondix Help";
-/// Long enough for a viewer that is too much to close.
+/// Long enough for a superfluous viewer to close.
 constexpr int kSecondViewerMs = 1500;
 
-/// The highlight of the prefix's colours, dark blue, as the screen's bytes have it.
+/// The highlight colour of the prefix, dark blue, as bytes of the screen.
 constexpr std::string_view kHighlight("\x00\x00\x80", 3);
 
 std::string ClipboardText() {
@@ -72,7 +71,7 @@ class HelpSession : public testing::Test {
     EXPECT_EQ(program.WaitForExit(), 0);
   }
 
-  /// The row of the contents in which a topic stands, or LB_ERR.
+  /// Returns the row of a topic in the contents, or LB_ERR.
   [[nodiscard]] LRESULT RowOf(int topic) const {
     LRESULT row = 0;
     int section = -1;
@@ -86,7 +85,8 @@ class HelpSession : public testing::Test {
   [[nodiscard]] bool HasSelected(int topic) const {
     return program.Await([&] { return Ask(program.Control("lstContents"), LB_GETCURSEL) == RowOf(topic); });
   }
-  /// The topic is selected in the contents, and what is copied is its text. The keyboard is on it then.
+  /// Expects this topic to be selected in the contents, and Copy to copy its text. Leaves the keyboard on the
+  /// contents.
   void ExpectTopic(int topic) {
     EXPECT_TRUE(program.Await([&] {
       return Ask(program.Control("lstContents"), LB_GETCURSEL) == RowOf(topic);
@@ -96,21 +96,21 @@ class HelpSession : public testing::Test {
     program.Press("cmdCopy");
     ExpectCopied(topic, before);
   }
-  /// Something was put on the clipboard since its number was this: the text of the topic. It is not opened
-  /// before, since the program could not open it meanwhile.
+  /// Expects that the text of the topic was put on the clipboard after its sequence number was `before`. Does
+  /// not open the clipboard until then: the program could not open it at the same time.
   void ExpectCopied(int topic, DWORD before) const {
     EXPECT_TRUE(program.Await([&] { return GetClipboardSequenceNumber() != before; }))
-        << "the clipboard is held by a window of the class " << ClassOf(GetOpenClipboardWindow());
+        << "the clipboard is open in a window of the class " << ClassOf(GetOpenClipboardWindow());
     const std::string expected = PlainText(book.Read(topic));
     EXPECT_TRUE(program.Await([&] { return ClipboardText() == expected; })) << ClipboardText();
     EXPECT_TRUE(program.MessageBoxes().empty());
   }
   void ExpectKeyboardOn(const std::string& name) {
     EXPECT_TRUE(program.Await([&] { return program.FocusedControl() == name; }))
-        << name << " expected, " << program.FocusedControl() << " has it";
+        << name << " expected, " << program.FocusedControl() << " has the keyboard";
   }
   [[nodiscard]] int TopicOf(std::int32_t number) const { return book.IndexOf(number); }
-  /// Number of the first topic that a topic leads to.
+  /// Returns the number of the first topic that a topic links to.
   [[nodiscard]] std::int32_t FirstLinkOf(int topic) const {
     for (const help_viewer::Block& block : book.Read(topic).blocks) {
       for (const help_viewer::Text& text : block.cells) {
@@ -122,8 +122,8 @@ class HelpSession : public testing::Test {
     return help_viewer::kNoLink;
   }
   [[nodiscard]] std::string PanePixels() const { return ScreenPixels(program.ScreenRect("paneTopic")); }
-  /// Waits until the pane looks like this no more, and tells what it looks like then.
-  /// Gives the window this place on the screen and waits until it is there. It may refuse to become so small.
+  /// Moves the window to this place on the screen and waits until it is there. The window may refuse to
+  /// become so small.
   void PlaceWindow(const RECT& wanted) const {
     SetWindowPos(program.MainWindow(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left,
                  wanted.bottom - wanted.top, SWP_NOZORDER | SWP_ASYNCWINDOWPOS);
@@ -135,7 +135,7 @@ class HelpSession : public testing::Test {
     }));
   }
 
-  /// The picture of the pane once it no longer changes.
+  /// Returns the picture of the pane once it no longer changes.
   std::string AwaitSteadyPane() {
     std::string before;
     std::string now;
@@ -196,7 +196,7 @@ TEST_F(HelpSession, UnknownMissingAndMalformedNumbersOpenTheContents) {
   }
 }
 
-TEST_F(HelpSession, WindowThatIsFoundByItsTitleIsTheOnlyOneAndClosesTheProgram) {
+TEST_F(HelpSession, WindowFoundByItsTitleIsTheOnlyOneAndClosesTheProgram) {
   Start("4");
   TitleCount titles;
   EnumWindows(&TitleCount::Look, reinterpret_cast<LPARAM>(&titles));
@@ -240,7 +240,7 @@ TEST_F(HelpSession, LinksAreFollowedByKeyboardAndBackReturns) {
 
 TEST_F(HelpSession, KeysScrollTheTopic) {
   Start("0");
-  // The smallest window has the most to scroll.
+  // The smallest window scrolls the most.
   PlaceWindow({20, 20, 30, 30});
   const std::string top = AwaitSteadyPane();
   PressKey(VK_DOWN);
@@ -283,17 +283,17 @@ TEST_F(HelpSession, TabKeyGoesThroughEverythingInOrder) {
     PressKey(VK_TAB);
     ExpectKeyboardOn(next);
   }
-  // Every topic is a link of this page; the way out leads past all of them.
+  // Every topic is a link on this page; Tab has to pass all of them.
   for (int index = 0; index < book.Count(); ++index) PressKey(VK_TAB);
   ExpectKeyboardOn("paneTopic");
   PressKey(VK_TAB);
   ExpectKeyboardOn("cmdContents");
 }
 
-TEST_F(HelpSession, ContentsAreWalkedByKeyboard) {
+TEST_F(HelpSession, ContentsAreBrowsedByKeyboard) {
   Start("");
   ExpectKeyboardOn("lstContents");
-  // In a list without a selection the first key only selects the row with the keyboard, here a heading.
+  // In a list without a selection, the first key only selects the focused row, here a heading.
   PressKey(VK_END);
   EXPECT_TRUE(program.Await([this] { return Ask(program.Control("lstContents"), LB_GETCURSEL) == 0; }));
   PressKey(VK_END);
@@ -307,7 +307,7 @@ TEST_F(HelpSession, ContentsAreWalkedByKeyboard) {
   EXPECT_EQ(program.WaitForExit(), 0);
 }
 
-TEST_F(HelpSession, WordIsFoundAndItsPlacesAreMarkedOneAfterTheOther) {
+TEST_F(HelpSession, WordIsFoundAndItsOccurrencesAreMarkedOneAfterTheOther) {
   Start("9");
   PressKeyWith(VK_MENU, 'F');
   ExpectKeyboardOn("txtWord");
@@ -341,7 +341,7 @@ TEST_F(HelpSession, CtrlCCopiesTheTopic) {
 TEST_F(HelpSession, LinkIsFollowedByPointer) {
   Start("");
   const RECT pane = program.ScreenRect("paneTopic");
-  // The first link of the page of all topics stands below its title and the heading of its section.
+  // The first link on the page of all topics is below its title and its first section heading.
   HWND const window = program.Control("paneTopic");
   bool is_followed = false;
   for (LONG top = 30; top < pane.bottom - pane.top && !is_followed; top += 6) {
@@ -352,7 +352,7 @@ TEST_F(HelpSession, LinkIsFollowedByPointer) {
   ExpectTopic(0);
 }
 
-TEST_F(HelpSession, OfThreeThatStartTogetherOneStays) {
+TEST_F(HelpSession, OneOfThreeStartedTogetherStays) {
   std::array<ShippedProgram, 3> viewers{ShippedProgram{HelpViewer()}, ShippedProgram{HelpViewer()},
                                         ShippedProgram{HelpViewer()}};
   for (ShippedProgram& viewer : viewers) ASSERT_TRUE(viewer.Start("5"));
@@ -383,7 +383,7 @@ TEST_F(HelpSession, BothPanesFollowTheSizeOfTheWindow) {
   EXPECT_TRUE(Photograph("help_larger"));
 }
 
-TEST_F(HelpSession, PlaceIsRememberedOverARestart) {
+TEST_F(HelpSession, PlaceSurvivesARestart) {
   Start("4");
   PlaceWindow({33, 44, 33 + 555, 44 + 366});
   CloseAndExpectEnd();
@@ -397,7 +397,7 @@ TEST_F(HelpSession, PlaceIsRememberedOverARestart) {
   EXPECT_TRUE(EqualRect(&window, &expected)) << window.left << " " << window.top;
 }
 
-TEST_F(HelpSession, StoredNonsenseIsNoHarm) {
+TEST_F(HelpSession, StoredNonsenseDoesNoHarm) {
   for (const auto& [name, text] : RegistryTexts{
            {"Left", "-99999"}, {"Top", "99999"}, {"Width", "1"}, {"Height", "1E+99"}, {"Maximised", "x"}}) {
     SetRegistryText(kHelpSettings, name, text);

@@ -24,11 +24,11 @@ class KeyboardSession : public Session {
   }
   void ExpectKeyboardOn(const std::string& name) {
     EXPECT_TRUE(program.Await([&] { return program.FocusedControl() == name; }))
-        << name << " expected, " << program.FocusedControl() << " has it";
+        << name << " expected, " << program.FocusedControl() << " has the keyboard";
   }
 };
 
-TEST_F(KeyboardSession, TabWalksTheQuondixTabInOrderAndBack) {
+TEST_F(KeyboardSession, TabKeyMovesThroughTheQuondixTabInOrderAndBack) {
   StartInFront();
   PutKeyboardOn("List1");
   const std::vector<std::string> order{"Text1",    "VScroll1",  "Command1", "Command3", "Command4",
@@ -89,7 +89,7 @@ TEST_F(KeyboardSession, AltMMinimisesAndAltHHides) {
   CloseProgram();
 }
 
-TEST_F(KeyboardSession, ControlTabWalksAllTabsAndBack) {
+TEST_F(KeyboardSession, ControlTabMovesThroughAllTabsAndBack) {
   StartInFront();
   PutKeyboardOn("List1");
   for (const int tab : {1, 2, 3, 4, 5, 6, 7, 0}) {
@@ -101,7 +101,7 @@ TEST_F(KeyboardSession, ControlTabWalksAllTabsAndBack) {
   CloseProgram();
 }
 
-/// What is greyed at the start, and all but the chosen one of a group of options, is passed over.
+/// Skips what is disabled at the start, and all options of a group except the selected one.
 TEST_F(KeyboardSession, TabKeyReachesEveryControlOfEachTabInReadingOrder) {
   const std::vector<std::vector<std::string>> orders{
       {"List1", "Text1", "VScroll1", "Command1", "Command3", "Command4", "Command2", "Command21"},
@@ -146,7 +146,7 @@ TEST_F(KeyboardSession, SpaceTicksAndArrowsChooseAnOption) {
   CloseProgram();
 }
 
-TEST_F(KeyboardSession, ALimitTakesDigitsOnlyAndARefusedOneComesBack) {
+TEST_F(KeyboardSession, LimitAcceptsOnlyDigitsAndARefusedLimitIsReset) {
   StartInFront();
   program.OpenTab(1);
   PutKeyboardOn("Text9");

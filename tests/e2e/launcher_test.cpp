@@ -1,5 +1,5 @@
-// The launcher of the shipped exe: the list that the editor makes, what is started from it, and what cannot
-// be.
+// The launcher of the shipped exe: the list that the editor makes, the programs started from it, and the
+// failures.
 #include <array>
 
 #include "launcher/launcher_file.h"
@@ -13,7 +13,7 @@
 namespace qdix::e2e {
 namespace {
 
-/// Bytes of the block that holds the most that is freed for a launch: 250 times 1,040,000 and one.
+/// Size in bytes of the block with the largest amount freed for a launch: 250 times 1,040,000, plus one.
 constexpr std::uint64_t kLargestBlockBytes = 260000001;
 constexpr std::uint64_t kPageBytes = 4096;
 
@@ -23,7 +23,7 @@ std::string Record(const std::string& name, const std::string& path, const std::
 
 std::string Quoted(const std::string& path) { return '"' + path + '"'; }
 
-/// The folder that the program is started in by these tests.
+/// Returns the folder in which these tests start the program.
 std::string CurrentFolder() {
   std::array<char, MAX_PATH> folder{};
   GetCurrentDirectoryA(static_cast<DWORD>(folder.size()), folder.data());
@@ -59,9 +59,9 @@ class LauncherSession : public Session {
   void DoubleClickRow(int row) const {
     ASSERT_TRUE(PressAt(program.Control("List5"), MiddleOfRow(row), Press::kLeftTwice));
   }
-  /// What the started program wrote: its command line and its folder.
+  /// Checks the report of the started program: its command line and its folder.
   void ExpectStarted(const std::string& command_line, const std::string& folder) const {
-    EXPECT_TRUE(program.Await([this] { return report.Bytes().has_value(); })) << "nothing was started";
+    EXPECT_TRUE(program.Await([this] { return report.Bytes().has_value(); })) << "no program was started";
     EXPECT_STRCASEEQ(report.Bytes().value_or("").c_str(),
                      (command_line + "\r\n" + folder + "\r\nshow 1\r\n").c_str());
     SetFileBytes(report.Path(), std::nullopt);
@@ -75,13 +75,13 @@ class LauncherSession : public Session {
     EXPECT_TRUE(PressButton(box, IDOK));
   }
 
-  /// The tray menu, opened by the pointer.
+  /// Opens the tray menu by the pointer.
   [[nodiscard]] MenuText OpenTrayMenu() const {
     EXPECT_TRUE(PressIcon(Press::kRight));
     EXPECT_TRUE(program.Await([this] { return program.OpenMenus().size() == 1; }));
     return ReadMenu(program.Process(), program.OpenMenus().front());
   }
-  /// Its "Programs", opened by the keyboard.
+  /// Opens its "Programs" submenu by the keyboard.
   [[nodiscard]] MenuText OpenSubmenu() const {
     const std::vector<HWND> before = program.OpenMenus();
     for (int entries_down = 0; entries_down < 4; ++entries_down) PressKey(VK_DOWN);
@@ -100,7 +100,7 @@ class LauncherSession : public Session {
     }));
   }
 
-  /// Goes to a field of the editor by its key and types over what it holds.
+  /// Goes to a field of the editor by its access key and replaces its text.
   void TypeIntoEditor(char access_key, const std::string& field, const std::string& text) {
     PressKeyWith(VK_MENU, access_key);
     ASSERT_TRUE(editor.Await([&] { return editor.FocusedControl() == field; })) << editor.FocusedControl();
@@ -109,7 +109,7 @@ class LauncherSession : public Session {
   }
   void OpenEditor() {
     PressKeyWith(VK_MENU, 'F');
-    ASSERT_TRUE(program.Await([this] { return editor.Adopt(); })) << "no editor came";
+    ASSERT_TRUE(program.Await([this] { return editor.Adopt(); })) << "the editor did not start";
     ASSERT_TRUE(editor.WaitForWindow());
     ASSERT_TRUE(BringForward(editor.MainWindow()));
   }
@@ -119,7 +119,7 @@ class LauncherSession : public Session {
   ShippedProgram editor{ConfigLauncher()};
 };
 
-TEST_F(LauncherSession, MissingListIsAnEmptyOneAndIsLeftBehindEmpty) {
+TEST_F(LauncherSession, MissingListIsEmptyAndIsCreatedEmpty) {
   StartProgram();
   EXPECT_TRUE(HasRows(0));
   EXPECT_EQ(list.Bytes(), "");
@@ -142,7 +142,7 @@ TEST_F(LauncherSession, ListMadeInTheEditorAppearsInTheTabAndTheMenuWithinTheWat
   ASSERT_TRUE(Click(editor.Control("cmdAdd")));
   ASSERT_TRUE(editor.Await([this] { return Ask(editor.Control("lstPrograms"), LB_GETCOUNT) == 2; }));
   ASSERT_TRUE(Click(editor.Control("cmdMoveUp")));
-  EXPECT_TRUE(HasRows(0)) << "before the editor has closed";
+  EXPECT_TRUE(HasRows(0)) << "the list changed before the editor closed";
   ASSERT_TRUE(Click(editor.Control("cmdOK")));
   ASSERT_EQ(editor.WaitForExit(), 0);
   EXPECT_TRUE(HasRows(2));
@@ -152,7 +152,7 @@ TEST_F(LauncherSession, ListMadeInTheEditorAppearsInTheTabAndTheMenuWithinTheWat
   CloseProgram();
 }
 
-TEST_F(LauncherSession, SecondPressBringsTheOpenEditorForwardAndStartsNoOther) {
+TEST_F(LauncherSession, SecondPressBringsTheOpenEditorForward) {
   StartWith("");
   OpenEditor();
   const HWND first = editor.MainWindow();
@@ -181,7 +181,7 @@ TEST_F(LauncherSession, MinimisedEditorIsRestoredByTheButton) {
   EXPECT_TRUE(Photograph("launcher_editor_restored"));
   PressKeyWith(VK_MENU, 'N');
   EXPECT_TRUE(editor.Await([this] { return editor.FocusedControl() == "txtName"; }))
-      << "it takes the keyboard";
+      << "the editor takes the keyboard";
   editor.Press("cmdCancel");
   EXPECT_EQ(editor.WaitForExit(), 0);
   CloseProgram();
@@ -219,7 +219,7 @@ TEST_F(LauncherSession, EnterStartsTheSelectedProgram) {
   CloseProgram();
 }
 
-TEST_F(LauncherSession, BlankFolderIsTheCurrentOneOfTheProgram) {
+TEST_F(LauncherSession, BlankFolderMeansTheCurrentFolderOfTheProgram) {
   StartWith(Record("First", Quoted(WitnessPath()), "C:\\windows") +
             Record("Second", Quoted(WitnessPath()), ""));
   DoubleClickRow(0);
@@ -234,11 +234,11 @@ TEST_F(LauncherSession, EmptyPartOfTheListStartsNothing) {
   DoubleClickRow(5);
   DoubleClickRow(0);
   ExpectStarted(Quoted(WitnessPath()), CurrentFolder());
-  EXPECT_EQ(report.Bytes(), std::nullopt) << "started twice";
+  EXPECT_EQ(report.Bytes(), std::nullopt) << "the program was started twice";
   CloseProgram();
 }
 
-TEST_F(LauncherSession, MissingProgramIsReportedAndTheRestGoesOn) {
+TEST_F(LauncherSession, MissingProgramIsReportedAndTheOthersStillStart) {
   StartWith(Record("Missing", "C:\\no such folder\\nothing.exe", "") +
             Record("Witness", Quoted(WitnessPath()), "C:\\"));
   DoubleClickRow(0);
@@ -284,7 +284,7 @@ TEST_F(LauncherSession, MemoryIsFreedBeforeTheProgramStarts) {
   EXPECT_FALSE(program.IsEnabled("List5"));
   EXPECT_TRUE(program.IsVisible("txtFreeLabel"));
   EXPECT_EQ(program.Text("txtFreeLabel"), "Freeing Up Memory");
-  EXPECT_EQ(report.Bytes(), std::nullopt) << "started before the memory was freed";
+  EXPECT_EQ(report.Bytes(), std::nullopt) << "the program started before the memory was freed";
   EXPECT_TRUE(Photograph("launcher_freeing"));
   const std::uint64_t whole_pages = (kLargestBlockBytes + kPageBytes - 1) / kPageBytes * kPageBytes;
   EXPECT_TRUE(program.Await([&] {

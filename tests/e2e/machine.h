@@ -1,4 +1,5 @@
-// The machine that the tests run on, and what the program has to make of it, worked out here a second time.
+// The machine that the tests run on, and what the program must show for it, worked out independently of the
+// program.
 #pragma once
 
 // clang-format off
@@ -20,22 +21,22 @@ class Machine {
     total_mb_ = static_cast<double>(static_cast<LONG>(status.dwTotalPhys)) / 1.024 / 1000000;
   }
 
-  /// Total memory in megabytes of 1,024,000 bytes, as the gauge's full mark.
+  /// Returns the total memory in megabytes of 1,024,000 bytes, as on the gauge's full mark.
   [[nodiscard]] int TotalMb() const { return static_cast<int>(std::nearbyint(total_mb_)); }
-  /// Whole part of half the whole part.
+  /// Returns half of the whole megabytes, rounded down.
   [[nodiscard]] int HalfMb() const { return static_cast<int>(std::floor(total_mb_)) / 2; }
 
-  /// Whole megabytes of 1,024,000 bytes: the smallest swap file that is saved.
+  /// Returns whole megabytes of 1,024,000 bytes: the smallest swap file that can be saved.
   [[nodiscard]] int WholeMb() const { return static_cast<int>(std::floor(total_mb_)); }
-  /// The greatest size of the disk cache that the sliders reach, in kilobytes.
+  /// Returns the largest disk cache that the sliders reach, in kilobytes.
   [[nodiscard]] int LargestCacheKb() const { return static_cast<int>(std::nearbyint(total_mb_ * 500)); }
-  /// A share of half the memory in kilobytes, to the nearest 512.
+  /// Returns a share of half the memory in kilobytes, to the nearest 512.
   [[nodiscard]] int CacheKb(double share) const {
     return static_cast<int>(std::nearbyint(std::floor(total_mb_ * 512 * share) / 512)) * 512;
   }
-  /// The size that stands on the swap file's tab where system.ini names none: three times the memory.
+  /// Returns the size that the swap file tab shows if system.ini names none: three times the memory.
   [[nodiscard]] int ProposedSwapMb() const { return static_cast<int>(std::floor(total_mb_ * 3)); }
-  /// The size that beginners are suggested.
+  /// Returns the size suggested to beginners.
   [[nodiscard]] int SuggestedSwapMb() const {
     double times = 2.3;
     if (total_mb_ <= 140) times = 2.5;
@@ -43,13 +44,13 @@ class Machine {
     return static_cast<int>(std::floor(total_mb_ * times));
   }
 
-  /// The amount that is proposed for a release by hand.
+  /// Returns the amount proposed for a manual release.
   [[nodiscard]] std::string ProposedAmount() const { return LargestOf(kAllAmounts); }
-  /// The same for the lists that start at 12 MB.
+  /// Does the same for the lists that start at 12 MB.
   [[nodiscard]] std::string ProposedReleaseAmount() const {
     return LargestOf({kAllAmounts.begin() + 5, kAllAmounts.end()});
   }
-  /// What the start-up list holds for half of the memory: itself, or nothing where that is no entry.
+  /// Returns the start-up list's entry for half of the memory, or an empty text if that is no entry.
   [[nodiscard]] std::string StartupAmount() const {
     const bool is_entry = std::to_string(HalfMb()) == ProposedReleaseAmount();
     return is_entry ? ProposedReleaseAmount() : "0";
@@ -67,7 +68,7 @@ class Machine {
                                                    32,  40,  48,  56,  64,  72,  88,  104, 120, 136,
                                                    168, 200, 232, 264, 296, 328, 360, 424, 480, 512};
 
-  /// "0" where even the smallest is too large.
+  /// Returns "0" if even the smallest amount is too large.
   [[nodiscard]] std::string LargestOf(const std::vector<int>& amounts) const {
     int largest = 0;
     for (const int amount : amounts) largest = amount <= HalfMb() ? amount : largest;

@@ -1,4 +1,4 @@
-// The end-to-end tests: supervised, unless this is the process that the supervisor started.
+// Runs the end-to-end tests: under supervision, unless this is the process that the supervisor started.
 #include <cstdlib>
 
 #include "tests/e2e/strict_log.h"

@@ -24,7 +24,7 @@ class ReleaseSession : public Session {
     MarkMachineAsKnown();
   }
 
-  /// With this many passes no look from outside, however late on a busy machine, misses the blocks.
+  /// With this many passes the checks from outside see the blocks, however late they are on a busy machine.
   static void SetPasses(const char* passes) { SetRegistryText(kSettings, "TryTimes", passes); }
 
   void PressFreeUp(const std::string& amount) {
@@ -33,7 +33,7 @@ class ReleaseSession : public Session {
     ASSERT_TRUE(program.Await([&] { return !program.IsEnabled("Command1"); }));
   }
 
-  /// Releases an amount and returns the most blocks that were seen at once while the button was disabled.
+  /// Releases an amount and returns the largest set of blocks seen at once while the button was disabled.
   Blocks BlocksOfARelease(const std::string& amount) {
     Blocks most;
     DWORD pause_begin_ms = GetTickCount();
@@ -41,7 +41,7 @@ class ReleaseSession : public Session {
     PressFreeUp(amount);
     EXPECT_TRUE(program.Await(
         [&] {
-          // A look holds the program up, so half of the time is left to the program.
+          // A check blocks the program, so half of the time is left to the program.
           if (GetTickCount() - pause_begin_ms >= pause_ms) {
             const DWORD begin_ms = GetTickCount();
             const Blocks blocks = program.CommittedBlocks(kBlockBytes);
@@ -62,7 +62,7 @@ TEST_F(ReleaseSession, SixtyFourMegabytesAreOneBlock) {
   StartProgram();
   EXPECT_EQ(program.CommittedBlocks(kBlockBytes), Blocks{});
   EXPECT_EQ(BlocksOfARelease("64 MB"), Blocks{WholePages(66560001)});
-  EXPECT_EQ(program.CommittedBlocks(kBlockBytes), Blocks{}) << "everything is given back";
+  EXPECT_EQ(program.CommittedBlocks(kBlockBytes), Blocks{}) << "everything is freed";
   EXPECT_EQ(RegistryText(kSettings, "FreeUpRAM"), "64");
   CloseProgram();
 }
@@ -84,16 +84,16 @@ TEST_F(ReleaseSession, WindowAnswersWhileMemoryIsHeld) {
   program.OpenTab(7);
   EXPECT_TRUE(program.IsVisible("lblVersion"));
   program.OpenTab(0);
-  EXPECT_FALSE(program.IsEnabled("Command1")) << "the release goes on";
+  EXPECT_FALSE(program.IsEnabled("Command1")) << "the release is still running";
   CloseProgram();
 }
 
-TEST_F(ReleaseSession, NoPassesForATextThatIsNoNumber) {
+TEST_F(ReleaseSession, TextThatIsNoNumberMeansNoPasses) {
   SetPasses("abc");
   StartProgram();
   ASSERT_TRUE(program.Choose("List1", "512 MB"));
   Ask(program.Control("Command1"), BM_CLICK);
-  EXPECT_TRUE(program.IsEnabled("Command1")) << "the click came back after the release";
+  EXPECT_TRUE(program.IsEnabled("Command1")) << "the click returned after the release";
   CloseProgram();
 }
 
@@ -123,7 +123,7 @@ TEST_F(ReleaseSession, FirstBlockIsHeldUntilTheWarningAboutTheSecondIsAnswered) 
   EXPECT_EQ(program.AnswerBoxes().size(), 1U);
   EXPECT_TRUE(program.Await([&] { return program.IsEnabled("Command1"); }));
   EXPECT_EQ(program.CommittedBlocks(kBlockBytes), Blocks{});
-  EXPECT_TRUE(program.MessageBoxes().empty()) << "no further pass is made";
+  EXPECT_TRUE(program.MessageBoxes().empty()) << "there is no further pass";
   CloseProgram();
 }
 

@@ -1,4 +1,4 @@
-// Later starts of the shipped exe: what is stored comes back, the window starts as it was asked to.
+// Later starts of the shipped exe: stored settings come back, and the window starts as requested.
 #include "tests/e2e/driver/hand.h"
 #include "tests/e2e/session.h"
 
@@ -39,7 +39,7 @@ TEST_F(RestartSession, ChoicesOfEveryTabSurvive) {
   ShippedProgram again;
   StartCopy(again);
   EXPECT_EQ(again.OpenedTab(), 3);
-  EXPECT_TRUE(again.IsVisible("Option1")) << "the page of the last run is open";
+  EXPECT_TRUE(again.IsVisible("Option1")) << "the last page of the previous run is open";
   EXPECT_FALSE(again.IsVisible("Command1"));
   EXPECT_TRUE(again.HasSelected("Combo1", "16 MB"));
   EXPECT_TRUE(again.IsChecked("Check4"));
@@ -64,7 +64,7 @@ TEST_F(RestartSession, TypedAndScrolledNumbersSurvive) {
   PressKey(VK_END);
   TypeText("2");
   EXPECT_TRUE(program.Await([] { return RegistryText(kSettings, "TryTimes") == "12"; }));
-  // The bar counts upward: a click on its upper end adds one to where the bar itself stands.
+  // The bar counts upward: a click on its upper end adds one to its current value.
   ASSERT_TRUE(ClickAt(program.Control("VScroll1"), {6, 4}));
   EXPECT_TRUE(program.Await([] { return RegistryText(kSettings, "TryTimes") == "2"; }))
       << program.Text("Text1");
@@ -92,7 +92,7 @@ TEST_F(RestartSession, StoredTextsComeBackAsTheyAre) {
   CloseProgram();
 }
 
-TEST_F(RestartSession, DisplayAtStartupIsStoredAsItIsChosen) {
+TEST_F(RestartSession, DisplayAtStartupIsStoredWhenItIsChosen) {
   StartProgram();
   program.OpenTab(3);
   for (const char* const mode : {"2", "3", "1"}) {

@@ -1,4 +1,5 @@
-// The shipped exe by itself: the processor load on label and graph, the releases that start by themselves.
+// The shipped exe on its own: the processor load on label and graph, and the releases that start
+// automatically.
 #include "tests/e2e/driver/cpu_statistics.h"
 #include "tests/e2e/driver/process_memory.h"
 #include "tests/e2e/driver/quick_minutes.h"
@@ -21,7 +22,7 @@ class SchedulerSession : public Session {
     Session::TearDown();
   }
 
-  /// The colour of the newest bar of the graph at this share of its height, 0 at the bottom.
+  /// Returns the colour of the graph's newest bar at this percentage of its height, 0 at the bottom.
   [[nodiscard]] COLORREF NewestBarAt(int percent) const {
     const HWND graph = program.Control("XGraphMeter1");
     RECT inner = {};
@@ -46,7 +47,7 @@ TEST_F(SchedulerSession, LoadShowsOnLabelAndGraph) {
   CloseProgram();
 }
 
-TEST_F(SchedulerSession, WithoutStatisticsTheLoadStaysAtItsStart) {
+TEST_F(SchedulerSession, WithoutStatisticsTheLoadStaysAtItsInitialValue) {
   RemoveCpuStatistics();
   StartProgram();
   EXPECT_EQ(program.Text("lblUSAGE"), "0 %");
@@ -86,8 +87,8 @@ TEST_F(SchedulerSession, BusyProcessorHoldsTheAutomaticReleaseBack) {
   SetRegistryText(kSettings, "CPU", "1");
   SetRegistryText(kSettings, "AutoCPU", "16");
   StartProgram();
-  // The first average is (7 x 4 + 100) / 8 = 16, so the limit holds from the first check on; the label is at
-  // its end after six seconds, behind that check.
+  // The first average is (7 x 4 + 100) / 8 = 16, so the limit applies from the first check on. The label
+  // reaches its final value after six seconds, which is later than that check.
   EXPECT_TRUE(program.Await([&] { return program.Text("lblUSAGE") == "100 %"; }));
   EXPECT_EQ(RegistryText(kSettings, "CounterValue"), std::nullopt);
   SetCpuLoad(0);

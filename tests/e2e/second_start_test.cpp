@@ -1,5 +1,5 @@
-// A second start of the shipped exe, whatever became of the window of the first one: the window comes up, and
-// it works.
+// A second start of the shipped exe, whatever the state of the first copy's window: the window comes up and
+// works.
 #include "screens/main_window.h"
 #include "tests/e2e/driver/hand.h"
 #include "tests/e2e/driver/notification_area.h"
@@ -22,11 +22,11 @@ class SecondStartSession : public Session {
     program.Press("Command4");
     ASSERT_TRUE(program.Await([this] { return IsMinimised(); }));
   }
-  /// "Hide" of the icon's menu, which a minimised window can be hidden by.
+  /// Chooses "Hide" in the icon's menu, which can also hide a minimised window.
   void HideByTheIcon() {
     ASSERT_TRUE(PressIcon(Press::kRight));
     ASSERT_TRUE(program.Await([this] { return program.OpenMenus().size() == 1; }));
-    for (int entry = 0; entry < 3; ++entry) PressKey(VK_DOWN);  // separators are passed over
+    for (int entry = 0; entry < 3; ++entry) PressKey(VK_DOWN);  // the arrow key skips separators
     PressKey(VK_RETURN);
     ASSERT_TRUE(program.Await([this] { return !IsShown(); }));
   }
@@ -40,7 +40,7 @@ class SecondStartSession : public Session {
     EXPECT_TRUE(program.Await([this] { return GetForegroundWindow() == program.MainWindow(); }));
   }
   /// Clicks the third of the four tabs in the front row, which leads to "Time Intervals" as long as the first
-  /// tab is open. The page tells: the strip alone would switch by itself.
+  /// tab is open. The page is the evidence: the strip alone would switch by itself.
   void ExpectTabsAnswer() const {
     const RECT strip = program.ScreenRect("SSTab1");
     const RECT page = program.ScreenRect("QuondixPage");
@@ -54,7 +54,7 @@ class SecondStartSession : public Session {
     const ProgramRegistry before;
     StartAgain();
     ExpectInFront();
-    EXPECT_TRUE(ProgramRegistry() == before) << "the second copy touches no setting";
+    EXPECT_TRUE(ProgramRegistry() == before) << "the second copy changed a setting";
     ExpectTabsAnswer();
     EXPECT_TRUE(Photograph(picture));
     EXPECT_TRUE(program.HasIcon());
@@ -98,7 +98,7 @@ TEST_F(SecondStartSession, WindowThatStartedMinimised) {
   ExpectASecondStartBringsUpAWindowThatWorks("second_start_started_minimised");
 }
 
-TEST_F(SecondStartSession, WindowThatWasBroughtBackIsHiddenAndBroughtBackAgain) {
+TEST_F(SecondStartSession, RestoredWindowIsHiddenAndRestoredAgain) {
   StartProgram();
   for (int round = 0; round < 2; ++round) {
     program.Press("Command2");

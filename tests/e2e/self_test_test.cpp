@@ -18,7 +18,7 @@
 namespace qdix::e2e {
 namespace {
 
-/// Opens a dozen windows and pumps ten thousand times.
+/// The run opens a dozen windows and pumps ten thousand times.
 constexpr int kRunDeadlineMs = 240000;
 constexpr const char* kProgram = "QDIXTEST.exe";
 constexpr const char* kLog = "QDIXTEST.LOG";
@@ -29,7 +29,7 @@ std::string TemporaryFolder() {
   return {folder.data(), GetTempPathA(folder.size(), folder.data())};
 }
 
-/// Every file below a folder with its length and the time of its last change.
+/// Every file below a folder, with its length and the time of its last change.
 using FileStates = std::map<std::string, std::pair<DWORD, std::uint64_t>>;
 
 void AddStates(const std::string& folder, FileStates& states) {
@@ -41,7 +41,7 @@ void AddStates(const std::string& folder, FileStates& states) {
     const bool is_folder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
     if (name == "." || name == "..") continue;
     const FILETIME& time = found.ftLastWriteTime;
-    // The time of a folder changes with every file that came and went.
+    // The time of a folder changes with every file created or deleted in it.
     states[folder + name] =
         is_folder ? std::pair<DWORD, std::uint64_t>()
                   : std::pair(found.nFileSizeLow,
@@ -57,8 +57,8 @@ FileStates StatesBelow(const std::string& folder) {
   return states;
 }
 
-/// Wine itself makes this key, and puts nothing into it, when windows like those of the program open for the
-/// first time in a session. So it is there before, and everything else can be compared.
+/// Wine itself creates this key, empty, when windows like those of the program open for the first time in a
+/// session. Creating it in advance makes everything else comparable.
 void MakeKeyOfWine() {
   HKEY key = nullptr;
   ASSERT_EQ(
@@ -68,7 +68,7 @@ void MakeKeyOfWine() {
   RegCloseKey(key);
 }
 
-/// What came of each check, by its name: "ok", or what the log says else.
+/// Result of each check by its name: "ok", or the log's message.
 using Results = std::map<std::string, std::string>;
 
 Results ResultsIn(const std::string& log) {
@@ -94,7 +94,7 @@ class SelfTest : public testing::Test {
     CloseHandle(process_.hProcess);
   }
 
-  /// Runs the program until it says where its log is, and answers that.
+  /// Runs the program until it says where its log is, and returns that path.
   void Run(const char* photograph) {
     STARTUPINFOA start{};
     start.cb = sizeof start;
@@ -151,9 +151,9 @@ TEST_F(SelfTest, FindsEverythingInOrderAndLeavesNothingButItsLog) {
   EXPECT_NE(text.find("\r\nSystem               Windows 4.10"), std::string::npos) << text;
 }
 
-/// The file that one check would write is held by somebody else, and beside the program there is no room for
-/// a log, as on a CD.
-TEST_F(SelfTest, TellsWhatFailsInALogInTheFolderForTemporaryFiles) {
+/// Another program holds the file that one check would write, and there is no room for a log beside the
+/// program, as on a CD.
+TEST_F(SelfTest, LogsFailuresInTheTemporaryFolder) {
   const std::string own_folder = TemporaryFolder() + "QDIXTEST";
   const std::string held_path = own_folder + "\\READ.INI";
   const FileKeeper log(TemporaryFolder() + kLog);
@@ -168,7 +168,7 @@ TEST_F(SelfTest, TellsWhatFailsInALogInTheFolderForTemporaryFiles) {
 
   CloseHandle(held);
   DeleteFileA(held_path.c_str());
-  EXPECT_NE(RemoveDirectoryA(own_folder.c_str()), 0) << "something else was left in it";
+  EXPECT_NE(RemoveDirectoryA(own_folder.c_str()), 0) << "it still holds something else";
   EXPECT_NE(RemoveDirectoryA(ProgramPath(kLog).c_str()), 0);
   EXPECT_EQ(exit_code, 1U);
   Results failed;

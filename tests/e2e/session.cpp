@@ -6,7 +6,7 @@ namespace qdix::e2e {
 
 namespace {
 
-/// The registry is that of the prefix, which a user of the checkout may have used as well.
+/// The registry is that of the prefix, which a user of the checkout may also have used.
 class RegistryKeeper : public testing::Environment {
  public:
   void TearDown() override { before_.PutBack(); }
@@ -23,7 +23,7 @@ class RegistryKeeper : public testing::Environment {
 void Session::SetUp() {
   ProgramRegistry::Clear();
   ShippedProgram other;
-  ASSERT_FALSE(other.Attach()) << "a copy of the program is running already";
+  ASSERT_FALSE(other.Attach()) << "a copy of the program is already running";
 }
 
 void Session::TearDown() {
@@ -50,7 +50,7 @@ void Session::CloseCopy(const ShippedProgram& copy) {
 
 void Session::ExpectCleanEnd(const ShippedProgram& copy) {
   EXPECT_EQ(copy.WaitForExit(), 0);
-  EXPECT_FALSE(copy.HasIcon()) << "the icon is left behind";
+  EXPECT_FALSE(copy.HasIcon()) << "the icon was left behind";
 }
 
 }  // namespace qdix::e2e

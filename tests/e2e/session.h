@@ -1,5 +1,5 @@
-// A fresh machine for each test, as far as the program can tell, and one copy of the program on it. What the
-// registry held before all tests comes back after them.
+// Gives each test a fresh machine, as far as the program can tell, and one copy of the program. The previous
+// contents of the registry are restored after all tests.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -14,22 +14,22 @@ namespace qdix::e2e {
 class Session : public testing::Test {
  protected:
   void SetUp() override;
-  /// Kills what the test left running. A box that nobody expected, and what the screen showed when a test
-  /// failed, are not lost.
+  /// Kills what the test left running. Reports unexpected boxes, and photographs the screen of a failed test.
   void TearDown() override;
 
   /// Starts the program and waits until its window is shown and its figures are read.
   void StartProgram() { StartCopy(program); }
   static void StartCopy(ShippedProgram& copy);
 
-  /// Closes the program and sees it end by itself.
+  /// Closes the program and expects it to end by itself.
   void CloseProgram() { CloseCopy(program); }
   static void CloseCopy(const ShippedProgram& copy);
 
-  /// The program ends by itself within the deadline, with exit code 0, and its icon is gone in that moment.
+  /// Expects the program to end by itself within the deadline, with exit code 0 and its icon gone at that
+  /// moment.
   static void ExpectCleanEnd(const ShippedProgram& copy);
 
-  /// This machine has had the program before: no first run.
+  /// Marks the machine as one that has run the program before: no first run.
   static void MarkMachineAsKnown() { SetRegistryText(kMachineKey, "HasRun", "1"); }
 
   ShippedProgram program;

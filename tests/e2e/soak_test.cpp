@@ -1,5 +1,5 @@
 // The shipped exe after long use of its icon: thousands of tips, hundreds of menus, the window hidden and
-// shown in between. QDIX_TIPS and QDIX_MENUS make it longer.
+// shown in between. QDIX_TIPS and QDIX_MENUS set the numbers.
 #include "tests/e2e/driver/hand.h"
 #include "tests/e2e/held_resources.h"
 #include "tests/e2e/session.h"
@@ -12,7 +12,7 @@ using tests::NumberFromEnvironment;
 
 class SoakSession : public Session {
  protected:
-  /// What the taskbar reports when the pointer is on the icon.
+  /// Sends what the taskbar reports when the pointer is on the icon.
   void PlayPointerOnIcon() const { Ask(program.MainWindow(), WM_MOUSEMOVE, 1, WM_MOUSEMOVE); }
 
   void OpenAndCloseMenu() const {
@@ -44,7 +44,7 @@ class SoakSession : public Session {
 TEST_F(SoakSession, TipsAndMenusLeaveNothingBehind) {
   MarkMachineAsKnown();
   StartProgram();
-  // What is made at the first use stays.
+  // Objects created at the first use stay.
   UseIcon(50, 10);
   const HeldResources held(program);
   UseIcon(NumberFromEnvironment("QDIX_TIPS", 1000), NumberFromEnvironment("QDIX_MENUS", 20));

@@ -6,7 +6,7 @@
 namespace qdix::e2e {
 namespace {
 
-/// Available bytes that read as 100 and 50 MB.
+/// Available bytes that the program shows as 100 MB and as 50 MB.
 constexpr std::uint32_t kBytesOf100Mb = 102400000;
 constexpr std::uint32_t kBytesOf50Mb = 51200000;
 
@@ -17,7 +17,7 @@ class StartModeSession : public Session {
     MarkMachineAsKnown();
   }
 
-  /// The first reading comes from the message loop, when the start is over and the window shown or not.
+  /// The first reading comes from the message loop, after the start, when the window is or is not shown.
   static void StartInMode(ShippedProgram& copy, const std::string& mode) {
     SetRegistryText(kStartup, "StartDisplay", mode);
     StartAsStored(copy);
@@ -58,8 +58,8 @@ TEST_F(StartModeSession, TwoMinimisesTheWindowWithTheMemoryInItsCaption) {
   EXPECT_TRUE(IsShown(program));
   EXPECT_TRUE(IsMinimised(program));
   EXPECT_TRUE(program.HasIcon());
-  // What a taskbar writes on the button of the window. Wine's shows no button for a window that another
-  // one owns, see MainWindowAsksForAButtonInTheTaskbar.
+  // A taskbar writes this on the button of the window. Wine's shows no button for an owned window, see
+  // MainWindowAsksForAButtonInTheTaskbar.
   PlayedMemory memory(program.Process());
   ASSERT_TRUE(memory.Play(kBytesOf100Mb));
   ExpectCaption("100 MB   Q-DIX");
@@ -83,7 +83,7 @@ TEST_F(StartModeSession, ThreeShowsTheIconOnly) {
   CloseProgram();
 }
 
-TEST_F(StartModeSession, ShortcutThatRunsMinimisedMinimisesTheWindowThatWouldBeShown) {
+TEST_F(StartModeSession, MinimisedShortcutMinimisesTheWindowThatWouldBeShown) {
   SetRegistryText(kStartup, "StartDisplay", "1");
   ASSERT_TRUE(program.StartShown(SW_SHOWMINNOACTIVE));
   ASSERT_TRUE(program.WaitForFirstReading());
@@ -94,7 +94,7 @@ TEST_F(StartModeSession, ShortcutThatRunsMinimisedMinimisesTheWindowThatWouldBeS
   CloseProgram();
 }
 
-TEST_F(StartModeSession, ShortcutThatRunsMinimisedLeavesTheHiddenStartAndWhatIsShownLater) {
+TEST_F(StartModeSession, MinimisedShortcutAffectsNeitherAHiddenStartNorLaterShows) {
   SetRegistryText(kStartup, "StartDisplay", "3");
   ASSERT_TRUE(program.StartShown(SW_SHOWMINNOACTIVE));
   ASSERT_TRUE(program.WaitForFirstReading());
@@ -105,7 +105,7 @@ TEST_F(StartModeSession, ShortcutThatRunsMinimisedLeavesTheHiddenStartAndWhatIsS
   CloseProgram();
 }
 
-TEST_F(StartModeSession, ShortcutThatRunsACompanionMinimisedIsObeyed) {
+TEST_F(StartModeSession, MinimisedShortcutMinimisesACompanion) {
   for (const ProgramFacts& facts : {HelpViewer(), ConfigLauncher(), Undo()}) {
     ShippedProgram companion(facts);
     ASSERT_TRUE(companion.StartShown(SW_SHOWMINNOACTIVE));
@@ -143,7 +143,7 @@ TEST_F(StartModeSession, ChoosingHiddenChangesNothingBeforeTheNextStart) {
   program.OpenTab(3);
   program.Press("Option3");
   ASSERT_TRUE(program.Await([] { return RegistryText(kStartup, "StartDisplay") == "3"; }));
-  // A refresh of the caption that was chosen later shows that the choice is over.
+  // A caption refreshed after the choice shows that the choice has been handled.
   PlayedMemory memory(program.Process());
   ASSERT_TRUE(memory.Play(kBytesOf100Mb));
   ExpectCaption("100 MB   Q-DIX");
@@ -156,7 +156,7 @@ TEST_F(StartModeSession, ChoosingHiddenChangesNothingBeforeTheNextStart) {
   CloseCopy(next);
 }
 
-TEST_F(StartModeSession, PauseStopsTheFiguresAndResumeSetsThemGoing) {
+TEST_F(StartModeSession, PauseStopsTheFiguresAndResumeRestartsThem) {
   StartProgram();
   PlayedMemory memory(program.Process());
   ASSERT_TRUE(memory.Play(kBytesOf100Mb));

@@ -25,7 +25,7 @@ RegistryTexts SettingsOfAFirstStart(const Machine& machine) {
           {"Launcher Retry", "1"}};
 }
 
-/// Local time in days since the end of 1899.
+/// Returns the local time in days since the end of 1899.
 double DaysNow() {
   constexpr double kTicksPerDay = 864e9;
   constexpr double kDaysFrom1601 = 109205;
@@ -53,7 +53,7 @@ TEST_F(StartSession, FirstStartStoresExactlyItsDefaults) {
   CloseProgram();
 }
 
-TEST_F(StartSession, EndOfTheFirstRunStoresFourValuesMore) {
+TEST_F(StartSession, EndOfTheFirstRunStoresFourMoreValues) {
   StartProgram();
   CloseProgram();
   const Machine machine;
@@ -75,7 +75,7 @@ TEST_F(StartSession, LaterStartsAreNoFirstRuns) {
   CloseProgram();
 }
 
-TEST_F(StartSession, WindowsStandAsTheLookupOfASecondCopyExpects) {
+TEST_F(StartSession, WindowsAreOrderedAsTheLookupOfASecondCopyExpects) {
   StartProgram();
   const HWND hidden = program.ApplicationWindow();
   ASSERT_NE(hidden, nullptr);
@@ -89,9 +89,9 @@ TEST_F(StartSession, WindowsStandAsTheLookupOfASecondCopyExpects) {
 TEST_F(StartSession, MainWindowAsksForAButtonInTheTaskbar) {
   StartProgram();
   EXPECT_NE(GetWindowLongA(program.MainWindow(), GWL_EXSTYLE) & WS_EX_APPWINDOW, 0);
-  // Windows gives such a window its button although another one owns it. Wine's taskbar shows no owned
-  // window; the day it does, one button has to be there.
-  EXPECT_EQ(TaskbarButtonCount(), 0) << "a gap of Wine has closed: expect 1 from now on";
+  // Windows gives such a window its button although another window owns it. Wine's taskbar shows no owned
+  // windows. Once it does, there must be one button.
+  EXPECT_EQ(TaskbarButtonCount(), 0) << "Wine has closed this gap: expect 1 from now on";
   CloseProgram();
 }
 
@@ -120,7 +120,7 @@ TEST_F(StartSession, FiguresOfTheWindowAgreeWithTheMachine) {
   CloseProgram();
 }
 
-TEST_F(StartSession, IconStandsInTheNotificationAreaUntilTheProgramCloses) {
+TEST_F(StartSession, IconIsInTheNotificationAreaUntilTheProgramCloses) {
   StartProgram();
   EXPECT_TRUE(program.HasIcon());
   CloseProgram();
@@ -154,7 +154,7 @@ TEST_F(StartSession, SecondCopyEndsWhileAReleaseRuns) {
   ShippedProgram second;
   ASSERT_TRUE(second.Start());
   EXPECT_EQ(second.WaitForExit(), 0);
-  EXPECT_FALSE(program.IsEnabled("Command1")) << "the release goes on";
+  EXPECT_FALSE(program.IsEnabled("Command1")) << "the release is still running";
   CloseProgram();
 }
 

@@ -1,4 +1,4 @@
-// Starting with Windows and the shortcut on the desktop: the real Run key, the real folders of the shell.
+// Starting with Windows and the shortcut on the desktop: the real Run key, the real shell folders.
 #include "base/text.h"
 #include "os/win32/win32_shell.h"
 #include "os/win32/win32_shell_files.h"
@@ -36,7 +36,7 @@ class StartupSession : public Session {
   const FileKeeper on_desktop{FolderPath(os::kDesktopFolder) + "Quondix.lnk"};
 };
 
-TEST_F(StartupSession, TickWritesTheRunValueAndClearRemovesItAndBothShortcuts) {
+TEST_F(StartupSession, TickWritesTheRunValueAndClearingRemovesItAndBothShortcuts) {
   StartOnTab();
   EXPECT_FALSE(program.IsChecked("Check2"));
   program.Press("Check2");
@@ -58,7 +58,7 @@ TEST_F(StartupSession, ShortcutInTheStartUpFolderTicksTheBoxAndWritesTheEntry) {
   CloseProgram();
 }
 
-TEST_F(StartupSession, EntryOfAnotherPlaceIsRepaired) {
+TEST_F(StartupSession, EntryOfAnotherFolderIsRepaired) {
   SetRegistryText(kRunKey, kRunValue, "C:\\elsewhere\\QDIX.exe");
   StartOnTab();
   EXPECT_TRUE(program.IsChecked("Check2"));
@@ -66,7 +66,7 @@ TEST_F(StartupSession, EntryOfAnotherPlaceIsRepaired) {
   CloseProgram();
 }
 
-TEST_F(StartupSession, StaleShortcutGoesWithTheStart) {
+TEST_F(StartupSession, StartRemovesAStaleShortcut) {
   CreateDirectoryA(StartUpPath("").c_str(), nullptr);
   ASSERT_TRUE(stale.SetBytes("shortcut"));
   StartOnTab();
@@ -75,7 +75,7 @@ TEST_F(StartupSession, StaleShortcutGoesWithTheStart) {
   CloseProgram();
 }
 
-TEST_F(StartupSession, DesktopShortcutIsThereOnceAfterTwoPressesAndStartsTheProgram) {
+TEST_F(StartupSession, TwoPressesMakeOneDesktopShortcutThatStartsTheProgram) {
   StartOnTab();
   program.Press("Command5");
   EXPECT_TRUE(program.Await([this] { return DesktopLeadsToTheProgram(); }));
@@ -100,7 +100,7 @@ TEST_F(StartupSession, DesktopShortcutIsThereOnceAfterTwoPressesAndStartsTheProg
   CloseCopy(by_shortcut);
 }
 
-TEST_F(StartupSession, WindowLivesDuringTheWaitAndCanBeClosedInIt) {
+TEST_F(StartupSession, WindowRespondsDuringTheWaitAndCanBeClosed) {
   StartOnTab();
   program.Press("Command5");
   program.OpenTab(screens::kAboutTab);

@@ -1,4 +1,4 @@
-// The shipped exe holds no more after long use than before, and the counters that show it count.
+// The shipped exe holds no more after long use than before, and the counters that show this really count.
 #include <array>
 
 #include "tests/e2e/held_resources.h"
@@ -40,7 +40,8 @@ TEST_F(SteadySession, AHundredTabSwitchesAndFiveReleasesLeaveNothingBehind) {
     for (int i = 0; i < switches; ++i) program.OpenTab(i % 8);
     program.OpenTab(0);
     for (int i = 0; i < releases; ++i) {
-      // A click by message comes back when the release is over, unless that takes longer than an answer may.
+      // A click by message returns when the release is over, unless that takes longer than the limit for
+      // answers.
       Ask(program.Control("Command1"), BM_CLICK);
       ASSERT_TRUE(program.Await([&] { return program.IsEnabled("Command1"); }));
     }

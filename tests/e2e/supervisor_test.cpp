@@ -15,7 +15,7 @@ constexpr int kLongerThanTheLimitMs = 3600000;
 /// What a planted test leaves behind.
 constexpr const char* kLeftValue = "LeftBehind";
 
-// Only run by the second copy.
+// Only the second copy runs them.
 TEST(DISABLED_Planted, A_Hangs) {
   ShippedProgram left{Undo()};
   ASSERT_TRUE(left.Start());
@@ -31,7 +31,7 @@ std::string OwnPath() {
   return path.data();
 }
 
-/// Runs the planted tests under a supervisor; what they print goes to the file.
+/// Runs the planted tests under a supervisor; their output goes to the file.
 int RunPlantedTests(const std::string& output_path) {
   SetEnvironmentVariableA(kTestLimitVariable, kLimitMs);
   // The second copy is supervised, as the first was.
@@ -73,14 +73,14 @@ TEST_F(SupervisorSession, HungAndDeadTestsFailAloneAndLeaveNothing) {
   EXPECT_EQ(RunPlantedTests(progress_of_second.Path()), 1);
   const std::string output = progress_of_second.Bytes().value_or("");
   EXPECT_NE(output.find("DISABLED_Planted.A_Hangs hangs"), std::string::npos) << output;
-  EXPECT_NE(output.find("undo.exe"), std::string::npos) << "the list of processes is missing: " << output;
+  EXPECT_NE(output.find("undo.exe"), std::string::npos) << "the process list is missing: " << output;
   EXPECT_NE(output.find("DISABLED_Planted.B_EndsTheTestProgram has ended the test program"),
             std::string::npos)
       << output;
   EXPECT_NE(output.find("[       OK ] DISABLED_Planted.C_RunsBehindThem"), std::string::npos) << output;
   EXPECT_EQ(output.find("[       OK ] DISABLED_Planted.A_Hangs"), std::string::npos);
   ShippedProgram left{Undo()};
-  EXPECT_FALSE(left.Attach()) << "what the hung test started is still running";
+  EXPECT_FALSE(left.Attach()) << "the program that the hung test started is still running";
   EXPECT_EQ(RegistryText(kUserKey, kLeftValue), std::nullopt);
 }
 

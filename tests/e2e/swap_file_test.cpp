@@ -1,5 +1,5 @@
 // The "Optimize Swapfile" tab of the shipped exe: what it shows of the machine, what a save asks and writes,
-// what it refuses, and the way to the disk defragmenter.
+// what it refuses, and the start of the disk defragmenter.
 #include <algorithm>
 #include <cmath>
 
@@ -25,14 +25,14 @@ constexpr const char* kDefragQuestion =
 
 constexpr std::uint64_t kMegabyte = 1024000;
 
-/// A setup of this program's: both sizes are 128 MB.
+/// A setup made by this program: both sizes are 128 MB.
 constexpr const char* kOwnSetup =
     "[386Enh]\r\ndevice=*vpowerd\r\nPagingDrive=C:\r\nMinPagingFileSize=131072\r\nMaxPagingFileSize="
     "131072\r\n";
 constexpr const char* kOtherSetup =
     "[386Enh]\r\nPagingDrive=C:\r\nMinPagingFileSize=100000\r\nMaxPagingFileSize=100000\r\n";
 
-/// Free megabytes of 1,024,000 bytes on a drive, right now.
+/// Returns the free megabytes of 1,024,000 bytes on a drive, right now.
 double FreeMb(const char* root) {
   ULARGE_INTEGER available = {};
   ULARGE_INTEGER total = {};
@@ -41,8 +41,8 @@ double FreeMb(const char* root) {
   return static_cast<double>(free.QuadPart) / 1000000 / 1.024;
 }
 
-/// The system's editor under the name of the defragmenter, which Wine does not have. What it is started with
-/// it takes for a file, and it names it when there is none.
+/// The system's editor under the name of the defragmenter, which Wine does not have. The editor takes its
+/// argument for a file name and shows that name if there is no such file.
 class StandInDefragmenter {
  public:
   StandInDefragmenter() { SetWindowsFile(kFile, WindowsFile("notepad.exe")); }
@@ -58,7 +58,7 @@ class StandInDefragmenter {
     SetWindowsFile(kFile, std::nullopt);
   }
 
-  /// What it says about the file; empty where it does not run or says nothing.
+  /// Returns what it says about the file; empty if it does not run or says nothing.
   [[nodiscard]] std::string Says() const {
     const std::vector<MessageBox> boxes =
         ProcessId() == 0 ? std::vector<MessageBox>() : MessageBoxesOf(ProcessId());
@@ -94,7 +94,8 @@ class SwapFileSession : public TuningSession {
       EXPECT_TRUE(Becomes([&] { return program.IsEnabled(name) == enabled; })) << name;
     }
   }
-  /// The text, and where the bar stands: it counts upward, so its upper end is the greatest size.
+  /// Expects this text, and this value of the bar. The bar counts upward, so its upper end is the largest
+  /// size.
   void ExpectSize(const std::string& text, int bar_mb) const {
     EXPECT_TRUE(Becomes([&] { return program.Text("Text8") == text; })) << program.Text("Text8");
     EXPECT_TRUE(Becomes([&] { return BarMb() == bar_mb; })) << BarMb();
@@ -109,7 +110,7 @@ class SwapFileSession : public TuningSession {
     ExpectOption("optSwap2");
     ExpectSizeControlsEnabled(true);
   }
-  /// Types a size over what stands in the box.
+  /// Replaces the size in the box.
   void TypeSize(const std::string& text) const {
     GoTo('Z', "Text8");
     PressKey(VK_END);
@@ -122,7 +123,7 @@ class SwapFileSession : public TuningSession {
   void PlayFreeMb(PlayedDisk& disk, int free_mb) const {
     ASSERT_TRUE(disk.Play(static_cast<std::uint64_t>(free_mb) * kMegabyte));
   }
-  /// The error that nothing traps is shown, and then the program ends.
+  /// Expects the message of the untrapped error, and then the end of the program.
   void ExpectErrorAndEnd(const std::string& error) const {
     Answer(error, IDOK);
     ExpectCleanEnd(program);
@@ -142,8 +143,8 @@ TEST_F(SwapFileSession, FreshMachineIsManagedByWindows) {
   CloseProgram();
 }
 
-TEST_F(SwapFileSession, DrivesStandInTheListWithTheirFreeSpace) {
-  // Other programs write to the same disk while this one looks at it.
+TEST_F(SwapFileSession, DrivesAreListedWithTheirFreeSpace) {
+  // Other programs write to the same disk during the test.
   constexpr double kSlackMb = 512;
   const double c_before = FreeMb("C:\\");
   const double z_before = FreeMb("Z:\\");
@@ -175,7 +176,7 @@ TEST_F(SwapFileSession, EqualSizesAreOptimised) {
   CloseProgram();
 }
 
-TEST_F(SwapFileSession, SizesOfOddKilobytesAreAnotherSetup) {
+TEST_F(SwapFileSession, SizesOfOddKilobytesAreAForeignSetup) {
   StartWith(kOtherSetup);
   ExpectOption("optSwap3");
   ExpectSizeControlsEnabled(false);
@@ -191,7 +192,7 @@ TEST_F(SwapFileSession, StoredDriveIsSelected) {
   CloseProgram();
 }
 
-TEST_F(SwapFileSession, PagingSwitchedOffIsAnotherSetupThatIsLeftAlone) {
+TEST_F(SwapFileSession, PagingSwitchedOffIsAForeignSetupAndLeftAlone) {
   StartWith("[386Enh]\r\nPaging=off\r\n");
   ExpectOption("optSwap3");
   ExpectSizeControlsEnabled(false);
@@ -281,7 +282,7 @@ TEST_F(SwapFileSession, SizeThatLeavesLessThanTwentyMegabytesIsRefused) {
   CloseProgram();
 }
 
-TEST_F(SwapFileSession, YesToTheRestartAsksForOneAndEndsTheProgram) {
+TEST_F(SwapFileSession, YesToTheRestartRequestsOneAndEndsTheProgram) {
   StartOnSwapFileTab();
   PlayedDisk disk(program.Process());
   PlayFreeMb(disk, machine.WholeMb() + 20);
@@ -322,7 +323,7 @@ TEST_F(SwapFileSession, WindowsDefaultIsNotWrittenWithoutAYes) {
   CloseProgram();
 }
 
-TEST_F(SwapFileSession, YesToTheRestartAfterTheWindowsDefaultAsksForOne) {
+TEST_F(SwapFileSession, YesToTheRestartAfterTheWindowsDefaultRequestsOne) {
   StartWith(kOwnSetup);
   GoTo('W', "optSwap1");
   PressSave();
@@ -342,7 +343,7 @@ TEST_F(SwapFileSession, ArrowsOfTheBarChangeTheSizeByFive) {
   CloseProgram();
 }
 
-TEST_F(SwapFileSession, ArrowsOfTheBarLookAsTheyAre) {
+TEST_F(SwapFileSession, ArrowsOfTheBarLookEnabledOnlyWhenTheyAre) {
   StartWith(kOwnSetup);
   const auto look_enabled = [this] { return ArrowsLookEnabled(program.Control("VScroll4")); };
   EXPECT_TRUE(Becomes(look_enabled));
@@ -359,7 +360,7 @@ TEST_F(SwapFileSession, ArrowsOfTheBarLookDisabledFromTheStart) {
   CloseProgram();
 }
 
-TEST_F(SwapFileSession, LettersAreSwallowedAndLeavingTheBoxMovesTheBar) {
+TEST_F(SwapFileSession, LettersAreIgnoredAndLeavingTheBoxMovesTheBar) {
   StartWith(kOwnSetup);
   GoTo('Z', "Text8");
   PressKey(VK_END);
@@ -456,7 +457,7 @@ TEST_F(SwapFileSession, MissingDefragmenterIsAnErrorThatEndsTheProgram) {
   ExpectErrorAndEnd("Run-time error '53':\r\n\r\nFile not found");
 }
 
-TEST_F(SwapFileSession, DefragmenterTakesTheProgramsPlaceOnTheSelectedDrive) {
+TEST_F(SwapFileSession, DefragmenterReplacesTheProgramOnTheSelectedDrive) {
   const StandInDefragmenter defragmenter;
   StartWith(kOwnSetup);
   GoTo('H', "Combo3");

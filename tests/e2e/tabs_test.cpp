@@ -1,4 +1,5 @@
-// The tabs of the shipped exe: each is opened and photographed; the tip of the first run; sizes and places.
+// The tabs of the shipped exe: each is opened and photographed; the tip of the first run; sizes and
+// positions.
 #include <algorithm>
 #include <array>
 
@@ -60,7 +61,7 @@ TEST_F(FirstRunTabSession, TipIsShownOnceOnTheFirstRun) {
             "constantly updated.  On machines running 64 MB or less it is very common to almost run out of "
             "RAM after just starting Windows.\r\n\r\nTo activate the automatic feature simply ensure the "
             "'Auto Detection Active' checkbox is checked.");
-  EXPECT_FALSE(IsWindowEnabled(program.MainWindow())) << "the box holds the window up";
+  EXPECT_FALSE(IsWindowEnabled(program.MainWindow())) << "the box blocks the window";
   EXPECT_TRUE(PressButton(tip, IDOK));
   for (const int tab : {0, 1, 0, 1}) program.OpenTab(tab);
   EXPECT_TRUE(program.MessageBoxes().empty());
@@ -92,7 +93,7 @@ TEST_F(TabSession, EveryControlOfTheScreensHasItsWindowWithinItsPage) {
   CloseProgram();
 }
 
-TEST_F(TabSession, WindowsOfATabAreMadeWhenItIsFirstOpened) {
+TEST_F(TabSession, WindowsOfATabAreCreatedWhenItIsFirstOpened) {
   SetRegistryText(kSettings, "LastTab", "7");
   StartProgram();
   const auto count_on = [this](int tab) {
@@ -101,10 +102,10 @@ TEST_F(TabSession, WindowsOfATabAreMadeWhenItIsFirstOpened) {
         std::count_if(all.begin(), all.end(), [tab](const ControlAddress& at) { return at.tab == tab; }));
   };
   EXPECT_EQ(program.WindowsOnTab(-1), count_on(-1));
-  EXPECT_EQ(program.WindowsOnTab(0), count_on(0)) << "the graph on it is drawn whether it is seen or not";
-  EXPECT_EQ(program.WindowsOnTab(7), count_on(7)) << "the tab of the last run";
+  EXPECT_EQ(program.WindowsOnTab(0), count_on(0)) << "its graph is drawn whether it is visible or not";
+  EXPECT_EQ(program.WindowsOnTab(7), count_on(7)) << "this tab was open at the end of the last run";
   for (int tab = 1; tab < 7; ++tab) {
-    EXPECT_EQ(program.WindowsOnTab(tab), 1) << "only the page itself of " << tab;
+    EXPECT_EQ(program.WindowsOnTab(tab), 1) << "only the page itself exists for tab " << tab;
     program.OpenTab(tab);
     EXPECT_GT(program.WindowsOnTab(tab), 1) << tab;
     EXPECT_EQ(program.WindowsOnTab(tab), count_on(tab)) << tab;

@@ -8,7 +8,7 @@
 namespace qdix::e2e {
 namespace {
 
-/// Available bytes that read as 75.1 and 50 MB.
+/// Available bytes that the program shows as 75.1 MB and as 50 MB.
 constexpr std::uint32_t kBytesOf75Point1Mb = 76902400;
 constexpr std::uint32_t kBytesOf50Mb = 51200000;
 
@@ -44,7 +44,7 @@ class TraySession : public Session {
     PressKey(VK_ESCAPE);
     EXPECT_TRUE(program.Await([this] { return program.OpenMenus().empty(); }));
   }
-  /// Goes down the open menu with the arrow key, which passes over separators, and presses Enter.
+  /// Moves down the open menu with the arrow key, which skips separators, and presses Enter.
   static void ChooseByKeyboard(const std::string& entry) {
     for (const std::string& passed : kMenuEntries) {
       if (passed != kSeparator) PressKey(VK_DOWN);
@@ -52,7 +52,7 @@ class TraySession : public Session {
     }
     PressKey(VK_RETURN);
   }
-  /// Clicks that far below the upper edge of the open menu.
+  /// Clicks `down_px` below the upper edge of the open menu.
   void ChooseByPointer(int down_px) const {
     const HWND menu = program.OpenMenus().front();
     RECT rect = {};
@@ -74,7 +74,7 @@ class TraySession : public Session {
     EXPECT_TRUE(program.Await([&] { return IconTip() == text; })) << "the open tip: " << IconTip();
   }
 
-  /// Into an entry from the edge of the menu that it stands at.
+  /// Distance from the edge of the menu to a point inside its entry.
   static constexpr int kIntoEntryPx = 10;
 };
 
@@ -103,7 +103,7 @@ TEST_F(TraySession, PointerOnTheIconRefreshesTheTipWithTheFigureOfTheCaption) {
 TEST_F(TraySession, SingleLeftClickDoesNothing) {
   StartAndHide();
   ASSERT_TRUE(PressIcon(Press::kLeft));
-  // What the icon reports is worked on in order: once the menu is open, the click is over.
+  // The icon's messages are handled in order: once the menu is open, the click has been handled.
   OpenMenu();
   EXPECT_FALSE(IsShown());
   CloseMenu();
@@ -139,14 +139,14 @@ TEST_F(TraySession, RightClickOpensTheMenuWithItsEntriesInOrder) {
 TEST_F(TraySession, OnlyOneMenuOpensAtATime) {
   StartProgram();
   OpenMenu();
-  // Wine gives the pointer to the open menu wherever it is, so the icon's second report is played.
+  // Wine gives the open menu the pointer wherever it is, so the icon's second message is sent from here.
   Ask(program.MainWindow(), WM_MOUSEMOVE, 1, WM_RBUTTONDOWN);
   EXPECT_EQ(program.OpenMenus().size(), 1U);
   CloseMenu();
   CloseProgram();
 }
 
-TEST_F(TraySession, EscapeClosesTheMenuAndTheProgramGoesOn) {
+TEST_F(TraySession, EscapeClosesTheMenuAndTheProgramKeepsRunning) {
   StartProgram();
   OpenMenu();
   CloseMenu();
@@ -232,9 +232,9 @@ TEST_F(TraySession, ProgramClosesWhileTheMenuIsOpen) {
   CloseProgram();
 }
 
-/// Wine's taskbar and desktop are one process: ending it takes every window from the screen, and another one
-/// does not take its place. So the icon is taken away from outside, and what a new taskbar tells all programs
-/// is told here.
+/// Wine's taskbar and desktop are one process: ending it takes every window off the screen, and no other
+/// process replaces it. So the test removes the icon from outside and sends the message that a new taskbar
+/// broadcasts.
 TEST_F(TraySession, IconComesBackWithANewTaskbar) {
   StartProgram();
   ASSERT_TRUE(program.TakeIcon());

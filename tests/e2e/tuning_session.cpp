@@ -28,11 +28,11 @@ void TuningSession::SetUp() {
 void TuningSession::TearDown() {
   Session::TearDown();
   const std::uint32_t count = restarts_.has_value() ? restarts_->Count() : 0;
-  EXPECT_EQ(count, expected_restarts_) << "restarts asked for";
+  EXPECT_EQ(count, expected_restarts_) << "requested restarts";
 }
 
 void TuningSession::StartOnTab(int tab) {
-  ASSERT_FALSE(restarts_.has_value() && restarts_->Count() != 0) << "a restart was asked for before";
+  ASSERT_FALSE(restarts_.has_value() && restarts_->Count() != 0) << "a restart was already requested";
   SetRegistryText(kSettings, "LastTab", std::to_string(tab));
   StartProgram();
   ASSERT_EQ(program.OpenedTab(), tab);
@@ -48,7 +48,7 @@ std::string TuningSession::Shown(const std::string& name) const {
 }
 
 void TuningSession::ExpectBox(const std::string& text) const {
-  // A box that a key has just answered may still be there for a moment.
+  // A box that a key has just answered may still exist for a moment.
   const bool is_shown = program.Await([&] {
     const std::vector<MessageBox> boxes = program.MessageBoxes();
     return boxes.size() == 1 && boxes.front().text == text;
@@ -74,7 +74,7 @@ int TuningSession::ButtonWithKeyboard() const {
 
 void TuningSession::ExpectKeyboardOn(const std::string& name) const {
   EXPECT_TRUE(Becomes([&] { return program.FocusedControl() == name; }))
-      << name << " expected, " << program.FocusedControl() << " has it";
+      << name << " expected, " << program.FocusedControl() << " has the keyboard";
 }
 
 void TuningSession::GoTo(char access_key, const std::string& name) const {

@@ -1,5 +1,6 @@
-// A machine whose system.ini and registry the tuning tabs may change: a small system.ini and the templates of
-// a Windows 98 machine for each test, the real ones back after it, and restarts seen instead of done.
+// A machine whose system.ini and registry the tuning tabs may change. Each test gets a small system.ini and
+// the templates of a Windows 98 machine; the real ones are restored afterwards. Restarts are detected, not
+// performed.
 #pragma once
 
 #include <functional>
@@ -23,40 +24,40 @@ inline constexpr const char* kRestartQuestion =
 class TuningSession : public Session {
  protected:
   void SetUp() override;
-  /// A restart that the test has not expected fails it.
+  /// Fails the test if it requested a restart without expecting one.
   void TearDown() override;
 
-  /// Starts the program with this tab open and the window in front, every restart of the machine watched.
-  /// Also once more, after CloseProgram().
+  /// Starts the program with this tab open and the window in front, and watches for restarts of the machine.
+  /// May be called again after CloseProgram().
   void StartOnTab(int tab);
 
   /// Makes system.ini hold these bytes before the program starts.
   static void SetSystemIni(const std::string& bytes) { SetWindowsFile(kSystemIni, bytes); }
   [[nodiscard]] static std::string SystemIni() { return WindowsFile(kSystemIni).value_or("(no file)"); }
 
-  /// What a user reads on a control: no marks of access keys.
+  /// Returns what a user reads on a control, without the marks of access keys.
   [[nodiscard]] std::string Shown(const std::string& name) const;
 
-  /// Waits until a control, a file, the registry show what a hand has just done.
+  /// Waits until a control, a file or the registry shows the effect of a user's action.
   [[nodiscard]] bool Becomes(const std::function<bool()>& condition) const {
     return program.Await(condition);
   }
 
-  /// Waits for a box, sees what it says, and leaves it open.
+  /// Waits for a box, checks its text, and leaves it open.
   void ExpectBox(const std::string& text) const;
-  /// The same, and presses one of its buttons.
+  /// Does the same and presses one of its buttons.
   void Answer(const std::string& text, int button) const;
-  /// The number of the button that Enter would press in the open box.
+  /// Returns the number of the button that Enter would press in the open box.
   [[nodiscard]] int ButtonWithKeyboard() const;
 
   void ExpectKeyboardOn(const std::string& name) const;
-  /// Presses an access key and sees the keyboard arrive at a control.
+  /// Presses an access key and expects a control to get the keyboard.
   void GoTo(char access_key, const std::string& name) const;
 
   /// Takes the picture with the pointer on the caption, where no tool tip covers anything.
   void PhotographTab(const std::string& name) const;
 
-  /// The program asked for exactly one restart of the machine and ends, its icon gone.
+  /// Expects the program to have requested exactly one restart of the machine and to end with its icon gone.
   void ExpectRestartAndEnd();
 
  private:

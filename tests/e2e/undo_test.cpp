@@ -1,5 +1,5 @@
-// The shipped undo.exe on the real registry and the real system.ini of the prefix, which get back after each
-// test what they held.
+// The shipped undo.exe on the real registry and the real system.ini of the prefix. Both are restored after
+// each test.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -22,13 +22,13 @@ constexpr const char* kIniAfter =
     "[boot]\r\nshell=Explorer.exe\r\nsound=new.drv\r\n\r\n"
     "[386Enh]\r\nPagingDrive=C:\r\nMinPagingFileSize=65536\r\nMaxPagingFileSize=65536\r\nPaging=on\r\n\r\n"
     "[vcache]\r\nMinFileCache=4096\r\nmaxfilecache=8192\r\nchunksize=512\r\n";
-/// What system.ini is called after it was replaced for the first time.
+/// Name of the original system.ini after its first replacement.
 constexpr const char* kKeptFile = "SYSTEM.Q01";
 constexpr std::array<const char*, 8> kBoxes{"chkMinFileCache",      "chkMaxFileCache", "chkChunkSize",
                                             "chkTemplate",          "chkPagingDrive",  "chkMinPagingFileSize",
                                             "chkMaxPagingFileSize", "chkPaging"};
 
-/// A file that everybody may read and nobody may change.
+/// A file that everybody can read and nobody can change.
 class HeldFile {
  public:
   explicit HeldFile(const std::string& path)
@@ -60,7 +60,7 @@ class UndoSession : public testing::Test {
     }
   }
 
-  /// What Q-DIX leaves behind of kIniBefore when it changes the system for the first time.
+  /// Leaves what Q-DIX records of kIniBefore when it first changes the system.
   static void TakeRecord() {
     SetWindowsFile(kSystemBackup, kIniBefore);
     const RegistryTexts record{{"FirstSave", "1"}, {"OldMinCache", "2048"},     {"OldMaxCache", "0"},
@@ -76,7 +76,7 @@ class UndoSession : public testing::Test {
     TakeRecord();
     Start();
   }
-  /// The box that the program shows now; one that does not come fails the test.
+  /// Returns the box that the program shows now. The test fails if none appears.
   [[nodiscard]] MessageBox AwaitBox() {
     EXPECT_TRUE(program.Await([this] { return program.MessageBoxes().size() == 1; }));
     const std::vector<MessageBox> boxes = program.MessageBoxes();
@@ -92,7 +92,7 @@ class UndoSession : public testing::Test {
   ShippedProgram program{Undo()};
 };
 
-TEST_F(UndoSession, NothingRecordedIsSaid) {
+TEST_F(UndoSession, MissingRecordIsReported) {
   Start();
   EXPECT_EQ(program.Caption(), "Q-DIX Undo");
   EXPECT_TRUE(program.Text("lblState").starts_with("Nothing is recorded.")) << program.Text("lblState");
@@ -105,7 +105,7 @@ TEST_F(UndoSession, NothingRecordedIsSaid) {
   EXPECT_EQ(WindowsFile(kSystemIni), kIniAfter);
 }
 
-TEST_F(UndoSession, RecordIsShownBesideWhatStandsNow) {
+TEST_F(UndoSession, RecordIsShownBesideTheCurrentValues) {
   StartWithRecord();
   EXPECT_EQ(program.Text("lblMinFileCacheBefore"), "2048");
   EXPECT_EQ(program.Text("lblMinFileCacheNow"), "4096");
@@ -135,7 +135,7 @@ TEST_F(UndoSession, PutBackAsksWritesShowsAndOffersTheRestart) {
   const MessageBox question = AwaitBox();
   EXPECT_EQ(question.title, "Q-DIX Undo");
   EXPECT_TRUE(question.text.starts_with("Q-DIX Undo will make these changes:")) << question.text;
-  EXPECT_EQ(WindowsFile(kSystemIni), kIniAfter) << "written before the answer";
+  EXPECT_EQ(WindowsFile(kSystemIni), kIniAfter) << "the file was written before the answer";
   EXPECT_TRUE(Photograph("undo_question"));
   ASSERT_TRUE(PressButton(question, IDYES));
   const MessageBox offer = AwaitBox();
@@ -148,7 +148,7 @@ TEST_F(UndoSession, PutBackAsksWritesShowsAndOffersTheRestart) {
   EXPECT_EQ(SystemIniText("386Enh", "MinPagingFileSize"), "0");
   EXPECT_EQ(SystemIniText("386Enh", "MaxPagingFileSize"), std::nullopt);
   EXPECT_EQ(SystemIniText("386Enh", "Paging"), std::nullopt);
-  EXPECT_EQ(SystemIniText("boot", "sound"), "new.drv") << "not one of its entries";
+  EXPECT_EQ(SystemIniText("boot", "sound"), "new.drv") << "the entry belongs to another program";
   EXPECT_EQ(RegistryText(kTemplates, ""), "Desktop");
   EXPECT_EQ(program.Text("lblMinFileCacheNow"), "2048");
   for (const char* const box : kBoxes) EXPECT_FALSE(program.IsEnabled(box)) << box;
@@ -184,7 +184,7 @@ TEST_F(UndoSession, OnlyTickedEntriesAreWritten) {
   Close();
 }
 
-TEST_F(UndoSession, WholeFileComesBackByteForByteAndTheRestartIsAskedForOnce) {
+TEST_F(UndoSession, WholeFileIsRestoredByteForByteAndOneRestartIsRequested) {
   StartWithRecord();
   const std::string odd_bytes("; \xFF\x01 odd\n\n[boot]\n[386Enh]\nPagingDrive=E:\n");
   SetWindowsFile(kSystemBackup, odd_bytes);
@@ -237,7 +237,7 @@ TEST_F(UndoSession, FileThatCannotBeWrittenIsNamed) {
   Close();
 }
 
-TEST_F(UndoSession, DamagedBackupIsSaidAndNothingIsTakenFromIt) {
+TEST_F(UndoSession, DamagedBackupIsReportedAndNotUsed) {
   TakeRecord();
   SetWindowsFile(kSystemBackup, "[boot]\r\nshell=Explorer.exe\r\n[386Enh]\r\nPagingDr");
   Start();
@@ -271,7 +271,7 @@ TEST_F(UndoSession, WholeFileCanBeRestoredWithoutARecord) {
   Close();
 }
 
-TEST_F(UndoSession, SystemIniWithoutBootIsWarnedOf) {
+TEST_F(UndoSession, SystemIniWithoutBootCausesAWarning) {
   TakeRecord();
   SetWindowsFile(kSystemIni, "[386Enh]\r\nPagingDrive=C:\r\n");
   Start();
@@ -283,7 +283,7 @@ TEST_F(UndoSession, SystemIniWithoutBootIsWarnedOf) {
   Close();
 }
 
-TEST_F(UndoSession, WindowClosedUnderAQuestionEndsTheProgram) {
+TEST_F(UndoSession, ClosingTheWindowDuringAQuestionEndsTheProgram) {
   StartWithRecord();
   program.Press("cmdPutBack");
   static_cast<void>(AwaitBox());
@@ -310,7 +310,7 @@ TEST_F(UndoSession, KeyboardReachesEverything) {
   PressKey(VK_RETURN);
   const MessageBox question = AwaitBox();
   PressKey(VK_RETURN);
-  EXPECT_TRUE(program.Await([&] { return IsWindow(question.window) == 0; })) << "No is the default";
+  EXPECT_TRUE(program.Await([&] { return IsWindow(question.window) == 0; })) << "the default answer is No";
   EXPECT_EQ(WindowsFile(kSystemIni), kIniAfter);
   PressKey(VK_ESCAPE);
   ExpectEnd();
@@ -322,7 +322,7 @@ TEST_F(UndoSession, FramesAreAsGreyAsTheWindow) {
   const COLORREF face = GetSysColor(COLOR_3DFACE);
   for (const char* const name : {"FrameCache", "FrameTemplate", "FrameSwapFile"}) {
     const RECT frame = program.ScreenRect(name);
-    // The window is there before its inside is painted.
+    // The window exists before its inside is painted.
     EXPECT_TRUE(program.Await([&] {
       return ScreenColour({frame.left + 5, frame.bottom - 6}) == face;
     })) << name;
@@ -330,7 +330,7 @@ TEST_F(UndoSession, FramesAreAsGreyAsTheWindow) {
   Close();
 }
 
-TEST_F(UndoSession, EveryControlStandsInTheWindowAndTheWindowOn640By480) {
+TEST_F(UndoSession, EveryControlFitsTheWindowAndTheWindowFits640By480) {
   Start();
   ExpectFitsOn640By480(program);
   ASSERT_GT(program.Controls().size(), 30U);

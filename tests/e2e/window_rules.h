@@ -1,4 +1,4 @@
-// What the window of every shipped program keeps to on the screen.
+// Rules for the window of every shipped program.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@
 
 namespace qdix::e2e {
 
-/// The whole window can be seen on 640 by 480 pixels, above the taskbar.
+/// Expects the whole window to be visible on 640 by 480 pixels, above the taskbar.
 inline void ExpectFitsOn640By480(const ShippedProgram& program) {
   constexpr int kTaskbarLines = 28;
   RECT window = {};
@@ -16,7 +16,7 @@ inline void ExpectFitsOn640By480(const ShippedProgram& program) {
   EXPECT_LE(window.bottom - window.top, 480 - kTaskbarLines);
 }
 
-/// Every control of the screens has its window inside the main one.
+/// Expects every control of the screens to have its window inside the main window.
 inline void ExpectControlsInsideTheWindow(const ShippedProgram& program) {
   RECT window = {};
   GetWindowRect(program.MainWindow(), &window);

@@ -36,8 +36,8 @@ void RemoveCpuStatistics() {
 }
 
 int HostLoad::Percent() {
-  // The first line: "cpu", then the time spent for programs, for programs of low priority, in the system,
-  // idle and so on.
+  // The first line: "cpu", then the time spent in programs, in programs of low priority, in the system, idle
+  // and so on.
   const HANDLE file = CreateFileA("Z:\\proc\\stat", GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                                   OPEN_EXISTING, 0, nullptr);
   std::string text(kFirstLineRoom, ' ');

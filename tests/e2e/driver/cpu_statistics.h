@@ -1,17 +1,18 @@
-// The performance statistics of Windows 95, 98 and ME, which Wine knows but does not keep: played from here.
+// The performance statistics of Windows 95, 98 and ME, supplied from here: Wine knows them but does not keep
+// them.
 #pragma once
 
 namespace qdix::e2e {
 
-/// From now on every program reads this load, in percent.
+/// Sets the load, in percent, that every program reads from now on.
 void SetCpuLoad(int percent);
-/// Takes the statistics away, as on a system that keeps none.
+/// Removes the statistics, as on a system that keeps none.
 void RemoveCpuStatistics();
 
 /// The load of the machine that Wine runs on.
 class HostLoad {
  public:
-  /// Busy share of the processor time since the last question, 0 to 100; 0 at the first.
+  /// Returns the busy share of the processor time since the previous call, 0 to 100; 0 at the first call.
   [[nodiscard]] int Percent();
 
  private:

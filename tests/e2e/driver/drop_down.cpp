@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char* kOpenListClass = "ComboLBox";
 
-/// The rows that hang below an open list; null while none is open.
+/// Returns the window with the rows of the open list, or null if none is open.
 HWND OpenRows(HWND list) {
   DWORD process_id = 0;
   GetWindowThreadProcessId(list, &process_id);

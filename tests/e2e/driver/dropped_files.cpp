@@ -8,7 +8,7 @@
 
 namespace qdix::e2e {
 
-/// The list has to lie in the memory of the program, which frees it.
+/// The list must be in the memory of the program, which frees it.
 bool DropFiles(const ShippedProgram& program, const std::vector<std::string>& paths) {
   DROPFILES heading{};
   heading.pFiles = sizeof heading;

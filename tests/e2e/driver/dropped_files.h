@@ -1,4 +1,4 @@
-// Files let go over a program's window, as the Explorer reports them to it.
+// Drops files on a program's window, with the message that the Explorer sends.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace qdix::e2e {
 
-/// False where the list of files does not get into the program.
+/// Returns false if the list of files cannot be put into the program.
 [[nodiscard]] bool DropFiles(const ShippedProgram& program, const std::vector<std::string>& paths);
 
 }  // namespace qdix::e2e

@@ -1,5 +1,5 @@
-// Files are read and written by the system's own calls: the file streams of the library disturb the output of
-// the test program under Wine.
+// Files are read and written by system calls: under Wine the library's file streams disturb the output of the
+// test program.
 #include "tests/e2e/driver/file_keeper.h"
 
 namespace qdix::e2e {

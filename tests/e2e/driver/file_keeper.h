@@ -1,4 +1,4 @@
-// A file of a test: gets back what it held before.
+// A file that a test uses; its previous contents are restored afterwards.
 #pragma once
 
 // clang-format off
@@ -10,9 +10,9 @@
 
 namespace qdix::e2e {
 
-/// The bytes of a file, read by the system's own calls; nothing where there is no such file.
+/// Returns the bytes of a file, read by system calls, or nothing if there is no such file.
 [[nodiscard]] std::optional<std::string> FileBytes(const std::string& path);
-/// Makes the file hold these bytes, or removes it; false where that failed.
+/// Writes these bytes to the file, or removes it; returns false on failure.
 bool SetFileBytes(const std::string& path, const std::optional<std::string>& bytes);
 
 class FileKeeper {

@@ -22,7 +22,7 @@ POINT OnScreen(HWND window, POINT inside) {
   return {rect.left + inside.x, rect.top + inside.y};
 }
 
-/// The middle of a pixel in the units of an absolute move, 65536 to the screen.
+/// Returns the middle of a pixel in the units of an absolute move: 65536 across the screen.
 LONG Absolute(LONG pixel, int screen_pixels) { return (pixel * 65536 + 32768) / screen_pixels; }
 
 INPUT PointerButton(DWORD flags) {
@@ -39,7 +39,7 @@ INPUT PointerMove(POINT place) {
   return input;
 }
 
-/// Moves the pointer and waits until it has come to rest; false when it does not.
+/// Moves the pointer and waits until it has come to rest; returns false if it does not.
 bool PutPointer(POINT place) {
   INPUT move = PointerMove(place);
   int looks_at_rest = 0;
@@ -65,8 +65,8 @@ void SendKey(int key, DWORD flags) {
 }  // namespace
 
 bool BringForward(HWND top_level) {
-  // Asked for again and again: a window that has just been opened may take the front after the first time.
-  // Only of a window that answers, because the system waits for the window without a limit.
+  // Repeated: a window that has just opened may come to the front after the first request. Only windows that
+  // answer are asked, because the system waits for the window without a limit.
   return Eventually([top_level] {
     return GetForegroundWindow() == top_level ||
            (Answers(top_level) && SetForegroundWindow(top_level) != 0 && GetForegroundWindow() == top_level);
@@ -90,7 +90,7 @@ bool PointAt(HWND window, POINT inside) {
 
 bool PressAt(HWND window, POINT inside, Press press) {
   if (!PointAt(window, inside)) return false;
-  // With the move once more: the pointer of the real screen may drag this one along until it rests.
+  // The move is repeated: the pointer of the real screen may drag this one along until it rests.
   std::vector<INPUT> inputs{PointerMove(OnScreen(window, inside))};
   const bool is_right = press == Press::kRight;
   for (int times = press == Press::kLeftTwice ? 2 : 1; times > 0; --times) {

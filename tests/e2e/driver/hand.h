@@ -1,4 +1,4 @@
-// The user's hand: the real pointer and the real keyboard. Both go to the window in front.
+// The user: the real pointer and the real keyboard. Both act on the window in front.
 #pragma once
 
 // clang-format off
@@ -9,33 +9,33 @@
 
 namespace qdix::e2e {
 
-/// What a finger does on the pointer's buttons.
+/// An action on the pointer's buttons.
 enum class Press {
   kLeft,
   kLeftTwice,
   kRight
 };
 
-/// Brings a window to the front; false when it does not come.
+/// Brings a window to the front; returns false if that fails.
 [[nodiscard]] bool BringForward(HWND top_level);
 
-/// Moves the pointer to a place in pixels from the window's upper left corner; false where another program's
-/// window, or none, is at that place.
+/// Moves the pointer to a position in pixels from the window's upper left corner. Returns false if a window
+/// of another program, or none, is at that position.
 [[nodiscard]] bool PointAt(HWND window, POINT inside);
-/// The same, with a press there. Brings no window to the front by itself.
+/// Does the same and presses a button there. Does not bring a window to the front.
 [[nodiscard]] bool PressAt(HWND window, POINT inside, Press press);
 
-/// Brings a control's window to the front, moves the pointer into the middle of the control and presses its
-/// left button; false where PressAt fails.
+/// Brings a control's window to the front, moves the pointer to the middle of the control and presses its
+/// left button; returns false if PressAt() fails.
 [[nodiscard]] bool Click(HWND control);
-/// The same at a place in pixels from the control's upper left corner.
+/// Does the same at a position in pixels from the control's upper left corner.
 [[nodiscard]] bool ClickAt(HWND control, POINT inside);
 
-/// Brings a control's window to the front and presses the left button at a place in the control, moves the
-/// pointer so many pixels to the right or, with a negative number, to the left, and lets go of the button.
+/// Brings a control's window to the front, presses the left button at a position in the control, moves the
+/// pointer `pixels` to the right (to the left if negative), and releases the button.
 [[nodiscard]] bool Drag(HWND control, POINT from, int pixels);
 
-/// Presses and lets go of a key.
+/// Presses and releases a key.
 void PressKey(int key);
 /// Presses a key while another is held down.
 void PressKeyWith(int held_key, int key);

@@ -14,7 +14,7 @@ std::vector<HWND> HelpWindows() {
 }
 
 bool CloseHelpWindows() {
-  // Asked again with each look: a viewer that is still coming up shows its window only then.
+  // Closes again at each check: a viewer that is still starting shows its window only later.
   return Eventually([] {
     const std::vector<HWND> windows = HelpWindows();
     for (const HWND window : windows) PostMessageA(window, WM_CLOSE, 0, 0);

@@ -1,4 +1,4 @@
-// The viewers of the help that are open, whoever started them.
+// The open help viewers, no matter who started them.
 #pragma once
 
 // clang-format off
@@ -9,10 +9,10 @@
 
 namespace qdix::e2e {
 
-/// Their windows that are shown, the frontmost first.
+/// Returns their visible windows, the frontmost first.
 [[nodiscard]] std::vector<HWND> HelpWindows();
 
-/// Asks all of them to close; false where one stays.
+/// Asks all of them to close; returns false if one stays open.
 [[nodiscard]] bool CloseHelpWindows();
 
 }  // namespace qdix::e2e

@@ -10,10 +10,10 @@ namespace qdix::e2e {
 
 namespace {
 
-/// Where programs are loaded that say nothing else.
+/// Default load address of a program.
 constexpr std::uintptr_t kProgramBegin = 0x400000;
 
-/// Places in an image of the process that hold the address of a function.
+/// Returns the places in an image of the process that hold the address of a function.
 std::vector<void*> PlacesOf(HANDLE process, std::uintptr_t image, std::uint32_t function) {
   std::vector<void*> places;
   std::uintptr_t address = image;

@@ -1,4 +1,4 @@
-// The functions of the system that a running program imports, led to other code.
+// Redirects system functions that a running program imports.
 #pragma once
 
 // clang-format off
@@ -9,8 +9,8 @@
 
 namespace qdix::e2e {
 
-/// From now on the program calls `replacement`, code in its own memory, where it called this function of the
-/// system. False where it does not import that function.
+/// Makes the program call `replacement`, code in its own memory, instead of this system function from now on.
+/// Returns false if the program does not import the function.
 [[nodiscard]] bool RedirectImport(HANDLE process, std::uint32_t function, std::uint32_t replacement);
 
 }  // namespace qdix::e2e

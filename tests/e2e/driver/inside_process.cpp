@@ -64,7 +64,7 @@ std::optional<std::uint32_t> CallInside(HANDLE process, std::uint32_t function,
   code.Bytes({'\xC2', 4, 0});                             // ret 4
   ForeignPage page(process);
   if (!page.Write(0, code.Text())) return std::nullopt;
-  // The address of code, in a form in which only data has addresses.
+  // Converts the address of code, which is at hand only as the address of data.
   const auto begin = reinterpret_cast<LPTHREAD_START_ROUTINE>(static_cast<std::uintptr_t>(page.At(0)));
   const HANDLE thread = CreateRemoteThread(process, nullptr, 0, begin, nullptr, 0, nullptr);
   if (thread == nullptr) return std::nullopt;

@@ -1,5 +1,5 @@
-// Work inside of another process: a page of its memory, and calls that its own threads or one of ours make
-// there.
+// Works inside another process: owns a page of its memory, and makes calls there on the process's own threads
+// or on one of ours.
 #pragma once
 
 // clang-format off
@@ -13,7 +13,7 @@
 
 namespace qdix::e2e {
 
-/// Machine code, put together byte by byte.
+/// Machine code, assembled byte by byte.
 class MachineCode {
  public:
   MachineCode& Bytes(const std::string& bytes);
@@ -24,12 +24,12 @@ class MachineCode {
   std::string text_;
 };
 
-/// A page in another process that can be run, read and written; it stays when this object goes.
+/// A page in another process that can be executed, read and written. It outlives this object.
 class ForeignPage {
  public:
   explicit ForeignPage(HANDLE process);
 
-  /// Where a part of the page is, as a number in that process.
+  /// Returns the address, in that process, of a part of the page.
   [[nodiscard]] std::uint32_t At(std::uint32_t offset) const;
   [[nodiscard]] bool Write(std::uint32_t offset, const std::string& bytes) const;
   [[nodiscard]] std::string ReadText(std::uint32_t offset) const;
@@ -40,12 +40,12 @@ class ForeignPage {
   char* begin_;
 };
 
-/// Address of a function of the system, which is the same in all processes.
+/// Returns the address of a system function, which is the same in all processes.
 [[nodiscard]] std::uint32_t SystemFunction(const char* library, const char* name);
 
-/// Calls a function of the system in that process, on a thread of its own; nothing when it does not come
-/// back. Only for a process that nobody has asked to end: a thread that starts while the process ends can
-/// keep a lock of it for ever.
+/// Calls a system function in that process, on a new thread; returns nothing if the call does not return.
+/// Only for a process that has not been asked to end: a thread that starts while the process ends can hold
+/// one of its locks for ever.
 [[nodiscard]] std::optional<std::uint32_t> CallInside(HANDLE process, std::uint32_t function,
                                                       const std::vector<std::uint32_t>& arguments);
 

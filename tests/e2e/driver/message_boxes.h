@@ -1,4 +1,4 @@
-// Message boxes of a program, which hold it up until somebody answers.
+// Message boxes of a program, which block it until they are answered.
 #pragma once
 
 // clang-format off
@@ -16,15 +16,15 @@ struct MessageBox {
   std::string text;
 };
 
-/// The boxes that a process shows now.
+/// Returns the boxes that a process shows now.
 [[nodiscard]] std::vector<MessageBox> MessageBoxesOf(DWORD process_id);
 
-/// Presses a button of the box, by its standard number (IDOK, IDYES...), and waits until the box is gone;
-/// false when it has no such button or stays.
+/// Presses a button of the box, by its standard number (IDOK, IDYES...), and waits until the box has closed.
+/// Returns false if it has no such button or stays open.
 [[nodiscard]] bool PressButton(const MessageBox& box, int button);
 
-/// The report that a machine with more memory than 32 bits count gives rise to. It says nothing about the
-/// program; whoever drives it answers it on the way.
+/// True for the report that appears on a machine with more memory than 32 bits can count. It says nothing
+/// about the program, so the driver answers it in passing.
 [[nodiscard]] bool IsReportOfAnImplausibleReading(const MessageBox& box);
 
 }  // namespace qdix::e2e

@@ -78,7 +78,7 @@ HWND Taskbar() { return FindWindowA(kTaskbarClass, nullptr); }
 
 bool HasNotificationIcon(HWND owner, UINT number) {
   NOTIFYICONDATAA icon = IconOf(owner, number);
-  // Changes nothing; refused where there is no such icon.
+  // Changes nothing; fails if there is no such icon.
   return Shell_NotifyIconA(NIM_MODIFY, &icon) != FALSE;
 }
 
@@ -92,7 +92,7 @@ int TaskbarButtonCount() {
   const auto shown = std::count_if(buttons.begin(), buttons.end(), [](HWND button) {
     return IsWindowVisible(button) != 0 && ClassOf(button) == "Button";
   });
-  return static_cast<int>(shown) - 1;  // the first is the one that opens the menu
+  return static_cast<int>(shown) - 1;  // the first button opens the menu
 }
 
 }  // namespace qdix::e2e

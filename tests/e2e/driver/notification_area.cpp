@@ -8,7 +8,8 @@ namespace {
 
 constexpr const char* kTipClass = "tooltips_class32";
 
-/// The square of the rightmost icon, which is as wide as the taskbar is high. In pixels of the taskbar.
+/// Returns the square of the rightmost icon, which is as wide as the taskbar is high, in pixels of the
+/// taskbar.
 RECT IconSquare() {
   RECT bar = {};
   GetClientRect(Taskbar(), &bar);

@@ -1,4 +1,4 @@
-// A Windows program under Wine can start a program of the host by its path.
+// Under Wine a Windows program can start a host program by its path.
 #include "tests/e2e/driver/photograph.h"
 
 #include <cstdlib>
@@ -10,8 +10,8 @@ namespace qdix::e2e {
 
 namespace {
 
-/// Runs a shell command of the host that makes a file, which gets its name when it is complete. False when it
-/// does not appear.
+/// Runs a shell command of the host that creates a file and renames it when it is complete. Returns false if
+/// the file does not appear.
 bool MakeFile(const std::string& command, const std::string& file) {
   const std::string file_in_windows = "Z:" + file;
   std::string command_line = "Z:\\bin\\sh -c \"exec </dev/null >/dev/null 2>&1; " + command + "\"";
@@ -23,8 +23,8 @@ bool MakeFile(const std::string& command, const std::string& file) {
                      &started) == 0) {
     return false;
   }
-  // Wine does not wait for programs of the host. Nothing is closed: it gives no handles of them, and what it
-  // leaves in the record can be the handle of something else.
+  // Wine does not wait for host programs. No handle is closed: Wine returns none for them, and what it leaves
+  // in the record may be the handle of something else.
   return Eventually([&] { return GetFileAttributesA(file_in_windows.c_str()) != INVALID_FILE_ATTRIBUTES; });
 }
 

@@ -1,4 +1,4 @@
-// Pictures of the whole screen, and the colour of one of its pixels.
+// Pictures of the whole screen, and the colours of its pixels.
 #pragma once
 
 // clang-format off
@@ -9,15 +9,16 @@
 
 namespace qdix::e2e {
 
-/// Leaves build/photos/NAME.png, or build/photos/$QDIX_PHOTOS/NAME.png; false when no picture could be taken.
+/// Writes build/photos/NAME.png, or build/photos/$QDIX_PHOTOS/NAME.png; returns false if no picture could be
+/// taken.
 [[nodiscard]] bool Photograph(const std::string& name);
 
-/// What a user sees in this part of the screen, three bytes a pixel, line by line: red, green, blue. Empty
-/// when that could not be found out.
+/// Returns what the user sees in this part of the screen, line by line, three bytes per pixel: red, green,
+/// blue. Empty if the pixels could not be read.
 [[nodiscard]] std::string ScreenPixels(const RECT& part);
 
-/// What a user sees at this place, whichever window it belongs to; CLR_INVALID when that could not be found
-/// out.
+/// Returns the colour that the user sees at this position, whichever window it belongs to; CLR_INVALID if it
+/// could not be read.
 [[nodiscard]] COLORREF ScreenColour(POINT place);
 
 }  // namespace qdix::e2e

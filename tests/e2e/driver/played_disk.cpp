@@ -1,16 +1,16 @@
-// The program finds the question by its name while it runs and imports nothing, so the first bytes of the
-// system's own code, of which each process has its copy, are made a jump.
+// The program looks the function up by name at run time instead of importing it. So the first bytes of the
+// function itself, of which each process has its own copy, are replaced with a jump.
 #include "tests/e2e/driver/played_disk.h"
 
 namespace qdix::e2e {
 
 namespace {
 
-/// Where the figure is kept in the page, behind the code.
+/// Offset of the figure in the page, behind the code.
 constexpr std::uint32_t kFigureOffset = 256;
 constexpr std::uint32_t kJumpBytes = 5;
 
-/// Writes the figure wherever the three pointers of the question lead, and answers with TRUE.
+/// Writes the figure to all three result pointers and returns TRUE.
 std::string AnswerWithFigure(std::uint32_t figure) {
   MachineCode code;
   code.Bytes("\x8B\x0D").Number(figure);      // ecx = lower half

@@ -1,5 +1,4 @@
-// Free space of the machine's disks as one program sees it, played from outside: a test cannot fill the disk
-// that it runs on.
+// Fakes the free disk space that one program sees, from outside: a test cannot fill the disk that it runs on.
 #pragma once
 
 // clang-format off
@@ -16,8 +15,8 @@ class PlayedDisk {
  public:
   explicit PlayedDisk(HANDLE process) : process_(process), page_(process) {}
 
-  /// From now on the program's extended question for a drive's size is answered with this figure for size and
-  /// free space, whichever drive it asks for. False where the answer cannot be put there.
+  /// Makes the program's calls of the extended free space function return this figure for size and free space
+  /// of any drive from now on. Returns false if the replacement cannot be installed.
   [[nodiscard]] bool Play(std::uint64_t free_bytes);
 
  private:

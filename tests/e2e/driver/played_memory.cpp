@@ -8,9 +8,9 @@ namespace qdix::e2e {
 
 namespace {
 
-/// Where the figure is kept in the page, behind the code.
+/// Offset of the figure in the page, behind the code.
 constexpr std::uint32_t kFigureOffset = 256;
-/// Asks the system, then writes the figure at `figure` over its answer.
+/// Calls the system, then overwrites its result with the figure at `figure`.
 std::string AnswerWithFigure(std::uint32_t ask_system, std::uint32_t figure) {
   static_assert(offsetof(MEMORYSTATUS, dwAvailPhys) == 12);
   MachineCode code;

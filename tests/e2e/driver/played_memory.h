@@ -1,5 +1,5 @@
-// Available memory of the machine as one program sees it, played from outside: the machine's own does not
-// stand still, and Wine shows the same figure for all amounts of 2 GB and more.
+// Fakes the available memory that one program sees, from outside: the machine's own changes all the time, and
+// Wine shows the same figure for all amounts of 2 GB and more.
 #pragma once
 
 // clang-format off
@@ -16,8 +16,8 @@ class PlayedMemory {
  public:
   explicit PlayedMemory(HANDLE process) : process_(process), page_(process) {}
 
-  /// From now on the program's question for the state of the memory is answered with this available memory;
-  /// all other figures stay the machine's. False where the program does not import that question.
+  /// Makes the program's memory status calls return this available memory from now on; all other figures stay
+  /// the machine's. Returns false if the program does not import that function.
   [[nodiscard]] bool Play(std::uint32_t available_bytes);
 
  private:

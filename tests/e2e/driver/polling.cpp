@@ -13,7 +13,7 @@ namespace {
 
 constexpr DWORD kPollMs = 10;
 
-/// 1 where nobody has measured.
+/// 1 if it has not been measured.
 int Slowness() {
   constexpr long kMaxPatience = 3;
   const char* const measured = std::getenv(kSlownessVariable);

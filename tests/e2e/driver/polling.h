@@ -1,22 +1,21 @@
-// Waiting for something to become true: asked again and again until a deadline, never a sleep that hopes.
+// Waits for a condition by checking it repeatedly until a deadline, never by sleeping and hoping.
 #pragma once
 
 #include <functional>
 
 namespace qdix::e2e {
 
-/// Longer than anything takes on a busy machine of the usual speed, except a release.
+/// Longer than anything takes on a busy machine of normal speed, except a release.
 inline constexpr int kDeadlineMs = 30000;
 
-/// Name of the environment variable with the factor by which this machine is slower than one of the usual
-/// speed.
+/// Name of the environment variable that says how many times slower this machine is than one of normal speed.
 inline constexpr const char* kSlownessVariable = "QDIX_E2E_SLOWNESS";
 
-/// The time to wait here where a machine of the usual speed is given `deadline_ms`: at most three times as
+/// Returns the time to wait here if a machine of normal speed is given `deadline_ms`: at most three times as
 /// long.
 [[nodiscard]] int Patience(int deadline_ms);
 
-/// Asks until the answer is true; false when the deadline passes first. It is asked at least once.
+/// Checks until the condition is true; returns false if the deadline passes first. Checks at least once.
 [[nodiscard]] bool Eventually(const std::function<bool()>& condition, int deadline_ms = kDeadlineMs);
 
 }  // namespace qdix::e2e

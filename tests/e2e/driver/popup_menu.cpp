@@ -1,5 +1,5 @@
-// Wine keeps menus in the process that made them and tells another process nothing about them, so the
-// process itself is made to ask.
+// Wine keeps menus in the process that created them and tells another process nothing about them. So the
+// process itself is made to read them.
 #include "tests/e2e/driver/popup_menu.h"
 
 #include "tests/e2e/driver/inside_process.h"
@@ -24,7 +24,7 @@ class ForeignMenu {
   [[nodiscard]] bool IsDisabled(int index) const { return (State(index) & (MF_GRAYED | MF_DISABLED)) != 0; }
   [[nodiscard]] std::string Entry(int index) const {
     const auto place = static_cast<std::uint32_t>(index);
-    // The upper byte of what has a submenu is the number of its entries.
+    // For an entry with a submenu, the upper byte is the number of the submenu's entries.
     if ((State(index) & (MF_SEPARATOR | MF_POPUP)) == MF_SEPARATOR) return kSeparator;
     const int length = AskFor("GetMenuStringA", {menu_, place, text_.At(0), kLongestEntry, MF_BYPOSITION});
     return length > 0 ? text_.ReadText(0) : std::string();

@@ -15,13 +15,13 @@ inline constexpr const char* kSeparator = "-";
 struct MenuText {
   /// From top to bottom.
   std::vector<std::string> entries;
-  /// Those of them that are shown grey.
+  /// The entries shown grey.
   std::vector<std::string> disabled_entries;
-  /// The one that is shown as the default.
+  /// The entry shown as the default.
   std::string default_entry;
 };
 
-/// Empty where the process does not answer.
+/// Empty if the process does not answer.
 [[nodiscard]] MenuText ReadMenu(HANDLE process, HWND menu_window);
 
 }  // namespace qdix::e2e

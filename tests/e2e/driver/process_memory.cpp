@@ -7,7 +7,7 @@ namespace qdix::e2e {
 
 namespace {
 
-/// What stays free besides the one piece: enough for a message box and its fonts.
+/// Left free besides the one block: enough for a message box and its fonts.
 constexpr SIZE_T kSmallPieceBytes = 16 * 1024 * 1024;
 constexpr SIZE_T kLargestPieceBytes = SIZE_T{1} << 30;
 

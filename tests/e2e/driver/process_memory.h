@@ -1,4 +1,4 @@
-// The memory of another process, seen and narrowed from outside.
+// The memory of another process, inspected and restricted from outside.
 #pragma once
 
 // clang-format off
@@ -13,15 +13,15 @@ namespace qdix::e2e {
 /// Larger than anything that the program holds besides the blocks of a release.
 inline constexpr std::uint64_t kBlockBytes = 16 * 1024 * 1024;
 
-/// Sizes in bytes of the private allocations with committed pages, ascending, those below the limit left out.
-/// Whole pages: memory is handed out in them.
+/// Returns the sizes in bytes of the private allocations with committed pages, ascending, without those below
+/// the limit. Sizes are whole pages, because memory is handed out in pages.
 [[nodiscard]] std::vector<std::uint64_t> CommittedBlocks(HANDLE process, std::uint64_t at_least_bytes);
 
-/// All private committed bytes.
+/// Returns all private committed bytes.
 [[nodiscard]] std::uint64_t CommittedBytes(HANDLE process);
 
-/// Takes the process' free address space away, except one piece of `left_bytes` and what lies in pieces below
-/// 16 MB, so that larger allocations fail. False where there was no room for that piece.
+/// Takes away the process's free address space, except one block of `left_bytes` and gaps below 16 MB, so
+/// that larger allocations fail. Returns false if there was no room for that block.
 [[nodiscard]] bool NarrowAddressSpace(HANDLE process, std::uint32_t left_bytes);
 
 }  // namespace qdix::e2e

@@ -6,7 +6,7 @@ namespace qdix::e2e {
 
 namespace {
 
-// Layout of 32-bit processes on the NT line, which Wine keeps.
+// Layout of 32-bit processes on the NT line, which Wine follows.
 constexpr std::uint32_t kParametersInBlock = 0x10;
 constexpr std::uint32_t kCommandLineInParameters = 0x40;
 
@@ -42,7 +42,7 @@ std::string InAnsi(const std::wstring& text) {
 }  // namespace
 
 std::uint32_t EnvironmentBlock(HANDLE process) {
-  // Not declared for programs.
+  // Undocumented and not in the headers.
   using QueryProcess = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
   constexpr int kBasicInformation = 0;
   constexpr std::size_t kBlockIndex = 1;

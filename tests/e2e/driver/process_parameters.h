@@ -1,5 +1,5 @@
-// How a process was started, read from its record of parameters: nothing runs inside of it, so that neither
-// side can hold the other up.
+// How a process was started, read from its parameter record. No code runs inside the process, so neither side
+// can block the other.
 #pragma once
 
 // clang-format off
@@ -11,10 +11,11 @@
 
 namespace qdix::e2e {
 
-/// Where the environment block of a process begins, its own numbers; 0 where the system does not tell.
+/// Returns the address of a process's environment block within that process, or 0 if the system does not
+/// tell.
 [[nodiscard]] std::uint32_t EnvironmentBlock(HANDLE process);
 
-/// The command line that the process of a window was started with; empty where it cannot be read.
+/// Returns the command line that the process of a window was started with; empty if it cannot be read.
 [[nodiscard]] std::string CommandLineOf(HWND window);
 
 }  // namespace qdix::e2e

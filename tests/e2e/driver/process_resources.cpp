@@ -20,8 +20,8 @@ int CountWindows(DWORD process_id) {
   return static_cast<int>(count);
 }
 
-/// Wine does not answer the documented question for drawing objects. Their table, though, is part of the
-/// process, where its environment block points.
+/// Wine does not support the documented call for counting drawing objects. But the process contains their
+/// table, and its environment block points to it.
 int CountDrawingObjects(HANDLE process) {
   constexpr std::uintptr_t kTableOffset = 0x94;
   struct Entry {
@@ -48,7 +48,7 @@ int CountDrawingObjects(HANDLE process) {
       std::count_if(entries.begin(), entries.end(), [](const Entry& entry) { return entry.type != 0; }));
 }
 
-/// The system's list of all handles of all processes.
+/// Reads the system's list of all handles of all processes.
 int CountHandles(DWORD process_id) {
   using QuerySystem = LONG(WINAPI*)(int, void*, ULONG, ULONG*);
   constexpr int kHandleInformation = 16;
@@ -67,7 +67,7 @@ int CountHandles(DWORD process_id) {
   };
 
   std::vector<Table> table(1);
-  // Not declared for programs.
+  // Undocumented and not in the headers.
   const FARPROC found = GetProcAddress(GetModuleHandleA("ntdll.dll"), "NtQuerySystemInformation");
   const auto query = reinterpret_cast<QuerySystem>(reinterpret_cast<void*>(found));
   if (query(kHandleInformation, table.data(), sizeof(Table), nullptr) != 0) {

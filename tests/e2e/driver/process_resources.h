@@ -1,4 +1,4 @@
-// What else a process holds of the system: windows, drawing objects and handles, counted from outside.
+// Other resources of a process: windows, drawing objects and handles, counted from outside.
 #pragma once
 
 // clang-format off
@@ -16,7 +16,7 @@ struct ProcessResources {
   int handles = 0;
 };
 
-/// A kind that could not be counted is -1.
+/// Returns -1 for a kind that could not be counted.
 [[nodiscard]] ProcessResources CountResources(HANDLE process, DWORD process_id);
 
 }  // namespace qdix::e2e

@@ -17,7 +17,7 @@ namespace qdix::e2e {
 
 namespace {
 
-/// Made on a machine that is never looked at: only the window's controls count.
+/// Reads the controls of a program's window. The machine under the program does not matter.
 template <class Program, class... Others>
 ScreenMap MapOf(Others&&... others) {
   const os::SimulatedMachine machine;
@@ -25,7 +25,7 @@ ScreenMap MapOf(Others&&... others) {
   return ScreenMap(program.Window());
 }
 
-/// A path of the host, as Wine's programs see it.
+/// Converts a path of the host to the form that programs under Wine use.
 std::string WindowsPath(const std::string& host_path) {
   std::string path = "Z:" + host_path;
   std::replace(path.begin(), path.end(), '/', '\\');

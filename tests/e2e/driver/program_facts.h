@@ -1,4 +1,4 @@
-// What the driver has to know of each shipped program.
+// What the driver must know about each shipped program.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@ namespace qdix::e2e {
 
 struct ProgramFacts {
   const char* file_name;
-  /// Title of the application, carried by its hidden window.
+  /// Title of the application; its hidden window carries it.
   const char* title;
   ScreenMap map;
 };
@@ -19,12 +19,12 @@ struct ProgramFacts {
 [[nodiscard]] ProgramFacts ConfigLauncher();
 [[nodiscard]] ProgramFacts HelpViewer();
 
-/// Path of the program that writes down how it was started, and of what it writes.
+/// Paths of the program that reports how it was started, and of its report.
 [[nodiscard]] std::string WitnessPath();
 [[nodiscard]] std::string WitnessReportPath();
 
-/// Path of a program under test, as Windows writes it: in the folder of the QDIX.exe that the environment
-/// variable QDIX_PROGRAM names (a path of the host), else in the one that the preset win9x builds into.
+/// Returns the Windows path of a program under test: in the folder of the QDIX.exe that the environment
+/// variable QDIX_PROGRAM names (a path of the host), otherwise in the output folder of the preset win9x.
 [[nodiscard]] std::string ProgramPath(const std::string& file_name);
 
 }  // namespace qdix::e2e

@@ -10,12 +10,12 @@ namespace {
 constexpr std::uint32_t kMinuteMs = 60000;
 constexpr std::uint32_t kQuickMinuteMs = 5000;
 
-/// Exchanges the interval, the third argument, where it is a minute, and goes on to the system.
+/// Replaces an interval (the third argument) of one minute, then continues in the system function.
 std::string StartQuicker(std::uint32_t set_timer) {
   MachineCode code;
   code.Bytes("\x81\x7C\x24\x0C").Number(kMinuteMs);        // cmp [esp + 12], a minute
-  code.Bytes("\x75\x08");                                  // jne behind the next
-  code.Bytes("\xC7\x44\x24\x0C").Number(kQuickMinuteMs);   // [esp + 12] = a quick one
+  code.Bytes("\x75\x08");                                  // jne past the next
+  code.Bytes("\xC7\x44\x24\x0C").Number(kQuickMinuteMs);   // [esp + 12] = a quick minute
   code.Bytes("\xB8").Number(set_timer).Bytes("\xFF\xE0");  // mov eax; jmp eax
   return code.Text();
 }

@@ -1,4 +1,4 @@
-// Minutes of one program that pass in a few seconds.
+// Makes the minutes of one program pass in a few seconds.
 #pragma once
 
 // clang-format off
@@ -7,8 +7,8 @@
 
 namespace qdix::e2e {
 
-/// From now on a timer that the program starts with a minute ticks every few seconds; others keep their time.
-/// False where the program starts no timers.
+/// Makes one-minute timers that the program starts from now on tick every few seconds; other timers keep
+/// their interval. Returns false if the program starts no timers.
 [[nodiscard]] bool QuickenMinutes(HANDLE process);
 
 }  // namespace qdix::e2e

@@ -11,7 +11,7 @@ namespace qdix::e2e {
 
 namespace {
 
-/// Into an arrow from the edge of the bar that it stands at.
+/// Distance from the end of the bar to a point inside its arrow.
 constexpr LONG kIntoArrowPx = 3;
 
 SIZE SizeOf(HWND window) {
@@ -20,7 +20,7 @@ SIZE SizeOf(HWND window) {
   return {rect.right - rect.left, rect.bottom - rect.top};
 }
 
-/// The triangle in the middle of an arrow's button, without the button's edges, which are as dark.
+/// Checks the triangle in the middle of an arrow button, without the button's edges, which are as dark.
 bool IsDark(HWND bar, LONG middle_px) {
   constexpr LONG kHalfTrianglePx = 1;
   RECT place = {};
@@ -35,8 +35,8 @@ bool IsDark(HWND bar, LONG middle_px) {
   return is_dark;
 }
 
-/// The thumb moves between the ends of the channel, which lies a thumb's half within the window's edges. The
-/// messages that tell those rectangles do not reach into other processes.
+/// The thumb moves between the ends of the channel, which lies half a thumb inside the window's edges. The
+/// messages that return those rectangles do not work across processes.
 POINT MiddleOfThumb(HWND slider) {
   constexpr LONG kEdgePx = 8;
   const auto half_thumb = static_cast<LONG>(Ask(slider, TBM_GETTHUMBLENGTH)) / 4;

@@ -1,4 +1,4 @@
-// Sliders and scroll bars of another process: where their thumbs are, as the system draws them.
+// Sliders and scroll bars of another process: where the system draws their thumbs.
 #pragma once
 
 // clang-format off
@@ -7,22 +7,22 @@
 
 namespace qdix::e2e {
 
-/// The native position of a slider, which is its value.
+/// Returns the native position of a slider, which is its value.
 [[nodiscard]] int SliderPosition(HWND slider);
 [[nodiscard]] int SliderMinimum(HWND slider);
 [[nodiscard]] int SliderMaximum(HWND slider);
-/// How many marks stand below its way, the two ends included.
+/// Returns the number of tick marks below the slider, including both ends.
 [[nodiscard]] int SliderMarks(HWND slider);
 
-/// Seizes a slider's thumb with the pointer and pulls it so many pixels, to the right where positive. False
-/// where the pointer does not get there.
+/// Drags a slider's thumb with the pointer by `pixels`, to the right if positive. Returns false if the
+/// pointer does not get there.
 [[nodiscard]] bool PullThumb(HWND slider, int pixels);
 
-/// The distance of a scroll bar's thumb from the bar's upper end.
+/// Returns the distance of a scroll bar's thumb from the bar's upper end.
 [[nodiscard]] int ScrollPosition(HWND bar);
-/// True where the screen shows both arrows in the colour of those that can be pressed.
+/// True if the screen shows both arrows in the enabled colour.
 [[nodiscard]] bool ArrowsLookEnabled(HWND bar);
-/// Clicks the arrow at the bar's upper or lower end.
+/// Clicks the arrow at the bar's upper end or at its lower end.
 [[nodiscard]] bool ClickUpArrow(HWND bar);
 [[nodiscard]] bool ClickDownArrow(HWND bar);
 

@@ -6,10 +6,10 @@ namespace qdix::e2e {
 
 namespace {
 
-/// The program's own keys; of the key of programs that start with Windows one value is its own.
+/// The program's own keys. In the key of the programs that start with Windows, only one value is its own.
 std::array<KeyPath, 5> OwnKeys() { return {kSettings, kStartup, kHelpSettings, kMachineKey, kUserKey}; }
 
-/// Longest name or content of a value that the program writes, with room to spare.
+/// Longest name or data of a value that the program writes, with room to spare.
 constexpr std::size_t kLongestText = 4096;
 
 }  // namespace

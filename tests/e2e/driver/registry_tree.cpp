@@ -7,10 +7,10 @@ namespace qdix::e2e {
 
 namespace {
 
-/// Longest name or content of a value, with room to spare.
+/// Longest name or data of a value, with room to spare.
 constexpr std::size_t kLongestText = 4096;
 
-/// Names of the keys directly below an open one, in the order of the alphabet.
+/// Returns the names of the keys directly below an open one, in alphabetical order.
 std::vector<std::string> KeysBelow(HKEY handle) {
   std::vector<std::string> names;
   std::array<char, kLongestText> name{};

@@ -1,4 +1,4 @@
-// A key of the registry with everything below it, kept and put back.
+// Saves and restores a registry key with everything below it.
 #pragma once
 
 // clang-format off
@@ -17,10 +17,10 @@ struct KeyPath {
 
 class RegistryTree {
  public:
-  /// Keeps the key as it is now; that there is none is kept as well.
+  /// Saves the key as it is now, or the fact that it does not exist.
   explicit RegistryTree(const KeyPath& path);
 
-  /// Makes the key, and everything below it, what it was.
+  /// Restores the key and everything below it.
   void PutBack() const;
 
   bool operator==(const RegistryTree& other) const { return root_ == other.root_; }

@@ -8,7 +8,7 @@ namespace qdix::e2e {
 
 namespace {
 
-/// Writes the arguments down and then counts the call: who sees the count sees its arguments.
+/// Stores the arguments first and counts the call last: a reader that sees the count also sees the arguments.
 std::string NoteAndAgree(std::uint32_t flags, std::uint32_t reserved, std::uint32_t count) {
   MachineCode code;
   code.Bytes("\x8B\x44\x24\x04\xA3").Number(flags);       // eax = first argument; flags = eax

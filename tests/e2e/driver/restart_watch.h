@@ -1,4 +1,4 @@
-// The restart of the machine that a program asks for, seen and never let through.
+// Detects a program's request to restart the machine, and blocks it.
 #pragma once
 
 // clang-format off
@@ -18,32 +18,32 @@ class RestartWatch {
   RestartWatch& operator=(const RestartWatch&) = delete;
   ~RestartWatch();
 
-  /// From now on the program's call of ExitWindowsEx is noted and answered with TRUE, and nothing restarts.
-  /// The program must have its window. False where it does not import that call; then a test must not go on
-  /// to a restart, which would be a real one.
+  /// Records the program's calls of ExitWindowsEx from now on and returns TRUE from them; nothing restarts.
+  /// The program must have its window. Returns false if the program does not import the function. A test must
+  /// then not go on to a restart, because it would be a real one.
   [[nodiscard]] bool Begin();
 
-  /// How often it was called, also after the end of the program.
+  /// Returns the number of calls, also after the end of the program.
   [[nodiscard]] std::uint32_t Count() const;
   /// The arguments of the last call; 0 before the first.
   [[nodiscard]] std::uint32_t Flags() const;
   [[nodiscard]] std::uint32_t Reserved() const;
 
  private:
-  /// Memory that this process shares with the program, so that it outlives it.
+  /// Memory shared with the program, so that it outlives the program.
   struct Notes {
     std::uint32_t flags;
     std::uint32_t reserved;
     std::uint32_t count;
   };
 
-  /// The address of the notes in the program; 0 where they could not be put there.
+  /// Returns the address of the notes in the program, or 0 if they could not be mapped there.
   [[nodiscard]] std::uint32_t ShareNotes() const;
 
   HANDLE process_;
   ForeignPage page_;
   HANDLE memory_;
-  /// Null where there was no memory to share.
+  /// Null if there was no memory to share.
   const volatile Notes* notes_;
 };
 

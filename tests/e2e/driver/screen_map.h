@@ -1,5 +1,5 @@
-// Where the controls of a shipped program are: number and tab by name, taken from the same screens that the
-// program is made of.
+// Where the controls of a shipped program are: number and tab by name, taken from the same screen tables that
+// the program uses.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ namespace qdix::e2e {
 struct ControlAddress {
   std::string name;
   int number = 0;
-  /// Index of the tab it stands on, or -1 for what stands on no tab.
+  /// Index of the control's tab, or -1 if it is on no tab.
   int tab = -1;
 };
 
@@ -20,9 +20,9 @@ class ScreenMap {
  public:
   explicit ScreenMap(const ui::Container& window);
 
-  /// In the order of the screens.
+  /// Returns the controls in the order of the screens.
   [[nodiscard]] const std::vector<ControlAddress>& All() const { return controls_; }
-  /// Null where no control has this name or number.
+  /// Returns null if no control has this name or number.
   [[nodiscard]] const ControlAddress* Find(const std::string& name) const;
   [[nodiscard]] const ControlAddress* Find(int number) const;
 

@@ -22,7 +22,7 @@ constexpr const char* kCaptionEnds = " MB   Q-DIX";
 constexpr UINT kIconNumber = 1;
 constexpr UINT kKilled = 99;
 
-/// The messages of a list box and of a drop-down list that mean the same.
+/// The messages with the same meaning for a list box and for a drop-down list.
 struct ListMessages {
   UINT find;
   UINT selected;
@@ -35,7 +35,7 @@ ListMessages MessagesOf(HWND list) {
   return {LB_FINDSTRINGEXACT, LB_GETCURSEL, LB_SETCURSEL, LBN_SELCHANGE};
 }
 
-/// LB_ERR, which is CB_ERR as well, where there is no such row.
+/// Returns LB_ERR, which equals CB_ERR, if there is no such row.
 LRESULT RowOf(HWND list, const std::string& text) {
   return Ask(list, MessagesOf(list).find, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.c_str()));
 }

@@ -9,7 +9,7 @@ namespace qdix::e2e {
 namespace {
 
 constexpr std::size_t kLongestEntry = 1024;
-/// Stands for a missing entry; no entry holds it.
+/// Default that means a missing entry; no entry holds it.
 constexpr const char* kMissing = "\x01";
 
 std::string PathOf(const std::string& name) {
@@ -18,7 +18,7 @@ std::string PathOf(const std::string& name) {
   return std::string(folder.data()) + "\\" + name;
 }
 
-/// What a process has read of a profile file it keeps for a while.
+/// Drops the cached contents of the profile file, which a process keeps for a while.
 void ForgetWhatWasRead() { WritePrivateProfileStringA(nullptr, nullptr, nullptr, kSystemIni); }
 
 }  // namespace

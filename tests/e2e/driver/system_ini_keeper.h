@@ -1,5 +1,5 @@
-// What the programs change of the system itself: system.ini, its backup, and two keys of the registry. Kept
-// by one object and put back at its end, with readers and writers for tests in between.
+// Saves what the programs change in the system itself (system.ini, its backup, and two registry keys) and
+// restores it at the end. Tests read and write it with the functions here.
 #pragma once
 
 #include <optional>
@@ -14,12 +14,12 @@ inline constexpr const char* kSystemBackup = "system.qdix";
 inline const KeyPath kTemplates{HKEY_LOCAL_MACHINE,
                                 "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\FS Templates"};
 
-/// The bytes of a file in the Windows directory, or nothing where there is none.
+/// Returns the bytes of a file in the Windows directory, or nothing if it does not exist.
 [[nodiscard]] std::optional<std::string> WindowsFile(const std::string& name);
-/// Makes such a file hold these bytes; nothing deletes it.
+/// Writes these bytes to such a file; without bytes deletes it.
 void SetWindowsFile(const std::string& name, const std::optional<std::string>& bytes);
 
-/// The text of an entry of system.ini, as every program reads it; nothing where there is none.
+/// Returns the text of an entry of system.ini, as every program reads it, or nothing if there is none.
 [[nodiscard]] std::optional<std::string> SystemIniText(const std::string& section, const std::string& key);
 void SetSystemIniText(const std::string& section, const std::string& key, const std::string& text);
 
@@ -28,11 +28,11 @@ class SystemIniKeeper {
   SystemIniKeeper() = default;
   SystemIniKeeper(const SystemIniKeeper&) = delete;
   SystemIniKeeper& operator=(const SystemIniKeeper&) = delete;
-  /// Puts everything back. The programs of the test must have ended.
+  /// Restores everything. The programs of the test must have ended.
   ~SystemIniKeeper() { PutBack(); }
   void PutBack() const;
 
-  /// True while all of it is as it was kept.
+  /// True while everything is as it was saved.
   [[nodiscard]] bool NothingChanged() const;
 
  private:

@@ -1,5 +1,5 @@
-// What the tests change of the machine: the program's keys, system.ini with its backup, and the files beside
-// the programs. Kept by the supervisor, because a test that is ended cannot put anything back.
+// What the tests change on the machine: the program's keys, system.ini with its backup, and the files beside
+// the programs. The supervisor keeps it, because a killed test cannot restore anything.
 #pragma once
 
 #include <map>
@@ -14,7 +14,7 @@ class MachineState {
  public:
   MachineState();
 
-  /// Makes all of it as it was. No program may be running.
+  /// Restores all of it. No program may be running.
   void PutBack() const;
 
  private:

@@ -17,7 +17,7 @@ constexpr UINT kEndedBySupervisor = 98;
 constexpr DWORD kEndLimitMs = 5000;
 constexpr UINT kAnswerLimitMs = 500;
 
-/// The title is asked of the system and not of the window, which may hang.
+/// Asks the system for the title, not the window, which may hang.
 std::string DescribeWindow(HWND window) {
   std::array<char, 128> title{};
   GetWindowTextA(window, title.data(), static_cast<int>(title.size()));

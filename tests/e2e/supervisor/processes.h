@@ -1,4 +1,4 @@
-// The processes of the Windows machine: listed, and ended.
+// Lists and ends the processes of the Windows machine.
 #pragma once
 
 // clang-format off
@@ -18,10 +18,10 @@ struct RunningProcess {
 
 [[nodiscard]] std::vector<RunningProcess> RunningProcesses();
 
-/// One line for each process, with the titles of its windows and whether they answer.
+/// Returns one line per process, with the titles of its windows and whether they answer.
 [[nodiscard]] std::string DescribeProcesses();
 
-/// Ends every process that is neither this one nor among those in `kept`.
+/// Ends every process except this one and those in `kept`.
 void EndAllBut(const std::vector<RunningProcess>& kept);
 
 }  // namespace qdix::e2e

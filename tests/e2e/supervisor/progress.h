@@ -1,5 +1,5 @@
-// What the test program writes down while it runs, for the supervisor that ends it when a test hangs: a file
-// with one line for each test that began.
+// The progress file that the test program writes for the supervisor, which ends it when a test hangs: one
+// line for each test that began.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,14 +10,14 @@
 
 namespace qdix::e2e {
 
-/// Name of the environment variable with the path of the file. Where it is set, tests run; otherwise they are
+/// Name of the environment variable with the path of the file. If it is set, tests run; otherwise they are
 /// supervised.
 inline constexpr const char* kProgressVariable = "QDIX_E2E_PROGRESS";
 
 struct Progress {
-  /// The tests that began, as "Suite.Name"; the last one is running, or was when the program ended.
+  /// The tests that began, as "Suite.Name". The last one is running, or was when the program ended.
   std::vector<std::string> begun;
-  /// Tick count in milliseconds at which the last one began.
+  /// Tick count in milliseconds when the last one began.
   std::uint32_t since_ms = 0;
   /// True once all tests have ended.
   bool is_complete = false;

@@ -16,13 +16,13 @@ namespace {
 
 constexpr DWORD kMinuteMs = 60000;
 constexpr DWORD kLookMs = 200;
-/// What it takes to start a program of this size and see it end on a machine of the speed that a minute is
-/// meant for.
+/// The time that it takes to start a program of this size and see it end on a machine for which one minute
+/// per test is enough.
 constexpr DWORD kUsualStartMs = 60;
 constexpr DWORD kSlowestFactor = 10;
 constexpr std::string_view kFilterFlag = "--gtest_filter=";
 
-/// Of this process alone: supervisors may run inside of each other.
+/// Returns a path that no other process uses: supervisors may run inside each other.
 std::string TemporaryFile(const char* name) {
   std::array<char, MAX_PATH> folder{};
   GetTempPathA(folder.size(), folder.data());
@@ -99,7 +99,7 @@ DWORD Supervisor::MeasureTestLimitMs() {
   return kMinuteMs * factor;
 }
 
-/// A file of flags has room for any number of names; a command line does not.
+/// A flag file has room for any number of names; a command line has not.
 void Supervisor::WriteFilter() const {
   std::string filter = filter_;
   if (!finished_.empty()) {

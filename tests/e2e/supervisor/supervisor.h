@@ -1,6 +1,6 @@
-// Runs the end-to-end tests in a process of their own and watches it from outside. A test that hangs, or that
-// ends the test program, fails alone: the screen is photographed, the processes are listed, what the test
-// left is removed, and a new process runs the tests that are still to come.
+// Runs the end-to-end tests in their own process and watches it from outside. A test that hangs, or that ends
+// the test program, fails alone: the supervisor photographs the screen, lists the processes, removes what the
+// test left, and starts a new process for the remaining tests.
 #pragma once
 
 // clang-format off
@@ -15,16 +15,16 @@
 
 namespace qdix::e2e {
 
-/// Name of the environment variable with the milliseconds that one test may take, instead of what is
-/// measured.
+/// Name of the environment variable with the milliseconds that one test may take, instead of the measured
+/// limit.
 inline constexpr const char* kTestLimitVariable = "QDIX_E2E_LIMIT_MS";
 
 class Supervisor {
  public:
-  /// The arguments that the tests get, the path of the program first.
+  /// Takes the arguments for the tests, the path of the program first.
   explicit Supervisor(std::vector<std::string> arguments);
 
-  /// The exit code for all tests: 0 where every one of them passed.
+  /// Returns the exit code for all tests: 0 if every test passed.
   [[nodiscard]] int Run();
 
  private:
@@ -34,8 +34,8 @@ class Supervisor {
     kDied
   };
 
-  /// How long one test may take: a minute, and longer on a machine that takes long to start a program. The
-  /// tests learn from their environment how much longer.
+  /// Returns how long one test may take: a minute, or more on a machine that starts programs slowly. The
+  /// tests read from their environment how much more.
   [[nodiscard]] static DWORD MeasureTestLimitMs();
   [[nodiscard]] HANDLE StartTests() const;
   [[nodiscard]] End Watch(HANDLE tests) const;

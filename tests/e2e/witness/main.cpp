@@ -1,5 +1,5 @@
-// A program for others to start: writes its command line, the folder it was started in and how its window was
-// to be shown, a line each, into the file witness.txt beside itself, and ends.
+// A program for others to start. Writes its command line, its current folder and its show command, one per
+// line, to the file witness.txt beside itself, and ends.
 #include <windows.h>
 
 #include <array>
@@ -31,7 +31,7 @@ bool Write(const std::string& path, const std::string& text) {
 
 }  // namespace
 
-/// Whoever waits for the report must not find half of it, so it gets its name when it is whole.
+/// A waiting program must not find half of the report, so the file is renamed when it is complete.
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int show) {
   const std::string report = OwnFolder() + "witness.txt";
   const std::string unfinished = OwnFolder() + "witness.tmp";
