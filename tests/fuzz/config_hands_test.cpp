@@ -1,6 +1,6 @@
-// Random hands on all controls of the editor of the program list, OK and Cancel among them, on disks that
-// fill up: the list on the disk is at each moment the one from before or the one that was saved, whole. A
-// failing run prints its seed.
+// Uses all controls of the program-list editor at random, OK and Cancel included, on disks that fill up. At
+// every moment the list on the disk is complete: either the previous one or the saved one. A failing run
+// prints its seed.
 #include <gtest/gtest.h>
 
 #include "tests/fuzz/random_hand.h"
@@ -48,17 +48,18 @@ class ConfigHands : private RandomListMaker {
     hand_.UseAny();
   }
 
-  /// Another program may keep the session going: the window stays, with the list saved or not.
+  /// Another program may keep the session going: the window then stays open, whether the list was saved or
+  /// not.
   void AskForTheEndOfTheSession() {
     const bool was_open = !rig_.form->Window().Unloaded();
     const bool may_end = rig_.form->MaySessionEnd();
     EXPECT_EQ(!rig_.form->Window().Unloaded(), was_open);
     if (rig_.ListOnDisk() == on_disk_) return;
-    EXPECT_TRUE(may_end) << "saved, and the session is held up all the same";
+    EXPECT_TRUE(may_end) << "the list is saved, yet the window refuses the end of the session";
     ExpectSaved();
   }
 
-  /// What a keyboard and a disk give: no control characters.
+  /// What a keyboard and a disk can supply: no control characters.
   static std::string Printable(std::string text) {
     for (char& character : text) {
       if (static_cast<unsigned char>(character) < 0x20U) character = '_';
@@ -76,7 +77,7 @@ class ConfigHands : private RandomListMaker {
     const auto list = rig_.ListOnDisk();
     if (list != on_disk_) {
       ExpectSaved();
-      EXPECT_TRUE(rig_.form->Window().Unloaded()) << "saved, and open all the same";
+      EXPECT_TRUE(rig_.form->Window().Unloaded()) << "the list is saved, yet the window is still open";
     }
     EXPECT_EQ(rig_.machine.ReadFile(kListTemporaryPath), std::nullopt);
     EXPECT_EQ(rig_.Rows().size(), rig_.form->Entries().size());
@@ -91,7 +92,7 @@ class ConfigHands : private RandomListMaker {
   std::optional<std::string> on_disk_;
 };
 
-TEST(ConfigHands, KeepTheListWholeAtEachMoment) { RunHands<ConfigHands>(kEvents); }
+TEST(ConfigHands, KeepTheListCompleteAtEveryMoment) { RunHands<ConfigHands>(kEvents); }
 
 }  // namespace
 }  // namespace qdix::tests

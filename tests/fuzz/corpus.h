@@ -1,5 +1,5 @@
-// Files that somebody thought of, or that once found a fault: what the fuzzers begin with besides pure
-// chance.
+// Files written by hand or kept because they once found a fault. The fuzzers start from them as well as from
+// random input.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -18,14 +18,14 @@ struct CorpusFile {
   std::string bytes;
 };
 
-/// All files of tests/fuzz/corpus/KIND, by name. Ends the tests where there is none.
+/// Returns all files of tests/fuzz/corpus/KIND, sorted by name. Ends the test run if there are none.
 [[nodiscard]] std::vector<CorpusFile> CorpusOf(std::string_view kind);
 
-/// The same file with up to four bytes or pieces changed, cut out, doubled or put in.
+/// Returns the file with up to four bytes or pieces changed, removed, doubled or inserted.
 [[nodiscard]] std::string Damaged(std::string bytes, RandomSource& random);
 
-/// Calls `run(seed)` with one seed after the other, QDIX_FUZZ_RUNS times, until one fails. QDIX_SEED is the
-/// first.
+/// Calls `run(seed)` with successive seeds, QDIX_FUZZ_RUNS times or until one fails. QDIX_SEED is the first
+/// seed.
 template <class Run>
 void RunSeeds(unsigned long runs_by_itself, const Run& run) {
   const unsigned long runs = NumberFromEnvironment("QDIX_FUZZ_RUNS", runs_by_itself);
@@ -36,7 +36,7 @@ void RunSeeds(unsigned long runs_by_itself, const Run& run) {
   }
 }
 
-/// Calls `run(seed, bytes)` with each file of a kind, whole, and then damaged by one seed after the other.
+/// Calls `run(seed, bytes)` with each file of a kind: first undamaged, then damaged by successive seeds.
 template <class Run>
 void RunCorpus(std::string_view kind, unsigned long damages_by_itself, const Run& run) {
   for (const CorpusFile& file : CorpusOf(kind)) {

@@ -1,5 +1,5 @@
-// Random hands on the help viewer, its pane of any size, its printer and its clipboard in any state: what is
-// shown is always a topic of the book at a place that it has. A failing run prints its seed.
+// Uses the help viewer at random, with a pane of any size and its printer and clipboard in any state. It
+// always shows a topic of the book, at a position within that topic. A failing run prints its seed.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -106,7 +106,8 @@ class HelpHands : private RandomSource {
     EXPECT_GE(pane.ScrollPosition(), 0);
     EXPECT_LE(pane.ScrollPosition(), std::max(pane.TheLayout().height - pane.Height(), 0));
     EXPECT_GE(pane.FocusedLink(), -1);
-    // Without a surface nothing is laid out; the link that had the keyboard has it again with the next one.
+    // Nothing is laid out without a surface. The next surface gives the keyboard back to the link that had
+    // it.
     if (has_surface_) {
       EXPECT_LT(pane.FocusedLink(), static_cast<int>(pane.TheLayout().links.size()));
     }
@@ -133,7 +134,7 @@ class HelpHands : private RandomSource {
   bool has_surface_ = false;
 };
 
-TEST(HelpHands, AlwaysSeeATopicAtAPlaceThatItHas) { RunHands<HelpHands>(kEvents); }
+TEST(HelpHands, AlwaysSeeATopicAtAValidPosition) { RunHands<HelpHands>(kEvents); }
 
 }  // namespace
 }  // namespace qdix::tests

@@ -1,5 +1,5 @@
-// Any bytes as the launcher's list: opened without harm and left alone, and what is saved of them comes back
-// as it was shown. Random hands on the window lose nothing either. A failing run prints its seed.
+// Opens arbitrary bytes as the launcher's list. Opening does no harm and changes nothing, and a saved list
+// reads back as it was shown. Random use of the window loses nothing either. A failing run prints its seed.
 #include <gtest/gtest.h>
 
 #include "tests/fuzz/corpus.h"
@@ -26,7 +26,7 @@ class RandomLists : private RandomListMaker {
       ASSERT_EQ(rig_.ListOnDisk(), before) << "changed before OK";
     }
     if (rig_.form->Window().Unloaded()) return;
-    // What is typed and not in the list may be left behind from here on.
+    // From here on, text that was typed but not added to the list may be lost.
     while (rig_.form->Entries().size() > launcher::kMostEntries) Remove();
     const Entries shown = rig_.form->Entries();
     rig_.machine.AnswerNextBox(os::kIdYes);
@@ -40,7 +40,8 @@ class RandomLists : private RandomListMaker {
   }
 
  private:
-  /// No text of the list can be longer than its field, be blank at an end, or hold what cannot be shown.
+  /// No text in the list is longer than its field, has blanks at an end, or contains characters that cannot
+  /// be shown.
   void ExpectShowable() {
     EXPECT_LE(rig_.form->Entries().size(), 100U);
     for (const launcher::LauncherEntry& entry : rig_.form->Entries()) {
@@ -51,14 +52,14 @@ class RandomLists : private RandomListMaker {
     }
   }
 
-  /// Rows of a list are removed by the hand that selects them.
+  /// Selects a row and removes it, as a user does.
   void Remove() {
     rig_.machine.AnswerNextBox(os::kIdYes);
     rig_.Screen().lstPrograms.ChooseIndex(0);
     rig_.Screen().cmdRemove.Press();
   }
 
-  /// One action of a hand; none of them saves or closes.
+  /// Performs one action of the user; none of them saves or closes.
   void Act() {
     config_launcher::ConfigScreen& screen = rig_.Screen();
     const std::size_t count = rig_.form->Entries().size();
@@ -89,7 +90,7 @@ class RandomLists : private RandomListMaker {
     }
   }
 
-  /// What a keyboard and a disk give: no control characters.
+  /// What a keyboard and a disk can supply: no control characters.
   static std::string Printable(std::string text) {
     for (char& character : text) {
       if (static_cast<unsigned char>(character) < 0x20U) character = '_';
@@ -100,11 +101,11 @@ class RandomLists : private RandomListMaker {
   ConfigRig rig_;
 };
 
-TEST(LauncherListFuzz, AnyBytesAndAnyHands) {
+TEST(LauncherListFuzz, AnyBytesAndAnyUse) {
   RunSeeds(300, [](unsigned seed) { RandomLists(seed).Run(); });
 }
 
-TEST(LauncherListFuzz, CorpusWholeAndDamagedAndAnyHands) {
+TEST(LauncherListFuzz, CorpusWholeAndDamagedAndAnyUse) {
   RunCorpus("launcher", 6, [](unsigned seed, const std::string& bytes) { RandomLists(seed).RunWith(bytes); });
 }
 

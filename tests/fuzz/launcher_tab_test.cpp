@@ -1,6 +1,5 @@
-// Any bytes as the launcher's list, in the program that shows it and starts what is in it: each record is a
-// row and can be tried, a list of more than 25 ends the program, and the file stays as it is. A failing run
-// prints its seed.
+// Gives the program arbitrary bytes as the launcher's list. Each record is a row and can be launched, a list
+// of more than 25 records ends the program, and the file is left unchanged. A failing run prints its seed.
 #include <gtest/gtest.h>
 
 #include "base/text.h"
@@ -14,8 +13,8 @@ namespace {
 constexpr const char* kPath = "C:\\Program Files\\QDIX\\launcher.dat";
 constexpr std::size_t kFieldWidths[] = {55, 255, 255};
 
-/// The field of a record, worked out here a second time: blanks for what the file lacks, none at the ends,
-/// nothing from the first NUL on.
+/// Returns a field of a record, worked out independently of the program: blanks for what the file lacks, no
+/// blanks at the ends, nothing from the first NUL on.
 std::string FieldOf(const std::string& file, std::size_t record, std::size_t field) {
   std::size_t begin = record * 565;
   for (std::size_t before = 0; before < field; ++before) begin += kFieldWidths[before];
@@ -26,7 +25,7 @@ std::string FieldOf(const std::string& file, std::size_t record, std::size_t fie
   return std::string(text.c_str());
 }
 
-/// Length by 565, to the nearest whole number; no length is exactly between two.
+/// Length divided by 565, rounded to the nearest whole number; no length is exactly halfway.
 std::size_t RecordsOf(const std::string& file) { return (file.size() + 282) / 565; }
 
 class TabWithFile {
@@ -66,7 +65,7 @@ class TabWithFile {
     }
   }
 
-  /// Nothing of such a name is there: each launch says so and the next one works.
+  /// No file has such a name: each launch reports that, and the next one still works.
   void StartEach() {
     rig_.program->MainWindow().SSTab1.ChooseTab(screens::kLauncherTab);
     ui::ListBox& list = rig_.program->Launcher().List5;

@@ -1,5 +1,5 @@
-// A hand that uses any control of a window in any way that a mouse and a keyboard can, and runs of it with
-// one seed after the other.
+// A random user who works any control of a window in any way that a mouse and a keyboard can, and runs with
+// successive seeds.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -28,14 +28,14 @@ class RandomHand {
  public:
   explicit RandomHand(RandomSource& source) : source_(source) {}
 
-  /// Lays the hand on all controls of a window.
+  /// Collects all controls of a window for the random user.
   void Take(const ui::Form& window) {
     controls_.clear();
     ui::VisitControls(window, ui::ControlVisitor::To<&RandomHand::Note>(*this));
   }
   void UseAny() { Use(*controls_[source_.Random() % controls_.size()]); }
 
-  /// Texts that settings hold, and any bytes.
+  /// Returns typical texts of settings, and arbitrary bytes.
   std::string SomeText() {
     static constexpr std::string_view kLikely = "0123456789.-E MB";
     std::string text;
@@ -46,7 +46,7 @@ class RandomHand {
     return text;
   }
 
-  /// Any answer that the newest box has, so that it is not always the default one.
+  /// Picks any of the buttons of the newest box, not always the default one.
   void Answer(os::SimulatedMachine& machine) {
     const std::uint32_t flags = machine.Boxes().back().flags;
     int answer = os::kIdOk;
@@ -99,11 +99,11 @@ class RandomHand {
   std::vector<ui::Control*> controls_;
 };
 
-/// Events of one run, after which the next seed has its turn.
+/// Events per run; then the next seed starts.
 inline constexpr int kEventsPerRun = 120;
 
-/// Runs `Hands(seed).Run()` with one seed after the other until there were as many events as QDIX_EVENTS asks
-/// for; each run answers how many it had. QDIX_SEED with QDIX_EVENTS=1 replays one run.
+/// Runs `Hands(seed).Run()` with successive seeds until there have been as many events as QDIX_EVENTS asks
+/// for. Each run returns its number of events. QDIX_SEED with QDIX_EVENTS=1 replays one run.
 template <class Hands>
 void RunHands(unsigned long events_by_itself) {
   const unsigned long wanted = NumberFromEnvironment("QDIX_EVENTS", events_by_itself);
@@ -112,7 +112,7 @@ void RunHands(unsigned long events_by_itself) {
   for (unsigned long events = 0; events < wanted; ++seed) {
     SCOPED_TRACE("QDIX_SEED=" + std::to_string(seed));
     const unsigned long events_of_run = Hands(seed).Run();
-    // A program that ends while it starts has had one.
+    // A program that ends while it starts counts as one event.
     events += std::max(events_of_run, 1UL);
     if (testing::Test::HasFailure()) return;
   }

@@ -1,5 +1,5 @@
-// Random settings, then random hands on all controls: nothing crashes, nothing leaks, no value leaves its
-// range, and the program ends when it is closed. A failing run prints its seed, which replays it.
+// Starts with random settings and uses all controls at random: nothing crashes, nothing leaks, no value
+// leaves its range, and the program ends when it is closed. A failing run prints its seed, which replays it.
 #include <gtest/gtest.h>
 
 #include "tests/fuzz/random_hand.h"
@@ -9,7 +9,7 @@ namespace qdix::tests {
 namespace {
 
 constexpr unsigned long kEvents = 18000;
-/// A release of many passes is ended by closing the window, as a user would.
+/// A release of many passes is ended by closing the window, as a user would do.
 constexpr int kPatiencePumps = 30000;
 
 class RandomHands : private RandomSource {
@@ -54,7 +54,8 @@ class RandomHands : private RandomSource {
     }
   }
 
-  /// A text as an entry of system.ini may hold it: likely ones, any bytes, and lengths round the buffer's.
+  /// Returns a text that an entry of system.ini may hold: a likely one, arbitrary bytes, or one about as long
+  /// as the buffer.
   std::string RandomEntry() {
     static constexpr std::string_view kTexts[] = {"",   "0",      "D",      "C:",     "D:\\swap", "on",
                                                   "On", "131072", "100000", "131072", "-5",       "1E300"};
@@ -94,7 +95,7 @@ class RandomHands : private RandomSource {
     rig_.machine.WhileBoxIsOpen([this] { hand_.Answer(rig_.machine); });
   }
 
-  /// A list of any bytes and any length: often one that would be read, now and then too long a one.
+  /// Writes a list of arbitrary bytes and length: often a readable one, sometimes one that is too long.
   void FillLauncher() {
     constexpr unsigned kRecordBytes = 565;
     const unsigned records = Chance(20) ? 26 : Word() % 8;
@@ -130,10 +131,10 @@ class RandomHands : private RandomSource {
     --depth_;
   }
 
-  /// Between two events nothing is held.
+  /// Nothing is held between two events.
   void CheckHoldings() {
     EXPECT_TRUE(rig_.machine.OutstandingBlocks().empty());
-    // Readings of the load between two updates of the graph leave their keys open.
+    // Load readings between two updates of the graph leave their keys open.
     EXPECT_LE(rig_.machine.OpenKeyCount(), readings_);
     EXPECT_EQ(rig_.machine.OpenFileCount(), 0);
     EXPECT_TRUE(rig_.machine.Misuses().empty());
@@ -166,7 +167,7 @@ class RandomHands : private RandomSource {
   RandomHand hand_{*this};
   ProgramRig rig_;
   int depth_ = 0;
-  /// The most readings of the load that the time so far can have brought.
+  /// Upper limit of the load readings that the time so far can have caused.
   int readings_ = 0;
 };
 

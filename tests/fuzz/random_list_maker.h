@@ -1,5 +1,5 @@
-// Files as a damaged disk or another program may leave them where the launcher expects its list. The same
-// seed makes the same files.
+// Makes files that a damaged disk or another program may leave in place of the launcher's list. The same seed
+// makes the same files.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ class RandomListMaker : public RandomSource {
  public:
   using RandomSource::RandomSource;
 
-  /// Likely texts, and any bytes.
+  /// Returns likely texts and arbitrary bytes.
   std::string RandomText(std::size_t most) {
     std::string text;
     for (auto left = Random() % (most + 1); left > 0; --left) {

@@ -1,4 +1,4 @@
-// Chance that a seed replays.
+// Random numbers that a seed repeats.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-// A system.ini as users, programs and installers leave it: any entries in any form, some of them several
-// times, among lines of other programs.
+// Makes a system.ini like those that users, programs and installers leave behind: any entries in any form,
+// some of them repeated, among lines of other programs.
 #pragma once
 
 #include <array>
@@ -13,7 +13,7 @@ class SystemIniMaker {
  public:
   explicit SystemIniMaker(RandomSource& random) : random_(random) {}
 
-  /// With the sections [boot] and [386Enh], and a line break at its end.
+  /// Returns a file with the sections [boot] and [386Enh], and a line break at its end.
   [[nodiscard]] std::string Make() {
     std::string ini = "[boot]" + LineEnd() + "shell=Explorer.exe" + LineEnd() + Foreign();
     const bool has_cache_first = random_.Chance(2);
@@ -45,7 +45,7 @@ class SystemIniMaker {
     return section;
   }
 
-  /// None, one, or several equal lines.
+  /// Returns no line, one, or several equal lines.
   std::string Entries(const char* key) {
     std::string lines;
     const unsigned count = random_.Chance(3) ? 0 : random_.Chance(6) ? 2 + random_.Random() % 3 : 1;

@@ -1,6 +1,6 @@
-// Any system.ini under the tuning tabs and under the program that puts their changes back: whatever stands in
-// it, what other programs keep there stays, the backup is what the file was, and nothing is left open. A
-// failing run prints its seed.
+// Gives any system.ini to the tuning tabs and to the program that undoes their changes. Whatever it contains,
+// the lines of other programs stay, the backup equals the original file, and nothing is left open. A failing
+// run prints its seed.
 #include <gtest/gtest.h>
 
 #include "tests/fuzz/corpus.h"
@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* kOthers = "[OtherProgram]\r\nKeep=this line\r\n";
 
-/// A machine whose system.ini is `ini` with the lines of another program behind.
+/// A machine whose system.ini is `ini` followed by the lines of another program.
 class MachineWithIni {
  public:
   explicit MachineWithIni(const std::string& ini) : before_(ini + "\r\n" + kOthers) {
@@ -29,7 +29,7 @@ class MachineWithIni {
   }
 
  private:
-  /// Every question is answered with Yes but that for the restart.
+  /// Answers Yes to every question except the one about the restart.
   void AnswerBox() {
     const auto& box = rig_.machine.Boxes().back();
     const bool asks = (box.flags & os::kMbYesNo) != 0;

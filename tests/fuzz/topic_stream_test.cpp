@@ -1,5 +1,5 @@
-// Any bytes as the topics of the help, packed and not, and any hands on the window: nothing crashes, no place
-// is out of bounds. A failing run prints its seed.
+// Gives the help arbitrary bytes as topics, packed and unpacked, and uses the window at random: nothing
+// crashes, and no position is out of bounds. A failing run prints its seed.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -41,7 +41,7 @@ class RandomHelp {
     return text;
   }
 
-  /// Letters and blanks above all, then the marks, then any byte.
+  /// Mostly letters and blanks, then the marks of the format, then any byte.
   char RandomCharacter() {
     static constexpr std::string_view kMarks = "\x01\x02\x03\x04\x1F\t0123\n";
     const int kind = Number(9);
@@ -113,7 +113,7 @@ class RandomHelp {
     }
     std::size_t line = 0;
     for (const help_viewer::Piece& piece : layout.pieces) {
-      EXPECT_GE(piece.line, line) << "not in the order of the lines";
+      EXPECT_GE(piece.line, line) << "the pieces are not in line order";
       line = piece.line;
       ASSERT_LT(line, layout.lines.size());
       EXPECT_LE(piece.top + piece.height, layout.height);
@@ -126,11 +126,11 @@ class RandomHelp {
   HelpRig rig_;
 };
 
-TEST(TopicStreamFuzz, AnyStreamAndAnyHands) {
+TEST(TopicStreamFuzz, AnyStreamAndAnyUse) {
   RunSeeds(250, [](unsigned seed) { RandomHelp(seed).Run(); });
 }
 
-TEST(TopicStreamFuzz, CorpusWholeAndDamagedAndAnyHands) {
+TEST(TopicStreamFuzz, CorpusWholeAndDamagedAndAnyUse) {
   RunCorpus("topics", 20, [](unsigned seed, const std::string& bytes) { RandomHelp(seed, bytes).Run(); });
 }
 
@@ -139,7 +139,7 @@ TEST(TopicStreamFuzz, AnyPackedBytes) {
     std::mt19937 random(seed);
     std::string packed;
     for (auto left = random() % 400; left > 0; --left) packed += static_cast<char>(random());
-    // Sizes that are possible, mostly.
+    // Mostly sizes that are possible.
     if (packed.size() >= 4 && random() % 4 != 0) packed[2] = packed[3] = '\0';
     std::size_t size = 0;
     for (std::size_t byte = 0; byte < 4 && packed.size() >= 4; ++byte) {

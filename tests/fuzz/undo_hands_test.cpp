@@ -1,6 +1,6 @@
-// Random hands on the program that puts settings back, on machines whose record, file and disk are in any
-// state: record and backup are never touched, nothing that other programs keep in system.ini is lost, nothing
-// is left open. A failing run prints its seed.
+// Uses the program that undoes settings at random, on machines whose record, file and disk are in any state.
+// It never touches the record and the backup, loses nothing that other programs keep in system.ini, and
+// leaves nothing open. A failing run prints its seed.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -63,7 +63,7 @@ class UndoHands : private RandomSource {
       rig_.machine.LetGoOfFile(kIniPath);
       rig_.machine.LetGoOfFile(kBackupPath);
     }
-    // Another program changes what this one puts back.
+    // Another program changes a setting that this one restores.
     if (Chance(15)) rig_.SetTemplate(Chance(2) ? "Quondix" : "Desktop");
     if (Chance(60)) rig_.form->EndSession();
     if (Chance(60)) rig_.form->Window().Close();

@@ -1,6 +1,6 @@
-// The way back is exact: whatever system.ini was and however often both tuning tabs were saved, putting back
-// all settings makes each of them read as before, and no line of another program is touched. A failing run
-// prints its seed.
+// Undoing is exact: whatever system.ini contained and however often both tuning tabs were saved, undoing all
+// settings makes each of them read as before and touches no line of another program. A failing run prints its
+// seed.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -19,7 +19,7 @@ using Texts = std::array<std::optional<std::string>, undo::kEntries.size()>;
 
 bool IsControl(char character) { return static_cast<unsigned char>(character) < ' '; }
 
-/// Of the entries that the tabs change.
+/// True for the entries that the tabs change.
 bool IsOwnKey(std::string_view section, std::string_view key) {
   return std::any_of(undo::kEntries.begin(), undo::kEntries.end(), [&](const undo::Entry& entry) {
     return entry.IsInSystemIni() && base::EqualsIgnoringCase(entry.section, section) &&
@@ -27,7 +27,8 @@ bool IsOwnKey(std::string_view section, std::string_view key) {
   });
 }
 
-/// All lines but those of the tabs' entries and the heading that the first of them may have made.
+/// Returns all lines except those of the tabs' entries and the section heading that the first of them may
+/// have added.
 std::string ForeignLines(const std::string& content) {
   std::string lines;
   std::string section;
@@ -68,7 +69,7 @@ class WayBack : private RandomSource {
   }
 
  private:
-  /// Every question is answered with Yes but that for the restart, and now and then another one.
+  /// Answers Yes to every question except the one about the restart, and now and then gives another answer.
   void AnswerBox() {
     const auto& box = rig_.machine.Boxes().back();
     const bool asks = (box.flags & os::kMbYesNo) != 0;
@@ -142,7 +143,8 @@ class WayBack : private RandomSource {
     form.Window().Unload();
   }
 
-  /// What the program cannot read whole, or would not fit into one line, it shows and leaves alone.
+  /// An entry that the program cannot read whole, or that would not fit into one line, is shown and left
+  /// alone.
   void ExpectTextsAsBefore() {
     const bool is_recorded =
         rig_.machine.RegistryText(os::kHkeyLocalMachine, kMachineKeyPath, "FirstSave").has_value();
@@ -169,7 +171,7 @@ TEST(WayBackFuzz, ThousandGeneratedFilesReadAsBefore) {
   });
 }
 
-/// With what makes a system.ini whole behind it where that is missing.
+/// Appends the parts of a complete system.ini where the corpus file lacks them.
 TEST(WayBackFuzz, CorpusWholeAndDamagedReadsAsBefore) {
   RunCorpus("system_ini", 10, [](unsigned seed, const std::string& bytes) {
     const bool is_whole = undo::StateOfIni(bytes) == undo::IniState::kWhole;
