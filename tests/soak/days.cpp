@@ -13,15 +13,15 @@ constexpr std::int64_t kSlotMs = 10 * kMinuteMs;
 constexpr int kSlotsPerHour = 6;
 constexpr int kSlotsPerDay = 24 * kSlotsPerHour;
 constexpr int kStartupDelaySeconds = 45;
-/// Half a day before the system's count of milliseconds begins anew.
+/// Half a day before the system's millisecond count wraps round to 0.
 constexpr std::int64_t kUpTimeAtStartMs = (std::int64_t{1} << 32U) - 12 * 60 * kMinuteMs;
 /// 5,000 pumps with nothing to do take about 85 ms.
 constexpr int kPumpsPerStep = 1000;
 constexpr std::int64_t kPumpStepMs = 17;
 constexpr const char* kLoadKey = "PerfStats\\StatData";
-/// More than the program has settings.
+/// More than the number of settings.
 constexpr std::size_t kMostSettings = 30;
-/// Texts of labels that are long at one moment and short at another.
+/// Allows for labels whose texts are sometimes long and sometimes short.
 constexpr std::int64_t kSlackAllocations = 40;
 
 }  // namespace
@@ -58,7 +58,7 @@ void Days::Step(std::int64_t ms) {
   rig_.timers.AdvanceMs(ms);
 }
 
-/// From tick to tick, so that the machine's clock is right inside each.
+/// Advances from tick to tick, which keeps the machine's clock right during each tick.
 void Days::Pass(std::int64_t ms) {
   const std::int64_t end_ms = rig_.timers.NowMs() + ms;
   while (rig_.timers.NowMs() < end_ms) {
@@ -106,7 +106,7 @@ void Days::CheckUpTime() {
                 std::to_string(minutes % 60) + " minutes.");
 }
 
-/// Nothing is held between two events, and all figures are right.
+/// Checks that nothing is held between two events and that all figures are right.
 void Days::CheckSlot() {
   ASSERT_FALSE(rig_.program->Window().Unloaded());
   allocated_ += static_cast<std::int64_t>(rig_.machine.AllAllocations().size());
@@ -124,7 +124,7 @@ void Days::CheckSlot() {
   rig_.machine.ForgetRecords();
 }
 
-/// The only handles that stay open are those of the readings between two updates of the graph.
+/// The only handles that stay open are those of the load readings between two updates of the graph.
 void Days::CheckHour() {
   EXPECT_EQ(rig_.machine.OpenFileCount(), 0);
   const int left_open = forecast_->TakeKeysLeftOpen();

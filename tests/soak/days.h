@@ -1,5 +1,5 @@
-// Days of the whole program on stepped time, with a machine and a user that change by chance. After each ten
-// minutes, hour and day it is looked at from all sides.
+// Days of the whole program in simulated time, with a machine and a user that act at random. Every ten
+// minutes, every hour and every day the whole program is checked.
 #pragma once
 
 #include <optional>
@@ -11,7 +11,7 @@
 
 namespace qdix::tests {
 
-/// What a run has gone through, to show that it went through anything.
+/// Counts what happened in a run, as evidence that something did.
 struct DaysReport {
   std::int64_t ticks = 0;
   std::int64_t blocks = 0;
@@ -27,7 +27,7 @@ class Days {
  public:
   explicit Days(unsigned seed);
 
-  /// Ends early at the first failed check, and prints when that was.
+  /// Stops at the first failed check and prints the simulated time.
   void Run(unsigned long days);
   [[nodiscard]] DaysReport Report() const;
 
@@ -38,11 +38,11 @@ class Days {
   void Step(std::int64_t ms);
   void InsidePump(int number);
   base::Status Activated();
-  // What the machine does by chance.
+  // Random changes of the machine.
   void Weather();
   void RestartTaskbar();
   void ChangeDisk();
-  // What the user does by chance.
+  // Random actions of the user.
   void Hand();
   void HandOnAutomatic();
   void HandOnTimeIntervals();
@@ -60,7 +60,7 @@ class Days {
 
   [[nodiscard]] unsigned Random(unsigned below) { return static_cast<unsigned>(random_() % below); }
   [[nodiscard]] bool Chance(unsigned one_in) { return Random(one_in) == 0; }
-  /// Opens a tab of the window, which is shown for it.
+  /// Brings the window up and opens a tab.
   void Open(screens::Tab tab);
 
   std::mt19937 random_;
@@ -72,7 +72,7 @@ class Days {
   os::WindowHandle taskbar_ = 0;
   os::WindowHandle companion_ = 0;
   bool ini_is_protected_ = false;
-  /// Time that the program waited out while its timers stood still.
+  /// Time that the program spent waiting while its timers stood still.
   std::int64_t waited_ms_ = 0;
   std::int64_t allocated_ = 0;
   std::int64_t warned_ = 0;

@@ -1,4 +1,4 @@
-// What happens to the program by chance in the course of its days.
+// The random events of the days that the program lives through.
 #include <algorithm>
 #include <array>
 
@@ -8,12 +8,12 @@ namespace qdix::tests {
 
 namespace {
 
-/// Megabytes free: from next to nothing to more than any threshold, which is then never met.
+/// Megabytes free: from almost nothing to more than any threshold, which is then never met.
 constexpr std::array<int, 6> kAvailableMb{2, 11, 29, 64, 90, 120};
 constexpr std::array<std::uint32_t, 5> kLoadPercent{0, 15, 79, 80, 100};
 
 constexpr std::string_view kWarning = "Warning - System Resources may be low.";
-/// Beginnings of every other box that the user's hand brings up.
+/// How the texts of all other boxes begin that the user's actions can bring up.
 constexpr std::array<std::string_view, 7> kKnownBoxes{
     "Are you sure you want to save these new cache settings?",
     "You must restart your computer",
@@ -55,7 +55,7 @@ void Days::Weather() {
   }
 }
 
-/// With the shell's message to all windows or, as on the first Windows 95, without it.
+/// With the shell's broadcast message or, as on the first Windows 95, without it.
 void Days::RestartTaskbar() {
   ++report_.taskbar_restarts;
   rig_.machine.CloseWindow(taskbar_);
@@ -124,7 +124,7 @@ void Days::HandOnAutomatic() {
   const int row = static_cast<int>(Random(static_cast<unsigned>(tab.List2.Count())));
   if (forecast_->CanBeMet(std::stod(tab.List2.Item(row)))) tab.List2.ChooseIndex(row);
   tab.List4.ChooseIndex(static_cast<int>(Random(static_cast<unsigned>(tab.List4.Count()))));
-  // Often right at what is free now.
+  // Often exactly the amount that is free now.
   const int threshold_mb = Chance(2) ? static_cast<int>(Random(131)) : conditions_.available_mb - 1;
   tab.VScroll2.Drag(threshold_mb + static_cast<int>(Random(3)));
   if (Chance(3)) tab.Check9.Press();
@@ -161,7 +161,7 @@ void Days::HandOnReleases() {
     forecast_->ExpectManualRelease();
     tab.Command1.Press();
   }
-  // A pause is over at the next visit.
+  // The next visit ends a pause.
   const bool is_paused = tab.Command3.Caption() == "Resume Activity";
   if (is_paused || Chance(3)) tab.Command3.Press();
 }
@@ -183,7 +183,7 @@ void Days::HandOnTray() {
   constexpr double kMouseMoved = 512 * ui::kTwipsPerPixel;
   constexpr double kDoubleClick = 515 * ui::kTwipsPerPixel;
   rig_.program->Window().PointerMoved(0, 0, Chance(3) ? kDoubleClick : kMouseMoved, 0);
-  // None where the shell refuses the change.
+  // There is none if the shell refuses the change.
   if (!rig_.machine.TrayRequests().empty()) {
     EXPECT_EQ(rig_.machine.TrayRequests().back().tip, std::to_string(conditions_.available_mb) + " MB");
   }

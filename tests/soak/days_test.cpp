@@ -1,5 +1,5 @@
-// The whole program, used by chance for days: releases at the moments they must happen, figures right,
-// nothing held that is not needed. A failing run prints its seed and the simulated moment.
+// Uses the whole program at random for days: releases happen exactly when they must, figures are right,
+// nothing is held longer than needed. A failing run prints its seed and the simulated time.
 #include "tests/soak/days.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@
 namespace qdix::tests {
 namespace {
 
-TEST(Soak, DaysOfChanceLeaveEveryFigureRightAndNothingHeld) {
+TEST(Soak, RandomDaysLeaveEveryFigureRightAndNothingHeld) {
   const unsigned long days = NumberFromEnvironment("QDIX_SOAK_DAYS", 2);
   const unsigned seed = FirstSeed();
   SCOPED_TRACE("QDIX_SEED=" + std::to_string(seed));
@@ -24,14 +24,14 @@ TEST(Soak, DaysOfChanceLeaveEveryFigureRightAndNothingHeld) {
             << report.blocks << " blocks, " << report.warnings << " warnings, " << report.keys_left_open
             << " keys of readings left open, " << report.taskbar_restarts << " new taskbars, "
             << report.clock_changes << " changes of the clock, " << report.hands << " visits of the user\n";
-  // A run in which nothing happens would pass as well.
+  // A run in which nothing happens would also pass.
   EXPECT_GT(report.ticks, static_cast<std::int64_t>(days) * 50000);
   EXPECT_GT(report.releases, 0);
   EXPECT_GT(report.warnings, 0);
   EXPECT_GT(report.taskbar_restarts, 0);
 }
 
-TEST(Soak, CounterOfAllocationsCounts) {
+TEST(Soak, AllocationCounterCounts) {
   const std::int64_t before = LiveAllocations();
   auto one = std::make_unique<Days>(FirstSeed());
   EXPECT_GT(LiveAllocations(), before + 100);

@@ -1,11 +1,11 @@
-// How much is allocated at the moment, to see that a long run does not make it more.
+// Counts live allocations, to show that a long run does not accumulate them.
 #pragma once
 
 #include <cstdint>
 
 namespace qdix::tests {
 
-/// Allocations of this whole process that have not been given back.
+/// Returns the number of allocations of this whole process that have not been freed.
 [[nodiscard]] std::int64_t LiveAllocations();
 
 }  // namespace qdix::tests

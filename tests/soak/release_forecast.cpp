@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::int64_t kRetryMs = 10000;
 constexpr int kReadingsInAverage = 8;
-/// What the readings before the first one count as, in percent.
+/// The load, in percent, that the readings before the first one count as.
 constexpr std::uint32_t kEarlierReading = 4;
 constexpr double kBusyPercent = 80;
 constexpr double kOneBlockMb = 250;

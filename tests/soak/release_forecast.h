@@ -1,5 +1,6 @@
-// When the program has to release memory and how much, worked out a second time from what the user and the
-// machine show: the controls, the clock, the memory, the load. Each tick and each block is compared with it.
+// Forecasts when the program has to release memory and how much, independently of the program, from what the
+// user and the machine show: the controls, the clock, the memory, the load. Each tick and each block is
+// compared with the forecast.
 #pragma once
 
 #include <cstdint>
@@ -12,11 +13,11 @@
 
 namespace qdix::tests {
 
-/// What the machine is like at the moment; stands still while a release runs.
+/// The current state of the machine; constant while a release runs.
 struct Conditions {
   int available_mb = 64;
   std::uint32_t load_percent = 10;
-  /// No block of any size can be had.
+  /// No block of any size can be allocated.
   bool refuses_blocks = false;
   /// The companion asks not to be disturbed.
   bool companion_works = false;
@@ -24,30 +25,31 @@ struct Conditions {
 
 class ReleaseForecast {
  public:
-  /// The delay of the start-up release in seconds, up to a minute. The program has just been started.
+  /// `startup_delay_s` is the delay of the start-up release in seconds, at most a minute. The program must
+  /// have just been started.
   ReleaseForecast(ProgramRig& rig, const Conditions& conditions, int startup_delay_s);
 
-  /// Takes over what a hand did to the controls that start and stop timers.
+  /// Takes over the user's changes to the controls that start and stop timers.
   void FollowControls();
-  /// The window comes to the front: the display is refreshed from then on, in a pause as well.
+  /// The window comes to the front: from then on the display is refreshed, also during a pause.
   void WindowActivated();
-  /// The user chose an interval of the timed release.
+  /// The user chose an interval for the timed release.
   void RestartCountdown() { minutes_ = 0; }
   void ResetCounter() { automatic_count_ = 0; }
   /// The user pressed "Free Up RAM Now".
   void ExpectManualRelease();
 
-  /// Blocks that had to be allocated, and warnings that had to be shown, since the start.
+  /// Counts since the start: blocks that had to be allocated, warnings that had to be shown.
   [[nodiscard]] std::int64_t Blocks() const { return blocks_; }
   [[nodiscard]] std::int64_t Warnings() const { return warnings_; }
   [[nodiscard]] std::int64_t Ticks() const { return ticks_; }
-  /// Releases that had to take memory.
+  /// Returns the number of releases that had to take memory.
   [[nodiscard]] std::int64_t Releases() const { return releases_; }
-  /// Handles of the load's key that the readings since the last call have left open.
+  /// Returns how many handles of the load's key the readings since the last call have left open.
   [[nodiscard]] int TakeKeysLeftOpen();
   [[nodiscard]] std::string CounterText() const;
   [[nodiscard]] std::string NextReleaseText() const;
-  /// A check interval that the count of minutes has not passed yet: one that it has is never met.
+  /// True for a check interval that the minute count has not passed yet. One that it has passed is never met.
   [[nodiscard]] bool CanBeMet(double check_seconds) const { return check_seconds / 60 > minutes_unchecked_; }
   void ExpectNothingLate() const;
 
@@ -61,7 +63,7 @@ class ReleaseForecast {
 
   void Bind();
   static void Follow(WatchedTimer& timer, bool& runs, bool runs_now, std::int64_t interval_ms);
-  /// True where the release goes to its end.
+  /// True if the release runs to its end.
   bool ExpectRelease(Amounts kind);
   [[nodiscard]] bool IsHeldBack(const ui::CheckBox& gate) const;
   [[nodiscard]] double IntervalMinutes() const;
@@ -93,7 +95,7 @@ class ReleaseForecast {
   int minutes_ = 0;
   bool checked_ = false;
   bool automatic_finishes_ = false;
-  /// One for each minute or retry that is being handled: the one may tick inside the other.
+  /// One for each minute or retry that is being handled: one may tick inside another.
   std::vector<bool> timed_finishes_;
   bool retry_pending_ = false;
   std::int64_t blocks_ = 0;

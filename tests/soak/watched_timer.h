@@ -1,5 +1,5 @@
-// A timer of the program whose ticks are seen from outside: each must come at the millisecond that is
-// foretold for it, and what has to come of it is worked out before its handler runs and compared afterwards.
+// Watches a timer of the program from outside. Each tick must come at the forecast millisecond; its effects
+// are forecast before its handler runs and compared afterwards.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -21,12 +21,12 @@ class WatchedTimer {
   WatchedTimer(const WatchedTimer&) = delete;
   WatchedTimer& operator=(const WatchedTimer&) = delete;
 
-  /// Counting begins anew now; the first tick comes after one interval.
+  /// Restarts the count now; the first tick comes after one interval.
   void Foretell(std::int64_t interval_ms) {
     interval_ms_ = interval_ms;
     due_ms_ = time_.NowMs() + interval_ms;
   }
-  /// No tick comes any more.
+  /// No more ticks come.
   void ForetellNone() { due_ms_.reset(); }
 
   void ExpectNotLate() const {
