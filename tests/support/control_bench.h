@@ -1,4 +1,4 @@
-// A shown form with a dispatcher, to stand controls on; and a peer that notes what it is told.
+// A shown form with a dispatcher, to place controls on, and a peer that records its notifications.
 #pragma once
 
 #include <functional>
@@ -20,7 +20,7 @@ class NotingPeer final : public ui::ControlPeer {
   std::vector<ui::Change> changes;
 };
 
-/// Notes that a handler ran, and answers with an error where told to.
+/// Counts the runs of a handler, and returns an error on demand.
 class Handled {
  public:
   [[nodiscard]] ui::Handler Handler() { return ui::Handler::To<&Handled::Run>(*this); }

@@ -1,4 +1,4 @@
-// A canvas in memory. Colours are kept as the words that were given, system colours included.
+// A canvas in memory. It keeps colours exactly as given, system colours included.
 #pragma once
 
 #include <algorithm>
@@ -44,7 +44,7 @@ class PixelCanvas final : public ui::Canvas {
   }
 
   [[nodiscard]] ui::Colour At(int x, int y) const { return pixels_.at(Index(x, y)); }
-  /// How often each operation was asked for, whatever came of it; a bordered box is one fill.
+  /// Counts the calls of an operation, whatever their result; a bordered box is one fill.
   [[nodiscard]] int CopyCount() const { return copies_; }
   [[nodiscard]] int FillCount() const { return fills_; }
   void ClearCounts() { copies_ = fills_ = 0; }

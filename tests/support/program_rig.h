@@ -1,5 +1,5 @@
-// The whole program on a simulated machine, with stepped time. A test sets the machine up, starts the
-// program, acts, and looks.
+// The whole program on a simulated machine, in stepped time. A test sets up the machine, starts the program,
+// acts and checks.
 #pragma once
 
 #include <optional>
@@ -15,16 +15,16 @@ namespace qdix::tests {
 inline constexpr double kNoon21November2026 = 46347.5;
 inline constexpr std::uint32_t kMegabyte = 1024 * 1024;
 inline constexpr ui::Colour kBarColour = 0x000000FFU;
-/// Full height of a bar on the graph: a release.
+/// Height of a full bar on the graph, which stands for a release.
 inline constexpr int kFullBarPx = 64;
-/// Interval of the display refresh, with which a reading of the processor load comes.
+/// Interval of the display refresh, which also reads the processor load.
 inline constexpr std::int64_t kRefreshMs = 750;
 inline constexpr std::int64_t kMinuteMs = 60000;
 
 class ProgramRig {
  public:
-  /// A machine with this much memory, half of it available, and a swap file of the same size, a quarter of it
-  /// used.
+  /// Makes a machine with this much memory, half of it available, and a swap file of the same size, a quarter
+  /// of it used.
   explicit ProgramRig(std::uint32_t ram_bytes = 64 * kMegabyte) {
     machine.SetMemory(ram_bytes, ram_bytes / 2, ram_bytes, ram_bytes / 4 * 3);
     machine.SetNow(kNoon21November2026);
@@ -42,16 +42,16 @@ class ProgramRig {
     return std::string("Software\\VB and VBA Program Settings\\QDIX\\") + section;
   }
 
-  /// Marks the machine as one that ran the program before.
+  /// Marks the machine as one that has run the program before.
   void SetHasRunBefore() { machine.SetRegistryValue(os::kHkeyLocalMachine, "SOFTWARE\\QDIX", "HasRun", "1"); }
 
-  /// Makes the program and loads it.
+  /// Creates the program and loads it.
   app::Form1& Start() {
     Create();
     program->Start();
     return *program;
   }
-  /// Makes the program without loading it.
+  /// Creates the program without loading it.
   app::Form1& Create() {
     program.emplace(machine.GetSystem());
     for (ui::Timer* timer : program->Timers()) timers.Add(*timer);
@@ -59,7 +59,7 @@ class ProgramRig {
     return *program;
   }
 
-  /// Lets time pass for the timers; the machine's clock stands still.
+  /// Advances the timers; the machine's clock stands still.
   void AdvanceMs(std::int64_t ms) { timers.AdvanceMs(ms); }
 
   /// Leaves this much memory available, in megabytes as the program shows them (1,024,000 bytes).
@@ -68,10 +68,10 @@ class ProgramRig {
     machine.SetMemory(status.total_physical, static_cast<std::uint32_t>(mb * 1024000), status.total_page_file,
                       status.available_page_file);
   }
-  /// Draws no graph from now on: moving pixels takes most of the time of a long run.
+  /// Stops drawing the graph: moving pixels takes most of the time of a long run.
   void TakeGraphAway() { program->Quondix().XGraphMeter1.SurfaceChanged(nullptr); }
 
-  /// The newest bar of the CPU graph, in pixels from the bottom.
+  /// Returns the newest bar of the CPU graph, in pixels from the bottom.
   [[nodiscard]] int NewestBarPx() const {
     int height = 0;
     while (height < graph.Height() &&

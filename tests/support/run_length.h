@@ -1,19 +1,18 @@
-// How long a run of chance is and where it begins, from the environment: short by itself, long when asked
-// for.
+// Length and first seed of a random run, from the environment: short by default, long on demand.
 #pragma once
 
 #include <cstdlib>
 
 namespace qdix::tests {
 
-/// The number in this variable of the environment; `otherwise` where there is none.
+/// Returns the number in this environment variable, or `otherwise` if it is not set.
 inline unsigned long NumberFromEnvironment(const char* variable, unsigned long otherwise) {
   const char* const text = std::getenv(variable);
   const unsigned long number = text == nullptr ? 0 : std::strtoul(text, nullptr, 10);
   return number == 0 ? otherwise : number;
 }
 
-/// The first seed of a run; a failing one is replayed by naming it.
+/// Returns the first seed of a run. Setting it to the seed of a failed run replays that run.
 inline unsigned FirstSeed() { return static_cast<unsigned>(NumberFromEnvironment("QDIX_SEED", 1)); }
 
 }  // namespace qdix::tests

@@ -1,4 +1,4 @@
-// What every window keeps to: keys that tell its controls apart, and room for each of them.
+// Rules for every window: distinct access keys for its controls, and room for each control.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@
 
 namespace qdix::tests {
 
-/// Everything on a page, at any depth, in tab order.
+/// Collects every control on a page, at any depth, in tab order.
 inline void Collect(const ui::Container& container, std::vector<ui::Control*>& controls) {
   for (ui::Control* child : container.Children()) {
     controls.push_back(child);
@@ -32,7 +32,7 @@ inline bool Encloses(const ui::Place& outer, const ui::Place& inner) {
          inner.top + inner.height <= outer.top + outer.height;
 }
 
-/// A drop-down list's place counts its open list; closed it is this high.
+/// Returns the place of the closed control: the place of a drop-down list includes its open list.
 inline ui::Place Closed(const ui::Control& control) {
   ui::Place place = control.GetPlace();
   const bool drops = control.GetKind() == ui::Kind::kDropDownList;
@@ -40,7 +40,7 @@ inline ui::Place Closed(const ui::Control& control) {
   return place;
 }
 
-/// Each key stands in its caption, and no two controls of a window or tab have the same.
+/// Expects that each access key occurs in its caption and that no two controls of a window or tab share one.
 inline void ExpectDifferentAccessKeys(const std::vector<ui::Control*>& controls) {
   std::map<int, std::string> taken;
   for (const ui::Control* control : controls) {
@@ -54,7 +54,8 @@ inline void ExpectDifferentAccessKeys(const std::vector<ui::Control*>& controls)
   }
 }
 
-/// Each control stands inside the page (a place within itself) and inside its frame, and covers no other.
+/// Expects that each control lies inside the page (a place within itself) and inside its frame, and overlaps
+/// no other.
 inline void ExpectRoomForEach(const std::vector<ui::Control*>& controls, const ui::Place& page) {
   for (std::size_t i = 0; i < controls.size(); ++i) {
     EXPECT_TRUE(Encloses(page, Closed(*controls[i]))) << controls[i]->Name();

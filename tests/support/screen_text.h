@@ -1,4 +1,5 @@
-// A window or tab as text, one control per line in tab order, to compare a whole screen with what it must be.
+// Describes a window or tab as text, one control per line in tab order, to compare a whole screen with its
+// expected layout.
 #pragma once
 
 #include <string>
@@ -41,7 +42,7 @@ inline std::string KindName(const ui::Control& control) {
   }
 }
 
-/// What tells a button or picture from the others of its kind.
+/// Returns what distinguishes a button or picture from others of its kind.
 inline std::string Traits(const ui::Control& control) {
   std::string traits;
   if (control.GetKind() == ui::Kind::kButton) {
@@ -56,7 +57,8 @@ inline std::string Traits(const ui::Control& control) {
   return traits;
 }
 
-/// "Kind name 'caption' (tip) traits", the access key as "&" in the caption. An empty tip is left out.
+/// Returns "Kind name 'caption' (tip) traits", with the access key as "&" in the caption. An empty tip is
+/// left out.
 inline std::string ControlText(const ui::Control& control) {
   std::string text = KindName(control) + " " + std::string(control.Name());
   text += " '" + ui::MarkAccessKey(control.Caption(), control.AccessKey()) + "'";
@@ -67,7 +69,7 @@ inline std::string ControlText(const ui::Control& control) {
   return text;
 }
 
-/// Every control of a container at any depth; what a frame holds is indented below it.
+/// Describes every control of a container at any depth; the contents of a frame are indented below it.
 inline std::string ScreenText(const ui::Container& container, const std::string& indent = "") {
   std::string text;
   for (const ui::Control* const child : container.Children()) {

@@ -1,5 +1,4 @@
-// Time for timers, stepped by hand in milliseconds. Time may be stepped again inside a tick, as an event pump
-// does.
+// Time for timers, stepped in milliseconds by the test. A tick may step it further, as an event pump does.
 #pragma once
 
 #include <algorithm>
@@ -25,7 +24,8 @@ class SteppedTimers final : public ui::TimerPeer {
     }
   }
 
-  /// Runs every tick that falls due, in the order of time; among ticks of one moment in the order of adding.
+  /// Runs every tick that falls due, in order of time; ticks of the same moment run in the order in which
+  /// their timers were added.
   void AdvanceMs(std::int64_t ms) {
     const std::int64_t end_ms = now_ms_ + ms;
     while (Count* next = NextDue(end_ms)) {
@@ -38,7 +38,7 @@ class SteppedTimers final : public ui::TimerPeer {
 
   [[nodiscard]] std::int64_t NowMs() const { return now_ms_; }
 
-  /// How long until the next tick falls due, 0 where one is late; nothing where no timer runs.
+  /// Returns the time until the next tick falls due: 0 if one is late, nothing if no timer runs.
   [[nodiscard]] std::optional<std::int64_t> MsToNextTick() {
     const Count* const next = NextDue(std::numeric_limits<std::int64_t>::max());
     if (next == nullptr) return std::nullopt;

@@ -1,4 +1,4 @@
-// A machine on which the tuning tabs are used: its system.ini, its registry, and the hand that answers boxes.
+// A machine for tests of the tuning tabs: its system.ini, its registry, and a user who answers boxes.
 #pragma once
 
 #include <cmath>
@@ -16,16 +16,17 @@ inline constexpr const char* kTemplatesPath = "SOFTWARE\\Microsoft\\Windows\\Cur
 inline constexpr const char* kOwnTemplatePath =
     "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\FS Templates\\Quondix";
 
-/// Bytes of a machine with this much memory, in megabytes as the program shows them (1,024,000 bytes).
+/// Returns the bytes of a machine with this much memory, in megabytes as the program shows them (1,024,000
+/// bytes).
 inline std::uint32_t MemoryBytes(double mb) { return static_cast<std::uint32_t>(std::lround(mb * 1024000)); }
 
-/// Bytes free on a drive that shows this many free megabytes of 1,024,000 bytes.
+/// Returns the bytes free on a drive that shows this many free megabytes of 1,024,000 bytes.
 inline std::uint64_t FreeBytes(double mb) { return static_cast<std::uint64_t>(std::llround(mb * 1024000)); }
 
 class TuningRig : public ProgramRig {
  public:
-  /// A machine with this much memory, in megabytes of 1,024,000 bytes, that ran the program before, with the
-  /// key of the templates and one fixed drive of 4,000 MB, of which 2,000 are free.
+  /// Makes a machine with this much memory, in megabytes of 1,024,000 bytes. It has run the program before,
+  /// and has the key of the templates and one fixed drive of 4,000 MB, 2,000 of them free.
   explicit TuningRig(double ram_mb = 64) : ProgramRig(MemoryBytes(ram_mb)) {
     SetHasRunBefore();
     machine.SetRegistryValue(os::kHkeyLocalMachine, kTemplatesPath, "", "Desktop");
@@ -46,7 +47,7 @@ class TuningRig : public ProgramRig {
     timers = {};
     machine.EndProcess();
   }
-  /// Ends the program and starts it anew on the same machine.
+  /// Ends the program and starts it again on the same machine.
   app::Form1& Restart(screens::Tab tab) {
     End();
     return StartAt(tab);
@@ -61,7 +62,7 @@ class TuningRig : public ProgramRig {
     return texts;
   }
 
-  /// The recorded calls that change the system, in order, from the given number of calls on.
+  /// Returns the recorded calls that change the system, in order, from call number `first_call` on.
   [[nodiscard]] std::vector<std::string> Changes(std::size_t first_call = 0) const {
     std::vector<std::string> changes;
     for (std::size_t i = first_call; i < machine.Calls().size(); ++i) {
@@ -74,7 +75,7 @@ class TuningRig : public ProgramRig {
     return changes;
   }
 
-  /// The bytes of a value in hexadecimal with its type in front, "none" where it is missing.
+  /// Returns the type of a value and its bytes in hexadecimal, or "none" if it is missing.
   [[nodiscard]] std::string ValueBytes(const char* path, const char* name) const {
     constexpr std::string_view kDigits = "0123456789ABCDEF";
     const auto value = machine.RegistryValue(os::kHkeyLocalMachine, path, name);
