@@ -1,6 +1,6 @@
-// Asks for more memory in one piece than a process can have, and once more out of the message loop of the box
-// that says so. The second failure must end the process; a second box would ask again, and so on without an
-// end.
+// Asks for more memory in one block than a process can have, and asks again from the message loop of the box
+// that reports the failure. The second failure must end the process; a second box would ask again, and so on
+// for ever.
 #include <windows.h>
 
 #include <new>

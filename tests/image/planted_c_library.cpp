@@ -1,4 +1,4 @@
-// A program that imports from the C library, which the first Windows 95 does not bring.
+// Imports from the C library, which the first Windows 95 does not include.
 #include "runtime/entry.h"
 
 extern "C" __declspec(dllimport) int puts(const char* text);

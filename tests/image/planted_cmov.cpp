@@ -1,4 +1,4 @@
-// A program with one instruction of the Pentium Pro in it.
+// Contains one instruction of the Pentium Pro.
 #include "runtime/entry.h"
 
 extern "C" int QdixMain(void* /*instance*/, int show_command) {

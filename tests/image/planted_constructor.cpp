@@ -1,4 +1,4 @@
-// A program with a global object whose constructor nothing would run.
+// Has a global object whose constructor nothing would run.
 #include <string>
 
 #include "runtime/entry.h"

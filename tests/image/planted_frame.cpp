@@ -1,4 +1,4 @@
-// A program with the fault that its name tells: a frame larger than a page, which nothing probes.
+// Has a stack frame larger than a page, which nothing probes.
 #pragma GCC diagnostic ignored "-Wframe-larger-than="
 
 #include "runtime/entry.h"

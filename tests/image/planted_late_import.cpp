@@ -1,4 +1,4 @@
-// A program that imports a function which came with the second release of Windows 95.
+// Imports a function that the second release of Windows 95 introduced.
 #include <windows.h>
 
 #include "runtime/entry.h"

@@ -1,4 +1,4 @@
-// A program that imports two functions which Windows 95 exports only to fail.
+// Imports two functions that Windows 95 exports only as stubs that fail.
 #include <windows.h>
 
 #include "runtime/entry.h"

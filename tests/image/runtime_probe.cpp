@@ -1,6 +1,6 @@
-// Exercises the run time of the shipped programs from inside one: memory functions, new and delete, texts
-// that grow, division of long numbers, rounding at 53 bits. The exit code is 0 when everything came out
-// right, else the number of the step that did not.
+// Exercises the runtime of the shipped programs from inside a program: memory functions, new and delete,
+// growing strings, division of 64-bit numbers, rounding to 53 bits. The exit code is 0 if every step passed,
+// otherwise the number of the step that failed.
 #include <cstdint>
 #include <cstring>
 #include <string>
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Keeps the compiler from working the answer out itself.
+/// Keeps the compiler from computing the result itself.
 template <class T>
 T Hidden(T value) {
   volatile T hidden = value;
@@ -48,8 +48,8 @@ bool LongNumbersDivide() {
          dividend % Hidden<std::int64_t>(10) == -1;
 }
 
-/// With a longer significand the small summand would survive until the difference. The operands stand ready
-/// before: a call in between would store the sum, which rounds it in any case.
+/// With a longer significand the small summand would survive until the subtraction. The operands are loaded
+/// first: a call in between would store the sum, which rounds it in any case.
 bool SumsHave53Bits() {
   const double one = Hidden(1.0);
   const double past_the_last_bit = Hidden(0x1p-60);

@@ -1,4 +1,5 @@
-// The self-test of the run time with this machine's own C library: what it expects is what C++ promises.
+// Runs the runtime probe with the host's own C library, which shows that its expectations are what C++
+// guarantees.
 #include "runtime/entry.h"
 
 int main() { return QdixMain(nullptr, 0); }
