@@ -1,5 +1,6 @@
-// Looks at a running program from outside, and acts on it, for scripts:   qdix_probe [--undo] COMMAND
-// [ARGUMENT...] The exit code is 0 when the answer was found or the deed was done. kUsage has the commands.
+// Inspects a running program from outside, and acts on it, for scripts: qdix_probe [--undo] COMMAND
+// [ARGUMENT...]. The exit code is 0 if the answer was found or the action was done. kUsage lists the
+// commands.
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -77,7 +78,7 @@ int PrintBytes(std::uint64_t bytes) {
   return 0;
 }
 
-/// A setting by its key and its name.
+/// A setting, identified by its key and its name.
 struct Setting {
   explicit Setting(const std::string& path) : name(path.substr(path.find('\\') + 1)) {
     if (path == "Startup\\" + name) key = &qdix::e2e::kStartup;
@@ -85,7 +86,7 @@ struct Setting {
     if (path == "Machine\\" + name) key = &qdix::e2e::kMachineKey;
   }
   std::string name;
-  /// Null where there is no such key.
+  /// Null if there is no such key.
   const qdix::e2e::KeyPath* key = nullptr;
 };
 
@@ -263,14 +264,15 @@ int Run(Arguments arguments) {
   return RunOnControl(program, command, arguments);
 }
 
-/// One process for many questions: where memory is what is measured, starting one for each would change it.
+/// Answers many questions in one process. When memory is measured, starting a process for each question would
+/// change the result.
 int Serve() {
   constexpr std::size_t kMaxWords = 3;
   std::array<char, 200> line{};
   while (std::fgets(line.data(), static_cast<int>(line.size()), stdin) != nullptr) {
     std::vector<std::string> words;
     std::istringstream text(line.data());
-    // A name with blanks is put in quotes. The last word is the rest of the line: texts of rows have blanks.
+    // Quotation marks enclose a name with blanks. The last word is the rest of the line: rows contain blanks.
     for (std::string word; words.size() + 1 < kMaxWords && text >> std::quoted(word, '"', '^');) {
       words.push_back(word);
     }
@@ -287,7 +289,8 @@ int Serve() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // A script reads the first line of `peak` while the program still runs, and `serve` answers line by line.
+  // Unbuffered: a script reads the first line of `peak` while the program still runs, and `serve` answers
+  // line by line.
   std::setvbuf(stdout, nullptr, _IONBF, 0);
   std::setvbuf(stdin, nullptr, _IONBF, 0);
   const Arguments arguments(argv + 1, static_cast<std::size_t>(argc) - 1);
