@@ -1,4 +1,4 @@
-"""README.TXT beside the manual: its sections, and what both name of the registry and of files."""
+"""README.TXT beside the manual: its sections, and the registry keys and files that both name."""
 
 import re
 
@@ -10,7 +10,7 @@ _FILE = re.compile(r"\b(?:system\.qdix|[A-Za-z]\w*\.(?:lnk|LOG))\b")
 
 
 def readme_section(heading: str) -> str:
-    """The text below one of the headings in capitals."""
+    """Returns the text below one of the headings in capitals."""
     found = re.search(rf"^{heading}\n\n(.*?)(?=\n\n\n|\Z)", README.read_text(encoding="ascii"), re.MULTILINE | re.DOTALL)
     if not found:
         raise AssertionError(f"README.TXT has no section {heading}")
@@ -18,12 +18,12 @@ def readme_section(heading: str) -> str:
 
 
 def lines_of(topic: ReadTopic) -> str:
-    """The topic with a line for each line of code, without its marks."""
+    """Returns the topic with a line for each line of code, without its marks."""
     return topic.plain_text() + "\n"
 
 
 def keys_in(text: str) -> list[str]:
-    """Registry keys in their order; one that is too long for its line goes on behind a backslash."""
+    """Returns registry keys in order; a key that is too long for its line continues after a backslash."""
     return [re.sub(r"\\\s*", r"\\", key).strip() for key in _KEY.findall(text)]
 
 

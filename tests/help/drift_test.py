@@ -1,5 +1,5 @@
-"""The manual quotes the program: what it marks as literal stands in the sources so, and what the program can say
-stands in the manual."""
+"""The manual quotes the program: whatever it marks as literal is in the sources, and whatever the program can say is
+in the manual."""
 
 import re
 import unittest
@@ -13,17 +13,17 @@ TOPIC_OF_SCREEN = {"quondix": 4, "automatic": 5, "time_intervals": 6, "startup":
 TAB_OF_SCREEN = {"quondix": "Quondix", "automatic": "Automatic", "time_intervals": "Time Intervals",
                  "startup": "Startup / Other", "launcher": "Launcher", "cache": "Cache Settings",
                  "swap_file": "Optimize Swapfile", "about": "About"}
-# What has no tab of its own, or is known on every tab.
+# Controls without a tab of their own, or known on every tab.
 OF_ALL_TABS = ("main_window.h", "tray_menu.h")
 KNOWN_EVERYWHERE = {"Free Up RAM Now"}
 MESSAGE_TOPICS = (22, 23)
 # Folders without texts for the user: forwarding, control models, and what a form designer shows. The self-test writes
-# into a log, of which README.TXT tells.
+# to a log, which README.TXT describes.
 WITHOUT_MESSAGES = ("src/os/", "src/ui/", "src/screens/", "src/controls/", "src/base/text", "_screen.h",
                     "win32/resources.h", "companions/self_test/")
 # Long texts of the program that are no messages.
 NOT_IN_A_BOX = {
-    # captions and labels that are written while the program runs
+    # captions and labels written while the program runs
     "Total Physical Memory:", "Virtual Memory (Swapfile) :", "%  Available RAM", "MB   Q-DIX",
     "- This reading is Incorrect. See our support page.", "(no name)",
     "Auto Detection feature has detected and released RAM", "Automatic feature has detected and released RAM",
@@ -43,7 +43,7 @@ NOT_IN_A_BOX = {
 
 class DriftTest(ManualCase):
     def test_captions_in_the_topic_of_a_tab_stand_on_its_screen(self):
-        """A control of another tab is named together with that tab."""
+        """Expects a control of another tab to be named together with that tab."""
         screens = {name: captions_of_screen(ROOT / f"src/screens/{name}_screen.h") for name in TOPIC_OF_SCREEN}
         everywhere = KNOWN_EVERYWHERE.union(*(captions_of_screen(ROOT / f"src/screens/{name}") for name in OF_ALL_TABS))
         for screen, number in TOPIC_OF_SCREEN.items():
@@ -59,7 +59,7 @@ class DriftTest(ManualCase):
                 topics_of.setdefault(caption, set()).add(number)
         self.assertGreater(len(topics_of), 30)
         for caption, numbers in topics_of.items():
-            # A control that several tabs have is described once.
+            # A control that is on several tabs is described once.
             described = any(caption in self.topic(number).plain_text() for number in numbers)
             self.assertTrue(described, f"'{caption}' is not in the topics {sorted(numbers)}")
 
@@ -67,7 +67,7 @@ class DriftTest(ManualCase):
         texts = texts_below("src", "companions")
         for topic in self.topics:
             for literal in topic.literals():
-                self.assertTrue(literal.strip() in texts, f"'{literal}' in topic {topic.number} stands nowhere")
+                self.assertTrue(literal.strip() in texts, f"'{literal}' in topic {topic.number} is not in the sources")
 
     def test_every_message_of_the_program_stands_in_the_manual(self):
         quoted = {literal.strip() for number in MESSAGE_TOPICS for literal in self.topic(number).literals()}

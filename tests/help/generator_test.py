@@ -1,4 +1,4 @@
-"""make_help.py: both forms of a small book to the letter, and the texts that it refuses."""
+"""make_help.py: both forms of a small book, compared exactly, and the texts that it refuses."""
 
 import tempfile
 import unittest
@@ -30,7 +30,7 @@ second](07_second.md) & back.
 ![A "window"](pictures/window.gif "With a frame & more")
 """
 SECOND = "# Second\n\nText of the second.\n"
-# The head of a picture, 258 pixels wide and 3 high; nobody looks at the rest.
+# The head of a picture, 258 pixels wide and 3 high; nothing reads the rest.
 PICTURE = b"GIF89a\x02\x01\x03\x00" + bytes(10)
 
 STREAM = (b"SPart\n@0\tFirst\nPA \x01bold\x01 word, a \x02lit  eral\x02, and a link to \x037\x1fthe second\x04 & back.\n"
@@ -89,7 +89,7 @@ class MadeTest(SmallBook):
             self.assertEqual(first.read_bytes(), second.read_bytes())
 
 
-# What is wrong, the text of the second topic, the line that is named, a word of the complaint.
+# What is wrong, the text of the second topic, the line that is reported, a word of the complaint.
 BAD_TOPICS = [
     ("link to nowhere", "# Second\n\nOne\n[x](09_x.md)\n", 4, "'09_x.md' is not a topic"),
     ("link out of the manual", "# Second\n\n[x](http://example.com)\n", 3, "is not a topic"),
@@ -141,7 +141,7 @@ class RefusedTest(SmallBook):
             self.assertEqual(done.returncode, 1, done.stderr)
             self.assertIn(f"{file}:{line}: ", done.stderr)
             self.assertIn(complaint, done.stderr)
-            self.assertFalse(self.target.exists() or page.exists(), "something was made all the same")
+            self.assertFalse(self.target.exists() or page.exists(), "a file was made although the text was refused")
 
     def test_topics(self):
         for what, text, line, complaint in BAD_TOPICS:

@@ -1,4 +1,4 @@
-"""What the tests of the manual have in common: making it, and reading the topics that the viewer is given."""
+"""Shared by the tests of the manual: makes it, and reads the topics that the viewer is given."""
 
 import re
 import subprocess
@@ -23,7 +23,7 @@ def make_help(source: Path, *arguments: str) -> subprocess.CompletedProcess:
 
 
 def made(source: Path, option: str, target: Path) -> Path:
-    """The file or folder, freshly made."""
+    """Returns the newly made file or folder."""
     done = make_help(source, option, str(target))
     if done.returncode != 0:
         raise AssertionError(done.stderr)
@@ -47,7 +47,7 @@ class ReadTopic:
 
 
 def plain(line: str) -> str:
-    """The text without its marks."""
+    """Returns the text without its marks."""
     return re.sub("[\x01\x02]", "", LINK.sub(r"\2", line))
 
 

@@ -4,10 +4,10 @@ import unittest
 
 from manual_parts import HELP, ManualCase, plain
 
-# What the buttons of the program open: the first start, then the tabs in their order.
+# The topics that the program opens: first the first start, then the tabs in order.
 TOPICS_OF_THE_PROGRAM = {0: "First Steps", 4: "Quondix", 5: "Automatic", 6: "Time Intervals", 7: "Startup / Other",
                          8: "Launcher", 9: "Cache Settings", 10: "Optimize Swapfile", 11: "About"}
-# A topic pane of 300 pixels, in a font of about 6 pixels a character.
+# A topic pane of 300 pixels, in a font of about 6 pixels per character.
 PANE_CHARACTERS = 50
 CODE_CHARACTERS = 60
 MOST_BYTES = 48000

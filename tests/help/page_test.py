@@ -9,13 +9,13 @@ import unittest
 
 from manual_parts import HELP, ManualCase, made, plain
 
-# Debian's validator and the definitions of the HTML versions that Debian carries.
+# Debian's validator and Debian's definitions of the HTML versions.
 VALIDATOR = ["onsgmls", "-s", "-wall", "-c", "/usr/share/xml/w3c-sgml-lib/schema/dtd/sgml.soc"]
 DOCTYPE = b'<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 3.2 Final//EN">\r\n'
 
 
 class Page(html.parser.HTMLParser):
-    """Anchors, links, pictures and the text, less its blanks: browsers place those as they like."""
+    """Anchors, links, pictures and the text without its blanks: browsers place those as they like."""
 
     def __init__(self, text: str):
         super().__init__()
@@ -41,14 +41,14 @@ def without_blanks(text: str) -> str:
 
 
 def book_of_contents() -> tuple[str, str]:
-    """Title, then sections and titles of topics as contents.md has them."""
+    """Returns the title, then sections and titles of topics as in contents.md."""
     lines = (HELP / "contents.md").read_text(encoding="utf-8").splitlines()
     texts = [re.sub(r"^- \[(.*)\]\(.*\)$", r"\1", line).lstrip("# ") for line in lines]
     return texts[0], "".join(texts[1:])
 
 
 def captions_of_pictures() -> dict[str, str]:
-    """By the names of the pictures; empty for one without."""
+    """Returns captions by the names of the pictures; empty for a picture without one."""
     found: dict[str, str] = {}
     for path in HELP.glob("*.md"):
         for name, caption in re.findall(r'^!\[[^]]*\]\(pictures/([^ )]+)(?: "([^"]*)")?\)$', path.read_text("utf-8"), re.M):
@@ -57,7 +57,7 @@ def captions_of_pictures() -> dict[str, str]:
 
 
 def complaints(page: bytes) -> str:
-    """What the validator says; empty for a valid page."""
+    """Returns what the validator says; empty for a valid page."""
     with tempfile.NamedTemporaryFile(suffix=".htm") as file:
         file.write(page)
         file.flush()
@@ -126,7 +126,7 @@ class PageTest(ManualCase):
             found = subprocess.run(["identify", "-format", "%m %w %h", self.folder / picture["src"]],
                                    capture_output=True, text=True, check=True).stdout
             self.assertEqual(found, f"GIF {picture['width']} {picture['height']}")
-            # A window of 640 pixels less its frame and scroll bar.
+            # A window of 640 pixels minus its frame and scroll bar.
             self.assertLessEqual(int(picture["width"]), 600)
 
     def test_no_picture_lies_there_for_nothing(self):

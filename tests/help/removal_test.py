@@ -1,4 +1,4 @@
-"""What is left of Q-DIX: manual and README.TXT give one list, qdix.inf takes away what they say it takes away, and
+"""What remains of Q-DIX: manual and README.TXT give the same list, qdix.inf removes what they say it removes, and
 nothing that the programs write is forgotten."""
 
 import re
@@ -22,7 +22,7 @@ OWN_KEYS = ["HKEY_CURRENT_USER\\" + constant("src/app/machine_record.cpp", "kUse
             "HKEY_CURRENT_USER\\" + constant("src/shell/settings_store.cpp", "path").rstrip("\\"),
             "HKEY_LOCAL_MACHINE\\" + constant(PATHS, "kMachineKey")]
 TEMPLATE_KEY = f"HKEY_LOCAL_MACHINE\\{constant(TEMPLATES, 'kTemplatesKey')}\\{constant(TEMPLATES, 'kOwnTemplate')}"
-# Keys of Windows, in which the programs write or read a value: that of the start-up entry, and that of the template.
+# Keys of Windows in which the programs write or read a value: the start-up entry and the template.
 KEYS_OF_WINDOWS = {constant(PATHS, "kRunKey"), constant(TEMPLATES, "kTemplatesKey")}
 FILES_LEFT = {constant("src/tuning/cache/system_ini.h", "kSystemBackup"),
               constant("src/shell/shortcut_names.h", "kShortcutName"),

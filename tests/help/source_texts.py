@@ -1,4 +1,4 @@
-"""The texts that the sources hold: string literals as the compiler joins them."""
+"""The texts in the sources: string literals as the compiler joins them."""
 
 import re
 from collections.abc import Iterator
@@ -22,7 +22,7 @@ _MENU_CAPTION = re.compile(r'ui::MenuItem \w+\{\w+, "\w+", "([^"]+)"\}')
 
 _MENU_TITLE = re.compile(r'ui::MenuItem \w+\{events, "\w+", "([^"]+)"\}')
 
-# A text of so many words is a sentence wherever it stands; a piece of a sentence that is no longer says nothing.
+# A text with at least this many words is a sentence wherever it is. A shorter piece of a sentence proves nothing.
 SENTENCE_WORDS = 5
 SHORT_TEXT = 8
 
@@ -32,7 +32,7 @@ def _unescaped(literal: str) -> str:
 
 
 def texts_of(code: str) -> list[str]:
-    """Literals that stand side by side are one text."""
+    """Joins adjacent literals into one text."""
     texts: list[str] = []
     joins = False
     for token in _TOKEN.finditer(code):
@@ -49,12 +49,12 @@ def texts_of(code: str) -> list[str]:
 
 
 def in_one_line(text: str) -> str:
-    """As the manual quotes a text: a line break is a blank, blanks at the ends are left out."""
+    """Returns a text as the manual quotes it: a line break becomes a blank, blanks at the ends are removed."""
     return re.sub(r"\n+", " ", text).strip()
 
 
 def sources(*folders: str, without: tuple[str, ...] = ()) -> Iterator[str]:
-    """The code of every file of the folders whose path holds none of the parts."""
+    """Returns the code of every file in the folders whose path contains none of the parts."""
     for folder in folders:
         for path in sorted((ROOT / folder).rglob("*")):
             name = path.relative_to(ROOT).as_posix()
@@ -63,12 +63,13 @@ def sources(*folders: str, without: tuple[str, ...] = ()) -> Iterator[str]:
 
 
 def texts_below(*folders: str) -> set[str]:
-    """Texts of all sources of the folders, in one line."""
+    """Returns the texts of all sources in the folders, each in one line."""
     return {in_one_line(text) for code in sources(*folders) for text in texts_of(code)}
 
 
 def messages_below(*folders: str, without: tuple[str, ...] = ()) -> set[str]:
-    """What can come in a box: the words of files that show boxes or hold texts for them, and sentences anywhere."""
+    """Returns what a box can contain: the words of files that show boxes or hold texts for them, and sentences
+    anywhere."""
     found: set[str] = set()
     for code in sources(*folders, without=without):
         fewest_words = 2 if _SHOWS_BOXES.search(code) else SENTENCE_WORDS
@@ -78,17 +79,17 @@ def messages_below(*folders: str, without: tuple[str, ...] = ()) -> set[str]:
 
 
 def captions_of_screen(screen: Path) -> set[str]:
-    """Captions of controls and tabs, and entries of menus."""
+    """Returns captions of controls and tabs, and entries of menus."""
     code = screen.read_text(encoding="utf-8")
     return {texts_of(literals)[0].strip() for literals in _CAPTION.findall(code)} | set(_MENU_CAPTION.findall(code))
 
 
 def menu_captions() -> set[str]:
-    """Of the menu of the tray icon, its own included."""
+    """Returns the captions of the tray menu, including its own."""
     code = (ROOT / "src/screens/tray_menu.h").read_text(encoding="utf-8")
     return set(_MENU_CAPTION.findall(code)) | set(_MENU_TITLE.findall(code))
 
 
 def captions_of_operated_controls(screen: Path) -> set[str]:
-    """Of buttons, check boxes and option buttons that stand on a screen by name."""
+    """Returns the captions of buttons, check boxes and option buttons that have a name on a screen."""
     return {texts_of(literals)[0].strip() for literals in _OPERATED.findall(screen.read_text(encoding="utf-8"))}

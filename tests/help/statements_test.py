@@ -1,4 +1,4 @@
-"""What manual and README.TXT say of windows, buttons and times is so in the sources."""
+"""What manual and README.TXT say about windows, buttons and times is true in the sources."""
 
 import re
 import sys
@@ -13,12 +13,12 @@ sys.path.insert(0, str(ROOT / "tests" / "dist"))
 from setup_text_test import sections_of  # noqa: E402
 
 FIRST_STEPS, QUONDIX, TIME_INTERVALS, LAUNCHER, SWAP_FILE, RELEASE, WHEN_NOT, TRAY = 0, 4, 6, 8, 10, 12, 13, 19
-# What README.TXT quotes from elsewhere: a word of Windows, the beginning of a folder's name, and its own headings.
+# What README.TXT quotes from elsewhere: a word of Windows, the beginning of a folder name, and its own headings.
 QUOTED_FROM_ELSEWHERE = {"Install", "Progra"}
 
 
 def number_in(path: str, pattern: str) -> int:
-    """A number of the program, found by the text before it in a source."""
+    """Returns a number of the program, found by the text before it in a source."""
     return int(re.search(rf"{pattern}(\d+)", (ROOT / path).read_text(encoding="utf-8"))[1])
 
 
@@ -27,7 +27,7 @@ def timer_s(name: str) -> int:
 
 
 def words(text: str) -> str:
-    """A text whose lines may break anywhere."""
+    """Matches a text whose lines may break anywhere."""
     return " ".join(text.split())
 
 

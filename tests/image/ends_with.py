@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Passes when a command ends with the given exit code and says the given text:
+"""Passes if a command ends with the given exit code and prints the given text:
 
 ends_with.py CODE TEXT COMMAND [ARGUMENT...]    CODE is a number, or "failure" for any but 0; TEXT may be empty
 """

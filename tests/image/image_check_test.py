@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""The image check knows the instructions of the 386 from later ones, and sees every fault of a header.
+"""The image check tells instructions of the 386 from later ones, and finds every fault of a header.
 
-image_check_test.py SOUND_EXE [unittest's arguments]    SOUND_EXE is an exe without a fault; copies of it get one each
+image_check_test.py SOUND_EXE [unittest's arguments]    SOUND_EXE is an exe without a fault; each copy of it gets one fault
 """
 import pathlib
 import struct
@@ -75,7 +75,7 @@ class Frames(unittest.TestCase):
 
 
 class Header(unittest.TestCase):
-    """Offsets are those of the 32-bit executable format, from the signature whose place the word at 0x3C tells."""
+    """Offsets are those of the 32-bit executable format, from the signature whose position the word at 0x3C gives."""
 
     def faults_with(self, offset, layout, value):
         content = bytearray(SOUND_EXE.read_bytes())
@@ -116,7 +116,7 @@ class Header(unittest.TestCase):
     def test_directories(self):
         for title, number in (("Thread Storage Directory", 9), ("Base Relocation Directory", 5), ("Debug Directory", 6)):
             with self.subTest(title):
-                # The size alone is planted: an address would make the tools read what is not there.
+                # Only the size is planted: an address would make the tools read what is not there.
                 self.assert_found(f"has a {title}", 120 + 8 * number + 4, "<I", 0x18)
 
     def signature(self):

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The program's icons are what their script draws, in the sizes and colours that Windows 95 takes."""
+"""The program's icons are what their script draws, in the sizes and colours that Windows 95 supports."""
 import pathlib
 import struct
 import sys
@@ -16,7 +16,7 @@ BULB = FOLDER / "bulb.ico"
 
 class Icon(unittest.TestCase):
     def images(self, file):
-        """Width, height, bits a pixel and content of each image."""
+        """Returns width, height, bits per pixel and content of each image."""
         content = file.read_bytes()
         reserved, kind, count = struct.unpack_from("<HHH", content)
         self.assertEqual((reserved, kind), (0, 1))

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The include-direction check finds what it is there to find."""
+"""The include-direction check finds what it must find."""
 import pathlib
 import sys
 import unittest

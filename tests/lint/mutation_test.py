@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""The mutation check changes what it says, and neither comments nor types, declarations, names or places of controls."""
+"""The mutation check changes what it claims to change, and leaves comments, types, declarations, names and positions
+of controls alone."""
 import pathlib
 import subprocess
 import sys
@@ -13,7 +14,7 @@ from carriers import Carriers, plain_name  # noqa: E402
 
 
 def changes_of(source):
-    """Each mutant of a source as its operator and the source that it makes."""
+    """Returns each mutant of a source as its operator and the source that it makes."""
     with tempfile.TemporaryDirectory() as folder:
         path = pathlib.Path(folder) / "a.cpp"
         path.write_text(source, encoding="utf-8")
@@ -23,7 +24,7 @@ def changes_of(source):
 
 class Changes(unittest.TestCase):
     def expect(self, source, operator, *changed):
-        """These and no others of this operator."""
+        """Expects exactly these mutants of this operator."""
         self.assertEqual({text for kind, text in changes_of(source) if kind == operator}, set(changed))
 
     def test_whole_numbers_one_up_and_one_down(self):
@@ -191,7 +192,7 @@ class Report(unittest.TestCase):
 
 
 class ObjectsOfHeaders(unittest.TestCase):
-    """Three small objects, of which two have the class of a header and one the value of a number."""
+    """Makes three small objects, two with the class of a header and one with the value of a number."""
 
     SOURCES = {
         "page.h": "inline constexpr int kMost = 4;\ninline constexpr int kTable[] = {1, 2};\nstruct Page {\n"

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A file counts as changed when anything changed that its analysis depends on, and only then."""
+"""A file counts as changed if and only if something changed that its analysis depends on."""
 import pathlib
 import sys
 import tempfile

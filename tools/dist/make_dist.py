@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Makes what a user downloads out of the shipped build: zip, floppy image, CD image and their sums.
+"""Makes the downloads from the shipped build: zip, floppy image, CD image and their sums.
 
-The same build, texts and time give the same bytes, whatever the clock, the time zone and the order of the folder say.
+The same build, texts and time give the same bytes, whatever the clock, the time zone and the order of the folder.
 """
 import argparse
 import hashlib
@@ -19,37 +19,37 @@ PACKAGING = ROOT / "packaging"
 
 # A build that lacks one of these is not delivered.
 REQUIRED = ("QDIX.exe", "configL.exe", "undo.exe", "help.exe", "QDIXTEST.exe")
-# Programs of the build that only the CD carries, beside everything else.
+# Programs of the build that only the CD has, in addition to everything else.
 CD_ONLY = ("QDIXTEST.exe",)
-# The manual, where the build has made one: one page and its pictures in this folder of the build.
+# The manual, if the build made one: one page and its pictures in this folder of the build.
 MANUAL = "manual"
 MANUAL_FILES = ("help.htm", "*.gif")
 
 VOLUME = "QDIX"
-# Spells QDIX. A fixed one, because mformat would take the clock.
+# Spells QDIX. It is fixed because mformat would use the clock.
 FLOPPY_SERIAL = "51444958"
 FLOPPY_KB = "1440"
 ZIP_METHOD = zipfile.ZIP_DEFLATED
 ZIP_LEVEL = 9
-# 8.3 of the characters that DOS and the strictest CD both know.
+# 8.3 in the characters that both DOS and the strictest CD format allow.
 DOS_NAME = re.compile(r"[A-Za-z0-9_]{1,8}\.[A-Za-z0-9_]{1,3}")
 ASCII_TEXT = re.compile(rb"[\r\n\x20-\x7e]*")
 
 
 class Refusal(Exception):
-    """What keeps this build from being delivered."""
+    """The reason why this build cannot be delivered."""
 
 
 def as_delivered(text, name):
-    """A text as Windows 95 reads it: ASCII, lines ended by CR and LF."""
+    """Returns a text as Windows 95 reads it: ASCII, lines ended by CR and LF."""
     data = text.replace("\n", "\r\n").encode("utf-8")
     if not ASCII_TEXT.fullmatch(data):
-        raise Refusal(f"{name} has a character that is none of printable ASCII")
+        raise Refusal(f"{name} has a character that is not printable ASCII")
     return data
 
 
 def programs_of(build):
-    """Version and shipped programs, as the build itself lists them."""
+    """Returns version and shipped programs, as the build itself lists them."""
     listed = json.loads((build / "shipped.json").read_text(encoding="utf-8"))
     programs = {pathlib.Path(path).name: pathlib.Path(path).read_bytes() for path in listed["programs"]}
     missing = sorted(set(REQUIRED) - set(programs))
@@ -63,7 +63,8 @@ def manual_of(build):
 
 
 def texts_of(version, names):
-    """The texts, by their delivered names. The installation lists every file, itself and the other texts included."""
+    """Returns the texts by their delivered names. The installation lists every file, including itself and the other
+    texts."""
     def read(path):
         return path.read_text(encoding="utf-8").replace("@VERSION@", version)
 
@@ -72,7 +73,8 @@ def texts_of(version, names):
     setup_text = read(PACKAGING / "qdix.inf.in")
     setup_text = setup_text.replace("@FILES@", "\n".join(listed))
     setup_text = setup_text.replace("@SOURCES@", "\n".join(f"{name}=1" for name in listed))
-    # COMMAND.COM has left a batch file whose last line has no end before it runs that line, which deletes the file.
+    # COMMAND.COM closes a batch file whose last line has no line break before it runs that line, which deletes the
+    # file.
     removal_text = read(PACKAGING / removal).removesuffix("\n")
     texts = {readme: read(PACKAGING / readme), licence: read(ROOT / "LICENSE"), removal: removal_text, setup: setup_text}
     return {name: as_delivered(text, name) for name, text in texts.items()}
@@ -81,13 +83,13 @@ def texts_of(version, names):
 def check_names(names):
     for name in names:
         if not DOS_NAME.fullmatch(name):
-            raise Refusal(f"{name} is no name of DOS")
+            raise Refusal(f"{name} is not a DOS file name")
     if len({name.lower() for name in names}) != len(names):
-        raise Refusal("two files differ in nothing but the case of their names")
+        raise Refusal("the names of two files differ only in case")
 
 
 def stage(folder, files, at):
-    """Writes the files into a folder, all of the same time; returns their paths, sorted."""
+    """Writes the files into a folder, all with the same time; returns their paths, sorted."""
     folder.mkdir()
     for name, data in files.items():
         (folder / name).write_bytes(data)
@@ -100,7 +102,7 @@ def write_zip(target, paths, at):
     with zipfile.ZipFile(target, "w") as archive:
         for path in paths:
             entry = zipfile.ZipInfo(path.name, time.gmtime(at)[:6])
-            entry.create_system = 0  # MS-DOS: old programs take the attributes of others for their own
+            entry.create_system = 0  # MS-DOS: old programs misread the attributes of other systems as theirs
             entry.create_version = entry.extract_version = 20
             archive.writestr(entry, path.read_bytes(), ZIP_METHOD, ZIP_LEVEL)
 
@@ -124,7 +126,7 @@ def write_cd(target, folder, at):
 
 
 def make(build, output, at):
-    """Makes the downloads anew, complete or not at all."""
+    """Makes the downloads again, completely or not at all."""
     version, programs = programs_of(build)
     files = {**{name: data for name, data in programs.items() if name not in CD_ONLY}, **manual_of(build)}
     files |= texts_of(version, files)

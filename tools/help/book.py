@@ -1,11 +1,11 @@
-"""What the manual is made of once its texts are read: topics of blocks, blocks of spans."""
+"""The parts of the manual once its texts are read: topics of blocks, blocks of spans."""
 
 from dataclasses import dataclass
 from pathlib import Path
 
 
 class SourceError(Exception):
-    """A text that the manual cannot be made from, with file and line."""
+    """A text that cannot become part of the manual, with file and line."""
 
     def __init__(self, path: Path, line: int, message: str):
         super().__init__(f"{path}:{line}: {message}")
@@ -59,7 +59,7 @@ class CodeLine:
 class Picture:
     path: Path
     alternative: str
-    caption: str  # for those who see the picture, empty for none
+    caption: str  # for readers who see the picture; empty if there is none
     width: int
     height: int
 

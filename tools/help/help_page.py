@@ -8,7 +8,7 @@ from book import Block, Book, Bullet, CodeLine, Heading, Paragraph, Picture, Row
 DOCTYPE = '<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 3.2 Final//EN">'
 COLOURS = 'BGCOLOR="#FFFFFF" TEXT="#000000" LINK="#0000FF" VLINK="#800080"'
 CONTENTS = "Contents"
-# What encloses blocks that follow each other; the others stand by themselves.
+# Elements that enclose consecutive blocks; the other blocks need none.
 ENCLOSURES = {
     Bullet: ("<UL>", "</UL>"),
     Step: ("<OL>", "</OL>"),
@@ -75,7 +75,7 @@ def _text(spans: Spans) -> str:
     forms = {
         "text": lambda span: _escaped(span.text),
         "bold": lambda span: f"<STRONG>{_escaped(span.text)}</STRONG>",
-        # Texts of the screen are exact, double blanks included, which a browser would make one.
+        # Texts of the screen are exact, including double blanks, which a browser would collapse.
         "literal": lambda span: f"<B>{_escaped(span.text).replace('  ', '&nbsp; ')}</B>",
         "link": lambda span: f'<A HREF="#topic{span.topic}">{_escaped(span.text)}</A>',
     }
@@ -87,5 +87,5 @@ def _escaped(text: str) -> str:
 
 
 def _attribute(text: str) -> str:
-    """HTML 3.2 left the named entity of the quotation mark out."""
+    """Escapes without the named entity of the quotation mark, which HTML 3.2 lacks."""
     return _escaped(text).replace('"', "&#34;")

@@ -1,10 +1,10 @@
 #!/usr/bin/python3
 """Makes the two forms of the manual from its texts:
 
-  make_help.py --source FOLDER --topics FILE      the topics, as the help viewer takes them
+  make_help.py --source FOLDER --topics FILE      the topics, as the help viewer reads them
   make_help.py --source FOLDER --html FOLDER      help.htm, with its pictures beside it
 
-A text that it has no form for is refused with file and line. The same texts give the same bytes.
+Refuses a text that it has no form for, with file and line. The same texts give the same bytes.
 """
 
 import argparse

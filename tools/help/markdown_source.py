@@ -1,4 +1,4 @@
-"""Reads one Markdown file into blocks and refuses whatever the manual has no form for.
+"""Reads one Markdown file into blocks and refuses anything that the manual has no form for.
 
 Allowed are one "# title" first, "## subheadings", paragraphs, bullets, numbered steps, simple tables, **bold**,
 `literal`, code, links to other topics and pictures that stand alone. The title of a picture is its caption.
@@ -14,16 +14,16 @@ from markdown_it.tree import SyntaxTreeNode
 from book import (Block, Bullet, CodeLine, Heading, Paragraph, Picture, Row, SourceError, Span, Spans, Step)
 
 ENCODING = "cp1252"
-# What fits beside the contents in a window for a 640-pixel screen, in a font of fixed width.
+# Fits beside the contents in a window for a 640-pixel screen, in a fixed-width font.
 MOST_CODE_CHARACTERS = 60
 TOPIC_FILE = re.compile(r"(\d{2})_[a-z0-9_]+\.md")
 PICTURE_FILE = re.compile(r"pictures/[a-z0-9]{1,8}\.gif")
-# Numbers of the picture's width and height in the head of the file, little-endian 16-bit words.
+# Width and height of the picture in the head of the file, little-endian 16-bit words.
 GIF_SIZE_OFFSET = 6
 
 
 class MarkdownSource:
-    """One file. Its lines are counted from 1."""
+    """One file. Its lines count from 1."""
 
     def __init__(self, path: Path, topic_files: frozenset[str]):
         self._path = path
@@ -47,13 +47,13 @@ class MarkdownSource:
         return text
 
     def title(self) -> str:
-        """The first line, which every file has."""
+        """Returns the first line, which every file has."""
         if not self.nodes or not _is_heading(self.nodes[0], "#"):
             raise self.fail(1, "does not begin with '# title'")
         return self.plain_text(self.nodes[0])
 
     def blocks(self) -> tuple[Block, ...]:
-        """All that follows the title."""
+        """Returns everything after the title."""
         return tuple(block for node in self.nodes[1:] for block in self._blocks_of(node))
 
     def plain_text(self, heading: SyntaxTreeNode) -> str:
@@ -88,7 +88,7 @@ class MarkdownSource:
         return Paragraph(self.spans(inline))
 
     def item(self, node: SyntaxTreeNode) -> Spans:
-        """The text of a list item, which is one paragraph."""
+        """Returns the text of a list item, which is one paragraph."""
         if [child.type for child in node.children] != ["paragraph"]:
             raise self.fail(line_of(node), "a list item is one paragraph")
         return self.spans(node.children[0].children[0])
@@ -130,7 +130,7 @@ class MarkdownSource:
         return Picture(path, image.content, str(image.attrs.get("title", "")), width, height)
 
     def spans(self, inline: SyntaxTreeNode) -> Spans:
-        """Running text; a line break of the source is a blank."""
+        """Returns running text; a line break of the source becomes a blank."""
         line = line_of(inline)
         spans: list[Span] = []
         for node in inline.children:

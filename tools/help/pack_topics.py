@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Packs the topic stream for help.exe:   pack_topics.py STREAM PACKED
 
-The form is described in companions/help_viewer/packed_stream.h. Of all ways to divide the stream into bytes and
-repetitions the shortest is taken, so the same stream always gives the same bytes.
+The form is described in companions/help_viewer/packed_stream.h. Among all divisions of the stream into bytes and
+repetitions it uses the shortest, so the same stream always gives the same bytes.
 """
 import pathlib
 import struct
@@ -11,13 +11,14 @@ import sys
 MOST_DISTANCE = 1 << 12
 SHORTEST = 3
 LONGEST = SHORTEST + 15
-# Bits of an item with its flag.
+# Bits of an item including its flag.
 BYTE_COST = 9
 REPETITION_COST = 17
 
 
 def longest_repetitions(data):
-    """For each place the length and distance of the longest repetition of what stands before it; length 0 for none."""
+    """Returns for each position the length and distance of the longest repetition of earlier bytes; length 0 if there
+    is none."""
     places = {}
     found = []
     for here in range(len(data)):
@@ -37,7 +38,7 @@ def longest_repetitions(data):
 
 
 def items_of(data):
-    """The bytes (an int) and repetitions (length, distance) of the shortest division."""
+    """Returns the bytes (an int) and repetitions (length, distance) of the shortest division."""
     found = longest_repetitions(data)
     costs = [0] * (len(data) + 1)
     lengths = [1] * len(data)

@@ -9,7 +9,7 @@ CONTENTS_FILE = "contents.md"
 
 
 def read_book(folder: Path) -> Book:
-    """Every topic of the folder stands in the contents exactly once, under its own title."""
+    """Checks that the contents list every topic of the folder exactly once, under its own title."""
     contents_path = folder / CONTENTS_FILE
     if not contents_path.is_file():
         raise SourceError(contents_path, 1, "is missing")

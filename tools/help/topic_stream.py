@@ -1,5 +1,5 @@
-"""The book as the help viewer takes it: one line a block, its first byte says what it is. The viewer shows no pictures,
-and a caption is left out with them.
+"""The book as the help viewer reads it: one line per block, whose first byte is its kind. The viewer shows no pictures,
+so pictures and their captions are left out.
 
 Inside a text \\x01 switches bold, \\x02 literal; \\x03 number \\x1F text \\x04 is a link.
 """
@@ -7,12 +7,12 @@ Inside a text \\x01 switches bold, \\x02 literal; \\x03 number \\x1F text \\x04 
 from book import Block, Book, Bullet, CodeLine, Heading, Paragraph, Picture, Row, Spans, Step
 from markdown_source import ENCODING
 
-# The viewer carries the stream inside itself, and it has to stay small.
+# The viewer contains the stream, and it must stay small.
 MOST_BYTES = 48000
 
 
 class StreamTooLong(Exception):
-    """The texts have to become shorter."""
+    """The texts must become shorter."""
 
 
 def topic_stream(book: Book) -> bytes:

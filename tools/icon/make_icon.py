@@ -9,18 +9,18 @@ as uncompressed bitmaps, which is what Windows 95 reads.
 import struct
 import sys
 
-# The sixteen colours that every display of the time has, red green blue.
+# The sixteen colours that every display of the time has, as red, green, blue.
 VGA = [(0, 0, 0), (128, 0, 0), (0, 128, 0), (128, 128, 0), (0, 0, 128), (128, 0, 128), (0, 128, 128), (192, 192, 192),
        (128, 128, 128), (255, 0, 0), (0, 255, 0), (255, 255, 0), (0, 0, 255), (255, 0, 255), (0, 255, 255),
        (255, 255, 255)]
-# Softer shades that only the richer pictures use, behind the sixteen.
+# Softer shades after the sixteen, for the pictures with 256 colours only.
 SHADES = [(16, 44, 72), (36, 84, 124), (84, 140, 180), (64, 64, 64), (0, 192, 192), (224, 224, 224), (160, 160, 160)]
 
 TRANSPARENT = -1
 
 
 class Palette:
-    """Numbers of the colours a picture is drawn with."""
+    """Numbers of the colours that a picture uses."""
 
     def __init__(self, rich):
         first = len(VGA)
@@ -42,7 +42,7 @@ def fill(picture, left, top, right, bottom, colour):
 
 
 def draw_pins(picture, size, palette):
-    """Pins on both sides, each a light row over a dark one."""
+    """Draws pins on both sides, each a light row over a dark one."""
     step, reach = (5, 4) if size == 32 else (4, 2)
     for y in range(step - 1, size - step + 1, step):
         for left, right in ((0, reach), (size - 1 - reach, size - 1)):
@@ -63,7 +63,7 @@ def draw_body(picture, size, palette):
 
 
 def draw_gauge(picture, size, palette, body):
-    """Segments from the bottom up, the lower ones lit."""
+    """Draws segments from the bottom up, the lower ones lit."""
     left, right, top, bottom = body
     inset, height, count, lit = (5, 3, 5, 3) if size == 32 else (3, 2, 4, 2)
     gap = 1
@@ -87,7 +87,7 @@ def draw(size, rich):
 
 
 def rows_bottom_up(picture, bits, value_of):
-    """Packed rows, padded to four bytes."""
+    """Returns packed rows, padded to four bytes."""
     packed = b""
     for row in reversed(picture):
         number = 0
@@ -98,7 +98,7 @@ def rows_bottom_up(picture, bits, value_of):
     return packed
 
 
-# A letter a pixel: outline, glass, shine, socket and its shadow.
+# One letter per pixel: outline, glass, shine, socket and its shadow.
 BULB = """
 ................
 .....oooooo.....
@@ -130,7 +130,7 @@ def bitmap(picture, bits):
     table = b"".join(struct.pack("4B", blue, green, red, 0) for red, green, blue in colours[:1 << bits])
     colour_rows = rows_bottom_up(picture, bits, lambda pixel: max(pixel, 0))
     mask_rows = rows_bottom_up(picture, 1, lambda pixel: int(pixel == TRANSPARENT))
-    # The height counts the picture and its mask.
+    # The height includes the picture and its mask.
     header = struct.pack("<IiiHHIIiiII", 40, size, size * 2, 1, bits, 0, len(colour_rows) + len(mask_rows), 0, 0, 0, 0)
     return header + table + colour_rows + mask_rows
 
@@ -144,7 +144,7 @@ def bulb():
 
 
 def icon(pictures):
-    """The file of pictures, each with the bits of a pixel."""
+    """Returns the file of the pictures, each with its bits per pixel."""
     kinds = [(len(picture), bits) for picture, bits in pictures]
     images = [bitmap(picture, bits) for picture, bits in pictures]
     directory = struct.pack("<HHH", 0, 1, len(kinds))

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Checks that a finished exe loads on the first Windows 95 and runs on any processor from the 386 with a 387.
 
-Imports must be names that Windows 95 exports and not as a stub that only fails, every instruction must be on the list of the 386 and 387 (but for two guarded ones in a section of their
-own), and the header must be one that Windows 95 takes. Prints what it found; exits with 1 when anything is wrong.
+Imports must be names that Windows 95 exports, and not as a stub that only fails. Every instruction must be on the list
+of the 386 and 387, except for two guarded ones in a section of their own. The header must be one that Windows 95
+accepts. Prints its findings and exits with 1 if anything is wrong.
 """
 import argparse
 import pathlib
@@ -30,9 +31,9 @@ fpatan fprem fprem1 fptan frndint frstor fsave fnsave fscale fsin fsincos fsqrt 
 fsubr fsubrp ftst fucom fucomp fucompp fwait fxam fxch fxtract fyl2x fyl2xp1
 """.split())
 ALLOWED = I386 | I387
-# What may stand in this section and nowhere else: the guarded questions to processors that know them.
+# Instructions allowed only in this section: the guarded ones for processors that have them.
 NEWER_SECTION = ".newcpu"
-# A page is 4,096 bytes; no probe walks down a larger frame, and a call needs room below it.
+# A page is 4,096 bytes. No probe walks down a larger frame, and a call needs room below it.
 MOST_FRAME_BYTES = 3500
 NEWER = {"cpuid", "rdtsc"}
 PREFIXES = {"rep", "repz", "repnz", "lock", "cs", "ds", "es", "ss", "fs", "gs", "data16", "addr16"}
@@ -43,7 +44,7 @@ SECTION = re.compile(r"^Disassembly of section (?P<name>\S+):$")
 
 
 class Image:
-    """What objdump tells of an exe."""
+    """What objdump reports about an exe."""
 
     def __init__(self, path):
         self.path = path
@@ -75,7 +76,8 @@ class Image:
         return found
 
     def end_of_code(self):
-        """Address behind the code. The linker puts the empty lists of constructors and destructors there, which are data."""
+        """Returns the address after the code. The linker puts the empty lists of constructors and destructors there,
+        which are data."""
         match = re.search(r"^\s*\d+ \.text\s+([0-9a-f]+)\s+([0-9a-f]+)\s+[0-9a-f]+\s+([0-9a-f]+)", self.headers, re.MULTILINE)
         size, address, offset = (int(part, 16) for part in match.groups())
         code = self.path.read_bytes()[offset:offset + size].rstrip(b"\0") + b"\0" * 4
@@ -84,7 +86,7 @@ class Image:
         return address + size
 
     def instructions(self):
-        """Section, address and text of each instruction."""
+        """Yields section, address and text of each instruction."""
         end = self.end_of_code()
         section = ""
         for line in self._run("-d", "-w").splitlines():
@@ -119,7 +121,7 @@ def is_allowed(section, text):
 
 
 def frame_bytes(text):
-    """How far an instruction moves the stack down at once; 0 for any other."""
+    """Returns how far an instruction lowers the stack pointer at once; 0 for any other."""
     match = re.match(r"\s*(?:sub[lw]?\s+\$0x([0-9a-f]+)|add[lw]?\s+\$0x(f[0-9a-f]{7})|lea[lw]?\s+-0x([0-9a-f]+)\(%esp\)),%esp", text)
     if not match:
         return 0

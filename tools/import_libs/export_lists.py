@@ -1,7 +1,8 @@
-"""Reads the lists in cmake/win95-exports: what the libraries of the first Windows 95 export, and what of that works there."""
+"""Reads the lists in cmake/win95-exports: the exports of the first Windows 95's libraries, and which of them work
+there."""
 import pathlib
 
-# Lists whose lines name a library as well: "kernel32!MoveFileExA".
+# Lists whose lines also name a library: "kernel32!MoveFileExA".
 LATER = "later-than-95"
 STUBS = "stubs-in-95"
 
@@ -11,12 +12,12 @@ def _lines(path):
 
 
 def exported_names(folder):
-    """The exported names of each library, without the extension of its file name."""
+    """Returns the exported names of each library, keyed by its file name without extension."""
     return {path.stem: set(_lines(path)) for path in pathlib.Path(folder).glob("*.txt") if path.stem not in (LATER, STUBS)}
 
 
 def listed_names(folder, stem):
-    """The names of each library in a list whose lines name the library as well."""
+    """Returns for each library its names in a list whose lines name the library too."""
     found = {}
     for line in _lines(pathlib.Path(folder) / f"{stem}.txt"):
         dll, _, name = line.partition("!")

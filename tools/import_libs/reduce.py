@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""Cuts Debian's import libraries down to the names that the first Windows 95 exports, and not as a stub that only fails.
+"""Cuts Debian's import libraries down to the names that work on the first Windows 95: exported, and not as a stub.
 
-A member of an import library stands for one function and defines the symbol __imp__NAME@N. Members of other names are deleted from a copy, and with
-them the members that hold code. What is left is enough for a link and makes a later function, or a stub, a link error.
+A member of an import library represents one function and defines the symbol __imp__NAME@N. Members with other names,
+and the members that contain code, are deleted from a copy. The rest is enough for a link, and makes the use of a later
+function, or of a stub, a link error.
 """
 import argparse
 import pathlib
@@ -21,7 +22,7 @@ IMPORT_SYMBOL = re.compile(r"^__imp__(?P<name>.+?)(@\d+)?$")
 def members_to_drop(library, names):
     listing = subprocess.run([NM, "-A", "-g", "--defined-only", str(library)], check=True, capture_output=True,
                              text=True).stdout
-    # The head and the tail of the import table belong to every link.
+    # Every link needs the head and the tail of the import table.
     kept = {f"{library.stem}h.o", f"{library.stem}t.o"}
     for line in listing.splitlines():
         location, _, symbol = line.rpartition(" ")

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""Checks who includes whom: layers point one way, and only the win32 folders know the system's headers.
+"""Checks include directions: layers point one way, and only the win32 folders include the system's headers.
 
-Also finds conditional compilation for a platform outside those folders. Prints each violation; exits with 1 when there is one.
+Also finds conditional compilation for a platform outside those folders. Prints each violation and exits with 1 if there
+is one.
 """
 import pathlib
 import re
@@ -23,8 +24,8 @@ LAYERS = {
     "companion": {"base", "os", "ui"},
     "runtime": set(),
 }
-# The companion programs: nothing of each other and nothing of the main program's window, but for the self-test, which
-# opens the windows of all.
+# The companion programs may include nothing of each other and nothing of the main program's window. Only the
+# self-test may, because it opens the windows of all.
 COMPANIONS = {
     "undo": {"base", "os", "ui", "shell", "tuning", "companion"},
     "help_viewer": {"base", "os", "ui", "shell", "companion"},
@@ -47,7 +48,7 @@ def knows_the_system(path):
 
 
 def violations_of(path, text, folder="src"):
-    """Violations of one file; `path` is relative to the folder that it lies in, src/ or companions/."""
+    """Returns the violations of one file; `path` is relative to its root folder, src/ or companions/."""
     layers = ROOTS[folder]
     layer = layer_of(path)
     here = f"{folder}/{path}"

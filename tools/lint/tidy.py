@@ -1,9 +1,8 @@
 #!/usr/bin/env python3
 """Runs clang-tidy over the sources of one build folder:   tidy.py BUILD_DIR
 
-A host build covers the portable code, a cross build the code of the win32 folders and the run time. A file that was
-found clean is looked at again only when it, a header of ours that it includes, its compiler command or the rules
-changed.
+A host build covers the portable code, a cross build the win32 folders and the runtime. A clean file is checked again
+only if it, a header of ours that it includes, its compiler command or the rules changed.
 """
 import concurrent.futures
 import hashlib
@@ -19,7 +18,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 SHIPPED_FOLDERS = ("src", "companions")
 CLANG_TIDY = "clang-tidy"
 OWN_INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.MULTILINE)
-# Flags of the one compiler that the other does not know.
+# Compiler flags that clang does not know.
 UNKNOWN_TO_CLANG = re.compile(r" -ffloat-store| -fno-tree-loop-distribute-patterns| -fno-inline-functions-called-once"
                               r"| -mno-accumulate-outgoing-args| -mpreferred-stack-boundary=2")
 CROSS_COMPILER = "i686-w64-mingw32-g++-win32"
@@ -34,7 +33,7 @@ def is_shipped(path):
 
 
 def included_files(file):
-    """The file and all headers of ours that it reaches, sorted."""
+    """Returns the file and all headers of ours that it reaches, sorted."""
     reached = set()
     waiting = [file]
     while waiting:
@@ -49,7 +48,7 @@ def included_files(file):
 
 
 def cross_arguments():
-    """What tells clang where the cross compiler's headers are."""
+    """Returns the options that tell clang where the cross compiler's headers are."""
     library = subprocess.run([CROSS_COMPILER, "-print-libgcc-file-name"], check=True, capture_output=True, text=True).stdout
     headers = pathlib.Path(library.strip()).parent / "include" / "c++"
     folders = [headers, headers / "i686-w64-mingw32", headers / "backward", "/usr/i686-w64-mingw32/include"]
@@ -65,7 +64,7 @@ def digest(file, command, common):
 
 
 def check(file, stamp, arguments):
-    """What clang-tidy says of one file; nothing when the file is clean, which its stamp remembers."""
+    """Returns what clang-tidy reports for one file; nothing if the file is clean, which its stamp records."""
     if stamp.exists():
         return False, ""
     run = subprocess.run([CLANG_TIDY, "--quiet", *arguments, str(file)], cwd=ROOT, capture_output=True, text=True)
@@ -102,7 +101,7 @@ def main():
             print(complaint)
     looked_at = sum(fresh for fresh, _ in results)
     faulty = sum(bool(complaint) for _, complaint in results)
-    print(f"tidy: {len(files)} files, {looked_at} looked at, {faulty} with complaints")
+    print(f"tidy: {len(files)} files, {looked_at} checked, {faulty} with complaints")
     sys.exit(1 if faulty or not files else 0)
 
 

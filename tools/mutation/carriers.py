@@ -1,8 +1,8 @@
-"""Which objects carry the code of a header into the program.
+"""Finds the objects that carry the code of a header into the program.
 
 Functions and tables of a header are compiled into many objects, and the linker keeps the first of each. So one object
-with the changed code, in front of all others, changes the program. Numbers are different: each object that uses one has
-it inside.
+with the changed code, linked before all others, changes the program. Numbers are different: each object that uses one
+contains it.
 """
 import functools
 import pathlib
@@ -24,7 +24,7 @@ def plain_name(symbol):
 
 
 def symbols_of(objects):
-    """For each source the names that its object defines."""
+    """Returns for each source the names that its object defines."""
     found = {}
     for source, path in objects.items():
         lines = subprocess.run(["nm", "-C", "--defined-only", path], capture_output=True, text=True,
@@ -53,8 +53,8 @@ class Carriers:
         return symbols_of(self.tests)
 
     def smallest_with(self, name):
-        """The source with the smallest object that defines a name. Where no object of the program does, a test's: the
-        window of a companion is made by its entry, which the unit tests do without. None where no object does."""
+        """Returns the source with the smallest object that defines a name, preferably one of the program. Only objects of
+        tests define the windows of companions, which their entries make outside the unit tests."""
         for objects, symbols in ((self.objects, self.symbols), (self.tests, self.test_symbols)):
             defining = [source for source, names in symbols.items() if name in names]
             if defining:
@@ -62,7 +62,7 @@ class Carriers:
         return []
 
     def users_of(self, name):
-        """The sources that have the value of a name inside: by themselves, or with a class whose header names it."""
+        """Returns the sources that contain the value of a name: directly, or through a class whose header names it."""
         word = re.compile(rf"\b{name}\b")
         users = {source for source in self.objects if word.search(self.texts[source])}
         for header in self.headers:
@@ -72,7 +72,7 @@ class Carriers:
         return sorted(users)
 
     def of(self, owner):
-        """The sources to compile for a change in a header; see Mutant.owner."""
+        """Returns the sources to compile for a change in a header; see Mutant.owner."""
         if owner not in self.known:
             holder, name = owner
             with_the_function = self.smallest_with(f"{holder}::{name}") if holder else []
@@ -81,6 +81,6 @@ class Carriers:
 
 
 def include_name(header, folders):
-    """The name by which sources include a header, from a folder of the compiler's path."""
+    """Returns the name by which sources include a header, relative to a folder of the compiler's path."""
     folder = next(folder for folder in folders if header.is_relative_to(folder))
     return pathlib.PurePath(header.relative_to(folder))

@@ -1,14 +1,14 @@
-"""Other values that a literal of the source could have."""
+"""Replacement values for a literal of the source."""
 import re
 
-# A piece of a text between quotation marks, and in it what is one character: an escape or a letter.
+# A piece of a text between quotation marks, and one character in it: an escape or a letter.
 PIECE = re.compile(r'"(?:\\.|[^"\\\n])*"')
 CHARACTER = re.compile(r"\\x[0-9a-fA-F]+|\\[0-7]+|\\.|[A-Za-z]")
 DOUBLE_BLANK = re.compile(r"(?<=\S)  (?=\S)")
 
 
 def changed_number(literal):
-    """The last digit one up, and for whole numbers one down as well."""
+    """Returns the number with its last digit one higher, and for whole numbers also one lower."""
     match = re.fullmatch(r"(0[xX][0-9a-fA-F]+|\d+)([uUlL]*)", literal)
     if match:
         value = int(match[1], 0) if match[1][:2] in ("0x", "0X") else int(match[1])
@@ -29,7 +29,8 @@ def next_letter(letter):
 
 
 def changed_text(literal):
-    """A text, of one or more pieces, that is empty, has another letter in its middle, or one blank of two."""
+    """Returns variants of a text of one or more pieces: empty, with another letter in the middle, with one blank
+    instead of two."""
     if not literal.startswith('"') or literal == '""':
         return []
     others = ['""']

@@ -1,12 +1,11 @@
 #!/usr/bin/python3
-"""How much do the unit tests notice?   mutate.py --sample 300 --seed 1 [FILE[:LINE] or FOLDER...]
+"""How much do the unit tests catch?   mutate.py --sample 300 --seed 1 [FILE[:LINE] or FOLDER...]
 
 Changes the portable sources in one place at a time (a constant, a text, a flag, an operator, the ends of a range; an
-entry of a table left out or in another place; two statements in the other order; a statement or a call left out), a
-random sample of all such changes, and counts what the unit tests catch. The report names each survivor;
-build/mutation/report.txt keeps it. One that never ends counts as caught. Of the headers the screens are changed; the
-others hold little that runs, and a change there would compile most of the program again. The same seed draws the same
-sample from the same sources.
+entry of a table left out or moved; two statements swapped; a statement or a call left out). Makes a random sample of
+all such changes, and counts how many the unit tests catch. The report, build/mutation/report.txt, names each survivor.
+A change that never ends counts as caught. Of the headers only the screens are changed: the others contain little code,
+and a change there would recompile most of the program. The same seed draws the same sample from the same sources.
 """
 import argparse
 import collections
@@ -21,7 +20,8 @@ import workshop  # noqa: E402
 
 SCREENS = ("src/screens/*.h", "companions/*/*_screen.h")
 LEFT_OUT = {"win32", "simulated", "runtime"}
-# The checks of a real machine: no unit test runs them, because a simulated machine answers as they expect by construction.
+# The checks of a real machine. No unit test runs them, because a simulated machine gives the expected answers by
+# construction.
 ON_REAL_MACHINES = {"companions/self_test/reading_checks.cpp"}
 
 
@@ -39,12 +39,12 @@ def is_asked_for(mutant, places):
 
 
 def may_hold(name, places):
-    """True where a file can have mutants that are asked for."""
+    """True if a file can have mutants that are requested."""
     return not places or any(f"{name}/".startswith(place.split(":")[0].rstrip("/") + "/") for place in places)
 
 
 def report(results, total):
-    """The lines of the report; `results` are pairs of a verdict and a description."""
+    """Returns the lines of the report; `results` are pairs of a verdict and a description."""
     count = collections.Counter(verdict for verdict, _ in results)
     judged = count["caught"] + count["survived"]
     yield from (f"survived: {text}" for verdict, text in results if verdict == "survived")
@@ -54,7 +54,8 @@ def report(results, total):
 
 
 def all_mutants(shop, places):
-    """In the order of the sources. Reading one as the compiler does takes about a second, so they are read side by side."""
+    """Returns the mutants in the order of the sources. Parsing a source takes about a second, so sources are parsed
+    in parallel."""
     names = {path: path.relative_to(workshop.ROOT).as_posix() for path in sources()}
     wanted = [path for path, name in names.items() if may_hold(name, places)]
     with concurrent.futures.ProcessPoolExecutor(workshop.JOBS) as pool:

@@ -1,7 +1,7 @@
 """Finds the small changes ("mutants") that can be made in a source file, with libclang's view of the program.
 
-Only what runs is changed: bodies of functions, and initialisers of variables and members. Comments, directives, types
-and declarations stay as they are, and so do names and places of controls.
+Only code that runs is changed: bodies of functions, and initialisers of variables and members. Comments, directives, types
+and declarations stay as they are, and so do names and positions of controls.
 """
 import dataclasses
 import pathlib
@@ -18,12 +18,12 @@ FUNCTIONS = {CursorKind.FUNCTION_DECL, CursorKind.CXX_METHOD, CursorKind.CONSTRU
 VARIABLES = {CursorKind.VAR_DECL, CursorKind.FIELD_DECL}
 CLASSES = {CursorKind.CLASS_DECL, CursorKind.STRUCT_DECL}
 BINARY = {CursorKind.BINARY_OPERATOR, CursorKind.COMPOUND_ASSIGNMENT_OPERATOR}
-# Statements that may be left out or change places. A return with a value or a declaration may not.
+# Statements that may be left out or swapped. A return with a value or a declaration may not.
 MOVABLE = {CursorKind.IF_STMT, CursorKind.FOR_STMT, CursorKind.CXX_FOR_RANGE_STMT, CursorKind.WHILE_STMT,
            CursorKind.DO_STMT, CursorKind.SWITCH_STMT}
 JUMPS = {CursorKind.BREAK_STMT, CursorKind.CONTINUE_STMT}
 BODY_HOLDERS = {CursorKind.IF_STMT, CursorKind.FOR_STMT, CursorKind.CXX_FOR_RANGE_STMT, CursorKind.WHILE_STMT}
-# What stands in front of a variable's initialiser: types, not values.
+# What precedes a variable's initialiser: types, not values.
 REFERENCES = {CursorKind.TYPE_REF, CursorKind.TEMPLATE_REF, CursorKind.NAMESPACE_REF}
 
 COMPARISONS = {"<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">", "<"), "==": ("!=",), "!=": ("==",)}
@@ -35,19 +35,19 @@ STEPS = {"++": "--", "--": "++"}
 CONSTRUCTED = {CursorKind.CONSTRUCTOR, CursorKind.CONVERSION_FUNCTION}
 SCALARS = {TypeKind.BOOL, TypeKind.CHAR_S, TypeKind.SHORT, TypeKind.USHORT, TypeKind.INT, TypeKind.UINT, TypeKind.LONG,
            TypeKind.ULONG, TypeKind.LONGLONG, TypeKind.ULONGLONG, TypeKind.DOUBLE, TypeKind.ENUM, TypeKind.POINTER}
-# The result of an operation without a value; one that was left out has succeeded.
+# The result of an operation without a value. An operation that was left out has succeeded.
 STATUS = "qdix::base::Result<void>"
 # Constants of the system come in kinds, such as kMb...: flags, access rights, keys, messages.
 SYSTEM_CONSTANTS = ("src", "os")
 KIND_OF_CONSTANT = re.compile(r"k[A-Z][a-z0-9]*(?=[A-Z])")
-# No user sees the name of a control; tests find it by that name.
+# No user sees the name of a control; tests find the control by it.
 NAME_OF_CONTROL = re.compile(rb"\.name =\s*$")
-# The order in which handlers are bound is seen by nobody: none runs before all are bound.
+# The order in which handlers are bound has no effect: none runs before all are bound.
 BINDING = re.compile(r"^\S+\s*=\s*[\w:]*(Handler|Callback<[^;]*>)::To<", re.DOTALL)
-# An assignment that calls nothing and reads no memory but by name.
+# An assignment that calls nothing and reads memory only by name.
 PATH = r"[\w.]+"
 PLAIN_ASSIGNMENT = re.compile(r"([\w.]+)\s*=\s*([\w.:?<>!&|+/ -]*);")
-# Characters of a change that a report shows.
+# Length in characters to which a report shortens a change.
 LONGEST_SHOWN = 120
 
 
@@ -56,12 +56,12 @@ def shortened(text):
 
 
 def overlap(one, other):
-    """True where one of two variables is the other or a part of it: a and a.b."""
+    """True if one of two variables is the other or a part of it: a and a.b."""
     return one == other or one.startswith(other + ".") or other.startswith(one + ".")
 
 
 def order_matters(one, other):
-    """False where nobody can tell the order of two statements by their kind alone."""
+    """False if the order of two statements of these kinds can have no effect."""
     if BINDING.match(one) and BINDING.match(other):
         return False
     first, second = PLAIN_ASSIGNMENT.fullmatch(one), PLAIN_ASSIGNMENT.fullmatch(other)
@@ -74,8 +74,8 @@ def order_matters(one, other):
 
 @dataclasses.dataclass(frozen=True, order=True)
 class Mutant:
-    """The bytes from `start` to `end` of the file become `text`. `owner` names what is compiled with them: a class and its
-    function (for an initialiser of a member its constructor), or the empty text and a name of the file."""
+    """Replaces the bytes from `start` to `end` of the file with `text`. `owner` names what is compiled with them: a class
+    and its function (for a member initialiser its constructor), or the empty text and a name in the file."""
     file: str
     start: int
     end: int
@@ -97,7 +97,7 @@ def plain_type(kind):
 
 
 def siblings_of(declaration):
-    """Names of the constants of the kind of a constant, itself included, in their order."""
+    """Returns the names of all constants of the same kind as this one, itself included, in order."""
     if declaration is None:
         return []
     if declaration.kind == CursorKind.ENUM_CONSTANT_DECL:
@@ -122,7 +122,7 @@ class Finder:
         self.name = name
         self.source = path.read_bytes()
         self.owner = ("", "")
-        # Where statements begin and end: a call that is one is left out as one.
+        # Where statements begin and end: a call that is a statement is left out as a statement.
         self.whole = set()
         self.mutants = set()
 
@@ -143,7 +143,7 @@ class Finder:
         return sorted(self.mutants)
 
     def declaration(self, cursor):
-        """Looks for what runs, through namespaces and classes."""
+        """Searches namespaces and classes for code that runs."""
         if cursor.kind in FUNCTIONS | VARIABLES:
             is_member = cursor.semantic_parent.kind in CLASSES
             holder = cursor.semantic_parent.spelling if is_member else ""
@@ -159,7 +159,8 @@ class Finder:
                 self.declaration(child)
 
     def initialiser(self, variable):
-        """Values of a variable, which stand behind its name; what stands before, or between [ and ] or as a width, is its type."""
+        """Finds values of a variable, which follow its name. What precedes it, or is between [ and ] or a width, is
+        its type."""
         for child in variable.get_children():
             start = child.extent.start.offset
             is_type = child.kind in REFERENCES or start < variable.location.offset
@@ -210,7 +211,7 @@ class Finder:
         return re.fullmatch(r"[\w:]+", self.text_of(cursor.extent.start.offset, cursor.extent.end.offset)) is not None
 
     def name_of_constant(self, cursor):
-        """A constant of an enumeration or of the system becomes the next of its kind."""
+        """Replaces a constant of an enumeration or of the system with the next of its kind."""
         if cursor.kind != CursorKind.DECL_REF_EXPR or not self.is_name(cursor):
             return
         siblings = siblings_of(cursor.referenced)
@@ -232,7 +233,7 @@ class Finder:
                 self.add(operator, first, last, text, self.source[:first].count(b"\n") + 1)
 
     def call(self, cursor):
-        """A call inside of an expression that is not made: its argument in its place, or a value without one."""
+        """Leaves out a call inside an expression: its argument replaces it, or a value if it has none."""
         called = cursor.referenced
         if cursor.kind != CursorKind.CALL_EXPR or called is None or called.kind in CONSTRUCTED:
             return
@@ -250,7 +251,8 @@ class Finder:
             self.add("call left out", start, end, f"decltype({self.text_of(start, end)}){{}}", line)
 
     def binary(self, cursor, children):
-        """An operator between two operands; one that a class defines comes as a call with three parts."""
+        """Replaces an operator between two operands. An operator that a class defines appears as a call with three
+        parts."""
         if cursor.kind in BINARY and len(children) == 2:
             left, right = children
         elif cursor.kind == CursorKind.CALL_EXPR and len(children) == 3 and children[1].spelling.startswith("operator"):
@@ -291,7 +293,7 @@ class Finder:
             self.add("arithmetic", start, start + 1, "", line)
 
     def bounds(self, statement):
-        """From the first byte of a statement to behind its semicolon."""
+        """Returns the range from the first byte of a statement to just after its semicolon."""
         start, end = statement.extent.start.offset, statement.extent.end.offset
         behind = re.match(rb"\s*;", self.source[end:])
         return start, end + (behind.end() if behind else 0)
@@ -319,7 +321,7 @@ class Finder:
                 self.add("order", start, end, swapped, first.extent.start.line)
 
     def bodies(self, holder, children):
-        """Bodies without braces: they are statements too, and the condition in front is none."""
+        """Finds bodies without braces: they are also statements, and the condition before them is not."""
         for child in children[1:]:
             is_body = re.match(rb"\s*;", self.source[child.extent.end.offset:]) is not None
             before = self.source[holder.extent.start.offset:child.extent.start.offset].rstrip()
@@ -328,5 +330,5 @@ class Finder:
 
 
 def mutants_of(path, name, arguments):
-    """All mutants of the file at `path`, sorted; `name` is what they call it."""
+    """Returns all mutants of the file at `path`, sorted; `name` is the file name that they report."""
     return Finder(path, name).find(arguments)

@@ -1,11 +1,11 @@
-"""What can be changed in a braced list: its entries, their order, and the ends of a range."""
+"""Changes to a braced list: its entries, their order, and the ends of a range."""
 import itertools
 import re
 
 from clang.cindex import TypeKind
 
 ARRAYS = {TypeKind.CONSTANTARRAY, TypeKind.INCOMPLETEARRAY}
-# Places of controls: photographs show whether they are right, and no test could say more than the number again.
+# Positions of controls: photographs show whether they are right, and a test could only repeat the numbers.
 PLACES = re.compile(r"\b(?:ui::)?Place$")
 END_OF_RANGE = r"\.{}\s*=\s*([^,{{}}]+?)\s*(?=[,}}])"
 
@@ -24,7 +24,7 @@ def is_table(cursor, source, children):
 
 
 def entry_changes(source, entries):
-    """Operator, start, end and text of each change of a list; `entries` are the places of its entries."""
+    """Yields operator, start, end and text of each change of a list; `entries` are the positions of its entries."""
     for (start, end), following in itertools.zip_longest(entries, entries[1:]):
         if following:
             yield "entry left out", start, following[0], ""
@@ -37,7 +37,7 @@ def entry_changes(source, entries):
 
 
 def turned_range(text):
-    """The text of a record with the ends of its range exchanged; None for another record."""
+    """Returns the text of a record with the ends of its range swapped; None for another record."""
     ends = [re.search(END_OF_RANGE.format(name), text) for name in ("minimum", "maximum")]
     if None in ends:
         return None

@@ -1,9 +1,9 @@
-"""Builds the unit tests once, and then again and again with one object file exchanged, or a few for a header; tells
-which mutants they catch.
+"""Builds the unit tests once, then once per mutant with one object file replaced, or a few for a header. Reports which
+mutants they catch.
 
-The sources of the tree are never touched: a mutant is compiled from a file of its own, and its object goes to the
-linker in front of all others, in the place of the true one or before the library that holds it. A changed header hides
-the true one from the compiler.
+The sources of the tree are never touched: a mutant is compiled from a file of its own, and its object comes first in the
+link, instead of the original or before the library that contains it. A changed header hides the original from the
+compiler.
 """
 import dataclasses
 import json
@@ -21,7 +21,7 @@ BUILD = ROOT / "build" / "mutation"
 JOBS = max(1, min(2, os.cpu_count() or 1))
 # Tests that take longer run last, whatever they test.
 SLOW_S = 0.25
-# Processor time, so that a busy machine condemns nothing; a mutant that takes so much more never ends.
+# Processor time, so that a busy machine condemns nothing. A mutant that takes this many times longer never ends.
 LIMIT_FACTOR = 3
 LIMIT_LEAST_S = 4
 MEMORY_LIMIT = 4 << 30
@@ -29,9 +29,9 @@ FOLDERS = ("src", "companions")
 TEST_FOLDERS = ("tests/unit",)
 # Tests of what a screen shows.
 SCREEN_TESTS = ("screen", "tool_tips")
-# A header whose change would compile more is left alone.
+# A header whose change would compile more sources is left alone.
 MOST_CARRIERS = 6
-# A little behind whoever else works on the machine.
+# Runs at slightly lower priority than other work on the machine.
 NICE = ["nice", "-n", "1"]
 
 
@@ -47,7 +47,8 @@ def must(command, **options):
 
 
 def without_cache(command):
-    """A changed source is compiled once: asking the compiler's cache costs time and finds nothing."""
+    """Drops the compiler's cache from a command: a changed source is compiled only once, so a look-up costs time and
+    finds nothing."""
     return command[1:] if pathlib.PurePath(command[0]).name == "ccache" else command
 
 
@@ -74,12 +75,12 @@ class Workshop:
                                  sorted(path for folder in FOLDERS for path in (ROOT / folder).rglob("*.h")))
 
     def object_of(self, source):
-        """Relative to the build folder, as the linker is told it."""
+        """Returns the path of an object as the linker gets it, relative to the build folder."""
         command = self.commands[source]
         return command[command.index("-o") + 1]
 
     def objects(self, folders):
-        """The objects of the sources in some folders, by their sources."""
+        """Returns the objects of the sources in some folders, by source."""
         found = {}
         for source in self.commands:
             path = BUILD / self.object_of(source)
@@ -94,7 +95,7 @@ class Workshop:
         must([*NICE, "ninja", f"-j{JOBS}", "-C", BUILD, "unit_tests"])
 
     def measure(self):
-        """The unit tests in their order, with the time that each takes; all must pass before anything is changed."""
+        """Returns the unit tests in order, with the time that each takes. All must pass before anything is changed."""
         listing = BUILD / "baseline.json"
         must([BUILD / "unit_tests", f"--gtest_output=json:{listing}"], cwd=BUILD)
         suites = json.loads(listing.read_text(encoding="utf-8"))["testsuites"]
@@ -103,12 +104,12 @@ class Workshop:
                 for suite in suites for test in suite["testsuite"]]
 
     def parse_arguments(self, source):
-        """What libclang has to know of the way in which a source is compiled."""
+        """Returns the options with which libclang parses a source as the compiler does."""
         command = self.commands[source] if source in self.commands else self.command_with(source)
         return [word for word in command if word.startswith(("-I", "-D", "-std="))]
 
     def command_with(self, header):
-        """The command of a source of the same program: src or one of the companions."""
+        """Returns the compile command of a source of the same program: src or one of the companions."""
         parts = 2 if header.is_relative_to(ROOT / "companions") else 1
         program = ROOT.joinpath(*header.relative_to(ROOT).parts[:parts])
         return next(self.commands[source] for source in self.carriers.objects if source.is_relative_to(program))
@@ -118,7 +119,7 @@ class Workshop:
         return include_name(header, [ROOT / folder for folder in FOLDERS])
 
     def sources_of(self, mutant):
-        """What has to be compiled for a mutant; empty for one that is left alone."""
+        """Returns the sources to compile for a mutant; empty for one that is left alone."""
         changed = ROOT / mutant.file
         if changed in self.commands:
             return [changed]
@@ -126,7 +127,8 @@ class Workshop:
         return sources if len(sources) <= MOST_CARRIERS else []
 
     def rounds(self, source):
-        """The tests in the order in which they are likely to notice: of this file, of its folder, the rest, the slow."""
+        """Returns the tests in the order in which they are likely to catch the mutant: those of its file, of its
+        folder, the rest, the slow ones."""
         folder = source.relative_to(ROOT).parts[1]
         is_header = source.suffix == ".h"
         own, near, rest, slow = [], [], [], []
@@ -150,7 +152,7 @@ class Workshop:
         return False
 
     def verdict(self, mutant):
-        """"caught", "survived" or "did not compile"."""
+        """Returns "caught", "survived" or "did not compile"."""
         original = ROOT / mutant.file
         folder = pathlib.Path(tempfile.mkdtemp(dir=BUILD, prefix="mutant-"))
         try:
@@ -173,7 +175,8 @@ class Workshop:
             shutil.rmtree(folder)
 
     def changed_command(self, source, original, changed, output):
-        """Compiles the changed source in place of the original, or a source with the changed header before all others."""
+        """Compiles the changed source in place of the original, or a source that sees the changed header before all
+        others."""
         command = list(self.commands[source])
         command[command.index("-o") + 1] = output
         if source == original:
