@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Builds the shipped programs and makes what a user downloads, under dist/: a zip, a floppy image, a CD image, sums.
+# Builds the shipped programs and makes the downloads under dist/: a zip, a floppy image, a CD image, checksums.
 # Every file in them has the time of the commit, so that the same commit gives the same bytes.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")"
 readonly build=build/win9x
-# 14 January 2000, for sources that are no checkout.
+# 14 January 2000, for sources outside a checkout.
 readonly time_without_commit=947808000
 
 tools/setup/packages.sh

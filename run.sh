@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Sets up what is missing, builds Q-DIX and shows what it does.
-#   ./run.sh          on an emulated PC of 1998 with 96 MB. With a display ($DISPLAY) that PC is a window to play with;
-#                     without one Q-DIX releases 40 MB there, and the figures and two pictures show what came of it.
+#   ./run.sh          on an emulated PC of 1998 with 96 MB. With a display ($DISPLAY) that PC is a window to try out;
+#                     without one Q-DIX releases 40 MB there, and figures and two pictures show the result.
 #                     The exit code is 0 only if memory was really gained.
-#   ./run.sh --here   at once, on this display or without one on a private screen. Its memory figures mean nothing on a
-#                     machine with more than 2 GB.
+#   ./run.sh --here   at once, on this display or, without one, on a private screen. Its memory figures mean nothing on
+#                     a machine with more than 2 GB.
 #   ./run.sh --help   prints this
 set -euo pipefail
 
@@ -24,7 +24,8 @@ show_on_small_machine() {
   exec tools/small_machine/small_machine.sh "$command"
 }
 
-# Either way the CPU graph moves: Wine keeps no statistic of the processor load, so the probe plays this machine's.
+# Either way the CPU graph moves: Wine keeps no statistic of the processor load, so the probe feeds this machine's
+# load.
 show_here() {
   tools/setup/packages.sh
   tools/wine/get_wine.sh
@@ -37,8 +38,8 @@ show_here() {
   fi
 
   echo "run: $program is open on $DISPLAY; close its window to end this script"
-  echo "run: its CPU graph shows the load of this machine, which the probe writes where Windows 98 keeps that statistic"
-  # Looks for the program until it is there, feeds it, and ends with it.
+  echo "run: its CPU graph shows the load of this machine, which the probe writes to the statistic of Windows 98"
+  # Looks for the program until it runs, feeds its graph, and ends with it.
   {
     until tools/wine/wine.sh "$probe" wait-window; do :; done
     tools/wine/wine.sh "$probe" feed-load

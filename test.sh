@@ -40,7 +40,7 @@ for tree in "${trees[@]}"; do
 done
 if ((${#desktop[@]} > 0)); then tools/wine/prefix.sh; fi
 
-# One test run over all build trees, so that there is one summary and one exit code.
+# One test run over all build trees gives one summary and one exit code.
 mkdir -p build/all-tests
 {
   printf 'subdirs('

@@ -1,4 +1,4 @@
-# What is delivered: the list of the shipped programs for tools/dist/make_dist.py, and the tests of what that makes.
+# The downloads: the list of shipped programs for tools/dist/make_dist.py, and the tests of its output.
 get_property(shipped_programs GLOBAL PROPERTY QDIX_SHIPPED_PROGRAMS)
 foreach(program IN LISTS shipped_programs)
   list(APPEND shipped_files "\"$<TARGET_FILE:${program}>\"")

@@ -1,23 +1,23 @@
-# What every own source file is compiled with, as interface targets.
+# Compile options of all our own sources, as interface targets.
 
-# Warnings, all of them errors.
+# Warnings, all treated as errors.
 add_library(qdix_warnings INTERFACE)
 target_compile_options(qdix_warnings INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Werror;-Wshadow;\
 -Wconversion;-Wnon-virtual-dtor;-Woverloaded-virtual;-Wvla>")
 
-# The Windows that is asked for: structures and names of the first Windows 95. As compiler flags, because the
-# compiler's own headers choose a later one before a #define could.
+# The target Windows version: structures and names of the first Windows 95. Set as compiler flags, because the
+# compiler's own headers choose a later version before a #define could.
 add_library(qdix_windows95 INTERFACE)
 target_compile_definitions(qdix_windows95 INTERFACE
   WINVER=0x0400 _WIN32_WINNT=0x0400 _WIN32_WINDOWS=0x0400 _WIN32_IE=0x0300 WIN32_LEAN_AND_MEAN)
 
-# The arithmetic of the shipped programs: any processor from the 386 with its 387. The tests under Wine compile the
-# program with it as well. src/runtime/README.md has the reasons of these flags and of the next.
+# The arithmetic of the shipped programs: any processor from the 386 with its 387. The tests under Wine also compile
+# the program with these flags. src/runtime/README.md gives the reasons for these flags and the next.
 add_library(qdix_arithmetic INTERFACE)
 target_compile_options(qdix_arithmetic INTERFACE
   "$<$<COMPILE_LANGUAGE:CXX>:-march=i386;-mfpmath=387;-ffloat-store>")
 
-# Code that ships: no exceptions, no run-time types.
+# Shipped code: no exceptions, no run-time types.
 add_library(qdix_shipped INTERFACE)
 target_compile_options(qdix_shipped INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Os;-flto;-fno-inline-functions-called-once;\
 -mno-stack-arg-probe;-mno-accumulate-outgoing-args;-mpreferred-stack-boundary=2;\
@@ -32,7 +32,7 @@ if(QDIX_SANITIZE)
   target_link_options(qdix_sanitizers INTERFACE -fsanitize=address,undefined)
 endif()
 
-# Counts what runs. Without exceptions, as the program ships: a call that cannot throw has no branch for it.
+# Measures code coverage. Without exceptions, as the program ships: a call that cannot throw has no branch for it.
 add_library(qdix_coverage INTERFACE)
 if(QDIX_COVERAGE)
   target_compile_options(qdix_coverage INTERFACE --coverage -fno-exceptions)

@@ -1,8 +1,8 @@
-// The one class that GoogleTest wants from the thread library, for a compiler whose thread model has none.
+// Replaces the one class of the thread library that GoogleTest needs, for a compiler whose thread model lacks it.
 #pragma once
 
 #ifdef __cplusplus
-// The printer functions, which the short form leaves out, would rename methods of ours.
+// Without this the headers' printer functions would rename methods of ours.
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
 #endif

@@ -15,7 +15,7 @@ add_custom_command(OUTPUT ${QDIX_TOPIC_STREAM}
   COMMENT "Making the topics of the help viewer" VERBATIM)
 add_custom_target(qdix_topics DEPENDS ${QDIX_TOPIC_STREAM})
 
-# A picture that the manual no longer has would stay otherwise.
+# Otherwise a picture that the manual no longer has would stay.
 add_custom_command(OUTPUT ${QDIX_MANUAL_FOLDER}/help.htm
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${QDIX_MANUAL_FOLDER}
   COMMAND ${make_help} --html ${QDIX_MANUAL_FOLDER}

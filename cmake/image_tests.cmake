@@ -1,11 +1,11 @@
-# Tests of the image check and of the link itself, on small programs that are made for the purpose: each planted
-# fault must be found.
+# Tests of the image check and of the link itself on small programs made for the purpose: each planted fault must be
+# found.
 set(planted ${CMAKE_SOURCE_DIR}/tests/image)
 set(image_check ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tools/image_check/image_check.py
     --exports ${CMAKE_SOURCE_DIR}/cmake/win95-exports)
 set(ends_with ${Python3_EXECUTABLE} ${planted}/ends_with.py)
 
-# A sound program: the run time's self-test. The host builds run the same file.
+# A sound program: the self-test of the runtime. The host builds run the same file.
 add_executable(runtime_probe ${planted}/runtime_probe.cpp)
 qdix_link(runtime_probe qdix_program)
 add_test(NAME image.runtime_probe COMMAND ${image_check} --limit-kb 64 $<TARGET_FILE:runtime_probe>)
@@ -17,7 +17,7 @@ add_executable(lack_of_memory_probe ${planted}/lack_of_memory_probe.cpp)
 qdix_link(lack_of_memory_probe)
 add_test(NAME image.lack_of_memory_ends_the_process
   COMMAND ${ends_with} 3 "" ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:lack_of_memory_probe>)
-# It shows a box for a moment, which the other tests of the desktop would take for theirs.
+# It shows a box for a moment, which the other tests on the desktop would mistake for theirs.
 set_tests_properties(image.lack_of_memory_ends_the_process PROPERTIES RESOURCE_LOCK desktop TIMEOUT 120)
 
 # image_finds(<name> <what the check says> <image> [<limit in KB>]): the check refuses the image for this reason.
@@ -38,13 +38,13 @@ add_executable(planted_frame ${planted}/planted_frame.cpp)
 qdix_link(planted_frame)
 image_finds(planted_frame "could step over the guard page" planted_frame)
 
-# The full import library lets a later function in; the check of the finished exe still finds it.
+# The full import library accepts a later function; the check of the finished exe still finds it.
 add_executable(planted_late_import ${planted}/planted_late_import.cpp)
 qdix_link(planted_late_import /usr/i686-w64-mingw32/lib/libkernel32.a)
 image_finds(planted_late_import "imports kernel32.dll!GetDiskFreeSpaceExA, which the first Windows 95 lacks"
             planted_late_import)
 
-# So does it with one that Windows 95 exports and does not have.
+# It also finds a function that Windows 95 only exports as a stub.
 add_executable(planted_stub ${planted}/planted_stub.cpp)
 qdix_link(planted_stub /usr/i686-w64-mingw32/lib/libkernel32.a)
 image_finds(planted_stub "imports kernel32.dll!MoveFileExA, which only fails on Windows 95" planted_stub)
@@ -69,7 +69,7 @@ link_refuses(planted_late_import "undefined reference to `_imp__GetDiskFreeSpace
 link_refuses(planted_stub "undefined reference to `_imp__MoveFileExA@12'")
 link_refuses(planted_constructor "a global object has a constructor")
 
-# The same sources give the same bytes, wherever they lie.
+# The same sources give the same bytes in any folder.
 add_test(NAME image.build_is_reproducible
   COMMAND ${planted}/reproducible.sh ${CMAKE_SOURCE_DIR} $<TARGET_FILE:QDIX> $<TARGET_FILE:undo>
           $<TARGET_FILE:configL> $<TARGET_FILE:help_viewer> $<TARGET_FILE:self_test>)

@@ -10,7 +10,7 @@ if(QDIX_SANITIZE)
   add_test(NAME lint.icon COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/lint/icon_test.py)
   add_test(NAME lint.tidy_looks_again_after_changes
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/lint/tidy_test.py)
-  # Debian's own interpreter has Debian's libclang.
+  # Only Debian's own interpreter has Debian's libclang.
   add_test(NAME lint.mutation_changes_what_it_says
     COMMAND ${DEBIAN_PYTHON3} ${CMAKE_SOURCE_DIR}/tests/lint/mutation_test.py)
   add_test(NAME lint.tidy COMMAND ${Python3_EXECUTABLE} ${lint}/tidy.py ${CMAKE_BINARY_DIR})

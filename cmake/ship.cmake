@@ -1,5 +1,5 @@
-# Shipped programs: our own run time instead of a C library, import libraries cut down to what the first Windows 95 exports, and a check of
-# each finished exe.
+# Shipped programs: our own runtime instead of a C library, import libraries reduced to the exports of the first
+# Windows 95, and a check of each finished exe.
 find_program(CROSS_OBJCOPY i686-w64-mingw32-objcopy REQUIRED)
 find_program(CROSS_OBJDUMP i686-w64-mingw32-objdump REQUIRED)
 find_program(CROSS_NM i686-w64-mingw32-nm REQUIRED)
@@ -8,14 +8,15 @@ find_package(Python3 REQUIRED COMPONENTS Interpreter)
 include(cmake/packed_topics.cmake)
 
 file(GLOB runtime_sources CONFIGURE_DEPENDS src/runtime/*.cpp)
-# Whole, not an archive: what calls it is found in any order, and what nothing calls is thrown away by the link.
+# Object files, not an archive: callers find them in any link order, and the linker removes what nothing calls.
 add_library(qdix_runtime OBJECT ${runtime_sources})
 target_include_directories(qdix_runtime PRIVATE src)
 target_link_libraries(qdix_runtime PRIVATE qdix_warnings qdix_shipped)
-# These functions are what the compiler would turn their own loops into.
+# The compiler would turn the loops of these functions into calls of the functions themselves.
 target_compile_options(qdix_runtime PRIVATE -fno-builtin -fno-tree-loop-distribute-patterns -fno-lto)
 
-# 64-bit division and the stack probe come from the compiler's own library, without its unwind tables: nothing unwinds here.
+# 64-bit division and the stack probe come from the compiler's own library, without its unwind tables: nothing unwinds
+# here.
 execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libgcc.a
                 OUTPUT_VARIABLE libgcc OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 set(reduced_libgcc ${CMAKE_BINARY_DIR}/libgcc_no_unwind.a)
@@ -36,7 +37,7 @@ add_custom_command(OUTPUT ${import_libraries}
   COMMENT "Reducing the import libraries to Windows 95" VERBATIM)
 add_custom_target(win95_libraries DEPENDS ${import_libraries} ${reduced_libgcc})
 
-# CMake would add the full import libraries of its own accord.
+# Otherwise CMake would add the full import libraries itself.
 set(CMAKE_CXX_STANDARD_LIBRARIES "")
 set(ship_link_flags
   -flto-partition=one -nostdlib -nostartfiles -Wl,-e,_start -Wl,--gc-sections -Wl,--subsystem,windows:4.0
@@ -49,7 +50,7 @@ function(qdix_link target)
   target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR}/src)
   target_link_libraries(${target} PRIVATE qdix_warnings qdix_shipped)
   target_link_options(${target} PRIVATE ${ship_link_flags})
-  # By path: with -l it would quietly take the full libraries.
+  # By path: with -l the linker would silently take the full libraries.
   target_link_libraries(${target} PRIVATE ${ARGN} qdix_runtime ${reduced_libgcc} ${import_libraries})
   set_target_properties(${target} PROPERTIES SUFFIX ".exe" LINK_DEPENDS ${CMAKE_SOURCE_DIR}/src/runtime/noctors.ld)
   # The names of its functions go into a file beside it, by which tests name an address of the exe.

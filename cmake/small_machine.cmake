@@ -1,6 +1,6 @@
-# The small machine: its parts on this machine, and releases on it with the exes as shipped (label small_machine).
-#   small_machine.parts, .report, .bench          no emulator: host builds
-#   small_machine.make                           makes the machine where it is missing; the tests on it need it
+# The small machine: host tests of its parts, and releases on it with the shipped exes (label small_machine).
+#   small_machine.parts, .report, .bench   no emulator: host builds
+#   small_machine.make                     makes the machine if it is missing; the tests on it need it
 set(small_machine ${CMAKE_SOURCE_DIR}/tools/small_machine/small_machine.sh)
 set(small_machine_tests ${CMAKE_SOURCE_DIR}/tests/small_machine)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)

@@ -6,10 +6,10 @@
 set(gtest_disable_pthreads ON CACHE BOOL "No threads in the tests" FORCE)
 set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
 if(WIN32)
-  # The win32 thread model has no std::mutex; the library's own notification is all that is missing.
+  # The win32 thread model has no std::mutex; only GoogleTest's own notification is missing.
   add_compile_definitions(GTEST_HAS_NOTIFICATION_=1)
   add_compile_options("SHELL:-include ${CMAKE_SOURCE_DIR}/cmake/gtest_notification.h")
-  # Arithmetic at 53 bits, as in the shipped programs; the compiler's start-up code chooses 64.
+  # 53-bit arithmetic, as in the shipped programs; the compiler's start-up code selects 64 bits.
   set(precision_object /usr/i686-w64-mingw32/lib/CRT_fp8.o)
 endif()
 add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
@@ -24,9 +24,9 @@ set(wine_limit_s 3000)
 # A hundred times what a shard needs on a quiet machine.
 set(shard_limit_s 600)
 
-# qdix_test(<name> [SHARDS <count>] SOURCES <file>... LIBRARIES <target>...): a test program. On this machine each of its
-# tests is one of ctest's or, where a process for each would take longer than the tests, as many shards as are asked for;
-# build/<preset>/reports/ then has a report of every single test. Under Wine the program is one test.
+# qdix_test(<name> [SHARDS <count>] SOURCES <file>... LIBRARIES <target>...): a test program. On this machine
+# each of its tests is one ctest test. If a process for each would take longer than the tests, SHARDS makes that many
+# ctest tests instead, and build/<preset>/reports/ has a report of every single test. Under Wine the program is one test.
 function(qdix_test name)
   cmake_parse_arguments(PARSE_ARGV 1 test "" "SHARDS" "SOURCES;LIBRARIES")
   if(NOT test_SOURCES)
@@ -60,7 +60,7 @@ endfunction()
 file(GLOB_RECURSE unit_sources CONFIGURE_DEPENDS tests/unit/*.cpp)
 qdix_test(unit_tests SHARDS 8 SOURCES ${unit_sources} LIBRARIES qdix_simulated ${companion_libraries})
 add_dependencies(unit_tests qdix_packed_topics)
-# The topics of the help as they are made and as they ship, by paths of the system that the tests run on.
+# The topics of the help as made and as shipped, by paths of the system that runs the tests.
 set(host_drive "")
 if(WIN32)
   set(host_drive "Z:")
@@ -87,14 +87,14 @@ if(WIN32)
     target_link_options(qdix_probe PRIVATE -static)
     qdix_test(e2e_tests SOURCES ${e2e_sources} LIBRARIES e2e_driver qdix_win32)
     add_dependencies(e2e_tests qdix_packed_topics)
-    # What the launcher starts in these tests.
+    # The launcher starts this program in the tests.
     add_executable(witness WIN32 tests/e2e/witness/main.cpp)
     target_link_libraries(witness PRIVATE qdix_warnings)
     target_link_options(witness PRIVATE -static)
     add_dependencies(e2e_tests witness)
     target_compile_definitions(e2e_driver PRIVATE QDIX_WITNESS="$<TARGET_FILE:witness>")
 
-    # What lies idle on the small machine while memory is released, and what needs the memory then.
+    # Run on the small machine: one idles while memory is released, the other needs memory then.
     add_executable(idle tools/small_machine/programs/idle.cpp)
     add_executable(hungry WIN32 tools/small_machine/programs/hungry.cpp)
     foreach(program IN ITEMS idle hungry)
@@ -103,13 +103,14 @@ if(WIN32)
       target_link_options(${program} PRIVATE -static)
     endforeach()
 
-    # Measures what the tests drive; run by bench/run.sh, built with the tests so that it stays in step.
+    # Measures the programs that the tests drive. bench/run.sh runs it; it is built with the tests so that it stays in
+    # step.
     file(GLOB bench_sources CONFIGURE_DEPENDS bench/*.cpp)
     add_executable(qdix_bench ${bench_sources})
     target_link_libraries(qdix_bench PRIVATE qdix_warnings e2e_driver ${precision_object})
     target_link_options(qdix_bench PRIVATE -static)
 
-    # On a machine and a desktop of its own, so it need not wait for the others.
+    # Runs on its own machine and desktop, so it need not wait for the others.
     add_test(NAME wine.install
       COMMAND ${CMAKE_SOURCE_DIR}/tests/dist/install_test.sh ${CMAKE_SOURCE_DIR}/build/win9x $<TARGET_FILE:qdix_probe>)
     set_tests_properties(wine.install PROPERTIES TIMEOUT ${wine_limit_s})
@@ -129,7 +130,7 @@ else()
   file(GLOB soak_sources CONFIGURE_DEPENDS tests/soak/*.cpp)
   qdix_test(soak_tests SOURCES ${soak_sources} LIBRARIES qdix_simulated)
 
-  # The self-test of the shipped programs' run time, with this machine's C library.
+  # The self-test of the shipped programs' runtime, with this machine's C library.
   add_executable(runtime_probe tests/image/runtime_probe.cpp tests/image/runtime_probe_host.cpp)
   target_link_libraries(runtime_probe PRIVATE qdix_warnings qdix_program)
   add_test(NAME image.runtime_probe_on_host COMMAND runtime_probe)

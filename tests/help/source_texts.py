@@ -22,8 +22,9 @@ _MENU_CAPTION = re.compile(r'ui::MenuItem \w+\{\w+, "\w+", "([^"]+)"\}')
 
 _MENU_TITLE = re.compile(r'ui::MenuItem \w+\{events, "\w+", "([^"]+)"\}')
 
-# A text with at least this many words is a sentence wherever it is. A shorter piece of a sentence proves nothing.
+# A text with at least this many words is a sentence wherever it is.
 SENTENCE_WORDS = 5
+# A fragment of at most this many characters proves nothing.
 SHORT_TEXT = 8
 
 

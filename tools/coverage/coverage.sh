@@ -15,7 +15,7 @@ readonly directory=build/coverage
 tools/setup/packages.sh
 tools/setup/build.sh coverage unit_tests contract_tests fuzz_tests soak_tests
 find "$directory" -name '*.gcda' -delete
-# The random runs stay short: what they find is not more lines, but other orders.
+# The random runs stay short: longer ones cover other orders, not more lines.
 for tests in unit contract fuzz soak; do
   "$directory/${tests}_tests" --gtest_brief=1 >"$directory/${tests}.log" || {
     tail -n 50 "$directory/${tests}.log" >&2

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # A private screen with a Windows desktop, its taskbar and its notification area on it: 800 x 600 in true colour, or
-# what QDIX_SCREEN (640x480) and QDIX_DEPTH (8 bits for each pixel, few colours that nobody can change) say.
+# what QDIX_SCREEN (640x480) and QDIX_DEPTH (8 bits per pixel, few colours that nobody can change) say.
 #   desktop.sh run COMMAND [ARGUMENT...]   runs the command in there (DISPLAY set) and passes its exit code on
 #   desktop.sh photo FILE.png              takes a picture of the whole screen; called by a command that runs in there
 # Programs started with tools/wine/wine.sh appear in the desktop and get a button in the taskbar. When the command
@@ -12,12 +12,12 @@ readonly tools_dir
 readonly wine="$tools_dir/wine/wine.sh"
 readonly screen=${QDIX_SCREEN:-800x600}
 readonly depth=${QDIX_DEPTH:-24}
-# Where colours are few, a palette that programs can change would be empty at first: the X server's class 2 has a fixed one.
+# With few colours, a palette that programs can change would start empty. Class 2 of the X server has a fixed one.
 readonly colour_class=$((depth > 8 ? 4 : 2))
 readonly start_limit_s=180
 readonly lock_limit_s=1800
 readonly leftover_limit_s=60
-# Ends a child even if this script is killed without a chance to clean up; without their screen Wine's programs end too.
+# Ends a child even if this script is killed without cleaning up. Without their screen Wine's programs also end.
 readonly with_this_script=(setpriv --pdeathsig TERM)
 
 screen_pid=""
@@ -29,7 +29,7 @@ say() { printf 'desktop: %s\n' "$*" >&2; }
 
 is_running() { [ -n "$1" ] && kill -0 "$1" 2>/dev/null; }
 
-# Ends the child $1 (if any): politely, then after five seconds by force.
+# Ends the child $1 (if any): first with a request, after five seconds by force.
 end_child() {
   local pid=$1 tenths
   if ! is_running "$pid"; then return 0; fi
@@ -44,7 +44,7 @@ end_child() {
 
 clean_up() {
   trap '' HUP INT TERM
-  # The command leads a process group of its own: what it started is ended with it.
+  # The command leads its own process group, so everything that it started ends with it.
   if [ -n "$command_pid" ]; then kill -TERM -- "-$command_pid" 2>/dev/null || true; fi
   end_child "$command_pid"
   if [ -n "$explorer_pid" ]; then
@@ -56,7 +56,7 @@ clean_up() {
   if [ -n "$state_dir" ]; then rm -rf "$state_dir"; fi
 }
 
-# Starts the X server on a number that it finds free itself, and sets DISPLAY.
+# Starts the X server on a free number that it finds itself, and sets DISPLAY.
 start_screen() {
   "${with_this_script[@]}" Xvfb -displayfd 3 -screen 0 "${screen}x$depth" -cc "$colour_class" -dpi 96 -nolisten tcp -noreset \
     3>"$state_dir/number" >"$state_dir/screen.log" 2>&1 9>&- </dev/null &
@@ -75,7 +75,7 @@ start_screen() {
   unset XAUTHORITY WAYLAND_DISPLAY
 }
 
-# True when the desktop window holds a window as wide as the screen at its lower edge: the taskbar, drawn and visible.
+# True if the desktop window contains a visible window as wide as the screen at its lower edge: the taskbar.
 taskbar_is_there() {
   local id
   for id in $(xwininfo -root -tree 2>/dev/null |
@@ -87,8 +87,8 @@ taskbar_is_there() {
 }
 
 start_windows_desktop() {
-  # The prefix names the desktop that a program joins when nothing else is said; the first one opens it. It stays for as
-  # long as this one does.
+  # The prefix names the desktop that a program joins by default; the first program opens it. The desktop exists as long as
+  # this one runs.
   "$wine" explorer "/desktop=qdix,$screen" >"$state_dir/explorer.log" 2>&1 9>&- </dev/null &
   explorer_pid=$!
   local deadline=$((SECONDS + start_limit_s))
@@ -102,7 +102,7 @@ start_windows_desktop() {
   done
 }
 
-# One desktop in a prefix at a time: the server of the prefix, and with it the desktop, is shared by all its programs.
+# One desktop per prefix at a time: all programs share the prefix's server, and with it the desktop.
 lock_prefix() {
   local prefix=$1
   mkdir -p "$(dirname "$prefix")"
@@ -115,8 +115,8 @@ lock_prefix() {
   fi
 }
 
-# Programs that were started without a desktop share the server, which knows no screen then: let them come to their
-# end, and end what a killed script left behind.
+# Programs started without a desktop share the server, which then has no screen. Wait until they end, and end what a
+# killed script left behind.
 empty_prefix() {
   if timeout "$leftover_limit_s" "$wine" --server -w 9>&-; then return 0; fi
   say "ending the Windows programs that are still running in the prefix"
@@ -137,7 +137,7 @@ run() {
   start_screen
   start_windows_desktop
   local status=0
-  # Job control gives the command its own process group; waiting for it in the background lets signals in at once.
+  # Job control gives the command its own process group. Waiting for it in the background lets signals in at once.
   set -m
   QDIX_DESKTOP="$DISPLAY" "${with_this_script[@]}" "$@" 9>&- </dev/null &
   command_pid=$!
@@ -146,7 +146,7 @@ run() {
   return "$status"
 }
 
-# Into a new name first, so that a picture is either complete or not there.
+# Writes to a new name first, so that a picture is either complete or missing.
 photo() {
   local file=$1
   if [ -z "${DISPLAY:-}" ]; then

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Photographs every screen as other machines show it:   looks.sh [few_colours|large_fonts|high_contrast]...
 #   few_colours     640 x 480 in as few colours as the X server offers
-#   large_fonts     120 dots an inch
-#   high_contrast   white on black, the system's scheme for users who see little
-# All by default. The pictures go to build/photos/LOOK. A prefix of its own takes the settings and keeps none of them.
+#   large_fonts     120 dots per inch
+#   high_contrast   white on black, the system's scheme for users with poor sight
+# All by default. The pictures go to build/photos/LOOK. A separate prefix takes the settings and keeps none of them.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
@@ -30,7 +30,7 @@ tools/wine/prefix.sh
 
 status=0
 for look in "${looks[@]}"; do
-  apply win98.reg # a run that was broken off leaves its own
+  apply win98.reg # an interrupted run leaves its own settings
   case $look in
     few_colours) QDIX_SCREEN=640x480 QDIX_DEPTH=8 photograph "$look" || status=1 ;;
     large_fonts | high_contrast)

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# One release by hand, on the screen it is started on:   release_session.sh PROGRAM PROBE PICTURE.png
-# Starts the program, feeds its CPU graph with the load of this machine, presses "Free Up RAM Now" with the pointer, waits for the end of the release, prints the figures
-# of the window before and after and the peak of the program's memory, takes a picture and closes the window.
-# The exit code is 0 only if all of that happened.
+# One manual release on the current screen:   release_session.sh PROGRAM PROBE PICTURE.png
+# Starts the program, feeds its CPU graph with the load of this machine, presses "Free Up RAM Now" with the pointer and
+# waits for the end of the release. Prints the window's figures before and after and the peak of the program's memory,
+# takes a picture and closes the window. The exit code is 0 only if all of that happened.
 set -euo pipefail
 
 tools_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -23,7 +23,7 @@ work_dir=$(mktemp -d)
 
 is_running() { kill -0 "$1" 2>/dev/null; }
 
-# The desktop may outlive this script: a program that was not closed must not stay in it.
+# The desktop may outlive this script, so no program may stay open in it.
 clean_up() {
   if [ -n "$program_pid" ] && is_running "$program_pid"; then kill "$program_pid" || true; fi
   rm -rf "$work_dir"
@@ -33,7 +33,7 @@ trap 'exit 129' HUP
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
-# The picture of a failure gets another name, so that $picture stands for a release that was seen through.
+# The picture of a failure gets another name, so that $picture always shows a completed release.
 fail() {
   printf 'run: %s\n' "$*" >&2
   "$tools_dir/desktop/desktop.sh" photo "${picture%.png}-failed.png" || true
@@ -47,10 +47,10 @@ run_probe() {
   timeout "$limit_s" "$tools_dir/wine/wine.sh" "$probe" "$@" </dev/null
 }
 
-# Asks the probe one question; its lines end as Windows ends them.
+# Sends the probe one command; the lines of its answer end with CR and LF.
 ask() { run_probe "$probe_limit_s" "$@" | tr -d '\r'; }
 
-# Presses OK in every message box that is in the way, and says what it said.
+# Presses OK in every open message box, and prints the texts.
 answer_boxes() {
   local texts
   texts=$(ask answer-boxes) || return 0
@@ -69,8 +69,8 @@ start_program() {
   answer_boxes
 }
 
-# The CPU graph follows a statistic that Wine does not keep: the probe plays the load of this machine until the program
-# ends.
+# The CPU graph follows a statistic that Wine does not keep. The probe feeds it the load of this machine until the
+# program ends.
 feed_load() {
   echo "run: the CPU graph shows the load of this machine, fed by the probe where Windows 98 keeps that statistic"
   : >"$work_dir/feed.log"
@@ -92,7 +92,7 @@ wait_for_figures() {
   done
 }
 
-# Waits until the button is enabled, with message boxes answered on the way.
+# Waits until the button is enabled, answering message boxes on the way.
 wait_for_button() {
   local deadline=$((SECONDS + release_limit_s))
   until [ "$(ask enabled "$button")" = 1 ]; do
@@ -102,7 +102,7 @@ wait_for_button() {
   done
 }
 
-# Writes caption, figures and committed bytes, one a line, into the file $1.
+# Writes caption, figures and committed bytes, one per line, to the file $1.
 read_figures() {
   local file=$1 name
   ask caption >"$file" || fail "the caption could not be read"
@@ -128,7 +128,7 @@ print_figures() {
   printf '%-18s %s\n' "peak, bytes" "$1"
 }
 
-# Moves the pointer to the middle of the button and presses its left button, as a hand does.
+# Moves the pointer to the middle of the button and presses its left button, as a user does.
 press_button() {
   local x y width height
   read -r x y width height < <(ask rect "$button") || fail "the place of the button is unknown"
@@ -140,7 +140,7 @@ release() {
   : >"$work_dir/peak"
   run_probe "$release_limit_s" peak >>"$work_dir/peak" 2>"$work_dir/peak.log" &
   local sampler_pid=$! deadline=$((SECONDS + probe_limit_s))
-  # The sampler's first line says that it is looking; a press before that could be over unseen.
+  # The sampler's first line says that it is sampling; an earlier press could be over before that.
   until grep -q '^sampling' "$work_dir/peak"; do
     is_running "$sampler_pid" || fail "the memory of the program could not be sampled"
     ((SECONDS < deadline)) || fail "the sampler did not begin within $probe_limit_s seconds"
@@ -157,7 +157,7 @@ release() {
   [[ "$peak_bytes" =~ ^[0-9]+$ ]] || fail "the sampler gave no number of bytes: '$peak_bytes'"
 }
 
-# Closes the window and waits until the program has ended by itself, with questions about it answered.
+# Closes the window, answers the questions about it, and waits until the program has ended by itself.
 close_program() {
   run_probe "$close_limit_s" close >"$work_dir/close.log" 2>&1 &
   local closer_pid=$! deadline=$((SECONDS + close_limit_s))

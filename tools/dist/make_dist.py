@@ -83,9 +83,9 @@ def texts_of(version, names):
 def check_names(names):
     for name in names:
         if not DOS_NAME.fullmatch(name):
-            raise Refusal(f"{name} is not a DOS file name")
+            raise Refusal(f"{name} is no name of DOS")
     if len({name.lower() for name in names}) != len(names):
-        raise Refusal("the names of two files differ only in case")
+        raise Refusal("two files differ in nothing but the case of their names")
 
 
 def stage(folder, files, at):

@@ -108,9 +108,9 @@ def mnemonic_of(text):
 def is_386(text):
     mnemonic = mnemonic_of(text)
     if mnemonic.startswith("nop"):
-        return mnemonic == "nop" and text.split()[-1] == "nop"  # the long forms with operands are the Pentium Pro's
+        return mnemonic == "nop" and text.split()[-1] == "nop"  # the long forms with operands came with the Pentium Pro
     if re.search(r"%[xyz]?mm\d", text):
-        return False  # some of these share their name with a string instruction
+        return False  # some of these have the name of a string instruction
     # The size letters of AT&T syntax.
     return mnemonic in ALLOWED or any(
         mnemonic.endswith(size) and mnemonic.removesuffix(size) in ALLOWED for size in ("b", "w", "l", "ll", "s", "t"))

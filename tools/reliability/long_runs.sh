@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# The reliability runs of the tests, made long:   long_runs.sh [hands|fuzz|days|exe]...   (all of them by default)
-#   hands   random hands on every program         QDIX_EVENTS=1000000
+# Long reliability runs of the tests:   long_runs.sh [hands|fuzz|days|exe]...   (all of them by default)
+#   hands   random use of every program         QDIX_EVENTS=1000000
 #   fuzz    any bytes as files and topics         QDIX_FUZZ_RUNS=5000
 #   days    days of the program on stepped time   QDIX_SOAK_DAYS=60
 #   exe     the shipped exe under Wine            QDIX_TIPS=10000 QDIX_MENUS=1000
-# The variables change the length, QDIX_SEED the chance. A failing run prints its seed.
+# The variables set the length, QDIX_SEED the first seed. A failing run prints its seed.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."

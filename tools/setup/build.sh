@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Configures and builds one preset:   build.sh PRESET [TARGET...]
 # Only configures it:                 build.sh --configure PRESET
-# What the build says goes to build/logs/PRESET.log; the end of it is shown when something fails.
+# The output goes to build/logs/PRESET.log; its end is shown if something fails.
 set -euo pipefail
 
 if (($# == 0)); then
@@ -22,7 +22,7 @@ mkdir -p build/logs
 targets=()
 if (($# > 0)); then targets=(--target "$@"); fi
 
-# Runs one step of the build; false, with the last lines of the log shown, when it fails.
+# Runs one step of the build; if it fails, shows the last lines of the log and returns false.
 step() {
   if "$@" >>"$log" 2>&1 </dev/null; then return 0; fi
   echo "build: '$*' failed; the end of $log:" >&2

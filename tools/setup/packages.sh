@@ -1,35 +1,35 @@
 #!/usr/bin/env bash
-# Installs what building and testing needs from the package archive of a Debian-like machine.
-# Asks dpkg once and touches nothing when all is there; it never upgrades or removes a package on purpose.
+# Installs the packages for building and testing from the archive of a Debian-like machine. Asks dpkg once and changes
+# nothing if everything is installed; never deliberately upgrades or removes a package.
 set -euo pipefail
 
 readonly packages=(
   # the compiler of this machine, the build and its checks
   g++ cmake ninja-build git python3 clang-format clang-tidy libgtest-dev libgmock-dev googletest
-  # how much of the sources the tests run
+  # code coverage of the tests
   gcovr
-  # the mutation check: reading sources as the compiler does, and limits on what it runs
+  # the mutation check: parsing sources as the compiler does, and limits on its processes
   python3-clang util-linux
   # the compiler for Windows programs
   g++-mingw-w64-i686-win32 binutils-mingw-w64-i686 mingw-w64-i686-dev
-  # the manual: its Markdown, and a look at its HTML
+  # the manual: its Markdown, and a check of its HTML
   python3-markdown-it opensp w3c-sgml-lib
-  # a private screen, a hand on it, and pictures of it
+  # a private screen, simulated input, and screenshots
   xvfb xdotool x11-utils imagemagick
-  # the private Wine: unpacking it, and making its programs find their own libraries
+  # the private Wine: unpacking it, and setting the library paths of its programs
   patchelf xz-utils ca-certificates debian-archive-keyring procps
   # the small machine: the emulated PC, its window, and its disks
   qemu-system-x86 qemu-system-gui qemu-utils e2fsprogs
-  # the downloads: floppy and CD images, and another day to make them on once more
+  # the downloads: floppy and CD images, and a fake date to make them again
   mtools xorriso unzip faketime
 )
 readonly attempts=3
 readonly apt_options=(-q -y -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=300 -o Acquire::Retries=3)
 
-# Prints the packages that are not completely installed, one a line.
+# Prints the packages that are not completely installed, one per line.
 missing_packages() {
   local installed
-  # dpkg-query ends with 1 when it does not know one of the names: that is an answer here, not a failure.
+  # dpkg-query ends with 1 if it does not know one of the names: that is an answer here, not a failure.
   installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null || true)
   local name
   for name in "${packages[@]}"; do
@@ -37,7 +37,7 @@ missing_packages() {
   done
 }
 
-# Runs apt-get with the rights it needs; its output is kept in a file and shown only when it failed.
+# Runs apt-get with the necessary rights; keeps its output in a file and shows it only on failure.
 run_apt() {
   local log=$1
   shift
@@ -51,8 +51,8 @@ install_packages() {
   shift
   local attempt
   for ((attempt = 1; attempt <= attempts; attempt++)); do
-    # A third-party source that cannot be read must not stop the installation of these packages.
-    run_apt "$log" update || echo "setup: the package lists were not refreshed completely; going on with what is there"
+    # An unreadable third-party source must not stop the installation of these packages.
+    run_apt "$log" update || echo "setup: could not refresh all package lists; continuing with the existing ones"
     if run_apt "$log" install --no-install-recommends "$@"; then return 0; fi
     echo "setup: attempt $attempt of $attempts failed" >&2
     if ((attempt < attempts)); then sleep $((attempt * 5)); fi
@@ -62,7 +62,7 @@ install_packages() {
 
 main() {
   if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-    echo "setup: this machine has no apt; install the counterparts of these packages by hand:" >&2
+    echo "setup: this machine has no apt; install the equivalents of these packages by hand:" >&2
     printf '  %s\n' "${packages[@]}" >&2
     return 1
   fi

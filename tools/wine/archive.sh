@@ -34,7 +34,7 @@ private_apt() {
     "$@" </dev/null >"$work_dir/apt.log" 2>&1
 }
 
-# Reads the index of one source; false when it cannot be read or is not signed by the distribution.
+# Reads the index of one source; returns false if it cannot be read or the distribution did not sign it.
 read_index() {
   local architecture=$1 address=$2 release=$3
   printf 'deb [arch=%s signed-by=%s] %s %s main\n' "$architecture" "$archive_keyring" "$address" "$release" \
@@ -42,9 +42,9 @@ read_index() {
   private_apt "$architecture" -o APT::Update::Error-Mode=any update
 }
 
-# Downloads into $work_dir/archives what an apt-get command line names ($3 and so on: "download NAME..." for packages
-# alone, "--download-only install NAME..." with all that they depend on), for the architecture $1, from the release whose
-# name ends in $2 (empty, or "-backports").
+# Downloads into $work_dir/archives, for the architecture $1, what an apt-get command line names ($3 and so on:
+# "download NAME..." for packages alone, "--download-only install NAME..." including all their dependencies), from the
+# release whose name ends in $2 (empty, or "-backports").
 download_packages() {
   local architecture=$1 pocket=$2
   shift 2

@@ -8,29 +8,29 @@ checkout_dir=$(cd "$wine_tools_dir/../.." && pwd)
 readonly checkout_dir
 readonly cache_dir="${QDIX_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/qdix}"
 
-# Raise it when get_wine.sh builds the private Wine in another way, so that every checkout builds it anew.
+# Raise it when get_wine.sh builds the private Wine in another way, so that every checkout rebuilds it.
 readonly private_wine_recipe=1
 readonly private_wine_root="$cache_dir/wine-i386-$private_wine_recipe"
-# Written last; a root without it is the remains of an interrupted set-up.
+# Written last. A root without it is the remains of an interrupted set-up.
 readonly private_wine_stamp="$private_wine_root/proved"
-# Starts the private Wine through the emulator that lies beside it.
+# Starts the private Wine through the emulator beside it.
 readonly emulated_wine_name=wine-emulated
 
 say() { printf 'wine: %s\n' "$*" >&2; }
 
-# What stands for the machine's own Wine: its path and its version. Empty when there is none.
+# Identifies the machine's own Wine by its path and version. Empty if there is none.
 host_wine_identity() {
   local path
   path=$(command -v wine 2>/dev/null) || return 0
   printf '%s %s' "$path" "$("$path" --version 2>/dev/null </dev/null || true)"
 }
 
-# The file that remembers what came of trying the machine's own Wine ("yes" or "no").
+# The file with the result of trying the machine's own Wine ("yes" or "no").
 host_wine_verdict_file() {
   printf '%s/host-wine-%s' "$cache_dir" "$(sha256sum <<<"$1" | cut -c1-16)"
 }
 
-# Prints "host", "private" or nothing: the Wine that is ready for use.
+# Prints "host" or "private" for the Wine that is ready for use, or nothing.
 chosen_wine() {
   local identity verdict
   identity=$(host_wine_identity)
@@ -41,7 +41,7 @@ chosen_wine() {
       return 0
     fi
   fi
-  # A root that was made under another kernel may lack the emulator that this one needs.
+  # A root made under another kernel may lack the emulator that this one needs.
   if [ -f "$private_wine_stamp" ] &&
     { [ -x "$private_wine_root/usr/lib/wine/$emulated_wine_name" ] || runs_natively "$private_wine_root"; }; then
     echo private
@@ -62,13 +62,13 @@ set_wine_programs() {
   else
     local programs="$private_wine_root/usr/lib/wine"
     wine_program="$programs/wine"
-    # There on a machine whose kernel refuses 32-bit programs (emulator.sh).
+    # Exists on a machine whose kernel refuses 32-bit programs (emulator.sh).
     if [ -x "$programs/$emulated_wine_name" ]; then wine_program="$programs/$emulated_wine_name"; fi
     wine_server="$programs/wineserver"
   fi
 }
 
-# True where this machine's kernel starts the 32-bit programs of the private root $1 itself.
+# True if this machine's kernel itself starts the 32-bit programs of the private root $1.
 runs_natively() { "$1/lib/ld-linux.so.2" --version >/dev/null 2>&1; }
 
 # The environment of every Wine process: 32 bits only, quiet unless asked, no offers to install add-ons,
@@ -81,13 +81,13 @@ export_wine_environment() {
   export WINESERVER="$wine_server"
 }
 
-# Ends every program in the prefix $WINEPREFIX and waits until the server is gone, so that its files are complete.
+# Ends every program in the prefix $WINEPREFIX and waits until the server has ended, so that its files are complete.
 stop_wine_server() {
   "$wine_server" -k >/dev/null 2>&1 || true
   timeout 30 "$wine_server" -w >/dev/null 2>&1 || true
 }
 
-# Deletes the prefix $1 after ending what runs in it, and the folder of its server's lock, whose name Wine keeps in it.
+# Deletes the prefix $1 after ending its programs, and the folder of its server's lock, whose name Wine keeps in it.
 remove_prefix() {
   local prefix=$1 server_folder=""
   if [ ! -d "$prefix" ]; then return 0; fi

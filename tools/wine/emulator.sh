@@ -2,13 +2,13 @@
 # Lets the private 32-bit Wine run where the kernel refuses 32-bit programs: qemu's user mode runs its programs, while
 # the server, of which one serves programs of any width, is the 64-bit one. Meant to be sourced after archive.sh.
 #
-# Wine starts every program by way of its preloader if there is one: `wine-preloader wine PROGRAM`. The emulator takes
-# the same arguments, so it is put there under that name and needs no help of the kernel to be found again.
+# Wine starts every program through its preloader if there is one: `wine-preloader wine PROGRAM`. The emulator takes
+# the same arguments, so it is installed under that name and needs no kernel support to be found again.
 
-# Before 8.1 the emulator reserved other addresses than Wine asked for, and Wine searched for minutes.
+# Before 8.1 the emulator reserved other addresses than Wine requested, and Wine searched for minutes.
 readonly least_emulator_version=8.1
 
-# Unpacks the newest emulator that the distribution has: a released version may be too old, its backport is not.
+# Unpacks the distribution's newest emulator: the released version may be too old while its backport is not.
 unpack_emulator() {
   local folder=$1 architecture pocket version
   architecture=$(dpkg --print-architecture)
@@ -23,7 +23,7 @@ unpack_emulator() {
   return 1
 }
 
-# Adds emulator, 64-bit server and the right amount of memory to the unpacked private root $1.
+# Adds the emulator, the 64-bit server and the right amount of memory to the unpacked private root $1.
 add_emulator() {
   local root=$1
   local programs="$root/usr/lib/wine" unpacked="$work_dir/emulator"

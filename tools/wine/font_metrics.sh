@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Prints the fonts of captions, menus, boxes and tool tips as a registry file. They are stored as whole records, which
-# no registry file written by hand could be read in.
+# Prints the fonts of captions, menus, boxes and tool tips as a registry file. They are stored as binary records,
+# which would be unreadable in a registry file written by hand.
 set -euo pipefail
 
 # Prints a LOGFONTW of MS Sans Serif, 8 points, in the notation of registry files. $1 is its weight (400 or 700).
@@ -13,7 +13,7 @@ logical_font() {
   done
 }
 
-# The fonts of captions, menus, boxes and tool tips are stored as whole records, so they are written here.
+# The fonts are stored as binary records, so they are generated here.
 write_font_metrics() {
   local value weight
   printf 'REGEDIT4\n\n[HKEY_CURRENT_USER\\Control Panel\\Desktop\\WindowMetrics]\n'

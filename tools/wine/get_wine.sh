@@ -16,7 +16,7 @@ readonly wine_packages=(
   wine32 libx11-6 libxext6 libxrender1 libxrandr2 libxcursor1 libxfixes3 libxi6 libxcomposite1 libxinerama1
   fonts-wine fonts-liberation
 )
-# Making a prefix takes half a minute through the emulator, and several times that on a busy machine.
+# Making a prefix takes half a minute through the emulator, and several times as long on a busy machine.
 readonly proof_limit_s=600
 
 work_dir=""
@@ -31,8 +31,8 @@ trap 'exit 129' HUP
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
-# Compiles a small 32-bit console program, runs it with the Wine named in $1 in a new prefix, and looks at
-# what it wrote and returned. Whether this works is the only thing that counts.
+# Compiles a small 32-bit console program, runs it in a new prefix with the Wine named in $1, and checks its output
+# and exit code. Only this result counts.
 proves_to_run() {
   local which=$1
   local folder="$work_dir/proof-$which"
@@ -65,7 +65,7 @@ PROGRAM
   return 1
 }
 
-# Tries the machine's own Wine once for each path and version of it.
+# Tries the machine's own Wine once for each of its paths and versions.
 try_host_wine() {
   local identity verdict
   identity=$(host_wine_identity)
@@ -78,7 +78,7 @@ try_host_wine() {
   [ "$(<"$verdict")" = yes ]
 }
 
-# Unpacks all packages into $1 and leaves out what only people read.
+# Unpacks all packages into $1, without documentation.
 unpack_packages() {
   local root=$1 archive
   mkdir -p "$root"
@@ -89,8 +89,8 @@ unpack_packages() {
   rm -rf "$root"/usr/share/{doc,man,locale,info,lintian}
 }
 
-# The one step of the packages' own installation scripts that Wine cannot do without: zlib1.dll among its builtin
-# libraries, marked as such by a text at offset 64, in the 32 bytes that follow the DOS header.
+# The one step of the packages' installation scripts that Wine cannot do without: zlib1.dll among its builtin
+# libraries, marked as builtin by a text at offset 64, in the 32 bytes after the DOS header.
 add_builtin_zlib() {
   local root=$1
   local builtin="$root/usr/lib/i386-linux-gnu/wine/i386-windows/zlib1.dll"
@@ -98,8 +98,8 @@ add_builtin_zlib() {
   { printf 'Wine builtin DLL'; head -c 16 /dev/zero; } | dd of="$builtin" bs=1 seek=64 conv=notrunc status=none
 }
 
-# Makes Wine's programs in $1 use the loader and the libraries of $2, the place where the root will be in the end.
-# The search path is written into the programs, so that the environment of what they start stays as it is.
+# Makes Wine's programs in $1 use the loader and the libraries of $2, the final place of the root. The search path is
+# written into the programs, so that the environment of the programs they start stays unchanged.
 point_to_own_libraries() {
   local root=$1 final_root=$2 program
   cp --remove-destination "$root/usr/lib/wine/wineserver32" "$root/usr/lib/wine/wineserver"
@@ -129,7 +129,7 @@ build_private_wine() {
   say "ready"
 }
 
-# True when there is nothing to do.
+# True if there is nothing to do.
 is_provided() {
   if [ "$1" = --private ]; then [ -f "$private_wine_stamp" ]; else [ -n "$(chosen_wine)" ]; fi
 }
@@ -138,14 +138,14 @@ main() {
   local wanted=${1:-}
   if is_provided "$wanted"; then return 0; fi
   mkdir -p "$cache_dir"
-  # One set-up at a time; a second one waits and then finds the work done.
+  # One set-up at a time: a second one waits and then finds the work done.
   exec 9>"$cache_dir/wine.lock"
   if ! flock -w 1800 9; then
     say "another set-up has held the lock for half an hour"
     return 1
   fi
   if is_provided "$wanted"; then return 0; fi
-  # Remains of set-ups that were killed. Only the owner of the lock makes such folders.
+  # Remains of killed set-ups. Only the owner of the lock makes such folders.
   rm -rf "$cache_dir"/building.*
   work_dir=$(mktemp -d "$cache_dir/building.XXXXXX")
   if [ "$wanted" != --private ] && try_host_wine 9>&-; then return 0; fi

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Makes the prefix that all tests and runs use: a 32-bit Windows 98 at 96 dots an inch in its classic grey, with
+# Makes the prefix that all tests and runs use: a 32-bit Windows 98 at 96 dots per inch in its classic grey, with
 # bitmap fonts, a desktop with a taskbar, no crash boxes and no links into the user's own folders.
-# Quick when it is there; a change of this script, of what it writes into the registry or of the Wine makes it again.
+# Quick if the prefix exists. A change of this script, of its registry contents or of Wine makes it again.
 set -euo pipefail
 
 # shellcheck source=tools/wine/common.sh
@@ -10,10 +10,10 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 readonly registry_file="$wine_tools_dir/win98.reg"
 readonly font_metrics="$wine_tools_dir/font_metrics.sh"
 readonly boot_limit_s=600
-# The file in a finished prefix that holds what it was made from, and marks it as made here.
+# The file in a finished prefix that records what it was made from, and marks it as made here.
 readonly recipe_name=qdix-recipe
 
-# A text that changes whenever the prefix has to be made anew.
+# Prints a text that changes whenever the prefix must be made again.
 recipe_of() {
   { cat "${BASH_SOURCE[0]}" "$registry_file" "$font_metrics" && printf '%s %s\n' "$1" "$wine_program"; } | sha256sum
 }
@@ -22,7 +22,7 @@ is_made_by() {
   [ -f "$2/$recipe_name" ] && [ "$(<"$2/$recipe_name")" = "$1" ]
 }
 
-# A prefix links Documents, Desktop and the like to the user's own folders; a test must not write there.
+# A prefix links Documents, Desktop and the like to the user's own folders. Tests must not write there.
 cut_links_to_home() {
   local link
   while IFS= read -r -d '' link; do
@@ -41,7 +41,7 @@ run_in_prefix() {
 
 # Fills the empty folder $WINEPREFIX.
 make_prefix() {
-  unset DISPLAY # nothing may pop up while it is made
+  unset DISPLAY # no window may appear while the prefix is made
   run_in_prefix wineboot --init
   timeout 60 "$wine_server" -w
   cut_links_to_home "$WINEPREFIX"
@@ -67,7 +67,7 @@ main() {
   final_prefix=$WINEPREFIX
   if is_made_by "$recipe" "$final_prefix"; then return 0; fi
 
-  # $WINEPREFIX may name the prefix with all of the user's own programs: never touch one that was not made here.
+  # $WINEPREFIX may name a prefix with the user's own programs, so never touch a prefix that was not made here.
   if [ -d "$final_prefix" ] && [ ! -f "$final_prefix/$recipe_name" ]; then
     say "$final_prefix was not made by this script and stays as it is; unset WINEPREFIX or choose another folder"
     return 1

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Runs a Windows program:   wine.sh PROGRAM [ARGUMENT...]
-# Speaks to the server:     wine.sh --server -k    (ends everything in the prefix; -w waits for the end of the last program)
-# The prefix is $WINEPREFIX, or build/wineprefix of the checkout; Wine and prefix are made first where they are missing.
+# Speaks to the server:     wine.sh --server -k    (ends everything in the prefix; -w waits until the last program has ended)
+# The prefix is $WINEPREFIX, or build/wineprefix of the checkout; Wine and the prefix are made first if they are missing.
 set -euo pipefail
 
 # shellcheck source=tools/wine/common.sh
@@ -12,7 +12,7 @@ main() {
     sed -n '2,4s/^# //p' "${BASH_SOURCE[0]}" >&2
     return 2
   fi
-  # What a program prints belongs to that program: the set-up speaks on the error output only.
+  # The standard output belongs to the program: the set-up writes only to the error output.
   "$wine_tools_dir/prefix.sh" >&2
   set_wine_programs "$(chosen_wine)"
   export_wine_environment
