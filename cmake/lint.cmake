@@ -7,6 +7,9 @@ if(QDIX_SANITIZE)
   add_test(NAME lint.includes_finds_planted_faults
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/lint/include_direction_test.py)
   add_test(NAME lint.sizes COMMAND ${Python3_EXECUTABLE} ${lint}/file_sizes.py ${CMAKE_SOURCE_DIR})
+  add_test(NAME lint.plain_words COMMAND ${Python3_EXECUTABLE} ${lint}/plain_words.py ${CMAKE_SOURCE_DIR})
+  add_test(NAME lint.plain_words_finds_planted_words
+    COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/lint/plain_words_test.py)
   add_test(NAME lint.icon COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/lint/icon_test.py)
   add_test(NAME lint.tidy_looks_again_after_changes
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/lint/tidy_test.py)
