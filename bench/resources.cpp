@@ -21,11 +21,11 @@ void PrintLine(const char* name, HANDLE process, DWORD process_id, const std::st
 /// Timers of the main window are numbered from 1. The system tells of one only by stopping it, so this comes
 /// last.
 int StopAndCountTimers(const e2e::ShippedProgram& program) {
-  constexpr std::uint32_t kMostTimers = 16;
+  constexpr std::uint32_t kMaxTimers = 16;
   const std::uint32_t kill_timer = e2e::SystemFunction("user32.dll", "KillTimer");
   const auto window = static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(program.MainWindow()));
   int count = 0;
-  for (std::uint32_t number = 1; number <= kMostTimers; ++number) {
+  for (std::uint32_t number = 1; number <= kMaxTimers; ++number) {
     const auto stopped = e2e::CallInside(program.Process(), kill_timer, {window, number});
     Require(stopped.has_value(), "the timers could not be counted");
     if (*stopped != 0) ++count;

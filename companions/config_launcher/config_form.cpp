@@ -20,7 +20,7 @@ std::string Remarks(const FoundList& found) {
   if (found.is_cut) {
     remarks += "- The file is longer than 100 programs. Only the first 100 were read.\r\n";
   }
-  if (found.entries.size() > launcher::kMostEntries) {
+  if (found.entries.size() > launcher::kMaxEntries) {
     remarks += "- It holds " + base::TextOf(static_cast<std::int32_t>(found.entries.size())) +
                " programs, but the launcher takes only 25. Please remove some.\r\n";
   }
@@ -101,7 +101,7 @@ bool ConfigForm::SaveList() {
                   "\"Add\" or \"Change\".\r\n\r\nDo you want to save the list without it?")) {
     return false;
   }
-  if (entry_list_.Entries().size() > launcher::kMostEntries) {
+  if (entry_list_.Entries().size() > launcher::kMaxEntries) {
     boxes_.Tell(
         "The launcher takes 25 programs at most.\r\n\r\nPlease remove some before you save the list.");
     return false;

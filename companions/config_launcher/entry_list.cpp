@@ -67,7 +67,7 @@ void EntryList::FillList() {
   }
   base::Ignore(screen_.lstPrograms.SetSelectedIndex(selected_));  // always a valid row
   screen_.lblCount.SetCaption("(" + base::TextOf(Count()) + " of " +
-                              base::TextOf(static_cast<std::int32_t>(launcher::kMostEntries)) + ")");
+                              base::TextOf(static_cast<std::int32_t>(launcher::kMaxEntries)) + ")");
 }
 
 void EntryList::RefreshButtons() {
@@ -165,7 +165,7 @@ bool EntryList::MayAdd(const LauncherEntry& entry) {
 }
 
 bool EntryList::HasRoom() {
-  if (entries_.size() < launcher::kMostEntries) return true;
+  if (entries_.size() < launcher::kMaxEntries) return true;
   boxes_.Tell("The launcher takes 25 programs at most.\r\n\r\nPlease remove one before you add another.");
   return false;
 }
@@ -229,7 +229,7 @@ void EntryList::AddFiles(const std::vector<std::string>& paths) {
   PickedFiles picked(system_);
   bool has_room = true;
   for (const std::string& path : paths) {
-    has_room = entries_.size() < launcher::kMostEntries;
+    has_room = entries_.size() < launcher::kMaxEntries;
     if (!has_room || screen_.Window.Unloaded()) break;
     const std::optional<LauncherEntry> entry = picked.EntryOf(path);
     if (entry && MayAdd(*entry)) entries_.push_back(*entry);

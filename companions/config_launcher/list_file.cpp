@@ -15,9 +15,9 @@ bool IsUnclean(const LauncherEntry& entry) {
 }
 
 void TakeContent(const std::string& content, FoundList& found) {
-  found.is_cut = content.size() > kMostBytes;
+  found.is_cut = content.size() > kMaxBytes;
   found.has_odd_length = !found.is_cut && content.size() % launcher::kRecordBytes != 0;
-  for (const LauncherEntry& entry : launcher::ReadRecords(std::string_view(content).substr(0, kMostBytes))) {
+  for (const LauncherEntry& entry : launcher::ReadRecords(std::string_view(content).substr(0, kMaxBytes))) {
     found.has_control_characters = found.has_control_characters || IsUnclean(entry);
     found.entries.push_back(Cleaned(entry));
     const LauncherEntry& shown = found.entries.back();
@@ -41,7 +41,7 @@ bool ListFile::Exists(const std::string& path) {
 /// On a full disk, an interrupted save leaves an empty list and a copy.
 FoundList ListFile::Read() {
   FoundList found;
-  constexpr std::uint32_t kOneMore = kMostBytes + 1;
+  constexpr std::uint32_t kOneMore = kMaxBytes + 1;
   const std::optional<std::string> content = launcher::ReadWholeFile(files_, list_, kOneMore);
   if (content.has_value() && !content->empty()) {
     TakeContent(*content, found);
@@ -61,7 +61,7 @@ Saved ListFile::Write(const std::vector<LauncherEntry>& entries) {
   std::string content;
   for (const LauncherEntry& entry : entries) content += launcher::RecordBytes(entry);
   const Saved saved =
-      entries.size() <= launcher::kMostEntries && WriteTemporary(content) ? Replace() : Saved::kNo;
+      entries.size() <= launcher::kMaxEntries && WriteTemporary(content) ? Replace() : Saved::kNo;
   if (saved != Saved::kYes) files_.DeleteFileA(temporary_.c_str());
   return saved;
 }

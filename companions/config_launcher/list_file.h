@@ -12,7 +12,7 @@ namespace qdix::config_launcher {
 
 /// Maximum number of bytes read from a list: far more than the launcher accepts, and few enough for a list
 /// box.
-inline constexpr std::uint32_t kMostBytes = 100 * launcher::kRecordBytes;
+inline constexpr std::uint32_t kMaxBytes = 100 * launcher::kRecordBytes;
 
 /// The list on the disk and its problems.
 struct FoundList {
@@ -44,7 +44,7 @@ class ListFile {
 
   [[nodiscard]] FoundList Read();
 
-  /// Writes at most launcher::kMostEntries entries; refuses a longer list.
+  /// Writes at most launcher::kMaxEntries entries; refuses a longer list.
   [[nodiscard]] Saved Write(const std::vector<launcher::LauncherEntry>& entries);
 
  private:

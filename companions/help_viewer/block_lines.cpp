@@ -25,7 +25,7 @@ Block Row(BlockKind kind, std::string_view text) {
   Block block{.kind = kind};
   do {
     block.cells.push_back(ReadMarkedText(TakeField(text)));
-  } while (!text.empty() && block.cells.size() < kMostCells);
+  } while (!text.empty() && block.cells.size() < kMaxCells);
   return block;
 }
 

@@ -7,7 +7,7 @@ namespace qdix::help_viewer {
 namespace {
 
 constexpr std::size_t kSizeBytes = 4;
-constexpr unsigned kItemsOfAGroup = 8;
+constexpr unsigned kItemsPerGroup = 8;
 constexpr std::size_t kShortest = 3;
 
 class Unpacker {
@@ -17,7 +17,7 @@ class Unpacker {
   std::string Unpack() {
     std::size_t size = 0;
     for (unsigned byte = 0; byte < kSizeBytes; ++byte) size |= std::size_t{TakeByte()} << (8 * byte);
-    size_ = std::min(size, kMostStreamBytes);
+    size_ = std::min(size, kMaxStreamBytes);
     stream_.reserve(size_);
     while (IsUnfinished()) TakeGroup();
     return std::move(stream_);
@@ -35,7 +35,7 @@ class Unpacker {
 
   void TakeGroup() {
     const unsigned flags = TakeByte();
-    for (unsigned item = 0; item < kItemsOfAGroup && IsUnfinished(); ++item) {
+    for (unsigned item = 0; item < kItemsPerGroup && IsUnfinished(); ++item) {
       if ((flags & (1U << item)) != 0) {
         stream_ += static_cast<char>(TakeByte());
       } else {

@@ -7,7 +7,7 @@
 namespace qdix::help_viewer {
 
 /// Maximum length of a stream in bytes. A larger size means that the data is damaged.
-inline constexpr std::size_t kMostStreamBytes = 0x100000;
+inline constexpr std::size_t kMaxStreamBytes = 0x100000;
 
 /// Unpacks a stream: four bytes with its size, lowest byte first, then groups of one byte of flags, lowest
 /// bit first, and eight items. A set bit means a byte of the stream. A clear bit means a repetition in two

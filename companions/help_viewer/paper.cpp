@@ -40,7 +40,7 @@ std::vector<Page> Paginate(const Layout& layout, int page_height_px) {
 bool PrintTopic(os::Printer& printer, const Topic& topic, const std::string& document) {
   const os::PrinterPage paper = printer.GetDeviceCaps();
   // Half an inch, but at most a quarter of the page, to leave room for text.
-  const int margin_px = std::min({paper.dots_an_inch / 2, paper.width_px / 4, paper.height_px / 4});
+  const int margin_px = std::min({paper.dots_per_inch / 2, paper.width_px / 4, paper.height_px / 4});
   const Layout layout = LayOut(topic, printer.Device(), paper.width_px - 2 * margin_px, 0);
   if (!printer.StartDocA(document)) return false;
   if (PrintPages(printer, layout, paper.height_px - 2 * margin_px, margin_px)) return true;

@@ -5,7 +5,7 @@ namespace qdix::help_viewer {
 namespace {
 
 /// Maximum number of steps that "Back" remembers.
-constexpr std::size_t kMostVisits = 50;
+constexpr std::size_t kMaxVisits = 50;
 
 }  // namespace
 
@@ -19,7 +19,7 @@ void Reader::Open(int index) {
     screen_.paneTopic.ScrollTo(0);
     return;
   }
-  if (visits_.size() == kMostVisits) visits_.erase(visits_.begin());
+  if (visits_.size() == kMaxVisits) visits_.erase(visits_.begin());
   visits_.push_back({current_, screen_.paneTopic.ScrollPosition()});
   Show(index);
 }

@@ -22,12 +22,12 @@ constexpr std::array<Side, 4> kSides{{{"Left", &ui::WindowBounds::left},
                                       {"Height", &ui::WindowBounds::height}}};
 
 /// In pixels. The minimum size of the window itself is larger.
-constexpr int kLeastSide = 1;
-constexpr int kMostPixels = 32767;
+constexpr int kMinSidePx = 1;
+constexpr int kMaxCoordinatePx = 32767;
 
 /// Moves and shortens one dimension to fit the screen.
 void FitInto(int& begin, int& length, int screen_length) {
-  length = std::clamp(length, kLeastSide, screen_length);
+  length = std::clamp(length, kMinSidePx, screen_length);
   begin = std::clamp(begin, 0, screen_length - length);
 }
 
@@ -39,7 +39,8 @@ void RememberedPlace::Restore(ui::Form& window) const {
   for (const Side& side : kSides) {
     const std::string text = settings_.GetSetting(kSection, side.key, "");
     if (!base::IsNumber(text)) return;
-    bounds.*side.member = base::ClampToInt32(base::ParseLeadingNumber(text), -kMostPixels, kMostPixels);
+    bounds.*side.member =
+        base::ClampToInt32(base::ParseLeadingNumber(text), -kMaxCoordinatePx, kMaxCoordinatePx);
   }
   const os::ScreenSize area = screen_.WorkArea();
   FitInto(bounds.left, bounds.width, area.width);

@@ -3,7 +3,7 @@
 namespace qdix::self_test {
 
 void* LimitedMemory::VirtualAlloc(std::uint32_t bytes) {
-  if (bytes > kMostBytes) return nullptr;
+  if (bytes > kMaxBytes) return nullptr;
   void* const block = real_.VirtualAlloc(bytes);
   if (block != nullptr) ++taken_;
   return block;

@@ -8,12 +8,12 @@ namespace qdix::self_test {
 class LimitedMemory final : public os::Memory {
  public:
   /// A release of 1 MB needs a little less.
-  static constexpr std::uint32_t kMostBytes = 2000000;
+  static constexpr std::uint32_t kMaxBytes = 2000000;
 
   explicit LimitedMemory(os::Memory& real) : real_(real) {}
 
   [[nodiscard]] os::MemoryStatus GlobalMemoryStatus() override { return real_.GlobalMemoryStatus(); }
-  /// Returns null for a block above kMostBytes.
+  /// Returns null for a block above kMaxBytes.
   [[nodiscard]] void* VirtualAlloc(std::uint32_t bytes) override;
   void TouchPages(void* block, std::uint32_t bytes) override;
   void VirtualFree(void* block) override;

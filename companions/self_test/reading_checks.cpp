@@ -127,11 +127,11 @@ std::int32_t Load(os::Registry& registry, const char* path) {
 }
 
 Outcome StatisticTells(const os::System& real) {
-  constexpr std::int32_t kMostPercent = 100;
+  constexpr std::int32_t kMaxPercent = 100;
   static_cast<void>(Load(real.registry, "PerfStats\\StartStat"));  // reading StartStat starts the statistic
   const std::int32_t percent = Load(real.registry, "PerfStats\\StatData");
   if (percent < 0) return Outcome::Failed("this system keeps no such statistic");
-  if (percent > kMostPercent) return Outcome::Failed("a load of " + base::TextOf(percent) + " %");
+  if (percent > kMaxPercent) return Outcome::Failed("a load of " + base::TextOf(percent) + " %");
   return Outcome::Ok(base::TextOf(percent) + " %");
 }
 

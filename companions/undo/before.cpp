@@ -14,8 +14,8 @@ constexpr std::string_view kCut = "...";
 bool IsControl(char character) { return static_cast<unsigned char>(character) < ' '; }
 
 /// A longer entry would not be read in full, and a line break would split it into two lines.
-bool CanStandInOneLine(const std::string& text) {
-  return text.size() <= kLongestText && std::none_of(text.begin(), text.end(), IsControl);
+bool FitsOnOneLine(const std::string& text) {
+  return text.size() <= kMaxTextLength && std::none_of(text.begin(), text.end(), IsControl);
 }
 
 double NumberOf(const std::optional<std::string>& text) {
@@ -36,14 +36,14 @@ Before NumberFromRecord(const std::string& recorded) {
 
 /// The record holds only the beginning of a longer entry, or the number in it.
 std::optional<std::string> RecordedPartOf(const std::optional<std::string>& text) {
-  return text.has_value() ? std::optional(text->substr(0, kLongestText)) : std::nullopt;
+  return text.has_value() ? std::optional(text->substr(0, kMaxTextLength)) : std::nullopt;
 }
 
 }  // namespace
 
 Before FromRecord(const Entry& entry, const std::optional<std::string>& recorded) {
   if (!recorded.has_value()) return {};
-  if (!CanStandInOneLine(*recorded)) return {.unusable = *recorded};
+  if (!FitsOnOneLine(*recorded)) return {.unusable = *recorded};
   if (entry.recorded == Recorded::kAsNumber) return NumberFromRecord(*recorded);
   if (entry.recorded == Recorded::kAsTextOrEmpty && recorded->empty()) {
     return {.known = Before::Known::kFromRecord};
@@ -52,7 +52,7 @@ Before FromRecord(const Entry& entry, const std::optional<std::string>& recorded
 }
 
 Before FromBackup(const std::optional<std::string>& text) {
-  if (text.has_value() && !CanStandInOneLine(*text)) return {.unusable = *text};
+  if (text.has_value() && !FitsOnOneLine(*text)) return {.unusable = *text};
   return {.known = Before::Known::kFromBackup, .text = text};
 }
 
@@ -66,7 +66,7 @@ Before FromBoth(const Entry& entry, const std::optional<std::string>& recorded, 
   }
   Before before = FromRecord(entry, recorded);
   if (!before.IsKnown()) return before;
-  if (backup_text.has_value() && !CanStandInOneLine(*backup_text)) return {.unusable = *backup_text};
+  if (backup_text.has_value() && !FitsOnOneLine(*backup_text)) return {.unusable = *backup_text};
   before.text = backup_text;
   before.is_exact = true;
   return before;

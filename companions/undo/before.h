@@ -9,7 +9,7 @@
 namespace qdix::undo {
 
 /// Maximum number of characters that are read from an entry and that a record can restore.
-inline constexpr std::size_t kLongestText = 254;
+inline constexpr std::size_t kMaxTextLength = 254;
 
 struct Before {
   enum class Known : unsigned char {

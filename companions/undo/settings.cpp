@@ -76,7 +76,7 @@ Before Settings::ReadBefore(std::size_t entry, const Texts& backup_texts) const 
     const bool is_own = !kEntries[entry].IsInSystemIni() && ReadTemplate() == tuning::kOwnTemplate;
     return is_own && offers_own_template_ ? Before{.known = Before::Known::kFromItsName} : Before{};
   }
-  if (kEntries[entry].IsInSystemIni() && backup_.TellsEntries()) {
+  if (kEntries[entry].IsInSystemIni() && backup_.CanSupplyEntries()) {
     return FromBoth(kEntries[entry], record_.Value(entry), record_.IsComplete(), backup_texts[entry]);
   }
   return FromRecord(kEntries[entry], record_.Value(entry));
@@ -98,7 +98,7 @@ std::optional<std::string> Settings::ReadTemplate() const {
 std::optional<std::string> Settings::ReadEntry(const Entry& entry, const char* file) const {
   for (const char* const missing : kMissing) {
     // One more character than an entry may have, to detect longer ones.
-    std::array<char, kLongestText + 2> buffer{};
+    std::array<char, kMaxTextLength + 2> buffer{};
     const std::uint32_t copied = system_.profile_files.GetPrivateProfileStringA(
         entry.section, entry.key, missing, buffer.data(), buffer.size(), file);
     std::string text(base::CutAtNul({buffer.data(), copied}));

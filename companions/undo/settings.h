@@ -24,7 +24,7 @@ struct Backup {
 
   [[nodiscard]] bool IsWhole() const { return state == IniState::kWhole; }
   /// True if single entries may be taken from it.
-  [[nodiscard]] bool TellsEntries() const { return IsWhole() && agrees; }
+  [[nodiscard]] bool CanSupplyEntries() const { return IsWhole() && agrees; }
 };
 
 class Settings {
@@ -40,8 +40,8 @@ class Settings {
   [[nodiscard]] IniState SystemIniState() const { return system_ini_state_; }
   /// Returns the previous value of the entry with this index.
   [[nodiscard]] Before BeforeOf(std::size_t entry) const { return before_[entry]; }
-  /// Reads the current value now. Cuts a text longer than kLongestText. Empty if there is no such entry or it
-  /// cannot be read.
+  /// Reads the current value now. Cuts a text longer than kMaxTextLength. Empty if there is no such entry or
+  /// it cannot be read.
   [[nodiscard]] std::optional<std::string> ReadNow(const Entry& entry) const;
 
   /// Writes the previous value, or removes the entry and all its duplicates. `before` must be known. A

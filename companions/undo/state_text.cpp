@@ -30,13 +30,13 @@ const char* Fault(IniState state) {
   }
 }
 
-std::string WholeBackupText(const Backup& backup, bool is_of_another_time, os::Clock& clock) {
+std::string WholeBackupText(const Backup& backup, bool differs_from_record, os::Clock& clock) {
   std::string text = "Backup: system.qdix in the Windows folder";
   if (backup.found.has_value()) text += " (" + backup.found->dos_name + " at the command prompt)";
   const std::string date = DateOf(backup, clock);
   if (!date.empty()) text += ", system.ini as of " + date;
   text += '.';
-  if (is_of_another_time) text += " It does not match the record, so no single setting is taken from it.";
+  if (differs_from_record) text += " It does not match the record, so no single setting is taken from it.";
   return text;
 }
 

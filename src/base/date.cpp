@@ -21,7 +21,7 @@ constexpr int kEpochFromMarchYear0 = 693899;
 
 }  // namespace
 
-int DaysOfDate(int year, int month, int day) {
+int DateToDays(int year, int month, int day) {
   const int march_year = month <= 2 ? year - 1 : year;
   const int march_month = month <= 2 ? month + 9 : month - 3;
   const int day_of_year = (153 * march_month + 2) / 5 + day - 1;  // the five months from March have 153 days
@@ -29,7 +29,7 @@ int DaysOfDate(int year, int month, int day) {
          kEpochFromMarchYear0;
 }
 
-std::optional<Date> DateOfDays(double days) {
+std::optional<Date> DaysToDate(double days) {
   const double whole = Truncate(days);
   if (!(whole >= kFirstDay && whole <= kLastDay)) return std::nullopt;
   const int day_number = static_cast<int>(whole) + kEpochFromMarchYear0;

@@ -18,9 +18,9 @@ struct Date {
 
 /// Returns the calendar date of a day number. Truncates the fraction, which is the time of day, toward zero,
 /// also before 1899. Returns nullopt outside the years 100 to 9999.
-[[nodiscard]] std::optional<Date> DateOfDays(double days);
+[[nodiscard]] std::optional<Date> DaysToDate(double days);
 
 /// Returns the day number of a calendar date.
-[[nodiscard]] int DaysOfDate(int year, int month, int day);
+[[nodiscard]] int DateToDays(int year, int month, int day);
 
 }  // namespace qdix::base

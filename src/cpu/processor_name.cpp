@@ -114,7 +114,7 @@ std::uint32_t Bits(std::uint32_t value, unsigned lowest, unsigned count) {
   return (value >> lowest) & ((1U << count) - 1U);
 }
 
-std::string WithSingleBlanks(std::string_view text) {
+std::string CollapseSpaces(std::string_view text) {
   std::string result;
   for (const char character : base::Trim(text)) {
     if (character != ' ' || result.back() != ' ') result += character;
@@ -132,7 +132,7 @@ std::string ReadBrandText(os::Processor& processor) {
       AppendCharacters(text, characters);
     }
   }
-  return WithSingleBlanks(base::CutAtNul(text));
+  return CollapseSpaces(base::CutAtNul(text));
 }
 
 std::string_view MakerOf(std::string_view vendor) {

@@ -10,7 +10,7 @@ namespace {
 /// Time for the editor to open its window: 3 ticks, nine seconds.
 constexpr std::int16_t kOpeningTicks = 3;
 /// The watch gives up after this many ticks, twelve and a half minutes.
-constexpr std::int16_t kMostTicks = 250;
+constexpr std::int16_t kMaxTicks = 250;
 
 }  // namespace
 
@@ -42,7 +42,7 @@ base::Status ConfigWatch::Command15_Click() {
 base::Status ConfigWatch::Timer7_Timer() {
   ++config_watch_ticks_;
   if (config_watch_ticks_ <= kOpeningTicks) return base::kDone;
-  if (config_watch_ticks_ > kMostTicks) timer7_.SetEnabled(false);
+  if (config_watch_ticks_ > kMaxTicks) timer7_.SetEnabled(false);
   if (FindEditor() != 0) return base::kDone;
   const base::Result<bool> reloaded = launcher_.ReloadLauncherMenu();
   if (reloaded.Ok() && !reloaded.Value()) return base::kDone;

@@ -13,7 +13,7 @@ constexpr const char* kPassesKey = "Launcher Retry";
 constexpr const char* kFirst = "1";
 
 /// Maximum amount of one pass, in megabytes of 1,040,000 bytes.
-constexpr double kMostMb = 250;
+constexpr double kMaxMb = 250;
 
 }  // namespace
 
@@ -32,7 +32,7 @@ struct LaunchRelease::Amount {
     } else if (owner.screen_.Option7.Selected()) {
       mb = base::WholePart(total_mb * 0.66);
     }
-    mb = std::min(mb, kMostMb);
+    mb = std::min(mb, kMaxMb);
     return mb;
   }
 };
@@ -79,7 +79,7 @@ memory::ReleaseOutcome LaunchRelease::FreeMemoryBeforeLaunch() {
 }
 
 int LaunchRelease::Passes() const {
-  for (int index = 0; index < kMostPasses; ++index) {
+  for (int index = 0; index < kMaxPasses; ++index) {
     if (screen_.Slider_6[static_cast<std::size_t>(index)].Selected()) return index + 1;
   }
   return 0;

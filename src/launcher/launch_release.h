@@ -30,7 +30,7 @@ class LaunchRelease {
   base::Status Slider_6_Click(int index);
 
  private:
-  static constexpr int kMostPasses = 5;
+  static constexpr int kMaxPasses = 5;
 
   struct Amount;
   [[nodiscard]] int Passes() const;
@@ -41,7 +41,7 @@ class LaunchRelease {
   shell::SettingsStore& settings_;
   screens::LauncherScreen& screen_;
   const ui::CheckBox& warning_silencer_;
-  ui::ElementHandlers<kMostPasses> passes_handlers_;
+  ui::ElementHandlers<kMaxPasses> passes_handlers_;
 };
 
 }  // namespace qdix::launcher

@@ -22,7 +22,7 @@ inline constexpr std::size_t kStartInWidth = 255;
 inline constexpr std::size_t kRecordBytes = kNameWidth + kPathWidth + kStartInWidth;
 
 /// Limit of the launcher.
-inline constexpr std::size_t kMostEntries = 25;
+inline constexpr std::size_t kMaxEntries = 25;
 
 struct LauncherEntry {
   /// The name that the user sees.

@@ -12,7 +12,7 @@ namespace {
 constexpr int kNoElement = 340;
 
 /// Reads no more records than needed to detect that there are too many.
-constexpr std::uint32_t kMostBytes = static_cast<std::uint32_t>((kMostEntries + 2) * kRecordBytes);
+constexpr std::uint32_t kMaxBytes = static_cast<std::uint32_t>((kMaxEntries + 2) * kRecordBytes);
 
 bool IsLetter(char character) {
   return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
@@ -55,7 +55,7 @@ base::Status ProgramLauncher::ShowList(const std::string& content) {
 /// A list that neither exists nor can be created, for example on a CD, counts as empty.
 std::optional<std::string> ProgramLauncher::ReadList() {
   const std::string path = shell::ApplicationFolder(system_.processes) + kLauncherFileName;
-  std::optional<std::string> content = ReadWholeFile(system_.files, path, kMostBytes);
+  std::optional<std::string> content = ReadWholeFile(system_.files, path, kMaxBytes);
   if (content) return content;
   if (system_.files.GetFileAttributesA(path.c_str()) != os::kInvalidFileAttributes) return std::nullopt;
   const os::FileHandle made =

@@ -10,7 +10,7 @@ namespace qdix::memory {
 namespace {
 
 /// A longer delay is counted in minutes, because a timer interval holds little more than one minute.
-constexpr std::int32_t kLongestSingleDelaySeconds = 60;
+constexpr std::int32_t kMaxSingleDelaySeconds = 60;
 constexpr std::int32_t kMsPerSecond = 1000;
 
 }  // namespace
@@ -38,16 +38,16 @@ void StartupRelease::LoadAmount(double total_ram_mb) {
 }
 
 void StartupRelease::LoadAndArmDelay() {
-  const std::string stored = settings_.GetSetting(shell::kStartupSection, "StartupTime",
-                                                  base::ShortestText(kLongestSingleDelaySeconds));
+  const std::string stored =
+      settings_.GetSetting(shell::kStartupSection, "StartupTime", base::ShortestText(kMaxSingleDelaySeconds));
   const auto seconds = static_cast<std::int16_t>(
       base::ClampToInt32(base::ParseLeadingNumber(stored), 0, std::numeric_limits<std::int16_t>::max()));
   screen_.VScroll3.SetNearest(seconds);
   screen_.Text3.SetText(stored);
-  if (seconds <= kLongestSingleDelaySeconds) {
+  if (seconds <= kMaxSingleDelaySeconds) {
     timer3_.SetNearestInterval(seconds * kMsPerSecond);
   } else {
-    timer3_.SetNearestInterval(kLongestSingleDelaySeconds * kMsPerSecond);
+    timer3_.SetNearestInterval(kMaxSingleDelaySeconds * kMsPerSecond);
     startup_delay_left_ = seconds;
   }
   timer3_.SetEnabled(true);
@@ -55,8 +55,8 @@ void StartupRelease::LoadAndArmDelay() {
 
 base::Status StartupRelease::Timer3_Timer() {
   if (startup_delay_left_ != 0) {
-    const std::int32_t left_seconds = startup_delay_left_ - kLongestSingleDelaySeconds;
-    if (left_seconds > kLongestSingleDelaySeconds) {
+    const std::int32_t left_seconds = startup_delay_left_ - kMaxSingleDelaySeconds;
+    if (left_seconds > kMaxSingleDelaySeconds) {
       startup_delay_left_ = static_cast<std::int16_t>(left_seconds);
       return base::kDone;
     }

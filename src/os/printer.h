@@ -12,7 +12,7 @@ namespace qdix::os {
 struct PrinterPage {
   int width_px = 0;
   int height_px = 0;
-  int dots_an_inch = 0;
+  int dots_per_inch = 0;
 };
 
 class Printer {

@@ -8,13 +8,13 @@ namespace {
 
 /// Longest text that is read. Nothing that the program stores comes near it. A longer value comes from
 /// another program and counts as missing.
-constexpr std::uint32_t kLongestTextBytes = 65536;
+constexpr std::uint32_t kMaxTextBytes = 65536;
 
 }  // namespace
 
 std::optional<std::string> ReadTextOfSize(os::Registry& registry, os::KeyHandle key, const char* value_name,
                                           std::uint32_t size_bytes) {
-  if (size_bytes > kLongestTextBytes) return std::nullopt;
+  if (size_bytes > kMaxTextBytes) return std::nullopt;
   std::string text(size_bytes, '\0');
   std::uint32_t type = 0;
   auto* const bytes = reinterpret_cast<std::uint8_t*>(text.data());

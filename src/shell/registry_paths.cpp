@@ -12,7 +12,7 @@ namespace qdix::shell {
 namespace {
 
 /// Deepest path that can be opened, in keys below the root.
-constexpr std::size_t kMostLevels = 32;
+constexpr std::size_t kMaxLevels = 32;
 
 struct Root {
   std::string_view name;
@@ -54,7 +54,7 @@ const Root* FindRoot(const std::string& name) {
 
 std::int32_t RegistryPaths::GetSubkeyHandle(std::string_view path) {
   const std::vector<std::string> elements = ElementsOf(path);
-  if (elements.empty() || elements.size() - 1 > kMostLevels) return kNoKey;
+  if (elements.empty() || elements.size() - 1 > kMaxLevels) return kNoKey;
   const Root* const root = FindRoot(elements.front());
   if (root == nullptr) return kNoKey;
   os::KeyHandle deepest = root->handle;

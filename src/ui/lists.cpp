@@ -5,7 +5,7 @@ namespace qdix::ui {
 namespace {
 
 /// A Windows 95 list box counts its rows in 16 bits.
-constexpr int kMostRows = 32767;
+constexpr int kMaxRows = 32767;
 
 }  // namespace
 
@@ -23,7 +23,7 @@ std::int32_t ListControl::ItemData(int index) const {
 }
 
 void ListControl::AddItem(std::string_view text, std::int32_t item_data) {
-  if (Count() >= kMostRows) return;
+  if (Count() >= kMaxRows) return;
   items_.push_back({std::string(text), item_data});
   Notify(Change::kItems);
 }

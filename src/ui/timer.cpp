@@ -17,7 +17,7 @@ void Timer::Restart() {
 }
 
 base::Status Timer::SetInterval(std::int32_t interval_ms) {
-  if (interval_ms < 0 || interval_ms > kLongestIntervalMs) return base::kInvalidPropertyValue;
+  if (interval_ms < 0 || interval_ms > kMaxIntervalMs) return base::kInvalidPropertyValue;
   if (interval_ms_ == interval_ms) return base::kDone;
   interval_ms_ = interval_ms;
   Restart();
@@ -25,8 +25,8 @@ base::Status Timer::SetInterval(std::int32_t interval_ms) {
 }
 
 void Timer::SetNearestInterval(double interval_ms) {
-  base::Ignore(SetInterval(
-      base::ClampToInt32(interval_ms, 0, kLongestIntervalMs)));  // inside the range by construction
+  base::Ignore(
+      SetInterval(base::ClampToInt32(interval_ms, 0, kMaxIntervalMs)));  // inside the range by construction
 }
 
 void Timer::SetEnabled(bool enabled) {

@@ -21,7 +21,7 @@ class TimerPeer {
 
 class Timer {
  public:
-  static constexpr std::int32_t kLongestIntervalMs = 65535;
+  static constexpr std::int32_t kMaxIntervalMs = 65535;
 
   /// A timer without a peer never elapses.
   Timer(EventDispatcher& events, std::string_view name, std::int32_t interval_ms, bool enabled);

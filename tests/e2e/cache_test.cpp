@@ -159,12 +159,12 @@ TEST_F(CacheSession, FreshMachineShowsNoSizesAndUserDefined) {
 
 TEST_F(CacheSession, SlidersHaveTenMarksForAnyRange) {
   // One more mark where the last interval is shorter, and one at the end.
-  constexpr int kMostMarks = 12;
+  constexpr int kMarkIntervals = 12;
   StartOnCacheTab();
   for (const char* const slider : {"Slider1", "Slider2", "Slider3", "Slider4", "Slider5"}) {
     const int marks = SliderMarks(program.Control(slider));
     EXPECT_GE(marks, 2) << slider;
-    EXPECT_LE(marks, kMostMarks) << slider;
+    EXPECT_LE(marks, kMarkIntervals) << slider;
   }
   CloseProgram();
 }

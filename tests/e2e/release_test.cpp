@@ -99,7 +99,7 @@ TEST_F(ReleaseSession, TextThatIsNoNumberMeansNoPasses) {
 
 TEST_F(ReleaseSession, WarningWhenTheSystemRefusesTheFirstBlock) {
   StartProgram();
-  ASSERT_TRUE(NarrowAddressSpace(program.Process(), 100000000));
+  ASSERT_TRUE(RestrictAddressSpace(program.Process(), 100000000));
   PressFreeUp("512 MB");
   ASSERT_TRUE(program.Await([&] { return !program.MessageBoxes().empty(); }));
   const MessageBox warning = program.MessageBoxes().front();
@@ -116,7 +116,7 @@ TEST_F(ReleaseSession, WarningWhenTheSystemRefusesTheFirstBlock) {
 TEST_F(ReleaseSession, FirstBlockIsHeldUntilTheWarningAboutTheSecondIsAnswered) {
   SetPasses("3");
   StartProgram();
-  ASSERT_TRUE(NarrowAddressSpace(program.Process(), 265000000));
+  ASSERT_TRUE(RestrictAddressSpace(program.Process(), 265000000));
   PressFreeUp("512 MB");
   ASSERT_TRUE(program.Await([&] { return !program.MessageBoxes().empty(); }));
   EXPECT_EQ(program.CommittedBlocks(kBlockBytes), Blocks{kLargestFirstBlock});

@@ -1,6 +1,6 @@
 // How the shipped exe shows itself when it starts, and its pause.
+#include "tests/e2e/driver/fake_memory.h"
 #include "tests/e2e/driver/notification_area.h"
-#include "tests/e2e/driver/played_memory.h"
 #include "tests/e2e/session.h"
 
 namespace qdix::e2e {
@@ -60,7 +60,7 @@ TEST_F(StartModeSession, TwoMinimisesTheWindowWithTheMemoryInItsCaption) {
   EXPECT_TRUE(program.HasIcon());
   // A taskbar writes this on the button of the window. Wine's shows no button for an owned window, see
   // MainWindowAsksForAButtonInTheTaskbar.
-  PlayedMemory memory(program.Process());
+  FakeMemory memory(program.Process());
   ASSERT_TRUE(memory.Play(kBytesOf100Mb));
   ExpectCaption("100 MB   Q-DIX");
   EXPECT_TRUE(IsMinimised(program));
@@ -144,7 +144,7 @@ TEST_F(StartModeSession, ChoosingHiddenChangesNothingBeforeTheNextStart) {
   program.Press("Option3");
   ASSERT_TRUE(program.Await([] { return RegistryText(kStartup, "StartDisplay") == "3"; }));
   // A caption refreshed after the choice shows that the choice has been handled.
-  PlayedMemory memory(program.Process());
+  FakeMemory memory(program.Process());
   ASSERT_TRUE(memory.Play(kBytesOf100Mb));
   ExpectCaption("100 MB   Q-DIX");
   EXPECT_TRUE(IsShown(program));
@@ -158,7 +158,7 @@ TEST_F(StartModeSession, ChoosingHiddenChangesNothingBeforeTheNextStart) {
 
 TEST_F(StartModeSession, PauseStopsTheFiguresAndResumeRestartsThem) {
   StartProgram();
-  PlayedMemory memory(program.Process());
+  FakeMemory memory(program.Process());
   ASSERT_TRUE(memory.Play(kBytesOf100Mb));
   ExpectCaption("100 MB   Q-DIX");
   program.Press("Command3");

@@ -5,7 +5,7 @@
 
 #include "screens/main_window.h"
 #include "tests/e2e/driver/drop_down.h"
-#include "tests/e2e/driver/played_disk.h"
+#include "tests/e2e/driver/fake_disk.h"
 #include "tests/e2e/driver/ranges.h"
 #include "tests/e2e/machine.h"
 #include "tests/e2e/tuning_session.h"
@@ -120,7 +120,7 @@ class SwapFileSession : public TuningSession {
   }
   static void PressSave() { PressKeyWith(VK_MENU, 'S'); }
 
-  void PlayFreeMb(PlayedDisk& disk, int free_mb) const {
+  void PlayFreeMb(FakeDisk& disk, int free_mb) const {
     ASSERT_TRUE(disk.Play(static_cast<std::uint64_t>(free_mb) * kMegabyte));
   }
   /// Expects the message of the untrapped error, and then the end of the program.
@@ -208,7 +208,7 @@ TEST_F(SwapFileSession, ChosenSizeIsWrittenRecordedAndShownByTheNextStart) {
       "1024\r\n");
   const std::optional<std::string> before = WindowsFile(kSystemIni);
   StartOnSwapFileTab();
-  PlayedDisk disk(program.Process());
+  FakeDisk disk(program.Process());
   PlayFreeMb(disk, machine.WholeMb() + 20);
   ChooseToOptimise();
   TypeSize(lowest_mb);
@@ -238,7 +238,7 @@ TEST_F(SwapFileSession, ChosenSizeIsWrittenRecordedAndShownByTheNextStart) {
 
 TEST_F(SwapFileSession, NoAtTheQuestionLeavesSystemIniAndKeepsTheRecord) {
   StartWith(kOtherSetup);
-  PlayedDisk disk(program.Process());
+  FakeDisk disk(program.Process());
   PlayFreeMb(disk, machine.WholeMb() + 20);
   ChooseToOptimise();
   TypeSize(lowest_mb);
@@ -268,7 +268,7 @@ TEST_F(SwapFileSession, SizeBelowTheMemoryIsRefused) {
 
 TEST_F(SwapFileSession, SizeThatLeavesLessThanTwentyMegabytesIsRefused) {
   StartWith(kOwnSetup);
-  PlayedDisk disk(program.Process());
+  FakeDisk disk(program.Process());
   PlayFreeMb(disk, machine.WholeMb() + 20);
   TypeSize(std::to_string(machine.WholeMb() + 1));
   PressSave();
@@ -284,7 +284,7 @@ TEST_F(SwapFileSession, SizeThatLeavesLessThanTwentyMegabytesIsRefused) {
 
 TEST_F(SwapFileSession, YesToTheRestartRequestsOneAndEndsTheProgram) {
   StartOnSwapFileTab();
-  PlayedDisk disk(program.Process());
+  FakeDisk disk(program.Process());
   PlayFreeMb(disk, machine.WholeMb() + 20);
   ChooseToOptimise();
   TypeSize(lowest_mb);
@@ -396,7 +396,7 @@ TEST_F(SwapFileSession, AccessKeysReachOptionsDrivesAndSize) {
 
 TEST_F(SwapFileSession, SuggestionNamesDriveAndSizeAndWritesNothing) {
   StartWith(kOwnSetup);
-  PlayedDisk disk(program.Process());
+  FakeDisk disk(program.Process());
   PlayFreeMb(disk, machine.SuggestedSwapMb() + 101);
   const std::string size = std::to_string(machine.SuggestedSwapMb());
   PressKeyWith(VK_MENU, 'G');
@@ -418,7 +418,7 @@ TEST_F(SwapFileSession, SuggestionNamesDriveAndSizeAndWritesNothing) {
 
 TEST_F(SwapFileSession, SuggestionWithoutRoomLeavesItToWindows) {
   StartWith(kOwnSetup);
-  PlayedDisk disk(program.Process());
+  FakeDisk disk(program.Process());
   PlayFreeMb(disk, machine.SuggestedSwapMb() + 100);
   PressKeyWith(VK_MENU, 'G');
   Answer(

@@ -1,7 +1,7 @@
 // The icon of the shipped exe in the notification area, under the real pointer, and its menu.
+#include "tests/e2e/driver/fake_memory.h"
 #include "tests/e2e/driver/hand.h"
 #include "tests/e2e/driver/notification_area.h"
-#include "tests/e2e/driver/played_memory.h"
 #include "tests/e2e/driver/popup_menu.h"
 #include "tests/e2e/session.h"
 
@@ -89,7 +89,7 @@ TEST_F(TraySession, IconIsDrawnFromTheStartToTheEnd) {
 
 TEST_F(TraySession, PointerOnTheIconRefreshesTheTipWithTheFigureOfTheCaption) {
   StartProgram();
-  PlayedMemory memory(program.Process());
+  FakeMemory memory(program.Process());
   ASSERT_TRUE(memory.Play(kBytesOf75Point1Mb));
   ASSERT_TRUE(program.Await([this] { return program.Caption() == "75.1 MB   Q-DIX"; })) << program.Caption();
   ASSERT_TRUE(PointAtIcon());
@@ -151,7 +151,7 @@ TEST_F(TraySession, EscapeClosesTheMenuAndTheProgramKeepsRunning) {
   OpenMenu();
   CloseMenu();
   EXPECT_TRUE(IsShown());
-  PlayedMemory memory(program.Process());
+  FakeMemory memory(program.Process());
   ASSERT_TRUE(memory.Play(kBytesOf50Mb));
   EXPECT_TRUE(program.Await([this] { return program.Caption() == "50 MB   Q-DIX"; }));
   OpenMenu();
@@ -162,7 +162,7 @@ TEST_F(TraySession, EscapeClosesTheMenuAndTheProgramKeepsRunning) {
 TEST_F(TraySession, FiguresAreRefreshedWhileTheMenuIsOpen) {
   StartProgram();
   OpenMenu();
-  PlayedMemory memory(program.Process());
+  FakeMemory memory(program.Process());
   ASSERT_TRUE(memory.Play(kBytesOf50Mb));
   EXPECT_TRUE(program.Await([this] { return program.Caption() == "50 MB   Q-DIX"; }));
   EXPECT_EQ(program.OpenMenus().size(), 1U);

@@ -70,7 +70,7 @@ class ConfigHands : private RandomListMaker {
   void ExpectSaved() {
     on_disk_ = rig_.ListOnDisk();
     EXPECT_EQ(on_disk_, BytesOf(rig_.form->Entries())) << "neither the old list nor the new one";
-    EXPECT_LE(rig_.form->Entries().size(), std::size_t{launcher::kMostEntries});
+    EXPECT_LE(rig_.form->Entries().size(), std::size_t{launcher::kMaxEntries});
   }
 
   void CheckInvariants() {

@@ -27,7 +27,7 @@ class RandomLists : private RandomListMaker {
     }
     if (rig_.form->Window().Unloaded()) return;
     // From here on, text that was typed but not added to the list may be lost.
-    while (rig_.form->Entries().size() > launcher::kMostEntries) Remove();
+    while (rig_.form->Entries().size() > launcher::kMaxEntries) Remove();
     const Entries shown = rig_.form->Entries();
     rig_.machine.AnswerNextBox(os::kIdYes);
     rig_.Screen().cmdOK.Press();

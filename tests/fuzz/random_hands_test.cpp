@@ -25,7 +25,7 @@ class RandomHands : private RandomSource {
     hand_.Take(rig_.program->Window());
     rig_.machine.OnPump([this](int number) { InsidePump(number); });
     rig_.program->Start();
-    if (!Chance(4)) rig_.TakeGraphAway();
+    if (!Chance(4)) rig_.RemoveGraph();
     unsigned long events = 0;
     for (; events < kEventsPerRun && !rig_.program->Window().Unloaded(); ++events) {
       Act();
@@ -159,8 +159,7 @@ class RandomHands : private RandomSource {
     const int tab = rig_.program->MainWindow().SSTab1.Tab();
     EXPECT_TRUE(tab >= 0 && tab < 8) << tab;
     for (const ui::Timer* timer : rig_.program->Timers()) {
-      EXPECT_TRUE(timer->Interval() >= 0 && timer->Interval() <= ui::Timer::kLongestIntervalMs)
-          << timer->Name();
+      EXPECT_TRUE(timer->Interval() >= 0 && timer->Interval() <= ui::Timer::kMaxIntervalMs) << timer->Name();
     }
   }
 

@@ -151,7 +151,7 @@ class WayBack : private RandomSource {
     const Texts now = ReadTexts();
     for (std::size_t entry = 0; entry < undo::kEntries.size(); ++entry) {
       const std::string text = texts_before_[entry].value_or("");
-      if (text.size() > undo::kLongestText || std::any_of(text.begin(), text.end(), IsControl)) continue;
+      if (text.size() > undo::kMaxTextLength || std::any_of(text.begin(), text.end(), IsControl)) continue;
       EXPECT_EQ(now[entry], texts_before_[entry])
           << undo::NameOf(undo::kEntries[entry]) << (is_recorded ? "" : ", never saved") << "\n"
           << before_;

@@ -10,7 +10,7 @@ TOPICS_OF_THE_PROGRAM = {0: "First Steps", 4: "Quondix", 5: "Automatic", 6: "Tim
 # A topic pane of 300 pixels, in a font of about 6 pixels per character.
 PANE_CHARACTERS = 50
 CODE_CHARACTERS = 60
-MOST_BYTES = 48000
+MAX_BYTES = 48000
 
 
 class ManualTest(ManualCase):
@@ -60,7 +60,7 @@ class ManualTest(ManualCase):
         self.assertGreater(tables, 3)
 
     def test_stream_is_small_enough_for_the_viewer(self):
-        self.assertLess(len(self.stream), MOST_BYTES)
+        self.assertLess(len(self.stream), MAX_BYTES)
 
 
 if __name__ == "__main__":

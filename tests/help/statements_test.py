@@ -83,7 +83,7 @@ class StatementsTest(ManualCase):
     def test_times_of_the_watch_over_the_editor(self):
         watch, tick_s = "src/launcher/config_watch.cpp", timer_s("Timer7")
         first_look_s = tick_s * (number_in(watch, "kOpeningTicks = ") + 1)
-        half_minutes = round(tick_s * number_in(watch, "kMostTicks = ") / 30)
+        half_minutes = round(tick_s * number_in(watch, "kMaxTicks = ") / 30)
         text = self.text_of(LAUNCHER)
         self.assertIn(f"within {tick_s} seconds after the editor closes, but not in the first {first_look_s} ", text)
         self.assertIn(f"{half_minutes // 2} and a half minutes", text)

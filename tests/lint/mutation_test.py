@@ -195,11 +195,11 @@ class ObjectsOfHeaders(unittest.TestCase):
     """Makes three small objects, two with the class of a header and one with the value of a number."""
 
     SOURCES = {
-        "page.h": "inline constexpr int kMost = 4;\ninline constexpr int kTable[] = {1, 2};\nstruct Page {\n"
-                  "  Page() {}\n  int first{kMost};\n  int second = 3;\n  int Twice() { return 2 * first; }\n};\n",
+        "page.h": "inline constexpr int kMaxUnits = 4;\ninline constexpr int kTable[] = {1, 2};\nstruct Page {\n"
+                  "  Page() {}\n  int first{kMaxUnits};\n  int second = 3;\n  int Twice() { return 2 * first; }\n};\n",
         "window.cpp": '#include "page.h"\nint Window() { Page page; return page.Twice(); }\n',
         "other.cpp": '#include "page.h"\nint Other() { Page page; return page.first + Other(); }\nint Pad[9] = {1};\n',
-        "number.cpp": '#include "page.h"\nint Number() { return kMost; }\n',
+        "number.cpp": '#include "page.h"\nint Number() { return kMaxUnits; }\n',
     }
 
     @classmethod
@@ -224,7 +224,7 @@ class ObjectsOfHeaders(unittest.TestCase):
 
     def test_number_is_in_every_object_that_uses_it(self):
         by_itself, with_the_class = "number.cpp", self.carriers.of(("Page", "Page"))[0].name
-        self.expect(("", "kMost"), *sorted([by_itself, with_the_class]))
+        self.expect(("", "kMaxUnits"), *sorted([by_itself, with_the_class]))
 
     def test_what_no_object_has_is_left_alone(self):
         self.expect(("", "kNothing"))
@@ -232,7 +232,7 @@ class ObjectsOfHeaders(unittest.TestCase):
     def test_mutants_of_a_header_know_what_they_are_compiled_with(self):
         found = operators.mutants_of(self.folder / "page.h", "page.h", ["-std=c++20"])
         owners = {(mutant.line, mutant.owner) for mutant in found}
-        self.assertEqual(owners, {(1, ("", "kMost")), (2, ("", "kTable")), (6, ("Page", "Page")), (7, ("Page", "Twice"))})
+        self.assertEqual(owners, {(1, ("", "kMaxUnits")), (2, ("", "kTable")), (6, ("Page", "Page")), (7, ("Page", "Twice"))})
 
     def test_names_of_symbols(self):
         for symbol, name in (("qdix::ui::Page::Page(qdix::ui::Container&)", "Page::Page"), ("qdix::ui::Find(int)", "Find"),

@@ -20,7 +20,7 @@ constexpr int kPumpsPerStep = 1000;
 constexpr std::int64_t kPumpStepMs = 17;
 constexpr const char* kLoadKey = "PerfStats\\StatData";
 /// More than the number of settings.
-constexpr std::size_t kMostSettings = 30;
+constexpr std::size_t kMaxSettings = 30;
 /// Allows for labels whose texts are sometimes long and sometimes short.
 constexpr std::int64_t kSlackAllocations = 40;
 
@@ -77,7 +77,7 @@ base::Status Days::Activated() {
 }
 
 void Days::Run(unsigned long days) {
-  rig_.TakeGraphAway();
+  rig_.RemoveGraph();
   for (unsigned long slot = 1; slot <= days * kSlotsPerDay; ++slot) {
     SCOPED_TRACE(Moment());
     Weather();
@@ -136,7 +136,7 @@ void Days::CheckHour() {
 void Days::CheckDay() {
   for (const char* section : {"Settings", "Startup"}) {
     const auto texts = rig_.machine.RegistryTexts(os::kHkeyCurrentUser, ProgramRig::SectionPath(section));
-    EXPECT_LE(texts.size(), kMostSettings) << section;
+    EXPECT_LE(texts.size(), kMaxSettings) << section;
   }
   if (live_allocations_ == 0) live_allocations_ = LiveAllocations();
   EXPECT_LE(LiveAllocations(), live_allocations_ + kSlackAllocations);

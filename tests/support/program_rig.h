@@ -69,7 +69,7 @@ class ProgramRig {
                       status.available_page_file);
   }
   /// Stops drawing the graph: moving pixels takes most of the time of a long run.
-  void TakeGraphAway() { program->Quondix().XGraphMeter1.SurfaceChanged(nullptr); }
+  void RemoveGraph() { program->Quondix().XGraphMeter1.SurfaceChanged(nullptr); }
 
   /// Returns the newest bar of the CPU graph, in pixels from the bottom.
   [[nodiscard]] int NewestBarPx() const {

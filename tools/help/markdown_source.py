@@ -15,7 +15,7 @@ from book import (Block, Bullet, CodeLine, Heading, Paragraph, Picture, Row, Sou
 
 ENCODING = "cp1252"
 # Fits beside the contents in a window for a 640-pixel screen, in a fixed-width font.
-MOST_CODE_CHARACTERS = 60
+MAX_CODE_CHARACTERS = 60
 TOPIC_FILE = re.compile(r"(\d{2})_[a-z0-9_]+\.md")
 PICTURE_FILE = re.compile(r"pictures/[a-z0-9]{1,8}\.gif")
 # Width and height of the picture in the head of the file, little-endian 16-bit words.
@@ -112,8 +112,8 @@ class MarkdownSource:
         lines = node.content.removesuffix("\n").split("\n")
         first = line_of(node) + (1 if node.type == "fence" else 0)
         for number, line in enumerate(lines, first):
-            if len(line) > MOST_CODE_CHARACTERS:
-                raise self.fail(number, f"more than {MOST_CODE_CHARACTERS} characters of code in a line")
+            if len(line) > MAX_CODE_CHARACTERS:
+                raise self.fail(number, f"more than {MAX_CODE_CHARACTERS} characters of code in a line")
         return [CodeLine(line) for line in lines]
 
     def _picture(self, image: SyntaxTreeNode, line: int) -> Picture:

@@ -8,7 +8,7 @@ from book import Block, Book, Bullet, CodeLine, Heading, Paragraph, Picture, Row
 from markdown_source import ENCODING
 
 # The viewer contains the stream, and it must stay small.
-MOST_BYTES = 48000
+MAX_BYTES = 48000
 
 
 class StreamTooLong(Exception):
@@ -23,8 +23,8 @@ def topic_stream(book: Book) -> bytes:
             lines.append(f"@{topic.number}\t{topic.title}")
             lines.extend(_line(block) for block in topic.blocks)
     stream = "".join(line + "\n" for line in lines).encode(ENCODING)
-    if len(stream) > MOST_BYTES:
-        raise StreamTooLong(f"the topics have {len(stream)} bytes, and the viewer takes {MOST_BYTES} at most")
+    if len(stream) > MAX_BYTES:
+        raise StreamTooLong(f"the topics have {len(stream)} bytes, and the viewer takes {MAX_BYTES} at most")
     return stream
 
 

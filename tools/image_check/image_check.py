@@ -34,7 +34,7 @@ ALLOWED = I386 | I387
 # Instructions allowed only in this section: the guarded ones for processors that have them.
 NEWER_SECTION = ".newcpu"
 # A page is 4,096 bytes. No probe walks down a larger frame, and a call needs room below it.
-MOST_FRAME_BYTES = 3500
+MAX_FRAME_BYTES = 3500
 NEWER = {"cpuid", "rdtsc"}
 PREFIXES = {"rep", "repz", "repnz", "lock", "cs", "ds", "es", "ss", "fs", "gs", "data16", "addr16"}
 EMPTY_LISTS = (b"\xff" * 4 + b"\0" * 4) * 2
@@ -152,7 +152,7 @@ def check_instructions(image):
         count += 1
         if not is_allowed(section, text):
             yield f"instruction at {address} is none of the 386: {text.strip()}"
-        if frame_bytes(text) > MOST_FRAME_BYTES:
+        if frame_bytes(text) > MAX_FRAME_BYTES:
             yield f"frame at {address} of {frame_bytes(text)} bytes could step over the guard page of the stack"
     if count < 10:
         yield "holds no code, or the code could not be read"

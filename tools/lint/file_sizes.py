@@ -3,7 +3,7 @@
 import pathlib
 import sys
 
-MOST_LINES = 500
+MAX_LINES = 500
 FOLDERS = ("src", "companions", "tests", "bench", "tools", "cmake")
 SUFFIXES = {".h", ".cpp", ".py", ".sh", ".cmake"}
 
@@ -12,9 +12,9 @@ def main():
     root = pathlib.Path(sys.argv[1])
     files = [file for folder in FOLDERS for file in (root / folder).rglob("*") if file.suffix in SUFFIXES]
     too_long = [(file, count) for file in sorted(files)
-                if (count := len(file.read_text(encoding="utf-8").splitlines())) > MOST_LINES]
+                if (count := len(file.read_text(encoding="utf-8").splitlines())) > MAX_LINES]
     for file, count in too_long:
-        print(f"{file.relative_to(root)} has {count} lines, more than {MOST_LINES}")
+        print(f"{file.relative_to(root)} has {count} lines, more than {MAX_LINES}")
     print(f"file sizes: {len(files)} files checked")
     sys.exit(1 if too_long or not files else 0)
 

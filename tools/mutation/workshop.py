@@ -30,7 +30,7 @@ TEST_FOLDERS = ("tests/unit",)
 # Tests of what a screen shows.
 SCREEN_TESTS = ("screen", "tool_tips")
 # A header whose change would compile more sources is left alone.
-MOST_CARRIERS = 6
+MAX_CARRIERS = 6
 # Runs at slightly lower priority than other work on the machine.
 NICE = ["nice", "-n", "1"]
 
@@ -124,7 +124,7 @@ class Workshop:
         if changed in self.commands:
             return [changed]
         sources = self.carriers.of(mutant.owner)
-        return sources if len(sources) <= MOST_CARRIERS else []
+        return sources if len(sources) <= MAX_CARRIERS else []
 
     def rounds(self, source):
         """Returns the tests in the order in which they are likely to catch the mutant: those of its file, of its

@@ -97,7 +97,7 @@ struct OneMegabyte {
 };
 
 Outcome ReleaseOneMegabyte(const Bench& bench, MainProgram& open) {
-  constexpr std::uint32_t kLeastBytes = 1000000;
+  constexpr std::uint32_t kMinBytes = 1000000;
   const LimitedMemory& memory = bench.system.Memory();
   const int taken_before = memory.Taken();
   const std::uint32_t touched_before = memory.TouchedBytes();
@@ -108,7 +108,7 @@ Outcome ReleaseOneMegabyte(const Bench& bench, MainProgram& open) {
     return Outcome::Failed("it did not finish: " + bench.system.Dialogs().TakeTexts());
   }
   if (memory.Taken() != taken_before + 1) return Outcome::Failed("it took no block");
-  if (memory.TouchedBytes() - touched_before < kLeastBytes) return Outcome::Failed("the block is too small");
+  if (memory.TouchedBytes() - touched_before < kMinBytes) return Outcome::Failed("the block is too small");
   return Outcome::Expect(memory.GivenBack() == memory.Taken(), "the block was not given back");
 }
 

@@ -24,7 +24,7 @@ std::uint32_t Copy(std::string_view text, char* buffer, std::uint32_t size_bytes
 }
 
 /// Returns a default text as Windows 95 does: without trailing spaces and control characters.
-std::string_view WithoutBlanksAtTheEnd(std::string_view text) {
+std::string_view TrimTrailingSpaces(std::string_view text) {
   while (!text.empty() && static_cast<unsigned char>(text.back()) <= ' ') text.remove_suffix(1);
   return text;
 }
@@ -216,7 +216,7 @@ std::uint32_t SimulatedFiles::GetPrivateProfileStringA(const char* section, cons
       log_.RecordAndFail("GetPrivateProfileStringA", std::string(file) + " [" + section + "] " + key);
   kept_.insert(ProfilePath(file));
   const auto content = Read(ProfilePath(file));
-  const std::string_view default_text = WithoutBlanksAtTheEnd(missing);
+  const std::string_view default_text = TrimTrailingSpaces(missing);
   if (fails || !content || held_.contains(ProfilePath(file))) return Copy(default_text, buffer, size_bytes);
   const Lines lines = LinesOf(*content);
   const auto found = FindSection(lines, section);

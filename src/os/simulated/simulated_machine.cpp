@@ -135,7 +135,7 @@ std::string SimulatedMachine::LongDate(double days) {
                                                 "May",       "June",     "July",     "August",
                                                 "September", "October",  "November", "December"};
   if (log_.RecordAndFail("LongDate", std::to_string(days))) return {};
-  const auto date = base::DateOfDays(days);
+  const auto date = base::DaysToDate(days);
   if (!date) return {};
   return std::string(kWeekdays[static_cast<std::size_t>(date->weekday)]) + ", " +
          kMonths[static_cast<std::size_t>(date->month - 1)] + " " + std::to_string(date->day) + ", " +

@@ -88,7 +88,7 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   bool EraseFile(const std::string& path) { return files_.Erase(path); }
   [[nodiscard]] int OpenFileCount() const { return files_.OpenCount(); }
   /// Removes the disk from a drive: its folders cannot become current and its programs cannot be started.
-  void TakeDiskOut(char drive) { empty_drives_.insert(base::UpperAscii(std::string(1, drive))); }
+  void RemoveDisk(char drive) { empty_drives_.insert(base::UpperAscii(std::string(1, drive))); }
   /// Adds a folder that can become the current one.
   void AddFolder(const std::string& path) { folders_.insert(base::UpperAscii(path)); }
   [[nodiscard]] const std::string& CurrentFolder() const { return current_folder_; }

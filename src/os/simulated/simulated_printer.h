@@ -47,7 +47,7 @@ class SimulatedPrinter final : public Printer {
 
   // What the test sets.
   Choice choice = Choice::kPrint;
-  PrinterPage page{.width_px = 800, .height_px = 600, .dots_an_inch = 100};
+  PrinterPage page{.width_px = 800, .height_px = 600, .dots_per_inch = 100};
   std::function<void()> while_open;
   std::string failing_call;
 

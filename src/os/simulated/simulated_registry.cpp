@@ -98,7 +98,7 @@ std::int32_t SimulatedRegistry::RegCreateKeyExA(KeyHandle parent, const char* su
   return kErrorSuccess;
 }
 
-std::uint32_t SimulatedRegistry::MostAccess(const std::string& path) const {
+std::uint32_t SimulatedRegistry::MaxAccess(const std::string& path) const {
   return write_protected_.contains(path) ? kKeyQueryValue : kKeyAllAccess;
 }
 
@@ -107,7 +107,7 @@ std::int32_t SimulatedRegistry::RegOpenKeyA(KeyHandle parent, const char* subkey
   if (log_.RecordAndFail("RegOpenKeyA", path.value_or("invalid"))) return kErrorAccessDenied;
   if (!path) return kErrorInvalidHandle;
   if (!keys_.contains(*path) && path->find('\\') != std::string::npos) return kErrorFileNotFound;
-  opened = Open(*path, MostAccess(*path));
+  opened = Open(*path, MaxAccess(*path));
   return kErrorSuccess;
 }
 
@@ -116,7 +116,7 @@ std::int32_t SimulatedRegistry::RegCreateKeyA(KeyHandle parent, const char* subk
   if (log_.RecordAndFail("RegCreateKeyA", path.value_or("invalid"))) return kErrorAccessDenied;
   if (!path) return kErrorInvalidHandle;
   Create(*path);
-  opened = Open(*path, MostAccess(*path));
+  opened = Open(*path, MaxAccess(*path));
   return kErrorSuccess;
 }
 

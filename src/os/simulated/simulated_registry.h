@@ -81,7 +81,7 @@ class SimulatedRegistry final : public Registry {
   [[nodiscard]] std::optional<OpenKey> FindOpen(KeyHandle key) const;
   [[nodiscard]] bool RefusesWrites(const std::string& path, std::uint32_t access) const;
   /// Returns all rights, but for a read-only key only the right to read.
-  [[nodiscard]] std::uint32_t MostAccess(const std::string& path) const;
+  [[nodiscard]] std::uint32_t MaxAccess(const std::string& path) const;
   /// Returns a value as the call log shows it.
   static std::string ShownValue(const std::optional<OpenKey>& key, const char* value_name);
   KeyHandle Open(const std::string& path, std::uint32_t access);

@@ -6,12 +6,12 @@ namespace qdix::os::win32 {
 
 namespace {
 
-constexpr int kPointsAnInch = 72;
+constexpr int kPointsPerInch = 72;
 
 /// Limits a text to the number of characters that Windows 95 draws and measures in one call.
 int Length(std::string_view text) {
-  constexpr std::size_t kMostCharacters = 8191;
-  return static_cast<int>(std::min(text.size(), kMostCharacters));
+  constexpr std::size_t kMaxCharacters = 8191;
+  return static_cast<int>(std::min(text.size(), kMaxCharacters));
 }
 
 }  // namespace
@@ -30,7 +30,7 @@ HFONT GdiTextDevice::FontOf(const FontLook& look) {
     if (made.look == look) return made.font;
   }
   const int height =
-      MulDiv(look.points * faces_.percent, GetDeviceCaps(device_, LOGPIXELSY), kPointsAnInch * 100);
+      MulDiv(look.points * faces_.percent, GetDeviceCaps(device_, LOGPIXELSY), kPointsPerInch * 100);
   const DWORD pitch = look.is_fixed ? FIXED_PITCH | FF_MODERN : DEFAULT_PITCH | FF_SWISS;
   HFONT const font = CreateFontA(-height, 0, 0, 0, look.is_bold ? FW_BOLD : FW_NORMAL, FALSE,
                                  look.is_underlined ? TRUE : FALSE, FALSE, DEFAULT_CHARSET,

@@ -11,7 +11,7 @@ namespace qdix::os::win32 {
 [[nodiscard]] inline double DaysOf(const SYSTEMTIME& time) {
   constexpr double kSecondsPerDay = 24.0 * 60 * 60;
   const int seconds = (time.wHour * 60 + time.wMinute) * 60 + time.wSecond;
-  return base::DaysOfDate(time.wYear, time.wMonth, time.wDay) + seconds / kSecondsPerDay;
+  return base::DateToDays(time.wYear, time.wMonth, time.wDay) + seconds / kSecondsPerDay;
 }
 
 }  // namespace qdix::os::win32

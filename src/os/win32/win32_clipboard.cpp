@@ -18,7 +18,7 @@ HGLOBAL MakeShared(const std::string& text) {
 }
 
 /// Retries, because programs that watch the clipboard open it for a moment whenever it changes.
-bool OpenWithPatience(HWND owner) {
+bool OpenWithRetries(HWND owner) {
   constexpr int kTries = 10;
   constexpr DWORD kPauseMs = 20;
   for (int tried = 1; OpenClipboard(owner) == 0; ++tried) {
@@ -34,7 +34,7 @@ bool Win32Clipboard::SetClipboardData(const std::string& text) {
   HGLOBAL const memory = MakeShared(text);
   if (memory == nullptr) return false;
   bool is_taken = false;
-  if (OpenWithPatience(owner_)) {
+  if (OpenWithRetries(owner_)) {
     is_taken = EmptyClipboard() != 0 && ::SetClipboardData(CF_TEXT, memory) != nullptr;
     CloseClipboard();
   }

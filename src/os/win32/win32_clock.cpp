@@ -25,7 +25,7 @@ double Win32Clock::Now() {
 std::uint32_t Win32Clock::GetTickCount() { return ::GetTickCount(); }
 
 std::string Win32Clock::LongDate(double days) {
-  const auto date = base::DateOfDays(days);
+  const auto date = base::DaysToDate(days);
   if (!date) return {};
   SYSTEMTIME day{};
   day.wYear = static_cast<WORD>(date->year);

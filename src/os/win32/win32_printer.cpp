@@ -47,7 +47,7 @@ PrinterPage Win32Printer::GetDeviceCaps() {
   const runtime::FloatingPointKeeper keeper;
   return {.width_px = ::GetDeviceCaps(device_, HORZRES),
           .height_px = ::GetDeviceCaps(device_, VERTRES),
-          .dots_an_inch = ::GetDeviceCaps(device_, LOGPIXELSY)};
+          .dots_per_inch = ::GetDeviceCaps(device_, LOGPIXELSY)};
 }
 
 bool Win32Printer::StartDocA(const std::string& title) {

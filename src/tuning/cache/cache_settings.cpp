@@ -11,14 +11,14 @@ namespace qdix::tuning {
 namespace {
 
 /// Maximum size on offer for each megabyte (1,024,000 bytes) of memory: half of it.
-constexpr double kLargestCacheKbPerMb = 500;
-constexpr std::int32_t kSmallestCacheKb = 512;
+constexpr double kMaxCacheKbPerMb = 500;
+constexpr std::int32_t kMinCacheKb = 512;
 
 void SetCacheRange(ui::Slider& slider, double total_ram_mb) {
   using Limits = std::numeric_limits<std::int32_t>;
-  slider.SetMaximum(base::ClampToInt32(total_ram_mb * kLargestCacheKbPerMb, Limits::min(), Limits::max()));
-  slider.SetValue(kSmallestCacheKb);
-  slider.SetMinimum(kSmallestCacheKb);
+  slider.SetMaximum(base::ClampToInt32(total_ram_mb * kMaxCacheKbPerMb, Limits::min(), Limits::max()));
+  slider.SetValue(kMinCacheKb);
+  slider.SetMinimum(kMinCacheKb);
 }
 
 }  // namespace

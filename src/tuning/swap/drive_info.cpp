@@ -14,7 +14,7 @@ constexpr const char* kAskedRoot = "C:\\";
 /// Room for 19 root names. On a machine with more drives the list is empty.
 constexpr std::uint32_t kListRoom = 78;
 /// Limits the loop, whatever the buffer holds.
-constexpr int kMostPasses = 27;
+constexpr int kMaxPasses = 27;
 constexpr std::size_t kRootLength = 3;
 
 /// Volume flags of this value or more mark a compressed volume.
@@ -109,7 +109,7 @@ void DriveInfo::FillDriveCombo(ui::ListControl& list) {
   list.Clear();
   std::string drives = GetDriveList();
   const std::string end_of_list(1, '\0');
-  for (int pass = 0; pass < kMostPasses && drives != end_of_list; ++pass) {
+  for (int pass = 0; pass < kMaxPasses && drives != end_of_list; ++pass) {
     const std::string root = base::UpperAscii(StripNull(drives).substr(0, kRootLength));
     if (drives_.GetDriveTypeA(root.c_str()) == os::kDriveFixed) AddDrive(list, root);
   }

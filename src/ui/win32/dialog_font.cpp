@@ -8,14 +8,14 @@ namespace qdix::ui::win32 {
 namespace {
 
 constexpr int kPoints = 8;
-constexpr int kPointsAnInch = 72;
+constexpr int kPointsPerInch = 72;
 constexpr std::string_view kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
 
 }  // namespace
 
 DialogFont::DialogFont() {
   const ScreenDevice screen;
-  font_.reset(CreateFontA(-MulDiv(kPoints, GetDeviceCaps(screen.Get(), LOGPIXELSY), kPointsAnInch), 0, 0, 0,
+  font_.reset(CreateFontA(-MulDiv(kPoints, GetDeviceCaps(screen.Get(), LOGPIXELSY), kPointsPerInch), 0, 0, 0,
                           FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
                           CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_SWISS, "MS Sans Serif"));
   Measure();
@@ -52,9 +52,9 @@ int DialogFont::TextWidthPixels(const std::string& text) const {
 
 /// Clamps each dimension to the range of the model.
 FormSize DialogFont::Units(int width_px, int height_px) const {
-  constexpr int kMost = 0x7FFF;
-  return {static_cast<std::int16_t>(std::clamp(width_px * 4 / base_width_px_, 0, kMost)),
-          static_cast<std::int16_t>(std::clamp(height_px * 8 / base_height_px_, 0, kMost))};
+  constexpr int kMaxUnits = 0x7FFF;
+  return {static_cast<std::int16_t>(std::clamp(width_px * 4 / base_width_px_, 0, kMaxUnits)),
+          static_cast<std::int16_t>(std::clamp(height_px * 8 / base_height_px_, 0, kMaxUnits))};
 }
 
 }  // namespace qdix::ui::win32

@@ -7,7 +7,7 @@ DWORD MainStyleOf(const Form& form) {
   return WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN | sizing;
 }
 
-SIZE FrameRound(const Form& form, const DialogFont& font, FormSize inner) {
+SIZE OuterSize(const Form& form, const DialogFont& font, FormSize inner) {
   const PixelBox pixels = font.Pixels({0, 0, inner.width, inner.height});
   RECT outer{0, 0, pixels.width, pixels.height};
   AdjustWindowRectEx(&outer, MainStyleOf(form), FALSE, kMainExtendedStyle);
@@ -48,7 +48,7 @@ void FormBounds::Resized(LPARAM inner_size) const {
 
 void FormBounds::Limit(MINMAXINFO& limits) const {
   if (!form_.IsResizable()) return;
-  const SIZE smallest = FrameRound(form_, font_, form_.Smallest());
+  const SIZE smallest = OuterSize(form_, font_, form_.Smallest());
   limits.ptMinTrackSize = {smallest.cx, smallest.cy};
 }
 

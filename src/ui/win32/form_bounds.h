@@ -14,7 +14,7 @@ inline constexpr DWORD kMainExtendedStyle = WS_EX_APPWINDOW;
 [[nodiscard]] DWORD MainStyleOf(const Form& form);
 
 /// Returns the size in pixels of the form's window, frame included, for an inner size in dialog units.
-[[nodiscard]] SIZE FrameRound(const Form& form, const DialogFont& font, FormSize inner);
+[[nodiscard]] SIZE OuterSize(const Form& form, const DialogFont& font, FormSize inner);
 
 /// Has no effect on a form whose size the user cannot change.
 class FormBounds {

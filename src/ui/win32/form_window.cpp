@@ -35,7 +35,7 @@ OwnedWindow MakeApplicationWindow(HINSTANCE instance, const Application& applica
 
 OwnedWindow MakeMainWindow(HINSTANCE instance, HWND owner, const Form& form, const DialogFont& font) {
   const Place& inner = form.GetPlace();
-  const SIZE size = FrameRound(form, font, {inner.width, inner.height});
+  const SIZE size = OuterSize(form, font, {inner.width, inner.height});
   RECT work{};
   SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
   const LONG left = work.left + (work.right - work.left - size.cx) / 2;

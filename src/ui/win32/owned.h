@@ -37,12 +37,12 @@ struct DestroyMenuTree {
 /// A menu with all its submenus.
 using OwnedMenu = std::unique_ptr<void, DestroyMenuTree>;
 
-struct CloseWindowOfOurs {
+struct DestroyOwnWindow {
   using pointer = HWND;
   void operator()(HWND window) const { DestroyWindow(window); }
 };
 /// A top-level window with everything in it.
-using OwnedWindow = std::unique_ptr<void, CloseWindowOfOurs>;
+using OwnedWindow = std::unique_ptr<void, DestroyOwnWindow>;
 
 /// The device context of the whole screen, held while something is measured or made for it.
 class ScreenDevice {

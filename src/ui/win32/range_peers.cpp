@@ -10,12 +10,12 @@ namespace qdix::ui::win32 {
 namespace {
 
 /// Maximum number of tick marks on a slider without steps (roughly: the division rounds down).
-constexpr std::int64_t kMostMarks = 10;
+constexpr std::int64_t kMarkIntervals = 10;
 
 std::int64_t MarkDistance(const SliderRange& range) {
   if (range.step > 1) return range.step;
   const std::int64_t span = std::int64_t{range.maximum} - range.minimum;
-  return std::max<std::int64_t>(1, span / kMostMarks);
+  return std::max<std::int64_t>(1, span / kMarkIntervals);
 }
 
 /// Returns the distance between two values, clamped to an int.

@@ -18,7 +18,7 @@ TEST_F(ClockWin32, NowIsTheLocalTimeInWholeSeconds) {
   const double now = system.clock.Now();
   const std::time_t unix_now = std::time(nullptr);
   const std::tm local = *std::localtime(&unix_now);
-  const int days = base::DaysOfDate(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday);
+  const int days = base::DateToDays(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday);
   const double seconds = (local.tm_hour * 60.0 + local.tm_min) * 60.0 + local.tm_sec;
   EXPECT_NEAR(now, days + seconds / 86400.0, 2.0 / 86400.0);
   const double now_seconds = now * 86400.0;
@@ -26,8 +26,8 @@ TEST_F(ClockWin32, NowIsTheLocalTimeInWholeSeconds) {
 }
 
 TEST_F(ClockWin32, LongDateCoversTheYearsFrom1601) {
-  EXPECT_NE(system.clock.LongDate(base::DaysOfDate(1601, 1, 1)), "");
-  EXPECT_EQ(system.clock.LongDate(base::DaysOfDate(1600, 12, 31)), "");
+  EXPECT_NE(system.clock.LongDate(base::DateToDays(1601, 1, 1)), "");
+  EXPECT_EQ(system.clock.LongDate(base::DateToDays(1600, 12, 31)), "");
 }
 
 TEST(ProcessesWin32, MutexDisappearsWithItsOwner) {

@@ -74,7 +74,7 @@ TEST(PrinterWin32, MachineWithoutAPrinterPrintsNothing) {
 TEST(PrinterWin32, DeviceThatIsNoPrinterHasASizeAndTakesNoDocument) {
   os::win32::Win32Printer printer;
   printer.Open(CreateCompatibleDC(nullptr));
-  EXPECT_GT(printer.GetDeviceCaps().dots_an_inch, 0);
+  EXPECT_GT(printer.GetDeviceCaps().dots_per_inch, 0);
   EXPECT_GT(printer.Device().GetTextExtentPoint32A({.points = 8}, "word"), 0);
   EXPECT_FALSE(printer.StartDocA("Document"));
   EXPECT_FALSE(printer.EndDoc());

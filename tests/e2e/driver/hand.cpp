@@ -40,7 +40,7 @@ INPUT PointerMove(POINT place) {
 }
 
 /// Moves the pointer and waits until it has come to rest; returns false if it does not.
-bool PutPointer(POINT place) {
+bool MovePointer(POINT place) {
   INPUT move = PointerMove(place);
   int looks_at_rest = 0;
   return Eventually([&] {
@@ -85,7 +85,7 @@ bool ClickAt(HWND control, POINT inside) {
 
 bool PointAt(HWND window, POINT inside) {
   const POINT place = OnScreen(window, inside);
-  return TopLevelOf(WindowFromPoint(place)) == TopLevelOf(window) && PutPointer(place);
+  return TopLevelOf(WindowFromPoint(place)) == TopLevelOf(window) && MovePointer(place);
 }
 
 bool PressAt(HWND window, POINT inside, Press press) {
@@ -106,7 +106,7 @@ bool Drag(HWND control, POINT from, int pixels) {
   INPUT press[] = {PointerMove(begin), PointerButton(MOUSEEVENTF_LEFTDOWN)};
   INPUT release = PointerButton(MOUSEEVENTF_LEFTUP);
   if (SendInput(2, press, sizeof(INPUT)) != 2) return false;
-  const bool is_there = PutPointer({begin.x + pixels, begin.y});
+  const bool is_there = MovePointer({begin.x + pixels, begin.y});
   return SendInput(1, &release, sizeof(INPUT)) == 1 && is_there;
 }
 

@@ -9,7 +9,7 @@ namespace qdix::e2e {
 namespace {
 
 constexpr std::size_t kPageBytes = 4096;
-constexpr std::size_t kLongestText = 256;
+constexpr std::size_t kMaxTextLength = 256;
 
 }  // namespace
 
@@ -38,8 +38,8 @@ bool ForeignPage::Write(std::uint32_t offset, const std::string& bytes) const {
 }
 
 std::string ForeignPage::ReadText(std::uint32_t offset) const {
-  std::array<char, kLongestText + 1> text{};
-  ReadProcessMemory(process_, begin_ + offset, text.data(), kLongestText, nullptr);
+  std::array<char, kMaxTextLength + 1> text{};
+  ReadProcessMemory(process_, begin_ + offset, text.data(), kMaxTextLength, nullptr);
   return text.data();
 }
 

@@ -38,7 +38,7 @@ std::uint64_t CommittedBytes(HANDLE process) {
   return std::accumulate(blocks.begin(), blocks.end(), std::uint64_t{0});
 }
 
-bool NarrowAddressSpace(HANDLE process, std::uint32_t left_bytes) {
+bool RestrictAddressSpace(HANDLE process, std::uint32_t left_bytes) {
   void* const left = VirtualAllocEx(process, nullptr, left_bytes, MEM_RESERVE, PAGE_NOACCESS);
   if (left == nullptr) return false;
   // Tried, not looked up: Wine hands out addresses that it lists as taken.

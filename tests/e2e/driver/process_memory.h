@@ -22,6 +22,6 @@ inline constexpr std::uint64_t kBlockBytes = 16 * 1024 * 1024;
 
 /// Takes away the process's free address space, except one block of `left_bytes` and gaps below 16 MB, so
 /// that larger allocations fail. Returns false if there was no room for that block.
-[[nodiscard]] bool NarrowAddressSpace(HANDLE process, std::uint32_t left_bytes);
+[[nodiscard]] bool RestrictAddressSpace(HANDLE process, std::uint32_t left_bytes);
 
 }  // namespace qdix::e2e

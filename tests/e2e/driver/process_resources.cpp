@@ -52,7 +52,7 @@ int CountDrawingObjects(HANDLE process) {
 int CountHandles(DWORD process_id) {
   using QuerySystem = LONG(WINAPI*)(int, void*, ULONG, ULONG*);
   constexpr int kHandleInformation = 16;
-  constexpr std::size_t kMostHandles = 100000;
+  constexpr std::size_t kMaxHandles = 100000;
   struct Entry {
     std::uint32_t process_id;
     std::uint8_t type;
@@ -63,7 +63,7 @@ int CountHandles(DWORD process_id) {
   };
   struct Table {
     std::uint32_t count;
-    std::array<Entry, kMostHandles> entries;
+    std::array<Entry, kMaxHandles> entries;
   };
 
   std::vector<Table> table(1);

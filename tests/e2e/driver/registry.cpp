@@ -10,7 +10,7 @@ namespace {
 std::array<KeyPath, 5> OwnKeys() { return {kSettings, kStartup, kHelpSettings, kMachineKey, kUserKey}; }
 
 /// Longest name or data of a value that the program writes, with room to spare.
-constexpr std::size_t kLongestText = 4096;
+constexpr std::size_t kMaxTextLength = 4096;
 
 }  // namespace
 
@@ -35,7 +35,7 @@ void ProgramRegistry::PutBack() const {
 std::optional<std::string> RegistryText(const KeyPath& key, const std::string& name) {
   HKEY handle = nullptr;
   if (RegOpenKeyExA(key.root, key.path, 0, KEY_QUERY_VALUE, &handle) != ERROR_SUCCESS) return std::nullopt;
-  std::array<char, kLongestText> text{};
+  std::array<char, kMaxTextLength> text{};
   DWORD size = text.size() - 1;
   DWORD type = 0;
   const LONG result =
@@ -50,7 +50,7 @@ RegistryTexts TextsOf(const KeyPath& key) {
   HKEY handle = nullptr;
   if (RegOpenKeyExA(key.root, key.path, 0, KEY_QUERY_VALUE, &handle) != ERROR_SUCCESS) return texts;
   for (DWORD index = 0;; ++index) {
-    std::array<char, kLongestText> name{};
+    std::array<char, kMaxTextLength> name{};
     DWORD length = name.size();
     if (RegEnumValueA(handle, index, name.data(), &length, nullptr, nullptr, nullptr, nullptr) !=
         ERROR_SUCCESS) {
@@ -73,7 +73,7 @@ void SetRegistryText(const KeyPath& key, const std::string& name, const std::str
 std::optional<std::string> RegistryBytes(const KeyPath& key, const std::string& name) {
   HKEY handle = nullptr;
   if (RegOpenKeyExA(key.root, key.path, 0, KEY_QUERY_VALUE, &handle) != ERROR_SUCCESS) return std::nullopt;
-  std::array<BYTE, kLongestText> bytes{};
+  std::array<BYTE, kMaxTextLength> bytes{};
   DWORD size = bytes.size();
   DWORD type = 0;
   const LONG result = RegQueryValueExA(handle, name.c_str(), nullptr, &type, bytes.data(), &size);

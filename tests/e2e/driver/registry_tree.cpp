@@ -8,12 +8,12 @@ namespace qdix::e2e {
 namespace {
 
 /// Longest name or data of a value, with room to spare.
-constexpr std::size_t kLongestText = 4096;
+constexpr std::size_t kMaxTextLength = 4096;
 
 /// Returns the names of the keys directly below an open one, in alphabetical order.
 std::vector<std::string> KeysBelow(HKEY handle) {
   std::vector<std::string> names;
-  std::array<char, kLongestText> name{};
+  std::array<char, kMaxTextLength> name{};
   for (DWORD index = 0; RegEnumKeyA(handle, index, name.data(), name.size()) == ERROR_SUCCESS; ++index) {
     names.emplace_back(name.data());
   }
@@ -47,8 +47,8 @@ RegistryTree::Key RegistryTree::Read(HKEY parent, const std::string& name) {
 
 void RegistryTree::ReadValues(HKEY handle, Key& key) {
   for (DWORD index = 0;; ++index) {
-    std::array<char, kLongestText> name{};
-    std::array<char, kLongestText> bytes{};
+    std::array<char, kMaxTextLength> name{};
+    std::array<char, kMaxTextLength> bytes{};
     DWORD name_length = name.size();
     DWORD size = bytes.size();
     DWORD type = 0;

@@ -52,7 +52,7 @@ app::Form1& StartWithProgram(TuningRig& rig, const char* path) {
   rig.machine.WriteFile("C:\\Program Files\\QDIX\\launcher.dat",
                         launcher::RecordBytes({"Program", path, ""}));
   app::Form1& program = rig.StartAt(screens::kLauncherTab);
-  rig.TakeGraphAway();
+  rig.RemoveGraph();
   return program;
 }
 

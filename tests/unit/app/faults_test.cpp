@@ -19,7 +19,7 @@ void RunSession(ProgramRig& rig) {
   rig.SetAvailableMb(1);
   rig.Start();
   if (rig.program->Window().Unloaded()) return;
-  rig.TakeGraphAway();
+  rig.RemoveGraph();
   rig.AdvanceMs(1500);
   rig.program->Quondix().List1.Choose("512 MB");
   rig.program->Quondix().Command1.Press();

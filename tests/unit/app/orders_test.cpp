@@ -196,7 +196,7 @@ TEST(TipOrder, IsNoLongerDueWhileItsBoxIsOpen) {
 TEST(ReleaseOrder, FirstBlockIsAllocatedAndFreedBeforeTheSecond) {
   TuningRig rig;
   rig.StartAt(screens::kQuondixTab);
-  rig.TakeGraphAway();
+  rig.RemoveGraph();
   ASSERT_TRUE(rig.program->Quondix().List1.Choose("512 MB"));
   rig.program->Quondix().Command1.Press();
   EXPECT_THAT(CallsOf(rig.machine, {"VirtualAlloc", "VirtualFree"}),

@@ -31,7 +31,7 @@ class KnownDays : public testing::TestWithParam<KnownDay> {};
 
 TEST_P(KnownDays, NumberGivesDate) {
   const KnownDay& known = GetParam();
-  const auto date = DateOfDays(known.number);
+  const auto date = DaysToDate(known.number);
   ASSERT_TRUE(date.has_value());
   EXPECT_EQ(date->year, known.year);
   EXPECT_EQ(date->month, known.month);
@@ -41,7 +41,7 @@ TEST_P(KnownDays, NumberGivesDate) {
 
 TEST_P(KnownDays, DateGivesNumber) {
   const KnownDay& known = GetParam();
-  EXPECT_EQ(DaysOfDate(known.year, known.month, known.day), known.number);
+  EXPECT_EQ(DateToDays(known.year, known.month, known.day), known.number);
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, KnownDays, testing::ValuesIn(kKnownDays));
@@ -52,11 +52,11 @@ TEST(DateTest, EveryDayFollowsTheDayBefore) {
   int month = 1;
   int day = 1;
   for (int number = -657434; number <= 2958465; ++number) {
-    const auto date = DateOfDays(number);
+    const auto date = DaysToDate(number);
     ASSERT_TRUE(date.has_value()) << number;
     ASSERT_TRUE(date->year == year && date->month == month && date->day == day) << number;
     ASSERT_EQ(date->weekday, ((number % 7) + 7) % 7) << number;
-    ASSERT_EQ(DaysOfDate(year, month, day), number);
+    ASSERT_EQ(DateToDays(year, month, day), number);
     const bool is_leap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
     const int month_days = kMonthDays[month - 1] + (month == 2 && is_leap ? 1 : 0);
     if (++day <= month_days) continue;
@@ -69,28 +69,28 @@ TEST(DateTest, EveryDayFollowsTheDayBefore) {
 }
 
 TEST(DateTest, TimeOfDayIsTruncatedTowardZero) {
-  EXPECT_EQ(DateOfDays(46347.999)->day, 21);
-  EXPECT_EQ(DateOfDays(0.75)->day, 30);
-  EXPECT_EQ(DateOfDays(-0.75)->day, 30);
-  EXPECT_EQ(DateOfDays(-1.25)->day, 29);
-  EXPECT_EQ(DateOfDays(-1.75)->day, 29);
+  EXPECT_EQ(DaysToDate(46347.999)->day, 21);
+  EXPECT_EQ(DaysToDate(0.75)->day, 30);
+  EXPECT_EQ(DaysToDate(-0.75)->day, 30);
+  EXPECT_EQ(DaysToDate(-1.25)->day, 29);
+  EXPECT_EQ(DaysToDate(-1.75)->day, 29);
 }
 
 TEST(DateTest, FirstAndLastDayKeepTheirWholeDay) {
-  EXPECT_TRUE(DateOfDays(2958465.999).has_value());
-  EXPECT_TRUE(DateOfDays(-657434.999).has_value());
+  EXPECT_TRUE(DaysToDate(2958465.999).has_value());
+  EXPECT_TRUE(DaysToDate(-657434.999).has_value());
 }
 
 TEST(DateTest, NothingOutsideTheYears100To9999) {
   for (const double days : {2958466.0, -657435.0, 1e10, -1e10, 1e300, -1e300}) {
-    EXPECT_FALSE(DateOfDays(days).has_value()) << days;
+    EXPECT_FALSE(DaysToDate(days).has_value()) << days;
   }
 }
 
 TEST(DateTest, NothingForNotANumber) {
-  EXPECT_FALSE(DateOfDays(std::nan("")).has_value());
-  EXPECT_FALSE(DateOfDays(std::numeric_limits<double>::infinity()).has_value());
-  EXPECT_FALSE(DateOfDays(-std::numeric_limits<double>::infinity()).has_value());
+  EXPECT_FALSE(DaysToDate(std::nan("")).has_value());
+  EXPECT_FALSE(DaysToDate(std::numeric_limits<double>::infinity()).has_value());
+  EXPECT_FALSE(DaysToDate(-std::numeric_limits<double>::infinity()).has_value());
 }
 
 }  // namespace

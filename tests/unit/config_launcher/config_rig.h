@@ -25,7 +25,7 @@ inline constexpr const char* kCouldNotBeSaved =
     "The list of programs could not be saved.\r\n\r\nYour previous list has not been changed. Please make "
     "sure that the disk is neither full nor write-protected and that no other program has launcher.dat "
     "open, and try again.";
-inline constexpr const char* kTakenFromBackup =
+inline constexpr const char* kReadFromBackup =
     "An earlier save was interrupted. This list comes from the backup, launcher.bak.";
 
 /// What is said of a list that is not as it should be, for one remark.

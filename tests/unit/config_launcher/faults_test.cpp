@@ -174,7 +174,7 @@ TEST(ConfigFaults, ListThatCouldNotBeRenamedBackIsFoundAgain) {
     EXPECT_EQ(rig.machine.ReadFile(kListBackupPath), BytesOf(SomeEntries(3)));
     rig.machine.FailFromCallNumber(0);
     EXPECT_EQ(rig.Start().Entries(), SomeEntries(3));
-    EXPECT_EQ(rig.BoxText(1), OpeningMessage(kTakenFromBackup));
+    EXPECT_EQ(rig.BoxText(1), OpeningMessage(kReadFromBackup));
   }
   EXPECT_EQ(renamed, 1);
 }

@@ -97,7 +97,7 @@ TEST_F(ConfigOpening, CopyOfAnInterruptedSaveIsUsed) {
     ConfigRig rig;
     rig.machine.WriteFile(kListBackupPath, BytesOf(SomeEntries(3)));
     if (has_empty_list) rig.machine.WriteFile(kListPath, "");
-    ExpectRemark(rig, kTakenFromBackup);
+    ExpectRemark(rig, kReadFromBackup);
     EXPECT_EQ(rig.form->Entries(), SomeEntries(3));
   }
 }

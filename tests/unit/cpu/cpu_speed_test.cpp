@@ -12,7 +12,7 @@ namespace qdix::tests {
 namespace {
 
 /// Returns the values that a test sets.
-class WrittenInformation final : public cpu::ProcessorInformation {
+class FakeProcessorInformation final : public cpu::ProcessorInformation {
  public:
   void GetProcessorNormSpeed(cpu::TextBuffer& speed) override { Put(speed, norm_speed); }
   void GetProcessor(cpu::TextBuffer& vendor, cpu::TextBuffer& description,
@@ -48,7 +48,7 @@ class CpuSpeed : public testing::Test {
 
   ControlBench bench;
   screens::QuondixScreen screen{bench.form};
-  WrittenInformation information;
+  FakeProcessorInformation information;
 };
 
 TEST_F(CpuSpeed, ShowsNameAndClockWithTwoBlanksBetween) {

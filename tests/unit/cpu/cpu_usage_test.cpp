@@ -208,7 +208,7 @@ TEST_F(CpuUsage, PauseStopsTheReadings) {
 TEST_F(CpuUsage, ManyReadingsLeaveNothingBehind) {
   rig.machine.SetCpuLoad(37);
   rig.Start();
-  rig.TakeGraphAway();
+  rig.RemoveGraph();
   for (int count = 0; count < 20000; ++count) rig.program->Cpu().CPUUsage();
   EXPECT_EQ(Average(), 37);
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0);

@@ -131,7 +131,7 @@ TEST(HelpBook, LastLineNeedsNoLineBreak) {
 
 TEST(HelpBook, RowsHaveALimitedNumberOfCells) {
   const std::string stream = "@1\tOne\nR" + std::string(100, '\t') + "\n";
-  EXPECT_EQ(Book(stream).Read(0).blocks.at(1).cells.size(), help_viewer::kMostCells);
+  EXPECT_EQ(Book(stream).Read(0).blocks.at(1).cells.size(), help_viewer::kMaxCells);
 }
 
 TEST(HelpBook, ContentsPageListsAllTopicsAsLinksUnderTheirSections) {

@@ -109,16 +109,16 @@ TEST(HelpPrint, MarginIsHalfAnInchOrAQuarterOfSmallPaper) {
     EXPECT_EQ(rig.printer.pages.at(0).at(0).left, rig.printer.pages.at(0).at(0).top);
     return rig.printer.pages.at(0).at(0).left;
   };
-  EXPECT_EQ(margin_px({.width_px = 800, .height_px = 600, .dots_an_inch = 100}), 50);
-  EXPECT_EQ(margin_px({.width_px = 160, .height_px = 600, .dots_an_inch = 100}), 40);
-  EXPECT_EQ(margin_px({.width_px = 800, .height_px = 120, .dots_an_inch = 100}), 30);
+  EXPECT_EQ(margin_px({.width_px = 800, .height_px = 600, .dots_per_inch = 100}), 50);
+  EXPECT_EQ(margin_px({.width_px = 160, .height_px = 600, .dots_per_inch = 100}), 40);
+  EXPECT_EQ(margin_px({.width_px = 800, .height_px = 120, .dots_per_inch = 100}), 30);
 }
 
 TEST(HelpPrint, PageIsFilledToItsLowerMargin) {
   // The title with the space below it is 40 pixels high, and a fixed line 18.
   const auto pages_of_height = [](int height_px) {
     HelpRig rig("@3\tOne\nC1\nC2\nC3\nC4\nC5\n");
-    rig.printer.page = {.width_px = 800, .height_px = height_px, .dots_an_inch = 100};
+    rig.printer.page = {.width_px = 800, .height_px = height_px, .dots_per_inch = 100};
     rig.Start("3");
     rig.Screen().cmdPrint.Press();
     return rig.printer.pages.size();
@@ -130,7 +130,7 @@ TEST(HelpPrint, PageIsFilledToItsLowerMargin) {
 TEST(HelpPrint, LinesAreWrappedWithinBothMargins) {
   // 100 pixels minus two margins of 25 leave room for six letters, but not for seven.
   HelpRig rig("@3\tOne\nPab cde f\n");
-  rig.printer.page = {.width_px = 100, .height_px = 600, .dots_an_inch = 100};
+  rig.printer.page = {.width_px = 100, .height_px = 600, .dots_per_inch = 100};
   rig.Start("3");
   rig.Screen().cmdPrint.Press();
   std::vector<std::string> texts;
@@ -191,7 +191,7 @@ TEST(HelpPrint, ProgramThatEndsDuringTheDialogPrintsNothing) {
 TEST(HelpPrint, TinyPaperDoesNoHarm) {
   for (const int side : {0, 1, 5}) {
     HelpRig rig;
-    rig.printer.page = {.width_px = side, .height_px = side, .dots_an_inch = 600};
+    rig.printer.page = {.width_px = side, .height_px = side, .dots_per_inch = 600};
     rig.Start("4");
     rig.Screen().cmdPrint.Press();
     EXPECT_TRUE(rig.printer.has_printed);

@@ -134,7 +134,7 @@ TEST_F(HelpPane, LinkEntirelyInViewIsNotScrolledTo) {
 }
 
 /// Records position and link at each change.
-class StandReader final : public ui::ControlPeer {
+class PositionReader final : public ui::ControlPeer {
  public:
   void ControlChanged(ui::Control& control, ui::Change /*change*/) override {
     const auto& pane = static_cast<const TopicPane&>(control);
@@ -146,7 +146,7 @@ class StandReader final : public ui::ControlPeer {
 TEST_F(HelpPane, PeerFindsTheNewPositionAndTheNewLink) {
   using Stands = std::vector<std::pair<int, int>>;
   TopicPane& pane = Open("7");
-  StandReader reader;
+  PositionReader reader;
   pane.AttachPeer(&reader);
   pane.ScrollTo(48);
   pane.FocusLink(0);

@@ -23,7 +23,7 @@ class ConfigWatchTest : public testing::Test {
     rig.Store("Settings", "Launcher RAM", "4");
     WriteList({"Old"});
     rig.Start().MainWindow().SSTab1.ChooseTab(screens::kLauncherTab);
-    rig.TakeGraphAway();
+    rig.RemoveGraph();
     rig.program->MainWindow().Timer1.SetEnabled(false);
   }
   void WriteList(const std::vector<std::string>& names) {

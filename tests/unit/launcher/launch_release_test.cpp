@@ -22,7 +22,7 @@ class LaunchRig : public TuningRig {
   void StartLauncher() { StartAt(screens::kLauncherTab); }
   /// Starts the program in the list, without the graph, because there are many pumps.
   void Launch() {
-    TakeGraphAway();
+    RemoveGraph();
     Tab().List5.DoubleClick(0);
   }
 };

@@ -40,7 +40,7 @@ void UseTheLauncher(ProgramRig& rig) {
   rig.machine.WriteFile(kListPath, ListOf(3));
   rig.Start();
   if (rig.program->Window().Unloaded()) return;
-  rig.TakeGraphAway();
+  rig.RemoveGraph();
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kLauncherTab);
   screens::LauncherScreen& tab = rig.program->Launcher();
   if (tab.List5.Count() > 0) {

@@ -45,7 +45,7 @@ class Launcher : public testing::Test {
   }
   void Start() {
     rig.Start().MainWindow().SSTab1.ChooseTab(screens::kLauncherTab);
-    rig.TakeGraphAway();
+    rig.RemoveGraph();
     calls_before_ = rig.machine.Calls().size();
   }
   void StartWith(const std::vector<LauncherEntry>& entries) {
@@ -291,7 +291,7 @@ TEST_F(Launcher, ProgramOnADriveWithoutADiskIsReportedAfterItsFolder) {
   Tab().List5.DoubleClick(0);
   EXPECT_THAT(Boxes(), IsEmpty());
   EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("E:\\SETUP.EXE"));
-  rig.machine.TakeDiskOut('e');
+  rig.machine.RemoveDisk('e');
   Tab().List5.DoubleClick(0);
   EXPECT_THAT(Boxes(), ElementsAre("Device unavailable", "Path not found", "File not found"));
   Tab().List5.DoubleClick(1);

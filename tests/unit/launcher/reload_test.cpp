@@ -24,7 +24,7 @@ class LauncherReload : public testing::Test {
     for (const char* const folder : {"D:", "D:\\FIRST", "E:", "E:\\SECOND"}) rig.machine.AddFolder(folder);
     WriteList({"First", "game1", "D:\\FIRST"});
     rig.Start().MainWindow().SSTab1.ChooseTab(screens::kLauncherTab);
-    rig.TakeGraphAway();
+    rig.RemoveGraph();
     rig.program->Launcher().Command15.Press();
   }
   void WriteList(const launcher::LauncherEntry& entry) {

@@ -43,7 +43,7 @@ class DayOfReleases : public testing::Test {
     rig.machine.SetCpuLoad(10);
     rig.machine.OnPump([this](int /*pump*/) { NoteRelease(); });
     rig.Start();
-    rig.TakeGraphAway();
+    rig.RemoveGraph();
   }
   void NoteRelease() {
     const auto& sizes = rig.machine.AllAllocations();

@@ -213,7 +213,7 @@ TEST_F(TimedRelease, MinuteCountOverflowsUntrapped) {
   rig.Store("Settings", "Warnings", "1");
   rig.machine.LimitAllocatableBytes(1000);
   rig.Start();
-  rig.TakeGraphAway();
+  rig.RemoveGraph();
   RunMinutes(32767);
   EXPECT_TRUE(rig.machine.Boxes().empty());
   EXPECT_EQ(Label(), DueIn(5 - 32767));

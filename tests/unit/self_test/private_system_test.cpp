@@ -160,11 +160,11 @@ TEST_F(PrivateSystem, WindowsFolderIsItsOwn) {
 
 TEST_F(PrivateSystem, MemoryIsAllocatedInSmallBlocksAndCounted) {
   os::Memory& memory = system.GetSystem().memory;
-  EXPECT_EQ(memory.VirtualAlloc(self_test::LimitedMemory::kMostBytes + 1), nullptr);
-  void* const largest = memory.VirtualAlloc(self_test::LimitedMemory::kMostBytes);
+  EXPECT_EQ(memory.VirtualAlloc(self_test::LimitedMemory::kMaxBytes + 1), nullptr);
+  void* const largest = memory.VirtualAlloc(self_test::LimitedMemory::kMaxBytes);
   EXPECT_NE(largest, nullptr);
-  memory.TouchPages(largest, self_test::LimitedMemory::kMostBytes);
-  EXPECT_EQ(system.Memory().TouchedBytes(), self_test::LimitedMemory::kMostBytes);
+  memory.TouchPages(largest, self_test::LimitedMemory::kMaxBytes);
+  EXPECT_EQ(system.Memory().TouchedBytes(), self_test::LimitedMemory::kMaxBytes);
   memory.VirtualFree(largest);
   {
     memory::MemoryBlock block(memory);
@@ -173,7 +173,7 @@ TEST_F(PrivateSystem, MemoryIsAllocatedInSmallBlocksAndCounted) {
     EXPECT_EQ(system.Memory().GivenBack(), 1);
   }
   EXPECT_EQ(system.Memory().GivenBack(), 2);
-  EXPECT_EQ(system.Memory().TouchedBytes(), self_test::LimitedMemory::kMostBytes + 1000000U);
+  EXPECT_EQ(system.Memory().TouchedBytes(), self_test::LimitedMemory::kMaxBytes + 1000000U);
 }
 
 TEST_F(PrivateSystem, MessagesAreKeptInOneLineUntilTheyAreRead) {

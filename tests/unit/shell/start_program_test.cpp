@@ -9,9 +9,9 @@ namespace qdix::shell {
 namespace {
 
 /// A system that returns the same code for each start.
-class AnsweringProcesses final : public os::Processes {
+class FakeProcesses final : public os::Processes {
  public:
-  explicit AnsweringProcesses(std::int32_t code) : code_(code) {}
+  explicit FakeProcesses(std::int32_t code) : code_(code) {}
   bool MutexExistedBefore(const char* /*name*/) override { return false; }
   std::string ModuleFileName() override { return {}; }
   bool SetCurrentDirectoryA(const std::string& /*folder*/) override { return false; }
@@ -22,7 +22,7 @@ class AnsweringProcesses final : public os::Processes {
 };
 
 int ErrorFor(std::int32_t code) {
-  AnsweringProcesses processes(code);
+  FakeProcesses processes(code);
   return StartProgram(processes, "defrag C:").Error().number;
 }
 

@@ -97,9 +97,9 @@ TEST_F(DriveInfo, VolumeOf2GigabytesOverflowsTheClassicQuery) {
 }
 
 /// A driver that reports arbitrary figures.
-class TellingDrives final : public os::Drives {
+class FakeDrives final : public os::Drives {
  public:
-  explicit TellingDrives(const os::DiskClusters& figures) : figures_(figures) {}
+  explicit FakeDrives(const os::DiskClusters& figures) : figures_(figures) {}
   std::int32_t GetDiskFreeSpaceExA(const char* /*root*/, os::DiskBytes& /*bytes*/) override { return 0; }
   std::int32_t GetDiskFreeSpaceA(const char* /*root*/, os::DiskClusters& clusters) override {
     clusters = figures_;
@@ -115,7 +115,7 @@ class TellingDrives final : public os::Drives {
 
 TEST(DriveInfoOfAnyDriver, EachProductMayOverflowAndSkipsTheRest) {
   const auto space_of = [](const os::DiskClusters& figures, std::int32_t result) {
-    TellingDrives drives(figures);
+    FakeDrives drives(figures);
     tuning::DriveInfo info(drives);
     tuning::DriveSpaceInfo space;
     EXPECT_EQ(info.GetDiskSpace("C:\\", space), result);

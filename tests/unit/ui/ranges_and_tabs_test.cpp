@@ -183,14 +183,14 @@ TEST_F(Ranges, UnreachableBarAndSliderDoNotMove) {
 }
 
 TEST_F(Ranges, AnyNumberOfStepsAndPagesStopsAtTheEnds) {
-  constexpr std::int32_t kMost = 0x7FFFFFFF;
+  constexpr std::int32_t kMaxUnits = 0x7FFFFFFF;
   ui::VerticalScrollBar bar(
       bench.form, {.name = "Bar"},
-      {.minimum = -kMost, .maximum = kMost, .small_change = kMost, .large_change = kMost});
-  bar.Page(kMost);
-  EXPECT_EQ(bar.Value(), kMost);
-  bar.Step(-kMost);
-  EXPECT_EQ(bar.Value(), -kMost);
+      {.minimum = -kMaxUnits, .maximum = kMaxUnits, .small_change = kMaxUnits, .large_change = kMaxUnits});
+  bar.Page(kMaxUnits);
+  EXPECT_EQ(bar.Value(), kMaxUnits);
+  bar.Step(-kMaxUnits);
+  EXPECT_EQ(bar.Value(), -kMaxUnits);
 }
 
 TEST_F(Ranges, PageTowardTheTopOfAnInvertedBarIncreases) {

@@ -12,9 +12,9 @@
 
 namespace qdix::e2e {
 
-class PlayedMemory {
+class FakeMemory {
  public:
-  explicit PlayedMemory(HANDLE process) : process_(process), page_(process) {}
+  explicit FakeMemory(HANDLE process) : process_(process), page_(process) {}
 
   /// Makes the program's memory status calls return this available memory from now on; all other figures stay
   /// the machine's. Returns false if the program does not import that function.

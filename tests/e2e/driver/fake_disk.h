@@ -11,9 +11,9 @@
 
 namespace qdix::e2e {
 
-class PlayedDisk {
+class FakeDisk {
  public:
-  explicit PlayedDisk(HANDLE process) : process_(process), page_(process) {}
+  explicit FakeDisk(HANDLE process) : process_(process), page_(process) {}
 
   /// Makes the program's calls of the extended free space function return this figure for size and free space
   /// of any drive from now on. Returns false if the replacement cannot be installed.

@@ -1,4 +1,4 @@
-#include "tests/e2e/driver/played_memory.h"
+#include "tests/e2e/driver/fake_memory.h"
 
 #include <cstddef>
 
@@ -23,12 +23,12 @@ std::string AnswerWithFigure(std::uint32_t ask_system, std::uint32_t figure) {
 
 }  // namespace
 
-bool PlayedMemory::Play(std::uint32_t available_bytes) {
+bool FakeMemory::Play(std::uint32_t available_bytes) {
   return page_.Write(kFigureOffset, MachineCode().Number(available_bytes).Text()) &&
          (is_redirected_ || Redirect());
 }
 
-bool PlayedMemory::Redirect() {
+bool FakeMemory::Redirect() {
   const std::uint32_t ask_system = SystemFunction("kernel32.dll", "GlobalMemoryStatus");
   is_redirected_ = page_.Write(0, AnswerWithFigure(ask_system, page_.At(kFigureOffset))) &&
                    RedirectImport(process_, ask_system, page_.At(0));

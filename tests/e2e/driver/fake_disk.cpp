@@ -1,6 +1,6 @@
 // The program looks the function up by name at run time instead of importing it. So the first bytes of the
 // function itself, of which each process has its own copy, are replaced with a jump.
-#include "tests/e2e/driver/played_disk.h"
+#include "tests/e2e/driver/fake_disk.h"
 
 namespace qdix::e2e {
 
@@ -25,7 +25,7 @@ std::string AnswerWithFigure(std::uint32_t figure) {
 
 }  // namespace
 
-bool PlayedDisk::Play(std::uint64_t free_bytes) {
+bool FakeDisk::Play(std::uint64_t free_bytes) {
   const std::string figure = MachineCode()
                                  .Number(static_cast<std::uint32_t>(free_bytes))
                                  .Number(static_cast<std::uint32_t>(free_bytes >> 32U))
@@ -33,7 +33,7 @@ bool PlayedDisk::Play(std::uint64_t free_bytes) {
   return page_.Write(kFigureOffset, figure) && (is_redirected_ || Redirect());
 }
 
-bool PlayedDisk::Redirect() {
+bool FakeDisk::Redirect() {
   const std::uint32_t function = SystemFunction("kernel32.dll", "GetDiskFreeSpaceExA");
   const std::string jump = MachineCode().Bytes("\xE9").Number(page_.At(0) - (function + kJumpBytes)).Text();
   void* const place = reinterpret_cast<void*>(static_cast<std::uintptr_t>(function));
