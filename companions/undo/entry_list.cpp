@@ -126,6 +126,7 @@ void EntryList::PutBack(const Choice& chosen) {
   for (std::size_t row = 0; row < kEntries.size(); ++row) {
     if (chosen[row]) settings_.PutBack(kEntries[row], states_[row].before);
   }
+  settings_.FlushSystemIni();
 }
 
 /// An entry that was not written, or that was changed again at once, still differs.

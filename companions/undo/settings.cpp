@@ -131,10 +131,12 @@ void Settings::Remove(const Entry& entry) {
   }
 }
 
-/// Flushes the entries of system.ini that Windows holds in memory. Otherwise Windows would write them over
-/// the new file later.
-Replacement Settings::RestoreWholeFile() {
+void Settings::FlushSystemIni() {
   system_.profile_files.WritePrivateProfileStringA(nullptr, nullptr, nullptr, tuning::kSystemIni);
+}
+
+Replacement Settings::RestoreWholeFile() {
+  FlushSystemIni();
   const IniFile backup = ReadFile(BackupPath());
   if (!backup.IsWhole()) return {};
   return ReplaceSystemIni(system_.files, WindowsFolder(), backup.bytes);

@@ -48,6 +48,10 @@ class Settings {
   /// failure shows when the value is read again.
   void PutBack(const Entry& entry, const Before& before);
 
+  /// Makes Windows write the entries of system.ini that it holds in memory. Until then a program that reads
+  /// the file, or replaces it, deals with the old entries.
+  void FlushSystemIni();
+
   /// Replaces system.ini by the backup, unless the backup is no longer complete.
   Replacement RestoreWholeFile();
   /// From now on, Q-DIX's own template can be removed even if no other template is recorded.

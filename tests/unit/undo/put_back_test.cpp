@@ -75,8 +75,28 @@ TEST_F(PutBack, AnswerYesPutsBackEverythingAndNothingElse) {
                   "WritePrivateProfileStringA(system.ini [386Enh] PagingDrive D:)",
                   "WritePrivateProfileStringA(system.ini [386Enh] MinPagingFileSize 0)",
                   "WritePrivateProfileStringA(system.ini [386Enh] MaxPagingFileSize removed)",
-                  "WritePrivateProfileStringA(system.ini [386Enh] Paging removed)"));
+                  "WritePrivateProfileStringA(system.ini [386Enh] Paging removed)",
+                  "WritePrivateProfileStringA(system.ini flushed)"));
   EXPECT_TRUE(rig.RecordIsUntouched());
+}
+
+/// Windows 95 and later hold written entries in memory, so the file itself would still have the old ones.
+TEST_F(PutBack, SystemIniIsFlushedBeforeItIsReadAgain) {
+  StartChanged();
+  UntickAllBut(rig.Screen().ChunkSize);
+  PressAndAnswer(os::kIdYes);
+  const std::vector<std::string> calls(rig.machine.Calls().begin() + static_cast<std::ptrdiff_t>(first_call),
+                                       rig.machine.Calls().end());
+  const auto flush = std::find(calls.begin(), calls.end(), "WritePrivateProfileStringA(system.ini flushed)");
+  ASSERT_NE(flush, calls.end());
+  const auto is_write = [](const std::string& call) {
+    return call.starts_with("WritePrivateProfileStringA(") && !call.ends_with(" flushed)");
+  };
+  const auto is_read = [](const std::string& call) {
+    return call == "CreateFileA(C:\\WINDOWS\\system.ini, 3)";
+  };
+  EXPECT_TRUE(std::none_of(flush, calls.end(), is_write));
+  EXPECT_TRUE(std::any_of(flush, calls.end(), is_read)) << "it is read again";
 }
 
 TEST_F(PutBack, NewStateIsShownAndARestartIsOffered) {
