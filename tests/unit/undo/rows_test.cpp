@@ -45,7 +45,10 @@ TEST(UndoRows, ShowOldBesideCurrentValues) {
       << "the only evidence for the last entry is that the backup lacks it";
   EXPECT_TRUE(rig.Screen().cmdPutBack.Enabled());
   EXPECT_TRUE(rig.Screen().cmdRestore.Enabled());
-  EXPECT_TRUE(rig.Screen().lblState.Caption().starts_with("These settings were recorded"));
+  EXPECT_EQ(
+      rig.Screen().lblState.Caption(),
+      "Q-DIX recorded these settings before it first changed this computer. Tick the ones that you want "
+      "to put back.");
   EXPECT_TRUE(rig.Screen().lblBackup.Caption().starts_with("Backup: system.qdix"));
   EXPECT_TRUE(rig.form->Window().Shown());
   EXPECT_THAT(rig.Changes(rig.machine.Calls().size()), IsEmpty());
