@@ -196,10 +196,12 @@ class ObjectsOfHeaders(unittest.TestCase):
 
     SOURCES = {
         "page.h": "inline constexpr int kMaxUnits = 4;\ninline constexpr int kTable[] = {1, 2};\nstruct Page {\n"
-                  "  Page() {}\n  int first{kMaxUnits};\n  int second = 3;\n  int Twice() { return 2 * first; }\n};\n",
+                  "  Page() {}\n  int first{kMaxUnits};\n  int second = 3;\n  int Twice() { return 2 * first; }\n};\n"
+                  "struct Box {\n  Box() {}\n  int side = 5;\n};\n",
         "window.cpp": '#include "page.h"\nint Window() { Page page; return page.Twice(); }\n',
         "other.cpp": '#include "page.h"\nint Other() { Page page; return page.first + Other(); }\nint Pad[9] = {1};\n',
         "number.cpp": '#include "page.h"\nint Number() { return kMaxUnits; }\n',
+        "box_test.cpp": '#include "page.h"\nint Test() { Page page; Box box; return box.side + page.first; }\n',
     }
 
     @classmethod
@@ -213,7 +215,8 @@ class ObjectsOfHeaders(unittest.TestCase):
         for path in sorted(cls.folder.glob("*.cpp")):
             objects[path] = path.with_suffix(".o")
             subprocess.run(["g++", "-std=c++20", "-O0", "-c", path, "-o", objects[path]], check=True)
-        cls.carriers = Carriers(objects, [cls.folder / "page.h"])
+        tests = {path: objects.pop(path) for path in list(objects) if path.stem.endswith("_test")}
+        cls.carriers = Carriers(objects, tests, [cls.folder / "page.h"])
 
     def expect(self, owner, *names):
         self.assertEqual([path.name for path in self.carriers.of(owner)], list(names))
@@ -222,9 +225,13 @@ class ObjectsOfHeaders(unittest.TestCase):
         self.expect(("Page", "Twice"), "window.cpp")
         self.assertEqual(len(self.carriers.of(("Page", "Page"))), 1)
 
+    def test_class_that_only_a_test_makes_is_carried_by_it(self):
+        self.expect(("Box", "Box"), "box_test.cpp")
+
     def test_number_is_in_every_object_that_uses_it(self):
-        by_itself, with_the_class = "number.cpp", self.carriers.of(("Page", "Page"))[0].name
-        self.expect(("", "kMaxUnits"), *sorted([by_itself, with_the_class]))
+        by_itself = "number.cpp"
+        with_the_classes = [self.carriers.of((name, name))[0].name for name in ("Page", "Box")]
+        self.expect(("", "kMaxUnits"), *sorted([by_itself, *with_the_classes]))
 
     def test_what_no_object_has_is_left_alone(self):
         self.expect(("", "kNothing"))
@@ -232,7 +239,8 @@ class ObjectsOfHeaders(unittest.TestCase):
     def test_mutants_of_a_header_know_what_they_are_compiled_with(self):
         found = operators.mutants_of(self.folder / "page.h", "page.h", ["-std=c++20"])
         owners = {(mutant.line, mutant.owner) for mutant in found}
-        self.assertEqual(owners, {(1, ("", "kMaxUnits")), (2, ("", "kTable")), (6, ("Page", "Page")), (7, ("Page", "Twice"))})
+        self.assertEqual(owners, {(1, ("", "kMaxUnits")), (2, ("", "kTable")), (6, ("Page", "Page")), (7, ("Page", "Twice")),
+                                  (11, ("Box", "Box"))})
 
     def test_names_of_symbols(self):
         for symbol, name in (("qdix::ui::Page::Page(qdix::ui::Container&)", "Page::Page"), ("qdix::ui::Find(int)", "Find"),

@@ -69,8 +69,8 @@ int WINAPI NotedBox(HWND /*owner*/, const char* /*text*/, const char* /*title*/,
   return IDOK;
 }
 
-/// Windows 98 and later do not let a background program come to the foreground. Wine ignores this flag, so the
-/// test looks at the call and not at the box.
+/// Windows 98 and later do not let a background program come to the foreground. Wine ignores this flag, so
+/// the test looks at the call and not at the box.
 TEST_F(DialogsWin32, BoxStaysAboveAllOtherWindowsInAnyStateOfItsOwner) {
   HWND main = OpenMainWindow();
   const Detour noted("MessageBoxA", reinterpret_cast<const void*>(&NotedBox), "user32.dll");
