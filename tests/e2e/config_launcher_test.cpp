@@ -129,8 +129,7 @@ TEST_F(ConfigSession, ListIsBuiltByKeyboardAndWrittenByteForByte) {
   TypeInto('S', "txtStartIn", "pictures");
   PressKeyWith(VK_MENU, 'A');
   const MessageBox question = AwaitBox();
-  EXPECT_TRUE(question.text.starts_with("The launcher cannot start a program in this folder"))
-      << question.text;
+  EXPECT_TRUE(question.text.starts_with("The launcher cannot use this folder")) << question.text;
   ASSERT_TRUE(PressButton(question, IDYES));
   ASSERT_TRUE(HasRows(1));
   TypeInto('N', "txtName", "calculator");

@@ -28,7 +28,7 @@ inline constexpr const char* kCouldNotBeSaved =
 inline constexpr const char* kReadFromBackup =
     "An earlier save was interrupted. This list comes from the backup, launcher.bak.";
 
-/// What is said of a list that is not as it should be, for one remark.
+/// Returns the message about a list with one problem.
 inline std::string OpeningMessage(const std::string& remark) {
   return "There are problems with the list of programs (launcher.dat):\r\n\r\n- " + remark +
          "\r\n\r\nThe file does not change until you save the list.";
