@@ -1,6 +1,6 @@
 @echo off
-rem Started by Add/Remove Programs with the folder of Q-DIX.
-rem The engine of qdix.inf cannot start a program and wait for its end;
+rem Add/Remove Programs starts this file with the folder of Q-DIX.
+rem The engine of qdix.inf cannot start a program and wait for it to end;
 rem this file can.
 if "%1"=="" goto hint
 echo.
@@ -18,7 +18,7 @@ echo To remove Q-DIX open Control Panel, Add/Remove Programs.
 pause
 :last
 rem The engine deletes this file too. The last line starts the engine and
-rem has no line end, so the command interpreter has read the whole file by
-rem then and does not look for it again. An empty window closes by itself.
+rem has no line end: the command interpreter has then read the whole file
+rem and does not open it again. Windows closes an empty window by itself.
 cls
 @if not "%1"=="" rundll.exe setupx.dll,InstallHinfSection DefaultUninstall 4 %1\qdix.inf
