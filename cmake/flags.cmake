@@ -12,12 +12,12 @@ target_compile_definitions(qdix_windows95 INTERFACE
   WINVER=0x0400 _WIN32_WINNT=0x0400 _WIN32_WINDOWS=0x0400 _WIN32_IE=0x0300 WIN32_LEAN_AND_MEAN)
 
 # The arithmetic of the shipped programs: any processor from the 386 with its 387. The tests under Wine also compile
-# the program with these flags. src/runtime/README.md gives the reasons for these flags and the next.
+# the program with these flags. src/runtime/README.md gives the reasons for these flags and for qdix_shipped.
 add_library(qdix_arithmetic INTERFACE)
 target_compile_options(qdix_arithmetic INTERFACE
   "$<$<COMPILE_LANGUAGE:CXX>:-march=i386;-mfpmath=387;-ffloat-store>")
 
-# Shipped code: no exceptions, no run-time types.
+# Shipped code: no exceptions, no run-time type information.
 add_library(qdix_shipped INTERFACE)
 target_compile_options(qdix_shipped INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Os;-flto;-fno-inline-functions-called-once;\
 -mno-stack-arg-probe;-mno-accumulate-outgoing-args;-mpreferred-stack-boundary=2;\
@@ -32,7 +32,8 @@ if(QDIX_SANITIZE)
   target_link_options(qdix_sanitizers INTERFACE -fsanitize=address,undefined)
 endif()
 
-# Measures code coverage. Without exceptions, as the program ships: a call that cannot throw has no branch for it.
+# Measures code coverage. Compiled without exceptions, like the shipped programs: otherwise calls would have extra branches
+# for exceptions.
 add_library(qdix_coverage INTERFACE)
 if(QDIX_COVERAGE)
   target_compile_options(qdix_coverage INTERFACE --coverage -fno-exceptions)

@@ -1,5 +1,5 @@
-# The manual, from the texts in help/: the topics that the help viewer carries inside itself, and help.htm with its
-# pictures. Debian's own interpreter has Debian's Markdown parser; another one that comes first on the path has not.
+# Makes the manual from the texts in help/: the topics that help.exe contains, and help.htm with its pictures. Only Debian's
+# own Python has Debian's Markdown parser; another interpreter that comes first on the path does not.
 #   QDIX_TOPIC_STREAM, qdix_topics      the topics as one file, and the target that makes it
 #   QDIX_MANUAL_FOLDER, qdix_manual     the folder of help.htm and its pictures, and the target that makes it
 find_program(DEBIAN_PYTHON3 python3 PATHS /usr/bin NO_DEFAULT_PATH REQUIRED)
@@ -15,7 +15,7 @@ add_custom_command(OUTPUT ${QDIX_TOPIC_STREAM}
   COMMENT "Making the topics of the help viewer" VERBATIM)
 add_custom_target(qdix_topics DEPENDS ${QDIX_TOPIC_STREAM})
 
-# Otherwise a picture that the manual no longer has would stay.
+# Empties the folder first: otherwise pictures that the manual no longer uses would stay.
 add_custom_command(OUTPUT ${QDIX_MANUAL_FOLDER}/help.htm
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${QDIX_MANUAL_FOLDER}
   COMMAND ${make_help} --html ${QDIX_MANUAL_FOLDER}

@@ -1,11 +1,10 @@
-# Tests of the image check and of the link itself on small programs made for the purpose: each planted fault must be
-# found.
+# Tests the image check and the link with small programs, most of them with one planted fault that must be found.
 set(planted ${CMAKE_SOURCE_DIR}/tests/image)
 set(image_check ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tools/image_check/image_check.py
     --exports ${CMAKE_SOURCE_DIR}/cmake/win95-exports)
 set(ends_with ${Python3_EXECUTABLE} ${planted}/ends_with.py)
 
-# A sound program: the self-test of the runtime. The host builds run the same file.
+# A program without faults: the self-test of the runtime. The host builds run the same source file.
 add_executable(runtime_probe ${planted}/runtime_probe.cpp)
 qdix_link(runtime_probe qdix_program)
 add_test(NAME image.runtime_probe COMMAND ${image_check} --limit-kb 64 $<TARGET_FILE:runtime_probe>)
@@ -17,10 +16,10 @@ add_executable(lack_of_memory_probe ${planted}/lack_of_memory_probe.cpp)
 qdix_link(lack_of_memory_probe)
 add_test(NAME image.lack_of_memory_ends_the_process
   COMMAND ${ends_with} 3 "" ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:lack_of_memory_probe>)
-# It shows a box for a moment, which the other tests on the desktop would mistake for theirs.
+# It shows a message box for a moment. Other tests on the same desktop would mistake it for their own.
 set_tests_properties(image.lack_of_memory_ends_the_process PROPERTIES RESOURCE_LOCK desktop TIMEOUT 120)
 
-# image_finds(<name> <what the check says> <image> [<limit in KB>]): the check refuses the image for this reason.
+# image_finds(<name> <what the check says> <image> [<limit in KB>]): tests that the check refuses the image for this reason.
 function(image_finds name reason image)
   set(limit_kb 64)
   if(ARGC GREATER 3)
@@ -38,7 +37,7 @@ add_executable(planted_frame ${planted}/planted_frame.cpp)
 qdix_link(planted_frame)
 image_finds(planted_frame "could step over the guard page" planted_frame)
 
-# The full import library accepts a later function; the check of the finished exe still finds it.
+# The full import library accepts a function that Windows 95 lacks; the check of the finished exe still finds it.
 add_executable(planted_late_import ${planted}/planted_late_import.cpp)
 qdix_link(planted_late_import /usr/i686-w64-mingw32/lib/libkernel32.a)
 image_finds(planted_late_import "imports kernel32.dll!GetDiskFreeSpaceExA, which the first Windows 95 lacks"
@@ -56,7 +55,7 @@ image_finds(planted_c_library "imports msvcrt.dll" planted_c_library)
 
 image_finds(oversize "bytes, more than 1 KB" runtime_probe 1)
 
-# link_refuses(<planted source> <what the linker says>): the link fails for this reason.
+# link_refuses(<planted source> <what the linker says>): tests that the link fails for this reason.
 function(link_refuses fault reason)
   add_executable(fails_${fault} EXCLUDE_FROM_ALL ${planted}/${fault}.cpp)
   qdix_link(fails_${fault})

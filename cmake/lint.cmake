@@ -1,4 +1,4 @@
-# Format, static analysis, include direction and sizes, as tests of the sanitizer build.
+# Checks format, static analysis, include direction, sizes and wording, as tests of the sanitizer build.
 if(QDIX_SANITIZE)
   find_package(Python3 REQUIRED COMPONENTS Interpreter)
   set(lint ${CMAKE_SOURCE_DIR}/tools/lint)

@@ -1,5 +1,5 @@
-# Debian's 32-bit Windows compiler, always by the name of its variant: the plain name depends on the machine's
-# alternatives.
+# Debian's 32-bit Windows compiler, named with its thread model: which compiler the plain name starts depends on the
+# machine's alternatives.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR i686)
 set(CMAKE_C_COMPILER i686-w64-mingw32-gcc-win32)

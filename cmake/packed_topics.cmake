@@ -1,4 +1,4 @@
-# The topic stream (QDIX_TOPIC_STREAM, target qdix_topics) as help.exe carries it.
+# Packs the topic stream (QDIX_TOPIC_STREAM, target qdix_topics) into the form that help.exe contains.
 #   QDIX_PACKED_TOPICS, qdix_packed_topics      the packed stream as a file, and the target that makes it
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 set(QDIX_PACKED_TOPICS ${CMAKE_BINARY_DIR}/help/topics.bin)

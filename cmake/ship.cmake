@@ -53,15 +53,15 @@ function(qdix_link target)
   # By path: with -l the linker would silently take the full libraries.
   target_link_libraries(${target} PRIVATE ${ARGN} qdix_runtime ${reduced_libgcc} ${import_libraries})
   set_target_properties(${target} PROPERTIES SUFFIX ".exe" LINK_DEPENDS ${CMAKE_SOURCE_DIR}/src/runtime/noctors.ld)
-  # The names of its functions go into a file beside it, by which tests name an address of the exe.
+  # Writes the function names to a file beside the exe. Tests use it to name an address in the exe.
   add_custom_command(TARGET ${target} POST_BUILD
     COMMAND ${CROSS_NM} -C -n $<TARGET_FILE:${target}> > $<TARGET_FILE:${target}>.symbols
     COMMAND ${CROSS_STRIP} -p $<TARGET_FILE:${target}> VERBATIM)
   add_dependencies(${target} win95_libraries)
 endfunction()
 
-# qdix_ship(<name> [OUTPUT <name>] LIMIT_KB <n> SOURCES <file>... [LIBRARIES <target>...]): a shipped program with its image check. OUTPUT is
-# its shipped name where CMake keeps that to itself.
+# qdix_ship(<name> [OUTPUT <name>] LIMIT_KB <n> SOURCES <file>... [LIBRARIES <target>...]): adds a shipped program and its
+# image check. OUTPUT is the name of the exe where it differs from the target, for example "help", which CMake reserves.
 function(qdix_ship name)
   cmake_parse_arguments(PARSE_ARGV 1 ship "" "OUTPUT;LIMIT_KB" "SOURCES;LIBRARIES")
   add_executable(${name} ${ship_SOURCES})

@@ -1,6 +1,6 @@
-# The small machine: host tests of its parts, and releases on it with the shipped exes (label small_machine).
+# The small machine: host tests of its parts, and tests of the shipped exes on it (label small_machine).
 #   small_machine.parts, .report, .bench   no emulator: host builds
-#   small_machine.make                     makes the machine if it is missing; the tests on it need it
+#   small_machine.make                     makes the machine if it is missing; the tests of the shipped exes need it
 set(small_machine ${CMAKE_SOURCE_DIR}/tools/small_machine/small_machine.sh)
 set(small_machine_tests ${CMAKE_SOURCE_DIR}/tests/small_machine)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
@@ -13,7 +13,7 @@ else()
   add_test(NAME small_machine.make COMMAND ${small_machine} make 64 96 128)
   set_tests_properties(small_machine.make PROPERTIES FIXTURES_SETUP small_machine TIMEOUT 2400 LABELS small_machine)
 
-  # small_machine_test(<name> <file> <argument>): one at a time, since an emulated PC keeps a core busy.
+  # small_machine_test(<name> <file> <argument>): adds a test. They run one at a time, because an emulated PC keeps a core busy.
   function(small_machine_test name file argument)
     add_test(NAME small_machine.${name} COMMAND ${Python3_EXECUTABLE} ${small_machine_tests}/${file} ${argument})
     set_tests_properties(small_machine.${name} PROPERTIES

@@ -1,12 +1,12 @@
-# The strict Windows 95: copies of the shipped programs in build/win9x-strict whose imported libraries are all Guard.dll, which stands between
-# them and the system (tests/strict95/README.md).
+# The strict Windows 95: copies of the shipped programs in build/win9x-strict. They import everything from Guard.dll, which
+# sits between them and the system (tests/strict95/README.md).
 set(strict_dir ${CMAKE_SOURCE_DIR}/build/win9x-strict)
 set(strict_generated ${CMAKE_BINARY_DIR}/strict95)
 get_property(shipped_programs GLOBAL PROPERTY QDIX_SHIPPED_PROGRAMS)
 foreach(program IN LISTS shipped_programs)
   list(APPEND strict_exes $<TARGET_FILE:${program}>)
 endforeach()
-# The calls that must be reported, as a program like the others.
+# Makes the calls that the guard must report; linked like a shipped program.
 add_executable(planted tests/strict95/planted/planted.cpp)
 qdix_link(planted)
 set(strict_script tests/strict95/make_strict.py tests/strict95/portable_exe.py)
@@ -26,7 +26,7 @@ add_library(Guard MODULE ${guard_sources} ${strict_sources} ${strict_generated}/
 add_dependencies(Guard strict_copies)
 target_include_directories(Guard PRIVATE ${CMAKE_SOURCE_DIR})
 target_link_libraries(Guard PRIVATE qdix_warnings qdix_windows95 user32 gdi32 kernel32)
-# The guarded programs keep their stack aligned to words only.
+# The guarded programs align their stack to 4 bytes only.
 target_compile_options(Guard PRIVATE -Os -mstackrealign)
 target_link_options(Guard PRIVATE -static)
 set_target_properties(Guard PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY ${strict_dir})

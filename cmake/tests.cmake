@@ -2,7 +2,7 @@
 #   unit      the portable program on the simulated machine: both
 #   contract  the system interfaces: the simulated side on this machine, the real side under Wine
 #   e2e       the shipped exe, driven from outside: under Wine
-#   small_machine   the shipped exe on an emulated PC with little memory (small_machine.cmake)
+#   small_machine   the shipped exes on an emulated PC with little memory (small_machine.cmake)
 set(gtest_disable_pthreads ON CACHE BOOL "No threads in the tests" FORCE)
 set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
 if(WIN32)
@@ -19,14 +19,15 @@ include(cmake/packed_topics.cmake)
 add_library(qdix_simulated STATIC ${simulated_sources})
 target_link_libraries(qdix_simulated PRIVATE qdix_warnings PUBLIC qdix_program)
 
-# Leaves room for a busy machine whose Wine needs an emulator.
+# Long enough for a busy machine on which Wine runs in an emulator.
 set(wine_limit_s 3000)
-# A hundred times what a shard needs on a quiet machine.
+# A hundred times what a shard needs on an idle machine.
 set(shard_limit_s 600)
 
-# qdix_test(<name> [SHARDS <count>] SOURCES <file>... LIBRARIES <target>...): a test program. On this machine
-# each of its tests is one ctest test. If a process for each would take longer than the tests, SHARDS makes that many
-# ctest tests instead, and build/<preset>/reports/ has a report of every single test. Under Wine the program is one test.
+# qdix_test(<name> [SHARDS <count>] SOURCES <file>... LIBRARIES <target>...): adds a test program. On this machine each of
+# its tests is one ctest test. Where starting a process per test would take longer than the tests, SHARDS makes that many
+# ctest tests instead; build/<preset>/reports/ then has the result of every single test. Under Wine the program is one
+# ctest test.
 function(qdix_test name)
   cmake_parse_arguments(PARSE_ARGV 1 test "" "SHARDS" "SOURCES;LIBRARIES")
   if(NOT test_SOURCES)
@@ -39,7 +40,7 @@ function(qdix_test name)
   if(WIN32)
     target_link_options(${name} PRIVATE -static)
     target_link_libraries(${name} PRIVATE ${precision_object})
-    # "-R unit" is to find the quick ones only.
+    # A different name, so "-R unit" finds only the quick tests.
     string(REPLACE "unit" "portable" wine_name wine.${prefix})
     add_test(NAME ${wine_name} COMMAND ${name})
     set_tests_properties(${wine_name} PROPERTIES TIMEOUT ${wine_limit_s})
@@ -60,7 +61,7 @@ endfunction()
 file(GLOB_RECURSE unit_sources CONFIGURE_DEPENDS tests/unit/*.cpp)
 qdix_test(unit_tests SHARDS 8 SOURCES ${unit_sources} LIBRARIES qdix_simulated ${companion_libraries})
 add_dependencies(unit_tests qdix_packed_topics)
-# The topics of the help as made and as shipped, by paths of the system that runs the tests.
+# The help topics as generated and as packed; the paths are those of the system that runs the tests.
 set(host_drive "")
 if(WIN32)
   set(host_drive "Z:")
@@ -94,7 +95,7 @@ if(WIN32)
     add_dependencies(e2e_tests witness)
     target_compile_definitions(e2e_driver PRIVATE QDIX_WITNESS="$<TARGET_FILE:witness>")
 
-    # Run on the small machine: one idles while memory is released, the other needs memory then.
+    # Programs for the small machine: idle holds memory and does nothing, hungry needs much memory at once.
     add_executable(idle tools/small_machine/programs/idle.cpp)
     add_executable(hungry WIN32 tools/small_machine/programs/hungry.cpp)
     foreach(program IN ITEMS idle hungry)
@@ -103,14 +104,14 @@ if(WIN32)
       target_link_options(${program} PRIVATE -static)
     endforeach()
 
-    # Measures the programs that the tests drive. bench/run.sh runs it; it is built with the tests so that it stays in
-    # step.
+    # Measures the programs that the tests drive. bench/run.sh runs it. It is built with the tests, so a change that
+    # breaks it is noticed.
     file(GLOB bench_sources CONFIGURE_DEPENDS bench/*.cpp)
     add_executable(qdix_bench ${bench_sources})
     target_link_libraries(qdix_bench PRIVATE qdix_warnings e2e_driver ${precision_object})
     target_link_options(qdix_bench PRIVATE -static)
 
-    # Runs on its own machine and desktop, so it need not wait for the others.
+    # Has its own prefix and desktop, so it need not wait for the other tests.
     add_test(NAME wine.install
       COMMAND ${CMAKE_SOURCE_DIR}/tests/dist/install_test.sh ${CMAKE_SOURCE_DIR}/build/win9x $<TARGET_FILE:qdix_probe>)
     set_tests_properties(wine.install PROPERTIES TIMEOUT ${wine_limit_s})
