@@ -1,16 +1,16 @@
-// Wine's own programs loaded as it loads everybody else's.
+// Runs one of Wine's own programs the way Wine runs all others.
 #pragma once
 
 #include <string>
 
 namespace qdix::bench {
 
-/// A copy of one of Wine's programs without the mark by which Wine knows its own. In a Windows 98 of Wine
-/// every other program is given what 16-bit programs need besides (a first megabyte of memory, a kernel, two
-/// drivers), which costs it time and memory before its first instruction. The shipped programs are others.
+/// Owns a copy of one of Wine's programs without the mark by which Wine recognizes its own. In Windows 98
+/// mode Wine gives every other program what 16-bit programs need (a first megabyte of memory, a kernel, two
+/// drivers), which costs time and memory before the first instruction. The shipped programs pay this too.
 class ForeignCopy {
  public:
-  /// Ends the measurement where there is no such program, or where it carries no mark.
+  /// Ends the bench with an error if the program is missing or has no mark.
   explicit ForeignCopy(const std::string& program);
   ForeignCopy(const ForeignCopy&) = delete;
   ForeignCopy& operator=(const ForeignCopy&) = delete;

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Writes the section of docs/benchmarks.md on what the programs hold at most:   held.py LOG BENCHMARKS
+"""Writes the section of docs/benchmarks.md about peak resource use:   held.py LOG BENCHMARKS
 
-LOG is what the guard of tests/strict95 wrote at the end of each program.
+The guard of tests/strict95 writes LOG: the peaks of each program, when it ends.
 """
 import pathlib
 import re
@@ -11,7 +11,7 @@ BEGIN = "<!-- held: made by bench/held.sh -->"
 END = "<!-- end of held -->"
 HELD = re.compile(r"^held (?P<program>\S+) (?P<what>.+) (?P<most>\d+)$", re.MULTILINE)
 PROGRAMS = ("QDIX.exe", "configL.exe", "undo.exe", "help.exe", "QDIXTEST.exe")
-# What Windows 95 has of it, for all programs together unless it is said otherwise.
+# The limits of Windows 95, for all programs together unless the text says otherwise.
 ROOM = {
     "windows": "about 1,000 in a heap of 2 MB, their small parts in the 64 KB of USER",
     "common device contexts": "5",
@@ -36,12 +36,12 @@ def section(log):
     found = most_of(log)
     missing = [program for program in PROGRAMS if (program, "windows") not in found]
     if missing:
-        sys.exit(f"held: no end of {', '.join(missing)} in the log")
+        sys.exit(f"held: the log has no figures of {', '.join(missing)}")
     rows = [f"| {what} | " + " | ".join(str(found[program, what]) for program in PROGRAMS) + f" | {room} |"
             for what, room in ROOM.items()]
     return "\n".join([
         BEGIN, "## What a program holds at most", "",
-        "Counted by the guard of `tests/strict95` while the end-to-end tests use the programs: at once at most, not on the average.", "",
+        "The guard of `tests/strict95` counts these while the end-to-end tests use the programs. Each figure is the peak at one moment.", "",
         "| What | " + " | ".join(f"`{program}`" for program in PROGRAMS) + " | Windows 95 has |",
         "|---|" + "---|" * (len(PROGRAMS) + 1), *rows, END])
 

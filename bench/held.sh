@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Measures what the programs hold of the system at most, as the guard of tests/strict95 counts it while end-to-end tests use
-# them, and writes that section of docs/benchmarks.md. Arguments are handed to the tests, a filter for one.
+# Measures how many system resources the programs hold at most, and writes that section of docs/benchmarks.md. The guard of
+# tests/strict95 counts them while end-to-end tests use the programs. The optional argument is a --gtest_filter.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."

@@ -23,7 +23,7 @@ Row MeasureMemory(const e2e::ShippedProgram& program, const std::string& path, c
                   "not above notepad");
 }
 
-/// Both run through the same minutes.
+/// Measures both programs during the same minutes.
 Row MeasureMinutes(const e2e::ShippedProgram& program, const OtherProgram& taskmgr, const std::string& how) {
   std::vector<double> ours;
   std::vector<double> theirs;

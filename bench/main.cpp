@@ -1,5 +1,4 @@
-// Measures the shipped programs beside Wine's own in one run and prints the report that docs/benchmarks.md
-// holds.
+// Measures the shipped programs beside Wine's own in one run and prints the results for docs/benchmarks.md.
 #include <cstdio>
 
 #include "bench/measures.h"

@@ -1,4 +1,5 @@
-// The measurements. Each starts what it needs and ends it again; the registry of the program is a known one.
+// The measurements. Each starts the programs it needs and ends them. The program's registry has known
+// contents.
 #pragma once
 
 #include <vector>
@@ -7,18 +8,18 @@
 
 namespace qdix::bench {
 
-/// Bytes of the shipped exes.
+/// Measures the file sizes of the shipped exes.
 [[nodiscard]] std::vector<Row> MeasureSizes();
-/// From the request to start a program until its window is shown.
+/// Measures the time from the request to start a program until its window is shown.
 [[nodiscard]] std::vector<Row> MeasureStart();
-/// Private committed memory, and processor time over a minute with the window shown and with it hidden.
+/// Measures private committed memory, and processor time per minute with the window shown and hidden.
 [[nodiscard]] std::vector<Row> MeasureIdle();
-/// A large release less a small one, which pumps as often, beside a loop that takes, touches and frees as
-/// much.
+/// Measures a large release minus a small one, which pumps equally often, beside a loop that takes, touches
+/// and frees as much memory.
 [[nodiscard]] Row MeasureRelease();
-/// The last of a million ticks of Timer1 on the simulated machine beside the first.
+/// Measures the last 100,000 of a million ticks of Timer1 on the simulated machine beside the first 100,000.
 [[nodiscard]] Row MeasureTicks();
-/// Prints a table of what the idle program holds of the system, beside programs of the system.
+/// Prints a table of the system resources that the idle program holds, beside programs of the system.
 void PrintResources();
 
 }  // namespace qdix::bench

@@ -1,4 +1,4 @@
-// A program of the system that the shipped ones are measured against: started, seen, ended.
+// Starts, watches and ends a program of the system that the shipped programs are compared with.
 #pragma once
 
 // clang-format off
@@ -11,18 +11,18 @@ namespace qdix::bench {
 
 class OtherProgram {
  public:
-  /// The class of the main window tells it from other windows of the program.
+  /// `window_class` is the class of the main window; it identifies that window among those of the program.
   OtherProgram(std::string command_line, std::string window_class)
       : command_line_(std::move(command_line)), window_class_(std::move(window_class)) {}
   OtherProgram(const OtherProgram&) = delete;
   OtherProgram& operator=(const OtherProgram&) = delete;
   ~OtherProgram() { End(); }
 
-  /// False when the system does not start it.
+  /// Returns false if the system does not start it.
   [[nodiscard]] bool Start();
   /// True while its main window is shown.
   [[nodiscard]] bool IsShown() const;
-  /// Closes its window, and kills it when that does not end it.
+  /// Closes its windows, and kills the program if it has not ended after 5 seconds.
   void End();
 
   [[nodiscard]] HANDLE Process() const { return process_; }

@@ -9,17 +9,17 @@ namespace qdix::bench {
 namespace {
 
 constexpr int kRounds = 7;
-/// So many that steps of 10 ms of processor time do not matter.
+/// Enough that the 10 ms resolution of processor time does not matter.
 constexpr int kRepeats = 5;
 constexpr int kLargeMb = 232;
 constexpr int kSmallMb = 1;
-/// Of the megabytes that amounts to free are counted in.
+/// A megabyte as the amounts to free count it.
 constexpr SIZE_T kBytesPerMb = 1040000;
-/// As many as a pass makes after it has touched its memory, and again after it has freed it.
+/// Pumps of a pass after it has touched its memory, and again after it has freed it.
 constexpr int kPumps = 5000;
 constexpr double kMaxRatio = 1.1;
 
-/// Processor time of one pass. A press by message comes back at the end of the release.
+/// Returns the processor time of one pass. BM_CLICK returns at the end of the release.
 double PassMs(const e2e::ShippedProgram& program, int amount_mb) {
   Require(program.Choose("List1", std::to_string(amount_mb) + " MB"), "the list lacks an amount");
   const int passes = std::atoi(program.Text("Text1").c_str());
@@ -31,7 +31,7 @@ double PassMs(const e2e::ShippedProgram& program, int amount_mb) {
   return ms / passes / kRepeats;
 }
 
-/// Processor time of taking, touching and freeing as much in a bare loop.
+/// Returns the processor time of a bare loop that takes, touches and frees the same amount.
 double LoopMs(int amount_mb) {
   const double before_ms = ProcessorMs(GetCurrentProcess());
   const SIZE_T bytes = amount_mb * kBytesPerMb;
@@ -62,8 +62,8 @@ Row MeasureRelease() {
     large_loop.push_back(LoopMs(kLargeMb));
   }
   CloseAndWait(program);
-  // Pumps cost more while much memory is held. So the loop pumps as well, and the small one takes the pumps
-  // off on both sides.
+  // Pumps cost more while much memory is held, so the loop also pumps. Subtracting the run with 1 MB removes
+  // the pumps on both sides.
   return Compared(
       "processor time of a release of 232 MB less one of 1 MB, fastest of 7, beside a loop that takes, "
       "touches "

@@ -18,8 +18,8 @@ void PrintLine(const char* name, HANDLE process, DWORD process_id, const std::st
               held.drawing_objects, held.handles, timers.c_str());
 }
 
-/// Timers of the main window are numbered from 1. The system tells of one only by stopping it, so this comes
-/// last.
+/// Timers of the main window are numbered from 1. The only way to find out whether a timer exists is to stop
+/// it, so this is the last measurement of the program.
 int StopAndCountTimers(const e2e::ShippedProgram& program) {
   constexpr std::uint32_t kMaxTimers = 16;
   const std::uint32_t kill_timer = e2e::SystemFunction("user32.dll", "KillTimer");
@@ -52,7 +52,7 @@ void PrintResources() {
   std::puts(
       "| Program | top-level windows | child windows | GDI objects | handles | timers of its main window |");
   std::puts("|---|---|---|---|---|---|");
-  // Counted first: stopping them must not change the rest of the line.
+  // Printed before the timers are stopped, which could change these figures.
   PrintLine("`QDIX.exe`", program.Process(), process_id, "in the next line");
   std::printf("| its timers, default settings | | | | | %d |\n", StopAndCountTimers(program));
   program.Kill();

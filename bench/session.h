@@ -1,4 +1,4 @@
-// The shipped QDIX.exe on a machine that has had it before, ready to be measured.
+// Starts and ends the shipped QDIX.exe on a machine where it has run before.
 #pragma once
 
 #include <cstdio>
@@ -10,20 +10,20 @@
 
 namespace qdix::bench {
 
-/// A measurement that could not be made must not look like one: ends the bench with the reason.
+/// Ends the bench and prints the reason if a step failed: a failed measurement must not look like a result.
 inline void Require(bool happened, const std::string& what) {
   if (happened) return;
   std::fprintf(stderr, "bench: %s\n", what.c_str());
   std::exit(1);
 }
 
-/// Default settings, and no first start.
+/// Restores the default settings and marks the first start as done.
 inline void MakeMachineKnown() {
   e2e::ProgramRegistry::Clear();
   e2e::SetRegistryText(e2e::kMachineKey, "HasRun", "1");
 }
 
-/// Starts it and waits until its figures are read.
+/// Starts the program and waits until it shows its first figures.
 inline void StartAndSettle(e2e::ShippedProgram& program) {
   MakeMachineKnown();
   Require(program.Start(), "QDIX.exe does not start");

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Prints the part of docs/benchmarks.md that was measured on the small machine:   small_machine.py RESULT.json..."""
+"""Prints the section of docs/benchmarks.md about the small machine:   small_machine.py RESULT.json..."""
 import json
 import pathlib
 import statistics
 import sys
 
-# A release as the window counts it: 1 MB is 1000 KB.
+# As in the title bar of the main window.
 KB_PER_MB = 1000
 KEPT, MISSED = "kept", "**missed**"
 NAMES = {"QDIX.exe": "`QDIX.exe`", "other.exe": "notepad loaded as any other program",
@@ -13,7 +13,7 @@ NAMES = {"QDIX.exe": "`QDIX.exe`", "other.exe": "notepad loaded as any other pro
 
 
 class Step:
-    """What one step came to in all rounds of a run, each from the same stored state."""
+    """The results of one step in all rounds of a run. Every round starts from the same stored state."""
 
     def __init__(self, result, name):
         rounds = [one[name] for one in result["rounds"]]
@@ -31,7 +31,7 @@ def mb(kilobytes):
 
 
 def spread(values, unit, show):
-    """The middle, and the smallest and the largest in brackets."""
+    """Formats the median, with minimum and maximum in brackets."""
     middle, least, most = show(statistics.median(values)), show(min(values)), show(max(values))
     return f"{middle}{unit}" if least == most else f"{middle}{unit} ({least} to {most})"
 
@@ -89,20 +89,22 @@ HEAD = """\
 ## On an emulated PC
 
 Made by `bench/small_machine.sh` on the small machine (`tools/small_machine/README.md`): an emulated Pentium II, a Linux
-kernel, Wine. It is not Windows that pages here. Series as above; 1 MB is 1,024,000 bytes, as in the title bar.
+kernel, and Wine. Linux pages here, not Windows. Series are shown as above. 1 MB is 1,024,000 bytes, as in the title bar.
 """
 
 METHOD = """
 ### How it is measured there
 
-- The idle programs, {idle}, have read all their memory. Then the machine's memory, disks and
-  devices are kept, and every step of each of the {rounds} rounds begins with exactly that state.
-- Release: `Command1` pressed by message until its handler has ended. The loop takes as many bytes in one block, writes
-  into every page and frees it. One program times both. Memory is the kernel's, once the machine has come to rest.
-- Pumps: Wine asks the X server in each pump of a program that has a window, as Q-DIX has. The loop that pumps makes
-  half of them while it holds its block and half after it, like a release, but without a window.
-- Time counts instructions, 4 ns each, and skips idle stretches. Waiting for a disk of a busy host makes a run longer.
-- At rest: started alone, from the moment when the desktop is up; the kernel's smaps_rollup. Two notepads, as above."""
+- The idle programs, {idle}, read all their memory. Then the state of the machine (memory, disks,
+  devices) is stored, and every step of each of the {rounds} rounds starts from exactly that state.
+- Release: the time from a message that presses `Command1` until its handler has ended. The loop takes as many bytes in
+  one block, writes to every page and frees it. One program times both. Memory figures come from the kernel, once the
+  machine is idle again.
+- Pumps: in each pump of a program with a window, such as Q-DIX, Wine asks the X server. The loop that pumps does half of
+  its pumps while it holds its block and half after freeing it, like a release, but it has no window.
+- Time counts instructions, 4 ns each, and skips idle time. Waiting for a disk of a busy host makes a run longer.
+- At rest: each program is started alone from the stored desktop; figures from the kernel's smaps_rollup. Notepad is
+  measured twice, as above."""
 
 
 def section(results):

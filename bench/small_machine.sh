@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Measures a release on the small machine with 64, 96 and 128 MB beside a bare loop, about ten minutes on two idle
-# cores, and writes that part of docs/benchmarks.md.
+# Measures a release beside a bare loop on the small machine with 64, 96 and 128 MB, and writes that section of
+# docs/benchmarks.md. Takes about ten minutes on two idle cores.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -19,7 +19,7 @@ for size_mb in "${sizes_mb[@]}"; do
   results+=("$folder/release.json")
 done
 
-# What bench/run.sh wrote comes before that part, what bench/held.sh wrote after it; both stay as they are.
+# Keeps the text of bench/run.sh before that section and the section of bench/held.sh after it.
 {
   sed '/^## On an emulated PC$/,$d; /^<!-- held/,$d' "$report"
   bench/small_machine.py "${results[@]}"

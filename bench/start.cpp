@@ -13,11 +13,11 @@ namespace {
 constexpr int kRounds = 15;
 constexpr double kLimitMs = 30000;
 
-/// The result is exact to this pause; without one the questions would keep the server busy that makes the
+/// The precision of the result. Without a pause the polling would keep Wine's server busy, which creates the
 /// windows.
 constexpr DWORD kPauseMs = 1;
 
-/// The desktop is still busy with the window of the program before when that has ended.
+/// When a program has ended, the desktop is still busy with its window.
 constexpr DWORD kRestMs = 500;
 
 double MsUntil(const std::function<bool()>& start, const std::function<bool()>& is_shown) {
@@ -55,7 +55,7 @@ double StartNotepad(const std::string& path) {
 
 std::vector<Row> MeasureStart() {
   const ForeignCopy copy("notepad.exe");
-  // The first of each fills the caches of the machine.
+  // Not counted: the first start of each program fills the caches of the machine.
   StartOurs();
   StartNotepad(copy.Path());
   StartNotepad("notepad.exe");

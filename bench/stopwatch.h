@@ -1,4 +1,4 @@
-// Time that passes, and processor time that a process takes, in milliseconds.
+// Measures elapsed time and the processor time of a process, in milliseconds.
 #pragma once
 
 // clang-format off
@@ -17,8 +17,8 @@ class Stopwatch {
   LARGE_INTEGER start_ = {};
 };
 
-/// User and system time since the start of the process, in steps of 10 ms. Asked inside of that process,
-/// because Wine tells nobody else; the handle needs all rights.
+/// Returns user and system time since the start of the process, in steps of 10 ms. Calls GetProcessTimes
+/// inside that process, because Wine tells no other process; the handle needs all rights.
 [[nodiscard]] double ProcessorMs(HANDLE process);
 
 }  // namespace qdix::bench

@@ -11,10 +11,10 @@ namespace {
 
 constexpr int kTicks = 1000000;
 constexpr int kPortion = 100000;
-/// So few that what the simulated machine remembers of them takes no time of its own.
+/// Few enough that the records which the simulated machine keeps of them cost no noticeable time.
 constexpr int kStep = 1000;
 constexpr double kUsPerMs = 1000;
-/// What two equal portions differ by on a machine that does other things as well.
+/// The difference between two equal portions on a machine with other work.
 constexpr double kMaxRatio = 1.1;
 
 ui::Timer& DisplayTimer(app::Form1& program) {
@@ -25,7 +25,7 @@ ui::Timer& DisplayTimer(app::Form1& program) {
   std::abort();
 }
 
-/// Microseconds of a tick, for each step of a portion.
+/// Returns the microseconds per tick for each step of kStep ticks.
 std::vector<double> TickUs(tests::ProgramRig& rig, ui::Timer& timer, int ticks) {
   std::vector<double> us;
   for (int done = 0; done < ticks; done += kStep) {
