@@ -1,4 +1,4 @@
-"""Figures of the guest's kernel at one moment, read from what its /proc says."""
+"""The memory figures of the guest's kernel at one moment, read from /proc."""
 import dataclasses
 import re
 
@@ -11,15 +11,15 @@ MAIN_PROGRAM = "QDIX.exe"
 class Figures:
     seconds: float
     total_kb: int
-    # What Wine tells a program: free memory and that of the file cache.
+    # As Wine reports it to programs: free memory plus the file cache.
     available_kb: int
-    # What the kernel thinks a new program could have without paging.
+    # The kernel's estimate of what a new program could get without paging.
     kernel_available_kb: int
     anonymous_kb: int
     swap_total_kb: int
     swap_used_kb: int
     pages_in: int
-    # In the swap file alone. The kernel may keep the place there of a page that is in RAM again.
+    # Only in the swap file. The kernel may keep the swap space of a page that is back in RAM.
     paged_out_kb: int
     pages_out: int
     idle_programs: int
@@ -35,7 +35,7 @@ class Figures:
 
 
 def read_figures(text):
-    """`text` is the output of the guest's command `figures`."""
+    """Parses `text`, the output of the guest's command `figures`."""
     lines = text.splitlines()
     machine = {name: int(value) for name, value in re.findall(r"^(\w+):?\s+(\d+)(?: kB)?$", text, re.MULTILINE)}
     programs = {}

@@ -1,4 +1,4 @@
-"""What the small machine asks of the machine that it runs on, and the error that says what is wrong with it."""
+"""The requirements of the small machine on its host, and the error that names what is missing or failed."""
 import shutil
 import subprocess
 
@@ -7,7 +7,7 @@ NEEDED_PROGRAMS = {"qemu-system-i386": "qemu-system-x86", "qemu-img": "qemu-util
 
 
 class MachineError(Exception):
-    """The machine cannot be made or does not do what was asked of it; the text is for whoever started it."""
+    """The machine cannot be made, or a request to it failed. The text is for the user."""
 
 
 def check_programs():
@@ -23,7 +23,7 @@ def check_room(folder, needed_mb):
 
 
 def run(command, failure):
-    """Runs a program of the host and returns what it printed; its complaints are the reason of the failure."""
+    """Runs a program of the host and returns its output. Raises MachineError with `failure` and the program's message."""
     done = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, text=True, check=False)
     if done.returncode:
         raise MachineError(f"{failure}: {(done.stderr or done.stdout).strip()[-800:]}")

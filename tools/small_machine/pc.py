@@ -1,4 +1,4 @@
-"""The small machine as a scenario uses it: programs, windows, a hand, figures and photographs."""
+"""The interface of the small machine for scenarios: programs, windows, mouse, figures and screenshots."""
 import contextlib
 import dataclasses
 import json
@@ -13,20 +13,20 @@ from figures import read_figures
 from host import MachineError
 from store import PROGRAMS_DISK_MB
 
-# Of the guest's time.
+# Seconds of the guest's time.
 WINDOW_LIMIT_S = 120
 RELEASE_LIMIT_S = 300
-# How far the window's figure may be from the kernel's, and how many looks are taken until it is near.
+# How far the window's figure may differ from the kernel's, and how often it is read until they agree.
 AGREEMENT_KB = 1024
 MOST_LOOKS = 10
-# Well within the first row of a list, from its corner, in pixels.
+# A point well inside the first row of a list, in pixels from its top left corner.
 FIRST_ROW = (20, 9)
-# Of the host's time, for a wait in the guest.
+# Seconds of the host's time, for a wait in the guest.
 HOST_LIMIT_S = 900
 
 
 class Pc:
-    """One machine that is switched on. `folder` takes photographs and figures; `say` is told what is being done."""
+    """A running machine. Screenshots and results go to `folder`; `say` is called with each progress message."""
 
     def __init__(self, machine, folder, say):
         self.machine = machine
@@ -41,7 +41,7 @@ class Pc:
         self.machine.ask(" ".join(["start", name, *arguments]))
 
     def start_main_program(self):
-        """Starts QDIX.exe, as on a machine that knows it already, and waits for its figures."""
+        """Starts QDIX.exe as on a machine where it has run before, and waits for its figures."""
         self.set_settings("Machine", HasRun=1)
         self.start("QDIX.exe")
         self.await_main_window()
@@ -65,7 +65,7 @@ class Pc:
         self.idle_programs = range(self.idle_programs.stop, self.idle_programs.stop)
 
     def wake_idle_programs(self):
-        """Lets them read all their memory; returns how many words of how many were wrong."""
+        """Lets the idle programs read all their memory. Returns the number of wrong words and of all words."""
         wrong = words = 0
         for number in self.idle_programs:
             answer = self.machine.ask(f"wake_idle {number}", HOST_LIMIT_S)
@@ -76,45 +76,45 @@ class Pc:
         return wrong, words
 
     def set_settings(self, section, **values):
-        """Stores settings of the main program, which must not be running."""
+        """Stores settings of the main program. It must not be running."""
         for name, value in values.items():
             self.probe(f'store-setting "{section}\\{name}" {value}')
 
     def setting(self, section, name):
         return self.probe(f'setting "{section}\\{name}"').strip()
 
-    # Windows, by the probe that runs in the guest.
+    # Windows, through the probe that runs in the guest.
 
     def probe(self, question):
         return self.machine.ask(f"probe '{question}'")
 
     def await_answer(self, question, answer, limit_s):
-        """Waits until an answer is like a pattern of the shell, and returns the guest's time at that moment."""
+        """Waits until the answer matches a shell pattern, and returns the guest's time at that moment, in seconds."""
         return self.await_true(f"await_answer {limit_s} '{answer}' {question}")
 
     def await_available(self, kilobytes, limit_s):
-        """Waits until more than that is available, and returns the guest's time at that moment."""
+        """Waits until more than this is available, and returns the guest's time at that moment, in seconds."""
         return self.await_true(f"await {limit_s} has_available {kilobytes}")
 
     def await_true(self, command):
-        """Runs a command of the guest that waits, and returns the guest's time after it."""
+        """Runs a guest command that waits, and returns the guest's time after it, in seconds."""
         return float(self.machine.ask(f"{command} && cat /proc/uptime", HOST_LIMIT_S).split()[0])
 
     def pause(self, seconds):
-        """Lets the guest go on for that time."""
+        """Lets the guest run for this many seconds of its time."""
         self.machine.ask(f"sleep {seconds}", HOST_LIMIT_S)
 
     def press(self, control):
-        """Moves the pointer to a control of the main window and presses the left button there."""
+        """Moves the pointer to a control of the main window and clicks it."""
         x, y, width, height = map(int, self.probe(f"rect {control}").split())
         self._point_at(x + width // 2, y + height // 2)
         self._press()
 
     def press_first_row_twice(self, control):
-        """Double-clicks the first row of a list, and returns the guest's time at that moment."""
+        """Double-clicks the first row of a list, and returns the guest's time at that moment, in seconds."""
         x, y, *_ = map(int, self.probe(f"rect {control}").split())
         self._point_at(x + FIRST_ROW[0], y + FIRST_ROW[1])
-        # A press by itself first: paging what the program needs for it could take longer than a double click may.
+        # A single click first: it pages in what the program needs, which could take longer than the double-click time.
         self._press()
         self.rest()
         self._press()
@@ -132,7 +132,7 @@ class Pc:
         self.machine.press_button(False)
 
     def release(self, megabytes):
-        """Releases an amount by hand and returns how many seconds the button was disabled."""
+        """Releases an amount with the button, and returns how many seconds the button was disabled."""
         self.say(f"releasing {megabytes} MB")
         self.probe(f"choose List1 {megabytes} MB")
         self.press("Command1")
@@ -144,14 +144,14 @@ class Pc:
     # The machine.
 
     def rest(self):
-        """Waits until the machine has nothing to do and the next refresh has shown that."""
+        """Waits until the machine is idle and the window has been refreshed after that."""
         self.machine.ask("await 60 is_at_rest; sleep 2")
 
     def look(self):
-        """The kernel's figures and what the window shows, to be written.
+        """Returns the kernel's figures and what the window shows, for the results.
 
-        The window is refreshed every 750 ms: where memory moves meanwhile, a later look is taken. A window that never
-        agrees with the kernel is written as it is.
+        The window is refreshed every 750 ms. If the two do not agree because memory has moved since then, reads both
+        again. If they never agree, returns the last reading.
         """
         for _ in range(MOST_LOOKS):
             seen = self.kernel() | {"caption": self.probe("caption"), "free": self.probe("text lblPercentFree")}
@@ -161,23 +161,23 @@ class Pc:
         return seen
 
     def kernel(self):
-        """The kernel's figures alone, to be written."""
+        """Returns only the kernel's figures, for the results."""
         return dataclasses.asdict(self.figures())
 
     def figures(self):
         return read_figures(self.machine.ask("figures"))
 
     def memory_of(self, program):
-        """What the one process of this program has in memory, in KB by the kernel's names."""
+        """Returns the memory of a program that runs as one process: KB by the kernel's name for each figure."""
         found = re.findall(r"^(\w+):\s+(\d+) kB$", self.machine.ask(f"memory_of {program}"), re.MULTILINE)
         return {name: int(value) for name, value in found}
 
     def keep_state(self, name):
-        """Keeps memory, disks and devices as they are now, to go back to in this run."""
+        """Stores the state of memory, disks and devices, for go_back in this run."""
         self._tell_snapshots(f"savevm {name}")
 
     def go_back(self, name):
-        """Makes the machine what it was when the state was kept."""
+        """Returns the machine to a stored state."""
         self._tell_snapshots(f"loadvm {name}")
 
     def _tell_snapshots(self, command):
@@ -191,18 +191,18 @@ class Pc:
         return file
 
     def write(self, name, value):
-        """Writes a result, as JSON, beside the photographs."""
+        """Writes a result as JSON to the folder of the screenshots."""
         (self.folder / f"{name}.json").write_text(json.dumps(value, indent=2) + "\n", encoding="utf-8")
 
 
 def shown_kb(caption):
-    """The figure of the main window's title, megabytes of 1,024,000 bytes; -1 where it shows none."""
+    """Returns the figure of the main window's title in KB; -1 if there is none. 1 MB in the title is 1,024,000 bytes."""
     found = re.match(r"([\d.]+) MB ", caption)
     return float(found[1]) * 1000 if found else -1
 
 
 def make_programs_disk(programs, file):
-    """A disk with these programs on it, as large as the one that the stored machine knows."""
+    """Makes a disk with these programs. It is as large as the one that the stored machine expects."""
     with tempfile.TemporaryDirectory(prefix="qdix-programs.") as folder:
         for program in programs:
             if not program.is_file():
@@ -213,7 +213,7 @@ def make_programs_disk(programs, file):
 
 @contextlib.contextmanager
 def switched_on(store, memory_mb, programs, folder, say, **options):
-    """A machine with its desktop up, the programs in C:\\QDIX and the probe running. What it writes is forgotten."""
+    """Provides a machine with its desktop up, the programs in C:\\QDIX and the probe running. Discards disk changes."""
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
     state = store.state(memory_mb)

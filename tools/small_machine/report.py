@@ -1,8 +1,8 @@
-"""What a release did, in words that a person understands at a glance."""
+"""Reports the result of a release as text."""
 
 
 def mb(kilobytes):
-    """As the program counts: 1 MB is 1000 KB."""
+    """Formats memory as the program counts it: 1 MB is 1000 KB."""
     return f"{kilobytes / 1000:.1f} MB"
 
 
@@ -11,14 +11,14 @@ def gained_kb(result):
 
 
 def is_gain(result):
-    """True when memory was really gained: available memory rose because the idle programs' went to the swap file."""
+    """True if the release gained memory: available memory rose, and memory of the idle programs went to the swap file."""
     before, after = result["before"], result["after"]
     return (gained_kb(result) > 0 and after["idle_in_ram_kb"] < before["idle_in_ram_kb"]
             and after["swap_used_kb"] > before["swap_used_kb"])
 
 
 def table(rows):
-    """Rows of texts as lines, the columns aligned."""
+    """Formats rows of texts as lines with aligned columns."""
     widths = [max(len(row[column]) for row in rows) for column in range(max(map(len, rows)) - 1)]
     return ["  ".join([*(text.ljust(width) for text, width in zip(row, widths)), *row[len(widths):]]).rstrip()
             for row in rows]

@@ -1,4 +1,4 @@
-"""The command line of the small machine; small_machine.sh starts it and says what it takes."""
+"""The command line of the small machine. small_machine.sh starts it and documents the arguments."""
 import argparse
 import importlib
 import pathlib
@@ -28,7 +28,7 @@ def size_mb(text):
 
 
 class Progress:
-    """Says what is being done, with the seconds so far."""
+    """Prints progress messages with the seconds since the start."""
 
     def __init__(self):
         self.start = time.monotonic()
@@ -38,14 +38,14 @@ class Progress:
 
 
 def play_scenario(store, name, memory_mb, folder, say):
-    """Returns the result of a scenario, whose files are in `folder` then."""
+    """Plays a scenario and returns its result. Its files are then in `folder`."""
     scenario = importlib.import_module(f"scenarios.{name}")
     with pc.switched_on(store, memory_mb, PROGRAMS, folder, say) as machine:
         return scenario.play(machine, memory_mb)
 
 
 def show(store, memory_mb, say):
-    """Prints what one release did; false when no memory was gained or any was damaged."""
+    """Plays one release and prints its report. Returns false if it gained no memory or damaged any."""
     folder = CHECKOUT / "build/small_machine/show"
     result = play_scenario(store, "one_release", memory_mb, folder, say)
     pictures = [(folder / name).relative_to(CHECKOUT) for name in ("before.png", "after.png")]
@@ -54,7 +54,7 @@ def show(store, memory_mb, say):
 
 
 def perform(store, arguments, say):
-    """Does the command and returns the exit code."""
+    """Executes the command and returns the exit code."""
     if arguments.command == "make":
         store.provide(arguments.memory_mb or [USUAL_SIZE_MB])
         say(f"ready in {store.folder}")
@@ -71,7 +71,7 @@ def perform(store, arguments, say):
 
 
 def end_once_on_signals():
-    """A signal ends what runs, like an error does; a second one does not disturb the cleaning up."""
+    """Makes a signal end the program as an error does, with clean-up. Further signals do not disturb the clean-up."""
     ends = (signal.SIGHUP, signal.SIGINT, signal.SIGTERM)
 
     def end(received, _):
@@ -80,7 +80,7 @@ def end_once_on_signals():
         sys.exit(128 + received)
 
     for number in ends:
-        # One that is ignored from the start, as in a background command, stays so.
+        # A signal that was ignored at the start, as in a background command, stays ignored.
         if signal.getsignal(number) != signal.SIG_IGN:
             signal.signal(number, end)
 

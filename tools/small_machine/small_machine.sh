@@ -2,8 +2,8 @@
 # The small machine: an emulated PC of 1998 that shows what a release of memory does.
 #   small_machine.sh make [MB...]                     makes it with 96 MB, or with these sizes
 #   small_machine.sh play SCENARIO [MB] [FOLDER]      runs scenarios/SCENARIO.py on it; results go to the folder
-# Everything is kept in the cache folder and made again only when what it is made from changes. The programs that run
-# on it are those of build/win9x and build/win9x-tests.
+# Everything is stored in the cache folder and made again only if its inputs change. The machine runs the programs of
+# build/win9x and build/win9x-tests.
 set -euo pipefail
 
 # shellcheck source=tools/wine/common.sh

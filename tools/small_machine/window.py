@@ -1,4 +1,4 @@
-"""The small machine in a window, to play with; the terminal prints the kernel's figures after each release."""
+"""Shows the small machine in a window to try out. The terminal prints the kernel's figures after each release."""
 import time
 
 import pc
@@ -9,10 +9,10 @@ from scenarios.one_release import IDLE_MB, IDLE_PROGRAMS, RELEASE_MB
 POLL_S = 1
 
 INSTRUCTIONS = """
-The window is a PC of 1998 with {memory_mb} MB. {count} programs lie idle on it with {idle_mb} MB each; Q-DIX is open.
-  Press   "Free Up RAM Now" on the tab of Q-DIX that is open, with {release_mb} MB chosen or any other amount.
-  Look    at the title of its window, and at the figures that appear here after each release.
-The window of the machine takes the mouse as long as the pointer is in it. Close the window to end.
+The window shows a PC of 1998 with {memory_mb} MB. {count} idle programs hold {idle_mb} MB each, and Q-DIX is open.
+  Press   "Free Up RAM Now" on the open tab of Q-DIX. {release_mb} MB are selected; you can choose another amount.
+  Watch   the title of the Q-DIX window, and the figures that appear here after each release.
+The PC uses the mouse while the pointer is in its window. Close the window to switch the PC off.
 """
 
 
@@ -23,7 +23,7 @@ def look(machine, title):
 
 
 def open_window(store, memory_mb, programs, folder, say):
-    """Returns when the window is closed, also before everything is open in it."""
+    """Opens the window and returns when it is closed, even if that happens during preparation."""
     try:
         with pc.switched_on(store, memory_mb, programs, folder, say, window=True) as machine:
             prepare(machine, memory_mb)

@@ -1,6 +1,6 @@
-// A program that needs much memory at once, for the launcher to start:   hungry.exe MEGABYTES FILE
-// It fills its memory and writes into the file how long that took; then it reads everything back, writes how
-// many words were wrong, and sleeps. It has no window and no console, whose own memory would count.
+// A program that needs much memory at once. The launcher starts it:   hungry.exe MEGABYTES FILE
+// It fills its memory and writes to the file how long that took. Then it reads everything back, writes how
+// many words were wrong, and sleeps. It has no window and no console, because their memory would count.
 #include <cstdio>
 
 #include "tools/small_machine/programs/written_memory.h"
@@ -24,7 +24,7 @@ int main(int argc, char** argv) {
   }
   Fill(words, 0);
   std::fprintf(report, "holds %s MB after %lu ms\n", argv[1], MillisecondsSince(start));
-  // Whoever waits for a line sees it at once, and all of it.
+  // The scenario waits for this line and must see it complete and at once.
   std::fflush(report);
   std::fprintf(report, "%lu wrong words of %lu\n", WrongWords(words, 0),
                static_cast<unsigned long>(words.size()));

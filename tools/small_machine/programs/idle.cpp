@@ -1,6 +1,7 @@
-// A program that lies idle with written memory:   idle.exe MEGABYTES NUMBER
-// It fills its memory with a sequence that depends on the number, says so, and sleeps. For each line that it
-// is given it reads everything back, compares, and says how many words were wrong and how long it took.
+// A program that fills memory and stays idle:   idle.exe MEGABYTES NUMBER
+// It fills its memory with a sequence that depends on the number, prints a line, and waits. For each empty
+// line on its input it reads everything back, compares, and prints how many words were wrong and how long it
+// took.
 #include <cstdio>
 
 #include "tools/small_machine/programs/written_memory.h"
@@ -17,8 +18,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   const auto number = static_cast<std::uint32_t>(std::strtoul(argv[2], nullptr, 10));
-  // Whoever waits for a line sees it at once, and a line on its way in is not waited for to be followed by
-  // more.
+  // No buffers: a line of output must appear at once, and a line of input must not wait for more input.
   std::setvbuf(stdout, nullptr, _IONBF, 0);
   std::setvbuf(stdin, nullptr, _IONBF, 0);
   DWORD start = GetTickCount();

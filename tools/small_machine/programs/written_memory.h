@@ -1,4 +1,4 @@
-// Memory that a program of the small machine has written into, and can tell whether it came back unharmed.
+// Memory that a program of the small machine fills and later checks for damage.
 #pragma once
 
 // clang-format off
@@ -13,7 +13,8 @@ namespace qdix::small_machine {
 
 using Words = std::span<std::uint32_t>;
 
-/// No two pages alike, of one program or of two: nothing could merge or compress them away.
+/// Generates pages that are all different, within a program and between programs, so that none can be merged
+/// or compressed.
 class Sequence {
  public:
   explicit Sequence(std::uint32_t number) : word_((number + 1) * 2654435761U) {}
@@ -28,7 +29,7 @@ class Sequence {
   std::uint32_t word_;
 };
 
-/// Empty when the system refuses. Never given back: the program ends with it.
+/// Returns an empty span if the system refuses. The memory is never freed: it is used until the program ends.
 inline Words TakeMemory(const char* megabytes) {
   constexpr std::size_t kBytesPerMegabyte = 1024 * 1024;
   const std::size_t bytes = std::strtoul(megabytes, nullptr, 10) * kBytesPerMegabyte;

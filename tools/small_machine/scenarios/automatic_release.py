@@ -1,4 +1,4 @@
-"""The automatic release: a program takes memory until the threshold is passed, and Q-DIX releases by itself."""
+"""Plays the automatic release: a program takes memory until less than the threshold is left, and Q-DIX releases."""
 
 INTERVAL_S = 20
 THRESHOLD_MB = 24

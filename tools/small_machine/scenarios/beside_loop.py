@@ -1,15 +1,15 @@
-"""A release beside a bare loop of the same size, and the program at rest beside notepad, each from one stored state."""
+"""Compares a release with a bare loop of the same size, and the idle program with notepad, each from one stored state."""
 from scenarios.one_release import IDLE_MB, IDLE_PROGRAMS, RELEASE_MB
 
 ROUNDS = 3
-# Of the megabytes that amounts to free are counted in, and one byte more, as a release takes them.
+# A megabyte as the amounts to free count it. A release takes one byte more than the amount.
 BYTES_PER_MB = 1040000
-# Of one release: before and after it gives its memory back.
+# Of one release: half of them before it frees its memory, half after.
 PUMPS = 10000
 
 
 def at_rest(pc, name, command):
-    """Memory of a program that has been started and has nothing to do, and by how much the available memory fell."""
+    """Starts a program and waits until it is idle. Returns its memory, and the kernel's figures before and after."""
     pc.go_back("desktop")
     before = pc.kernel()
     pc.say(f"starting {name}")
@@ -37,7 +37,7 @@ def play(pc, memory_mb):
     pc.probe(f"choose List1 {RELEASE_MB[memory_mb]} MB")
     pc.wake_idle_programs()
     pc.rest()
-    # The look moves pages itself, so it belongs to the state.
+    # Reading the figures moves pages, so it happens before the state is stored.
     result["before"] = pc.look()
     pc.keep_state("before")
     size = RELEASE_MB[memory_mb] * BYTES_PER_MB + 1
@@ -52,7 +52,7 @@ def play(pc, memory_mb):
 
 
 def timed(pc, question):
-    """The milliseconds of a step, and the figures once the machine has come to rest after it."""
+    """Returns the milliseconds of a step, and the figures once the machine is idle after it."""
     pc.go_back("before")
     milliseconds = float(pc.probe(question))
     pc.rest()

@@ -1,4 +1,4 @@
-"""The automatic release is held back while the processor is busy, and comes when it no longer is."""
+"""Plays the automatic release on a busy processor: it waits while the processor is busy and follows when it is idle."""
 
 INTERVAL_S = 10
 THRESHOLD_MB = 24
@@ -16,7 +16,7 @@ def play(pc, memory_mb):
     pc.probe("open-tab 1")
     pc.say("keeping the processor busy")
     pc.machine.ask("start_work")
-    # Wine keeps no statistic of the load: the probe plays the machine's own.
+    # Wine has no load statistics: the probe supplies the machine's own load.
     pc.start("qdix_probe.exe", "feed-load")
     pc.await_answer("text lblUSAGE", "100 %", 120)
     pc.start_idle_programs(1, HUNGRY_MB)

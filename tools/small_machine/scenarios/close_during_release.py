@@ -1,7 +1,7 @@
-"""Q-DIX is closed in the middle of a long release while the machine is paging."""
+"""Closes Q-DIX in the middle of a long release while the machine is paging."""
 
 AMOUNT_MB = 56
-# Passes, so that the release is far from over when the window is closed.
+# Passes: enough that the release is far from over when the window is closed.
 TRY_TIMES = 50
 IDLE_MB = 10
 IDLE_PROGRAMS = 4

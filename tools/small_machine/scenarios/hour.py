@@ -1,4 +1,4 @@
-"""An hour of automatic releases, with a program that comes, takes most of the memory, and goes again."""
+"""Plays an hour of automatic releases, with a program that repeatedly starts, takes most of the memory, and ends."""
 
 ROUNDS = 12
 PAUSE_S = 150

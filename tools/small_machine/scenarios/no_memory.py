@@ -1,10 +1,10 @@
-"""A release while the swap file is full and the system promises hardly any more memory."""
+"""Plays a release while the swap file is full and the system promises hardly any more memory."""
 
 AMOUNT_MB = 40
-# What all programs together hold: a release fills the swap file but for a few MB. With 9 MB more, its block has no room
-# beside the file cache, and the kernel reads files for ever.
+# Memory of all programs together. With this much, a release fills the swap file except for a few MB. With 9 MB more, the
+# release's block does not fit beside the file cache, and the kernel reads files without end.
 FULL_KB = 185_500
-# For message box and shell.
+# Left for the message box and the shell.
 LEFT_KB = 12000
 
 
@@ -14,7 +14,7 @@ def play(pc, memory_mb):
     now = pc.figures()
     missing_kb = FULL_KB - now.anonymous_kb - now.paged_out_kb
     pc.start_idle_programs(1, missing_kb // 1024)
-    # It moves out what the swap file still has room for.
+    # This release fills the rest of the swap file.
     pc.release(AMOUNT_MB)
     result = {"memory_mb": memory_mb, "before": pc.look()}
     pc.machine.ask(f"refuse_overcommit {LEFT_KB}")

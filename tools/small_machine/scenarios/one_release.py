@@ -1,13 +1,13 @@
-"""One release by hand while other programs lie idle, and a second one directly after it."""
-# An amount of the program's list, about half of what the machine has for programs, and four idle programs that leave
-# little of it.
+"""Plays one release with the button while other programs are idle, and a second one directly after it."""
+# An amount from the program's list, about half of the memory that the machine has for programs. Four idle programs leave
+# little of that memory.
 RELEASE_MB = {64: 24, 96: 40, 128: 56}
 IDLE_MB = {64: 4, 96: 10, 128: 18}
 IDLE_PROGRAMS = 4
 
 
 def play(pc, memory_mb):
-    # The release after the start would come between.
+    # Off: the release after the start would interfere.
     pc.set_settings("Startup", StartupTime=0)
     pc.start_idle_programs(IDLE_PROGRAMS, IDLE_MB[memory_mb])
     pc.start_main_program()

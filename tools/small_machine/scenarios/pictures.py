@@ -1,10 +1,10 @@
-"""The windows as the documents show them: default settings, ordinary programs, a Saturday in 1998."""
+"""Takes the screenshots for the documents: default settings, ordinary programs, a Saturday in 1998."""
 from scenarios.one_release import IDLE_MB, IDLE_PROGRAMS, RELEASE_MB
 
 DATE = "1998-11-21 10:12:00"
 # The cycle counter of the emulator runs at 1000 MHz, whatever the processor: this makes it a Pentium II of 350 MHz.
 CLOCK_PERCENT = 35
-# What Windows 98 has of the settings that Q-DIX changes, and Wine has not.
+# Settings that Q-DIX changes and that exist in Windows 98 but not in Wine.
 SYSTEM_INI = ["[boot]", "shell=Explorer.exe", "system.drv=system.drv", "[386Enh]", "device=*vpowerd", "[vcache]",
               "[drivers]", "wave=mmsystem.dll"]
 FS_TEMPLATES = r"HKLM\SOFTWARE\Microsoft\Windows\CurrentVersion\FS Templates"
@@ -15,15 +15,15 @@ PROGRAMS = [
     ("Calculator", r"C:\WINDOWS\CALC.EXE", ""),
     ("Solitaire", r"C:\WINDOWS\SOL.EXE", ""),
     ("Media Player", r"C:\WINDOWS\MPLAYER.EXE", "")]
-# Name of the picture of each tab that is shown with its default settings; None for the others.
+# For each tab, the name of its picture with default settings; None if there is no such picture.
 TABS = [None, "automatic", "time_intervals", "startup_other", "launcher", None, None, "about"]
 QUONDIX_TAB, CACHE_TAB, SWAP_FILE_TAB = 0, 5, 6
 CACHE_PRESET = "Power User (Win98/ME)"
-# The rest of the screen is cut away from the pictures, and the pointer with it.
+# A place for the pointer outside the windows: the pictures are cropped and do not show it.
 OUT_OF_THE_WAY = (400, 596)
 TRAY_ICON = (789, 590)
 DOWN, RIGHT = 0x28, 0x27
-# Down to "Programs" in the menu of the tray icon.
+# Presses of the down key to "Programs" in the menu of the tray icon.
 ENTRIES_TO_PROGRAMS = 4
 
 
@@ -65,7 +65,7 @@ def start(pc):
 
 
 def first_start(pc):
-    """With its first steps closed; what the first start sets stays set."""
+    """Starts the program for the first time, closes the help that it opens, and keeps what the first start stored."""
     start(pc)
     pc.probe("close-help")
     pc.rest()
@@ -82,7 +82,7 @@ def tabs(pc):
 
 
 def tray_menu(pc):
-    """With the window hidden, which is shown again."""
+    """Photographs the tray menu with the main window hidden, then goes back to the shown window."""
     pc.keep_state("shown")
     pc.probe(f"open-tab {QUONDIX_TAB}")
     pc.press("Command2")
@@ -99,7 +99,7 @@ def tray_menu(pc):
 
 
 def settings_of_windows(pc):
-    """Disk cache and swap file are chosen and saved, as a user does it; no restart."""
+    """Chooses and saves disk cache and swap file as a user does, without a restart."""
     pc.probe(f"open-tab {CACHE_TAB}")
     pc.probe(f"choose Combo2 {CACHE_PRESET}")
     photograph(pc, "cache_preset")
@@ -115,13 +115,13 @@ def settings_of_windows(pc):
 
 def save(pc, button):
     pc.press(button)
-    # The question, and the restart that is offered.
+    # Confirms the change, then declines the restart.
     pc.probe("answer yes")
     pc.probe("answer no")
 
 
 def release(pc, memory_mb):
-    """The main window before and after, with the load of the machine itself in its graph."""
+    """Photographs the main window before and after a release; its graph shows the load of the machine itself."""
     pc.set_settings("Startup", StartupTime=0)
     start(pc)
     pc.probe(f"open-tab {QUONDIX_TAB}")
@@ -135,7 +135,7 @@ def release(pc, memory_mb):
 
 
 def photograph_working(pc, name):
-    """The figure of the load is that of the last seconds, so there is work until the moment of the picture."""
+    """Keeps the processor working until shortly before the picture: the load figure covers only the last seconds."""
     pc.machine.point_at(*OUT_OF_THE_WAY)
     for seconds in (1, 2, 1):
         pc.pause(2)

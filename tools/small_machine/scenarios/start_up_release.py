@@ -1,10 +1,10 @@
-"""The release some time after the start of Q-DIX, while other programs lie idle."""
+"""Plays the release a set time after the start of Q-DIX, while other programs are idle."""
 
 DELAY_S = 30
 AMOUNT_MB = 40
 IDLE_MB = 10
 IDLE_PROGRAMS = 4
-# Of the amount: enough to know that it was the release.
+# Half of the amount: enough to be sure that it was the release.
 GAIN_KB = AMOUNT_MB * 1000 // 2
 RELEASE_LIMIT_S = 120
 

@@ -1,4 +1,4 @@
-"""The release every five minutes, while other programs lie idle."""
+"""Plays the release every five minutes, while other programs are idle."""
 
 INTERVAL_MINUTES = 5
 AMOUNT_MB = 40
