@@ -1,4 +1,4 @@
-"""The part of the benchmarks that comes from the small machine: when a budget is kept, and what the tables show."""
+"""Tests the section of the benchmarks about the small machine: the verdicts on budgets, and the tables."""
 import copy
 import pathlib
 import sys
@@ -32,14 +32,14 @@ def changed(name, **figures):
 
 
 class BudgetTest(unittest.TestCase):
-    def test_a_gain_like_the_loops_keeps_the_budget_and_less_misses_it(self):
+    def test_gaining_as_much_as_the_loop_keeps_the_budget_and_less_misses_it(self):
         row = small_machine.gain_row(RESULT)
         self.assertEqual(row, ["memory gained by a release of 40 MB with 96 MB, beside a loop",
                                "30.0 MB", "30.0 MB", "1.00", "at least the loop's", "kept"])
         self.assertEqual(small_machine.gain_row(changed("loop", available_kb=40002))[-1], "**missed**")
         self.assertEqual(small_machine.gain_row(changed("release", available_kb=40000))[-1], "**missed**")
 
-    def test_time_is_the_fastest_and_its_budget_that_of_loop_and_pumps(self):
+    def test_fastest_time_is_compared_with_loop_plus_pumps(self):
         row = small_machine.time_row(RESULT)
         self.assertEqual(row[1:], ["3000 ms", "1500 + 1500 ms", "1.00", "at most both together", "kept"])
         self.assertEqual(small_machine.time_row(changed("loop", ms=1499))[-1], "**missed**")
@@ -50,14 +50,14 @@ class SectionTest(unittest.TestCase):
     def setUp(self):
         self.lines = small_machine.section([RESULT]).splitlines()
 
-    def test_it_begins_with_the_heading_that_the_scripts_look_for(self):
+    def test_section_starts_with_the_heading_that_the_scripts_search_for(self):
         self.assertEqual(self.lines[0], "## On an emulated PC")
 
-    def test_tables_show_the_middle_and_the_spread_of_the_rounds(self):
+    def test_tables_show_median_and_range_of_the_rounds(self):
         self.assertIn("| 96 MB | 40 MB | 10.0 MB | 40.0 MB | 3.0 seconds |", self.lines)
         self.assertIn("| 96 MB | release | 30.0 MB | 3100 ms (3000 to 3200) | 1,000 | 40.0 MB to 12.3 MB |", self.lines)
 
-    def test_programs_at_rest_are_shown_with_what_is_theirs_alone(self):
+    def test_table_at_rest_adds_up_private_memory(self):
         self.assertIn("| 96 MB | `QDIX.exe` | 3,000 KB | 4,000 KB | 9,000 KB | 7 KB |", self.lines)
 
 

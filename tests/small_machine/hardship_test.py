@@ -1,14 +1,14 @@
-"""Releases that cannot be finished, on the small machine with the exe as shipped:   hardship_test.py [CASE]"""
+"""Tests releases that cannot finish, on the small machine with the shipped exe:   hardship_test.py [CASE]"""
 import subprocess
 import unittest
 
 from played import PlayedCase
 
 MOST_SWAP_FREE = 0.04
-# What goes on in the machine meanwhile.
+# By how much available memory may change by itself during the test.
 UNREST_KB = 6 * 1024
 MOST_SECONDS_TO_END = 10
-# The notification area at the right end of the taskbar: width, height, place.
+# The notification area at the right end of the taskbar: width, height, x, y.
 TRAY = "60x28+740+572"
 
 
@@ -24,37 +24,37 @@ class NoMemoryTest(PlayedCase):
                                              "Please check your harddisk space and swapfile size.")
         self.assertEqual(self.result["later_boxes"], "")
 
-    def test_memory_is_as_before(self):
+    def test_memory_is_unchanged(self):
         self.assertAlmostEqual(self.gain_kb("before", "after"), 0, delta=UNREST_KB)
         self.assertEqual((self.result["after"]["idle_programs"], self.result["wrong_words"]), (1, 0))
         self.assertRegex(self.result["after"]["caption"], r"^[\d.]+ MB   Q-DIX$")
 
-    def test_the_next_release_with_memory_to_be_had_works(self):
+    def test_the_next_release_works_when_memory_is_available(self):
         self.assertGreater(self.result["seconds_later"], 0)
 
 
 class CloseDuringReleaseTest(PlayedCase):
     scenario = "close_during_release"
 
-    def test_it_was_closed_in_the_middle(self):
+    def test_the_window_was_closed_during_the_release(self):
         self.assertEqual(self.result["enabled"], "0")
 
     def test_the_process_ends_within_seconds(self):
         self.assertLessEqual(self.result["seconds_to_end"], MOST_SECONDS_TO_END)
         self.assertEqual(self.result["after"]["main_in_ram_kb"], 0)
 
-    def test_its_memory_is_back_and_nobody_elses_is_harmed(self):
+    def test_its_memory_is_freed_and_other_memory_is_intact(self):
         self.assertGreater(self.gain_kb("before", "after"), 0)
         self.assertEqual(self.result["wrong_words"], 0)
 
-    # Wine takes the icon of a destroyed window away by itself: whether the program asked for that, the unit tests tell.
+    # Wine itself removes the icon of a destroyed window. The unit tests check that the program removes it.
     def test_no_icon_is_left(self):
         without, before, after = (self.tray(name) for name in ("without", "before", "after"))
-        self.assertNotEqual(before, without, "there was an icon to take away")
+        self.assertNotEqual(before, without, "the icon was not shown before")
         self.assertEqual(after, without)
 
     def tray(self, name):
-        """The pixels of the notification area in a photograph."""
+        """Returns the pixels of the notification area in a screenshot."""
         return subprocess.run(["convert", self.folder / f"{name}.png", "-crop", TRAY, "rgb:-"], check=True,
                               capture_output=True).stdout
 

@@ -1,6 +1,6 @@
-"""A program that needs 48 MB at once, launched with and without a release before it, with the exe as shipped.
+"""Tests the launch of a program that needs 48 MB at once, with and without a release before it, with the shipped exe.
 
-How long it takes is told by the scenarios and has no limit here. The figures are those of the guest's kernel.
+The scenario reports how long the launch takes; this test sets no limit. The figures come from the guest's kernel.
 """
 import unittest
 
@@ -8,11 +8,11 @@ from played import play
 
 MEMORY_MB = 96
 KB_PER_MB = 1024
-# How far the two may be from each other before the press. Both go on from one state; the choice of the share moves little.
+# How far the two runs may differ before the launch. Both start from one state; choosing the share changes little.
 SAME_KB = 4 * KB_PER_MB
-# Of half the memory, available when the program starts.
+# Share of half the memory by which available memory has grown when the program starts.
 LEAST_GAIN = 0.50
-# Of the idle programs' memory, in RAM when the program starts: after a release, and without one.
+# Share of the idle programs' memory that is in RAM when the program starts: with a release, and without one.
 MOST_IDLE = 0.50
 LEAST_IDLE = 0.65
 
@@ -27,7 +27,7 @@ class LaunchTest(unittest.TestCase):
     def idle_share(self, result):
         return result["at_start"]["idle_in_ram_kb"] / result["before"]["idle_in_ram_kb"]
 
-    def test_both_begin_alike(self):
+    def test_both_runs_start_alike(self):
         for figure in ("available_kb", "idle_in_ram_kb", "anonymous_kb", "paged_out_kb"):
             self.assertAlmostEqual(self.released["before"][figure], self.plain["before"][figure], delta=SAME_KB,
                                    msg=figure)
@@ -54,7 +54,7 @@ class LaunchTest(unittest.TestCase):
             with self.subTest(name):
                 self.assertEqual(result["counter"], str(self.result["counter_before"]))
 
-    def test_nothing_is_lost(self):
+    def test_no_memory_is_damaged(self):
         for name, result in self.runs.items():
             with self.subTest(name):
                 self.assertEqual(result["before"]["idle_programs"], 4)

@@ -1,4 +1,4 @@
-"""The parts of the small machine that need no emulator: figures, lines, the store's folders and its lock."""
+"""Tests the parts of the small machine that need no emulator: figures, lines, the store's folders and its lock."""
 import contextlib
 import fcntl
 import io
@@ -60,11 +60,11 @@ class FiguresTest(unittest.TestCase):
         self.assertEqual(self.figures.available_kb, 9000 + 300 + 12000)
         self.assertEqual(self.figures.kernel_available_kb, 20000)
 
-    def test_swap_in_use_is_what_is_not_free(self):
+    def test_used_swap_is_total_minus_free(self):
         self.assertEqual(self.figures.swap_used_kb, 96604)
         self.assertEqual((self.figures.pages_in, self.figures.pages_out), (17, 4711))
 
-    def test_what_is_in_ram_too_is_not_paged_out(self):
+    def test_pages_that_are_also_in_ram_are_not_paged_out(self):
         self.assertEqual(self.figures.paged_out_kb, 96604 - 1111)
 
     def test_memory_of_all_idle_programs_is_added_up(self):
@@ -73,7 +73,7 @@ class FiguresTest(unittest.TestCase):
         self.assertEqual(self.figures.main_in_ram_kb, 7000)
         self.assertEqual(self.figures.hungry_kb, 30000 + 20000)
 
-    def test_time_is_the_guests(self):
+    def test_time_is_guest_time(self):
         self.assertEqual(self.figures.seconds, 57.31)
 
 
@@ -92,26 +92,26 @@ class LinesTest(unittest.TestCase):
         self.theirs.sendall(b"st\r\nsecond\nthi")
         self.assertEqual([self.receive(), self.receive(), self.receive()], ["first", "second", None])
 
-    def test_silence_ends_at_the_deadline(self):
+    def test_receive_returns_nothing_after_the_deadline(self):
         self.assertIsNone(self.receive())
 
-    def test_the_end_of_the_other_side_is_no_line(self):
+    def test_receive_returns_nothing_when_the_peer_closes(self):
         self.theirs.close()
         self.assertIsNone(self.channel.receive(time.monotonic() + 60))
 
-    def test_the_end_of_the_other_side_with_something_unread_is_no_line_either(self):
+    def test_receive_returns_nothing_when_the_peer_closes_with_unread_data(self):
         self.channel.send("never read")
         self.theirs.close()
         self.assertIsNone(self.channel.receive(time.monotonic() + 60))
 
-    def test_sending_to_nobody_says_that_the_machine_is_off(self):
+    def test_sending_to_a_closed_peer_reports_that_the_machine_is_off(self):
         self.theirs.close()
         with self.assertRaisesRegex(emulator.MachineGone, "the machine is switched off"):
             self.channel.send("ls")
 
 
 class SignalsTest(unittest.TestCase):
-    def test_a_second_signal_does_not_disturb_the_cleaning_up(self):
+    def test_a_second_signal_does_not_disturb_the_clean_up(self):
         program = """
 import os, signal, time
 import small_machine
@@ -131,7 +131,7 @@ finally:
 
 class WindowTest(unittest.TestCase):
     def close_at(self, question):
-        """Opens the window, which is closed when the probe is asked this; returns what was said."""
+        """Opens the window and closes it when the probe gets this question. Returns the messages and the output."""
         def probe(asked):
             if asked.startswith(question):
                 raise emulator.MachineGone("the machine is switched off")
@@ -146,17 +146,17 @@ class WindowTest(unittest.TestCase):
             window.open_window(None, 96, [], None, said.append)
         return said, printed.getvalue()
 
-    def test_it_may_be_closed_while_programs_are_started(self):
+    def test_it_can_be_closed_while_programs_start(self):
         self.assertEqual(self.close_at("choose"), (["the machine was switched off"], ""))
 
-    def test_it_may_be_closed_when_all_is_open(self):
+    def test_it_can_be_closed_when_everything_is_open(self):
         said, printed = self.close_at("enabled")
         self.assertEqual(said, ["the machine was switched off"])
         self.assertIn("before any release     available  21.3 MB   idle programs in RAM  12.3 MB", printed)
 
 
 class ArchiveTest(unittest.TestCase):
-    def test_each_entry_begins_at_a_multiple_of_four_and_the_last_is_the_trailer(self):
+    def test_entries_are_aligned_to_four_bytes_and_the_trailer_is_last(self):
         archive = root_disk.cpio_archive([("bin", 0o040755, b""), ("bin/a", 0o100755, b"hello")])
         found, at = [], 0
         while at < len(archive):
@@ -169,7 +169,7 @@ class ArchiveTest(unittest.TestCase):
             at += (size + 3) // 4 * 4
         self.assertEqual(found, [("bin", 0o040755, b""), ("bin/a", 0o100755, b"hello"), ("TRAILER!!!", 0, b"")])
 
-    def test_files_that_are_there_stay_and_the_rest_are_links(self):
+    def test_existing_files_are_kept_and_the_rest_are_linked(self):
         with tempfile.TemporaryDirectory() as folder:
             source, target = pathlib.Path(folder, "source"), pathlib.Path(folder, "target")
             (source / "usr/own").mkdir(parents=True)
@@ -198,7 +198,7 @@ class StoreTest(unittest.TestCase):
         self.made = []
 
     def provide(self, sizes):
-        """Provides with the real steps replaced by folders, and returns which steps ran."""
+        """Runs Store.provide with fake steps, which only make folders. Returns the steps that ran."""
         self.made = []
         with mock.patch.object(store, "run", lambda command, _: (self.made.append("packages"), command[1].mkdir())), \
              mock.patch.object(root_disk, "make_boot_files", lambda *_: self.made.append("disk")), \
@@ -220,14 +220,14 @@ class StoreTest(unittest.TestCase):
         self.assertEqual(list(self.cache.glob("small-machine-*")), [self.store.packages])
         self.assertEqual(self.provide([96]), ["disk", "prefix", 96])
 
-    def test_remains_of_a_killed_set_up_go_away(self):
+    def test_leftovers_of_a_killed_set_up_are_deleted(self):
         remains = [self.cache / "small-machine-0123.new", self.cache / "small-machine-packages-0123.Xyz"]
         for folder in remains:
             folder.mkdir()
         self.provide([96])
         self.assertEqual([folder for folder in remains if folder.exists()], [])
 
-    def test_a_machine_that_was_used_lately_stays_and_an_old_one_goes(self):
+    def test_recently_used_machine_is_kept_and_old_one_is_deleted(self):
         lately, old = self.cache / "small-machine-1111", self.cache / "small-machine-2222"
         for folder in (lately, old):
             folder.mkdir()
@@ -235,7 +235,7 @@ class StoreTest(unittest.TestCase):
         self.provide([96])
         self.assertEqual((lately.exists(), old.exists()), (True, False))
 
-    def test_using_a_machine_keeps_it_from_getting_old(self):
+    def test_use_renews_the_age_of_a_machine(self):
         self.provide([96])
         folders = (self.store.folder, self.store.state(96))
         for folder in folders:
@@ -259,18 +259,18 @@ class StoreTest(unittest.TestCase):
         second.join(20)
         self.assertEqual((made, self.said), ([[]], ["waiting for another set-up of the small machine to end"]))
 
-    def test_a_full_disk_is_told_before_anything_is_done(self):
+    def test_a_full_disk_is_reported_before_any_step(self):
         with mock.patch.object(host.shutil, "disk_usage", lambda _: mock.Mock(free=5 << 20)):
             with self.assertRaisesRegex(host.MachineError, "has 5 MB free.*needs 3000 MB"):
                 self.provide([96])
         self.assertEqual(self.made, [])
 
-    def test_a_missing_program_is_told_with_its_package(self):
+    def test_a_missing_program_is_reported_with_its_package(self):
         with mock.patch.object(host.shutil, "which", lambda name: None if name == "qemu-img" else f"/usr/bin/{name}"):
             with self.assertRaisesRegex(host.MachineError, "qemu-img is missing; install the package qemu-utils"):
                 self.provide([96])
 
-    def test_a_program_that_fails_gives_the_reason(self):
+    def test_the_message_of_a_failed_program_is_reported(self):
         with self.assertRaisesRegex(host.MachineError, "it did not work: no such thing"):
             host.run(["sh", "-c", "echo no such thing >&2; exit 3"], "it did not work")
 

@@ -1,4 +1,4 @@
-"""Plays a scenario on the small machine once for all tests of a case, with the exes of the build folders."""
+"""Plays a scenario on the small machine once for all tests of a case, with the exes from the build folders."""
 import json
 import pathlib
 import re
@@ -7,12 +7,12 @@ import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 SMALL_MACHINE = ROOT / "tools/small_machine/small_machine.sh"
-# Of the host's time.
+# Seconds of the host's time.
 RUN_LIMIT_S = 2000
 
 
 def play(scenario, memory_mb):
-    """Returns what the scenario wrote, and the folder with its photographs."""
+    """Plays a scenario and returns its result and the folder with its screenshots."""
     folder = ROOT / f"build/small_machine/{scenario}_{memory_mb}"
     subprocess.run([SMALL_MACHINE, "play", scenario, str(memory_mb), folder], check=True, stdin=subprocess.DEVNULL,
                    timeout=RUN_LIMIT_S)
@@ -20,7 +20,7 @@ def play(scenario, memory_mb):
 
 
 class PlayedCase(unittest.TestCase):
-    """A case names its scenario; `result` is what that wrote, `folder` has its photographs."""
+    """Base of the cases. Each names its scenario; `result` is the result and `folder` has the screenshots."""
     scenario = None
     memory_mb = 96
 
@@ -32,7 +32,7 @@ class PlayedCase(unittest.TestCase):
         return self.result[after]["available_kb"] - self.result[before]["available_kb"]
 
     def releases(self, moment):
-        """How many releases the window counts at a moment."""
+        """Returns the number of releases that the window shows at a moment."""
         text = self.result[moment]["counter"]
         found = re.match(r"(?:Auto Detection|Automatic) feature has detected and released RAM (\d+) times since ", text)
         self.assertIsNotNone(found, text)

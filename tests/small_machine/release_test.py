@@ -1,6 +1,6 @@
-"""A release by hand on the small machine, with the exe as shipped:   release_test.py MB
+"""Tests a release with the button on the small machine, with the shipped exe:   release_test.py MB
 
-The figures are those of the guest's kernel; what the program shows must agree with them.
+The figures come from the guest's kernel. What the program shows must agree with them.
 """
 import re
 import sys
@@ -9,18 +9,19 @@ import unittest
 from played import PlayedCase
 
 PNG = b"\x89PNG\r\n\x1a\n"
-# Of the released amount; the smallest machine has less that could be moved out.
+# Share of the released amount. The smallest machine has less memory that can be paged out.
 LEAST_GAIN = {64: 0.30, 96: 0.60, 128: 0.60}
-# Without the places of pages that are in RAM too: what was read back keeps its place while memory is short, and moves
-# out again without a rise of the use. On the smallest machine most of it has such a place before the release.
+# Share of the released amount by which the memory in the swap file grows. Pages that are also in RAM do not count: while
+# memory is short, a page that was read back keeps its place there, and paging it out again uses no more of the file. On
+# the smallest machine most pages have such a place before the release.
 LEAST_SWAP = 0.20
-# Of their memory, in RAM after the release.
+# Share of the idle programs' memory that is in RAM after the release.
 MOST_IDLE = 0.50
-# Of the released amount, found by a second release.
+# Share of the released amount that a second release may find.
 MOST_FOUND_AGAIN = 0.25
-# The machine goes on between the reading of the kernel and that of the program.
+# Memory use changes between the reading of the kernel and the reading of the program.
 AGREEMENT_KB = 1024
-# The label counts the fifty steps of the gauge.
+# The label shows the gauge, which has fifty steps.
 STEP_PERCENT = 2
 
 
@@ -36,22 +37,22 @@ class ReleaseTest(PlayedCase):
     def test_available_memory_rises(self):
         self.assertGreaterEqual(self.gain_kb("before", "after"), LEAST_GAIN[self.memory_mb] * self.amount_kb)
 
-    def test_idle_programs_are_moved_out(self):
+    def test_idle_programs_are_paged_out(self):
         self.assertEqual(self.before["idle_programs"], 4)
         self.assertLessEqual(self.after["idle_in_ram_kb"], MOST_IDLE * self.before["idle_in_ram_kb"])
 
-    def test_the_swap_file_takes_it(self):
+    def test_swap_file_grows(self):
         rise_kb = self.after["paged_out_kb"] - self.before["paged_out_kb"]
         self.assertGreaterEqual(rise_kb, LEAST_SWAP * self.amount_kb)
 
-    def test_every_word_comes_back(self):
+    def test_no_memory_is_damaged(self):
         self.assertEqual(self.result["wrong_words"], 0)
         self.assertEqual(self.result["words"], 4 * self.result["idle_mb"] * 1024 * 1024 // 4)
 
     def test_a_second_release_finds_little(self):
         self.assertLessEqual(self.gain_kb("after", "after_again"), MOST_FOUND_AGAIN * self.amount_kb)
 
-    def test_the_window_shows_what_the_kernel_says(self):
+    def test_window_agrees_with_the_kernel(self):
         for moment in (self.before, self.after):
             caption = re.fullmatch(r"([\d.]+) MB   Q-DIX", moment["caption"])
             self.assertIsNotNone(caption, moment["caption"])
@@ -61,7 +62,7 @@ class ReleaseTest(PlayedCase):
             self.assertAlmostEqual(int(free[1]), 100 * moment["available_kb"] / moment["total_kb"],
                                    delta=STEP_PERCENT + 100 * AGREEMENT_KB / moment["total_kb"])
 
-    def test_there_are_two_different_photographs(self):
+    def test_screenshots_before_and_after_differ(self):
         photographs = [(self.folder / f"{name}.png").read_bytes() for name in ("before", "after")]
         for photograph in photographs:
             self.assertTrue(photograph.startswith(PNG))

@@ -1,4 +1,4 @@
-"""The report of a release, and when it counts as a gain."""
+"""Tests the report of a release, and what counts as a gain."""
 import copy
 import pathlib
 import sys
@@ -26,7 +26,7 @@ class ReportTest(unittest.TestCase):
     def lines(self, result):
         return report.report(result, ["before.png", "after.png"]).splitlines()
 
-    def test_figures_of_both_moments_are_in_words_and_aligned(self):
+    def test_report_shows_both_moments_in_aligned_columns(self):
         self.assertEqual(self.lines(RESULT), [
             "                                    before         after",
             "Available memory                    11.5 MB        44.3 MB",
@@ -42,15 +42,15 @@ class ReportTest(unittest.TestCase):
             "",
             "Memory was gained: 32.9 MB more than before, on an emulated PC."])
 
-    def test_damage_is_told(self):
+    def test_damage_is_reported(self):
         text = "\n".join(self.lines(RESULT | {"wrong_words": 3}))
         self.assertIn("their memory CAME BACK WITH 3 WRONG WORDS of 10485760", text)
 
-    def test_a_second_release_that_lost_something_found_nothing(self):
+    def test_a_second_release_that_lost_memory_shows_zero(self):
         lines = self.lines(changed("after_again", available_kb=1))
         self.assertIn("A second release   found 0.0 MB more, in 2.5 seconds", lines)
 
-    def test_it_is_a_gain_only_if_idle_memory_went_to_the_swap_file(self):
+    def test_gain_requires_idle_memory_in_the_swap_file(self):
         self.assertTrue(report.is_gain(RESULT))
         self.assertFalse(report.is_gain(changed("after", available_kb=11468)))
         self.assertFalse(report.is_gain(changed("after", idle_in_ram_kb=43384)))

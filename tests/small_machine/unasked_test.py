@@ -1,17 +1,17 @@
-"""Releases that nobody presses a button for, on the small machine with the exe as shipped:   unasked_test.py [CASE]
+"""Tests releases without the button on the small machine, with the shipped exe:   unasked_test.py [CASE]
 
-The figures are those of the guest's kernel, times are those of its clock.
+The figures come from the guest's kernel, the times from its clock.
 """
 import unittest
 
 from played import PlayedCase
 
-# Of the amount.
+# Share of the amount.
 LEAST_GAIN = 0.30
-# From the moment when it is due until the memory is given back.
+# From the moment when the release is due until its memory is freed.
 MOST_SECONDS = 30
 KB_PER_MB = 1000
-# In an hour with twelve releases: less than a page for each.
+# In an hour with at least twelve releases: less than a page per release.
 MOST_GROWTH_BYTES = 8 * 4096
 
 
@@ -33,7 +33,7 @@ class AutomaticReleaseTest(PlayedCase):
         self.assertEqual(self.releases("later"), 1)
         self.assertEqual(self.result["stored_counter"], "1")
 
-    def test_every_word_comes_back(self):
+    def test_no_memory_is_damaged(self):
         self.assertEqual(self.result["wrong_words"], 0)
 
 
@@ -45,7 +45,7 @@ class BusyProcessorTest(PlayedCase):
         self.assertEqual(self.result["busy"]["load"], "100 %")
         self.assertEqual(self.releases("busy"), 0)
 
-    def test_it_comes_when_the_processor_is_idle(self):
+    def test_the_release_follows_when_the_processor_is_idle(self):
         # The average over the last eight readings must fall first.
         self.assertLessEqual(self.result["seconds_until_release"], 2 * self.result["interval_s"] + MOST_SECONDS)
 
@@ -58,38 +58,38 @@ class StartUpReleaseTest(PlayedCase):
         self.assertLessEqual(self.result["seconds_after_start"], self.result["delay_s"] + MOST_SECONDS)
         self.assertGreaterEqual(self.gain_kb("before", "after"), LEAST_GAIN * self.result["amount_mb"] * KB_PER_MB)
 
-    def test_every_word_comes_back(self):
+    def test_no_memory_is_damaged(self):
         self.assertEqual(self.result["wrong_words"], 0)
 
 
 class TimedReleaseTest(PlayedCase):
     scenario = "timed_release"
 
-    def test_memory_is_released_when_it_is_due(self):
+    def test_memory_is_released_when_the_release_is_due(self):
         self.assertEqual(self.result["due_before"], "Next Release of RAM is due in 5 minutes")
         self.assertGreaterEqual(self.result["seconds_after_start"], self.result["interval_s"])
         self.assertLessEqual(self.result["seconds_after_start"], self.result["interval_s"] + MOST_SECONDS)
         self.assertGreaterEqual(self.gain_kb("before", "after"), LEAST_GAIN * self.result["amount_mb"] * KB_PER_MB)
 
-    def test_the_next_one_is_a_whole_interval_away(self):
+    def test_the_next_release_is_a_whole_interval_away(self):
         self.assertEqual(self.result["due_after"], "Next Release of RAM is due in 5 minutes")
 
 
 class HourTest(PlayedCase):
     scenario = "hour"
 
-    def test_an_hour_passed_and_every_want_of_memory_was_answered(self):
+    def test_memory_is_released_in_every_round_of_an_hour(self):
         self.assertGreaterEqual(self.result["seconds"], 3600)
         releases = self.releases("end")
         self.assertGreaterEqual(releases, self.result["rounds"])
-        # A round takes memory twice: when its program starts, and when that reads what was moved out.
+        # A round takes memory twice: when its program starts, and when the program reads what was paged out.
         self.assertLessEqual(releases, 2 * self.result["rounds"])
 
     def test_the_program_does_not_grow(self):
         first, *_, last = self.result["committed_bytes"]
         self.assertLessEqual(last - first, MOST_GROWTH_BYTES)
 
-    def test_nothing_is_lost(self):
+    def test_no_memory_is_damaged(self):
         self.assertEqual(self.result["wrong_words"], 0)
 
 

@@ -1,9 +1,9 @@
-"""Q-DIX starts a program that needs much memory at once, with and without a release before it, from the same state."""
+"""Lets Q-DIX start a program that needs much memory at once, with and without a release before it, from one state."""
 
 IDLE_MB = 10
 IDLE_PROGRAMS = 4
 NEEDED_MB = 48
-# "50% of My Total RAM" and "Don't Free Up Any RAM".
+# The option buttons "50% of My Total RAM" and "Don't Free Up Any RAM".
 CHOICES = {"released": "Option8", "plain": "Option6"}
 LAUNCHER_TAB = 4
 # The number of automatic releases so far. A release before a launch is not one of them.
