@@ -1,4 +1,4 @@
-"""Reads the downloads with no tool that made them: what a zip, a floppy disk and a CD hold, from their bytes alone."""
+"""Reads the contents of zip, floppy image and CD image directly from their bytes, without the tools that made them."""
 import struct
 import zipfile
 
@@ -8,13 +8,13 @@ CD_DESCRIPTORS_AT = 16
 
 
 def of_zip(path):
-    """Names and contents of a zip."""
+    """Returns the names and contents of the files in a zip."""
     with zipfile.ZipFile(path) as archive:
         return {entry.filename: archive.read(entry) for entry in archive.infolist()}
 
 
 class Floppy:
-    """A disk with a FAT of 12 bits and nothing but a root folder."""
+    """A FAT12 disk image that has only a root folder."""
 
     def __init__(self, path):
         self.data = path.read_bytes()
@@ -36,7 +36,7 @@ class Floppy:
         return sum(self.next_of(number + 2) == 0 for number in range(self.clusters)) * self.cluster_bytes
 
     def folder_entries(self):
-        """The entries of the root folder, less parts of long names: the label of the disk and its files."""
+        """Yields the entries of the root folder, the disk label and the files, but not the entries for long names."""
         for at in range(self.root, self.root + self.entries * 32, 32):
             entry = self.data[at:at + 32]
             if entry[0] == 0:
@@ -45,11 +45,11 @@ class Floppy:
                 yield entry
 
     def times(self):
-        """Date and time of every entry, as DOS packs them."""
+        """Returns the time and date of every entry in DOS format, without duplicates."""
         return {struct.unpack_from("<HH", entry, 22) for entry in self.folder_entries()}
 
     def files(self):
-        """Short names and contents."""
+        """Returns short names and contents."""
         found = {}
         for entry in self.folder_entries():
             raw, attributes = entry[:11], entry[11]
@@ -66,7 +66,7 @@ class Floppy:
 
 
 class Cd:
-    """An ISO 9660 image: its descriptors, and what lies in its root folder."""
+    """An ISO 9660 image: its descriptors and the records of its root folder."""
 
     def __init__(self, path):
         self.data = path.read_bytes()
@@ -83,22 +83,22 @@ class Cd:
         return self.data[sector * CD_SECTOR:sector * CD_SECTOR + size]
 
     def all_records(self):
-        """The records of the root folder; the first two are those of itself and its parent."""
+        """Yields the records of the root folder. The first two describe the folder itself and its parent."""
         folder, at = self.extent(self.root), 0
         while at < len(folder):
             length = folder[at]
-            if length == 0:  # a record does not go over the end of a sector
+            if length == 0:  # records do not cross a sector boundary
                 at = (at // CD_SECTOR + 1) * CD_SECTOR
                 continue
             yield folder[at:at + length]
             at += length
 
     def times(self):
-        """Year since 1900, month, day, hour, minute, second and zone of every record."""
+        """Returns year since 1900, month, day, hour, minute, second and zone of every record, without duplicates."""
         return {tuple(record[18:25]) for record in [self.root, *self.all_records()]}
 
     def records(self):
-        """Of every file: identifier, what follows it in the record, content."""
+        """Yields for every file: identifier, the bytes after it in the record, content."""
         for record in list(self.all_records())[2:]:
             name_bytes = record[32]
             name = record[33:33 + name_bytes].decode("ascii")

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""What a user downloads is what was built, in forms that the oldest machines read, and the same bytes on any day.
+"""Tests that the downloads contain what was built, that the oldest machines can read them, and that they are reproducible.
 
-downloads_test.py BUILD [unittest's arguments]    BUILD is the build folder of the shipped programs
+downloads_test.py BUILD [arguments of unittest]    BUILD is the build folder of the shipped programs
 """
 import hashlib
 import json
@@ -47,18 +47,18 @@ class Downloads(unittest.TestCase):
         cls.zip = cls.made / f"qdix-{cls.version}.zip"
         cls.files = of_zip(cls.zip)
 
-    def test_there_are_four_of_them_and_nothing_else(self):
+    def test_there_are_exactly_four_downloads(self):
         self.assertEqual(sorted(path.name for path in self.made.iterdir()),
                          [f"qdix-{self.version}.zip", "qdix.img", "qdix.iso", "sha256sums.txt"])
 
-    def test_the_zip_has_programs_manual_and_texts_and_nothing_else(self):
+    def test_the_zip_contains_only_programs_manual_and_texts(self):
         delivered = set(self.programs) - set(CD_ONLY)
         self.assertEqual(sorted(self.files), sorted([*delivered, *self.manual, *TEXTS]))
         self.assertEqual({name: self.files[name] for name in delivered}, {name: self.programs[name] for name in delivered})
         self.assertEqual({name: self.files[name] for name in self.manual}, self.manual)
         self.assertLessEqual({"QDIX.exe", "configL.exe", "undo.exe"}, set(self.files))
 
-    def test_the_zip_is_flat_and_plain(self):
+    def test_the_zip_is_flat_and_uses_only_plain_deflate(self):
         with zipfile.ZipFile(self.zip) as archive:
             for entry in archive.infolist():
                 with self.subTest(entry.filename):
@@ -68,10 +68,10 @@ class Downloads(unittest.TestCase):
                     self.assertLessEqual(entry.extract_version, 20)
                     self.assertEqual(entry.date_time, (2000, 1, 14, 0, 0, 0))
 
-    def test_another_program_unpacks_the_zip(self):
+    def test_unzip_reads_the_zip(self):
         subprocess.run(["unzip", "-tqq", self.zip], check=True)
 
-    def test_the_floppy_is_a_whole_disk_with_the_same_files_and_a_third_of_it_free(self):
+    def test_the_floppy_has_the_same_files_and_a_third_of_its_space_free(self):
         floppy = Floppy(self.made / "qdix.img")
         self.assertEqual(len(floppy.data), 1474560)
         self.assertEqual(floppy.sectors, 2880)
@@ -79,7 +79,7 @@ class Downloads(unittest.TestCase):
         self.assertEqual(floppy.files(), {name.upper(): data for name, data in self.files.items()})
         self.assertGreaterEqual(floppy.free_bytes() * 3, len(floppy.data))
 
-    def test_another_program_reads_the_floppy(self):
+    def test_mtools_reads_the_floppy(self):
         folder = self.work / "floppy"
         folder.mkdir()
         environment = {**os.environ, "MTOOLSRC": os.devnull}
@@ -87,7 +87,7 @@ class Downloads(unittest.TestCase):
         self.assertEqual({path.name.upper(): path.read_bytes() for path in folder.iterdir()},
                          {name.upper(): data for name, data in self.files.items()})
 
-    def test_the_cd_is_of_level_1_without_extensions_and_has_the_same_files_and_its_own(self):
+    def test_the_cd_is_plain_level_1_and_has_the_same_files_and_the_self_test(self):
         cd = Cd(self.made / "qdix.iso")
         primary, terminator = 1, 255
         self.assertEqual(cd.descriptors, [primary, terminator])
@@ -98,32 +98,32 @@ class Downloads(unittest.TestCase):
         on_the_cd = {**self.files, **{name: self.programs[name] for name in CD_ONLY}}
         self.assertEqual(cd.files(), {f"{name.upper()};1": data for name, data in on_the_cd.items()})
 
-    def test_the_installation_leaves_alone_what_only_the_cd_has(self):
+    def test_the_installation_does_not_mention_files_only_on_the_cd(self):
         for name in CD_ONLY:
             self.assertNotIn(name.lower(), self.files["qdix.inf"].decode("ascii").lower())
 
-    def test_the_sums_are_those_of_the_downloads(self):
+    def test_the_checksums_match_the_downloads(self):
         listed = [line.split("  ") for line in (self.made / "sha256sums.txt").read_text(encoding="ascii").splitlines()]
         self.assertEqual(sorted(name for _, name in listed), sorted([self.zip.name, "qdix.img", "qdix.iso"]))
         for digest, name in listed:
             self.assertEqual(digest, hashlib.sha256((self.made / name).read_bytes()).hexdigest(), name)
 
-    def test_another_day_another_time_zone_the_same_bytes(self):
+    def test_another_day_and_time_zone_give_the_same_bytes(self):
         again = self.work / "again"
-        # The clock alone is moved: with the times of files faked as well, the tools would see other files.
+        # Fakes only the clock. With fake file times the tools would see different inputs.
         make(again, "env", "TZ=Asia/Tokyo", "NO_FAKE_STAT=1", "faketime", "2031-07-08 09:10:11")
         for path in self.made.iterdir():
             self.assertEqual(path.read_bytes(), (again / path.name).read_bytes(), path.name)
 
-    def test_every_time_in_the_images_is_the_given_one(self):
+    def test_all_times_in_the_images_are_the_given_time(self):
         date_of_dos, midnight = (2000 - 1980) << 9 | 1 << 5 | 14, 0
         self.assertEqual(Floppy(self.made / "qdix.img").times(), {(midnight, date_of_dos)})
         self.assertEqual(Cd(self.made / "qdix.iso").times(), {(100, 1, 14, 0, 0, 0, 0)})
 
-    def test_texts_are_plain_ascii_in_lines_of_windows(self):
+    def test_texts_are_ascii_with_windows_line_ends(self):
         for name in TEXTS:
             with self.subTest(name):
-                last_line = rb"[\x20-\x7e]+" if name.lower() == "remove.bat" else b""  # which has no line end on purpose
+                last_line = rb"[\x20-\x7e]+" if name.lower() == "remove.bat" else b""  # it has no line end on purpose
                 self.assertRegex(self.files[name], re.compile(rb"\A([\x20-\x7e]*\r\n)+" + last_line + rb"\Z"))
 
     def test_the_readme_fits_into_72_columns_and_names_every_file(self):

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs, uses and removes what lies in C:\disk of the machine it runs on:   install_session.sh DRIVE_C PROBE
-# Every step is judged by files and registry, not by what a program returns.
+# Installs, uses and removes the files in C:\disk of the machine that it runs on:   install_session.sh DRIVE_C PROBE
+# Checks files and registry after every step, not only exit codes.
 set -euo pipefail
 
 readonly drive=${1:?the folder that is drive C:}
@@ -20,7 +20,7 @@ fail() {
 
 wine() { timeout "$step_limit_s" "$tools_dir/wine/wine.sh" "$@" </dev/null; }
 
-# Prints the text of a registry value; false where there is none.
+# Prints the text of a registry value; false if there is none.
 value_of() { wine reg query "$1" /v "$2" 2>/dev/null | tr -d '\r' | sed -n 's/^ .*    REG_SZ    //p' | grep .; }
 has_key() { wine reg query "$1" >/dev/null 2>&1; }
 
@@ -28,7 +28,7 @@ has_key() { wine reg query "$1" >/dev/null 2>&1; }
 await() {
   local deadline=$((SECONDS + step_limit_s))
   until "$@"; do
-    ((SECONDS < deadline)) || fail "it did not come true in $step_limit_s seconds: $*"
+    ((SECONDS < deadline)) || fail "still false after $step_limit_s seconds: $*"
     sleep 0.2
   done
 }
@@ -48,7 +48,7 @@ expect_no_value() {
 
 install() {
   wine "${engine[@]}" DefaultInstall 132 'C:\disk\qdix.inf'
-  diff -r "$drive/disk" "$folder" || fail "not every file was copied as it is"
+  diff -r "$drive/disk" "$folder" || fail "the installed files differ from the delivered ones"
   expect_value "HKLM\\$windows_key\\Uninstall\\QDIX" DisplayName "$(sed -n '1s/ for .*//p' "$drive/disk/README.TXT")"
   expect_value "HKLM\\$windows_key\\RunOnce" 'QDIX Menu' 'grpconv.exe -o'
   grep -qi '^QDIX=Q-DIX' "$drive/windows/setup.ini" || fail "setup.ini asks for no group in the Start menu"
@@ -57,20 +57,20 @@ install() {
     fail "the Start menu lacks Q-DIX Undo"
 }
 
-# The first start, from where it was installed; then what a user of it leaves behind.
+# Starts the installed program for the first time, and then leaves the files that a user of it would have.
 use() {
   "$tools_dir/wine/wine.sh" 'C:\PROGRA~1\QDIX\QDIX.exe' >/dev/null 2>&1 </dev/null &
   local program=$!
   wine "$probe" wait-window || fail "the installed program does not start"
   until [[ "$(wine "$probe" caption)" == *' MB   Q-DIX'* ]]; do
     wine "$probe" answer-boxes >/dev/null
-    kill -0 "$program" 2>/dev/null || fail "the installed program ended by itself"
+    kill -0 "$program" 2>/dev/null || fail "the installed program ended unexpectedly"
   done
   wine "$probe" close
   wait "$program" || fail "the installed program ended with exit code $?"
   # The first start opens the help, which stays open.
   if [ -f "$folder/help.exe" ]; then wine taskkill /f /im help.exe >/dev/null 2>&1 || true; fi
-  value_of "HKLM\\$windows_key\\Run" Quondix >/dev/null || fail "the first start did not register the program"
+  value_of "HKLM\\$windows_key\\Run" Quondix >/dev/null || fail "the first start did not add the program to the Run key"
   has_key 'HKLM\SOFTWARE\QDIX' || fail "the program made no machine-wide key"
   has_key "$settings_key" || fail "the program stored no setting"
   local shortcut
@@ -79,21 +79,21 @@ use() {
   done
   : >"$folder/launcher.dat"
   : >"$folder/launcher.bak"
-  # What grpconv.exe of Windows would have made of setup.ini.
+  # The folder that grpconv.exe of Windows makes from setup.ini.
   mkdir "$drive/windows/Start Menu/Programs/Q-DIX"
 }
 
 remove() {
   local command_line removal
   command_line=$(value_of "HKLM\\$windows_key\\Uninstall\\QDIX" UninstallString)
-  # Its words have no blanks in them: that is a part of what is tested.
+  # Split at spaces: the test also covers that no word contains one.
   local -a words
   read -r -a words <<<"$command_line"
   mkfifo "$drive/keyboard"
   exec 8<>"$drive/keyboard"
   timeout "$step_limit_s" "$tools_dir/wine/wine.sh" "${words[@]}" <&8 >"$drive/removal.log" 2>&1 &
   removal=$!
-  wine "$probe" --undo wait-window || fail "removing does not show Q-DIX Undo: $(<"$drive/removal.log")"
+  wine "$probe" --undo wait-window || fail "removal does not show Q-DIX Undo: $(<"$drive/removal.log")"
   has_key 'HKLM\SOFTWARE\QDIX' || fail "the record is deleted while Q-DIX Undo is open"
   diff -r "$drive/disk" "$folder" | grep -v "^Only in .*: launcher\." && fail "a file is deleted while Q-DIX Undo is open"
   wine "$probe" --undo close
@@ -102,7 +102,7 @@ remove() {
   await is_deleted
 }
 
-# What the system does with RunOnce at its next start.
+# Runs the RunOnce commands, as the system does at its next start.
 restart() { wine wineboot; }
 
 expect_nothing_left() {
@@ -119,7 +119,7 @@ expect_nothing_left() {
   local name
   for name in Q-DIX 'Q-DIX Undo'; do
     sed -n '/^\[QDIX.Gone\]/,$p' "$drive/windows/setup.ini" | grep -q "^\"$name\"=\?.\?$" ||
-      fail "the Start menu is not told to forget $name"
+      fail "setup.ini does not remove $name from the Start menu"
   done
 }
 

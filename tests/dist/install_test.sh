@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Installs from the floppy disk by its qdix.inf, uses it and removes it, on a machine of its own:   install_test.sh BUILD PROBE
-# BUILD is the folder of the shipped programs, PROBE looks at windows. The machine is a new prefix, laid out as
-# Windows 98 is; packaging/README.md says what in it stands for a part of Windows that Wine lacks.
+# Installs Q-DIX from the floppy disk by its qdix.inf, uses it and removes it:   install_test.sh BUILD PROBE
+# BUILD is the folder of the shipped programs; PROBE is the program that looks at windows. Runs in a new Wine prefix with
+# the folders of Windows 98. packaging/README.md lists what replaces parts of Windows that Wine lacks.
 set -euo pipefail
 
 readonly build=${1:?the folder of the shipped programs}
@@ -23,7 +23,7 @@ trap 'exit 143' TERM
 
 wine() { "$wine_tools_dir/wine.sh" "$@" </dev/null; }
 
-# Names the folders of the shell as Windows 98 does where there are no user profiles.
+# Names the shell folders as Windows 98 does without user profiles.
 lay_out_as_windows_98() {
   local drive=$1 key='HKCU\Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders'
   mkdir -p "$drive/windows/Desktop" "$drive/windows/Start Menu/Programs/StartUp"
@@ -44,7 +44,7 @@ main() {
   "$checkout_dir/tools/dist/make_dist.py" --build "$build" --output "$work_dir/dist" --time 947808000
   mkdir "$WINEPREFIX/drive_c/disk"
   MTOOLSRC=/dev/null mcopy -i "$work_dir/dist/qdix.img" '::*' "$WINEPREFIX/drive_c/disk"
-  # A desktop of its own, also where the other tests have theirs.
+  # Always a separate desktop, even if the other tests have one.
   env -u QDIX_DESKTOP "$checkout_dir/tools/desktop/desktop.sh" run \
     "$here/install_session.sh" "$WINEPREFIX/drive_c" "$probe"
 }

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A build that cannot be delivered whole is refused with its reason, and leaves no downloads behind."""
+"""Tests that an incomplete or unsuitable build is refused with a reason and leaves no downloads behind."""
 import json
 import pathlib
 import subprocess
@@ -36,30 +36,30 @@ class Refusals(unittest.TestCase):
         self.assertIn(reason, done.stderr)
         self.assertEqual(list(self.output.glob("*")), [])
 
-    def test_a_whole_build_is_delivered(self):
+    def test_a_complete_build_is_delivered(self):
         (self.build / "manual" / "help.htm").write_bytes(b"<HTML>")
         done = self.make()
         self.assertEqual((done.returncode, done.stderr), (0, ""))
         self.assertTrue((self.output / "qdix-1.2.3.zip").is_file())
 
-    def test_a_program_that_was_not_built(self):
+    def test_a_program_that_is_not_in_the_build_is_refused(self):
         self.list_programs([name for name in PROGRAMS if name != "undo.exe"])
         self.expect_refusal("the build has no undo.exe")
 
-    def test_a_listed_program_that_is_not_there(self):
+    def test_a_listed_program_that_is_missing_is_refused(self):
         (self.build / "QDIX.exe").unlink()
         self.expect_refusal("QDIX.exe")
 
-    def test_a_long_name(self):
+    def test_a_long_name_is_refused(self):
         (self.build / "manual" / "a_long_name.gif").write_bytes(b"GIF")
         self.expect_refusal("a_long_name.gif is no name of DOS")
 
-    def test_names_that_differ_in_case_alone(self):
+    def test_names_that_differ_only_in_case_are_refused(self):
         (self.build / "manual" / "a.gif").write_bytes(b"GIF")
         (self.build / "manual" / "A.gif").write_bytes(b"GIF")
         self.expect_refusal("differ in nothing but the case")
 
-    def test_more_than_a_floppy_holds(self):
+    def test_more_data_than_a_floppy_holds_is_refused(self):
         (self.build / "manual" / "big.gif").write_bytes(b"G" * 1500000)
         self.expect_refusal("mcopy failed")
 

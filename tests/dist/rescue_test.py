@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""The commands that bring system.ini back work where no long name is known: on a disk as Windows leaves it, each of
-them is carried out with the short names alone, which another program's tools look up."""
+"""Tests that the commands which restore system.ini work at a DOS prompt without long names. Each command runs on a disk
+as Windows leaves it, with short names only; mtools looks them up."""
 import fnmatch
 import os
 import pathlib
@@ -15,16 +15,16 @@ FOLDER = "::/WINDOWS"
 OLD = b"[boot]\r\nshell=Explorer.exe\r\n[386Enh]\r\nPagingDrive=D:\r\n"
 CHANGED = b"[boot]\r\nshell=Explorer.exe\r\n[386Enh]\r\nPagingDrive=C:\r\n"
 SHORT_NAME = re.compile(r"[A-Z0-9_~]{1,8}(\.[A-Z0-9_~]{1,3})?")
-# Short name, extension, size, date, time and, where there is one, the long name.
+# Short name, extension, size, date, time and the long name, if there is one.
 LISTED = re.compile(r"(?m)^(\S{1,8})\s+(\S{0,3})\s+\d+ \d{4}-\d\d-\d\d\s+\d+:\d\d\s*(\S*)\s*$")
 
 
 class PromptError(Exception):
-    """What the command prompt would refuse."""
+    """A command that the command prompt would refuse."""
 
 
 class Disk:
-    """A FAT disk image with a folder of Windows."""
+    """A FAT disk image with a Windows folder."""
 
     def __init__(self, work, files):
         self.image = work / "disk.img"
@@ -51,7 +51,7 @@ class Disk:
         return self.tool("mtype", f"{FOLDER}/{name}")
 
     def short_names(self):
-        """Short names, with the long ones that belong to them. The tool shows some in small letters."""
+        """Returns the long name, if any, for each short name, in capitals: mdir shows some short names in lower case."""
         listed = self.tool("mdir", FOLDER).decode("ascii")
         return {f"{name}.{extension}".rstrip(".").upper(): long for name, extension, long in LISTED.findall(listed)}
 
@@ -63,7 +63,7 @@ class Disk:
 
 
 class Prompt:
-    """The command prompt before Windows has started: it knows drive C, its folder WINDOWS, and short names."""
+    """A fake of the command prompt without Windows. It knows drive C, its folder WINDOWS, and short names."""
 
     def __init__(self, disk):
         self.disk = disk
@@ -114,7 +114,7 @@ def commands_of_the_readme():
 
 
 def commands_of_undo():
-    """From the text that the unit test of its box holds it to."""
+    """Returns the commands of the box in Q-DIX Undo, from the unit test that checks its text."""
     code = (ROOT / "tests/unit/undo/whole_file_test.cpp").read_text(encoding="utf-8")
     box = code[code.index("kReplaced ="):code.index(";", code.index("kReplaced ="))]
     commands = re.findall(r'"((?:C:|cd |attrib |copy ).*?)(?:\\r\\n)?"', box)
@@ -134,13 +134,13 @@ class Rescue(unittest.TestCase):
     def short_name_of(self, disk, long_name):
         return next(short for short, long in disk.short_names().items() if long == long_name)
 
-    def test_the_backup_has_the_short_name_that_the_texts_tell(self):
+    def test_the_backup_has_the_short_name_given_in_the_texts(self):
         disk = self.disk()
         self.assertEqual(self.short_name_of(disk, "system.qdix"), "SYSTEM~1.QDI")
         for text in ("help/18_undo.md", "packaging/README.TXT"):
             self.assertIn("SYSTEM~1.QDI", (ROOT / text).read_text(encoding="utf-8"), text)
 
-    def test_manual_and_readme_bring_the_old_file_back_and_keep_the_other(self):
+    def test_manual_and_readme_restore_the_old_file_and_keep_the_changed_one(self):
         for commands in (commands_of_the_manual(), commands_of_the_readme()):
             with self.subTest(commands):
                 disk = self.disk()
@@ -151,7 +151,7 @@ class Rescue(unittest.TestCase):
                 self.assertIn("SYSTEM~1.QDI", prompt.listed)
                 disk.image.unlink()
 
-    def test_the_list_shows_the_short_name_also_where_it_has_another_number(self):
+    def test_dir_lists_the_short_name_even_if_its_number_differs(self):
         disk = Disk(self.work, {"system.qdiff": b"", "system.ini": CHANGED, "system.qdix": OLD})
         short = self.short_name_of(disk, "system.qdix")
         self.assertNotEqual(short, "SYSTEM~1.QDI")
@@ -160,7 +160,7 @@ class Rescue(unittest.TestCase):
             prompt.run([command for command in commands if command.startswith("dir")])
             self.assertIn(short, prompt.listed)
 
-    def test_undo_takes_a_whole_restore_back(self):
+    def test_commands_of_undo_revert_a_whole_restore(self):
         commands = commands_of_undo()
         self.assertEqual(len(commands), 4, commands)
         disk = Disk(self.work, {"system.ini": OLD, "SYSTEM.Q01": CHANGED})

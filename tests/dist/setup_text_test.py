@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""qdix.inf stays within the limits of the first Windows 95, hangs together, and removes what the program writes."""
+"""Tests that qdix.inf keeps the limits of the first Windows 95, is consistent, and removes what the program writes."""
 import pathlib
 import re
 import sys
@@ -13,9 +13,9 @@ PROGRAMS = ("QDIX.exe", "configL.exe", "undo.exe")
 MOST_SECTION_NAME = 28
 MOST_LINE = 511
 MOST_ADD_REMOVE_NAME = 59
-# One byte of the 128 that DOS has for it ends the command line; the program's own name is not among them.
+# DOS has 128 bytes for a command line without the program name: its length, 126 characters, and the byte that ends it.
 MOST_ARGUMENTS = 126
-# What the engine looks up by itself.
+# Sections that the engine looks up by itself.
 OWN_SECTIONS = {"Version", "DefaultInstall", "DefaultUninstall", "DestinationDirs", "SourceDisksNames",
                 "SourceDisksFiles", "Strings"}
 
@@ -31,7 +31,7 @@ def sections_of(text):
 
 
 def constant(path, name):
-    """The text that a constant of the program holds."""
+    """Returns the text of a constant in the source of the program."""
     found = re.search(rf'\b{name}\s*=\s*"([^"]+)"', (ROOT / path).read_text(encoding="utf-8"))
     return found[1].replace("\\\\", "\\")
 
@@ -44,17 +44,17 @@ class SetupText(unittest.TestCase):
         cls.strings = dict(re.fullmatch(r'(\w+)="(.*)"', line).groups() for line in cls.sections["Strings"])
         cls.plain = sections_of(re.sub(r"%(\w+)%", lambda name: cls.strings.get(name[1], name[0]), cls.text))
 
-    def test_it_is_an_installation_of_windows_95(self):
+    def test_signature_is_that_of_windows_95(self):
         self.assertIn('Signature="$CHICAGO$"', self.sections["Version"])
 
-    def test_names_and_lines_are_not_too_long(self):
+    def test_names_and_lines_keep_the_length_limits(self):
         self.assertLessEqual(max(map(len, self.sections)), MOST_SECTION_NAME)
         self.assertLessEqual(max(len(line) for lines in self.plain.values() for line in lines), MOST_LINE)
         key = self.strings["UNINSTALL"].rpartition("\\")[2]
         name = re.search(r'DisplayName,,"(.+)"', "\n".join(self.plain["QDIX.Entry"]))[1]
         self.assertLessEqual(max(len(key), len(name)), MOST_ADD_REMOVE_NAME)
 
-    def test_every_section_that_is_named_is_there_and_every_one_there_is_named(self):
+    def test_every_named_section_exists_and_every_section_is_named(self):
         named = {name for start in ("DefaultInstall", "DefaultUninstall")
                  for line in self.sections[start] for name in line.partition("=")[2].split(",")}
         self.assertEqual(named | OWN_SECTIONS, set(self.sections))
@@ -71,12 +71,12 @@ class SetupText(unittest.TestCase):
         body = "\n".join(line for line in body.splitlines() if not line.startswith(";"))
         self.assertEqual(set(re.findall(r"%(\w+)%", body)) - directories, set(self.strings))
 
-    def test_it_copies_and_finds_every_delivered_file(self):
+    def test_every_delivered_file_is_listed_and_copied(self):
         delivered = sorted([*PROGRAMS, *texts_of("1.2.3", PROGRAMS)], key=str.lower)
         self.assertEqual(self.sections["QDIX.Files"], delivered)
         self.assertEqual(self.sections["SourceDisksFiles"], [f"{name}=1" for name in delivered])
 
-    def test_files_have_names_of_dos(self):
+    def test_files_have_dos_names(self):
         lists = [name for start in ("DefaultInstall", "DefaultUninstall") for line in self.sections[start]
                  if line.startswith(("CopyFiles", "DelFiles", "RenFiles")) for name in line.partition("=")[2].split(",")]
         files = [line for name in lists for line in self.plain[name]]
@@ -85,22 +85,22 @@ class SetupText(unittest.TestCase):
         for file in files:
             self.assertRegex(file, r"\A[A-Za-z0-9_~-]{1,8}\.[A-Za-z0-9_]{1,3}\Z")
 
-    def test_long_name_of_the_start_up_shortcut_is_deleted_where_there_is_one(self):
+    def test_start_up_shortcut_with_a_long_name_is_deleted(self):
         path = rf"%10%\{self.strings['MENU']}\{self.strings['STARTUP']}\QDIX.exe.lnk"
         self.assertIn(f'"command.com /c if exist {path} del {path}"', "\n".join(self.plain["QDIX.Rest"]))
 
-    def test_folders_have_names_of_dos(self):
+    def test_folders_have_dos_names(self):
         for line in self.plain["DestinationDirs"]:
             for part in line.partition(",")[2].split("\\"):
                 self.assertRegex(part, r"\A[A-Za-z0-9~-]{1,8}\Z", line)
 
-    def test_command_lines_fit_into_those_of_dos(self):
+    def test_command_lines_fit_the_dos_limit(self):
         lines = re.findall(r'command\.com (/c [^"]+)"', "\n".join(self.plain["QDIX.Entry"] + self.plain["QDIX.Rest"]))
         self.assertEqual(len(lines), 3)
         for line in lines:
             self.assertLessEqual(len(line.replace("%24%", "C:").replace("%10%", r"C:\WINDOWS.000")), MOST_ARGUMENTS, line)
 
-    def test_batch_file_is_left_before_the_engine_deletes_it(self):
+    def test_batch_file_has_ended_when_the_engine_deletes_it(self):
         lines = texts_of("1.2.3", PROGRAMS)["remove.bat"].decode("ascii").split("\r\n")
         self.assertRegex(lines[-1], r"\A@if not \"%1\"==\"\" rundll\.exe setupx\.dll,InstallHinfSection .*qdix\.inf\Z")
         self.assertEqual(lines[-2], "cls", "a window with text in it stays open")
