@@ -32,7 +32,7 @@ Outcome ClockTells(const os::System& real) {
   const double now = real.clock.Now();
   if (now < kFirstDay || now > kLastDay) return Outcome::Failed("the date is before 1995 or after 2099");
   const std::string date = real.clock.LongDate(now);
-  return date.empty() ? Outcome::Failed("today has no long date") : Outcome::Ok(date);
+  return date.empty() ? Outcome::Failed("today's date cannot be formatted") : Outcome::Ok(date);
 }
 
 Outcome PumpWaits(const os::System& real) {
@@ -43,31 +43,31 @@ Outcome PumpWaits(const os::System& real) {
   real.event_pump.PumpEvents();
   real.event_pump.WaitMs(kWaitMs);
   const std::uint32_t waited_ms = real.clock.GetTickCount() - before;
-  return Outcome::Expect(waited_ms + kTickMs >= kWaitMs, "a wait of 100 ms ended too soon");
+  return Outcome::Expect(waited_ms + kTickMs >= kWaitMs, "a 100 ms wait ended too early");
 }
 
 Outcome MemoryTells(const os::System& real) {
   const os::MemoryStatus status = real.memory.GlobalMemoryStatus();
-  if (status.total_physical == 0) return Outcome::Failed("there is no memory");
+  if (status.total_physical == 0) return Outcome::Failed("the total memory is reported as 0");
   if (status.available_physical > status.total_physical) {
-    return Outcome::Failed("more memory is available than there is");
+    return Outcome::Failed("available memory exceeds total memory");
   }
-  return Outcome::Expect(status.memory_load_percent <= 100, "the load is above 100 %");
+  return Outcome::Expect(status.memory_load_percent <= 100, "the memory load exceeds 100 %");
 }
 
 Outcome WindowsFolderIsThere(const os::System& real) {
   const std::string folder = WindowsFolder(real.files);
-  if (folder.empty()) return Outcome::Failed("it is not known");
+  if (folder.empty()) return Outcome::Failed("the path is unknown");
   const std::uint32_t attributes = real.files.GetFileAttributesA(folder.c_str());
   const bool is_folder =
       attributes != os::kInvalidFileAttributes && (attributes & os::kFileAttributeDirectory) != 0;
-  return is_folder ? Outcome::Ok(folder) : Outcome::Failed(folder + " is no folder");
+  return is_folder ? Outcome::Ok(folder) : Outcome::Failed(folder + " is not a folder");
 }
 
 Outcome DrivesAreListed(const os::System& real) {
   std::array<char, kRoom> roots{};
   const std::uint32_t length = real.drives.GetLogicalDriveStringsA(roots.size(), roots.data());
-  if (length == 0 || length > roots.size()) return Outcome::Failed("there is no list");
+  if (length == 0 || length > roots.size()) return Outcome::Failed("the list cannot be read");
   std::string remark;
   bool has_windows = false;
   const std::string wanted = DriveOf(WindowsFolder(real.files));
@@ -76,7 +76,7 @@ Outcome DrivesAreListed(const os::System& real) {
     remark += root + base::TextOf(static_cast<std::int32_t>(real.drives.GetDriveTypeA(root)));
     if (base::EqualsIgnoringCase(root, wanted)) has_windows = true;
   }
-  return has_windows ? Outcome::Ok(remark) : Outcome::Failed("the drive of Windows is not among " + remark);
+  return has_windows ? Outcome::Ok(remark) : Outcome::Failed("the Windows drive is missing: " + remark);
 }
 
 Outcome DriveOfWindowsTells(const os::System& real) {
@@ -84,31 +84,31 @@ Outcome DriveOfWindowsTells(const os::System& real) {
   os::DiskClusters clusters;
   std::uint32_t flags = 0;
   if (real.drives.GetDriveTypeA(root.c_str()) != os::kDriveFixed)
-    return Outcome::Failed("it is no fixed disk");
+    return Outcome::Failed("it is not a fixed disk");
   if (real.drives.GetDiskFreeSpaceA(root.c_str(), clusters) != 1)
-    return Outcome::Failed("its space is unknown");
+    return Outcome::Failed("its free space cannot be read");
   if (clusters.bytes_per_sector < kFatOnlyBytesPerSector ||
       clusters.free_clusters > clusters.total_clusters) {
-    return Outcome::Failed("its space makes no sense");
+    return Outcome::Failed("its free space is invalid");
   }
   if (real.drives.GetVolumeInformationA(root.c_str(), flags) != 1) {
-    return Outcome::Failed("its file system is unknown");
+    return Outcome::Failed("its file system cannot be read");
   }
   os::DiskBytes bytes;
-  if (real.drives.GetDiskFreeSpaceExA(root.c_str(), bytes) != 1) return Outcome::Ok("no extended query");
-  return Outcome::Expect(bytes.total_free <= bytes.total && bytes.total != 0, "its size makes no sense");
+  if (real.drives.GetDiskFreeSpaceExA(root.c_str(), bytes) != 1) return Outcome::Ok("no GetDiskFreeSpaceEx");
+  return Outcome::Expect(bytes.total_free <= bytes.total && bytes.total != 0, "its size is invalid");
 }
 
 Outcome RegistryReads(const os::System& real) {
   const auto there =
       shell::RegistryKey::Open(real.registry, os::kHkeyLocalMachine,
                                "Software\\Microsoft\\Windows\\CurrentVersion", os::kKeyQueryValue);
-  if (!there.IsOpen()) return Outcome::Failed("the key of Windows does not open");
+  if (!there.IsOpen()) return Outcome::Failed("the Windows key cannot be opened");
   if (there.HasValue("QDIXTEST has no such value"))
-    return Outcome::Failed("a value that nobody wrote is there");
+    return Outcome::Failed("a value that does not exist was found");
   const auto missing =
       shell::RegistryKey::Open(real.registry, os::kHkeyLocalMachine, "QDIXTEST\\None", os::kKeyQueryValue);
-  return Outcome::Expect(!missing.IsOpen(), "a key that nobody made opens");
+  return Outcome::Expect(!missing.IsOpen(), "a key that does not exist was opened");
 }
 
 /// Reads the value once; negative if there is none.
@@ -130,18 +130,18 @@ Outcome StatisticTells(const os::System& real) {
   constexpr std::int32_t kMaxPercent = 100;
   static_cast<void>(Load(real.registry, "PerfStats\\StartStat"));  // reading StartStat starts the statistic
   const std::int32_t percent = Load(real.registry, "PerfStats\\StatData");
-  if (percent < 0) return Outcome::Failed("this system keeps no such statistic");
-  if (percent > kMaxPercent) return Outcome::Failed("a load of " + base::TextOf(percent) + " %");
+  if (percent < 0) return Outcome::Failed("this system does not provide the statistic");
+  if (percent > kMaxPercent) return Outcome::Failed("the load is " + base::TextOf(percent) + " %");
   return Outcome::Ok(base::TextOf(percent) + " %");
 }
 
 Outcome ProcessorTells(const os::System& real) {
   constexpr std::uint32_t kMeasuringMs = 30;
   const cpu::ProcessorIdentity identity = cpu::Identify(real.processor);
-  if (cpu::NameOf(identity).empty()) return Outcome::Failed("it has no name");
-  if (!identity.has_time_stamp_counter) return Outcome::Ok("no counter of cycles");
+  if (cpu::NameOf(identity).empty()) return Outcome::Failed("it cannot be identified");
+  if (!identity.has_time_stamp_counter) return Outcome::Ok("no time stamp counter");
   const os::CycleCount count = real.processor.CountCycles(kMeasuringMs);
-  if (count.microseconds == 0) return Outcome::Ok("its cycles cannot be counted");
+  if (count.microseconds == 0) return Outcome::Ok("clock speed unknown");
   return Outcome::Ok(
       base::TextOf(base::ToInt32(static_cast<double>(count.cycles) / static_cast<double>(count.microseconds))
                        .ValueOr(0)) +
@@ -154,7 +154,7 @@ Outcome ShellFoldersAreThere(const os::System& real) {
     const std::uint32_t attributes = real.files.GetFileAttributesA(folder.c_str());
     if (folder.empty() || attributes == os::kInvalidFileAttributes ||
         (attributes & os::kFileAttributeDirectory) == 0) {
-      return Outcome::Failed("number " + base::TextOf(number) + " is no folder: \"" + folder + "\"");
+      return Outcome::Failed("shell folder " + base::TextOf(number) + " is not a folder: \"" + folder + "\"");
     }
   }
   return Outcome::Ok();
@@ -164,28 +164,29 @@ Outcome OwnPathIsKnown(const os::System& real) {
   const std::string path = real.processes.ModuleFileName();
   const bool is_file =
       !path.empty() && real.files.GetFileAttributesA(path.c_str()) != os::kInvalidFileAttributes;
-  return is_file ? Outcome::Ok(path) : Outcome::Failed("there is no file \"" + path + "\"");
+  return is_file ? Outcome::Ok(path) : Outcome::Failed("file not found: \"" + path + "\"");
 }
 
 Outcome FileIsLookedUp(const os::System& real) {
   constexpr std::size_t kDosNameLength = 12;
   os::FoundFile found;
   if (!real.files.FindFirstFileA(real.processes.ModuleFileName().c_str(), found)) {
-    return Outcome::Failed("this program is not found");
+    return Outcome::Failed("this program's file was not found");
   }
   if (found.dos_name.empty() || found.dos_name.size() > kDosNameLength) {
-    return Outcome::Failed("\"" + found.dos_name + "\" is no name of DOS");
+    return Outcome::Failed("\"" + found.dos_name + "\" is not a DOS name");
   }
   const std::string date = real.clock.LongDate(found.changed_days);
-  return date.empty() ? Outcome::Failed("it has no date") : Outcome::Ok(found.dos_name + ", " + date);
+  return date.empty() ? Outcome::Failed("its date cannot be formatted")
+                      : Outcome::Ok(found.dos_name + ", " + date);
 }
 
 Outcome WindowsAreFound(const os::System& real) {
   if (real.windows.FindWindowA("QDIXTEST has no such class", nullptr) != 0) {
-    return Outcome::Failed("a window that nobody made is there");
+    return Outcome::Failed("a window that does not exist was found");
   }
   const os::WindowHandle window = real.windows.FindWindowA(nullptr, nullptr);
-  if (window == 0) return Outcome::Failed("there is no window at all");
+  if (window == 0) return Outcome::Failed("no window was found");
   return Outcome::Expect(real.windows.GetWindowThreadProcessId(window) != 0, "a window has no thread");
 }
 
@@ -195,7 +196,7 @@ Outcome ProfileFileReads(const os::System& real, const std::string& own_folder) 
       "[one]\r\nplain=text\r\nquoted=\" 4096 \"\r\n[386Enh]\r\ndevice=*a\r\nMinPagingFileSize=65536\r\n";
   const std::string path = own_folder + "\\READ.INI";
   const os::FileHandle file = real.files.CreateFileA(path.c_str(), os::kGenericWrite, os::kCreateAlways);
-  if (file == os::kInvalidFile) return Outcome::Failed(path + " cannot be made");
+  if (file == os::kInvalidFile) return Outcome::Failed(path + " cannot be created");
   std::uint32_t written_bytes = 0;
   const bool is_written = real.files.WriteFile(file, kContent.data(), kContent.size(), written_bytes);
   real.files.CloseHandle(file);
@@ -210,7 +211,7 @@ Outcome ProfileFileReads(const os::System& real, const std::string& own_folder) 
   real.profile_files.WritePrivateProfileStringA(nullptr, nullptr, nullptr, path.c_str());
   const bool is_deleted = real.files.DeleteFileA(path.c_str());
   if (!is_written) return Outcome::Failed(path + " cannot be written");
-  if (!is_read) return Outcome::Failed("an entry reads otherwise than it was written");
+  if (!is_read) return Outcome::Failed("an entry was not read back as written");
   return Outcome::Expect(is_deleted, "the file cannot be deleted");
 }
 
@@ -225,15 +226,15 @@ void RunReadingChecks(Report& report, const os::System& real, const std::string&
       {"Date and time", &ClockTells},
       {"Event pump", &PumpWaits},
       {"Memory status", &MemoryTells},
-      {"Folder of Windows", &WindowsFolderIsThere},
-      {"List of drives (with kind)", &DrivesAreListed},
-      {"Drive of Windows", &DriveOfWindowsTells},
+      {"Windows folder", &WindowsFolderIsThere},
+      {"Drives and their types", &DrivesAreListed},
+      {"Windows drive", &DriveOfWindowsTells},
       {"Reading the registry", &RegistryReads},
       {"Processor load", &StatisticTells},
       {"Processor", &ProcessorTells},
-      {"Folders of the shell", &ShellFoldersAreThere},
-      {"Path of this program", &OwnPathIsKnown},
-      {"Looking up a file", &FileIsLookedUp},
+      {"Shell folders", &ShellFoldersAreThere},
+      {"Program path", &OwnPathIsKnown},
+      {"Finding a file", &FileIsLookedUp},
       {"Windows of other programs", &WindowsAreFound},
   }};
   for (const Reading& reading : kReadings) {

@@ -140,13 +140,13 @@ TEST_F(SelfTest, FindsEverythingInOrderAndLeavesNothingButItsLog) {
     EXPECT_TRUE(results.contains(std::string("QDIX: tab \"") + page.caption + "\"")) << page.caption;
   }
   for (const char* const name :
-       {"Processor load", "Looking up a file", "Reading an INI file", "Drawing the graph", "undo: controls",
-        "configL: controls", "help: controls", "Releasing 1 MB", "Typing a text", "Finding all of it again",
-        "Taking everything away again"}) {
+       {"Processor load", "Finding a file", "Reading an INI file", "Drawing the graph", "undo: controls",
+        "configL: controls", "help: controls", "Releasing 1 MB", "Typing a text", "Reading everything back",
+        "Removing the test key and folder"}) {
     EXPECT_TRUE(results.contains(name)) << name;
   }
   const std::string count = std::to_string(results.size());
-  EXPECT_EQ(said, "All " + count + " checks are ok.\r\n\r\nThe log is " + ProgramPath(kLog));
+  EXPECT_EQ(said, "All " + count + " checks passed.\r\n\r\nThe log file is " + ProgramPath(kLog));
   EXPECT_NE(text.find("\r\n" + count + " checks, " + count + " ok, 0 failed, "), std::string::npos) << text;
   EXPECT_NE(text.find("\r\nSystem               Windows 4.10"), std::string::npos) << text;
 }
@@ -176,10 +176,12 @@ TEST_F(SelfTest, LogsFailuresInTheTemporaryFolder) {
   for (const auto& [name, result] : results) {
     if (result != kOk) failed[name] = result.substr(0, result.rfind(','));
   }
-  EXPECT_EQ(failed, (Results{{"Reading an INI file", "FAILED: " + held_path + " cannot be made"},
-                             {"Taking everything away again", "FAILED: " + own_folder + " stays"}}));
-  EXPECT_EQ(said,
-            "2 of " + std::to_string(results.size()) + " checks failed.\r\n\r\nThe log is " + log.Path());
+  EXPECT_EQ(
+      failed,
+      (Results{{"Reading an INI file", "FAILED: " + held_path + " cannot be created"},
+               {"Removing the test key and folder", "FAILED: " + own_folder + " could not be removed"}}));
+  EXPECT_EQ(said, "2 of " + std::to_string(results.size()) + " checks failed.\r\n\r\nThe log file is " +
+                      log.Path());
 }
 
 }  // namespace

@@ -41,7 +41,7 @@ Outcome Shows(const ui::win32::BitmapCanvas& canvas, std::span<const Pixel> pixe
     const COLORREF wanted = GetNearestColor(canvas.Device(), pixel.colour);
     if (LooksLike(GetPixel(canvas.Device(), pixel.x, pixel.y), wanted)) continue;
     return Outcome::Failed("pixel " + base::TextOf(pixel.x) + "," + base::TextOf(pixel.y) +
-                           " has another colour");
+                           " has the wrong colour");
   }
   return Outcome::Ok();
 }
@@ -75,7 +75,7 @@ Outcome GraphDraws() {
   graph.SurfaceChanged(&canvas);
   const base::Status full = graph.Update(100);
   const base::Status half = graph.Update(50);
-  Outcome outcome = full.Ok() && half.Ok() ? Shows(canvas, kPixels) : Outcome::Failed("it refuses a value");
+  Outcome outcome = full.Ok() && half.Ok() ? Shows(canvas, kPixels) : Outcome::Failed("a value was rejected");
   graph.SurfaceChanged(nullptr);
   return outcome;
 }
@@ -92,7 +92,7 @@ Outcome GaugeDraws() {
   ui::win32::BitmapCanvas canvas(gauge.InnerSize().width, gauge.InnerSize().height);
   gauge.SurfaceChanged(&canvas);
   const base::Status set = gauge.SetValue(controls::Meter3::kSegments / 2);
-  Outcome outcome = set.Ok() ? Shows(canvas, kPixels) : Outcome::Failed("it refuses a value");
+  Outcome outcome = set.Ok() ? Shows(canvas, kPixels) : Outcome::Failed("a value was rejected");
   gauge.SurfaceChanged(nullptr);
   return outcome;
 }
@@ -100,7 +100,7 @@ Outcome GaugeDraws() {
 }  // namespace
 
 void RunDrawingChecks(Report& report) {
-  report.Run("Colours of the drawings", &ColoursDiffer);
+  report.Run("Drawing colours", &ColoursDiffer);
   report.Run("Drawing the graph", &GraphDraws);
   report.Run("Drawing a gauge", &GaugeDraws);
 }

@@ -32,8 +32,8 @@ std::string Display() {
   const ui::win32::ScreenDevice screen;
   const int bits = GetDeviceCaps(screen.Get(), BITSPIXEL) * GetDeviceCaps(screen.Get(), PLANES);
   return base::TextOf(GetDeviceCaps(screen.Get(), HORZRES)) + " x " +
-         base::TextOf(GetDeviceCaps(screen.Get(), VERTRES)) + ", " + base::TextOf(bits) + " bits a pixel, " +
-         base::TextOf(GetDeviceCaps(screen.Get(), LOGPIXELSX)) + " dots an inch";
+         base::TextOf(GetDeviceCaps(screen.Get(), VERTRES)) + ", " + base::TextOf(bits) +
+         " bits per pixel, " + base::TextOf(GetDeviceCaps(screen.Get(), LOGPIXELSX)) + " dots per inch";
 }
 
 std::string Processor(os::Processor& processor) {

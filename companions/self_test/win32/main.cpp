@@ -39,11 +39,11 @@ class SelfTest {
                  base::TextOf(app::kMinorVersion) + "." + base::TextOf(app::kRevision));
     WriteMachineFacts(report_, real);
     report_.Line("");
-    report_.Run("Places of its own", [this] { return places_.AreMade(); });
+    report_.Run("Preparing the test key and folder", [this] { return places_.AreMade(); });
     RunReadingChecks(report_, real, places_.Places().folder);
     RunDrawingChecks(report_);
     RunPrograms();
-    report_.Run("Taking everything away again", [this] { return places_.Remove(); });
+    report_.Run("Removing the test key and folder", [this] { return places_.Remove(); });
     report_.Finish();
   }
 
@@ -57,9 +57,9 @@ class SelfTest {
     }
     const bool is_ok = report_.Failures() == 0;
     const std::string count = base::TextOf(report_.Checks());
-    const std::string result = is_ok ? "All " + count + " checks are ok."
+    const std::string result = is_ok ? "All " + count + " checks passed."
                                      : base::TextOf(report_.Failures()) + " of " + count + " checks failed.";
-    Say(result + "\r\n\r\nThe log is " + report_.Path(),
+    Say(result + "\r\n\r\nThe log file is " + report_.Path(),
         is_ok ? os::kMbIconInformation : os::kMbIconExclamation);
     return is_ok ? 0 : 1;
   }
@@ -73,7 +73,7 @@ class SelfTest {
   /// system.ini.
   void RunPrograms() {
     const auto system = std::make_unique<PrivateSystem>(real_.GetSystem(), places_.Places());
-    report_.Run("Settings of its own", [this, &system] { return Prepare(*system); });
+    report_.Run("Preparing the test settings", [this, &system] { return Prepare(*system); });
     const Bench bench{instance_, report_, *system};
     RunWindowChecks(bench);
     RunRoundTripChecks(bench);
@@ -82,7 +82,7 @@ class SelfTest {
   [[nodiscard]] Outcome Prepare(const PrivateSystem& system) const {
     std::array<char, MAX_PATH> windows{};
     if (real_.GetSystem().files.GetWindowsDirectoryA(windows.data(), windows.size()) >= windows.size()) {
-      return Outcome::Failed("the folder of Windows is not known");
+      return Outcome::Failed("the Windows folder is unknown");
     }
     const std::string source = std::string(windows.data()) + "\\system.ini";
     const std::string target = places_.Places().folder + "\\system.ini";
@@ -91,7 +91,7 @@ class SelfTest {
     }
     auto machine =
         shell::RegistryKey::Create(system.GetSystem().registry, os::kHkeyLocalMachine, shell::kMachineKey);
-    return Outcome::Expect(machine.WriteText("HasRun", "1"), "the key of the registry cannot be written");
+    return Outcome::Expect(machine.WriteText("HasRun", "1"), "the registry key cannot be written");
   }
 
   HINSTANCE instance_;

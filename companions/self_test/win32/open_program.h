@@ -55,14 +55,14 @@ class OpenProgram {
 
   /// Starts the program as its own entry point does. Its message boxes become part of the outcome.
   [[nodiscard]] Outcome Start() {
-    if (!window_.Complete()) return Outcome::Failed("a window could not be made");
+    if (!window_.Complete()) return Outcome::Failed("a window could not be created");
     static_cast<void>(system_.Dialogs().TakeTexts());
     program_.Start();
     system_.GetSystem().event_pump.PumpEvents();
     const std::string said = system_.Dialogs().TakeTexts();
-    if (program_.Window().Unloaded()) return Outcome::Failed("it closed again and said: " + said);
+    if (program_.Window().Unloaded()) return Outcome::Failed("it closed at once; message: " + said);
     if (IsWindowVisible(MainWindow()) == FALSE) return Outcome::Failed("the window is not shown");
-    return Outcome::Ok(said.empty() ? said : "it said: " + said);
+    return Outcome::Ok(said.empty() ? said : "message: " + said);
   }
 
   /// Handles pending events, then calls WalkWindows.

@@ -86,14 +86,15 @@ OwnPlacesKeeper::OwnPlacesKeeper()
 }
 
 Outcome OwnPlacesKeeper::AreMade() const {
-  return is_made_ ? Outcome::Ok(places_.folder) : Outcome::Failed("there is no " + places_.folder);
+  return is_made_ ? Outcome::Ok(places_.folder)
+                  : Outcome::Failed("cannot prepare the test key or " + places_.folder);
 }
 
 Outcome OwnPlacesKeeper::Remove() const {
   const bool key_is_gone = DeleteKeyTree(HKEY_CURRENT_USER, kOwnKey);
   const bool above_is_gone = settings_existed_ || DeleteEmptyKey(kSettingsKey);
-  if (!DeleteFolder(places_.folder)) return Outcome::Failed(places_.folder + " stays");
-  return Outcome::Expect(key_is_gone && above_is_gone, "the key of the registry stays");
+  if (!DeleteFolder(places_.folder)) return Outcome::Failed(places_.folder + " could not be removed");
+  return Outcome::Expect(key_is_gone && above_is_gone, "the registry key could not be removed");
 }
 
 }  // namespace qdix::self_test::win32

@@ -49,14 +49,15 @@ Outcome SaveProgramList(const Bench& bench) {
   open->Notify(screen.cmdAdd, BN_CLICKED);
   open->Notify(screen.cmdOK, BN_CLICKED);
   const bool is_saved = open->TheProgram().Window().Unloaded();
-  return is_saved ? Outcome::Ok() : Outcome::Failed("it said: " + bench.system.Dialogs().TakeTexts());
+  return is_saved ? Outcome::Ok()
+                  : Outcome::Failed("the list was not saved; message: " + bench.system.Dialogs().TakeTexts());
 }
 
 Outcome TickBox(const Bench& bench, MainProgram& open) {
   const ui::CheckBox& box = open.TheProgram().Startup().Check4;
   open.Notify(box, BN_CLICKED);
   if (SendMessageA(open.WindowOf(box), BM_GETCHECK, 0, 0) != BST_CHECKED) {
-    return Outcome::Failed("the window shows no tick");
+    return Outcome::Failed("the box is not ticked");
   }
   return Stored(bench, shell::kSettingsSection, "Warnings", "1");
 }
@@ -77,18 +78,19 @@ Outcome FindAgain(MainProgram& open) {
   Outcome started = open.Start();
   if (!started.is_ok) return started;
   app::Form1& form1 = open.TheProgram();
-  if (form1.MainWindow().SSTab1.Tab() != screens::kStartupTab) return Outcome::Failed("another tab is open");
+  if (form1.MainWindow().SSTab1.Tab() != screens::kStartupTab)
+    return Outcome::Failed("the wrong tab is open");
   const screens::StartupScreen& startup = form1.Startup();
   if (SendMessageA(open.WindowOf(startup.Check4), BM_GETCHECK, 0, 0) != BST_CHECKED) {
-    return Outcome::Failed("the tick is lost");
+    return Outcome::Failed("the tick was not restored");
   }
-  if (TextOf(open.WindowOf(startup.Text3)) != kDelayText) return Outcome::Failed("the text is lost");
+  if (TextOf(open.WindowOf(startup.Text3)) != kDelayText) return Outcome::Failed("the text was not restored");
   if (SendMessageA(open.WindowOf(startup.Slider7), TBM_GETPOS, 0, 0) != kSliderPosition) {
-    return Outcome::Failed("the position of the slider is lost");
+    return Outcome::Failed("the slider position was not restored");
   }
   form1.MainWindow().SSTab1.ChooseTab(screens::kLauncherTab);
   return Outcome::Expect(RowOf(open.WindowOf(form1.Launcher().List5), 0) == kProgramName,
-                         "the list of programs is lost");
+                         "the program list was not restored");
 }
 
 struct OneMegabyte {
@@ -105,20 +107,20 @@ Outcome ReleaseOneMegabyte(const Bench& bench, MainProgram& open) {
   const memory::ReleaseOutcome outcome = open.TheProgram().Release().FreeUpMemory(
       {.amount_mb = base::Callback<double()>::To<&OneMegabyte::Amount>(one), .passes = 1});
   if (outcome != memory::ReleaseOutcome::kFinished) {
-    return Outcome::Failed("it did not finish: " + bench.system.Dialogs().TakeTexts());
+    return Outcome::Failed("the release did not finish: " + bench.system.Dialogs().TakeTexts());
   }
-  if (memory.Taken() != taken_before + 1) return Outcome::Failed("it took no block");
+  if (memory.Taken() != taken_before + 1) return Outcome::Failed("no block was allocated");
   if (memory.TouchedBytes() - touched_before < kMinBytes) return Outcome::Failed("the block is too small");
-  return Outcome::Expect(memory.GivenBack() == memory.Taken(), "the block was not given back");
+  return Outcome::Expect(memory.GivenBack() == memory.Taken(), "the block was not freed");
 }
 
 }  // namespace
 
 void RunRoundTripChecks(const Bench& bench) {
   Report& report = bench.report;
-  report.Run("Saving the list of programs", [&bench] { return SaveProgramList(bench); });
+  report.Run("Saving a program list", [&bench] { return SaveProgramList(bench); });
   auto open = std::make_unique<MainProgram>(bench);
-  report.Run("QDIX with this list", [&open] { return open->Start(); });
+  report.Run("QDIX: start with this list", [&open] { return open->Start(); });
   report.Run("Releasing 1 MB", [&bench, &open] { return ReleaseOneMegabyte(bench, *open); });
   base::Ignore(open->TheProgram().MainWindow().SSTab1.SetTab(screens::kStartupTab));
   report.Run("Ticking a box", [&bench, &open] { return TickBox(bench, *open); });
@@ -126,7 +128,7 @@ void RunRoundTripChecks(const Bench& bench) {
   report.Run("Dragging a slider", [&bench, &open] { return DragSlider(bench, *open); });
   open.reset();
   open = std::make_unique<MainProgram>(bench);
-  report.Run("Finding all of it again", [&open] { return FindAgain(*open); });
+  report.Run("Reading everything back", [&open] { return FindAgain(*open); });
 }
 
 }  // namespace qdix::self_test::win32

@@ -18,7 +18,7 @@ template <class Program>
 Outcome Close(std::unique_ptr<OpenProgram<Program>>& open) {
   HWND const main = open->MainWindow();
   open.reset();
-  return Outcome::Expect(IsWindow(main) == FALSE, "its window is still there");
+  return Outcome::Expect(IsWindow(main) == FALSE, "its window is still open");
 }
 
 /// Opens, checks and closes a program with a single page.
@@ -58,7 +58,7 @@ void CheckHelpViewer(const Bench& bench) {
       .packed_stream = help_viewer::win32::PackedTopics(bench.instance, kSelfTestTopics),
       .command_line = "help.exe 4"};
   bench.report.Run("help: topics", [&start] {
-    return Outcome::Expect(!start.packed_stream.empty(), "the program carries none");
+    return Outcome::Expect(!start.packed_stream.empty(), "the program contains no topics");
   });
   CheckProgram<help_viewer::HelpForm>(bench, "help", devices, start);
 }

@@ -76,12 +76,12 @@ class WindowWalk {
   [[nodiscard]] const char* FaultOf(const ui::Control& control) const {
     HWND const window = WindowOf(main_, form_, control);
     if (window == nullptr) return IsOnOpenPage(control) ? "has no window" : nullptr;
-    if ((IsWindowVisible(window) != FALSE) != ShouldBeSeen(control)) return "is shown or hidden by mistake";
+    if ((IsWindowVisible(window) != FALSE) != ShouldBeSeen(control)) return "is wrongly shown or hidden";
     const auto caption_length = static_cast<int>(control.Caption().size());
     if (CarriesCaption(control.GetKind()) && GetWindowTextLengthA(window) < caption_length) {
-      return "lacks its caption";
+      return "has an incomplete caption";
     }
-    return LiesInside(window, StandsOn(main_, form_, control)) ? nullptr : "reaches beyond its window";
+    return LiesInside(window, StandsOn(main_, form_, control)) ? nullptr : "extends beyond its window";
   }
 
   HWND main_;
