@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Writes what stands between programs and the system:   make_strict.py --output FOLDER --generated FOLDER --libraries FOLDER --exports FOLDER EXE...
+"""Puts Guard.dll between the programs and the system:   make_strict.py --output FOLDER --generated FOLDER --libraries FOLDER --exports FOLDER EXE...
 
-FOLDER of --output gets a copy of each EXE that imports everything from Guard.dll, and the names of its functions. FOLDER of
---generated gets the entries of that library, one for each imported function, and the names that the first Windows 95 exports.
+Writes to the --output folder a copy of each EXE that imports everything from Guard.dll, and its symbol list. Writes to the
+--generated folder the sources of that library: an entry for each imported function, and the names that the first Windows 95 exports.
 """
 import argparse
 import pathlib
@@ -18,14 +18,14 @@ from export_lists import LATER, exported_names, listed_names, stubs  # noqa: E40
 
 GUARD = "Guard.dll"
 NM = "i686-w64-mingw32-nm"
-# What the programs look up instead of importing it: library and words of arguments.
+# Functions that the programs look up at run time instead of importing them: library, and argument size in words.
 LOOKED_UP = {"GetDiskFreeSpaceExA": ("KERNEL32.dll", 4), "CoCreateInstance": ("ole32.dll", 5)}
 
 ENTRY = r"""asm(".globl _Entry_{name}\n_Entry_{name}:\n\tpushl ${index}\n\tjmp _GuardThunk");"""
 
 
 def argument_words(library, libraries):
-    """How many words of arguments each function of an import library takes, by the decoration of its name."""
+    """Returns the argument size of each function of an import library in words, read from its decorated name."""
     path = libraries / f"lib{library.lower().removesuffix('.dll')}.a"
     symbols = subprocess.run([NM, path], check=True, capture_output=True, text=True).stdout
     return {name: int(size) // 4 for name, size in re.findall(r" I __imp__(\w+)@(\d+)$", symbols, re.MULTILINE)}
@@ -38,7 +38,7 @@ def write_if_changed(path, text):
 
 
 def imports_of(exes):
-    """Library of each function that one of the programs imports."""
+    """Returns the library of each function that any of the programs imports or looks up."""
     found = {name: library for name, (library, _) in LOOKED_UP.items()}
     for exe in exes:
         for library, _, functions in PortableExe(exe.read_bytes()).libraries():

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A strict copy differs from its shipped program in the names of the imported libraries only:
+"""A strict copy differs from its shipped program only in the names of the imported libraries:
 
 names_only_test.py STRICT_FOLDER SHIPPED_EXE...
 """
@@ -14,7 +14,7 @@ GUARD = "Guard.dll"
 
 
 def differences(shipped, strict):
-    """Places that differ, and places that may."""
+    """Returns the offsets of the bytes that differ, and of those that may."""
     places = {place for place, (one, other) in enumerate(zip(shipped, strict)) if one != other}
     names = set()
     for name, begin, _ in PortableExe(shipped).libraries():

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The strict Windows 95 reports each planted fault, names the function that it is in, and reports nothing else.
+"""The strict Windows 95 reports each planted fault with the function that contains it, and nothing else.
 
 planted_test.py EXE EMULATOR
 """
@@ -14,7 +14,7 @@ import unittest
 EMULATOR = sys.argv.pop()
 EXE = pathlib.Path(sys.argv.pop())
 
-# Number of the rule, call and what is said of it, for each function of planted.cpp.
+# For each function of planted.cpp: number of the rule, the call, and the reported text.
 EXPECTED = {
     "BoxBehindOthers": (5, "MessageBoxA", "a box of a window that nobody sees"),
     "LookupOfAStub": (1, "GetProcAddress", "MoveFileExA is there only to fail"),
@@ -38,10 +38,10 @@ EXPECTED = {
     "ForeignControlWord": (8, "PeekMessageA", "goes on with the control word 0x87f of somebody else"),
     "ClosedKey": (9, "RegQueryValueExA", "uses a key that it does not hold"),
     "CopyOfAnUnwrittenProfile": (10, "CopyFileA", "planted.ini is not flushed yet"),
-    # What it needs to show that coordinates are cut.
+    # The wide coordinate that it needs to show the truncation is reported too.
     "CutsCoordinates": (6, "MoveWindow", "left is 0x10007"),
 }
-# Rules that play an answer and report nothing; the program looks at the answers itself.
+# Rules that simulate an answer and report nothing; planted.exe checks these answers itself.
 PLAYED = {11, 12, 13}
 TABLE = (pathlib.Path(__file__).parent / "README.md").read_text(encoding="utf-8")
 LINE = re.compile(r"violation (?P<rule>\d+) planted\.exe (?P<call>\w+): (?P<text>.*); in (?:.*::)?(?P<place>\w+)(?:\(.*)?$")

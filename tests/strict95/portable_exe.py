@@ -13,7 +13,7 @@ class PortableExe:
         self.import_table = struct.unpack_from("<I", self.content, header + 24 + 96 + 8)[0]
 
     def offset(self, address):
-        """The place in the file of an address relative to the image."""
+        """Returns the file offset of an address relative to the image base."""
         for _, size, begin, size_in_file, begin_in_file in self.sections:
             if begin <= address < begin + max(size, size_in_file):
                 return begin_in_file + address - begin
@@ -23,7 +23,7 @@ class PortableExe:
         return self.content[offset:self.content.index(0, offset)].decode("ascii")
 
     def libraries(self):
-        """Name, place of the name in the file, and imported functions of each library."""
+        """Yields the name of each imported library, the file offset of that name, and the imported functions."""
         entry = self.offset(self.import_table)
         while True:
             names, _, _, library, addresses = struct.unpack_from("<5I", self.content, entry)

@@ -1,5 +1,5 @@
-// Questions that came with later systems are answered as the older one does: with no, null or its own
-// version.
+// Answers questions that only later systems understand as the chosen system does: with failure, null or its
+// own version.
 #include <algorithm>
 #include <cstring>
 #include <string>
@@ -16,7 +16,7 @@ enum class Lacks {
   kRtmOnly
 };
 
-/// What is asked for in an argument above a number gets this answer, and the system is not asked.
+/// If the argument is greater than `last_known`, the call gets this answer without reaching the system.
 struct Answer {
   const char* function;
   unsigned argument;
@@ -26,7 +26,7 @@ struct Answer {
 };
 
 constexpr Answer kAnswers[] = {
-    // Colours to that of a tip's background.
+    // Windows 95 knows the colours up to COLOR_INFOBK.
     {"GetSysColor", 1, 24, 0, Lacks::kRtmOnly},
     {"GetSysColorBrush", 1, 24, 0, Lacks::kRtmOnly},
     {"GetSysColor", 1, 28, 0, Lacks::kBoth},
@@ -49,7 +49,7 @@ std::string LibraryName(HMODULE module) {
   return name;
 }
 
-/// Null where not even Windows ME has it.
+/// Returns null if not even Windows ME has the function.
 const Export* FindExport(const std::string& library, std::string_view name) {
   const Export* const end = kExports + kExportCount;
   const Export* const found = std::find_if(kExports, end, [&library, name](const Export& one) {
@@ -70,7 +70,7 @@ void CheckLookup(Call& call) {
   if (!is_there) call.Refuse(0);
 }
 
-/// What is looked up is guarded like what is imported.
+/// Gives the program the guard's entry for a looked-up function, as for an imported one.
 void GuardLookup(HMODULE guard, Call& call) {
   const char* const name = call.Argument<const char*>(2);
   const std::size_t number = HIWORD(name) == 0 ? kImportCount : ImportNumber(name);

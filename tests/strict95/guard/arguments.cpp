@@ -1,5 +1,5 @@
-// Sizes of records, flags, numbers and ranges, by a table: what the first Windows 95 knows, and what its
-// 16-bit parts can count.
+// A table of structure sizes, flags, numbers and ranges: what the first Windows 95 knows, and what fits into
+// its 16-bit parts.
 #include <cstring>
 
 #include "tests/strict95/guard/rules.h"
@@ -9,17 +9,17 @@ namespace qdix::strict95 {
 namespace {
 
 enum class Check {
-  /// The first word of a record holds exactly this.
+  /// The first word of the structure equals the value.
   kSize,
-  /// No bits but these.
+  /// Only these bits are set.
   kFlags,
-  /// No more than this.
+  /// At most the value.
   kMax,
-  /// A signed number of 16 bits, or the system's own choice.
+  /// A signed number of 16 bits, or CW_USEDEFAULT.
   kCoordinate
 };
 
-/// Where the argument itself is looked at, and not a record that it leads to.
+/// Offset for checking the argument itself instead of a field of the structure that it points to.
 constexpr int kItself = -1;
 
 struct ArgumentRule {
@@ -148,7 +148,7 @@ bool Fits(const ArgumentRule& row, std::uint32_t value) {
   }
 }
 
-/// SCROLLINFO holds what its mask says; the other fields are nobody's.
+/// True for a field of SCROLLINFO that its mask leaves out.
 bool IsMeaningless(const ArgumentRule& row, const std::uint32_t* record) {
   if (std::strcmp(row.function, "SetScrollInfo") != 0 || row.offset < 8) return false;
   const std::uint32_t mask = record[1];
@@ -165,7 +165,7 @@ void CheckArgument(const ArgumentRule& row, Call& call) {
   }
   if (Fits(row, value)) return;
   Report(call, RuleOf(row), Format("%s is %#x", row.what, value));
-  // What the 16-bit parts of Windows 95 make of it.
+  // Truncate the value as the 16-bit parts of Windows 95 do.
   if (row.offset == kItself && row.check == Check::kCoordinate) {
     call.arguments[row.argument - 1] =
         static_cast<std::uint32_t>(static_cast<std::int32_t>(static_cast<std::int16_t>(value)));

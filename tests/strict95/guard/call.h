@@ -1,4 +1,4 @@
-// One call of the guarded program to the system, and who wants to see which of them.
+// A call from the guarded program to the system, and the handlers that watch calls.
 #pragma once
 
 // clang-format off
@@ -16,19 +16,20 @@ namespace qdix::strict95 {
 
 struct Call {
   const Import* import = nullptr;
-  /// Before the call those that the system is going to get, which may be changed; after it a copy.
+  /// Before the call: the arguments that the system will receive; handlers may change them. Afterwards: a
+  /// copy.
   std::uint32_t* arguments = nullptr;
-  /// Where the program goes on.
+  /// The return address in the program.
   std::uintptr_t caller = 0;
-  /// The system's answer, which may be changed after the call.
+  /// The system's answer. Handlers that run after the call may change it.
   std::uint32_t result = 0;
-  /// Set before the call, the system is not asked and `result` is the answer.
+  /// If set before the call, the system is not called and `result` is the answer.
   bool is_refused = false;
 
-  /// Argument by its number, from 1.
+  /// Returns an argument by its number, from 1.
   template <typename Value = std::uint32_t>
   [[nodiscard]] Value Argument(unsigned number) const {
-    // Everything that the system takes on its stack has the size of a word, whether number or address.
+    // Every argument on the stack is one word of 32 bits, a number or an address.
     union {
       std::uint32_t word;
       Value value;
@@ -44,7 +45,7 @@ struct Call {
 
 using Handler = std::function<void(Call&)>;
 
-/// The handlers of each function, filled once by the rules.
+/// Holds the handlers of each function. The rules add them once, at the start.
 class Watches {
  public:
   struct Function {
@@ -53,7 +54,7 @@ class Watches {
   };
 
   Watches();
-  /// Nothing happens where no program imports the function, which has to be one of Windows 95.
+  /// Does nothing if no program imports the function. Aborts if no Windows has a function of this name.
   void Before(std::string_view function, Handler handler);
   void After(std::string_view function, Handler handler);
   [[nodiscard]] Function& At(std::size_t index) { return functions_[index]; }
@@ -65,17 +66,17 @@ class Watches {
   Function of_nobody_;
 };
 
-/// Number of a function among the imports; kImportCount where no program imports it.
+/// Returns the index of a function among the imports; kImportCount if no program imports it.
 [[nodiscard]] std::size_t ImportNumber(std::string_view name);
 
 enum class Machine {
-  /// 4.00.950, with the common controls 4.00.
+  /// 4.00.950, with common controls 4.00.
   kRtm,
   /// 4.10: extended disk query, foreground lock.
   k98
 };
 
-/// The machine that the environment variable QDIX_STRICT names, "rtm" or "98".
+/// Returns the machine that the environment variable QDIX_STRICT names: "rtm"; anything else is Windows 98.
 [[nodiscard]] Machine ChosenMachine();
 
 }  // namespace qdix::strict95

@@ -1,5 +1,5 @@
-// Printer drivers, file dialogs, COM and shell extensions leave the 387 in a state of their own. A program
-// sets its own again before it goes on, or its figures change.
+// Printer drivers, file dialogs, COM and shell extensions may change the 387's control word. A program must
+// restore its own before it continues, or its results change.
 #include "tests/strict95/guard/rules.h"
 
 namespace qdix::strict95 {
@@ -8,7 +8,7 @@ namespace {
 
 /// 24 bits of precision, rounding upwards, no exceptions.
 constexpr std::uint16_t kHostile = 0x087F;
-/// What decides about figures: precision and rounding. The exceptions that are masked are left alone.
+/// The bits that affect results: precision and rounding. The exception masks do not matter.
 constexpr std::uint16_t kPrecisionAndRounding = 0x0F00;
 
 struct Expected {

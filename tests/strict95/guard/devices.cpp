@@ -1,5 +1,5 @@
-// A new page resets the printer's device context on Windows 95: fonts, colours and modes are the first ones
-// again.
+// On Windows 95 a new page resets the printer's device context: fonts, colours and modes return to their
+// defaults.
 #include "tests/strict95/guard/rules.h"
 
 namespace qdix::strict95 {

@@ -1,4 +1,4 @@
-// Questions about drives, and about files on a drive that has no disk in it.
+// Queries about drives, and about files on a drive without a disk.
 #include <array>
 #include <cctype>
 #include <cstdlib>
@@ -10,7 +10,7 @@ namespace qdix::strict95 {
 
 namespace {
 
-/// A drive question takes the root as a path.
+/// Drive queries need a root path that ends with a backslash.
 void CheckRoot(Call& call) {
   const char* const root = call.Argument<const char*>(1);
   if (root == nullptr || (root[0] != '\0' && root[std::strlen(root) - 1] == '\\')) return;
@@ -18,14 +18,14 @@ void CheckRoot(Call& call) {
   call.Refuse(0);
 }
 
-/// The drive that is never ready: QDIX_STRICT_EMPTY_DRIVE, a letter.
+/// True for a path on the drive that is never ready. QDIX_STRICT_EMPTY_DRIVE holds its letter.
 bool IsOnEmptyDrive(const char* path) {
   const char* const empty = std::getenv("QDIX_STRICT_EMPTY_DRIVE");
   return empty != nullptr && path != nullptr && std::toupper(path[0]) == std::toupper(empty[0]) &&
          path[1] == ':';
 }
 
-/// Without an error mode the system shows a box of its own, before the program knows.
+/// Without SEM_FAILCRITICALERRORS the system shows its own message box before the call returns.
 void CheckReady(Call& call, unsigned argument, std::uint32_t failure) {
   if (!IsOnEmptyDrive(call.Argument<const char*>(argument))) return;
   const UINT mode = SetErrorMode(0);

@@ -1,6 +1,5 @@
-// The way of every call: from the entry that the program imports, past the rules, to the system and back past
-// the rules. Only the thread that the program was started on is looked at; it is the only one of a program of
-// ours.
+// The path of every call: from the entry that the program imports through the rules to the system, and back
+// through the rules. Only calls of the main thread are checked; our programs have no other.
 #include <array>
 #include <cstring>
 #include <optional>
@@ -13,12 +12,13 @@ namespace qdix::strict95 {
 namespace {
 
 constexpr std::size_t kMaxArguments = 16;
-/// Calls below each other: window procedures run inside of the calls that send to them.
+/// Limit for nested calls: a window procedure runs inside the call that sends it a message.
 constexpr std::size_t kMaxDepth = 1024;
-/// The last error before each call, and so after one that sets none: systems differ in which do.
+/// The last error before each call, and therefore after a call that sets none. Systems differ in which calls
+/// set it.
 constexpr DWORD kGarbageError = 0xDEAD;
 
-/// A call whose end is looked at.
+/// A call that has handlers to run after it.
 struct Pending {
   Call call;
   Watches::Function* function;
@@ -38,7 +38,7 @@ std::optional<State> state;
 }  // namespace
 
 extern "C" {
-// Read by the code below.
+// Read by the assembly code below.
 std::uint32_t guard_refusal = 0;
 std::uintptr_t guard_way_back = 0;
 void GuardThunk();
@@ -46,8 +46,8 @@ void GuardReturn();
 extern const FARPROC kGuardRefusals[];
 }
 
-// The entries push the number of their function. What is below it on the stack is the address behind the call
-// in the program, then the arguments.
+// Each entry pushes the index of its function. Below it on the stack are the return address in the program
+// and the arguments.
 asm(R"(
   .globl _GuardThunk
 _GuardThunk:
@@ -77,7 +77,7 @@ asm(REFUSAL(0) REFUSAL(1) REFUSAL(2) REFUSAL(3) REFUSAL(4) REFUSAL(5) REFUSAL(6)
 
 namespace {
 
-/// The call as it is handed on: the system itself, or nobody.
+/// Returns the code that continues the call: the system function, or a refusal.
 void* HandOn(Watches::Function& function, std::uint32_t* frame, const Call& call, FARPROC system) {
   if (call.is_refused) {
     guard_refusal = call.result;
@@ -96,7 +96,7 @@ void* HandOn(Watches::Function& function, std::uint32_t* frame, const Call& call
 
 }  // namespace
 
-/// Returns where the call goes on.
+/// Returns the address at which the call continues.
 extern "C" void* GuardEnter(std::uint32_t index, std::uint32_t* frame) {
   Watches::Function& function = state->watches.At(index);
   if (index != state->error_question) SetLastError(kGarbageError);
@@ -112,7 +112,7 @@ extern "C" void* GuardEnter(std::uint32_t index, std::uint32_t* frame) {
 
 extern "C" std::uint32_t GuardLeave(std::uint32_t result) {
   const DWORD error = GetLastError();
-  // A handler may change the entry of this depth no more: what it calls is not looked at.
+  // Handlers cannot overwrite this entry: the guard does not see the calls they make.
   Pending& pending = state->pending[--state->depth];
   pending.call.result = result;
   for (const Handler& handler : pending.function->after) handler(pending.call);
@@ -123,8 +123,8 @@ extern "C" std::uint32_t GuardLeave(std::uint32_t result) {
 
 namespace {
 
-/// Loads what the program would have loaded itself. What it does not import stays without an address until it
-/// is looked up.
+/// Loads the libraries that the program would have loaded itself, and finds the addresses of its imports. The
+/// other functions have no address until the program looks them up.
 void FindSystemFunctions() {
   auto* const image = reinterpret_cast<const char*>(GetModuleHandleA(nullptr));
   const auto& header = *reinterpret_cast<const IMAGE_NT_HEADERS32*>(

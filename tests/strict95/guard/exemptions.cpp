@@ -9,7 +9,7 @@ namespace {
 struct Exemption {
   Rule rule;
   const char* function;
-  /// Part of what the violation says.
+  /// Part of the violation's text.
   const char* text;
   const char* reason;
 };

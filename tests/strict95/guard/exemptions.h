@@ -1,4 +1,4 @@
-// What the guard sees and lets pass, with the reason.
+// Violations that the guard ignores, with the reasons.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ struct Violation {
   Rule rule;
   const char* function;
   const std::string& text;
-  /// Of the program, in which it happened.
+  /// The function of the program that made the call.
   const std::string& place;
 };
 

@@ -1,5 +1,6 @@
-// The foreground lock of Windows 98: a program that neither has the foreground nor was last clicked cannot
-// bring a window forward, and a box of a window that nobody sees opens behind all others.
+// The foreground lock of Windows 98: a program that neither has the foreground nor received the last click
+// cannot bring a window to the front. A message box without a visible owner then opens behind all other
+// windows.
 #include "tests/strict95/guard/rules.h"
 
 namespace qdix::strict95 {

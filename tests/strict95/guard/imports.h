@@ -1,4 +1,5 @@
-// What the guard stands between, and what the first Windows 95 has; both lists are made by make_strict.py.
+// The functions that the programs import, and those that the first Windows 95 exports. make_strict.py
+// generates both lists.
 #pragma once
 
 // clang-format off
@@ -19,14 +20,15 @@ struct Import {
 extern const Import kImports[];
 extern const std::size_t kImportCount;
 
-/// The system's address of each, null until it is known. A table of this image: tests put other code into it.
+/// The system's address of each import, null until it is known.
 extern FARPROC system_functions[];
 
 enum class Here {
-  /// On the first Windows 95.
+  /// Works on the first Windows 95.
   kWorks,
+  /// Exported by the first Windows 95, but a stub that only fails.
   kOnlyFails,
-  /// Windows ME has it, Windows 95 has not.
+  /// Added after Windows 95, at the latest by Windows ME.
   kLater
 };
 

@@ -1,5 +1,6 @@
-// Messages and styles by the class of the window: what the controls of the first Windows 95 know. A number
-// that another class owns means something else to them, since the 16-bit controls count from WM_USER.
+// Messages and styles by window class: what the controls of the first Windows 95 know. To them the number of
+// another class's message means something else, because the 16-bit controls count their messages from
+// WM_USER.
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -15,7 +16,7 @@ namespace qdix::strict95 {
 
 namespace {
 
-/// The messages of a control's own, and the styles in the lower half of its word.
+/// The messages of a control class, and its styles, which are in the low word.
 struct ClassRule {
   const char* name;
   UINT first;
@@ -41,12 +42,12 @@ struct Range {
   UINT last;
 };
 
-/// Numbers that belong to controls.
+/// Message numbers that belong to controls.
 constexpr Range kControlRanges[] = {{0xB0, 0xDF},   {0xE0, 0xEF},   {0xF0, 0xFF},   {0x140, 0x16F},
                                     {0x170, 0x17F}, {0x180, 0x1CF}, {0x400, 0x4FF}, {0x1000, 0x1FFF}};
 
 /// Messages of later systems: WM_GETOBJECT, WM_UNINITMENUPOPUP and its neighbours, WM_CHANGEUISTATE and its
-/// neighbours, WM_MOUSEWHEEL and behind it, WM_MOUSEHOVER, WM_MOUSELEAVE.
+/// neighbours, WM_MOUSEWHEEL and the numbers after it, WM_MOUSEHOVER, WM_MOUSELEAVE.
 constexpr Range kLater[] = {{0x3D, 0x3D}, {0x122, 0x126}, {0x127, 0x129}, {0x20A, 0x20E}, {0x2A0, 0x2A3}};
 
 template <std::size_t count>
@@ -69,8 +70,8 @@ std::array<char, 64> ClassOf(HWND window) {
   return name;
 }
 
-/// WPARAM has 16 bits in the messages of 16-bit controls; 0xFFFF is their -1. Addresses and the handles of
-/// images, which Wine makes longer than Windows 95 does, are no numbers.
+/// True if WPARAM does not fit into 16 bits, as the messages of 16-bit controls require; 0xFFFF is their -1.
+/// Leaves out addresses, and the handles of images, which are longer in Wine than in Windows 95.
 bool HasWideWord(const ClassRule& rule, UINT message, WPARAM wparam) {
   const bool is_16_bit = rule.last < WM_USER;
   const auto number = static_cast<std::int32_t>(wparam);

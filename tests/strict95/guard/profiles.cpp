@@ -1,5 +1,5 @@
-// Windows 95 keeps what is written to a profile in memory until it is flushed or another profile is asked
-// for. Who reads the file as a file before that finds it as it was.
+// Windows 95 keeps changes to an INI file in memory until they are flushed or another INI file is accessed.
+// Until then the file on the disk has its old contents.
 #include <algorithm>
 #include <cctype>
 #include <string>
@@ -10,7 +10,7 @@ namespace qdix::strict95 {
 
 namespace {
 
-/// The profile that is written in memory only; empty where none is.
+/// The INI file with changes in memory only; empty if there is none.
 std::string& Unwritten() {
   static std::string name;
   return name;
@@ -46,7 +46,7 @@ void AddProfileRules(Watches& watches) {
        {"CopyFileA", "CreateFileA", "MoveFileA", "FindFirstFileA", "GetFileAttributesA"}) {
     watches.Before(function, &CheckFlushed);
   }
-  // What is in memory only goes down with the system.
+  // Changes in memory are lost when the system shuts down.
   watches.Before("ExitWindowsEx", [](Call& call) {
     if (!Unwritten().empty()) Report(call, Rule::kProfileCache, Unwritten() + " is not flushed yet");
   });

@@ -17,7 +17,8 @@ std::string ProgramFile() {
   return {path.data(), GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size()))};
 }
 
-/// The function that an address lies in, by the list beside the program, which is sorted.
+/// Returns the function that contains an address, from the sorted symbol list next to the program; "?" if
+/// there is none.
 std::string FunctionAt(std::uintptr_t address) {
   std::FILE* const list = std::fopen((ProgramFile() + ".symbols").c_str(), "r");
   if (list == nullptr) return "?";
@@ -35,7 +36,7 @@ std::string FunctionAt(std::uintptr_t address) {
   return function;
 }
 
-/// One write for each line, since several programs may tell at once.
+/// Writes each line with a single call, because several programs may report at the same time.
 void Append(const std::string& line) {
   const char* const path = std::getenv("QDIX_STRICT_LOG");
   if (path == nullptr) return;
@@ -52,7 +53,7 @@ void Append(const std::string& line) {
 
 void Report(const Call& call, Rule rule, const std::string& text) {
   static std::set<std::string> told;
-  // The address is that of the instruction behind the call, which may be in the next function already.
+  // The return address may already belong to the next function, so look up the byte before it.
   const std::string function = FunctionAt(call.caller - 1);
   if (IsExempt({ProgramName(), rule, call.import->name, text, function})) return;
   const std::string line = Format("violation %d %s %s: %s; in %s\n", static_cast<int>(rule),

@@ -1,5 +1,5 @@
-// What the guard tells: violations as they happen, and at the end the most that the program held at once.
-// Lines are appended to the file that the environment variable QDIX_STRICT_LOG names.
+// Reports violations as they happen and, at the end, how many resources of each kind the program held at
+// most. Appends the lines to the file that the environment variable QDIX_STRICT_LOG names.
 #pragma once
 
 #include <string>
@@ -24,13 +24,13 @@ enum class Rule {
   kStartersWish
 };
 
-/// Tells of a violation once for each place in the program, unless it is exempt.
+/// Reports a violation, unless it is exempt. Reports the same call, text and calling function only once.
 void Report(const Call& call, Rule rule, const std::string& text);
 
-/// Tells how many of something the program held at once at most.
+/// Reports the largest number of resources of a kind that the program held at the same time.
 void ReportHeld(const char* what, int most);
 
-/// File name of the running program.
+/// Returns the file name of the running program, without its folder.
 [[nodiscard]] const std::string& ProgramName();
 
 [[nodiscard]] std::string Format(const char* format, ...) __attribute__((format(printf, 1, 2)));

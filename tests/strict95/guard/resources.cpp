@@ -1,5 +1,5 @@
-// Balance: what a program takes of the system it gives back, once, and never holds more at once than the
-// small heaps of Windows 95 can spare. No call of that system counts a program's objects.
+// Resource balance: a program frees what it allocates exactly once, and never holds more at a time than the
+// small heaps of Windows 95 can spare. Windows 95 has no call that counts a program's objects.
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -29,12 +29,12 @@ enum Kind {
 
 struct Budget {
   const char* name;
-  /// The most that a program may hold at once.
+  /// The largest number that a program may hold at a time.
   int most;
 };
 
-/// In the order of Kind. Windows 95 has five common device contexts for all programs together, one heap of 64
-/// KB for the GDI objects of all programs and one for the small parts of windows and menus.
+/// In the order of Kind. All programs on Windows 95 share five common device contexts, one 64 KB heap for GDI
+/// objects and another for the small parts of windows and menus.
 constexpr std::array<Budget, kKindCount> kBudgets = {{
     {"common device contexts", 4},
     {"memory and printer device contexts", 24},
@@ -53,7 +53,7 @@ constexpr std::array<Budget, kKindCount> kBudgets = {{
 enum class Place {
   kResult,
   kArgument,
-  /// The word that an argument leads to.
+  /// A word in the structure that the argument points to.
   kBehindArgument
 };
 
@@ -70,7 +70,7 @@ struct Movement {
   bool is_taken;
   Place place;
   unsigned argument;
-  /// Of the word in the record that the argument leads to.
+  /// Offset of that word in bytes.
   int offset;
   Success success;
 };
@@ -122,7 +122,8 @@ constexpr Movement kMovements[] = {
     Given("FreeLibrary", kLibraries, 1),
 };
 
-/// Handles of one kind that are held, each with how often: a registry key and a library are counted.
+/// The handles of one kind that the program holds, with a count for each: the same registry key or library
+/// can be opened several times.
 struct Holdings {
   std::map<std::uint64_t, int> held;
   int count = 0;
@@ -141,7 +142,7 @@ class Ledger {
     }
   }
 
-  /// False where it is not held.
+  /// Returns false if the program does not hold the handle.
   bool Give(Kind kind, std::uint64_t handle) {
     Holdings& all = kinds_[kind];
     const auto found = all.held.find(handle);
@@ -157,7 +158,7 @@ class Ledger {
   [[nodiscard]] int Count(Kind kind) const { return kinds_[kind].count; }
   [[nodiscard]] int Most(Kind kind) const { return kinds_[kind].most; }
 
-  /// Gives back what the system has taken back by itself.
+  /// Removes the handles that the system has freed itself.
   template <typename IsGone>
   void GiveAll(Kind kind, IsGone is_gone) {
     Holdings& all = kinds_[kind];
@@ -204,7 +205,7 @@ std::uint32_t HandleOf(const Call& call, const Movement& row) {
   }
 }
 
-/// The roots of the registry are always open.
+/// True for null and for the roots of the registry, which are always open.
 bool IsNobodys(Kind kind, std::uint32_t handle) {
   return handle == 0 || (kind == kKeys && handle >= 0x80000000U);
 }
@@ -220,7 +221,7 @@ void Move(const Call& call, const Movement& row) {
   }
 }
 
-/// Common device contexts go back to five that all programs share, so none is kept while the program waits.
+/// All programs share five common device contexts, so a program must not hold one while it waits.
 void CheckWaiting(const Call& call) {
   const int count = TheLedger().Count(kCommonDevices);
   if (count > 0) Report(call, Rule::kBalance, Format("waits with %d common device contexts", count));
@@ -236,7 +237,7 @@ void WindowsGone(const Call& /*call*/) {
 
 void MenuGone(const Call& call) {
   if (call.result == 0) return;
-  // Those below it go with it.
+  // DestroyMenu also destroys the submenus.
   TheLedger().GiveAll(kMenus, [](std::uint64_t menu) { return IsMenu(reinterpret_cast<HMENU>(menu)) == 0; });
 }
 
@@ -261,12 +262,12 @@ void AddResourceRules(Watches& watches) {
   for (const Movement& row : kMovements) {
     watches.After(row.function, [&row](Call& call) { Move(call, row); });
   }
-  // A shared image is the system's, and the program must not give it back.
+  // A shared image belongs to the system, and the program must not free it.
   watches.After("LoadImageA", [](Call& call) {
     if (call.result == 0 || (call.Argument(6) & LR_SHARED) != 0) return;
     TheLedger().Take(call, call.Argument(3) == IMAGE_BITMAP ? kObjects : kIcons, call.result);
   });
-  // Its device context is in the record that the window was painted with.
+  // The device context is the first word of PAINTSTRUCT.
   watches.After("EndPaint", [](Call& call) {
     TheLedger().Give(kCommonDevices, call.Argument<const std::uint32_t*>(2)[0]);
   });

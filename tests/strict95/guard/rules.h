@@ -1,4 +1,4 @@
-// The rules, each in a file of its own; README.md has the table of them.
+// The rules, one file each. README.md lists them.
 #pragma once
 
 #include "tests/strict95/guard/call.h"

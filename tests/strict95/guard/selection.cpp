@@ -1,5 +1,5 @@
-// What is selected into a device context cannot be deleted: Windows 95 refuses, and the object stays for
-// ever.
+// Windows 95 refuses to delete an object that is selected into a device context, and the object is never
+// freed.
 #include <map>
 
 #include "tests/strict95/guard/rules.h"
@@ -8,7 +8,7 @@ namespace qdix::strict95 {
 
 namespace {
 
-/// The object of each type in each device context that the program has selected into.
+/// The objects that the program has selected into each device context, by type.
 using Selections = std::map<HDC, std::map<DWORD, HGDIOBJ>>;
 
 Selections& TheSelections() {

@@ -1,5 +1,5 @@
-// How the program's window was asked to be shown by whoever started it: Windows puts that in place of the
-// first ordinary request, and for a window without an owner only.
+// The show command from STARTUPINFO: Windows uses it instead of the first ordinary show command that the
+// program gives for a top-level window without an owner.
 #include "tests/strict95/guard/rules.h"
 
 namespace qdix::strict95 {

@@ -1,6 +1,6 @@
-// One call of each kind that the strict Windows 95 must report, each in a function of its own that the report
-// has to name, and then what it must play. Ends with the number of the first play that did not come true, or
-// with 0.
+// Makes one call of each kind that the strict Windows 95 must report, each in its own function, which the
+// report must name. Then checks the answers that it must simulate. The exit code is the number of the first
+// wrong answer, or 0.
 #include <windows.h>
 // clang-format off
 #include <commctrl.h>
@@ -22,7 +22,7 @@ constexpr WORD kHandCursor = 32649;
 constexpr UINT kWheelLines = 0x68;
 constexpr int kHotColour = 26;
 
-/// A window that is not shown.
+/// A hidden window.
 class Window {
  public:
   explicit Window(const char* window_class)
@@ -39,7 +39,7 @@ class Window {
 
 #define PLANTED [[gnu::noinline]] void
 
-/// The box is ended by the end that waits in the queue.
+/// The WM_QUIT in the queue closes the box.
 PLANTED BoxBehindOthers() {
   PostQuitMessage(0);
   MessageBoxA(nullptr, "planted", "planted", MB_OK);
@@ -231,7 +231,7 @@ bool CutsCoordinates() {
   return box.left == 7;
 }
 
-/// Ends with 0 where only the window without an owner is minimised.
+/// True if only the window without an owner is minimised.
 bool ShowsAsTheStarterWished() {
   constexpr DWORD kFrame = WS_OVERLAPPEDWINDOW;
   HWND const owner =
