@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The include-direction check finds what it must find."""
+"""The include-direction check finds forbidden includes and allows the others."""
 import pathlib
 import sys
 import unittest
@@ -19,17 +19,17 @@ class IncludeDirection(unittest.TestCase):
     def test_upward_include_is_found(self):
         self.assertEqual(len(violations("ui/a.h", '#include "screens/quondix_screen.h"\n')), 1)
 
-    def test_base_includes_nothing_of_ours(self):
+    def test_base_includes_none_of_our_headers(self):
         self.assertEqual(len(violations("base/a.h", '#include "os/memory.h"\n')), 1)
 
     def test_system_header_outside_win32_is_found(self):
         self.assertEqual(len(violations("app/form1.cpp", "#include <windows.h>\n")), 1)
         self.assertEqual(violations("app/win32/main.cpp", "#include <windows.h>\n"), [])
 
-    def test_win32_header_of_ours_outside_win32_is_found(self):
+    def test_our_win32_header_outside_win32_is_found(self):
         self.assertEqual(len(violations("app/form1.cpp", '#include "ui/win32/form_window.h"\n')), 1)
 
-    def test_simulated_machine_in_the_program_is_found(self):
+    def test_include_of_the_simulated_machine_in_the_program_is_found(self):
         self.assertEqual(len(violations("app/form1.cpp", '#include "os/simulated/simulated_machine.h"\n')), 1)
 
     def test_platform_condition_is_found(self):
@@ -40,22 +40,22 @@ class IncludeDirection(unittest.TestCase):
 
 
 class Companions(unittest.TestCase):
-    def test_layers_below_and_its_own_folder_pass(self):
+    def test_includes_of_lower_layers_and_own_folder_pass(self):
         text = '#include "undo/settings.h"\n#include "tuning/restart.h"\n#include "os/system.h"\n'
         self.assertEqual(violations("undo/a.cpp", text, "companions"), [])
 
-    def test_main_program_in_a_companion_is_found(self):
+    def test_include_of_the_main_program_in_a_companion_is_found(self):
         self.assertEqual(len(violations("undo/a.cpp", '#include "app/form1.h"\n', "companions")), 1)
 
-    def test_companion_in_the_main_program_is_found(self):
+    def test_include_of_a_companion_in_the_main_program_is_found(self):
         self.assertEqual(len(violations("app/form1.cpp", '#include "undo/settings.h"\n')), 1)
 
-    def test_only_its_win32_folder_knows_the_system(self):
+    def test_only_win32_folders_of_companions_include_system_headers(self):
         self.assertEqual(len(violations("undo/a.cpp", "#include <windows.h>\n", "companions")), 1)
         self.assertEqual(violations("undo/win32/main.cpp", '#include <windows.h>\n#include "runtime/entry.h"\n',
                                     "companions"), [])
 
-    def test_run_time_is_for_entries_and_win32_folders_alone(self):
+    def test_only_entry_points_and_win32_folders_include_the_run_time(self):
         text = '#include "runtime/float_control.h"\n'
         self.assertEqual(violations("os/win32/a.cpp", text), [])
         self.assertEqual(len(violations("os/a.cpp", text)), 1)

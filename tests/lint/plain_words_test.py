@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The check of words finds those that are to be avoided, and only those."""
+"""The plain-words check finds the words to avoid, and only those."""
 import pathlib
 import sys
 import unittest
@@ -18,7 +18,7 @@ class PlainWords(unittest.TestCase):
         text = "// Starts again.\n// The previous list. A shallow copy; kMostly is a name, kMaxRows too.\n"
         self.assertEqual(list(findings(text)), [])
 
-    def test_better_words_are_named(self):
+    def test_report_suggests_better_words(self):
         self.assertIn("again", next(findings("anew"))[1])
 
 

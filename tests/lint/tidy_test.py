@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A file counts as changed if and only if something changed that its analysis depends on."""
+"""A file is analysed again if and only if something that the analysis depends on has changed."""
 import pathlib
 import sys
 import tempfile
@@ -31,22 +31,22 @@ class Digest(unittest.TestCase):
     def digest(self, command="g++", rules=b"rules"):
         return tidy.digest(self.file, command, rules)
 
-    def test_nothing_changed(self):
+    def test_digest_stays_if_nothing_changes(self):
         self.assertEqual(self.digest(), self.before)
 
-    def test_header_that_it_does_not_include(self):
+    def test_unrelated_header_keeps_the_digest(self):
         self.write("unrelated.h", "int Other();\n")
         self.assertEqual(self.digest(), self.before)
 
-    def test_the_file_itself(self):
+    def test_change_in_the_file_changes_the_digest(self):
         self.write("a.cpp", '#include "base/a.h"\nint one;\n')
         self.assertNotEqual(self.digest(), self.before)
 
-    def test_header_that_a_header_includes(self):
+    def test_change_in_an_indirect_header_changes_the_digest(self):
         self.write("b.h", "int Other();\n")
         self.assertNotEqual(self.digest(), self.before)
 
-    def test_header_of_a_companion(self):
+    def test_change_in_a_companion_header_changes_the_digest(self):
         folder = tidy.ROOT / "companions" / "undo"
         folder.mkdir(parents=True)
         self.write("b.h", '#include "undo/c.h"\n')
@@ -54,7 +54,7 @@ class Digest(unittest.TestCase):
         (folder / "c.h").write_text("int one;\n", encoding="utf-8")
         self.assertNotEqual(self.digest(), without)
 
-    def test_command_and_rules(self):
+    def test_command_and_rules_change_the_digest(self):
         self.assertNotEqual(self.digest(command="g++ -O2"), self.before)
         self.assertNotEqual(self.digest(rules=b"other"), self.before)
 
@@ -67,7 +67,7 @@ class SystemCode(unittest.TestCase):
 
 
 class Shipped(unittest.TestCase):
-    def test_programs_are_looked_at_and_tests_are_not(self):
+    def test_programs_are_checked_and_tests_are_not(self):
         self.assertTrue(tidy.is_shipped(pathlib.PurePath("src/ui/a.cpp")))
         self.assertTrue(tidy.is_shipped(pathlib.PurePath("companions/undo/a.cpp")))
         self.assertFalse(tidy.is_shipped(pathlib.PurePath("tests/unit/a.cpp")))
