@@ -1,4 +1,4 @@
-"""README.TXT beside the manual: its sections, and the registry keys and files that both name."""
+"""Reads README.TXT and topics of the manual: sections, and the registry keys and files that they name."""
 
 import re
 
@@ -10,7 +10,7 @@ _FILE = re.compile(r"\b(?:system\.qdix|[A-Za-z]\w*\.(?:lnk|LOG))\b")
 
 
 def readme_section(heading: str) -> str:
-    """Returns the text below one of the headings in capitals."""
+    """Returns the text below a heading. Headings are in capitals."""
     found = re.search(rf"^{heading}\n\n(.*?)(?=\n\n\n|\Z)", README.read_text(encoding="ascii"), re.MULTILINE | re.DOTALL)
     if not found:
         raise AssertionError(f"README.TXT has no section {heading}")

@@ -17,11 +17,11 @@ TAB_OF_SCREEN = {"quondix": "Quondix", "automatic": "Automatic", "time_intervals
 OF_ALL_TABS = ("main_window.h", "tray_menu.h")
 KNOWN_EVERYWHERE = {"Free Up RAM Now"}
 MESSAGE_TOPICS = (22, 23)
-# Folders without texts for the user: forwarding, control models, and what a form designer shows. The self-test writes
+# Folders without texts for the user: forwarding, control models, and form designs. The self-test writes
 # to a log, which README.TXT describes.
 WITHOUT_MESSAGES = ("src/os/", "src/ui/", "src/screens/", "src/controls/", "src/base/text", "_screen.h",
                     "win32/resources.h", "companions/self_test/")
-# Long texts of the program that are no messages.
+# Long texts of the program that are not messages.
 NOT_IN_A_BOX = {
     # captions and labels written while the program runs
     "Total Physical Memory:", "Virtual Memory (Swapfile) :", "%  Available RAM", "MB   Q-DIX",
@@ -42,7 +42,7 @@ NOT_IN_A_BOX = {
 
 
 class DriftTest(ManualCase):
-    def test_captions_in_the_topic_of_a_tab_stand_on_its_screen(self):
+    def test_captions_in_the_topic_of_a_tab_are_on_its_screen(self):
         """Expects a control of another tab to be named together with that tab."""
         screens = {name: captions_of_screen(ROOT / f"src/screens/{name}_screen.h") for name in TOPIC_OF_SCREEN}
         everywhere = KNOWN_EVERYWHERE.union(*(captions_of_screen(ROOT / f"src/screens/{name}") for name in OF_ALL_TABS))
@@ -52,7 +52,7 @@ class DriftTest(ManualCase):
             captions = captions.union(*(screens[other] for other, tab in TAB_OF_SCREEN.items() if tab in literals))
             self.assertEqual(literals - captions, set(), f"topic {number}")
 
-    def test_every_control_of_a_tab_stands_in_its_topic(self):
+    def test_every_control_of_a_tab_is_in_its_topic(self):
         topics_of: dict[str, set[int]] = {}
         for screen, number in TOPIC_OF_SCREEN.items():
             for caption in captions_of_operated_controls(ROOT / f"src/screens/{screen}_screen.h"):
@@ -63,19 +63,19 @@ class DriftTest(ManualCase):
             described = any(caption in self.topic(number).plain_text() for number in numbers)
             self.assertTrue(described, f"'{caption}' is not in the topics {sorted(numbers)}")
 
-    def test_literals_of_the_other_topics_stand_in_the_sources(self):
+    def test_literals_of_the_other_topics_are_in_the_sources(self):
         texts = texts_below("src", "companions")
         for topic in self.topics:
             for literal in topic.literals():
                 self.assertTrue(literal.strip() in texts, f"'{literal}' in topic {topic.number} is not in the sources")
 
-    def test_every_message_of_the_program_stands_in_the_manual(self):
+    def test_every_message_of_the_program_is_in_the_manual(self):
         quoted = {literal.strip() for number in MESSAGE_TOPICS for literal in self.topic(number).literals()}
         messages = messages_below("src", "companions", without=WITHOUT_MESSAGES)
         self.assertGreater(len(messages), 60)
         self.assertEqual(messages - quoted - NOT_IN_A_BOX, set())
 
-    def test_every_error_that_is_described_is_raised(self):
+    def test_every_described_error_is_raised(self):
         header, table = (ROOT / f"src/base/runtime_error.{kind}" for kind in ("h", "cpp"))
         numbers = dict(re.findall(r"RuntimeError (k\w+)\{(\d+)\}", header.read_text(encoding="utf-8")))
         self.assertGreater(len(numbers), 8)
@@ -84,10 +84,10 @@ class DriftTest(ManualCase):
         described = re.findall(r"\{(\d+), \"", table.read_text(encoding="utf-8"))
         self.assertEqual(sorted(described, key=int), sorted(raised, key=int))
 
-    def test_no_exception_is_needless(self):
+    def test_every_exception_is_needed(self):
         self.assertEqual(NOT_IN_A_BOX - messages_below("src", "companions", without=WITHOUT_MESSAGES), set())
 
-    def test_literals_side_by_side_are_one_text(self):
+    def test_adjacent_literals_are_one_text(self):
         code = '#include "a.h"\n// "no"\nShow("One \\"two\\"\\r\\n\\r\\n"\n  "three" + x + " four\'s", \'"\', "five");'
         self.assertEqual(texts_of(code), ['One "two"\n\nthree', " four's", "five"])
         self.assertEqual(in_one_line('One "two"\n\nthree '), 'One "two" three')

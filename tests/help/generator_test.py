@@ -1,4 +1,4 @@
-"""make_help.py: both forms of a small book, compared exactly, and the texts that it refuses."""
+"""make_help.py: the exact output for a small book in both formats, and the texts that it rejects."""
 
 import tempfile
 import unittest
@@ -30,7 +30,7 @@ second](07_second.md) & back.
 ![A "window"](pictures/window.gif "With a frame & more")
 """
 SECOND = "# Second\n\nText of the second.\n"
-# The head of a picture, 258 pixels wide and 3 high; nothing reads the rest.
+# The header of a picture 258 pixels wide and 3 high. Nothing reads the rest.
 PICTURE = b"GIF89a\x02\x01\x03\x00" + bytes(10)
 
 STREAM = (b"SPart\n@0\tFirst\nPA \x01bold\x01 word, a \x02lit  eral\x02, and a link to \x037\x1fthe second\x04 & back.\n"
@@ -72,24 +72,24 @@ class MadeTest(SmallBook):
             self.assertIn(element, page)
         self.assertEqual((self.target / "window.gif").read_bytes(), PICTURE)
 
-    def test_texts_are_of_the_windows_character_set(self):
+    def test_texts_are_in_code_page_1252(self):
         self.write("07_second.md", "# Second\n\nCaf\u00e9 \u2013 \u20ac\n")
         self.assertIn(b"PCaf\xe9 \x96 \x80\n", made(self.source, "--topics", self.target).read_bytes())
 
-    def test_contents_give_the_order(self):
+    def test_topics_follow_the_order_of_the_contents(self):
         self.write("contents.md", "# Book\n\n## Z\n\n- [Second](07_second.md)\n\n## A\n\n- [First](00_first.md)\n")
         stream = made(self.source, "--topics", self.target).read_bytes()
         self.assertTrue(stream.startswith(b"SZ\n@7\tSecond\n"))
         self.assertIn(b"\nSA\n@0\tFirst\n", stream)
 
-    def test_same_texts_give_the_same_bytes(self):
+    def test_output_is_reproducible(self):
         folder = self.target.parent
         for option, name in (("--topics", ""), ("--html", "help.htm")):
             first, second = (made(HELP, option, folder / f"{option}{run}") / name for run in (1, 2))
             self.assertEqual(first.read_bytes(), second.read_bytes())
 
 
-# What is wrong, the text of the second topic, the line that is reported, a word of the complaint.
+# The fault, the text of the second topic, the reported line, and part of the error message.
 BAD_TOPICS = [
     ("link to nowhere", "# Second\n\nOne\n[x](09_x.md)\n", 4, "'09_x.md' is not a topic"),
     ("link out of the manual", "# Second\n\n[x](http://example.com)\n", 3, "is not a topic"),
@@ -143,39 +143,39 @@ class RefusedTest(SmallBook):
             self.assertIn(complaint, done.stderr)
             self.assertFalse(self.target.exists() or page.exists(), "a file was made although the text was refused")
 
-    def test_topics(self):
+    def test_faulty_topics_are_rejected(self):
         for what, text, line, complaint in BAD_TOPICS:
             self.write("07_second.md", text)
             self.assert_refused(what, "07_second.md", line, complaint)
 
-    def test_contents(self):
+    def test_faulty_contents_are_rejected(self):
         for what, text, line, complaint in BAD_CONTENTS:
             self.write("contents.md", text)
             self.assert_refused(what, "contents.md", line, complaint)
 
-    def test_picture_that_is_no_gif(self):
+    def test_picture_that_is_not_a_gif_is_rejected(self):
         (self.source / "pictures" / "window.gif").write_bytes(b"\x89PNG" + bytes(20))
         self.assert_refused("no GIF", "00_first.md", 21, "is no GIF picture")
 
-    def test_file_that_is_no_topic(self):
+    def test_file_that_is_not_a_topic_is_rejected(self):
         self.write("notes.md", "# Notes\n\nText\n")
         self.assert_refused("no number", "notes.md", 1, "NN_name.md")
 
-    def test_two_topics_of_one_number(self):
+    def test_duplicate_topic_number_is_rejected(self):
         self.write("07_third.md", "# Third\n\nText\n")
         self.assert_refused("same number", "07_third.md", 1, "has the number of 07_second.md")
 
-    def test_missing_contents(self):
+    def test_missing_contents_are_rejected(self):
         (self.source / "contents.md").unlink()
         self.assert_refused("no contents", "contents.md", 1, "is missing")
 
-    def test_stream_that_is_too_long(self):
+    def test_stream_that_is_too_long_is_rejected(self):
         self.write("07_second.md", "# Second\n\n" + "Many words. " * 5000)
         done = make_help(self.source, "--topics", str(self.target))
         self.assertEqual(done.returncode, 1)
         self.assertIn("the viewer takes 48000 at most", done.stderr)
 
-    def test_nothing_to_make(self):
+    def test_command_line_without_output_is_rejected(self):
         self.assertEqual(make_help(self.source).returncode, 2)
 
 

@@ -1,4 +1,4 @@
-"""Shared by the tests of the manual: makes it, and reads the topics that the viewer is given."""
+"""Shared by the tests of the manual: generates it, and reads the topics that the viewer receives."""
 
 import re
 import subprocess
@@ -23,7 +23,7 @@ def make_help(source: Path, *arguments: str) -> subprocess.CompletedProcess:
 
 
 def made(source: Path, option: str, target: Path) -> Path:
-    """Returns the newly made file or folder."""
+    """Returns the generated file or folder."""
     done = make_help(source, option, str(target))
     if done.returncode != 0:
         raise AssertionError(done.stderr)
@@ -47,12 +47,12 @@ class ReadTopic:
 
 
 def plain(line: str) -> str:
-    """Returns the text without its marks."""
+    """Returns the text without its markup."""
     return re.sub("[\x01\x02]", "", LINK.sub(r"\2", line))
 
 
 class ManualCase(unittest.TestCase):
-    """Reads the stream of the manual once for all tests of a class."""
+    """Reads the topics of the manual once for all tests of a class."""
 
     @classmethod
     def setUpClass(cls):

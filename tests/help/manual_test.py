@@ -14,15 +14,15 @@ MAX_BYTES = 48000
 
 
 class ManualTest(ManualCase):
-    def test_every_topic_that_the_program_opens_is_there(self):
+    def test_every_topic_that_the_program_opens_exists(self):
         titles = {topic.number: topic.title for topic in self.topics}
         for number, title in TOPICS_OF_THE_PROGRAM.items():
             self.assertEqual(titles.get(number), title)
 
-    def test_numbers_that_no_program_uses_stay_free(self):
+    def test_unused_topic_numbers_stay_free(self):
         self.assertFalse({1, 2, 3} & {topic.number for topic in self.topics})
 
-    def test_every_topic_stands_in_the_contents_once(self):
+    def test_every_topic_is_in_the_contents_once(self):
         numbers = [topic.number for topic in self.topics]
         self.assertEqual(len(numbers), len(set(numbers)))
         files = {int(path.name[:2]) for path in HELP.glob("[0-9][0-9]_*.md")}
@@ -44,7 +44,7 @@ class ManualTest(ManualCase):
                     longest = max(map(len, plain(line).split()), default=0)
                     self.assertLessEqual(longest, PANE_CHARACTERS, line)
 
-    def test_longest_words_of_a_row_stand_side_by_side(self):
+    def test_longest_words_of_a_row_fit_side_by_side(self):
         tables = 0
         for topic in self.topics:
             widths: list[int] = []

@@ -1,4 +1,4 @@
-"""help.htm: valid HTML 3.2, complete, and with its pictures beside it."""
+"""help.htm is valid HTML 3.2, complete, and next to its pictures."""
 
 import html.parser
 import re
@@ -15,7 +15,7 @@ DOCTYPE = b'<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 3.2 Final//EN">\r\n'
 
 
 class Page(html.parser.HTMLParser):
-    """Anchors, links, pictures and the text without its blanks: browsers place those as they like."""
+    """Collects anchors, links, pictures, and the text without blanks, which browsers may place freely."""
 
     def __init__(self, text: str):
         super().__init__()
@@ -41,14 +41,14 @@ def without_blanks(text: str) -> str:
 
 
 def book_of_contents() -> tuple[str, str]:
-    """Returns the title, then sections and titles of topics as in contents.md."""
+    """Returns the title, then the sections and topic titles in the order of contents.md."""
     lines = (HELP / "contents.md").read_text(encoding="utf-8").splitlines()
     texts = [re.sub(r"^- \[(.*)\]\(.*\)$", r"\1", line).lstrip("# ") for line in lines]
     return texts[0], "".join(texts[1:])
 
 
 def captions_of_pictures() -> dict[str, str]:
-    """Returns captions by the names of the pictures; empty for a picture without one."""
+    """Returns the caption of each picture by its name; empty if it has none."""
     found: dict[str, str] = {}
     for path in HELP.glob("*.md"):
         for name, caption in re.findall(r'^!\[[^]]*\]\(pictures/([^ )]+)(?: "([^"]*)")?\)$', path.read_text("utf-8"), re.M):
@@ -90,10 +90,10 @@ class PageTest(ManualCase):
             self.assertNotEqual(page, self.page, fault)
             self.assertNotEqual(complaints(page), "", fault)
 
-    def test_no_script_and_no_style(self):
+    def test_page_has_no_scripts_and_no_styles(self):
         self.assertFalse(self.read.elements & {"script", "style", "link", "font", "frame", "applet"})
 
-    def test_contents_link_to_every_topic_and_back(self):
+    def test_contents_and_topics_link_to_each_other(self):
         anchors = self.read.anchors
         self.assertEqual(len(anchors), len(set(anchors)))
         self.assertEqual(set(anchors), {"contents", *(f"topic{topic.number}" for topic in self.topics)})
@@ -103,13 +103,13 @@ class PageTest(ManualCase):
         in_contents = self.read.links[:len(self.topics)]
         self.assertEqual(in_contents, [f"#topic{topic.number}" for topic in self.topics])
 
-    def test_page_says_what_the_viewer_says_and_no_more_but_captions_of_pictures(self):
+    def test_page_adds_only_picture_captions_to_the_viewers_text(self):
         expected = ""
         captions = captions_of_pictures()
         for topic in self.topics:
             expected += without_blanks(topic.title)
             for kind, line in topic.lines:
-                # The browser numbers the steps itself, and shows pictures with their captions instead of texts.
+                # The browser numbers the steps itself, and shows a picture with its caption instead of its text.
                 text = line.split("\t", 1)[1] if kind == "N" else line
                 expected += without_blanks(captions[line.split("\t")[0]] if kind == "I" else plain(text))
             expected += "Contents"
@@ -118,7 +118,7 @@ class PageTest(ManualCase):
         title, sections = book_of_contents()
         self.assertEqual(before, without_blanks(2 * title + "Contents" + sections))
 
-    def test_pictures_lie_beside_the_page_in_their_sizes(self):
+    def test_pictures_are_next_to_the_page_and_have_the_given_sizes(self):
         self.assertEqual(len(self.read.pictures), 11)
         for picture in self.read.pictures:
             self.assertRegex(picture["src"], r"^[a-z0-9]{1,8}\.gif$")
@@ -129,7 +129,7 @@ class PageTest(ManualCase):
             # A window of 640 pixels minus its frame and scroll bar.
             self.assertLessEqual(int(picture["width"]), 600)
 
-    def test_no_picture_lies_there_for_nothing(self):
+    def test_every_picture_is_used(self):
         shown = {picture["src"] for picture in self.read.pictures}
         self.assertEqual({path.name for path in self.folder.iterdir()}, shown | {"help.htm"})
         self.assertEqual({path.name for path in (HELP / "pictures").iterdir()}, shown)

@@ -1,5 +1,5 @@
-"""What remains of Q-DIX: manual and README.TXT give the same list, qdix.inf removes what they say it removes, and
-nothing that the programs write is forgotten."""
+"""What removing Q-DIX deletes and leaves: manual and README.TXT give the same lists, qdix.inf deletes what they say, and
+the lists include everything that the programs write."""
 
 import re
 import sys
@@ -22,7 +22,7 @@ OWN_KEYS = ["HKEY_CURRENT_USER\\" + constant("src/app/machine_record.cpp", "kUse
             "HKEY_CURRENT_USER\\" + constant("src/shell/settings_store.cpp", "path").rstrip("\\"),
             "HKEY_LOCAL_MACHINE\\" + constant(PATHS, "kMachineKey")]
 TEMPLATE_KEY = f"HKEY_LOCAL_MACHINE\\{constant(TEMPLATES, 'kTemplatesKey')}\\{constant(TEMPLATES, 'kOwnTemplate')}"
-# Keys of Windows in which the programs write or read a value: the start-up entry and the template.
+# Windows keys in which the programs read or write a value: the start-up entry and the template.
 KEYS_OF_WINDOWS = {constant(PATHS, "kRunKey"), constant(TEMPLATES, "kTemplatesKey")}
 FILES_LEFT = {constant("src/tuning/cache/system_ini.h", "kSystemBackup"),
               constant("src/shell/shortcut_names.h", "kShortcutName"),
@@ -35,7 +35,7 @@ class RemovalTest(ManualCase):
         self.going = {name: text.partition(STAYS)[0] for name, text in documents.items()}
         self.staying = {name: text.partition(STAYS)[2] for name, text in documents.items()}
 
-    def test_both_name_the_keys_that_are_deleted_in_one_order(self):
+    def test_manual_and_readme_list_the_deleted_keys_in_the_same_order(self):
         for name, text in self.going.items():
             self.assertEqual(keys_in(text), OWN_KEYS, name)
 
@@ -51,7 +51,7 @@ class RemovalTest(ManualCase):
         self.assertEqual(sorted(own), sorted(OWN_KEYS))
         self.assertIn(f"HKLM,%RUN%,{constant(PATHS, 'kRunValue')}", sections["QDIX.Keys"])
 
-    def test_both_name_what_stays(self):
+    def test_manual_and_readme_list_what_stays(self):
         for name, text in self.staying.items():
             self.assertEqual(keys_in(text), [TEMPLATE_KEY], name)
             self.assertEqual(files_in(text), FILES_LEFT, name)
@@ -59,13 +59,13 @@ class RemovalTest(ManualCase):
             for place in ("StartUp", "empty folder Q-DIX", "system.ini"):
                 self.assertIn(place, " ".join(text.split()), name)
 
-    def test_every_key_of_the_sources_is_accounted_for(self):
+    def test_every_key_in_the_sources_is_accounted_for(self):
         found = {text.rstrip("\\") for code in sources("src", "companions", without=WITHOUT_KEYS)
                  for text in texts_of(code) if re.match(r"software\\", text, re.IGNORECASE)}
         named = {key.partition("\\")[2] for key in [*OWN_KEYS, TEMPLATE_KEY]}
         self.assertEqual({key.lower() for key in found}, {key.lower() for key in named | KEYS_OF_WINDOWS})
 
-    def test_words_of_the_documents_are_read_as_they_stand(self):
+    def test_keys_and_files_in_documents_are_found(self):
         text = "  A\n    HKEY_A\\b c\\\n      D\nand HKEY_B\\e\n"
         self.assertEqual(keys_in(text), ["HKEY_A\\b c\\D", "HKEY_B\\e"])
         self.assertEqual(files_in("Quondix.lnk, X.LOG and undo.exe"), {"Quondix.lnk", "X.LOG"})

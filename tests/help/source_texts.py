@@ -1,4 +1,4 @@
-"""The texts in the sources: string literals as the compiler joins them."""
+"""The texts in the sources: string literals, joined as the compiler joins them."""
 
 import re
 from collections.abc import Iterator
@@ -22,9 +22,9 @@ _MENU_CAPTION = re.compile(r'ui::MenuItem \w+\{\w+, "\w+", "([^"]+)"\}')
 
 _MENU_TITLE = re.compile(r'ui::MenuItem \w+\{events, "\w+", "([^"]+)"\}')
 
-# A text with at least this many words is a sentence wherever it is.
+# A text with at least this many words counts as a sentence in any file.
 SENTENCE_WORDS = 5
-# A fragment of at most this many characters proves nothing.
+# Fragments up to this length are too short to prove anything.
 SHORT_TEXT = 8
 
 
@@ -69,8 +69,8 @@ def texts_below(*folders: str) -> set[str]:
 
 
 def messages_below(*folders: str, without: tuple[str, ...] = ()) -> set[str]:
-    """Returns what a box can contain: the words of files that show boxes or hold texts for them, and sentences
-    anywhere."""
+    """Returns the texts that message boxes can contain: texts of two words or more from files that show boxes or hold
+    texts for them, and sentences from all other files."""
     found: set[str] = set()
     for code in sources(*folders, without=without):
         fewest_words = 2 if _SHOWS_BOXES.search(code) else SENTENCE_WORDS
@@ -80,13 +80,13 @@ def messages_below(*folders: str, without: tuple[str, ...] = ()) -> set[str]:
 
 
 def captions_of_screen(screen: Path) -> set[str]:
-    """Returns captions of controls and tabs, and entries of menus."""
+    """Returns the captions of controls, tabs and menu entries."""
     code = screen.read_text(encoding="utf-8")
     return {texts_of(literals)[0].strip() for literals in _CAPTION.findall(code)} | set(_MENU_CAPTION.findall(code))
 
 
 def menu_captions() -> set[str]:
-    """Returns the captions of the tray menu, including its own."""
+    """Returns the captions of the tray menu and its entries."""
     code = (ROOT / "src/screens/tray_menu.h").read_text(encoding="utf-8")
     return set(_MENU_CAPTION.findall(code)) | set(_MENU_TITLE.findall(code))
 

@@ -13,12 +13,12 @@ sys.path.insert(0, str(ROOT / "tests" / "dist"))
 from setup_text_test import sections_of  # noqa: E402
 
 FIRST_STEPS, QUONDIX, TIME_INTERVALS, LAUNCHER, SWAP_FILE, RELEASE, WHEN_NOT, TRAY = 0, 4, 6, 8, 10, 12, 13, 19
-# What README.TXT quotes from elsewhere: a word of Windows, the beginning of a folder name, and its own headings.
+# Quotations in README.TXT from elsewhere: a Windows term, the beginning of a folder name, and its own headings.
 QUOTED_FROM_ELSEWHERE = {"Install", "Progra"}
 
 
 def number_in(path: str, pattern: str) -> int:
-    """Returns a number of the program, found by the text before it in a source."""
+    """Returns the number that follows a text in a source file."""
     return int(re.search(rf"{pattern}(\d+)", (ROOT / path).read_text(encoding="utf-8"))[1])
 
 
@@ -27,7 +27,7 @@ def timer_s(name: str) -> int:
 
 
 def words(text: str) -> str:
-    """Matches a text whose lines may break anywhere."""
+    """Returns the text on one line, so that its line breaks do not matter."""
     return " ".join(text.split())
 
 
@@ -42,7 +42,7 @@ class StatementsTest(ManualCase):
         self.assertEqual(with_bulb, {SWAP_FILE})
         self.assertEqual(named, with_bulb)
 
-    def test_what_is_called_an_entry_of_the_tray_menu_is_one(self):
+    def test_named_tray_menu_entries_exist(self):
         captions = menu_captions()
         self.assertIn("Close", captions)
         self.assertNotIn("Pause All Activity", captions)
@@ -57,7 +57,7 @@ class StatementsTest(ManualCase):
         self.assertRegex(words(readme_section("WHAT A RELEASE DOES AND DOES NOT DO")),
                          r'button "Pause All Activity" on the "Quondix" tab')
 
-    def test_what_the_readme_quotes_is_a_text_of_the_program_or_the_setup(self):
+    def test_readme_quotes_texts_of_the_program_or_the_setup(self):
         text = README.read_text(encoding="ascii")
         own = set(re.findall(r"^[A-Z][A-Z ,]+$", text, re.MULTILINE)) | QUOTED_FROM_ELSEWHERE
         setup = sections_of((ROOT / "packaging/qdix.inf.in").read_text(encoding="ascii"))
@@ -66,21 +66,21 @@ class StatementsTest(ManualCase):
         self.assertGreater(len(quoted), 8)
         self.assertEqual(quoted - own - texts_below("src", "companions"), set())
 
-    def test_viewer_says_nothing_of_pictures_which_it_does_not_show(self):
+    def test_viewer_text_does_not_mention_pictures(self):
         for topic in self.topics:
             text = "\n".join(plain(line) for kind, line in topic.lines if kind != "I")
             self.assertNotRegex(text, r"\bpictures (were|of)\b", f"topic {topic.number}")
         quondix = (HELP / "04_quondix.md").read_text(encoding="utf-8")
         self.assertRegex(quondix, r'quondix\.gif "The pictures were taken on an emulated PC')
 
-    def test_ways_around_a_pause_are_told_wherever_it_is_recommended(self):
+    def test_advice_to_pause_names_what_ignores_the_pause(self):
         for name, text in {"manual": self.text_of(WHEN_NOT), "tab": self.text_of(QUONDIX),
                            "README.TXT": words(readme_section("WHAT A RELEASE DOES AND DOES NOT DO"))}.items():
             for part in ("Pause All Activity", "Time Releases Active", "already waiting for the processor"):
                 self.assertIn(part, text, name)
         self.assertIn(f"tries again every {timer_s('Timer5')} seconds", self.text_of(TIME_INTERVALS))
 
-    def test_times_of_the_watch_over_the_editor(self):
+    def test_times_of_the_editor_watch_match_the_sources(self):
         watch, tick_s = "src/launcher/config_watch.cpp", timer_s("Timer7")
         first_look_s = tick_s * (number_in(watch, "kOpeningTicks = ") + 1)
         half_minutes = round(tick_s * number_in(watch, "kMaxTicks = ") / 30)
@@ -89,7 +89,7 @@ class StatementsTest(ManualCase):
         self.assertIn(f"{half_minutes // 2} and a half minutes", text)
         self.assertEqual(half_minutes % 2, 1)
 
-    def test_start_entry_of_the_first_start_is_told_where_questions_are_promised(self):
+    def test_start_up_entry_is_mentioned_where_questions_are_promised(self):
         for name, text in {"manual": self.text_of(FIRST_STEPS), "README.TXT": words(readme_section("CHANGES TO WINDOWS"))}.items():
             before, promise, _ = text.partition("question")
             self.assertTrue(promise, name)
@@ -97,7 +97,7 @@ class StatementsTest(ManualCase):
         code = "".join(sources("src/app"))
         self.assertRegex(code, r"Check2\.SetTicked\(true\)")
 
-    def test_measured_figures_are_those_of_the_benchmarks(self):
+    def test_measured_figures_match_the_benchmarks(self):
         text = (HELP / "12_how_a_release_works.md").read_text(encoding="utf-8")
         rows = re.findall(r"^\| \d+ MB \|.*$", text, re.MULTILINE)
         self.assertEqual([row.split()[1] for row in rows], ["64", "96", "128"])
@@ -105,7 +105,7 @@ class StatementsTest(ManualCase):
         for part in ("on an emulated PC", "kernel is not that of Windows 98"):
             self.assertIn(part, self.text_of(RELEASE))
 
-    def test_megabytes_of_the_swap_file_and_of_the_free_space(self):
+    def test_swap_file_and_free_space_megabytes_are_explained(self):
         text = self.text_of(SWAP_FILE)
         self.assertIn("swap file those of 1,048,576 bytes, the free space those of 1,024,000", text)
         self.assertIn(f"1000 MB takes {1000 * 1048576 // 1024000} MB", text)
