@@ -38,20 +38,20 @@ def listed(text):
 
 
 class Instructions(unittest.TestCase):
-    def test_those_of_the_386_pass(self):
+    def test_386_instructions_pass(self):
         self.assertEqual([text for text in listed(OF_THE_386) if not is_386(text)], [])
 
-    def test_later_ones_are_found(self):
+    def test_later_instructions_are_found(self):
         self.assertEqual([text for text in listed(LATER) if is_386(text)], [])
 
-    def test_two_later_ones_pass_in_their_section_only(self):
+    def test_cpuid_and_rdtsc_pass_only_in_their_section(self):
         allowed = [text for text in listed(LATER) if is_allowed(".newcpu", text)]
         self.assertEqual(allowed, ["cpuid", "rdtsc"])
         self.assertEqual([text for text in listed(LATER) if is_allowed(".text", text)], [])
 
 
 class Stubs(unittest.TestCase):
-    def test_every_one_is_exported_and_no_function_that_works_is_one(self):
+    def test_every_stub_is_exported_and_no_working_function_is_a_stub(self):
         exported, failing = exported_names(EXPORTS), stubs(EXPORTS)
         self.assertEqual({dll: names - exported[dll] for dll, names in failing.items() if names - exported[dll]}, {})
         for dll, name in (("kernel32", "lstrlenW"), ("kernel32", "GetCommandLineW"), ("user32", "MessageBoxW"),
@@ -63,19 +63,19 @@ class Stubs(unittest.TestCase):
 
 
 class Frames(unittest.TestCase):
-    def test_their_size_is_read_in_each_form(self):
+    def test_frame_size_is_read_in_each_form(self):
         self.assertEqual(frame_bytes("sub    $0x1234,%esp"), 0x1234)
         self.assertEqual(frame_bytes("subl   $0x1234,%esp"), 0x1234)
         self.assertEqual(frame_bytes("add    $0xffffff80,%esp"), 0x80)
         self.assertEqual(frame_bytes("lea    -0x1234(%esp),%esp"), 0x1234)
 
-    def test_other_instructions_make_none(self):
+    def test_other_instructions_make_no_frame(self):
         for text in ("add    $0x10,%esp", "sub    $0x10,%eax", "lea    0x10(%esp),%esp", "push   %ebp"):
             self.assertEqual(frame_bytes(text), 0)
 
 
 class Header(unittest.TestCase):
-    """Offsets are those of the 32-bit executable format, from the signature whose position the word at 0x3C gives."""
+    """Offsets are relative to the PE signature, whose position is in the 32-bit word at 0x3C."""
 
     def faults_with(self, offset, layout, value):
         content = bytearray(SOUND_EXE.read_bytes())
@@ -94,14 +94,14 @@ class Header(unittest.TestCase):
         image = Image(SOUND_EXE)
         self.assertEqual([*check_header(image), *check_instructions(image)], [])
 
-    def test_time_stamp(self):
+    def test_time_stamp_is_found(self):
         self.assert_found("time stamp", 8, "<I", 0x5F000000)
 
-    def test_relocations_not_stripped(self):
+    def test_missing_relocations_stripped_flag_is_found(self):
         characteristics = struct.unpack_from("<H", SOUND_EXE.read_bytes(), self.signature() + 22)[0]
         self.assert_found("relocations are not stripped", 22, "<H", characteristics & ~1)
 
-    def test_fields_of_the_optional_header(self):
+    def test_wrong_fields_of_the_optional_header_are_found(self):
         for name, offset, layout, value in (
                 ("ImageBase", 52, "<I", 0x10000000),
                 ("MajorOSystemVersion", 64, "<H", 5),
@@ -113,10 +113,10 @@ class Header(unittest.TestCase):
             with self.subTest(name):
                 self.assert_found(f"header field {name} ", offset, layout, value)
 
-    def test_directories(self):
+    def test_unwanted_directories_are_found(self):
         for title, number in (("Thread Storage Directory", 9), ("Base Relocation Directory", 5), ("Debug Directory", 6)):
             with self.subTest(title):
-                # Only the size is planted: an address would make the tools read what is not there.
+                # Plants only a size: with an address the tools would read data that does not exist.
                 self.assert_found(f"has a {title}", 120 + 8 * number + 4, "<I", 0x18)
 
     def signature(self):

@@ -23,10 +23,10 @@ def differences(shipped, strict):
 
 
 class NamesOnly(unittest.TestCase):
-    def test_all_five_are_compared(self):
+    def test_all_five_programs_are_compared(self):
         self.assertEqual(sorted(path.name for path in SHIPPED), ["QDIX.exe", "QDIXTEST.exe", "configL.exe", "help.exe", "undo.exe"])
 
-    def test_nothing_but_the_names_differs(self):
+    def test_only_the_names_differ(self):
         for path in SHIPPED:
             with self.subTest(path.name):
                 shipped, strict = path.read_bytes(), (STRICT / path.name).read_bytes()
@@ -35,7 +35,7 @@ class NamesOnly(unittest.TestCase):
                 self.assertNotEqual(places, set())
                 self.assertLessEqual(places, names)
 
-    def test_every_library_is_the_guard(self):
+    def test_every_imported_library_is_the_guard(self):
         for path in SHIPPED:
             names = {name for name, _, _ in PortableExe((STRICT / path.name).read_bytes()).libraries()}
             self.assertEqual(names, {GUARD}, path.name)

@@ -71,11 +71,11 @@ class Planted(unittest.TestCase):
                 self.assertIn(text, found[place][2])
         self.assertEqual(sorted(found), sorted(expected))
 
-    def test_every_rule_that_reports_is_planted(self):
+    def test_every_reporting_rule_has_a_planted_fault(self):
         rules = {int(number) for number in re.findall(r"^\| (\d+) \|", TABLE, re.MULTILINE)}
         self.assertEqual(rules - PLAYED, {rule for rule, _, _ in EXPECTED.values()})
 
-    def test_windows_98_reports_each(self):
+    def test_windows_98_reports_every_fault(self):
         self.check("98", EXPECTED)
 
     def test_the_first_windows_95_has_no_foreground_lock(self):
