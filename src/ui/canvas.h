@@ -24,7 +24,7 @@ class Canvas {
   virtual void FillBorderedBox(int x1, int y1, int x2, int y2, Colour fill, Colour border) = 0;
 };
 
-/// Border styles of a drawing control's window. The border takes its width from each side of the control.
+/// Border styles of a drawing control's window. The border takes up its width on each side of the control.
 inline constexpr int kThreeDBorderPixels = 2;
 enum class BorderStyle : std::uint8_t {
   kNone = 0,

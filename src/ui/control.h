@@ -127,12 +127,12 @@ class Control {
 
   /// True if the control and every container above it are enabled.
   [[nodiscard]] bool EffectivelyEnabled() const;
-  /// True if the user can reach the control: it and everything above it are enabled and visible, its tab page
+  /// True if the user can reach the control: it and all its containers are enabled and visible, its tab page
   /// is open, and the form is loaded and not minimised.
   [[nodiscard]] bool Reachable() const;
 
-  /// Moves the keyboard focus here from code, just as the Tab key does: the control that loses the focus is
-  /// validated and may keep it. An unreachable control does not take the focus.
+  /// Moves the keyboard focus here from code, as the Tab key does: the control that has the focus is
+  /// validated and may keep it. Does nothing if this control is unreachable.
   void SetFocus();
   [[nodiscard]] bool HasFocus() const;
 
@@ -169,7 +169,7 @@ class Control {
   bool visible_;
 };
 
-/// A control that holds others. The order in which its children are constructed is the tab order.
+/// A control that holds others. Its children are in tab order in the order of their construction.
 class Container : public Control {
  public:
   [[nodiscard]] const std::vector<Control*>& Children() const { return children_; }

@@ -2,11 +2,11 @@
 //
 // The contract of events, for every control:
 //  - Handlers are bound to a control's public `On...` fields and run only through the dispatcher.
-//  - A user's action and an assignment from code run the handler alike, after the value changed.
+//  - A handler runs after its value has changed, whether the user or an assignment from code changed it.
 //  - An assignment returns after its handler.
 //  - A handler's error goes to the reporter, never to the code whose assignment, pump or box ran the handler.
-//  - The error of an assignment itself (a refused value) goes to its caller and runs no handler.
-//  - After Stop no handler runs.
+//  - An assignment that refuses a value returns the error to its caller and runs no handler.
+//  - No handler runs after Stop.
 #pragma once
 
 #include <type_traits>

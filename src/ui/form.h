@@ -47,7 +47,7 @@ class FormPeer {
 
 class Form final : public Container {
  public:
-  /// If the form has a smallest size, the user can change its size, down to that one.
+  /// If the form has a smallest size, the user can resize the form, but not below that size.
   Form(EventDispatcher& events, const Design& design, FormSize smallest = {});
 
   [[nodiscard]] bool IsResizable() const { return smallest_.width != 0; }
@@ -66,8 +66,8 @@ class Form final : public Container {
   [[nodiscard]] EventDispatcher& Dispatcher() const { return events_; }
   void AttachFormPeer(FormPeer* peer) { form_peer_ = peer; }
 
-  /// Shown or hidden; hidden at first. Showing fires OnActivate the first time and after each hiding. A form
-  /// that is already shown only comes to the front.
+  /// Shown or hidden; hidden at first. Showing fires OnActivate the first time and after each hiding. If the
+  /// form is already shown, Show only brings it to the front.
   [[nodiscard]] bool Shown() const { return Visible(); }
   void Show();
   void Hide();
@@ -83,9 +83,9 @@ class Form final : public Container {
   /// The control with the keyboard, or null.
   [[nodiscard]] Control* Focused() const { return focused_; }
   /// Moves the focus: validates the control that has it, then fires its OnLostFocus and the new control's
-  /// OnGotFocus. Null takes the focus from all controls, also after validation. Returns false if `to` does
-  /// not have the focus in the end: it is unreachable, the other control keeps the focus, or a handler moved
-  /// it on.
+  /// OnGotFocus. Null leaves no control with the focus; validation still runs. Returns false if `to` does not
+  /// have the focus afterwards: it is unreachable, the other control keeps the focus, or a handler moved the
+  /// focus elsewhere.
   bool MoveFocus(Control* to);
 
   /// Takes the focus from a control that has become unreachable, without validation.

@@ -5,7 +5,7 @@
 
 namespace qdix::ui {
 
-/// What the three kinds of list share.
+/// Base of the three kinds of list.
 class ListControl : public Control {
  public:
   static constexpr int kNoSelection = -1;
@@ -91,7 +91,8 @@ class ListBox final : public ListControl {
   [[nodiscard]] bool SameRowFires() const override { return true; }
 };
 
-/// Whether an assignment from code fires OnClick. kNo is for lists where a click is always the user's choice.
+/// Whether an assignment from code fires OnClick. kNo is for lists whose OnClick must run only for the user's
+/// choice.
 enum class CodeFiresClick : bool {
   kNo,
   kYes

@@ -26,7 +26,7 @@ class PropertyBag {
     std::int32_t value;
   };
 
-  /// Returns the position of the entry of this name, or where it would have to be inserted.
+  /// Returns the position of the entry with this name, or the position at which to insert it.
   [[nodiscard]] std::vector<Entry>::const_iterator PositionOf(std::string_view name) const;
 
   // Sorted by name.

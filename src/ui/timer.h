@@ -11,7 +11,7 @@ namespace qdix::ui {
 
 class Timer;
 
-/// Measures the intervals of timers. Is told when a timer starts again or stops.
+/// Measures the intervals of timers. Each timer notifies it when it restarts or stops.
 class TimerPeer {
  public:
   virtual ~TimerPeer() = default;

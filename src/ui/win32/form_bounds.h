@@ -22,7 +22,7 @@ class FormBounds {
   /// All three must outlive this object.
   FormBounds(HWND main, Form& form, const DialogFont& font) : main_(main), form_(form), font_(font) {}
 
-  /// Places the window where the form says, without showing it.
+  /// Moves the window to the form's position and size without showing it.
   void Apply() const;
   /// Handlers of WM_WINDOWPOSCHANGED, WM_SIZE (`inner_size` is its lParam) and WM_GETMINMAXINFO.
   void Moved() const;

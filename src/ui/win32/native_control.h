@@ -79,8 +79,8 @@ class NativeControl : public ControlPeer, private MessageHandler {
   LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   LRESULT Default(UINT message, WPARAM wparam, LPARAM lparam);
 
-  /// False for a control that the focus only passes, as when the dialog manager goes from a label to its
-  /// neighbour.
+  /// False for a control that only passes the focus on, for example a label: the dialog manager then moves to
+  /// the next control.
   [[nodiscard]] virtual bool TakesKeyboard() const { return true; }
   /// Returns the window text for the model's caption.
   [[nodiscard]] std::string NativeCaption() const;

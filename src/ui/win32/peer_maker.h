@@ -1,6 +1,6 @@
 // Makes the windows of a form's controls when they are needed: those on a tab page when the page is first
 // shown, all others at once. On Windows 95, 98 and ME the windows of all programs share 64 KB, so windows
-// that nobody looks at are not made.
+// that the user does not see are not made.
 #pragma once
 
 #include "ui/form.h"

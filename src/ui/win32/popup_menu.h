@@ -1,4 +1,4 @@
-// Shows a menu of the model as a native pop-up menu. Made for one showing.
+// Shows a menu of the model as a native pop-up menu. Each object shows its menu once.
 #pragma once
 
 #include <vector>
