@@ -22,7 +22,7 @@ class AutomaticRelease {
   /// Fills the lists but selects nothing.
   void FillLists();
 
-  // Load functions, each called at its place in the start-up order.
+  // Load functions. The start-up sequence calls each of them at a fixed point.
   void LoadCpuLimit() { cpu_limit_.Load(); }
   /// Stores a new count of 0 releases, starting now.
   void StartCounter();

@@ -28,8 +28,8 @@ class MemoryMonitor {
   /// Returns TotalRAM rounded half to even: the 100 % mark of the gauge. 0 before SetTotalRamMb.
   [[nodiscard]] std::int16_t TotalRamMb() const { return total_ram_mb_; }
 
-  /// Reads the machine's total for the rest of the run. Returns an overflow error if it does not fit into 16
-  /// bits.
+  /// Reads the machine's total and keeps it for the rest of the run. Returns an overflow error if it
+  /// does not fit into 16 bits.
   base::Status SetTotalRamMb();
 
   /// Shows both totals in their labels.

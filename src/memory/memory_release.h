@@ -1,5 +1,5 @@
 // Makes Windows free memory: allocates blocks, lets Windows page while events are handled, and frees the
-// blocks. All callers share this code; the request holds what differs between them.
+// blocks. All releases use this code; the request holds what differs between them.
 #pragma once
 
 #include "base/callback.h"
@@ -12,7 +12,7 @@ namespace qdix::memory {
 struct ReleaseRequest {
   /// Megabytes of 1,040,000 bytes for one pass. Read again before each pass.
   base::Callback<double()> amount_mb{};
-  /// Passes run for 1, 2, ... up to this number. 0, negative or less than 1 runs none; 2.5 runs two.
+  /// Number of passes. A fraction is dropped: 2.5 runs two. Below 1, including negative numbers, none runs.
   double passes = 0;
   /// If bound, called before each pass with its amount. True ends the release because enough memory is free.
   base::Callback<bool(double)> enough_is_free{};

@@ -1,5 +1,5 @@
-// What the releases that start by themselves share: the bar in the graph, the number of passes, and the check
-// box that suppresses the warning.
+// Shared by the releases that start without the user: the bar in the graph, the number of passes, and the
+// check box that suppresses the warning.
 #pragma once
 
 #include "cpu/cpu_usage.h"

@@ -18,13 +18,13 @@ class StartupRelease {
   /// Fills the list of amounts but selects nothing.
   void FillLists();
 
-  // Load functions, each called at its place in the start-up order.
+  // Load functions. The start-up sequence calls each of them at a fixed point.
   void LoadWarnings();
   void LoadAmount(double total_ram_mb);
   /// Shows the stored delay and starts the countdown.
   void LoadAndArmDelay();
 
-  /// Runs the release after start-up. Every pass runs, however much memory is free.
+  /// Runs the release after start-up. Runs every pass, no matter how much memory is free.
   void StartupMem();
   base::Status Timer3_Timer();
 

@@ -29,7 +29,7 @@ class TimedRelease {
   /// Fills the list of amounts. Choosing the unit fills the list of intervals.
   void FillLists();
 
-  // Load functions, each called at its place in the start-up order.
+  // Load functions. The start-up sequence calls each of them at a fixed point.
   void LoadCpuLimit() { cpu_limit_.Load(); }
   void LoadAmount(double total_ram_mb);
   /// 1 is minutes; anything else is hours.
