@@ -21,7 +21,7 @@ inline constexpr std::size_t kPathWidth = 255;
 inline constexpr std::size_t kStartInWidth = 255;
 inline constexpr std::size_t kRecordBytes = kNameWidth + kPathWidth + kStartInWidth;
 
-/// Limit of the launcher.
+/// Maximum number of programs in the launcher.
 inline constexpr std::size_t kMaxEntries = 25;
 
 struct LauncherEntry {

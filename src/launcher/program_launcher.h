@@ -18,7 +18,7 @@ namespace qdix::launcher {
 
 class ProgramLauncher {
  public:
-  /// Where the programs are shown.
+  /// The form and the controls that show the programs.
   struct Screens {
     const ui::Form& form;
     screens::LauncherScreen& launcher;
@@ -41,7 +41,7 @@ class ProgramLauncher {
   base::Status mnuProgram_Click(int index);
 
  private:
-  /// One more than the entries of the menu.
+  /// One more than the number of menu entries.
   static constexpr std::size_t kTableSlots = 26;
   using Table = std::array<std::string, kTableSlots>;
 
@@ -60,7 +60,7 @@ class ProgramLauncher {
   [[nodiscard]] Program ProgramOf(std::size_t index) const;
   void Start(const Program& program);
   void ChangeFolder(const std::string& folder);
-  /// Shows an error on the way to starting a program. The start continues anyway.
+  /// Shows an error from changing the folder or starting a program. A folder error does not stop the start.
   void Report(const base::Status& status);
 
   const os::System& system_;
