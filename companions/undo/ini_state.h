@@ -18,8 +18,8 @@ enum class IniState : unsigned char {
   /// Windows does not start without this section.
   kWithoutBoot,
   kWithout386Enh,
-  /// The file does not end with a line break. The rest may be lost, for example after a power cut or on a
-  /// full disk.
+  /// The file does not end with a line break. Its end may be missing, for example after a power failure or on
+  /// a full disk.
   kCut,
   kWhole,
 };

@@ -49,12 +49,12 @@ class Settings {
   void PutBack(const Entry& entry, const Before& before);
 
   /// Makes Windows write the entries of system.ini that it holds in memory. Until then a program that reads
-  /// the file, or replaces it, deals with the old entries.
+  /// or replaces the file works with the old entries.
   void FlushSystemIni();
 
   /// Replaces system.ini by the backup, unless the backup is no longer complete.
   Replacement RestoreWholeFile();
-  /// From now on, Q-DIX's own template can be removed even if no other template is recorded.
+  /// Allows the removal of Q-DIX's own template from now on, even if no other template is recorded.
   void OfferOwnTemplate() { offers_own_template_ = true; }
 
   /// Returns the Windows folder with a backslash at the end.

@@ -20,7 +20,7 @@ inline constexpr std::size_t kBeforeCharacters = 24;
 inline constexpr std::size_t kBackupCharacters = 8;
 inline constexpr std::size_t kNowCharacters = 11;
 
-/// What distinguishes a row from the others.
+/// The parts of a row's design that differ from row to row.
 struct RowDesign {
   const char* box;
   const char* before;
