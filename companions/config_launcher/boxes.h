@@ -1,5 +1,5 @@
-// The program's questions and messages, with its title. While one of them or a dialog is open, the window
-// must not be closed from outside: the answer would come too late.
+// Shows the program's questions and messages under its title. While one of them or a dialog is open, the
+// window must not be closed from outside: the answer would come too late.
 #pragma once
 
 #include <string>

@@ -48,9 +48,9 @@ class EntryList {
 
   [[nodiscard]] int Count() const { return static_cast<int>(entries_.size()); }
   [[nodiscard]] launcher::LauncherEntry& At(int index) { return entries_[static_cast<std::size_t>(index)]; }
-  /// What the fields hold, without blanks at the ends and without quotation marks in the folder.
+  /// Returns the contents of the fields, trimmed and without quotation marks in the folder.
   [[nodiscard]] launcher::LauncherEntry Typed() const;
-  /// What the fields hold if nothing is pending in them: the selected entry, or nothing.
+  /// Returns the contents that the fields have without pending changes: the selected entry, or nothing.
   [[nodiscard]] launcher::LauncherEntry Shown() const;
 
   void Select(int index);
@@ -72,7 +72,7 @@ class EntryList {
   std::vector<launcher::LauncherEntry> entries_;
   /// The entry to which the fields belong; kNone for a new one.
   int selected_ = kNone;
-  /// What the program itself last put into the fields.
+  /// The contents that the program itself last put into the fields.
   launcher::LauncherEntry filled_;
 };
 

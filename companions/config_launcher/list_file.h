@@ -1,5 +1,4 @@
-// The list on the disk. Reads whatever is there. Saving is atomic: the old or the new list is always
-// complete.
+// The list on the disk. Reads any file. Saving is atomic: either the old or the new list is always complete.
 #pragma once
 
 #include <string>
@@ -16,13 +15,13 @@ inline constexpr std::uint32_t kMaxBytes = 100 * launcher::kRecordBytes;
 
 /// The list on the disk and its problems.
 struct FoundList {
-  /// False if there is a file that could not be read. Nothing is known about the list then.
+  /// False if there is a file that could not be read. The contents of the list are then unknown.
   bool is_readable = true;
   /// The list came from the copy left behind by an interrupted save.
   bool is_from_backup = false;
   bool has_odd_length = false;
   bool has_control_characters = false;
-  /// Some entry has no name or no command line.
+  /// At least one entry has no name or no command line.
   bool has_incomplete_entries = false;
   /// The file is longer than the part that was read.
   bool is_cut = false;
