@@ -63,9 +63,12 @@ TEST_F(FileDialogsWin32, GivenFolderIsSelectedInitially) {
   EXPECT_EQ(base::UpperAscii(dialogs.SHBrowseForFolderA("Which?", windows_)), Windows());
 }
 
-/// Lays out the memory as a drag source does: a header, the paths, and one more NUL.
+/// Lays out the memory as a drag source does: a header, the paths with a NUL behind each, and one more NUL.
+/// An empty list has two NULs as well, because the system looks at the second one before it knows that there
+/// is no path.
 WPARAM MakeDrop(const std::string& paths) {
-  HGLOBAL const memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DROPFILES) + paths.size() + 1);
+  constexpr std::size_t kNuls = 2;
+  HGLOBAL const memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DROPFILES) + paths.size() + kNuls);
   auto* const heading = static_cast<DROPFILES*>(GlobalLock(memory));
   heading->pFiles = sizeof(DROPFILES);
   std::memcpy(heading + 1, paths.data(), paths.size());
