@@ -42,7 +42,8 @@ function(qdix_test name)
     target_link_libraries(${name} PRIVATE ${precision_object})
     # A different name, so "-R unit" finds only the quick tests.
     string(REPLACE "unit" "portable" wine_name wine.${prefix})
-    add_test(NAME ${wine_name} COMMAND ${name})
+    # Brief: after a failure, its text must not drown among hundreds of lines of other tests.
+    add_test(NAME ${wine_name} COMMAND ${name} --gtest_brief=1)
     set_tests_properties(${wine_name} PROPERTIES TIMEOUT ${wine_limit_s})
   elseif(test_SHARDS)
     math(EXPR last_shard "${test_SHARDS} - 1")
