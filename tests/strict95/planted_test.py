@@ -17,7 +17,7 @@ EXE = pathlib.Path(sys.argv.pop())
 # For each function of planted.cpp: number of the rule, the call, and the reported text.
 EXPECTED = {
     "BoxBehindOthers": (5, "MessageBoxA", "a box of a window that nobody sees"),
-    "LookupOfAStub": (1, "GetProcAddress", "MoveFileExA is there only to fail"),
+    "LookupOfAStub": (1, "GetProcAddress", "MoveFileExA exists only to fail"),
     "LaterRecord": (2, "SetScrollInfo", "SCROLLINFO is 0x20"),
     "LaterToolRecord": (2, "SendMessageA", "TOOLINFO is 0x2c"),
     "MessageOfAnotherClass": (3, "SendMessageA", "ListBox does not know message 0xf3"),
@@ -35,7 +35,7 @@ EXPECTED = {
     "WideWord": (6, "SendMessageA", "word 0x12345 of message 0x18a to ListBox"),
     "RootWithoutBackslash": (7, "GetDriveTypeA", 'asks for "C:" without the backslash'),
     "QuestionToAnEmptyDrive": (7, "GetFileAttributesA", "asks a drive that is not ready without an error mode"),
-    "ForeignControlWord": (8, "PeekMessageA", "goes on with the control word 0x87f of somebody else"),
+    "ForeignControlWord": (8, "PeekMessageA", "continues with the control word 0x87f that other code set"),
     "ClosedKey": (9, "RegQueryValueExA", "uses a key that it does not hold"),
     "CopyOfAnUnwrittenProfile": (10, "CopyFileA", "planted.ini is not flushed yet"),
     # The wide coordinate that it needs to show the truncation is reported too.

@@ -63,7 +63,7 @@ void CheckLookup(Call& call) {
   if (HIWORD(name) == 0) return;
   const Export* const found = FindExport(LibraryName(call.Argument<HMODULE>(1)), name);
   if (found != nullptr && found->here == Here::kOnlyFails) {
-    Report(call, Rule::kLaterNames, Format("%s is there only to fail", name));
+    Report(call, Rule::kLaterNames, Format("%s exists only to fail", name));
   }
   const Here last = ChosenMachine() == Machine::k98 ? Here::kLater : Here::kWorks;
   const bool is_there = found != nullptr && (found->here == Here::kWorks || found->here == last);

@@ -42,7 +42,7 @@ void CheckSetAgain(const Call& call) {
   TheExpected().is_due = false;
   const std::uint16_t found = ControlWord();
   if (((found ^ TheExpected().word) & kPrecisionAndRounding) == 0) return;
-  Report(call, Rule::kControlWord, Format("goes on with the control word %#x of somebody else", found));
+  Report(call, Rule::kControlWord, Format("continues with the control word %#x that other code set", found));
   asm volatile("fldcw %0" : : "m"(TheExpected().word));
 }
 

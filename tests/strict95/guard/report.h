@@ -21,7 +21,7 @@ enum class Rule {
   kProfileCache,
   kDeviceReset,
   kLaterAnswers,
-  kStartersWish
+  kStartCommand
 };
 
 /// Reports a violation, unless it is exempt. Reports the same call, text and calling function only once.

@@ -16,7 +16,7 @@ void AddControlWordRules(Watches& watches);
 void AddProfileRules(Watches& watches);
 void AddDeviceRules(Watches& watches);
 void AddAnswers(Watches& watches, HMODULE guard);
-void AddStartersWish(Watches& watches);
+void AddStartCommand(Watches& watches);
 
 inline void AddAllRules(Watches& watches, HMODULE guard) {
   AddArgumentRules(watches);
@@ -29,7 +29,7 @@ inline void AddAllRules(Watches& watches, HMODULE guard) {
   AddProfileRules(watches);
   AddDeviceRules(watches);
   AddAnswers(watches, guard);
-  AddStartersWish(watches);
+  AddStartCommand(watches);
 }
 
 }  // namespace qdix::strict95

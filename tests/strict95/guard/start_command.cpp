@@ -17,7 +17,7 @@ bool IsTopLevelWithoutOwner(HWND window) {
 
 }  // namespace
 
-void AddStartersWish(Watches& watches) {
+void AddStartCommand(Watches& watches) {
   watches.Before("ShowWindow", [is_granted = false](Call& call) mutable {
     STARTUPINFOA start{};
     GetStartupInfoA(&start);
