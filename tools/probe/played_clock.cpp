@@ -4,6 +4,8 @@
 #include <windows.h>
 // clang-format on
 
+#include <array>
+
 #include "tests/e2e/driver/import_redirect.h"
 #include "tests/e2e/driver/inside_process.h"
 #include "tests/e2e/driver/polling.h"
@@ -12,26 +14,17 @@ namespace qdix::probe {
 
 namespace {
 
-/// Where programs are loaded that say nothing else.
+/// Default load address of a program.
 constexpr std::uintptr_t kProgramBegin = 0x400000;
-/// A jump to itself, of two bytes.
-constexpr WORD kWaitHere = 0xFEEB;
+/// A jump to itself.
+constexpr const char* kWaitHere = "\xEB\xFE";
 
 template <class Value>
 bool Read(HANDLE process, std::uintptr_t address, Value& value) {
   return ReadProcessMemory(process, reinterpret_cast<void*>(address), &value, sizeof value, nullptr) != 0;
 }
 
-bool WriteCode(HANDLE process, std::uintptr_t address, WORD code) {
-  auto* const place = reinterpret_cast<void*>(address);
-  DWORD protection = 0;
-  if (VirtualProtectEx(process, place, sizeof code, PAGE_EXECUTE_READWRITE, &protection) == 0) return false;
-  const bool is_written = WriteProcessMemory(process, place, &code, sizeof code, nullptr) != 0;
-  VirtualProtectEx(process, place, sizeof code, protection, &protection);
-  return is_written;
-}
-
-/// Where the program begins to run; 0 where its image cannot be read.
+/// Returns the address of the program's first instruction; 0 if its image cannot be read.
 std::uintptr_t EntryPoint(HANDLE process) {
   IMAGE_DOS_HEADER start = {};
   IMAGE_NT_HEADERS32 headers = {};
@@ -40,7 +33,7 @@ std::uintptr_t EntryPoint(HANDLE process) {
   return kProgramBegin + headers.OptionalHeader.AddressOfEntryPoint;
 }
 
-/// QueryPerformanceFrequency with this answer.
+/// Returns code that does the work of QueryPerformanceFrequency with this answer.
 std::string AnswerFrequency(std::uint32_t ticks_per_second) {
   e2e::MachineCode code;
   code.Bytes("\x8B\x4C\x24\x04");                                      // mov ecx, [esp + 4]
@@ -50,24 +43,25 @@ std::string AnswerFrequency(std::uint32_t ticks_per_second) {
   return code.Text();
 }
 
-/// The imports of a program that was started suspended are not found before its libraries are loaded. So it
-/// waits at its entry until the clock is led elsewhere.
-bool LeadClock(const PROCESS_INFORMATION& started, int percent) {
+/// The imports of a suspended program cannot be found before its libraries are loaded, so the program waits
+/// at its entry until the clock is redirected.
+bool RedirectClock(const PROCESS_INFORMATION& started, int percent) {
   LARGE_INTEGER frequency = {};
   QueryPerformanceFrequency(&frequency);
   const std::uintptr_t entry = EntryPoint(started.hProcess);
   const e2e::ForeignPage page(started.hProcess);
-  const auto played = static_cast<std::uint32_t>(frequency.QuadPart * percent / 100);
-  WORD first_instruction = 0;
-  if (entry == 0 || !Read(started.hProcess, entry, first_instruction) ||
-      !page.Write(0, AnswerFrequency(played)) || !WriteCode(started.hProcess, entry, kWaitHere)) {
+  const auto ticks_per_second = static_cast<std::uint32_t>(frequency.QuadPart * percent / 100);
+  std::array<char, 2> first_bytes{};
+  if (entry == 0 || !Read(started.hProcess, entry, first_bytes) ||
+      !page.Write(0, AnswerFrequency(ticks_per_second)) ||
+      !e2e::Overwrite(started.hProcess, entry, kWaitHere)) {
     return false;
   }
   ResumeThread(started.hThread);
   const std::uint32_t asked = e2e::SystemFunction("kernel32.dll", "QueryPerformanceFrequency");
-  const bool is_led =
+  const bool is_redirected =
       e2e::Eventually([&] { return e2e::RedirectImport(started.hProcess, asked, page.At(0)); });
-  return WriteCode(started.hProcess, entry, first_instruction) && is_led;
+  return e2e::Overwrite(started.hProcess, entry, {first_bytes.data(), first_bytes.size()}) && is_redirected;
 }
 
 }  // namespace
@@ -81,11 +75,11 @@ bool StartWithClock(const std::string& path, int percent) {
                      nullptr, &startup, &started) == 0) {
     return false;
   }
-  const bool is_led = LeadClock(started, percent);
-  if (!is_led) TerminateProcess(started.hProcess, 1);
+  const bool is_redirected = RedirectClock(started, percent);
+  if (!is_redirected) TerminateProcess(started.hProcess, 1);
   CloseHandle(started.hThread);
   CloseHandle(started.hProcess);
-  return is_led;
+  return is_redirected;
 }
 
 }  // namespace qdix::probe

@@ -36,12 +36,8 @@ bool FakeDisk::Play(std::uint64_t free_bytes) {
 bool FakeDisk::Redirect() {
   const std::uint32_t function = SystemFunction("kernel32.dll", "GetDiskFreeSpaceExA");
   const std::string jump = MachineCode().Bytes("\xE9").Number(page_.At(0) - (function + kJumpBytes)).Text();
-  void* const place = reinterpret_cast<void*>(static_cast<std::uintptr_t>(function));
-  DWORD protection = 0;
-  is_redirected_ = page_.Write(0, AnswerWithFigure(page_.At(kFigureOffset))) &&
-                   VirtualProtectEx(process_, place, jump.size(), PAGE_EXECUTE_READWRITE, &protection) != 0 &&
-                   WriteProcessMemory(process_, place, jump.data(), jump.size(), nullptr) != 0 &&
-                   VirtualProtectEx(process_, place, jump.size(), protection, &protection) != 0;
+  is_redirected_ =
+      page_.Write(0, AnswerWithFigure(page_.At(kFigureOffset))) && Overwrite(process_, function, jump);
   return is_redirected_;
 }
 

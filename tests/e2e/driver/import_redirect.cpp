@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/e2e/driver/inside_process.h"
+
 namespace qdix::e2e {
 
 namespace {
@@ -14,8 +16,8 @@ namespace {
 constexpr std::uintptr_t kProgramBegin = 0x400000;
 
 /// Returns the places in an image of the process that hold the address of a function.
-std::vector<void*> PlacesOf(HANDLE process, std::uintptr_t image, std::uint32_t function) {
-  std::vector<void*> places;
+std::vector<std::uintptr_t> PlacesOf(HANDLE process, std::uintptr_t image, std::uint32_t function) {
+  std::vector<std::uintptr_t> places;
   std::uintptr_t address = image;
   MEMORY_BASIC_INFORMATION region = {};
   while (VirtualQueryEx(process, reinterpret_cast<void*>(address), &region, sizeof region) != 0 &&
@@ -23,15 +25,14 @@ std::vector<void*> PlacesOf(HANDLE process, std::uintptr_t image, std::uint32_t 
     std::vector<std::uint32_t> words(region.RegionSize / sizeof(std::uint32_t));
     ReadProcessMemory(process, region.BaseAddress, words.data(), region.RegionSize, nullptr);
     for (std::size_t i = 0; i < words.size(); ++i) {
-      if (words[i] == function)
-        places.push_back(reinterpret_cast<void*>(address + i * sizeof(std::uint32_t)));
+      if (words[i] == function) places.push_back(address + i * sizeof(std::uint32_t));
     }
     address += region.RegionSize;
   }
   return places;
 }
 
-/// Where the guard of a strict copy is loaded; 0 in a program as it ships.
+/// Returns the address of the guard in a strict copy; 0 in a program as shipped.
 std::uintptr_t GuardOf(HANDLE process) {
   constexpr std::string_view kGuard = "Guard.dll";
   std::array<HMODULE, 256> modules{};
@@ -45,23 +46,17 @@ std::uintptr_t GuardOf(HANDLE process) {
   return 0;
 }
 
-bool Write(HANDLE process, void* place, std::uint32_t replacement) {
-  DWORD protection = 0;
-  VirtualProtectEx(process, place, sizeof replacement, PAGE_READWRITE, &protection);
-  const bool is_written = WriteProcessMemory(process, place, &replacement, sizeof replacement, nullptr) != 0;
-  VirtualProtectEx(process, place, sizeof replacement, protection, &protection);
-  return is_written;
-}
-
 }  // namespace
 
 bool RedirectImport(HANDLE process, std::uint32_t function, std::uint32_t replacement) {
-  std::vector<void*> places = PlacesOf(process, kProgramBegin, function);
+  std::vector<std::uintptr_t> places = PlacesOf(process, kProgramBegin, function);
   // A strict copy imports the guard, and that has the addresses of the system.
   const std::uintptr_t guard = places.empty() ? GuardOf(process) : 0;
   if (guard != 0) places = PlacesOf(process, guard, function);
   bool is_redirected = !places.empty();
-  for (void* const place : places) is_redirected = Write(process, place, replacement) && is_redirected;
+  for (const std::uintptr_t place : places) {
+    is_redirected = Overwrite(process, place, MachineCode().Number(replacement).Text()) && is_redirected;
+  }
   return is_redirected;
 }
 

@@ -48,6 +48,14 @@ void ForeignPage::Free() {
   begin_ = nullptr;
 }
 
+bool Overwrite(HANDLE process, std::uintptr_t address, const std::string& bytes) {
+  auto* const place = reinterpret_cast<void*>(address);
+  DWORD protection = 0;
+  if (VirtualProtectEx(process, place, bytes.size(), PAGE_EXECUTE_READWRITE, &protection) == 0) return false;
+  const bool is_written = WriteProcessMemory(process, place, bytes.data(), bytes.size(), nullptr) != 0;
+  return VirtualProtectEx(process, place, bytes.size(), protection, &protection) != 0 && is_written;
+}
+
 std::uint32_t SystemFunction(const char* library, const char* name) {
   const FARPROC function = GetProcAddress(GetModuleHandleA(library), name);
   return static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(function));

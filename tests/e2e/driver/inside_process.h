@@ -40,6 +40,9 @@ class ForeignPage {
   char* begin_;
 };
 
+/// Overwrites code or data in that process, whatever its protection, and restores the protection.
+[[nodiscard]] bool Overwrite(HANDLE process, std::uintptr_t address, const std::string& bytes);
+
 /// Returns the address of a system function, which is the same in all processes.
 [[nodiscard]] std::uint32_t SystemFunction(const char* library, const char* name);
 
