@@ -10,11 +10,11 @@ sys.path.insert(0, str(ROOT / "tools" / "dist"))
 from make_dist import texts_of  # noqa: E402
 
 PROGRAMS = ("QDIX.exe", "configL.exe", "undo.exe")
-MOST_SECTION_NAME = 28
-MOST_LINE = 511
-MOST_ADD_REMOVE_NAME = 59
+MAX_SECTION_NAME = 28
+MAX_LINE = 511
+MAX_ADD_REMOVE_NAME = 59
 # DOS has 128 bytes for a command line without the program name: its length, 126 characters, and the byte that ends it.
-MOST_ARGUMENTS = 126
+MAX_ARGUMENTS = 126
 # Sections that the engine looks up by itself.
 OWN_SECTIONS = {"Version", "DefaultInstall", "DefaultUninstall", "DestinationDirs", "SourceDisksNames",
                 "SourceDisksFiles", "Strings"}
@@ -48,11 +48,11 @@ class SetupText(unittest.TestCase):
         self.assertIn('Signature="$CHICAGO$"', self.sections["Version"])
 
     def test_names_and_lines_keep_the_length_limits(self):
-        self.assertLessEqual(max(map(len, self.sections)), MOST_SECTION_NAME)
-        self.assertLessEqual(max(len(line) for lines in self.plain.values() for line in lines), MOST_LINE)
+        self.assertLessEqual(max(map(len, self.sections)), MAX_SECTION_NAME)
+        self.assertLessEqual(max(len(line) for lines in self.plain.values() for line in lines), MAX_LINE)
         key = self.strings["UNINSTALL"].rpartition("\\")[2]
         name = re.search(r'DisplayName,,"(.+)"', "\n".join(self.plain["QDIX.Entry"]))[1]
-        self.assertLessEqual(max(len(key), len(name)), MOST_ADD_REMOVE_NAME)
+        self.assertLessEqual(max(len(key), len(name)), MAX_ADD_REMOVE_NAME)
 
     def test_every_named_section_exists_and_every_section_is_named(self):
         named = {name for start in ("DefaultInstall", "DefaultUninstall")
@@ -98,7 +98,7 @@ class SetupText(unittest.TestCase):
         lines = re.findall(r'command\.com (/c [^"]+)"', "\n".join(self.plain["QDIX.Entry"] + self.plain["QDIX.Rest"]))
         self.assertEqual(len(lines), 3)
         for line in lines:
-            self.assertLessEqual(len(line.replace("%24%", "C:").replace("%10%", r"C:\WINDOWS.000")), MOST_ARGUMENTS, line)
+            self.assertLessEqual(len(line.replace("%24%", "C:").replace("%10%", r"C:\WINDOWS.000")), MAX_ARGUMENTS, line)
 
     def test_batch_file_has_ended_when_the_engine_deletes_it(self):
         lines = texts_of("1.2.3", PROGRAMS)["remove.bat"].decode("ascii").split("\r\n")

@@ -4,10 +4,10 @@ import unittest
 
 from played import PlayedCase
 
-MOST_SWAP_FREE = 0.04
+MAX_SWAP_FREE = 0.04
 # By how much available memory may change by itself during the test.
 UNREST_KB = 6 * 1024
-MOST_SECONDS_TO_END = 10
+MAX_SECONDS_TO_END = 10
 # The notification area at the right end of the taskbar: width, height, x, y.
 TRAY = "60x28+740+572"
 
@@ -17,7 +17,7 @@ class NoMemoryTest(PlayedCase):
 
     def test_the_swap_file_is_full(self):
         before = self.result["before"]
-        self.assertLessEqual(before["swap_total_kb"] - before["swap_used_kb"], MOST_SWAP_FREE * before["swap_total_kb"])
+        self.assertLessEqual(before["swap_total_kb"] - before["swap_used_kb"], MAX_SWAP_FREE * before["swap_total_kb"])
 
     def test_the_warning_is_shown_once(self):
         self.assertEqual(self.result["box"], "Warning - System Resources may be low.  "
@@ -40,7 +40,7 @@ class CloseDuringReleaseTest(PlayedCase):
         self.assertEqual(self.result["enabled"], "0")
 
     def test_the_process_ends_within_seconds(self):
-        self.assertLessEqual(self.result["seconds_to_end"], MOST_SECONDS_TO_END)
+        self.assertLessEqual(self.result["seconds_to_end"], MAX_SECONDS_TO_END)
         self.assertEqual(self.result["after"]["main_in_ram_kb"], 0)
 
     def test_its_memory_is_freed_and_other_memory_is_intact(self):

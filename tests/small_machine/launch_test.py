@@ -11,10 +11,10 @@ KB_PER_MB = 1024
 # How far the two runs may differ before the launch. Both start from one state; choosing the share changes little.
 SAME_KB = 4 * KB_PER_MB
 # Share of half the memory by which available memory has grown when the program starts.
-LEAST_GAIN = 0.50
+MIN_GAIN = 0.50
 # Share of the idle programs' memory that is in RAM when the program starts: with a release, and without one.
-MOST_IDLE = 0.50
-LEAST_IDLE = 0.65
+MAX_IDLE = 0.50
+MIN_IDLE = 0.65
 
 
 class LaunchTest(unittest.TestCase):
@@ -42,12 +42,12 @@ class LaunchTest(unittest.TestCase):
 
     def test_memory_is_released_before_the_start(self):
         before, at_start = self.released["before"], self.released["at_start"]
-        self.assertLessEqual(self.idle_share(self.released), MOST_IDLE)
+        self.assertLessEqual(self.idle_share(self.released), MAX_IDLE)
         self.assertGreaterEqual(at_start["available_kb"] - before["available_kb"],
-                                LEAST_GAIN * before["total_kb"] / 2)
+                                MIN_GAIN * before["total_kb"] / 2)
 
     def test_nothing_is_released_without_a_share(self):
-        self.assertGreaterEqual(self.idle_share(self.plain), LEAST_IDLE)
+        self.assertGreaterEqual(self.idle_share(self.plain), MIN_IDLE)
 
     def test_the_release_of_a_launch_is_not_counted_as_an_automatic_one(self):
         for name, result in self.runs.items():

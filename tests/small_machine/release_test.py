@@ -10,15 +10,15 @@ from played import PlayedCase
 
 PNG = b"\x89PNG\r\n\x1a\n"
 # Share of the released amount. The smallest machine has less memory that can be paged out.
-LEAST_GAIN = {64: 0.30, 96: 0.60, 128: 0.60}
+MIN_GAIN = {64: 0.30, 96: 0.60, 128: 0.60}
 # Share of the released amount by which the memory in the swap file grows. Pages that are also in RAM do not count: while
 # memory is short, a page that was read back keeps its place there, and paging it out again uses no more of the file. On
 # the smallest machine most pages have such a place before the release.
-LEAST_SWAP = 0.20
+MIN_SWAP = 0.20
 # Share of the idle programs' memory that is in RAM after the release.
-MOST_IDLE = 0.50
+MAX_IDLE = 0.50
 # Share of the released amount that a second release may find.
-MOST_FOUND_AGAIN = 0.25
+MAX_FOUND_AGAIN = 0.25
 # Memory use changes between the reading of the kernel and the reading of the program.
 AGREEMENT_KB = 1024
 # The label shows the gauge, which has fifty steps.
@@ -35,22 +35,22 @@ class ReleaseTest(PlayedCase):
         cls.amount_kb = cls.result["release_mb"] * 1024
 
     def test_available_memory_rises(self):
-        self.assertGreaterEqual(self.gain_kb("before", "after"), LEAST_GAIN[self.memory_mb] * self.amount_kb)
+        self.assertGreaterEqual(self.gain_kb("before", "after"), MIN_GAIN[self.memory_mb] * self.amount_kb)
 
     def test_idle_programs_are_paged_out(self):
         self.assertEqual(self.before["idle_programs"], 4)
-        self.assertLessEqual(self.after["idle_in_ram_kb"], MOST_IDLE * self.before["idle_in_ram_kb"])
+        self.assertLessEqual(self.after["idle_in_ram_kb"], MAX_IDLE * self.before["idle_in_ram_kb"])
 
     def test_swap_file_grows(self):
         rise_kb = self.after["paged_out_kb"] - self.before["paged_out_kb"]
-        self.assertGreaterEqual(rise_kb, LEAST_SWAP * self.amount_kb)
+        self.assertGreaterEqual(rise_kb, MIN_SWAP * self.amount_kb)
 
     def test_no_memory_is_damaged(self):
         self.assertEqual(self.result["wrong_words"], 0)
         self.assertEqual(self.result["words"], 4 * self.result["idle_mb"] * 1024 * 1024 // 4)
 
     def test_a_second_release_finds_little(self):
-        self.assertLessEqual(self.gain_kb("after", "after_again"), MOST_FOUND_AGAIN * self.amount_kb)
+        self.assertLessEqual(self.gain_kb("after", "after_again"), MAX_FOUND_AGAIN * self.amount_kb)
 
     def test_window_agrees_with_the_kernel(self):
         for moment in (self.before, self.after):

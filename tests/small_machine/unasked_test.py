@@ -7,12 +7,12 @@ import unittest
 from played import PlayedCase
 
 # Share of the amount.
-LEAST_GAIN = 0.30
+MIN_GAIN = 0.30
 # From the moment when the release is due until its memory is freed.
-MOST_SECONDS = 30
+MAX_SECONDS = 30
 KB_PER_MB = 1000
 # In an hour with at least twelve releases: less than a page per release.
-MOST_GROWTH_BYTES = 8 * 4096
+MAX_GROWTH_BYTES = 8 * 4096
 
 
 class AutomaticReleaseTest(PlayedCase):
@@ -25,8 +25,8 @@ class AutomaticReleaseTest(PlayedCase):
     def test_memory_is_released_within_the_interval(self):
         self.assertLess(self.result["low"]["available_kb"], self.result["threshold_mb"] * KB_PER_MB)
         waited_s = self.result["counted_at"] - self.result["low"]["seconds"]
-        self.assertLessEqual(waited_s, self.result["interval_s"] + MOST_SECONDS)
-        self.assertGreaterEqual(self.gain_kb("low", "after"), LEAST_GAIN * self.result["amount_mb"] * KB_PER_MB)
+        self.assertLessEqual(waited_s, self.result["interval_s"] + MAX_SECONDS)
+        self.assertGreaterEqual(self.gain_kb("low", "after"), MIN_GAIN * self.result["amount_mb"] * KB_PER_MB)
 
     def test_one_release_is_counted_and_stored(self):
         self.assertGreater(self.result["later"]["available_kb"], self.result["threshold_mb"] * KB_PER_MB)
@@ -47,7 +47,7 @@ class BusyProcessorTest(PlayedCase):
 
     def test_the_release_follows_when_the_processor_is_idle(self):
         # The average over the last eight readings must fall first.
-        self.assertLessEqual(self.result["seconds_until_release"], 2 * self.result["interval_s"] + MOST_SECONDS)
+        self.assertLessEqual(self.result["seconds_until_release"], 2 * self.result["interval_s"] + MAX_SECONDS)
 
 
 class StartUpReleaseTest(PlayedCase):
@@ -55,8 +55,8 @@ class StartUpReleaseTest(PlayedCase):
 
     def test_memory_is_released_after_the_delay(self):
         self.assertGreaterEqual(self.result["seconds_after_start"], self.result["delay_s"])
-        self.assertLessEqual(self.result["seconds_after_start"], self.result["delay_s"] + MOST_SECONDS)
-        self.assertGreaterEqual(self.gain_kb("before", "after"), LEAST_GAIN * self.result["amount_mb"] * KB_PER_MB)
+        self.assertLessEqual(self.result["seconds_after_start"], self.result["delay_s"] + MAX_SECONDS)
+        self.assertGreaterEqual(self.gain_kb("before", "after"), MIN_GAIN * self.result["amount_mb"] * KB_PER_MB)
 
     def test_no_memory_is_damaged(self):
         self.assertEqual(self.result["wrong_words"], 0)
@@ -68,8 +68,8 @@ class TimedReleaseTest(PlayedCase):
     def test_memory_is_released_when_the_release_is_due(self):
         self.assertEqual(self.result["due_before"], "Next Release of RAM is due in 5 minutes")
         self.assertGreaterEqual(self.result["seconds_after_start"], self.result["interval_s"])
-        self.assertLessEqual(self.result["seconds_after_start"], self.result["interval_s"] + MOST_SECONDS)
-        self.assertGreaterEqual(self.gain_kb("before", "after"), LEAST_GAIN * self.result["amount_mb"] * KB_PER_MB)
+        self.assertLessEqual(self.result["seconds_after_start"], self.result["interval_s"] + MAX_SECONDS)
+        self.assertGreaterEqual(self.gain_kb("before", "after"), MIN_GAIN * self.result["amount_mb"] * KB_PER_MB)
 
     def test_the_next_release_is_a_whole_interval_away(self):
         self.assertEqual(self.result["due_after"], "Next Release of RAM is due in 5 minutes")
@@ -87,7 +87,7 @@ class HourTest(PlayedCase):
 
     def test_the_program_does_not_grow(self):
         first, *_, last = self.result["committed_bytes"]
-        self.assertLessEqual(last - first, MOST_GROWTH_BYTES)
+        self.assertLessEqual(last - first, MAX_GROWTH_BYTES)
 
     def test_no_memory_is_damaged(self):
         self.assertEqual(self.result["wrong_words"], 0)

@@ -8,7 +8,7 @@ import pathlib
 import struct
 import sys
 
-MOST_DISTANCE = 1 << 12
+MAX_DISTANCE = 1 << 12
 SHORTEST = 3
 LONGEST = SHORTEST + 15
 # Bits of an item including its flag.
@@ -26,7 +26,7 @@ def longest_repetitions(data):
         earlier = places.setdefault(start, []) if len(start) == SHORTEST else []
         best = (0, 0)
         for there in reversed(earlier):
-            if here - there > MOST_DISTANCE or best[0] == LONGEST:
+            if here - there > MAX_DISTANCE or best[0] == LONGEST:
                 break
             length = SHORTEST
             while length < LONGEST and here + length < len(data) and data[there + length] == data[here + length]:

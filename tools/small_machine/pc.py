@@ -18,7 +18,7 @@ WINDOW_LIMIT_S = 120
 RELEASE_LIMIT_S = 300
 # How far the window's figure may differ from the kernel's, and how often it is read until they agree.
 AGREEMENT_KB = 1024
-MOST_LOOKS = 10
+MAX_LOOKS = 10
 # A point well inside the first row of a list, in pixels from its top left corner.
 FIRST_ROW = (20, 9)
 # Seconds of the host's time, for a wait in the guest.
@@ -153,7 +153,7 @@ class Pc:
         The window is refreshed every 750 ms. If the two do not agree because memory has moved since then, reads both
         again. If they never agree, returns the last reading.
         """
-        for _ in range(MOST_LOOKS):
+        for _ in range(MAX_LOOKS):
             seen = self.kernel() | {"caption": self.probe("caption"), "free": self.probe("text lblPercentFree")}
             if abs(shown_kb(seen["caption"]) - seen["available_kb"]) <= AGREEMENT_KB:
                 break
