@@ -32,9 +32,6 @@ probe() {
   return 1
 }
 
-# Puts a program on the launcher's list:   list_program NAME COMMAND FOLDER
-list_program() { printf '%-55s%-255s%-255s' "$@" >>"$programs/launcher.dat"; }
-
 # Waits until the probe's answer matches a shell pattern:   await_answer SECONDS PATTERN QUESTION...
 await_answer() {
   local seconds=$1 answer=$2
@@ -120,8 +117,6 @@ memory_of() {
   local status
   status=$(grep -ls "^Name:[[:space:]]*$1\$" /proc/[0-9]*/status) && cat "${status%status}smaps_rollup"
 }
-
-is_there() { ! is_gone "$1"; }
 
 start_notepad() { wine notepad >"$logs/notepad.txt" 2>&1 </dev/null & }
 

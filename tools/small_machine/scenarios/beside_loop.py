@@ -14,7 +14,7 @@ def at_rest(pc, name, command):
     before = pc.kernel()
     pc.say(f"starting {name}")
     command()
-    pc.machine.ask(f"await 60 is_there {name}")
+    pc.machine.ask(f"await 60 is_running {name}")
     pc.pause(5)
     pc.rest()
     after = pc.kernel()

@@ -15,7 +15,7 @@ MEMORY_LIMIT_S = 300
 def play(pc, memory_mb):
     pc.set_settings("Startup", StartupTime=0)
     pc.set_settings("Settings", CounterValue=COUNTER)
-    pc.machine.ask(f"list_program Hungry 'hungry.exe {NEEDED_MB} hungry.txt' 'C:\\QDIX'")
+    pc.machine.ask(f"add_to_launcher Hungry 'hungry.exe {NEEDED_MB} hungry.txt' 'C:\\QDIX'")
     pc.start_idle_programs(IDLE_PROGRAMS, IDLE_MB)
     pc.start_main_program()
     pc.probe(f"open-tab {LAUNCHER_TAB}")
