@@ -35,6 +35,13 @@ class PutBack : public testing::Test {
   std::size_t first_call = 0;
 };
 
+/// Presses "Put Back", agrees, and declines the restart.
+void ConfirmPutBack(UndoRig& rig) {
+  rig.machine.AnswerNextBox(os::kIdYes);
+  rig.machine.AnswerNextBox(os::kIdNo);
+  rig.Screen().cmdPutBack.Press();
+}
+
 TEST_F(PutBack, QuestionNamesEachActionAndProposesNo) {
   StartChanged();
   rig.TickAll();
@@ -147,9 +154,7 @@ TEST_F(PutBack, TemplateThatDidNotExistIsRemoved) {
   other.SetTemplate("Quondix");
   other.Start();
   EXPECT_EQ(other.Screen().Template.before.Caption(), "(none)");
-  other.machine.AnswerNextBox(os::kIdYes);
-  other.machine.AnswerNextBox(os::kIdNo);
-  other.Screen().cmdPutBack.Press();
+  ConfirmPutBack(other);
   EXPECT_EQ(other.machine.Boxes()[0].text,
             "Q-DIX Undo will make these changes:\r\n\r\nFile system template: remove\r\n\r\nDo you want to "
             "put these settings back?");
@@ -247,9 +252,7 @@ TEST_F(PutBack, ExactTextsOfTheBackupAreRestored) {
                           "[vcache]\r\nMinFileCache=2048\r\nMaxFileCache=1\r\nChunkSize=512\r\n");
   other.Start();
   EXPECT_EQ(other.Screen().MinFileCache.before.Caption(), "2048 KB");
-  other.machine.AnswerNextBox(os::kIdYes);
-  other.machine.AnswerNextBox(os::kIdNo);
-  other.Screen().cmdPutBack.Press();
+  ConfirmPutBack(other);
   EXPECT_EQ(other.Ini(), before);
 }
 
@@ -258,9 +261,7 @@ TEST_F(PutBack, BlanksAndQuotationMarksOfAValueAreRestored) {
   other.TakeRecord();
   other.machine.WriteFile(kIniPath, "[boot]\r\n[386Enh]\r\nPagingDrive=C:\r\n");
   other.Start();
-  other.machine.AnswerNextBox(os::kIdYes);
-  other.machine.AnswerNextBox(os::kIdNo);
-  other.Screen().cmdPutBack.Press();
+  ConfirmPutBack(other);
   EXPECT_EQ(other.Ini(), "[boot]\r\n[386Enh]\r\nPagingDrive=\"D: \"\r\nPaging=\"'on'\"\r\n");
   EXPECT_EQ(other.machine.Boxes().size(), 2U) << "there is nothing left to put back";
 }
@@ -272,9 +273,7 @@ TEST_F(PutBack, TextEqualToTheDefaultIsAnOrdinaryEntry) {
     other.TakeRecord();
     other.machine.WriteFile(kIniPath, "[boot]\r\n[386Enh]\r\nPagingDrive=C:\r\n");
     other.Start();
-    other.machine.AnswerNextBox(os::kIdYes);
-    other.machine.AnswerNextBox(os::kIdNo);
-    other.Screen().cmdPutBack.Press();
+    ConfirmPutBack(other);
     EXPECT_EQ(other.Ini(), before);
   }
 }
@@ -286,9 +285,7 @@ TEST_F(PutBack, RemovalDeletesAllEqualLines) {
                           "[boot]\r\n[386Enh]\r\nPagingDrive=C:\r\nother=1\r\npagingdrive=D:\r\n"
                           "PAGINGDRIVE=E:\r\n");
   other.Start();
-  other.machine.AnswerNextBox(os::kIdYes);
-  other.machine.AnswerNextBox(os::kIdNo);
-  other.Screen().cmdPutBack.Press();
+  ConfirmPutBack(other);
   EXPECT_EQ(other.Ini(), "[boot]\r\n[386Enh]\r\nother=1\r\n");
   EXPECT_EQ(other.Screen().PagingDrive.now.Caption(), "(none)");
 }
@@ -312,9 +309,7 @@ TEST_F(PutBack, LongTextsAreCutInTheQuestion) {
   other.Screen().cmdPutBack.Press();
   EXPECT_TRUE(other.machine.Boxes()[0].text.find("PagingDrive: put back " + std::string(57, 'W') +
                                                  "...\r\n") != std::string::npos);
-  other.machine.AnswerNextBox(os::kIdYes);
-  other.machine.AnswerNextBox(os::kIdNo);
-  other.Screen().cmdPutBack.Press();
+  ConfirmPutBack(other);
   EXPECT_EQ(other.Ini(), "[386Enh]\r\nPagingDrive=" + std::string(200, 'W') + "\r\n");
 }
 
