@@ -15,7 +15,7 @@ namespace qdix::tests {
 inline constexpr double kNoon21November2026 = 46347.5;
 inline constexpr std::uint32_t kMegabyte = 1024 * 1024;
 inline constexpr ui::Colour kBarColour = 0x000000FFU;
-/// Height of a full bar on the graph, which stands for a release.
+/// Height of the full bar that a release draws on the graph.
 inline constexpr int kFullBarPx = 64;
 /// Interval of the display refresh, which also reads the processor load.
 inline constexpr std::int64_t kRefreshMs = 750;
@@ -59,7 +59,7 @@ class ProgramRig {
     return *program;
   }
 
-  /// Advances the timers; the machine's clock stands still.
+  /// Advances the timers but not the machine's clock.
   void AdvanceMs(std::int64_t ms) { timers.AdvanceMs(ms); }
 
   /// Leaves this much memory available, in megabytes as the program shows them (1,024,000 bytes).

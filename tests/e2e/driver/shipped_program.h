@@ -21,7 +21,7 @@ namespace qdix::e2e {
 
 class ShippedProgram {
  public:
-  /// Stands for QDIX.exe by default.
+  /// Drives QDIX.exe by default.
   explicit ShippedProgram(ProgramFacts facts = Qdix()) : facts_(std::move(facts)) {}
   ShippedProgram(const ShippedProgram&) = delete;
   ShippedProgram& operator=(const ShippedProgram&) = delete;
