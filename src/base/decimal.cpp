@@ -27,8 +27,8 @@ class LongNumber {
     }
   }
 
+  /// The number must not be 0.
   [[nodiscard]] int DigitCount() const {
-    if (used_ == 0) return 0;
     int count = (used_ - 1) * kDigitsPerLimb;
     for (std::uint32_t top = limbs_[static_cast<std::size_t>(used_ - 1)]; top != 0; top /= 10) ++count;
     return count;

@@ -103,6 +103,16 @@ TEST_F(HelpFind, EnterAndDoubleClickGoToTheNextOccurrence) {
   EXPECT_EQ(rig.Title(), "Memory") << "all occurrences in one topic are one step";
 }
 
+TEST_F(HelpFind, NextOccurrenceInViewLeavesTheTopicWhereItIs) {
+  rig.TypeWord("in it");
+  rig.Screen().lstFound.DoubleClick(0);
+  rig.Pane().ScrollTo(1);
+  ASSERT_EQ(rig.Pane().ScrollPosition(), 1);
+  rig.Screen().lstFound.DoubleClick(0);
+  EXPECT_EQ(rig.Pane().Marked()->block, 2U);
+  EXPECT_EQ(rig.Pane().ScrollPosition(), 1);
+}
+
 TEST_F(HelpFind, AnotherWordInTheSameTopicStartsAtItsFirstOccurrence) {
   rig.TypeWord("in it");
   rig.Screen().lstFound.DoubleClick(0);

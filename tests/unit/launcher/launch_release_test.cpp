@@ -51,8 +51,9 @@ INSTANTIATE_TEST_SUITE_P(Table, LaunchShare,
                                          Share{"3", 64, 42 * 1040000 + 1}, Share{"4", 64, 1},
                                          Share{"7", 64, 1}, Share{"3", 1000, 250 * 1040000 + 1},
                                          Share{"2", 501, 250 * 1040000 + 1},
-                                         Share{"2", 499.9, 249 * 1040000 + 1},
-                                         Share{"1", 8, 2 * 1040000 + 1}));
+                                         Share{"2", 499.9, 249 * 1040000 + 1}, Share{"1", 8, 2 * 1040000 + 1},
+                                         Share{"1", 128, 42 * 1040000 + 1}, Share{"2", 128, 64 * 1040000 + 1},
+                                         Share{"3", 128, 84 * 1040000 + 1}));
 
 struct StoredPasses {
   const char* stored;

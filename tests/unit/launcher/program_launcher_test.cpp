@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "launcher/launcher_file.h"
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 #include "tests/support/program_rig.h"
 
 namespace qdix::tests {
@@ -161,6 +161,15 @@ TEST_F(Launcher, FieldsAreTrimmedAndEndAtTheFirstNul) {
   EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("game1"));
 }
 
+TEST_F(Launcher, FolderEndsAtTheFirstNul) {
+  StartWith(
+      {{"Game", "game1", std::string("D:\\GAMES\0\\OLD", 13)}, {"Empty", "calc", std::string("\0D:\\", 4)}});
+  Tab().List5.DoubleClick(0);
+  Tab().List5.DoubleClick(1);
+  EXPECT_THAT(Starts(), ElementsAre("SetCurrentDirectoryA(D:)", "SetCurrentDirectoryA(D:\\GAMES)",
+                                    "CreateProcessA(game1)", "CreateProcessA(calc)"));
+}
+
 TEST_F(Launcher, HighCharactersAndAmpersandsShowAsTheyAre) {
   StartWith({{"R&D \xC4\xD6\xDC", "calc", ""}});
   EXPECT_THAT(Listed(), ElementsAre("R&D \xC4\xD6\xDC"));
@@ -237,7 +246,7 @@ TEST_F(Launcher, LabelIsShownAndListIsDisabledWhileMemoryIsFreed) {
 TEST_F(Launcher, LabelIsPaintedAtOnceBothTimes) {
   using Changes = std::vector<ui::Change>;
   StartWith({{"Calculator", "calc", ""}});
-  NotingPeer peer;
+  RecordingPeer peer;
   Tab().txtFreeLabel.AttachPeer(&peer);
   Changes at_the_release;
   rig.machine.OnPump([&](int) { at_the_release = peer.changes; });

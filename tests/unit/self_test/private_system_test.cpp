@@ -94,6 +94,15 @@ TEST_F(PrivateSystem, RootsHaveNoValuesAndAcceptNone) {
             os::kErrorFileNotFound);
 }
 
+TEST_F(PrivateSystem, ValueInItsOwnKeyIsDeleted) {
+  auto key = shell::RegistryKey::Create(Registry(), os::kHkeyCurrentUser, "Software\\QDIX");
+  ASSERT_TRUE(key.WriteText("B", "2"));
+  EXPECT_TRUE(key.DeleteValue("B"));
+  EXPECT_EQ(machine.RegistryText(os::kHkeyCurrentUser, InOwnKey("Root1", "Software\\QDIX"), "B"),
+            std::nullopt);
+  EXPECT_FALSE(key.DeleteValue("B"));
+}
+
 TEST_F(PrivateSystem, StatisticIsTheRealOneAndReadOnly) {
   machine.CreateRegistryKey(os::kHkeyDynData, "PerfStats\\StatData");
   os::KeyHandle key = 0;
@@ -123,6 +132,18 @@ TEST_F(PrivateSystem, FilesAreChangedOnlyInItsOwnFolder) {
   EXPECT_TRUE(Files().MoveFileA("c:\\temp\\qdixtest\\A.TXT", "C:\\TEMP\\QDIXTEST\\B.TXT"));
   EXPECT_EQ(machine.ReadFile("C:\\TEMP\\QDIXTEST\\B.TXT"), "a");
   EXPECT_TRUE(Files().DeleteFileA("C:\\TEMP\\QDIXTEST\\B.TXT"));
+}
+
+TEST_F(PrivateSystem, FileInItsOwnFolderIsWrittenAndRead) {
+  const char* const path = "C:\\TEMP\\QDIXTEST\\A.TXT";
+  const os::FileHandle file = Files().CreateFileA(path, os::kGenericWrite, os::kCreateAlways);
+  ASSERT_NE(file, os::kInvalidFile);
+  std::uint32_t written_bytes = 0;
+  EXPECT_TRUE(Files().WriteFile(file, "abc", 3, written_bytes));
+  EXPECT_EQ(written_bytes, 3U);
+  EXPECT_TRUE(Files().FlushFileBuffers(file));
+  Files().CloseHandle(file);
+  EXPECT_EQ(machine.ReadFile(path), "abc");
 }
 
 TEST_F(PrivateSystem, EveryFileCanBeFoundAndItsOwnKeysFlushed) {

@@ -221,6 +221,14 @@ TEST_F(SwapTab, PastedFractionIsRoundedDown) {
   EXPECT_EQ(Tab().VScroll4.Value(), 97);
 }
 
+TEST_F(SwapTab, AcceptedSizeLetsTheFocusGo) {
+  StartOptimised();
+  Tab().Text8.SetFocus();
+  Tab().Text8.UserEdited("97", 0, 0);
+  Tab().Combo3.SetFocus();
+  EXPECT_TRUE(Tab().Combo3.HasFocus());
+}
+
 TEST_F(SwapTab, LargestSizeOfTheBarIsAccepted) {
   StartOptimised();
   TypeSize("32750");
