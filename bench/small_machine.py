@@ -53,11 +53,11 @@ def gain_row(result):
 
 def time_row(result):
     ours = Step(result, "release").fastest_ms
-    loop, pumps = Step(result, "loop").fastest_ms, Step(result, "pumps").fastest_ms
+    loop = Step(result, "pumping_loop").fastest_ms
     rounds = len(result["rounds"])
-    return [f"time of that release, fastest of {rounds}, beside the loop and {result['pumps']:,} pumps",
-            f"{ours:.0f} ms", f"{loop:.0f} + {pumps:.0f} ms", f"{ours / (loop + pumps):.2f}", "at most both together",
-            KEPT if ours <= loop + pumps else MISSED]
+    return [f"time of that release, fastest of {rounds}, beside a loop with as many pumps ({result['pumps']:,})",
+            f"{ours:.0f} ms", f"{loop:.0f} ms", f"{ours / loop:.2f}", "at most the loop's",
+            KEPT if ours <= loop else MISSED]
 
 
 def release_row(result):
@@ -67,7 +67,7 @@ def release_row(result):
 
 
 def step_rows(result):
-    names = {"release": "release", "loop": "bare loop", "pumping_loop": "loop that pumps as a release does",
+    names = {"release": "release", "loop": "bare loop", "pumping_loop": "loop that pumps as a release does, with a window",
              "pumps": f"{result['pumps']:,} pumps alone", "window_pumps": "as many in a program with a window"}
     for name, shown in names.items():
         step = Step(result, name)
@@ -100,8 +100,10 @@ METHOD = """
 - Release: the time from a message that presses `Command1` until its handler has ended. The loop takes as many bytes in
   one block, writes to every page and frees it. One program times both. Memory figures come from the kernel, once the
   machine is idle again.
-- Pumps: in each pump of a program with a window, such as Q-DIX, Wine asks the X server. The loop that pumps does half of
-  its pumps while it holds its block and half after freeing it, like a release, but it has no window.
+- Pumps: in each pump of a program with a window, such as Q-DIX, Wine asks the X server. The loop that pumps has a window
+  and, like a release, does half of its pumps while it holds its block and half after freeing it. Its time is more than
+  the sum of the bare loop and the pumps alone, because the system keeps paging during the pumps. It draws nothing; a
+  release draws its bar and its figures.
 - Time counts instructions, 4 ns each, and skips idle time. Waiting for a disk of a busy host makes a run longer.
 - At rest: each program is started alone from the stored desktop; figures from the kernel's smaps_rollup. Notepad is
   measured twice, as above."""

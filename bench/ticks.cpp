@@ -32,7 +32,7 @@ std::vector<double> TickUs(tests::ProgramRig& rig, ui::Timer& timer, int ticks) 
     const Stopwatch watch;
     for (int tick = 0; tick < kStep; ++tick) timer.Elapse();
     us.push_back(watch.Ms() * kUsPerMs / kStep);
-    rig.machine.ForgetRecords();
+    rig.machine.ClearRecords();
   }
   return us;
 }

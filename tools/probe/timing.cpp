@@ -17,6 +17,24 @@ double NowMs() {
   return static_cast<double>(now.QuadPart) * 1000 / static_cast<double>(per_second.QuadPart);
 }
 
+/// With a window, each pump of Wine also asks the screen.
+class PumpingWindow {
+ public:
+  explicit PumpingWindow(bool is_wanted) {
+    if (is_wanted)
+      window_ = CreateWindowA("STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+  }
+  PumpingWindow(const PumpingWindow&) = delete;
+  PumpingWindow& operator=(const PumpingWindow&) = delete;
+  ~PumpingWindow() {
+    if (IsThere()) DestroyWindow(window_);
+  }
+  [[nodiscard]] bool IsThere() const { return window_ != nullptr; }
+
+ private:
+  HWND window_ = nullptr;
+};
+
 }  // namespace
 
 double PressMs(const e2e::ShippedProgram& program, const std::string& name) {
@@ -29,6 +47,9 @@ double PressMs(const e2e::ShippedProgram& program, const std::string& name) {
 }
 
 double LoopMs(SIZE_T bytes, int pumps) {
+  const bool needs_window = pumps > 0;
+  const PumpingWindow window(needs_window);
+  if (window.IsThere() != needs_window) return kFailed;
   const double start_ms = NowMs();
   {
     const e2e::TouchedBlock block(bytes);
@@ -40,15 +61,11 @@ double LoopMs(SIZE_T bytes, int pumps) {
 }
 
 double PumpsMs(int times, bool with_window) {
-  const HWND window =
-      with_window ? CreateWindowA("STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr)
-                  : nullptr;
-  if (with_window && window == nullptr) return kFailed;
+  const PumpingWindow window(with_window);
+  if (window.IsThere() != with_window) return kFailed;
   const double start_ms = NowMs();
   e2e::Pump(times);
-  const double ms = NowMs() - start_ms;
-  if (window != nullptr) DestroyWindow(window);
-  return ms;
+  return NowMs() - start_ms;
 }
 
 }  // namespace qdix::probe

@@ -7,13 +7,14 @@
 
 namespace qdix::probe {
 
-/// Milliseconds until a button's handler has ended; negative where the button does not come back.
+/// Returns the milliseconds until a button's handler has ended, or a negative number if the button does not
+/// answer.
 [[nodiscard]] double PressMs(const e2e::ShippedProgram& program, const std::string& name);
-/// Milliseconds to take a block of memory, write into each of its pages and give it back, with so many empty
-/// pumps while it is held and as many after; negative where the system has no such block.
+/// Returns the milliseconds to allocate a block of memory, write to each of its pages and free it, with
+/// `pumps` empty pumps before it is freed and as many afterwards. A process that pumps has a window, like the
+/// program that it is compared with. Negative if the system cannot provide such a block.
 [[nodiscard]] double LoopMs(SIZE_T bytes, int pumps);
-/// Milliseconds of so many empty pumps of this process. From its first window on, a pump of Wine asks the
-/// screen too.
+/// Returns the milliseconds that `times` empty pumps of this process take, with a window or without.
 [[nodiscard]] double PumpsMs(int times, bool with_window);
 
 }  // namespace qdix::probe
