@@ -20,7 +20,7 @@ from host import MachineError
 QEMU = "qemu-system-i386"
 PROCESSOR = "pentium2"
 SCREEN = (800, 600)
-# The VESA mode that the kernel is told: 800 x 600 in 32 bits, which the emulated graphics card numbers so.
+# The VESA mode for the kernel: the emulated graphics card's number for 800 x 600 in 32 bits.
 VESA_MODE = 0x343
 POINTER_RANGE = 0x7FFF
 KERNEL_ARGUMENTS = ["console=ttyS0", "quiet", "panic=-1", "mitigations=off", "nokaslr", "transparent_hugepage=never",
@@ -30,11 +30,11 @@ LONGEST_COMMAND = 4000
 
 
 class MachineGone(MachineError):
-    """The machine is switched off while something is asked of it."""
+    """The machine was switched off during a question."""
 
 
 class LineChannel:
-    """Lines over a socket, with a limit on every wait."""
+    """Sends and receives lines over a socket. Every wait has a limit."""
 
     def __init__(self, stream):
         self.stream = stream
@@ -47,7 +47,7 @@ class LineChannel:
             raise MachineGone("the machine is switched off") from None
 
     def receive(self, deadline):
-        """Returns the next line, or None when none came before the deadline or the other side is gone."""
+        """Returns the next line, or None if the deadline has passed or the other side is gone."""
         while b"\n" not in self.waiting:
             left_s = deadline - time.monotonic()
             if left_s <= 0 or not select.select([self.stream], [], [], left_s)[0]:
@@ -64,10 +64,10 @@ class LineChannel:
 
 
 class Emulator:
-    """One machine that is switched on. Use it in a `with` statement: its process and folder end with it."""
+    """A running machine. Use it in a `with` statement, which ends its process and removes its folder."""
 
     def __init__(self, kernel, initial_ram_disk, memory_mb, disks, *, stored_memory=None, window=False, counted=True):
-        """`disks` are (file, format, keep): a disk that is not kept forgets what was written when the power goes.
+        """`disks` are (file, format, keep): a disk that is not kept loses its changes when the machine is switched off.
 
         `stored_memory` is the file that store_memory() left; the disks must be those of that moment.
         """
@@ -79,7 +79,7 @@ class Emulator:
             "-vga", "std", "-device", "virtio-tablet-pci", "-display", "gtk" if window else "none",
             "-chardev", f"file,id=console,path={self.console}", "-serial", "chardev:console",
             "-kernel", str(kernel), "-initrd", str(initial_ram_disk), "-append", " ".join(KERNEL_ARGUMENTS)]
-        # Skipping idle stretches would race through the time of a person who looks on.
+        # Skipping idle time would be too fast for a person who watches.
         if counted and not window:
             self.arguments += ["-icount", "shift=2,sleep=off"]
         for number, (file, disk_format, keep) in enumerate(disks):
@@ -87,8 +87,8 @@ class Emulator:
                                f"discard=unmap,snapshot={'off' if keep else 'on'}",
                                "-device", f"virtio-blk-pci,drive=disk{number}"]
         self.stored_memory = stored_memory
-        # In a window it runs for whoever sits before it. Otherwise it is halted while nothing is asked of it: how long
-        # the host takes between two questions makes no difference to it.
+        # In a window it runs all the time. Otherwise it is halted between questions, so the time that the host takes
+        # between two questions makes no difference.
         self.halts_between_questions = not window
         self.process = None
         self.agent = None
@@ -123,7 +123,7 @@ class Emulator:
             stored = open(self.stored_memory, "rb")
             inherited.append(stored.fileno())
             arguments += ["-incoming", f"fd:{stored.fileno()}"]
-        # QEMU ends with this process, however that ends. What it writes beside its disks goes into our folder.
+        # QEMU ends with this process in any case. Files that it writes beside its disks go into our folder.
         with open(self.folder / "qemu.txt", "wb") as log:
             self.process = subprocess.Popen(
                 ["setpriv", "--pdeathsig", "KILL", *arguments], pass_fds=inherited, stdin=subprocess.DEVNULL,
@@ -150,7 +150,7 @@ class Emulator:
         return self.process.poll() is None
 
     def _has_ended(self):
-        """Its sockets close a moment before the process is gone."""
+        """Gives the process a second: its sockets close a moment before it ends."""
         try:
             self.process.wait(timeout=1)
         except subprocess.TimeoutExpired:
@@ -172,12 +172,12 @@ class Emulator:
             if time.monotonic() > deadline:
                 raise MachineError(f"the machine is not restored after {limit_s} seconds: {self._last_words()}")
             time.sleep(0.1)
-        # It was stored halted and comes back so.
+        # It was halted when its state was stored, so it still is.
         if not self.halts_between_questions:
             self.tell_monitor("cont")
 
     def tell_monitor(self, command, limit_s=60, **arguments):
-        """Gives QEMU one of its own commands and returns its answer."""
+        """Sends a command of QEMU's own and returns the answer."""
         self.monitor.send(json.dumps({"execute": command, "arguments": arguments}))
         deadline = time.monotonic() + limit_s
         while True:
@@ -222,14 +222,14 @@ class Emulator:
                     raise MachineGone(f"the machine is switched off: {self._last_words()}")
                 raise MachineError(f"the guest did not finish '{command}' within {limit_s} seconds: "
                                    f"{self._last_words()}")
-            # The output need not end with a new line.
+            # The output may end without a new line.
             before, mark, status = line.rpartition("=== ")
             if mark and status.isdigit():
                 return int(status), "\n".join(lines + ([before] if before else []))
             lines.append(line)
 
     def store_memory(self, file):
-        """Halts the machine for good and writes its memory and devices into a file. Its kept disks belong to it."""
+        """Halts the machine for good and writes its memory and devices to a file. They belong to its kept disks."""
         self.tell_monitor("stop")
         self.tell_monitor("migrate-set-parameters", **{"max-bandwidth": 1 << 34})
         self.tell_monitor("migrate", uri=f"exec:cat >'{file}'")
@@ -242,7 +242,7 @@ class Emulator:
         self.process.wait(timeout=60)
 
     def switch_off(self, limit_s=60):
-        """Lets the guest write everything to its disks and switch the power off."""
+        """Has the guest write everything to its disks and switch off."""
         self.agent.send("sync; poweroff -f")
         if self.halts_between_questions:
             self.tell_monitor("cont")
@@ -261,12 +261,12 @@ class Emulator:
         self._send_input([{"type": "btn", "data": {"down": down, "button": button}}])
 
     def _send_input(self, events):
-        # A machine that is halted takes no input.
+        # A halted machine takes no input.
         with self._running():
             self.tell_monitor("input-send-event", events=events)
 
     def photograph(self, file):
-        """Writes the screen as a PNG. Complete or not there."""
+        """Writes the screen as a PNG file, or no file if it fails."""
         unfinished = self.folder / "screen.png"
         self.tell_monitor("screendump", filename=str(unfinished), format="png")
         shutil.copyfile(unfinished, f"{file}.new")

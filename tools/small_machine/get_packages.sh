@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Downloads the i386 packages of the small machine that the private Wine lacks:   get_packages.sh FOLDER
-# The kernel, an X server for a plain frame buffer, a shell, and Wine's two programs as they were packed: those of the
-# private Wine are fitted to this host. The libraries are named one by one, because the X server's own dependencies
-# would bring twice as much. FOLDER is complete or not there.
+# These are the kernel, an X server for a plain frame buffer, a shell, and Wine's two programs as packed, because those of
+# the private Wine are patched for this host. The libraries are listed one by one: the X server's own dependencies would
+# add twice as much. If anything fails, FOLDER does not exist afterwards.
 set -euo pipefail
 
 # shellcheck source=tools/wine/common.sh
@@ -10,7 +10,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/../wine/common.sh"
 # shellcheck source=tools/wine/archive.sh
 source "$wine_tools_dir/archive.sh"
 
-# Depends on the current kernel of the flavour without PAE, which runs on a Pentium II.
+# This package depends on the current kernel without PAE, which runs on a Pentium II.
 readonly kernel_flavour=linux-image-686
 readonly packages=(
   busybox-static wine32
@@ -28,7 +28,7 @@ trap 'exit 129' HUP
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
-# The name of the kernel's own package, which has its version in it.
+# The name of the kernel's own package contains its version.
 kernel_package() {
   download_packages i386 "" download "$kernel_flavour" || return
   dpkg-deb -f "$work_dir/archives/$kernel_flavour"_*.deb Depends | grep -o '^linux-image-[^ ,]*'

@@ -1,5 +1,5 @@
-"""The files that the small machine starts from: kernel, initial RAM disk and root disk, made of packages and of the
-private Wine, without root, mounts or loop devices."""
+"""Makes the files that the small machine boots from: kernel, initial RAM disk and root disk. They come from packages and
+the private Wine. Needs no root rights, mounts or loop devices."""
 import gzip
 import os
 import pathlib
@@ -9,22 +9,22 @@ from host import run
 
 GUEST = pathlib.Path(__file__).resolve().parent / "guest"
 WINE_TOOLS = pathlib.Path(__file__).resolve().parents[1] / "wine"
-# Below the kernel's folder of modules, in the order in which they are loaded.
+# Paths in the kernel's folder of modules, in loading order.
 DRIVERS = [
     "drivers/virtio/virtio", "drivers/virtio/virtio_ring", "drivers/virtio/virtio_pci_legacy_dev",
     "drivers/virtio/virtio_pci_modern_dev", "drivers/virtio/virtio_pci", "drivers/block/virtio_blk", "lib/crc16",
     "fs/mbcache", "fs/jbd2/jbd2", "crypto/crc32c_generic", "fs/ext4/ext4", "drivers/virtio/virtio_input",
     "drivers/input/evdev"]
 EMPTY_FOLDERS = ["proc", "sys", "dev", "tmp", "prefix", "root", "bin"]
-# Kept out of the image; only people and other programs read it.
+# Left out of the image; Wine does not need it.
 NOT_NEEDED = ["usr/share/doc", "usr/share/man", "usr/share/xml", "usr/share/alsa", "usr/share/bug",
               "usr/i686-w64-mingw32", "usr/x86_64-w64-mingw32", "usr/lib/i386-linux-gnu/dri"]
-# Room for the files and, while the prefix is made, for the copies of Wine's libraries in it.
+# Space for the files and for the copies of Wine's libraries while the prefix is made.
 ROOT_DISK = "1800m"
 
 
 def cpio_archive(entries):
-    """The "newc" archive that the kernel unpacks; `entries` are (name, mode, bytes)."""
+    """Returns the "newc" archive that the kernel unpacks; `entries` are (name, mode, bytes)."""
     archive = bytearray()
 
     def pad():
@@ -41,7 +41,7 @@ def cpio_archive(entries):
 
 
 def initial_ram_disk(busybox, modules):
-    """`modules` is the folder of the kernel's modules."""
+    """Returns the initial RAM disk; `modules` is the folder of the kernel's modules."""
     folder, program, data = 0o040755, 0o100755, 0o100644
     names = [pathlib.PurePosixPath(driver).name for driver in DRIVERS]
     entries = [(name, folder, b"") for name in ("bin", "dev", "proc", "root", "modules")]
@@ -58,7 +58,7 @@ def unpack(package, folder):
 
 
 def add_tree(source, target, without=None):
-    """Adds the files of one tree to another as hard links, but for the folder `without`; what is there stays."""
+    """Hard-links the files of one tree into another, except the folder `without`. Existing files stay."""
     for folder, subfolders, files in os.walk(source):
         relative = os.path.relpath(folder, source)
         if relative == without:
@@ -72,7 +72,7 @@ def add_tree(source, target, without=None):
 
 
 def add_settings(root):
-    """What the guest's scripts read: the X server's set-up, the session, and the registry of a Windows 98."""
+    """Writes the files that the guest's scripts read: X server set-up, session, and registry of Windows 98."""
     (root / "etc/X11").mkdir(parents=True, exist_ok=True)
     shutil.copy(GUEST / "xorg.conf", root / "etc/X11/xorg.conf")
     shutil.copy(GUEST / "session.sh", root / "session.sh")
@@ -85,7 +85,7 @@ def add_settings(root):
 
 
 def make_disk(folder, file, size):
-    """A file system of `size` with the files of a folder, hard links kept."""
+    """Makes a file system of `size` with the files of a folder. Hard links stay hard links."""
     run(["mke2fs", "-q", "-F", "-t", "ext4", "-O", "^has_journal,^metadata_csum", "-m", "0", "-E",
          "root_owner=0:0,lazy_itable_init=1", "-d", folder, file, size], f"{file.name} could not be made")
 
@@ -104,7 +104,7 @@ def make_boot_files(packages, wine_root, output):
 
     root = work / "root"
     add_tree(work / "programs", root)
-    # The private Wine's own programs are fitted to this host; the package's are not.
+    # The private Wine's own programs are patched for this host; those of the package are not.
     add_tree(wine_root, root, without="usr/lib/wine")
     (root / "usr/lib/wine/wineserver").symlink_to("wineserver32")
     for name in NOT_NEEDED:

@@ -1,4 +1,4 @@
-"""Where the small machine is kept between runs, and how it is made.
+"""Makes the small machine and keeps it between runs.
 
 In the cache folder, one folder for each state of what it is made from:
     kernel, initrd.gz, root.img              the machine as it is switched on, with Wine's prefix
@@ -19,7 +19,7 @@ from host import MachineError, check_programs, check_room, run
 
 TOOLS = pathlib.Path(__file__).resolve().parent
 WINE_TOOLS = TOOLS.parent / "wine"
-# What the root disk is made from, and what a stored boot state depends on besides.
+# The root disk is made from the first files. A stored boot state also depends on the others.
 DISK_INPUTS = [TOOLS / "root_disk.py", TOOLS / "get_packages.sh", *sorted((TOOLS / "guest").iterdir()),
                WINE_TOOLS / "win98.reg", WINE_TOOLS / "font_metrics.sh"]
 STATE_INPUTS = [TOOLS / "emulator.py", TOOLS / "store.py"]
@@ -28,15 +28,15 @@ LOCK_LIMIT_S = 1800
 UNUSED_FOR_S = 24 * 3600
 PREFIX_MEMORY_MB = 640
 PREFIX_LIMIT_S = 900
-# Little more than what is in use: while more than half of it is, the kernel gives a page's place back when the page
-# is read again, and the use of the disk is that of the memory in it.
+# Little more than what is used: while more than half is used, the kernel frees a page's slot when the page is read
+# again, so the used part of the disk is the memory that is swapped out.
 SWAP_DISK = "176M"
 PROGRAMS_DISK_MB = 24
 
 
 class Store:
     def __init__(self, cache, wine_root, say):
-        """`say` is told what is being done, a line each."""
+        """`say` gets a line of text for each step."""
         self.cache = cache
         self.wine_root = wine_root
         self.say = say
@@ -45,12 +45,12 @@ class Store:
         self.folder = cache / f"small-machine-{digest(DISK_INPUTS, identity)}"
 
     def provide(self, sizes_mb):
-        """Makes what is missing of the machine, with a stored boot state for each of these sizes."""
+        """Makes the missing parts of the machine, with a stored boot state for each of these memory sizes."""
         if not self._is_complete(sizes_mb):
             with self._lock():
                 self._remove_remains()
                 self._make(sizes_mb)
-        # Marks the folders as used, for the removal of those that are not.
+        # Marks the folders as used, so that they are not removed as unused.
         for folder in (self.folder, *map(self.state, sizes_mb)):
             os.utime(folder)
 
@@ -84,7 +84,7 @@ class Store:
                     store_boot_state(self.folder, folder, size)
 
     def _remove_remains(self):
-        """Of set-ups that were killed, and of machines that nobody has used for a day. Called with the lock held."""
+        """Removes what killed set-ups left, and machines that have not been used for a day. The caller holds the lock."""
         for folder in [*self.cache.glob("small-machine-*"), *self.folder.glob("*-*")]:
             is_old = time.time() - folder.stat().st_mtime > UNUSED_FOR_S and folder not in (self.folder, self.packages)
             if "." in folder.name or is_old:
@@ -112,7 +112,7 @@ class Store:
 
 
 def digest(files, text=""):
-    """Sixteen digits that change whenever a file or the text does."""
+    """Returns sixteen digits that change whenever a file or the text does."""
     whole = hashlib.sha256(text.encode())
     for file in files:
         whole.update(f"{file.name} {file.stat().st_size}\n".encode())
@@ -122,7 +122,7 @@ def digest(files, text=""):
 
 @contextlib.contextmanager
 def complete_or_nothing(folder):
-    """A new folder that gets its name when everything in it is done, and is removed when something fails."""
+    """Makes a folder that gets its name when its contents are complete, and is removed if something fails."""
     unfinished = folder.with_name(folder.name + ".new")
     shutil.rmtree(unfinished, ignore_errors=True)
     unfinished.mkdir(parents=True)
@@ -135,7 +135,7 @@ def complete_or_nothing(folder):
 
 
 def make_prefix(folder):
-    """Switches the machine on, with plenty of memory and the host's own clock, and lets Wine make its prefix."""
+    """Starts the machine with plenty of memory and the host's clock, and has Wine make its prefix."""
     with Emulator(folder / "kernel", folder / "initrd.gz", PREFIX_MEMORY_MB, [(folder / "root.img", "raw", True)],
                   counted=False) as machine:
         machine.ask("make_prefix", PREFIX_LIMIT_S)
@@ -143,7 +143,7 @@ def make_prefix(folder):
 
 
 def store_boot_state(boot, folder, memory_mb):
-    """Boots the machine up to its desktop and keeps its disks and its memory at that moment in `folder`."""
+    """Boots the machine to its desktop and stores its disks and memory in `folder`."""
     root, swap, programs = folder / "root.qcow2", folder / "swap.qcow2", folder / "programs.img"
     create = ["qemu-img", "create", "-q", "-f", "qcow2"]
     failure = "a disk of the small machine could not be made"

@@ -1,8 +1,8 @@
 #!/bin/busybox sh
 # shellcheck shell=dash
 #
-# Process 1 in the initial RAM disk: loads the drivers in /modules, mounts the first disk and hands over to session.sh
-# on it.
+# Process 1 in the initial RAM disk: loads the drivers in /modules, mounts the first disk and continues
+# with session.sh on it.
 b=/bin/busybox
 $b mount -t devtmpfs dev /dev
 $b mount -t proc proc /proc

@@ -1,9 +1,9 @@
 #!/bin/busybox sh
 # shellcheck shell=dash
 #
-# Process 1 of the small machine after the initial RAM disk. It does what the host writes to the second serial port,
-# a command of this shell per line, and answers with the command's output and a last line "=== STATUS". The functions
-# here are what the host needs to make the machine; commands.sh, which comes with the programs, has those of a run.
+# Process 1 of the small machine after the initial RAM disk. The host writes one shell command per line to the
+# second serial port; the answer is the command's output and a last line "=== STATUS". The functions here are those that
+# the host needs to make the machine; the functions for a run are in commands.sh, which comes with the programs.
 export PATH=/bin:/usr/bin:/usr/sbin HOME=/root TERM=dumb DISPLAY=:0
 export WINEPREFIX=/prefix WINEARCH=win32 WINEDEBUG=-all WINESERVER=/usr/lib/wine/wineserver
 export WINEDLLOVERRIDES='mscoree,mshtml=d;winemenubuilder.exe=d'
@@ -11,7 +11,7 @@ readonly port=/dev/ttyS1 logs=/tmp/logs programs=/prefix/drive_c/QDIX
 
 wine() { /usr/lib/wine/wine "$@"; }
 
-# Waits until a command is true, at most so many seconds:   await SECONDS COMMAND...
+# Waits until a command succeeds, for at most SECONDS:   await SECONDS COMMAND...
 await() {
   local tenths=$(($1 * 10))
   shift
@@ -25,7 +25,7 @@ await() {
   done
 }
 
-# The kernel numbers input devices as it finds them; the X server needs to know which is which.
+# The kernel numbers input devices in the order in which it finds them; the X server must know which is which.
 name_input_devices() {
   local device
   for device in /sys/class/input/event*; do
@@ -44,14 +44,14 @@ start_screen() {
   await 60 test -S /tmp/.X11-unix/X0 || { tail -n 20 $logs/xorg.log; return 1; }
 }
 
-# Hundredths of a second that the processor has been idle since the start.
+# Prints the processor's idle time since the start, in hundredths of a second.
 idle_time() {
   local idle rest
   read -r rest rest rest rest idle rest </proc/stat
   echo "$idle"
 }
 
-# True when the processor has been idle for nine tenths of a second that passes meanwhile.
+# Waits a second; true if the processor was idle for nine tenths of it.
 is_at_rest() {
   local before
   before=$(idle_time)
@@ -61,13 +61,13 @@ is_at_rest() {
 
 server_listens() { ls /tmp/wine-*/server-*/socket >/dev/null 2>&1; }
 
-# The desktop with its taskbar. Two programs that both start the server disturb each other, so the first waits for it.
+# Starts the desktop with its taskbar. Waits for the server first, because two programs that both start it conflict.
 start_desktop() {
   wine explorer /desktop=qdix,800x600 >$logs/explorer.log 2>&1 &
   await 120 server_listens && await 30 is_at_rest
 }
 
-# Fills /prefix with a Windows 98 and gives back the room of the libraries that Wine copies into it: the image has them
+# Fills /prefix with a Windows 98, then removes the libraries that Wine copies into it, because the image has them
 # already. Used once, when the image is made.
 make_prefix() (
   unset DISPLAY # nothing may pop up
@@ -80,7 +80,7 @@ make_prefix() (
     original=/usr/lib/i386-linux-gnu/wine/i386-windows/$file
     if [ -f "$original" ] && cmp -s "$file" "$original"; then ln -f "$original" "$file"; fi
   done
-  # The name of the server's folder in /tmp, which ends with this machine.
+  # The name of the server's folder in /tmp. It disappears when the machine is switched off.
   rm -f /prefix/wineserver
   sync
   fstrim /
@@ -98,11 +98,11 @@ fill_prefix() {
 
 use_swap() { mkswap "$1" >/dev/null && swapon "$1"; }
 
-# The disk with the programs of this run, as the folder C:\QDIX.
+# Mounts the disk with the programs of this run as the folder C:\QDIX.
 use_programs() { mkdir -p $programs && mount -t ext4 -o noatime "$1" $programs; }
 
-# Does what the host asks. A process of its own: process 1 is told whenever a program ends whose parent is gone, and the
-# shell's `read` forgets the half of a line that it has then.
+# Serves the host in a process of its own: process 1 gets a signal whenever an orphaned program ends, and the shell's
+# `read` then loses the part of a line that it has already read.
 serve() {
   local command
   while IFS= read -r command <&3; do
@@ -119,7 +119,7 @@ mount -t proc proc /proc
 mount -t sysfs sys /sys
 mount -t tmpfs -o size=24m,mode=1777 tmp /tmp
 mkdir -p $logs /tmp/.X11-unix
-# The image was packed by somebody else; Wine refuses a prefix that is not its user's own.
+# The image was packed by another user, and Wine refuses a prefix that its user does not own.
 chown 0:0 /root /prefix
 stty -F $port raw -echo
 echo "session: listening on $port"
