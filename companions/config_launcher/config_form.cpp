@@ -78,7 +78,7 @@ void ConfigForm::ActivatedMinimised(std::uint32_t former_thread) {
 }
 
 bool ConfigForm::MaySessionEnd() {
-  if (screen_.Window.Unloaded() || !LosesSomething()) return true;
+  if (screen_.Window.Unloaded() || !HasUnsavedChanges()) return true;
   switch (boxes_.Choose("The list of programs has not been saved.\r\n\r\nDo you want to save it?")) {
     case Boxes::Choice::kYes:
       return SaveList();
@@ -126,10 +126,12 @@ base::Status ConfigForm::cmdCancel_Click() {
 
 bool ConfigForm::MayClose() {
   if (boxes_.AnyIsOpen()) return false;
-  return !LosesSomething() || boxes_.Ask("Do you want to discard your changes?");
+  return !HasUnsavedChanges() || boxes_.Ask("Do you want to discard your changes?");
 }
 
-bool ConfigForm::LosesSomething() const { return entry_list_.IsChanged() || entry_list_.HasUnusedFields(); }
+bool ConfigForm::HasUnsavedChanges() const {
+  return entry_list_.IsChanged() || entry_list_.HasUnusedFields();
+}
 
 void ConfigForm::ReportUntrapped(const base::RuntimeError& error) {
   boxes_.Tell(base::UntrappedErrorText(error));

@@ -53,7 +53,7 @@ class ConfigForm {
 
  private:
   [[nodiscard]] bool MayClose();
-  [[nodiscard]] bool LosesSomething() const;
+  [[nodiscard]] bool HasUnsavedChanges() const;
   /// Returns false if the user does not want to save the list as it is, or if it could not be saved.
   [[nodiscard]] bool SaveList();
   void ReportUntrapped(const base::RuntimeError& error);

@@ -22,7 +22,7 @@ std::string PickedFiles::Lines::Text() const {
 }
 
 std::optional<launcher::LauncherEntry> PickedFiles::EntryOf(const std::string& path) {
-  std::optional<launcher::LauncherEntry> entry = WholeEntryOf(path);
+  std::optional<launcher::LauncherEntry> entry = CompleteEntryOf(path);
   if (!entry) {
     refused_.Add(path);
   } else if (!HasDriveLetter(entry->start_in)) {
@@ -32,7 +32,7 @@ std::optional<launcher::LauncherEntry> PickedFiles::EntryOf(const std::string& p
   return entry;
 }
 
-std::optional<launcher::LauncherEntry> PickedFiles::WholeEntryOf(const std::string& path) const {
+std::optional<launcher::LauncherEntry> PickedFiles::CompleteEntryOf(const std::string& path) const {
   launcher::LauncherEntry entry;
   if (IsShortcut(path)) {
     const std::optional<os::Shortcut> shortcut = system_.shell_files.ReadShortcut(path);

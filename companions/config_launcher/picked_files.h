@@ -37,7 +37,7 @@ class PickedFiles {
     std::int32_t count_ = 0;
   };
 
-  [[nodiscard]] std::optional<launcher::LauncherEntry> WholeEntryOf(const std::string& path) const;
+  [[nodiscard]] std::optional<launcher::LauncherEntry> CompleteEntryOf(const std::string& path) const;
   [[nodiscard]] bool CanBeStarted(const std::string& path) const;
 
   const os::System& system_;

@@ -17,7 +17,7 @@ HelpForm::HelpForm(const os::System& system, const Devices& devices, const Start
       reader_(book_, screen_),
       contents_list_(book_, screen_, reader_),
       find_page_(book_, screen_, reader_),
-      remembered_place_(system.registry, devices.screen) {
+      saved_place_(system.registry, devices.screen) {
   CloseOtherViewers();
   events_.ReportErrorsTo(ui::EventDispatcher::ErrorReporter::To<&HelpForm::ReportUntrapped>(*this));
   Bind();
@@ -47,7 +47,7 @@ void HelpForm::CloseOtherViewers() const {
 }
 
 void HelpForm::Start() {
-  remembered_place_.Restore(screen_.Window);
+  saved_place_.Restore(screen_.Window);
   reader_.Begin(first_topic_);
   screen_.Window.Show();
   if (reader_.Current() == kContentsPage) {
@@ -132,7 +132,7 @@ base::Status HelpForm::Close() {
 }
 
 base::Status HelpForm::Unload() {
-  remembered_place_.Save(screen_.Window);
+  saved_place_.Save(screen_.Window);
   return base::kDone;
 }
 

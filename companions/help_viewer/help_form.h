@@ -9,7 +9,7 @@
 #include "help_viewer/find_page.h"
 #include "help_viewer/help_screen.h"
 #include "help_viewer/reader.h"
-#include "help_viewer/remembered_place.h"
+#include "help_viewer/saved_window_place.h"
 #include "os/clipboard.h"
 #include "os/printer.h"
 #include "os/screen.h"
@@ -85,7 +85,7 @@ class HelpForm {
   Reader reader_;
   ContentsList contents_list_;
   FindPage find_page_;
-  RememberedPlace remembered_place_;
+  SavedWindowPlace saved_place_;
 };
 
 }  // namespace qdix::help_viewer

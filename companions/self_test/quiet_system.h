@@ -103,7 +103,7 @@ class QuietClipboard final : public os::Clipboard {
 
 class QuietFileDialogs final : public os::FileDialogs {
  public:
-  [[nodiscard]] std::string GetOpenFileNameA(const os::FileQuestion& /*question*/) override { return {}; }
+  [[nodiscard]] std::string GetOpenFileNameA(const os::OpenFileRequest& /*question*/) override { return {}; }
   [[nodiscard]] std::string SHBrowseForFolderA(const std::string& /*title*/,
                                                const std::string& /*folder*/) override {
     return {};

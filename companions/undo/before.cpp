@@ -89,30 +89,30 @@ bool IsAsBefore(const Before& before, const std::optional<std::string>& now) {
   return before.is_exact ? before.text == now : NumberOf(before.text) == RecordedNumberOf(now);
 }
 
-std::string Shown(const std::optional<std::string>& text, std::size_t most) {
+std::string Shown(const std::optional<std::string>& text, std::size_t max_length) {
   if (!text.has_value()) return "(none)";
   if (text->empty()) return "(empty)";
   std::string shown = *text;
-  if (shown.size() > most) {
-    shown.resize(most - kCut.size());
+  if (shown.size() > max_length) {
+    shown.resize(max_length - kCut.size());
     shown += kCut;
   }
   std::replace_if(shown.begin(), shown.end(), IsControl, ' ');
   return shown;
 }
 
-std::string ShownBefore(const Before& before, std::size_t most) {
+std::string ShownBefore(const Before& before, std::size_t max_length) {
   switch (before.known) {
     case Before::Known::kFromRecord:
-      return Shown(before.text, most);
+      return Shown(before.text, max_length);
     case Before::Known::kFromBackup:
-      return "not recorded; backup: " + Shown(before.text, most);
+      return "not recorded; backup: " + Shown(before.text, max_length);
     case Before::Known::kFromItsName:
       return "not recorded";
     case Before::Known::kNot:
       break;
   }
-  return before.unusable.empty() ? "not recorded" : Shown(before.unusable, most);
+  return before.unusable.empty() ? "not recorded" : Shown(before.unusable, max_length);
 }
 
 std::string NameOf(const Entry& entry) {

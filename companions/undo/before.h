@@ -59,10 +59,10 @@ struct Before {
 
 /// Returns "(none)", "(empty)", or the text cut to `most` characters, with blanks in place of control
 /// characters.
-[[nodiscard]] std::string Shown(const std::optional<std::string>& text, std::size_t most);
+[[nodiscard]] std::string Shown(const std::optional<std::string>& text, std::size_t max_length);
 
 /// Returns the text for the "Before" column.
-[[nodiscard]] std::string ShownBefore(const Before& before, std::size_t most);
+[[nodiscard]] std::string ShownBefore(const Before& before, std::size_t max_length);
 
 /// Returns, for example, "[vcache] MinFileCache".
 [[nodiscard]] std::string NameOf(const Entry& entry);

@@ -49,7 +49,7 @@ void EntryList::Show() {
   const bool has_system_ini = settings_.SystemIniState() != IniState::kMissing;
   for (std::size_t row = 0; row < kEntries.size(); ++row) {
     State& state = states_[row];
-    state.before = settings_.BeforeOf(row);
+    state.before = settings_.StateBefore(row);
     state.now = settings_.ReadNow(kEntries[row]);
     state.can_be_put_back = state.before.IsKnown() && !IsAsBefore(state.before, state.now) &&
                             (has_system_ini || !kEntries[row].IsInSystemIni());
@@ -68,7 +68,7 @@ void EntryList::ShowRow(std::size_t row) {
   if (!state.can_be_put_back) shown.box.SetTicked(false);
 }
 
-void EntryList::ChooseCertain() {
+void EntryList::TickCertain() {
   for (std::size_t row = 0; row < kEntries.size(); ++row) {
     const State& state = states_[row];
     screen_.Rows()[row]->box.SetTicked(state.can_be_put_back && !state.before.IsUncertain());

@@ -23,7 +23,7 @@ class EntryList {
   /// value or the previous value is unknown.
   void Show();
   /// Ticks the rows that can be chosen, except uncertain removals, which the user must tick.
-  void ChooseCertain();
+  void TickCertain();
   /// If Q-DIX's own template is active and can be put back, ticks its row and returns true.
   bool ChooseOwnTemplate();
 

@@ -39,7 +39,7 @@ class Settings {
   [[nodiscard]] const Backup& TheBackup() const { return backup_; }
   [[nodiscard]] IniState SystemIniState() const { return system_ini_state_; }
   /// Returns the previous value of the entry with this index.
-  [[nodiscard]] Before BeforeOf(std::size_t entry) const { return before_[entry]; }
+  [[nodiscard]] Before StateBefore(std::size_t entry) const { return before_[entry]; }
   /// Reads the current value now. Cuts a text longer than kMaxTextLength. Empty if there is no such entry or
   /// it cannot be read.
   [[nodiscard]] std::optional<std::string> ReadNow(const Entry& entry) const;

@@ -19,7 +19,7 @@ UndoForm::UndoForm(const os::System& system)
 
 void UndoForm::Start() {
   Read();
-  entry_list_.ChooseCertain();
+  entry_list_.TickCertain();
   screen_.Window.Show();
 }
 

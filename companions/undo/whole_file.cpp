@@ -44,10 +44,10 @@ base::Status WholeFile::cmdRestore_Click() {
   if (is_done) settings_.OfferOwnTemplate();
   ReadAgain();
   if (!is_done) {
-    TellFailure(replacement);
+    ReportFailedRestore(replacement);
     return base::kDone;
   }
-  TellSuccess(replacement.kept_name);
+  ReportRestore(replacement.kept_name);
   if (!screen_.Window.Unloaded()) restart_.Offer();
   return base::kDone;
 }
@@ -68,7 +68,7 @@ std::string WholeFile::Question() const {
 
 /// The commands contain no long names, which the command prompt does not know before Windows starts. Each
 /// fits on one line of the message box.
-void WholeFile::TellSuccess(const std::string& kept_name) {
+void WholeFile::ReportRestore(const std::string& kept_name) {
   std::string text = "system.ini has been replaced.";
   if (!kept_name.empty()) {
     text +=
@@ -86,7 +86,7 @@ void WholeFile::TellSuccess(const std::string& kept_name) {
   system_.dialogs.MessageBoxA(text, application_.Title(), os::kMbOk | os::kMbIconInformation);
 }
 
-void WholeFile::TellFailure(const Replacement& replacement) {
+void WholeFile::ReportFailedRestore(const Replacement& replacement) {
   const std::string text =
       replacement.outcome == Replacement::Outcome::kRenamed
           ? "system.ini could not be replaced, and is now called " + replacement.kept_name +

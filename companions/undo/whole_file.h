@@ -26,8 +26,8 @@ class WholeFile {
 
  private:
   [[nodiscard]] std::string Question() const;
-  void TellSuccess(const std::string& kept_name);
-  void TellFailure(const Replacement& replacement);
+  void ReportRestore(const std::string& kept_name);
+  void ReportFailedRestore(const Replacement& replacement);
 
   const os::System& system_;
   const ui::Application& application_;

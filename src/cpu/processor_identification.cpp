@@ -24,7 +24,7 @@ std::int32_t ClockMhz(const os::CycleCount& count) {
 
 }  // namespace
 
-const ProcessorIdentification::Found& ProcessorIdentification::TheProcessor() {
+const ProcessorIdentification::Found& ProcessorIdentification::IdentifiedProcessor() {
   if (!found_) {
     Found found{.identity = Identify(processor_)};
     if (found.identity.has_time_stamp_counter)
@@ -35,19 +35,19 @@ const ProcessorIdentification::Found& ProcessorIdentification::TheProcessor() {
 }
 
 void ProcessorIdentification::GetProcessorNormSpeed(TextBuffer& speed) {
-  Put(speed, base::TextOf(TheProcessor().clock_mhz));
+  Put(speed, base::TextOf(IdentifiedProcessor().clock_mhz));
 }
 
 void ProcessorIdentification::GetProcessor(TextBuffer& vendor, TextBuffer& description,
                                            TextBuffer& signature) {
-  const ProcessorIdentity& identity = TheProcessor().identity;
+  const ProcessorIdentity& identity = IdentifiedProcessor().identity;
   Put(vendor, identity.vendor);
   Put(description, NameOf(identity));
   Put(signature, SignatureOf(identity));
 }
 
 std::int32_t ProcessorIdentification::cpunormspeed(std::int32_t /*reserved*/) {
-  return TheProcessor().clock_mhz;
+  return IdentifiedProcessor().clock_mhz;
 }
 
 }  // namespace qdix::cpu

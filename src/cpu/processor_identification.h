@@ -27,7 +27,7 @@ class ProcessorIdentification final : public ProcessorInformation {
     std::int32_t clock_mhz = 0;
   };
   /// Asks the processor on the first call only.
-  const Found& TheProcessor();
+  const Found& IdentifiedProcessor();
 
   os::Processor& processor_;
   std::optional<Found> found_;

@@ -6,14 +6,14 @@ namespace qdix::memory {
 
 void CpuLimit::Load() {
   controls_.active.SetTicked(settings_.GetBoolean(shell::kSettingsSection, keys_.active, true));
-  ShowWhetherActive();
+  RefreshActive();
   controls_.percent.SetText(
       settings_.GetSetting(shell::kSettingsSection, keys_.percent, base::ShortestText(kDefaultPercent)));
 }
 
 base::Status CpuLimit::ActiveClicked() {
   settings_.SaveNumber(shell::kSettingsSection, keys_.active, controls_.active.Value());
-  ShowWhetherActive();
+  RefreshActive();
   return base::kDone;
 }
 
@@ -23,7 +23,7 @@ bool CpuLimit::HoldsBack(std::int32_t load_percent) const {
   return settings_.GetNumber(shell::kSettingsSection, keys_.percent, kDefaultPercent) <= load_percent;
 }
 
-void CpuLimit::ShowWhetherActive() {
+void CpuLimit::RefreshActive() {
   const bool active = controls_.active.Ticked();
   controls_.percent.SetEnabled(active);
   controls_.percent.SetBackColour(active ? ui::kWindowBackground : ui::kMenuBackground);

@@ -51,7 +51,7 @@ class CpuLimit {
   [[nodiscard]] bool OpeningTab() const { return opening_tab_; }
 
  private:
-  void ShowWhetherActive();
+  void RefreshActive();
 
   Controls controls_;
   Keys keys_;

@@ -68,10 +68,10 @@ void TimedRelease::LoadUnit() {
 
 void TimedRelease::LoadActive() {
   screen_.Check3.SetTicked(settings_.GetBoolean(shell::kSettingsSection, "TimeActive", false));
-  ShowWhetherActive();
+  RefreshActive();
 }
 
-void TimedRelease::ShowWhetherActive() {
+void TimedRelease::RefreshActive() {
   timers_.timer4.SetEnabled(screen_.Check3.Ticked());
   screen_.lblNextRelease.SetVisible(screen_.Check3.Ticked());
 }
@@ -121,7 +121,7 @@ base::Result<ReleaseOutcome> TimedRelease::TimeMem() {
 }
 
 base::Status TimedRelease::Check3_Click() {
-  ShowWhetherActive();
+  RefreshActive();
   settings_.SaveNumber(shell::kSettingsSection, "TimeActive", screen_.Check3.Value());
   timed_minute_count_ = 0;
   UpdateNextRelease();

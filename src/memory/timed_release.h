@@ -62,7 +62,7 @@ class TimedRelease {
   [[nodiscard]] const Unit& SelectedUnit() const;
   [[nodiscard]] std::int32_t IntervalMinutes() const;
   void ChooseUnit(const Unit& unit);
-  void ShowWhetherActive();
+  void RefreshActive();
 
   shell::SettingsStore& settings_;
   screens::TimeIntervalsScreen& screen_;

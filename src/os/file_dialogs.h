@@ -7,7 +7,7 @@
 namespace qdix::os {
 
 /// What the file dialog shows.
-struct FileQuestion {
+struct OpenFileRequest {
   const char* title;
   /// Pairs of a description and its patterns, each string with its NUL, and a final NUL.
   const char* filter;
@@ -21,7 +21,7 @@ class FileDialogs {
 
   /// Returns the full path of one existing file; for a shortcut, of the shortcut itself and not of its
   /// target. Empty if the user cancelled or the dialog could not be shown.
-  [[nodiscard]] virtual std::string GetOpenFileNameA(const FileQuestion& question) = 0;
+  [[nodiscard]] virtual std::string GetOpenFileNameA(const OpenFileRequest& question) = 0;
 
   /// Returns the path of a folder of the file system. Empty if the user cancelled or the dialog could not be
   /// shown. `folder` is selected first if it exists.

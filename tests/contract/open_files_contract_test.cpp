@@ -9,10 +9,10 @@ namespace {
 
 class OpenFilesContract : public ContractTest {
  protected:
-  OpenFilesContract() { Forget(); }
-  ~OpenFilesContract() override { Forget(); }
+  OpenFilesContract() { DeleteFiles(); }
+  ~OpenFilesContract() override { DeleteFiles(); }
 
-  void Forget() {
+  void DeleteFiles() {
     system.files.DeleteFileA(kFile);
     system.files.DeleteFileA(kOther);
   }

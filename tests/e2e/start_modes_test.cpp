@@ -35,7 +35,7 @@ class StartModeSession : public Session {
   void ExpectCaption(const std::string& text) const {
     EXPECT_TRUE(program.Await([&] { return program.Caption() == text; })) << program.Caption();
   }
-  void ExpectCaptionStands(const std::string& text) const {
+  void ExpectCaptionStays(const std::string& text) const {
     EXPECT_FALSE(program.Await([&] { return program.Caption() != text; }, kFourRefreshesMs))
         << program.Caption();
   }
@@ -61,7 +61,7 @@ TEST_F(StartModeSession, TwoMinimisesTheWindowWithTheMemoryInItsCaption) {
   // A taskbar writes this on the button of the window. Wine's shows no button for an owned window, see
   // MainWindowAsksForAButtonInTheTaskbar.
   FakeMemory memory(program.Process());
-  ASSERT_TRUE(memory.Play(kBytesOf100Mb));
+  ASSERT_TRUE(memory.SetAvailable(kBytesOf100Mb));
   ExpectCaption("100 MB   Q-DIX");
   EXPECT_TRUE(IsMinimised(program));
   ShowWindowAsync(program.MainWindow(), SW_RESTORE);
@@ -145,7 +145,7 @@ TEST_F(StartModeSession, ChoosingHiddenChangesNothingBeforeTheNextStart) {
   ASSERT_TRUE(program.Await([] { return RegistryText(kStartup, "StartDisplay") == "3"; }));
   // A caption refreshed after the choice shows that the choice has been handled.
   FakeMemory memory(program.Process());
-  ASSERT_TRUE(memory.Play(kBytesOf100Mb));
+  ASSERT_TRUE(memory.SetAvailable(kBytesOf100Mb));
   ExpectCaption("100 MB   Q-DIX");
   EXPECT_TRUE(IsShown(program));
   EXPECT_FALSE(IsMinimised(program));
@@ -159,13 +159,13 @@ TEST_F(StartModeSession, ChoosingHiddenChangesNothingBeforeTheNextStart) {
 TEST_F(StartModeSession, PauseStopsTheFiguresAndResumeRestartsThem) {
   StartProgram();
   FakeMemory memory(program.Process());
-  ASSERT_TRUE(memory.Play(kBytesOf100Mb));
+  ASSERT_TRUE(memory.SetAvailable(kBytesOf100Mb));
   ExpectCaption("100 MB   Q-DIX");
   program.Press("Command3");
   ASSERT_TRUE(program.Await([this] { return program.Text("Command3") == "Re&sume Activity"; }))
       << program.Text("Command3");
-  ASSERT_TRUE(memory.Play(kBytesOf50Mb));
-  ExpectCaptionStands("100 MB   Q-DIX");
+  ASSERT_TRUE(memory.SetAvailable(kBytesOf50Mb));
+  ExpectCaptionStays("100 MB   Q-DIX");
   program.Press("Command3");
   ExpectCaption("50 MB   Q-DIX");
   EXPECT_EQ(program.Text("Command3"), "Pau&se All Activity");

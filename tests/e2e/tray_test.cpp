@@ -90,11 +90,11 @@ TEST_F(TraySession, IconIsDrawnFromTheStartToTheEnd) {
 TEST_F(TraySession, PointerOnTheIconRefreshesTheTipWithTheFigureOfTheCaption) {
   StartProgram();
   FakeMemory memory(program.Process());
-  ASSERT_TRUE(memory.Play(kBytesOf75Point1Mb));
+  ASSERT_TRUE(memory.SetAvailable(kBytesOf75Point1Mb));
   ASSERT_TRUE(program.Await([this] { return program.Caption() == "75.1 MB   Q-DIX"; })) << program.Caption();
   ASSERT_TRUE(PointAtIcon());
   ExpectTip("75.1 MB");
-  ASSERT_TRUE(memory.Play(kBytesOf50Mb));
+  ASSERT_TRUE(memory.SetAvailable(kBytesOf50Mb));
   ASSERT_TRUE(PointAtIcon());
   ExpectTip("50 MB");
   CloseProgram();
@@ -152,7 +152,7 @@ TEST_F(TraySession, EscapeClosesTheMenuAndTheProgramKeepsRunning) {
   CloseMenu();
   EXPECT_TRUE(IsShown());
   FakeMemory memory(program.Process());
-  ASSERT_TRUE(memory.Play(kBytesOf50Mb));
+  ASSERT_TRUE(memory.SetAvailable(kBytesOf50Mb));
   EXPECT_TRUE(program.Await([this] { return program.Caption() == "50 MB   Q-DIX"; }));
   OpenMenu();
   CloseMenu();
@@ -163,7 +163,7 @@ TEST_F(TraySession, FiguresAreRefreshedWhileTheMenuIsOpen) {
   StartProgram();
   OpenMenu();
   FakeMemory memory(program.Process());
-  ASSERT_TRUE(memory.Play(kBytesOf50Mb));
+  ASSERT_TRUE(memory.SetAvailable(kBytesOf50Mb));
   EXPECT_TRUE(program.Await([this] { return program.Caption() == "50 MB   Q-DIX"; }));
   EXPECT_EQ(program.OpenMenus().size(), 1U);
   CloseMenu();

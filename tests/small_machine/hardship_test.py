@@ -2,7 +2,7 @@
 import subprocess
 import unittest
 
-from played import PlayedCase
+from scenario_case import ScenarioCase
 
 MAX_SWAP_FREE = 0.04
 # By how much available memory may change by itself during the test.
@@ -12,7 +12,7 @@ MAX_SECONDS_TO_END = 10
 TRAY = "60x28+740+572"
 
 
-class NoMemoryTest(PlayedCase):
+class NoMemoryTest(ScenarioCase):
     scenario = "no_memory"
 
     def test_the_swap_file_is_full(self):
@@ -33,7 +33,7 @@ class NoMemoryTest(PlayedCase):
         self.assertGreater(self.result["seconds_later"], 0)
 
 
-class CloseDuringReleaseTest(PlayedCase):
+class CloseDuringReleaseTest(ScenarioCase):
     scenario = "close_during_release"
 
     def test_the_window_was_closed_during_the_release(self):

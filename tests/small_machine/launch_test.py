@@ -4,7 +4,7 @@ The scenario reports how long the launch takes; this test sets no limit. The fig
 """
 import unittest
 
-from played import play
+from scenario_case import play
 
 MEMORY_MB = 96
 KB_PER_MB = 1024

@@ -6,7 +6,7 @@ import re
 import sys
 import unittest
 
-from played import PlayedCase
+from scenario_case import ScenarioCase
 
 PNG = b"\x89PNG\r\n\x1a\n"
 # Share of the released amount. The smallest machine has less memory that can be paged out.
@@ -25,7 +25,7 @@ AGREEMENT_KB = 1024
 STEP_PERCENT = 2
 
 
-class ReleaseTest(PlayedCase):
+class ReleaseTest(ScenarioCase):
     scenario = "one_release"
 
     @classmethod

@@ -4,7 +4,7 @@ The figures come from the guest's kernel, the times from its clock.
 """
 import unittest
 
-from played import PlayedCase
+from scenario_case import ScenarioCase
 
 # Share of the amount.
 MIN_GAIN = 0.30
@@ -15,7 +15,7 @@ KB_PER_MB = 1000
 MAX_GROWTH_BYTES = 8 * 4096
 
 
-class AutomaticReleaseTest(PlayedCase):
+class AutomaticReleaseTest(ScenarioCase):
     scenario = "automatic_release"
 
     def test_nothing_happens_while_there_is_enough_memory(self):
@@ -37,7 +37,7 @@ class AutomaticReleaseTest(PlayedCase):
         self.assertEqual(self.result["wrong_words"], 0)
 
 
-class BusyProcessorTest(PlayedCase):
+class BusyProcessorTest(ScenarioCase):
     scenario = "busy_processor"
 
     def test_the_release_waits_while_the_processor_is_busy(self):
@@ -50,7 +50,7 @@ class BusyProcessorTest(PlayedCase):
         self.assertLessEqual(self.result["seconds_until_release"], 2 * self.result["interval_s"] + MAX_SECONDS)
 
 
-class StartUpReleaseTest(PlayedCase):
+class StartUpReleaseTest(ScenarioCase):
     scenario = "start_up_release"
 
     def test_memory_is_released_after_the_delay(self):
@@ -62,7 +62,7 @@ class StartUpReleaseTest(PlayedCase):
         self.assertEqual(self.result["wrong_words"], 0)
 
 
-class TimedReleaseTest(PlayedCase):
+class TimedReleaseTest(ScenarioCase):
     scenario = "timed_release"
 
     def test_memory_is_released_when_the_release_is_due(self):
@@ -75,7 +75,7 @@ class TimedReleaseTest(PlayedCase):
         self.assertEqual(self.result["due_after"], "Next Release of RAM is due in 5 minutes")
 
 
-class HourTest(PlayedCase):
+class HourTest(ScenarioCase):
     scenario = "hour"
 
     def test_memory_is_released_in_every_round_of_an_hour(self):

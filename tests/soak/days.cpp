@@ -49,7 +49,7 @@ void Days::Start() {
   activate_ = rig_.program->Window().OnActivate;
   rig_.program->Window().OnActivate = ui::Handler::To<&Days::Activated>(*this);
   up_time_.emplace(rig_.program->MainWindow().Timer6, rig_.timers);
-  up_time_->Foretell(65000);
+  up_time_->ExpectTickAfter(65000);
   up_time_->After = [this] { CheckUpTime(); };
 }
 
@@ -80,7 +80,7 @@ void Days::Run(unsigned long days) {
   rig_.RemoveGraph();
   for (unsigned long slot = 1; slot <= days * kSlotsPerDay; ++slot) {
     SCOPED_TRACE(Moment());
-    Weather();
+    ChangeConditions();
     if (slot > 1 && Chance(4)) Hand();
     Pass(kSlotMs);
     CheckSlot();
@@ -121,7 +121,7 @@ void Days::CheckSlot() {
   EXPECT_EQ(rig_.program->TimeIntervals().lblNextRelease.Caption(), forecast_->NextReleaseText());
   forecast_->ExpectNothingLate();
   up_time_->ExpectNotLate();
-  rig_.machine.ForgetRecords();
+  rig_.machine.ClearRecords();
 }
 
 /// The only handles that stay open are those of the load readings between two updates of the graph.

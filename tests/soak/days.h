@@ -20,7 +20,7 @@ struct DaysReport {
   std::int64_t keys_left_open = 0;
   int taskbar_restarts = 0;
   int clock_changes = 0;
-  int hands = 0;
+  int user_visits = 0;
 };
 
 class Days {
@@ -39,16 +39,16 @@ class Days {
   void InsidePump(int number);
   base::Status Activated();
   // Random changes of the machine.
-  void Weather();
+  void ChangeConditions();
   void RestartTaskbar();
   void ChangeDisk();
   // Random actions of the user.
   void Hand();
-  void HandOnAutomatic();
-  void HandOnTimeIntervals();
-  void HandOnReleases();
-  void HandOnSystem();
-  void HandOnTray();
+  void UseAutomaticTab();
+  void UseTimeIntervalsTab();
+  void UseReleases();
+  void UseSystem();
+  void UseTray();
   void SaveTuning();
   void AnswerBox();
   // Checks.

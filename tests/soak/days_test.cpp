@@ -23,7 +23,8 @@ TEST(Soak, RandomDaysLeaveEveryFigureRightAndNothingHeld) {
   std::cout << days << " days: " << report.ticks << " ticks, " << report.releases << " releases of "
             << report.blocks << " blocks, " << report.warnings << " warnings, " << report.keys_left_open
             << " keys of readings left open, " << report.taskbar_restarts << " new taskbars, "
-            << report.clock_changes << " changes of the clock, " << report.hands << " visits of the user\n";
+            << report.clock_changes << " changes of the clock, " << report.user_visits
+            << " visits of the user\n";
   // A run in which nothing happens would also pass.
   EXPECT_GT(report.ticks, static_cast<std::int64_t>(days) * 50000);
   EXPECT_GT(report.releases, 0);

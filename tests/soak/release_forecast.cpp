@@ -35,10 +35,10 @@ ReleaseForecast::ReleaseForecast(ProgramRig& rig, const Conditions& conditions, 
       readings_(kReadingsInAverage, kEarlierReading) {
   readings_.back() = conditions.load_percent;
   Bind();
-  display_.Foretell(kRefreshMs);
-  check_.Foretell(check_interval_ms_);
-  startup_.Foretell(std::int64_t{1000} * startup_delay_s);
-  minute_.Foretell(kMinuteMs);
+  display_.ExpectTickAfter(kRefreshMs);
+  check_.ExpectTickAfter(check_interval_ms_);
+  startup_.ExpectTickAfter(std::int64_t{1000} * startup_delay_s);
+  minute_.ExpectTickAfter(kMinuteMs);
 }
 
 void ReleaseForecast::Bind() {
@@ -48,13 +48,13 @@ void ReleaseForecast::Bind() {
   startup_.Before = [this] {
     ++ticks_;
     ExpectRelease(Amounts::kStartup);
-    startup_.ForetellNone();
+    startup_.ExpectNoTick();
   };
   minute_.Before = [this] { BeforeMinute(); };
   minute_.After = [this] { AfterMinute(); };
   retry_.Before = [this] {
     retry_pending_ = false;
-    retry_.ForetellNone();
+    retry_.ExpectNoTick();
     BeforeMinute();
   };
   retry_.After = minute_.After;
@@ -124,7 +124,7 @@ void ReleaseForecast::BeforeMinute() {
   ++ticks_;
   timed_finishes_.push_back(false);
   if (IsHeldBack(program_.TimeIntervals().Check10)) {
-    if (!std::exchange(retry_pending_, true)) retry_.Foretell(kRetryMs);
+    if (!std::exchange(retry_pending_, true)) retry_.ExpectTickAfter(kRetryMs);
     return;
   }
   if (++minutes_ >= IntervalMinutes()) timed_finishes_.back() = ExpectRelease(Amounts::kTimed);
@@ -138,9 +138,9 @@ void ReleaseForecast::AfterMinute() {
 void ReleaseForecast::Follow(WatchedTimer& timer, bool& runs, bool runs_now, std::int64_t interval_ms) {
   if (std::exchange(runs, runs_now) == runs_now) return;
   if (runs_now) {
-    timer.Foretell(interval_ms);
+    timer.ExpectTickAfter(interval_ms);
   } else {
-    timer.ForetellNone();
+    timer.ExpectNoTick();
   }
 }
 
@@ -150,7 +150,7 @@ void ReleaseForecast::FollowControls() {
   const bool is_paused = program_.Quondix().Command3.Caption() == "Resume Activity";
   const auto interval_ms = static_cast<std::int64_t>(std::min(CheckSeconds(), 60.0) * 1000);
   const bool is_new = std::exchange(check_interval_ms_, interval_ms) != interval_ms;
-  if (is_new && check_runs_) check_.Foretell(interval_ms);
+  if (is_new && check_runs_) check_.ExpectTickAfter(interval_ms);
   if (std::exchange(is_paused_, is_paused) != is_paused) {
     Follow(display_, display_runs_, !is_paused, kRefreshMs);
   }

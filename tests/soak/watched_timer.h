@@ -22,12 +22,12 @@ class WatchedTimer {
   WatchedTimer& operator=(const WatchedTimer&) = delete;
 
   /// Restarts the count now; the first tick comes after one interval.
-  void Foretell(std::int64_t interval_ms) {
+  void ExpectTickAfter(std::int64_t interval_ms) {
     interval_ms_ = interval_ms;
     due_ms_ = time_.NowMs() + interval_ms;
   }
   /// No more ticks come.
-  void ForetellNone() { due_ms_.reset(); }
+  void ExpectNoTick() { due_ms_.reset(); }
 
   void ExpectNotLate() const {
     if (due_ms_) {

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "played_clock.h"
+#include "fake_clock.h"
 #include "tests/e2e/driver/cpu_statistics.h"
 #include "tests/e2e/driver/hand.h"
 #include "tests/e2e/driver/help_windows.h"
@@ -49,11 +49,10 @@ constexpr const char* kUsage =
     "                    until the program has ended\n"
     "  time-press NAME   presses a button by message and prints the milliseconds until its handler has "
     "ended\n"
-    "  time-loop BYTES PUMPS   takes as much memory, writes into each page, pumps, frees it, pumps again, "
-    "and\n"
-    "                    prints the milliseconds\n"
-    "  time-pumps COUNT [window]   prints the milliseconds of so many empty pumps, in a program with a "
-    "window or "
+    "  time-loop BYTES PUMPS   allocates memory, writes to each page, pumps, frees it and pumps again, in a "
+    "program\n"
+    "                    with a window if there are pumps; prints the milliseconds\n"
+    "  time-pumps COUNT [window]   prints the milliseconds of empty pumps, in a program with a window or "
     "without\n"
     "  start-with-clock PERCENT PATH    starts QDIX.exe; the processor seems to have that share of its "
     "speed\n"

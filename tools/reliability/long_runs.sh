@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Long reliability runs of the tests:   long_runs.sh [hands|fuzz|days|exe]...   (all of them by default)
-#   hands   random use of every program         QDIX_EVENTS=1000000
+# Long reliability runs of the tests:   long_runs.sh [user|fuzz|days|exe]...   (all of them by default)
+#   user    random use of every program           QDIX_EVENTS=1000000
 #   fuzz    any bytes as files and topics         QDIX_FUZZ_RUNS=5000
 #   days    days of the program on stepped time   QDIX_SOAK_DAYS=60
 #   exe     the shipped exe under Wine            QDIX_TIPS=10000 QDIX_MENUS=1000
@@ -13,14 +13,14 @@ export QDIX_FUZZ_RUNS=${QDIX_FUZZ_RUNS:-5000}
 export QDIX_TIPS=${QDIX_TIPS:-10000} QDIX_MENUS=${QDIX_MENUS:-1000}
 
 runs=("$@")
-if ((${#runs[@]} == 0)); then runs=(hands fuzz days exe); fi
+if ((${#runs[@]} == 0)); then runs=(user fuzz days exe); fi
 
 for run in "${runs[@]}"; do
   case $run in
-    hands)
+    user)
       # Without sanitizers, which take ten times as long.
       tools/setup/build.sh host fuzz_tests
-      build/host/fuzz_tests --gtest_filter='*Hands*:-*Fuzz*'
+      build/host/fuzz_tests --gtest_filter='*Random*User*:-*Fuzz*'
       ;;
     fuzz)
       tools/setup/build.sh host fuzz_tests

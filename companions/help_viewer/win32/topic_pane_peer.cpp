@@ -100,7 +100,7 @@ bool TopicPanePeer::HandlePointer(UINT message, WPARAM wparam, LPARAM lparam) {
       return true;
     }
     case WM_SETCURSOR:
-      return ShowHand(lparam);
+      return ShowHandCursor(lparam);
     case kMouseWheel:
       WheelTurned(static_cast<short>(HIWORD(wparam)));
       return true;
@@ -112,7 +112,7 @@ bool TopicPanePeer::HandlePointer(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 /// Leaves the arrow if Windows has no hand cursor.
-bool TopicPanePeer::ShowHand(LPARAM hit) const {
+bool TopicPanePeer::ShowHandCursor(LPARAM hit) const {
   POINT pointer{};
   if (LOWORD(hit) != HTCLIENT || GetCursorPos(&pointer) == 0) return false;
   ScreenToClient(Window(), &pointer);

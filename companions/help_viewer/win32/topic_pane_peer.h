@@ -27,7 +27,7 @@ class TopicPanePeer final : public ui::win32::NativeControl {
   void ScrollBarMoved(UINT code);
   /// `turned` is in parts of a notch; positive is away from the user.
   void WheelTurned(int turned);
-  [[nodiscard]] bool ShowHand(LPARAM hit) const;
+  [[nodiscard]] bool ShowHandCursor(LPARAM hit) const;
   void SizeChanged();
   void PaintWindow();
   void Draw(const RECT& part);

@@ -29,11 +29,11 @@ class CallLog {
   void FailFrom(int number) { fail_from_ = number; }
 
   /// Empties the record of calls. The count of calls that can fail continues.
-  void ForgetCalls() { calls_.clear(); }
+  void ClearCalls() { calls_.clear(); }
 
   /// Records something that a correct program never does.
   void Misuse(const std::string& what) { misuses_.push_back(what); }
-  void ForgetMisuses() { misuses_.clear(); }
+  void ClearMisuses() { misuses_.clear(); }
 
   [[nodiscard]] const std::vector<std::string>& Calls() const { return calls_; }
   [[nodiscard]] const std::vector<std::string>& Misuses() const { return misuses_; }

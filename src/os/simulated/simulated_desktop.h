@@ -77,7 +77,7 @@ class SimulatedDialogs final : public Dialogs {
   /// Ends the program: an open box closes without an answer, and no further box opens.
   void End() { ended_ = true; }
   [[nodiscard]] const std::vector<Box>& Boxes() const { return boxes_; }
-  void ForgetBoxes() { boxes_.clear(); }
+  void ClearBoxes() { boxes_.clear(); }
 
  private:
   CallLog& log_;
@@ -103,9 +103,9 @@ class SimulatedShell final : public Shell {
   bool ShellExecuteA(const char* verb, const std::string& path, int show) override;
 
   [[nodiscard]] const std::vector<TrayRequest>& Requests() const { return requests_; }
-  void ForgetRequests() { requests_.clear(); }
+  void ClearRequests() { requests_.clear(); }
   /// Ends the taskbar and removes every icon with it.
-  void ForgetIcons() { icons_.clear(); }
+  void ClearIcons() { icons_.clear(); }
   [[nodiscard]] int IconCount() const { return static_cast<int>(icons_.size()); }
   /// The verb, path and show command of each opened file.
   [[nodiscard]] const std::vector<std::string>& OpenedFiles() const { return opened_files_; }

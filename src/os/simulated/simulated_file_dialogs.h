@@ -11,7 +11,7 @@ namespace qdix::os::simulated {
 
 class SimulatedFileDialogs final : public FileDialogs {
  public:
-  std::string GetOpenFileNameA(const FileQuestion& question) override {
+  std::string GetOpenFileNameA(const OpenFileRequest& question) override {
     return Show("GetOpenFileNameA", question.folder);
   }
   std::string SHBrowseForFolderA(const std::string& /*title*/, const std::string& folder) override {

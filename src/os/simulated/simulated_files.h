@@ -44,9 +44,9 @@ class SimulatedFiles final : public Files, public ProfileFiles {
   /// False if there is no such file.
   bool Erase(const std::string& path) { return files_.erase(UpperPath(path)) == 1; }
   void Protect(const std::string& path) { read_only_.insert(UpperPath(path)); }
-  /// Another program opens this file for exclusive use until LetGo.
+  /// Another program opens this file for exclusive use until Unlock.
   void Hold(const std::string& path) { held_.insert(UpperPath(path)); }
-  void LetGo(const std::string& path) { held_.erase(UpperPath(path)); }
+  void Unlock(const std::string& path) { held_.erase(UpperPath(path)); }
   /// Makes the disk read-only, like a CD: existing files can still be read.
   void ProtectDisk() { disk_is_protected_ = true; }
   /// Simulates a Japanese Windows, whose file names have two-byte characters.

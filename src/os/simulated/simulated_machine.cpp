@@ -81,12 +81,12 @@ std::vector<std::string> SimulatedMachine::QueriedValueNames() const {
   return NamesFrom(registry_.QueriedValues(), 0);
 }
 
-void SimulatedMachine::ForgetRecords() {
-  log_.ForgetCalls();
-  registry_.ForgetAccesses();
-  memory_.ForgetAllocations();
-  dialogs_.ForgetBoxes();
-  shell_.ForgetRequests();
+void SimulatedMachine::ClearRecords() {
+  log_.ClearCalls();
+  registry_.ClearAccesses();
+  memory_.ClearAllocations();
+  dialogs_.ClearBoxes();
+  shell_.ClearRequests();
 }
 
 void SimulatedMachine::SetCpuLoad(std::uint32_t percent) {

@@ -72,9 +72,9 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   void MakeJapanese() { files_.MakeJapanese(); }
   /// Makes this file read-only.
   void ProtectFile(const std::string& path) { files_.Protect(path); }
-  /// Another program opens this file for exclusive use until LetGoOfFile.
-  void HoldFile(const std::string& path) { files_.Hold(path); }
-  void LetGoOfFile(const std::string& path) { files_.LetGo(path); }
+  /// Another program opens this file for exclusive use until UnlockFile.
+  void LockFile(const std::string& path) { files_.Hold(path); }
+  void UnlockFile(const std::string& path) { files_.Unlock(path); }
   /// Makes the disk read-only, like a CD: existing files can still be read.
   void ProtectDisk() { files_.ProtectDisk(); }
   /// Sets how many more bytes fit on the disk.
@@ -98,7 +98,7 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   void SetSpecialFolder(int number, const std::string& path) { shell_files_.SetFolder(number, path); }
   /// Simulates a shell that makes no shortcuts for recent documents, or names them differently.
   void MakeNoRecentShortcuts() { shell_files_.MakeNoRecentShortcuts(); }
-  void PutShortcut(const std::string& path, const Shortcut& shortcut) { shell_files_.Put(path, shortcut); }
+  void AddShortcut(const std::string& path, const Shortcut& shortcut) { shell_files_.Put(path, shortcut); }
   [[nodiscard]] std::optional<Shortcut> ShortcutAt(const std::string& path) const {
     return shell_files_.At(path);
   }
@@ -138,13 +138,13 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   // Notification area.
   [[nodiscard]] const std::vector<simulated::TrayRequest>& TrayRequests() const { return shell_.Requests(); }
   /// Ends the taskbar and removes every icon with it.
-  void ForgetTrayIcons() { shell_.ForgetIcons(); }
+  void ClearTrayIcons() { shell_.ClearIcons(); }
   [[nodiscard]] int TrayIconCount() const { return shell_.IconCount(); }
 
   [[nodiscard]] const std::vector<std::string>& OpenedFiles() const { return shell_.OpenedFiles(); }
 
   // The processor: it answers what the test sets here.
-  [[nodiscard]] simulated::SimulatedProcessor& TheProcessor() { return processor_; }
+  [[nodiscard]] simulated::SimulatedProcessor& FakeProcessor() { return processor_; }
 
   // The performance statistics in the dynamic root. They exist once a load is set.
   void SetCpuLoad(std::uint32_t percent);
@@ -181,9 +181,9 @@ class SimulatedMachine final : private EventPump, private Clock, private Process
   [[nodiscard]] const std::vector<std::string>& Misuses() const { return log_.Misuses(); }
   /// Empties the records of calls, value accesses, allocations, message boxes and icon requests, which would
   /// fill the memory in a long run. Keeps what is currently held, and the misuses.
-  void ForgetRecords();
+  void ClearRecords();
   /// For tests that misuse the machine on purpose.
-  void ForgetMisuses() { log_.ForgetMisuses(); }
+  void ClearMisuses() { log_.ClearMisuses(); }
 
  private:
   void PumpEvents() override;

@@ -24,7 +24,7 @@ class SimulatedMemory final : public Memory {
   void LimitAllocatableBytes(std::uint64_t bytes) { limit_bytes_ = bytes; }
 
   [[nodiscard]] const std::vector<std::uint32_t>& AllAllocations() const { return all_; }
-  void ForgetAllocations() { all_.clear(); }
+  void ClearAllocations() { all_.clear(); }
   [[nodiscard]] std::vector<std::uint32_t> OutstandingBlocks() const;
   /// Returns the number of pages written in each outstanding block.
   [[nodiscard]] std::vector<std::uint32_t> TouchedPages() const;

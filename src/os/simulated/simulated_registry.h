@@ -59,7 +59,7 @@ class SimulatedRegistry final : public Registry {
   };
   [[nodiscard]] const std::vector<ValueAccess>& WrittenValues() const { return written_; }
   [[nodiscard]] const std::vector<ValueAccess>& QueriedValues() const { return queried_; }
-  void ForgetAccesses() {
+  void ClearAccesses() {
     written_.clear();
     queried_.clear();
   }

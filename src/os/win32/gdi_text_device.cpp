@@ -22,11 +22,11 @@ GdiTextDevice::GdiTextDevice(HDC device, const Faces& faces)
 GdiTextDevice::~GdiTextDevice() {
   // A selected font cannot be deleted.
   SelectObject(device_, first_);
-  for (const MadeFont& made : fonts_) DeleteObject(made.font);
+  for (const CachedFont& made : fonts_) DeleteObject(made.font);
 }
 
 HFONT GdiTextDevice::FontOf(const FontLook& look) {
-  for (const MadeFont& made : fonts_) {
+  for (const CachedFont& made : fonts_) {
     if (made.look == look) return made.font;
   }
   const int height =

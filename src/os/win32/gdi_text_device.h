@@ -38,7 +38,7 @@ class GdiTextDevice final : public TextDevice {
   void PageStarted() { selected_ = nullptr; }
 
  private:
-  struct MadeFont {
+  struct CachedFont {
     FontLook look;
     HFONT font;
   };
@@ -50,7 +50,7 @@ class GdiTextDevice final : public TextDevice {
   const Faces& faces_;
   HGDIOBJ first_;
   HFONT selected_ = nullptr;
-  std::vector<MadeFont> fonts_;
+  std::vector<CachedFont> fonts_;
 };
 
 }  // namespace qdix::os::win32

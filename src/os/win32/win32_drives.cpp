@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "os/win32/no_disk_request.h"
+#include "os/win32/suppressed_disk_errors.h"
 
 namespace qdix::os::win32 {
 
@@ -27,7 +27,7 @@ bool IsWhole(std::string_view root) { return root.ends_with('\\'); }
 std::int32_t Win32Drives::GetDiskFreeSpaceExA(const char* root, DiskBytes& bytes) {
   const ExtendedQuery query = FindExtendedQuery();
   if (query == nullptr || !IsWhole(root)) return 0;
-  const NoDiskRequest quiet;
+  const SuppressedDiskErrors quiet;
   ULARGE_INTEGER available{};
   ULARGE_INTEGER total{};
   ULARGE_INTEGER total_free{};
@@ -38,7 +38,7 @@ std::int32_t Win32Drives::GetDiskFreeSpaceExA(const char* root, DiskBytes& bytes
 
 std::int32_t Win32Drives::GetDiskFreeSpaceA(const char* root, DiskClusters& clusters) {
   if (!IsWhole(root)) return 0;
-  const NoDiskRequest quiet;
+  const SuppressedDiskErrors quiet;
   DWORD sectors_per_cluster = 0;
   DWORD bytes_per_sector = 0;
   DWORD free_clusters = 0;
@@ -61,7 +61,7 @@ std::uint32_t Win32Drives::GetLogicalDriveStringsA(std::uint32_t room, char* buf
 }
 
 std::int32_t Win32Drives::GetVolumeInformationA(const char* root, std::uint32_t& flags) {
-  const NoDiskRequest quiet;
+  const SuppressedDiskErrors quiet;
   DWORD found_flags = 0;
   if (::GetVolumeInformationA(root, nullptr, 0, nullptr, nullptr, &found_flags, nullptr, 0) == 0) return 0;
   flags = found_flags;

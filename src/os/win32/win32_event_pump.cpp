@@ -2,9 +2,9 @@
 
 namespace qdix::os::win32 {
 
-void Win32EventPump::PumpEvents() { static_cast<void>(HandleSome()); }
+void Win32EventPump::PumpEvents() { static_cast<void>(HandlePending()); }
 
-Win32EventPump::Queue Win32EventPump::HandleSome() {
+Win32EventPump::Queue Win32EventPump::HandlePending() {
   MSG message;
   for (int count = 0; count < kMessagesPerPump && !stopped_; ++count) {
     if (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE) == 0) return Queue::kEmpty;
@@ -21,7 +21,7 @@ Win32EventPump::Queue Win32EventPump::HandleSome() {
 void Win32EventPump::WaitMs(std::uint32_t ms) {
   const DWORD begin = GetTickCount();
   for (;;) {
-    const Queue queue = HandleSome();
+    const Queue queue = HandlePending();
     const DWORD passed_ms = GetTickCount() - begin;
     if (queue == Queue::kEnds || passed_ms >= ms) return;
     // The wait ends only for new messages, so the queue must be empty first.

@@ -32,7 +32,7 @@ class Win32EventPump final : public EventPump {
     kHasMore,
     kEnds
   };
-  Queue HandleSome();
+  Queue HandlePending();
   void Handle(MSG& message);
 
   HWND dialog_window_ = nullptr;

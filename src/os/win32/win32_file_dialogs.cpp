@@ -35,7 +35,7 @@ void FreeIdentifierList(LPITEMIDLIST list) {
 
 }  // namespace
 
-std::string Win32FileDialogs::GetOpenFileNameA(const FileQuestion& question) {
+std::string Win32FileDialogs::GetOpenFileNameA(const OpenFileRequest& question) {
   const runtime::FloatingPointKeeper keeper;
   std::array<char, MAX_PATH> path{};
   OPENFILENAMEA record{};

@@ -10,7 +10,7 @@ namespace qdix::os::win32 {
 
 class Win32FileDialogs final : public FileDialogs {
  public:
-  [[nodiscard]] std::string GetOpenFileNameA(const FileQuestion& question) override;
+  [[nodiscard]] std::string GetOpenFileNameA(const OpenFileRequest& question) override;
   [[nodiscard]] std::string SHBrowseForFolderA(const std::string& title, const std::string& folder) override;
 
   /// Sets the window that is disabled while a dialog is open; null for none.

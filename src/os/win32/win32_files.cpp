@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "os/win32/no_disk_request.h"
+#include "os/win32/suppressed_disk_errors.h"
 #include "os/win32/system_time.h"
 
 namespace qdix::os::win32 {
@@ -24,7 +24,7 @@ std::uint32_t Win32Files::GetWindowsDirectoryA(char* buffer, std::uint32_t size_
 bool Win32Files::CopyFileA(const char* from, const char* to) { return ::CopyFileA(from, to, FALSE) != 0; }
 
 std::uint32_t Win32Files::GetFileAttributesA(const char* path) {
-  const NoDiskRequest quiet;
+  const SuppressedDiskErrors quiet;
   return ::GetFileAttributesA(path);
 }
 

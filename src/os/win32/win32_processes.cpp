@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "os/win32/no_disk_request.h"
+#include "os/win32/suppressed_disk_errors.h"
 
 namespace qdix::os::win32 {
 
@@ -13,7 +13,7 @@ namespace {
 bool IsOnEmptyDrive(const std::string& command_line) {
   const std::size_t begin = command_line.find_first_not_of(" \"");
   if (begin == std::string::npos || command_line.substr(begin + 1, 2) != ":\\") return false;
-  const NoDiskRequest quiet;
+  const SuppressedDiskErrors quiet;
   return GetFileAttributesA(command_line.substr(begin, 3).c_str()) == INVALID_FILE_ATTRIBUTES &&
          GetLastError() == ERROR_NOT_READY;
 }
@@ -56,7 +56,7 @@ std::int32_t Win32Processes::CreateProcessA(const std::string& command_line) {
 }
 
 bool Win32Processes::SetCurrentDirectoryA(const std::string& folder) {
-  const NoDiskRequest quiet;
+  const SuppressedDiskErrors quiet;
   return ::SetCurrentDirectoryA(folder.c_str()) != 0;
 }
 

@@ -74,7 +74,7 @@ LONG WINAPI SkipForbiddenRead(EXCEPTION_POINTERS* fault) {
   return EXCEPTION_CONTINUE_EXECUTION;
 }
 
-std::optional<std::uint64_t> FineClock() {
+std::optional<std::uint64_t> HighResolutionTicks() {
   LARGE_INTEGER ticks{};
   if (QueryPerformanceCounter(&ticks) == 0) return std::nullopt;
   return static_cast<std::uint64_t>(ticks.QuadPart);
@@ -109,12 +109,12 @@ CycleCount Win32Processor::CountCycles(std::uint32_t milliseconds) {
   const std::uint64_t wanted_ticks = ticks_per_second * milliseconds / 1000;
   // Where memory is short, the first use of either waits for its page. That time must not be measured: it
   // would count for the clock and not for the processor.
-  static_cast<void>(FineClock());
+  static_cast<void>(HighResolutionTicks());
   static_cast<void>(ReadTimeStampCounter());
-  const std::optional<std::uint64_t> start = FineClock();
+  const std::optional<std::uint64_t> start = HighResolutionTicks();
   const std::optional<std::uint64_t> first = ReadTimeStampCounter();
   if (!start || !first) return {};
-  const auto passed_ticks = [&start] { return FineClock().value_or(*start) - *start; };
+  const auto passed_ticks = [&start] { return HighResolutionTicks().value_or(*start) - *start; };
   // The coarse system clock limits the loop in case the high-resolution timer has stopped.
   const DWORD coarse_start = ::GetTickCount();
   while (passed_ticks() < wanted_ticks && ::GetTickCount() - coarse_start <= 4 * milliseconds) {

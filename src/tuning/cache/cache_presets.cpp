@@ -35,27 +35,27 @@ constexpr std::array<CachePreset, 12> kPresets{{
 }};
 
 /// What recognition does with a preset whose fixed settings match but whose shares do not.
-enum class Otherwise {
+enum class AfterMismatch {
   kTryTheNext,
   kStop,
 };
 
 struct ChainLink {
   std::string_view name;
-  Otherwise otherwise;
+  AfterMismatch after_mismatch;
 };
 
 constexpr std::array<ChainLink, 10> kChain{{
-    {"Standard System (Win95)", Otherwise::kTryTheNext},
-    {"Power User (Win95)", Otherwise::kTryTheNext},
-    {"Multimedia (Win95)", Otherwise::kStop},
-    {"3D Games (Win95)", Otherwise::kStop},
-    {"CD Writer (Win95)", Otherwise::kStop},
-    {"Low Memory System (Win95)", Otherwise::kStop},
-    {"Standard System (Win98/ME)", Otherwise::kTryTheNext},
-    {"Power User (Win98/ME)", Otherwise::kTryTheNext},
-    {"3D Games (Win98/ME)", Otherwise::kStop},
-    {"CD Writer (Win98/ME)", Otherwise::kStop},
+    {"Standard System (Win95)", AfterMismatch::kTryTheNext},
+    {"Power User (Win95)", AfterMismatch::kTryTheNext},
+    {"Multimedia (Win95)", AfterMismatch::kStop},
+    {"3D Games (Win95)", AfterMismatch::kStop},
+    {"CD Writer (Win95)", AfterMismatch::kStop},
+    {"Low Memory System (Win95)", AfterMismatch::kStop},
+    {"Standard System (Win98/ME)", AfterMismatch::kTryTheNext},
+    {"Power User (Win98/ME)", AfterMismatch::kTryTheNext},
+    {"3D Games (Win98/ME)", AfterMismatch::kStop},
+    {"CD Writer (Win98/ME)", AfterMismatch::kStop},
 }};
 
 /// Tested after the chain, whatever the chain found. If both match, the second one wins.
@@ -114,7 +114,7 @@ std::string_view RecogniseCachePreset(const CacheValues& values, double total_ra
     if (!FixedSettingsFit(preset, values)) continue;
     const bool fits = Fits(preset, values, total_ram_mb);
     if (fits) recognised = preset.name;
-    if (fits || link.otherwise == Otherwise::kStop) break;
+    if (fits || link.after_mismatch == AfterMismatch::kStop) break;
   }
   for (const std::string_view name : kAfterChain) {
     const CachePreset& preset = *FindCachePreset(name);

@@ -70,7 +70,7 @@ void CacheSettings::ShowCaption(const Group& group) {
   group.label.SetCaption(caption);
 }
 
-void CacheSettings::ShowWhetherEnabled(const Group& group) {
+void CacheSettings::RefreshEnabledState(const Group& group) {
   group.label.SetEnabled(group.box.Ticked());
   group.slider.SetEnabled(group.box.Ticked());
   ShowCaption(group);
@@ -90,8 +90,8 @@ void CacheSettings::SetupCache() {
       screen_.Slider1.Value() > screen_.Slider2.Value()) {
     screen_.Slider1.SetValue(screen_.Slider2.Value());
   }
-  ShowWhetherEnabled(MinCache());
-  ShowWhetherEnabled(MaxCache());
+  RefreshEnabledState(MinCache());
+  RefreshEnabledState(MaxCache());
   LoadChunkSize();
   screen_.Combo2.SetText(kUserDefined);
   LoadTemplateEntry(NameCache(), kNameCacheValue);
@@ -110,7 +110,7 @@ void CacheSettings::LoadChunkSize() {
   const double size_kb = system_ini_.ReadIniValue(kVcacheSection, "chunksize");
   screen_.Check7.SetTicked(size_kb != 0);
   if (size_kb != 0) screen_.Slider3.SetNearest(size_kb);
-  ShowWhetherEnabled(ChunkSize());
+  RefreshEnabledState(ChunkSize());
 }
 
 void CacheSettings::LoadTemplateEntry(const Group& group, const char* value_name) {
@@ -163,26 +163,26 @@ void CacheSettings::BoxClicked() {
 
 base::Status CacheSettings::Check5_Click() {
   BoxClicked();
-  ShowWhetherEnabled(MinCache());
+  RefreshEnabledState(MinCache());
   return base::kDone;
 }
 
 base::Status CacheSettings::Check6_Click() {
   BoxClicked();
-  ShowWhetherEnabled(MaxCache());
+  RefreshEnabledState(MaxCache());
   return base::kDone;
 }
 
 base::Status CacheSettings::Check7_Click() {
   BoxClicked();
-  ShowWhetherEnabled(ChunkSize());
+  RefreshEnabledState(ChunkSize());
   return base::kDone;
 }
 
 base::Status CacheSettings::Check8_Click() {
   BoxClicked();
-  ShowWhetherEnabled(NameCache());
-  ShowWhetherEnabled(DirectoryCache());
+  RefreshEnabledState(NameCache());
+  RefreshEnabledState(DirectoryCache());
   return base::kDone;
 }
 

@@ -48,7 +48,7 @@ class CacheSettings {
   [[nodiscard]] Group DirectoryCache() const;
 
   static void ShowCaption(const Group& group);
-  static void ShowWhetherEnabled(const Group& group);
+  static void RefreshEnabledState(const Group& group);
   void LoadCacheSize(const Group& group, const char* key);
   void LoadChunkSize();
   void LoadTemplateEntry(const Group& group, const char* value_name);

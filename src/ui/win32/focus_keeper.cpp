@@ -39,7 +39,7 @@ bool FocusKeeper::TakeRefusal(const NativeControl& peer) {
   return true;
 }
 
-void FocusKeeper::RefusalSettled() {
+void FocusKeeper::OnRefusalSettled() {
   if (refused_ == nullptr) return;
   // A button draws itself pressed after it got the focus. It no longer has the capture, so nothing else would
   // raise it again. Only for buttons: in other window classes the same message number means something else.

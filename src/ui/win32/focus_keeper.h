@@ -37,7 +37,7 @@ class FocusKeeper {
 
   /// Returns true once for the click that came with a refused focus move. The caller must ignore that click.
   [[nodiscard]] bool TakeRefusal(const NativeControl& peer);
-  void RefusalSettled();
+  void OnRefusalSettled();
 
  private:
   void Refuse(NativeControl& peer);

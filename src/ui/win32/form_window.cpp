@@ -208,7 +208,7 @@ std::optional<LRESULT> FormWindow::HandleKeyboard(UINT message, WPARAM wparam, L
       focus_.ArrivedAtMain();
       return 0;
     case FocusKeeper::kRefusalSettledMessage:
-      focus_.RefusalSettled();
+      focus_.OnRefusalSettled();
       return 0;
     case DM_GETDEFID:
       return DefaultButtonNumber();

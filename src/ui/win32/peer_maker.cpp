@@ -68,13 +68,13 @@ bool PeerMaker::IsDue(const Control& control) const {
 }
 
 bool PeerMaker::Make(Control& control, int number) const {
-  std::unique_ptr<NativeControl> peer = make_peer_(context_, control, StandsOn(control), number);
+  std::unique_ptr<NativeControl> peer = make_peer_(context_, control, ParentWindowOf(control), number);
   if (peer == nullptr || peer->Window() == nullptr) return false;
   context_.peers.Put(number, std::move(peer));
   return true;
 }
 
-HWND PeerMaker::StandsOn(const Control& control) const {
+HWND PeerMaker::ParentWindowOf(const Control& control) const {
   const TabPage* const page = PageOf(control);
   const NativeControl* const peer = page == nullptr ? nullptr : context_.peers.ByModel(*page);
   return peer == nullptr ? main_ : peer->Window();

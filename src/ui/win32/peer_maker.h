@@ -29,7 +29,7 @@ class PeerMaker {
 
   [[nodiscard]] bool IsDue(const Control& control) const;
   [[nodiscard]] bool Make(Control& control, int number) const;
-  [[nodiscard]] HWND StandsOn(const Control& control) const;
+  [[nodiscard]] HWND ParentWindowOf(const Control& control) const;
 
   Form& form_;
   HWND main_;

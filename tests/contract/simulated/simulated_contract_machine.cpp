@@ -19,9 +19,9 @@ class SimulatedContractMachine final : public Machine {
     machine_.AddDrive('C', {.total_bytes = 1000 * kMegabyte, .free_bytes = 400 * kMegabyte});
     machine_.AddProgram("cmd");
     // A 133 MHz Pentium, as it identifies itself.
-    machine_.TheProcessor().SetLeaf(0, {.eax = 1, .ebx = 0x756E6547, .ecx = 0x6C65746E, .edx = 0x49656E69});
-    machine_.TheProcessor().SetLeaf(1, {.eax = 0x052C, .edx = 0x01BF});
-    machine_.TheProcessor().SetClock(133000);
+    machine_.FakeProcessor().SetLeaf(0, {.eax = 1, .ebx = 0x756E6547, .ecx = 0x6C65746E, .edx = 0x49656E69});
+    machine_.FakeProcessor().SetLeaf(1, {.eax = 0x052C, .edx = 0x01BF});
+    machine_.FakeProcessor().SetClock(133000);
   }
 
   const os::System& GetSystem() override { return machine_.GetSystem(); }

@@ -64,7 +64,7 @@ UINT& FlagsSeen() {
   return flags;
 }
 
-int WINAPI NotedBox(HWND /*owner*/, const char* /*text*/, const char* /*title*/, UINT flags) {
+int WINAPI RecordingMessageBox(HWND /*owner*/, const char* /*text*/, const char* /*title*/, UINT flags) {
   FlagsSeen() = flags;
   return IDOK;
 }
@@ -73,7 +73,7 @@ int WINAPI NotedBox(HWND /*owner*/, const char* /*text*/, const char* /*title*/,
 /// the test looks at the call and not at the box.
 TEST_F(DialogsWin32, BoxStaysAboveAllOtherWindowsInAnyStateOfItsOwner) {
   HWND main = OpenMainWindow();
-  const Detour noted("MessageBoxA", reinterpret_cast<const void*>(&NotedBox), "user32.dll");
+  const Detour noted("MessageBoxA", reinterpret_cast<const void*>(&RecordingMessageBox), "user32.dll");
   for (const int way : {SW_SHOW, SW_HIDE, SW_SHOWMINNOACTIVE}) {
     ShowWindow(main, way);
     FlagsSeen() = 0;

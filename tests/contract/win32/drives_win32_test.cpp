@@ -8,21 +8,22 @@
 namespace qdix::contract {
 namespace {
 
-BOOL WINAPI NotedFreeSpaceEx(const char* /*root*/, ULARGE_INTEGER* /*available*/, ULARGE_INTEGER* /*total*/,
-                             ULARGE_INTEGER* /*free*/) {
-  ErrorModeTest::NoteMode();
+BOOL WINAPI RecordingGetDiskFreeSpaceEx(const char* /*root*/, ULARGE_INTEGER* /*available*/,
+                                        ULARGE_INTEGER* /*total*/, ULARGE_INTEGER* /*free*/) {
+  ErrorModeTest::RecordMode();
   return FALSE;
 }
 
-BOOL WINAPI NotedFreeSpace(const char* /*root*/, DWORD* /*sectors*/, DWORD* /*bytes*/, DWORD* /*free*/,
-                           DWORD* /*total*/) {
-  ErrorModeTest::NoteMode();
+BOOL WINAPI RecordingGetDiskFreeSpace(const char* /*root*/, DWORD* /*sectors*/, DWORD* /*bytes*/,
+                                      DWORD* /*free*/, DWORD* /*total*/) {
+  ErrorModeTest::RecordMode();
   return FALSE;
 }
 
-BOOL WINAPI NotedVolume(const char* /*root*/, char* /*name*/, DWORD /*name_size*/, DWORD* /*serial*/,
-                        DWORD* /*longest*/, DWORD* /*flags*/, char* /*system*/, DWORD /*system_size*/) {
-  ErrorModeTest::NoteMode();
+BOOL WINAPI RecordingGetVolumeInformation(const char* /*root*/, char* /*name*/, DWORD /*name_size*/,
+                                          DWORD* /*serial*/, DWORD* /*longest*/, DWORD* /*flags*/,
+                                          char* /*system*/, DWORD /*system_size*/) {
+  ErrorModeTest::RecordMode();
   return FALSE;
 }
 
@@ -34,19 +35,19 @@ class DrivesWin32 : public ErrorModeTest {
 };
 
 TEST_F(DrivesWin32, ExtendedQueryLetsTheSystemAskForNoDisk) {
-  const Detour noted("GetDiskFreeSpaceExA", reinterpret_cast<const void*>(&NotedFreeSpaceEx));
+  const Detour noted("GetDiskFreeSpaceExA", reinterpret_cast<const void*>(&RecordingGetDiskFreeSpaceEx));
   EXPECT_EQ(system.drives.GetDiskFreeSpaceExA("C:\\", bytes), 0);
   ExpectAskedQuietlyAndPutBack();
 }
 
 TEST_F(DrivesWin32, ClassicQueryLetsTheSystemAskForNoDisk) {
-  const Detour noted("GetDiskFreeSpaceA", reinterpret_cast<const void*>(&NotedFreeSpace));
+  const Detour noted("GetDiskFreeSpaceA", reinterpret_cast<const void*>(&RecordingGetDiskFreeSpace));
   EXPECT_EQ(system.drives.GetDiskFreeSpaceA("C:\\", clusters), 0);
   ExpectAskedQuietlyAndPutBack();
 }
 
 TEST_F(DrivesWin32, FileSystemQueryLetsTheSystemAskForNoDisk) {
-  const Detour noted("GetVolumeInformationA", reinterpret_cast<const void*>(&NotedVolume));
+  const Detour noted("GetVolumeInformationA", reinterpret_cast<const void*>(&RecordingGetVolumeInformation));
   EXPECT_EQ(system.drives.GetVolumeInformationA("C:\\", flags), 0);
   ExpectAskedQuietlyAndPutBack();
 }

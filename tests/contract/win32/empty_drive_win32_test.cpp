@@ -6,22 +6,22 @@
 namespace qdix::contract {
 namespace {
 
-BOOL WINAPI NotedFolder(const char* /*folder*/) {
-  ErrorModeTest::NoteMode();
+BOOL WINAPI RecordingSetCurrentDirectory(const char* /*folder*/) {
+  ErrorModeTest::RecordMode();
   return FALSE;
 }
 
-DWORD WINAPI NotedAttributes(const char* /*path*/) {
-  ErrorModeTest::NoteMode();
+DWORD WINAPI RecordingGetFileAttributes(const char* /*path*/) {
+  ErrorModeTest::RecordMode();
   SetLastError(ERROR_NOT_READY);
   return INVALID_FILE_ATTRIBUTES;
 }
 
-BOOL WINAPI NotedStart(const char* /*program*/, char* /*command_line*/, SECURITY_ATTRIBUTES* /*process*/,
-                       SECURITY_ATTRIBUTES* /*thread*/, BOOL /*inherits*/, DWORD /*flags*/,
-                       void* /*environment*/, const char* /*folder*/, STARTUPINFOA* /*startup*/,
-                       PROCESS_INFORMATION* /*started*/) {
-  ErrorModeTest::NoteMode();
+BOOL WINAPI RecordedStart(const char* /*program*/, char* /*command_line*/, SECURITY_ATTRIBUTES* /*process*/,
+                          SECURITY_ATTRIBUTES* /*thread*/, BOOL /*inherits*/, DWORD /*flags*/,
+                          void* /*environment*/, const char* /*folder*/, STARTUPINFOA* /*startup*/,
+                          PROCESS_INFORMATION* /*started*/) {
+  ErrorModeTest::RecordMode();
   SetLastError(ERROR_FILE_NOT_FOUND);
   return FALSE;
 }
@@ -29,20 +29,20 @@ BOOL WINAPI NotedStart(const char* /*program*/, char* /*command_line*/, SECURITY
 class EmptyDriveWin32 : public ErrorModeTest {};
 
 TEST_F(EmptyDriveWin32, FolderIsChangedWithoutAskingForADisk) {
-  const Detour noted("SetCurrentDirectoryA", reinterpret_cast<const void*>(&NotedFolder));
+  const Detour noted("SetCurrentDirectoryA", reinterpret_cast<const void*>(&RecordingSetCurrentDirectory));
   EXPECT_FALSE(system.processes.SetCurrentDirectoryA("E:"));
   ExpectAskedQuietlyAndPutBack();
 }
 
 TEST_F(EmptyDriveWin32, FileIsSearchedForWithoutAskingForADisk) {
-  const Detour noted("GetFileAttributesA", reinterpret_cast<const void*>(&NotedAttributes));
+  const Detour noted("GetFileAttributesA", reinterpret_cast<const void*>(&RecordingGetFileAttributes));
   EXPECT_EQ(system.files.GetFileAttributesA("E:\\setup.exe"), os::kInvalidFileAttributes);
   ExpectAskedQuietlyAndPutBack();
 }
 
 TEST_F(EmptyDriveWin32, ProgramOnTheDriveIsNotStarted) {
-  const Detour attributes("GetFileAttributesA", reinterpret_cast<const void*>(&NotedAttributes));
-  const Detour start("CreateProcessA", reinterpret_cast<const void*>(&NotedStart));
+  const Detour attributes("GetFileAttributesA", reinterpret_cast<const void*>(&RecordingGetFileAttributes));
+  const Detour start("CreateProcessA", reinterpret_cast<const void*>(&RecordedStart));
   for (const char* const command_line : {"E:\\setup.exe", "\"E:\\Set up.exe\" /s", "  e:\\setup.exe -x"}) {
     EXPECT_EQ(system.processes.CreateProcessA(command_line), os::kErrorNotReady) << command_line;
     ExpectAskedQuietlyAndPutBack();
@@ -50,7 +50,7 @@ TEST_F(EmptyDriveWin32, ProgramOnTheDriveIsNotStarted) {
 }
 
 TEST_F(EmptyDriveWin32, ProgramIsStartedInThePreviousMode) {
-  const Detour start("CreateProcessA", reinterpret_cast<const void*>(&NotedStart));
+  const Detour start("CreateProcessA", reinterpret_cast<const void*>(&RecordedStart));
   for (const char* const command_line :
        {"C:\\windows\\qdix_none.exe", "qdix_none.exe", "Q:\\none.exe", "E", ""}) {
     ModeSeen() = 0;

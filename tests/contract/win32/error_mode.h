@@ -8,7 +8,7 @@ namespace qdix::contract {
 class ErrorModeTest : public ContractTest {
  public:
   /// Call this from the function that replaces a system function.
-  static void NoteMode() {
+  static void RecordMode() {
     ModeSeen() = SetErrorMode(0);
     SetErrorMode(ModeSeen());
   }

@@ -23,7 +23,7 @@ std::string AnswerWithFigure(std::uint32_t ask_system, std::uint32_t figure) {
 
 }  // namespace
 
-bool FakeMemory::Play(std::uint32_t available_bytes) {
+bool FakeMemory::SetAvailable(std::uint32_t available_bytes) {
   return page_.Write(kFigureOffset, MachineCode().Number(available_bytes).Text()) &&
          (is_redirected_ || Redirect());
 }

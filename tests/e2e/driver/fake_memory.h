@@ -18,7 +18,7 @@ class FakeMemory {
 
   /// Makes the program's memory status calls return this available memory from now on; all other figures stay
   /// the machine's. Returns false if the program does not import that function.
-  [[nodiscard]] bool Play(std::uint32_t available_bytes);
+  [[nodiscard]] bool SetAvailable(std::uint32_t available_bytes);
 
  private:
   [[nodiscard]] bool Redirect();

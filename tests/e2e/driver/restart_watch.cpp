@@ -9,7 +9,7 @@ namespace qdix::e2e {
 namespace {
 
 /// Stores the arguments first and counts the call last: a reader that sees the count also sees the arguments.
-std::string NoteAndAgree(std::uint32_t flags, std::uint32_t reserved, std::uint32_t count) {
+std::string RecordAndAgree(std::uint32_t flags, std::uint32_t reserved, std::uint32_t count) {
   MachineCode code;
   code.Bytes("\x8B\x44\x24\x04\xA3").Number(flags);       // eax = first argument; flags = eax
   code.Bytes("\x8B\x44\x24\x08\xA3").Number(reserved);    // eax = second argument; reserved = eax
@@ -46,8 +46,8 @@ std::uint32_t RestartWatch::ShareNotes() const {
 
 bool RestartWatch::Begin() {
   const std::uint32_t notes = ShareNotes();
-  const std::string code = NoteAndAgree(notes + offsetof(Notes, flags), notes + offsetof(Notes, reserved),
-                                        notes + offsetof(Notes, count));
+  const std::string code = RecordAndAgree(notes + offsetof(Notes, flags), notes + offsetof(Notes, reserved),
+                                          notes + offsetof(Notes, count));
   return notes != 0 && page_.Write(0, code) &&
          RedirectImport(process_, SystemFunction("user32.dll", "ExitWindowsEx"), page_.At(0));
 }

@@ -19,7 +19,7 @@ std::string PathOf(const std::string& name) {
 }
 
 /// Drops the cached contents of the profile file, which a process keeps for a while.
-void ForgetWhatWasRead() { WritePrivateProfileStringA(nullptr, nullptr, nullptr, kSystemIni); }
+void DiscardRead() { WritePrivateProfileStringA(nullptr, nullptr, nullptr, kSystemIni); }
 
 }  // namespace
 
@@ -29,11 +29,11 @@ void SetWindowsFile(const std::string& name, const std::optional<std::string>& b
   const std::string path = PathOf(name);
   SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
   SetFileBytes(path, bytes);
-  ForgetWhatWasRead();
+  DiscardRead();
 }
 
 std::optional<std::string> SystemIniText(const std::string& section, const std::string& key) {
-  ForgetWhatWasRead();
+  DiscardRead();
   std::array<char, kLongestEntry> text{};
   GetPrivateProfileStringA(section.c_str(), key.c_str(), kMissing, text.data(), text.size(), kSystemIni);
   if (std::string(text.data()) == kMissing) return std::nullopt;
@@ -42,7 +42,7 @@ std::optional<std::string> SystemIniText(const std::string& section, const std::
 
 void SetSystemIniText(const std::string& section, const std::string& key, const std::string& text) {
   WritePrivateProfileStringA(section.c_str(), key.c_str(), text.c_str(), kSystemIni);
-  ForgetWhatWasRead();
+  DiscardRead();
 }
 
 void SystemIniKeeper::PutBack() const {

@@ -14,8 +14,8 @@ constexpr const char* kMissingViewer = "Run-time error '53':\r\n\r\nFile not fou
 /// automatic releases on a machine that runs short of memory, a restarted taskbar, the close.
 void RunSession(ProgramRig& rig) {
   rig.machine.SetCpuLoad(10);
-  rig.machine.TheProcessor().SetLeaf(0, {.eax = 1});
-  rig.machine.TheProcessor().SetLeaf(1, {.eax = 0x052C, .edx = 0x10});
+  rig.machine.FakeProcessor().SetLeaf(0, {.eax = 1});
+  rig.machine.FakeProcessor().SetLeaf(1, {.eax = 0x052C, .edx = 0x10});
   rig.SetAvailableMb(1);
   rig.Start();
   if (rig.program->Window().Unloaded()) return;

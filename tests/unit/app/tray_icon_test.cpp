@@ -173,7 +173,7 @@ TEST_F(Tray, SilentNewTaskbarGetsTheIconWithinAMinute) {
   const os::WindowHandle first = rig.machine.OpenWindow("Shell_TrayWnd", "");
   rig.AdvanceMs(65000);
   rig.machine.CloseWindow(first);
-  rig.machine.ForgetTrayIcons();
+  rig.machine.ClearTrayIcons();
   rig.AdvanceMs(65000);
   EXPECT_EQ(rig.machine.TrayIconCount(), 0) << "there is no taskbar yet";
   rig.machine.OpenWindow("Shell_TrayWnd", "");
@@ -183,7 +183,7 @@ TEST_F(Tray, SilentNewTaskbarGetsTheIconWithinAMinute) {
 
 TEST_F(Tray, AnnouncedNewTaskbarGetsTheIconAtOnceAndNotTwice) {
   rig.machine.OpenWindow("Shell_TrayWnd", "");
-  rig.machine.ForgetTrayIcons();
+  rig.machine.ClearTrayIcons();
   rig.program->Tray().AddToTray();
   EXPECT_EQ(rig.machine.TrayIconCount(), 1);
   const std::size_t asked = rig.machine.TrayRequests().size();

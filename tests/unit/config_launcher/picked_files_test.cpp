@@ -53,10 +53,10 @@ TEST(ConfigDroppedFiles, FoldersAndLongPathsAreNamedAndLeftOut) {
 TEST(ConfigDroppedFiles, ShortcutBecomesItsTargetUnderItsOwnName) {
   ConfigRig rig;
   const std::string desktop = "C:\\WINDOWS\\Desktop\\";
-  rig.machine.PutShortcut(
+  rig.machine.AddShortcut(
       desktop + "My game.lnk",
       {.target = "C:\\My Games\\Big Game.exe", .arguments = "/full \"level 2\"", .folder = "D:\\Saved"});
-  rig.machine.PutShortcut(desktop + "Sums.LNK",
+  rig.machine.AddShortcut(desktop + "Sums.LNK",
                           {.target = "C:\\WINDOWS\\CALC.EXE", .arguments = {}, .folder = {}});
   rig.Start();
   rig.form->FilesDropped({desktop + "My game.lnk", desktop + "Sums.LNK"});
@@ -70,8 +70,8 @@ TEST(ConfigDroppedFiles, ShortcutsToNoProgramAreNamedAndLeftOut) {
   ConfigRig rig;
   const std::string desktop = "C:\\WINDOWS\\Desktop\\";
   rig.machine.WriteFile(desktop + "My Computer.lnk", "leads to no file");
-  rig.machine.PutShortcut(desktop + "Windows.lnk", {.target = "C:\\WINDOWS", .arguments = {}, .folder = {}});
-  rig.machine.PutShortcut(
+  rig.machine.AddShortcut(desktop + "Windows.lnk", {.target = "C:\\WINDOWS", .arguments = {}, .folder = {}});
+  rig.machine.AddShortcut(
       desktop + "Long.lnk",
       {.target = "C:\\A.EXE", .arguments = std::string(launcher::kPathWidth, 'a'), .folder = {}});
   rig.Start();
@@ -83,7 +83,7 @@ TEST(ConfigDroppedFiles, ShortcutsToNoProgramAreNamedAndLeftOut) {
 
 TEST(ConfigDroppedFiles, ShortcutThatCannotBeReadIsNamedAndLeftOut) {
   ConfigRig rig;
-  rig.machine.PutShortcut("C:\\A.lnk", {.target = "C:\\A.EXE", .arguments = {}, .folder = {}});
+  rig.machine.AddShortcut("C:\\A.lnk", {.target = "C:\\A.EXE", .arguments = {}, .folder = {}});
   rig.Start();
   rig.machine.FailNextCall("ReadShortcut");
   rig.form->FilesDropped({"C:\\A.lnk"});
@@ -122,8 +122,8 @@ TEST(ConfigDroppedFiles, NothingHappensDuringAQuestion) {
 TEST(ConfigDroppedFiles, OnlyProgramsAndShortcutsToProgramsAreAdded) {
   ConfigRig rig;
   rig.machine.SetWindowsDirectory("C:\\FOLDER.EXE");
-  rig.machine.PutShortcut("C:\\Letter.lnk", {.target = "C:\\LETTER.DOC", .arguments = {}, .folder = {}});
-  rig.machine.PutShortcut("C:\\Folder.lnk", {.target = "C:\\FOLDER.EXE", .arguments = {}, .folder = {}});
+  rig.machine.AddShortcut("C:\\Letter.lnk", {.target = "C:\\LETTER.DOC", .arguments = {}, .folder = {}});
+  rig.machine.AddShortcut("C:\\Folder.lnk", {.target = "C:\\FOLDER.EXE", .arguments = {}, .folder = {}});
   rig.Start();
   rig.form->FilesDropped({"C:\\A.EXE", "C:\\B.com", "C:\\C.Bat", "C:\\D.PIF", "C:\\READ.ME", "C:\\EXE",
                           "C:\\NOTES.TXT", "C:\\FOLDER.EXE", "C:\\Letter.lnk", "C:\\Folder.lnk"});
@@ -175,7 +175,7 @@ TEST(ConfigDroppedFiles, EndOfTheSessionDuringAQuestionEndsTheAdding) {
 
 TEST(ConfigDroppedFiles, NetworkFolderIsLeftOutAndReported) {
   ConfigRig rig;
-  rig.machine.PutShortcut("C:\\Sums.lnk",
+  rig.machine.AddShortcut("C:\\Sums.lnk",
                           {.target = "C:\\CALC.EXE", .arguments = {}, .folder = "\\\\PC\\DIR"});
   rig.Start();
   rig.form->FilesDropped({"\\\\PC\\TOOLS\\EDIT.EXE", "C:\\Sums.lnk", "C:\\A.EXE"});
@@ -187,7 +187,7 @@ TEST(ConfigDroppedFiles, NetworkFolderIsLeftOutAndReported) {
 
 TEST(ConfigDroppedFiles, FolderOfAShortcutLosesItsQuotationMarks) {
   ConfigRig rig;
-  rig.machine.PutShortcut("C:\\Sums.lnk",
+  rig.machine.AddShortcut("C:\\Sums.lnk",
                           {.target = "C:\\CALC.EXE", .arguments = {}, .folder = "\"D:\\My Sums\""});
   rig.Start();
   rig.form->FilesDropped({"C:\\Sums.lnk"});
@@ -270,7 +270,7 @@ TEST(ConfigBrowse, OkAsksAboutAPickedFileThatWasNotAdded) {
 
 TEST(ConfigBrowse, ShortcutGivesItsTarget) {
   ConfigRig rig;
-  rig.machine.PutShortcut("C:\\Game.lnk",
+  rig.machine.AddShortcut("C:\\Game.lnk",
                           {.target = "D:\\G.EXE", .arguments = "/full", .folder = "E:\\Saved"});
   rig.Start();
   rig.dialogs.PickNext("C:\\Game.lnk");

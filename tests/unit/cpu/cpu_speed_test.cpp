@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 #include "tests/support/program_rig.h"
 
 namespace qdix::tests {
@@ -46,8 +46,8 @@ class CpuSpeed : public testing::Test {
     return screen.lblCPU.Caption();
   }
 
-  ControlBench bench;
-  screens::QuondixScreen screen{bench.form};
+  FormFixture fixture;
+  screens::QuondixScreen screen{fixture.form};
   FakeProcessorInformation information;
 };
 
@@ -98,7 +98,7 @@ TEST(StripZero, GivesThePartBeforeTheFirstNulOrTheWholeText) {
 TEST(CpuSpeedAtLoad, ShowsWhatTheProcessorReports) {
   ProgramRig rig;
   rig.SetHasRunBefore();
-  auto& processor = rig.machine.TheProcessor();
+  auto& processor = rig.machine.FakeProcessor();
   processor.SetLeaf(0, {.eax = 1, .ebx = 0x756e6547, .ecx = 0x6c65746e, .edx = 0x49656e69});
   processor.SetLeaf(1, {.eax = 0x52C, .edx = 0x1BF});
   processor.SetClock(133333);
@@ -108,7 +108,7 @@ TEST(CpuSpeedAtLoad, ShowsWhatTheProcessorReports) {
 TEST(CpuSpeedAtLoad, ForbiddenCounterLeavesTheLabelEmpty) {
   ProgramRig rig;
   rig.SetHasRunBefore();
-  auto& processor = rig.machine.TheProcessor();
+  auto& processor = rig.machine.FakeProcessor();
   processor.SetLeaf(0, {.eax = 1, .ebx = 0x756e6547, .ecx = 0x6c65746e, .edx = 0x49656e69});
   processor.SetLeaf(1, {.eax = 0x52C, .edx = 0x1BF});
   processor.SetClock(0);
@@ -118,8 +118,8 @@ TEST(CpuSpeedAtLoad, ForbiddenCounterLeavesTheLabelEmpty) {
 TEST(CpuSpeedAtLoad, ProcessorWithoutACounterIsNeverMeasured) {
   ProgramRig rig;
   rig.SetHasRunBefore();
-  rig.machine.TheProcessor().SetGeneration(3);
-  rig.machine.TheProcessor().SetClock(33000);
+  rig.machine.FakeProcessor().SetGeneration(3);
+  rig.machine.FakeProcessor().SetClock(33000);
   EXPECT_EQ(rig.Start().Quondix().lblCPU.Caption(), "");
   for (const std::string& call : rig.machine.Calls()) EXPECT_FALSE(call.starts_with("CountCycles")) << call;
 }
@@ -127,7 +127,7 @@ TEST(CpuSpeedAtLoad, ProcessorWithoutACounterIsNeverMeasured) {
 TEST(CpuSpeedAtLoad, ClockIsMeasuredOnce) {
   ProgramRig rig;
   rig.SetHasRunBefore();
-  auto& processor = rig.machine.TheProcessor();
+  auto& processor = rig.machine.FakeProcessor();
   processor.SetLeaf(0, {.eax = 1, .ebx = 0x756e6547, .ecx = 0x6c65746e, .edx = 0x49656e69});
   processor.SetLeaf(1, {.eax = 0x52C, .edx = 0x1BF});
   rig.Start();
@@ -138,7 +138,7 @@ TEST(CpuSpeedAtLoad, ClockIsMeasuredBeforeTheStatisticIsStarted) {
   ProgramRig rig;
   rig.SetHasRunBefore();
   rig.machine.SetCpuLoad(10);
-  auto& processor = rig.machine.TheProcessor();
+  auto& processor = rig.machine.FakeProcessor();
   processor.SetLeaf(0, {.eax = 1, .ebx = 0x756e6547, .ecx = 0x6c65746e, .edx = 0x49656e69});
   processor.SetLeaf(1, {.eax = 0x52C, .edx = 0x1BF});
   rig.Start();

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 #include "tests/unit/help_viewer/help_rig.h"
 
 namespace qdix::tests {
@@ -75,7 +75,7 @@ TEST_F(HelpPane, NewWidthKeepsTheTopBlockAndNewHeightThePosition) {
 
 TEST_F(HelpPane, ChangeOfHeightAloneIsReportedToThePeer) {
   TopicPane& pane = Open("7");
-  NotingPeer peer;
+  RecordingPeer peer;
   pane.AttachPeer(&peer);
   pane.SurfaceChanged(&rig.device, 300, 150);
   EXPECT_EQ(peer.changes, std::vector<ui::Change>{ui::Change::kValue})

@@ -1,7 +1,7 @@
 // The release itself: blocks, passes, pumps, errors, nesting, and closing in the middle.
 #include <gtest/gtest.h>
 
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 #include "tests/support/program_rig.h"
 
 namespace qdix::tests {
@@ -94,7 +94,7 @@ class PassCount : public Release, public testing::WithParamInterface<Passes> {};
 
 TEST_P(PassCount, FollowsTheTextWithOneBarAndTheButtonDisabledAndEnabledAgain) {
   rig.graph.ClearCounts();
-  NotingPeer peer;
+  RecordingPeer peer;
   Button().AttachPeer(&peer);
   Press("12 MB", GetParam().text);
   EXPECT_EQ(rig.machine.AllAllocations().size(), GetParam().count);

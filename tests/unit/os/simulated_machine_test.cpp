@@ -383,7 +383,7 @@ TEST_F(SimulatedMachineTest, CopyOverACachedProfileFileIsMisuse) {
             0U);
   EXPECT_TRUE(system.files.CopyFileA("C:\\WINDOWS\\b.ini", "C:\\windows\\a.ini"));
   EXPECT_EQ(machine.Misuses().size(), 1U);
-  machine.ForgetMisuses();
+  machine.ClearMisuses();
 }
 
 TEST_F(SimulatedMachineTest, FullDiskTakesPartOfACopyAndNoEntryThatMakesAFileGrow) {
@@ -423,7 +423,7 @@ TEST_F(SimulatedMachineTest, PowerCutDuringTheCreationOfAFileLeavesItEmpty) {
 
 TEST_F(SimulatedMachineTest, FileHeldByAnotherProgramCannotBeOpened) {
   machine.WriteFile("C:\\WINDOWS\\A.INI", "[s]\r\nk=1\r\n");
-  machine.HoldFile("C:\\windows\\a.ini");
+  machine.LockFile("C:\\windows\\a.ini");
   std::array<char, 8> value{};
   EXPECT_EQ(system.files.CreateFileA("C:\\WINDOWS\\A.INI", kGenericRead, kOpenExisting), kInvalidFile);
   EXPECT_EQ(system.profile_files.GetPrivateProfileStringA("s", "k", "", value.data(), value.size(), "a.ini"),
@@ -433,7 +433,7 @@ TEST_F(SimulatedMachineTest, FileHeldByAnotherProgramCannotBeOpened) {
   EXPECT_FALSE(system.files.CopyFileA("C:\\WINDOWS\\A.INI", "C:\\B"));
   EXPECT_FALSE(system.files.MoveFileA("C:\\WINDOWS\\A.INI", "C:\\WINDOWS\\B.INI"));
   EXPECT_FALSE(system.files.DeleteFileA("C:\\WINDOWS\\A.INI"));
-  machine.LetGoOfFile("C:\\WINDOWS\\A.INI");
+  machine.UnlockFile("C:\\WINDOWS\\A.INI");
   EXPECT_TRUE(system.files.MoveFileA("C:\\WINDOWS\\A.INI", "C:\\WINDOWS\\B.INI"));
 }
 
@@ -450,7 +450,7 @@ TEST_F(SimulatedMachineTest, MovingACachedProfileFileIsMisuse) {
   ASSERT_TRUE(system.profile_files.WritePrivateProfileStringA("s", "k", "1", "a.ini"));
   EXPECT_TRUE(system.files.MoveFileA("C:\\WINDOWS\\a.ini", "C:\\WINDOWS\\b.ini"));
   EXPECT_EQ(machine.Misuses().size(), 1U);
-  machine.ForgetMisuses();
+  machine.ClearMisuses();
 }
 
 // Long runs.
@@ -464,7 +464,7 @@ TEST_F(SimulatedMachineTest, ForgetsRecordedCallsButNothingThatIsHeld) {
   system.dialogs.MessageBoxA("text", "title", kMbOk);
   ASSERT_TRUE(system.shell.Shell_NotifyIconA(kNimAdd, {}));
   const int calls = machine.FaultableCallCount();
-  machine.ForgetRecords();
+  machine.ClearRecords();
   EXPECT_THAT(machine.Calls(), IsEmpty());
   EXPECT_THAT(machine.WrittenValueNames(), IsEmpty());
   EXPECT_THAT(machine.AllAllocations(), IsEmpty());

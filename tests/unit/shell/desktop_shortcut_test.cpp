@@ -54,7 +54,7 @@ TEST_F(DesktopShortcutTest, ShellMakesItInTheRecentDocumentsAndItIsCopied) {
 
 TEST_F(DesktopShortcutTest, TwoPressesMakeOneShortcut) {
   Press();
-  rig.machine.PutShortcut(kOnDesktop, {.target = "D:\\Old\\QDIX.exe", .arguments = {}, .folder = {}});
+  rig.machine.AddShortcut(kOnDesktop, {.target = "D:\\Old\\QDIX.exe", .arguments = {}, .folder = {}});
   Press();
   EXPECT_EQ(TargetAt(kOnDesktop), kProgram);
   EXPECT_FALSE(rig.machine.ReadFile("C:\\WINDOWS\\Desktop\\QDIX.exe.lnk").has_value());

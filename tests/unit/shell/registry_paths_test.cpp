@@ -97,7 +97,7 @@ TEST_F(RegistryPaths, CloseOfAClosedKeyReportsTheError) {
   const std::size_t before = machine.Misuses().size();
   EXPECT_TRUE(paths.CloseSubkey(handle));
   EXPECT_EQ(machine.Misuses().size(), before + 1);
-  machine.ForgetMisuses();
+  machine.ClearMisuses();
 }
 
 TEST_F(RegistryPaths, RegDeleteRemovesOnlyTheEntryOfTheProgram) {

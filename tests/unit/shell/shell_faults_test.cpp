@@ -47,7 +47,7 @@ void UseShell(ProgramRig& rig) {
   rig.SetHasRunBefore();
   rig.machine.CreateRegistryKey(os::kHkeyLocalMachine, kRunKey);
   rig.machine.SetRegistryValue(os::kHkeyLocalMachine, kRunKey, "Other", "other.exe");
-  rig.machine.PutShortcut(kInStartUp, {.target = kProgram, .arguments = {}, .folder = {}});
+  rig.machine.AddShortcut(kInStartUp, {.target = kProgram, .arguments = {}, .folder = {}});
   rig.machine.WriteFile(kForeignShortcut, "somebody's");
   rig.machine.WriteFile(kManual, "<html>");
   rig.Start();

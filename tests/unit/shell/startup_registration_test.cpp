@@ -23,8 +23,8 @@ class StartupRegistrationTest : public testing::Test {
   [[nodiscard]] std::optional<std::string> Entry() const {
     return rig.machine.RegistryText(os::kHkeyLocalMachine, kRunKey, "Quondix");
   }
-  void PutShortcut(const char* path) {
-    rig.machine.PutShortcut(path, {.target = kProgram, .arguments = {}, .folder = {}});
+  void AddShortcut(const char* path) {
+    rig.machine.AddShortcut(path, {.target = kProgram, .arguments = {}, .folder = {}});
   }
   [[nodiscard]] bool Exists(const char* path) const { return rig.machine.ReadFile(path).has_value(); }
   void StartOnTab() { rig.Start().MainWindow().SSTab1.ChooseTab(screens::kStartupTab); }
@@ -34,7 +34,7 @@ class StartupRegistrationTest : public testing::Test {
 };
 
 TEST_F(StartupRegistrationTest, ShortcutInTheStartUpFolderCountsAndWritesTheEntry) {
-  PutShortcut(kStartUpShortcut);
+  AddShortcut(kStartUpShortcut);
   StartOnTab();
   EXPECT_TRUE(Check2().Ticked());
   EXPECT_EQ(Entry(), kProgram);
@@ -49,7 +49,7 @@ TEST_F(StartupRegistrationTest, EntryOfAnotherFolderIsRepairedAtEachStart) {
 }
 
 TEST_F(StartupRegistrationTest, WithNeitherTheBoxIsClearAndAStaleShortcutIsRemoved) {
-  PutShortcut(kStaleShortcut);
+  AddShortcut(kStaleShortcut);
   StartOnTab();
   EXPECT_FALSE(Check2().Ticked());
   EXPECT_FALSE(Exists(kStaleShortcut));
@@ -58,7 +58,7 @@ TEST_F(StartupRegistrationTest, WithNeitherTheBoxIsClearAndAStaleShortcutIsRemov
 
 TEST_F(StartupRegistrationTest, StaleShortcutStaysWhileTheProgramIsRegistered) {
   SetEntry(kProgram);
-  PutShortcut(kStaleShortcut);
+  AddShortcut(kStaleShortcut);
   StartOnTab();
   EXPECT_TRUE(Exists(kStaleShortcut));
 }
@@ -67,8 +67,8 @@ TEST_F(StartupRegistrationTest, WithoutShellFoldersTheEntryDecides) {
   rig.machine.SetSpecialFolder(os::kStartupFolder, "");
   rig.machine.SetSpecialFolder(os::kStartMenuFolder, "");
   // A path built from an empty folder would find this file.
-  PutShortcut("Quondix.lnk");
-  PutShortcut("Programs\\StartUp\\QDIX.exe.lnk");
+  AddShortcut("Quondix.lnk");
+  AddShortcut("Programs\\StartUp\\QDIX.exe.lnk");
   StartOnTab();
   EXPECT_FALSE(Check2().Ticked());
   EXPECT_TRUE(Exists("Programs\\StartUp\\QDIX.exe.lnk"));
@@ -78,8 +78,8 @@ TEST_F(StartupRegistrationTest, TickWritesTheBarePathAndClearingRemovesEverythin
   StartOnTab();
   Check2().Press();
   EXPECT_EQ(Entry(), kProgram);
-  PutShortcut(kStartUpShortcut);
-  PutShortcut(kStaleShortcut);
+  AddShortcut(kStartUpShortcut);
+  AddShortcut(kStaleShortcut);
   Check2().Press();
   EXPECT_EQ(Entry(), std::nullopt);
   EXPECT_FALSE(Exists(kStartUpShortcut));
@@ -106,7 +106,7 @@ TEST_F(StartupRegistrationTest, EntryNotRemovedAtFirstIsRemovedAtTheSecondTry) {
 TEST_F(StartupRegistrationTest, ClearingRemovesTheShortcutWithTheProgramsFileName) {
   rig.machine.SetModuleFileName("C:\\RAM\\MEMORY.EXE");
   SetEntry("C:\\RAM\\MEMORY.exe");
-  PutShortcut("C:\\WINDOWS\\Start Menu\\Programs\\StartUp\\MEMORY.exe.lnk");
+  AddShortcut("C:\\WINDOWS\\Start Menu\\Programs\\StartUp\\MEMORY.exe.lnk");
   StartOnTab();
   EXPECT_EQ(Entry(), "C:\\RAM\\MEMORY.exe");
   Check2().Press();

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "os/simulated/simulated_machine.h"
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 
 namespace qdix::tests {
 namespace {
@@ -26,8 +26,8 @@ class DriveInfo : public testing::Test {
 
   os::SimulatedMachine machine;
   tuning::DriveInfo info{machine.GetSystem().drives};
-  ControlBench bench;
-  ui::DropDownList list{bench.form, {.name = "list"}};
+  FormFixture fixture;
+  ui::DropDownList list{fixture.form, {.name = "list"}};
 };
 
 TEST_F(DriveInfo, ExtendedQueryIsProbedOnDriveC) {

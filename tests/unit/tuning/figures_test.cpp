@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 #include "tests/support/tuning_rig.h"
 #include "tuning/cache/cache_presets.h"
 
@@ -187,8 +187,8 @@ TEST(DriveFigures, RootsAreCutToThreeCapitalsAndShowTheTotalFreeSpace) {
   OddDrives drives;
   tuning::DriveInfo info(drives);
   info.SetUseDiskFreeSpaceEx(true);
-  ControlBench bench;
-  ui::DropDownList list(bench.form, {.name = "list"});
+  FormFixture fixture;
+  ui::DropDownList list(fixture.form, {.name = "list"});
   info.FillDriveCombo(list);
   EXPECT_THAT(drives.asked, ElementsAre("C:\\", "D:\\"));
   ASSERT_EQ(list.Count(), 2);

@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 
 namespace qdix::tests {
 namespace {
@@ -28,11 +28,11 @@ class FocusHandlers : public testing::Test {
     left.SetFocus();
   }
 
-  ControlBench bench;
-  ui::TabStrip strip{bench.form, {.name = "Strip"}, kPages};
+  FormFixture fixture;
+  ui::TabStrip strip{fixture.form, {.name = "Strip"}, kPages};
   ui::TextBox left{strip.Page(0), {.name = "Left"}};
-  ui::Button target{bench.form, {.name = "Target"}};
-  ui::Button other{bench.form, {.name = "Other"}};
+  ui::Button target{fixture.form, {.name = "Target"}};
+  ui::Button other{fixture.form, {.name = "Other"}};
   Handled lost;
   Handled got;
   Handled target_lost;
@@ -42,21 +42,21 @@ class FocusHandlers : public testing::Test {
 };
 
 TEST_F(FocusHandlers, TakingTheFocusFromAllControlsValidatesAndNotifiesTheOldControl) {
-  EXPECT_TRUE(bench.form.MoveFocus(nullptr));
-  EXPECT_EQ(bench.form.Focused(), nullptr);
+  EXPECT_TRUE(fixture.form.MoveFocus(nullptr));
+  EXPECT_EQ(fixture.form.Focused(), nullptr);
   EXPECT_EQ(validations, 1);
   EXPECT_EQ(lost.count, 1);
 }
 
 TEST_F(FocusHandlers, UnreachableControlRefusesAndTheFocusStays) {
   target.SetEnabled(false);
-  EXPECT_FALSE(bench.form.MoveFocus(&target));
+  EXPECT_FALSE(fixture.form.MoveFocus(&target));
   EXPECT_TRUE(left.HasFocus());
   EXPECT_EQ(validations, 0);
 }
 
 TEST_F(FocusHandlers, GotFocusNotifiesThePeerBeforeTheHandlerRuns) {
-  NotingPeer peer;
+  RecordingPeer peer;
   target.AttachPeer(&peer);
   got.action = [&] { EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kFocus})); };
   target.SetFocus();
@@ -65,7 +65,7 @@ TEST_F(FocusHandlers, GotFocusNotifiesThePeerBeforeTheHandlerRuns) {
 
 TEST_F(FocusHandlers, ValidationCannotSendTheFocusToAThirdControl) {
   on_validate = [&] { other.SetFocus(); };
-  EXPECT_TRUE(bench.form.MoveFocus(&target));
+  EXPECT_TRUE(fixture.form.MoveFocus(&target));
   EXPECT_TRUE(target.HasFocus());
   EXPECT_EQ(validations, 1) << "not validated again from inside";
   EXPECT_EQ(lost.count, 1);
@@ -73,46 +73,46 @@ TEST_F(FocusHandlers, ValidationCannotSendTheFocusToAThirdControl) {
 
 TEST_F(FocusHandlers, ValidationThatDisablesTheTargetLeavesNoFocus) {
   on_validate = [&] { target.SetEnabled(false); };
-  EXPECT_FALSE(bench.form.MoveFocus(&target));
-  EXPECT_EQ(bench.form.Focused(), nullptr);
+  EXPECT_FALSE(fixture.form.MoveFocus(&target));
+  EXPECT_EQ(fixture.form.Focused(), nullptr);
   EXPECT_EQ(lost.count, 1);
   EXPECT_EQ(got.count, 0);
 }
 
 TEST_F(FocusHandlers, ValidationThatClosesItsOwnPageLosesTheFocusOnce) {
   on_validate = [&] { EXPECT_TRUE(strip.SetTab(1).Ok()); };
-  EXPECT_TRUE(bench.form.MoveFocus(&target));
+  EXPECT_TRUE(fixture.form.MoveFocus(&target));
   EXPECT_EQ(lost.count, 1);
   EXPECT_TRUE(target.HasFocus());
 }
 
 TEST_F(FocusHandlers, RefusingControlThatClosedItsOwnPageDoesNotGetTheFocusBack) {
-  NotingPeer peer;
+  RecordingPeer peer;
   left.AttachPeer(&peer);
   answer = false;
   on_validate = [&] { EXPECT_TRUE(strip.SetTab(1).Ok()); };
-  EXPECT_TRUE(bench.form.MoveFocus(&target));
+  EXPECT_TRUE(fixture.form.MoveFocus(&target));
   EXPECT_TRUE(peer.changes.empty());
   EXPECT_TRUE(target.HasFocus());
 }
 
 TEST_F(FocusHandlers, LostFocusMaySendTheFocusElsewhere) {
   lost.action = [&] { other.SetFocus(); };
-  EXPECT_FALSE(bench.form.MoveFocus(&target));
+  EXPECT_FALSE(fixture.form.MoveFocus(&target));
   EXPECT_TRUE(other.HasFocus());
   EXPECT_EQ(got.count, 0);
 }
 
 TEST_F(FocusHandlers, LostFocusMaySendTheFocusWhereItIsGoingAnyway) {
   lost.action = [&] { target.SetFocus(); };
-  EXPECT_TRUE(bench.form.MoveFocus(&target));
+  EXPECT_TRUE(fixture.form.MoveFocus(&target));
   EXPECT_TRUE(target.HasFocus());
   EXPECT_EQ(got.count, 1);
 }
 
 TEST_F(FocusHandlers, ControlWhosePageClosesMaySendTheFocusElsewhere) {
   lost.action = [&] {
-    EXPECT_EQ(bench.form.Focused(), nullptr);
+    EXPECT_EQ(fixture.form.Focused(), nullptr);
     other.SetFocus();
   };
   EXPECT_TRUE(strip.SetTab(1).Ok());
@@ -122,28 +122,28 @@ TEST_F(FocusHandlers, ControlWhosePageClosesMaySendTheFocusElsewhere) {
 
 TEST_F(FocusHandlers, GotFocusMaySendTheFocusOn) {
   got.action = [&] { other.SetFocus(); };
-  EXPECT_FALSE(bench.form.MoveFocus(&target));
+  EXPECT_FALSE(fixture.form.MoveFocus(&target));
   EXPECT_TRUE(other.HasFocus());
   EXPECT_EQ(target_lost.count, 1);
 }
 
 TEST_F(FocusHandlers, ValidationThatUnloadsTheFormEndsTheMove) {
-  on_validate = [&] { bench.form.Unload(); };
-  EXPECT_FALSE(bench.form.MoveFocus(&target));
+  on_validate = [&] { fixture.form.Unload(); };
+  EXPECT_FALSE(fixture.form.MoveFocus(&target));
   EXPECT_EQ(lost.count, 0);
   EXPECT_EQ(got.count, 0);
   EXPECT_FALSE(target.HasFocus());
 }
 
 TEST_F(FocusHandlers, NothingIsValidatedAfterUnload) {
-  bench.form.Unload();
-  EXPECT_TRUE(bench.form.MoveFocus(nullptr));
+  fixture.form.Unload();
+  EXPECT_TRUE(fixture.form.MoveFocus(nullptr));
   EXPECT_EQ(validations, 0);
   EXPECT_EQ(lost.count, 0);
 }
 
 TEST_F(FocusHandlers, FocusOfAReachableControlIsNotDropped) {
-  bench.form.DropUnreachableFocus();
+  fixture.form.DropUnreachableFocus();
   EXPECT_TRUE(left.HasFocus());
   EXPECT_EQ(lost.count, 0);
 }
@@ -165,7 +165,7 @@ TEST_F(FocusHandlers, TabChosenByTheUserValidatesBeforeThePageChanges) {
 }
 
 TEST_F(FocusHandlers, RefusedTabTellsThePeerOfTheStripToGoBack) {
-  NotingPeer peer;
+  RecordingPeer peer;
   strip.AttachPeer(&peer);
   answer = false;
   strip.ChooseTab(1);
@@ -187,7 +187,7 @@ TEST_F(FocusHandlers, TabOfADisabledStripCannotBeChosen) {
 }
 
 TEST_F(FocusHandlers, TabIsNotChosenWhenValidationUnloadsTheForm) {
-  on_validate = [&] { bench.form.Unload(); };
+  on_validate = [&] { fixture.form.Unload(); };
   strip.ChooseTab(1);
   EXPECT_EQ(strip.Tab(), 0);
 }

@@ -1,7 +1,7 @@
 // Form, focus, dispatcher, timers.
 #include <gtest/gtest.h>
 
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 #include "tests/support/stepped_timers.h"
 
 namespace qdix::tests {
@@ -21,9 +21,9 @@ class FormRules : public testing::Test {
     box.OnLostFocus = lost.Handler();
     button.OnGotFocus = got.Handler();
   }
-  ControlBench bench;
-  ui::TextBox box{bench.form, {.name = "Text"}};
-  ui::Button button{bench.form, {.name = "Button"}};
+  FormFixture fixture;
+  ui::TextBox box{fixture.form, {.name = "Text"}};
+  ui::Button button{fixture.form, {.name = "Button"}};
   Handled lost;
   Handled got;
   base::Result<bool> answer = true;
@@ -52,7 +52,7 @@ TEST_F(FormRules, WindowShownByOthersActivatesLikeTheFormsOwnAndIsLeftAlone) {
   ui::EventDispatcher events;
   ui::Form form(events, {.name = "Form"});
   ui::Button inside{form, {.name = "Inside"}};
-  NotingPeer peer;
+  RecordingPeer peer;
   Handled activated;
   form.AttachPeer(&peer);
   form.OnActivate = activated.Handler();
@@ -78,17 +78,17 @@ TEST_F(FormRules, ImmediateUnloadOvertakesAnUnloadDelayedByItsHandler) {
   Handled unloading;
   unloading.action = [&] {
     if (unloading.count > 1) return;
-    bench.form.Unload();
-    EXPECT_FALSE(bench.form.Unloaded()) << "the handler of the unload is still running";
-    bench.form.UnloadAtOnce();
-    EXPECT_TRUE(bench.form.Unloaded());
+    fixture.form.Unload();
+    EXPECT_FALSE(fixture.form.Unloaded()) << "the handler of the unload is still running";
+    fixture.form.UnloadAtOnce();
+    EXPECT_TRUE(fixture.form.Unloaded());
   };
   unloading.answer = base::kDivisionByZero;
-  bench.form.OnUnload = unloading.Handler();
-  bench.form.Unload();
+  fixture.form.OnUnload = unloading.Handler();
+  fixture.form.Unload();
   EXPECT_EQ(unloading.count, 2);
-  EXPECT_EQ(bench.errors.size(), 1U) << "the first unload ended after the stop";
-  bench.form.UnloadAtOnce();
+  EXPECT_EQ(fixture.errors.size(), 1U) << "the first unload ended after the stop";
+  fixture.form.UnloadAtOnce();
   EXPECT_EQ(unloading.count, 2);
 }
 
@@ -108,26 +108,26 @@ class Refusal {
 TEST_F(FormRules, ClosingAsksAndUnloadingDoesNot) {
   Refusal refusal;
   Handled unloaded;
-  bench.form.OnUnload = unloaded.Handler();
-  bench.form.OnQueryClose = refusal.Handler();
-  bench.form.Close();
+  fixture.form.OnUnload = unloaded.Handler();
+  fixture.form.OnQueryClose = refusal.Handler();
+  fixture.form.Close();
   EXPECT_EQ(refusal.count, 1);
-  EXPECT_FALSE(bench.form.Unloaded());
+  EXPECT_FALSE(fixture.form.Unloaded());
   refusal.answer = true;
-  bench.form.Close();
-  EXPECT_TRUE(bench.form.Unloaded());
+  fixture.form.Close();
+  EXPECT_TRUE(fixture.form.Unloaded());
   EXPECT_EQ(unloaded.count, 1);
-  bench.form.Close();
+  fixture.form.Close();
   EXPECT_EQ(refusal.count, 2) << "the form was asked after the end";
-  ControlBench other;
+  FormFixture other;
   other.form.Close();
   EXPECT_TRUE(other.form.Unloaded()) << "there is no handler to ask";
 }
 
 TEST_F(FormRules, ShowingAShownFormBringsItsWindowToTheFront) {
-  NotingPeer peer;
-  bench.form.AttachPeer(&peer);
-  bench.form.Show();
+  RecordingPeer peer;
+  fixture.form.AttachPeer(&peer);
+  fixture.form.Show();
   EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kVisible}));
 }
 
@@ -142,11 +142,11 @@ TEST_F(FormRules, LeavingFocusIsValidatedBeforeItIsLost) {
 }
 
 TEST_F(FormRules, RefusingKeepsTheFocusAndTellsTheWindow) {
-  NotingPeer peer;
+  RecordingPeer peer;
   box.SetFocus();
   box.AttachPeer(&peer);
   answer = false;
-  EXPECT_FALSE(bench.form.MoveFocus(&button));
+  EXPECT_FALSE(fixture.form.MoveFocus(&button));
   EXPECT_TRUE(box.HasFocus());
   EXPECT_EQ(lost.count, 0);
   EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kFocus}));
@@ -155,15 +155,15 @@ TEST_F(FormRules, RefusingKeepsTheFocusAndTellsTheWindow) {
 TEST_F(FormRules, HandlerThatPutsTheFocusBackKeepsIt) {
   box.SetFocus();
   on_validate = [&] { box.SetFocus(); };
-  EXPECT_FALSE(bench.form.MoveFocus(&button));
+  EXPECT_FALSE(fixture.form.MoveFocus(&button));
   EXPECT_TRUE(box.HasFocus());
 }
 
 TEST_F(FormRules, ValidationErrorIsReportedAndLetsTheFocusGo) {
   box.SetFocus();
   answer = base::kPathNotFound;
-  EXPECT_TRUE(bench.form.MoveFocus(&button));
-  EXPECT_EQ(bench.errors, (std::vector<int>{76}));
+  EXPECT_TRUE(fixture.form.MoveFocus(&button));
+  EXPECT_EQ(fixture.errors, (std::vector<int>{76}));
 }
 
 TEST_F(FormRules, FocusOnItselfValidatesNothing) {
@@ -178,31 +178,31 @@ TEST_F(FormRules, UnloadRunsItsHandlerOnceAndThenNoOther) {
   box.OnChange = changed.Handler();
   unloaded.action = [&] {
     box.SetText("saved");
-    bench.form.Unload();
+    fixture.form.Unload();
   };
-  bench.form.OnUnload = unloaded.Handler();
-  bench.form.Unload();
-  bench.form.Unload();
+  fixture.form.OnUnload = unloaded.Handler();
+  fixture.form.Unload();
+  fixture.form.Unload();
   EXPECT_EQ(unloaded.count, 1);
   EXPECT_EQ(changed.count, 1);
-  EXPECT_TRUE(bench.form.Unloaded());
+  EXPECT_TRUE(fixture.form.Unloaded());
   box.SetText("later");
   EXPECT_EQ(changed.count, 1);
-  bench.form.Show();
-  EXPECT_EQ(bench.errors.size(), 0U);
+  fixture.form.Show();
+  EXPECT_EQ(fixture.errors.size(), 0U);
 }
 
 TEST_F(FormRules, ErrorsAfterUnloadAreDropped) {
   Handled failing;
   failing.answer = base::kOverflow;
-  failing.action = [&] { bench.form.Unload(); };
+  failing.action = [&] { fixture.form.Unload(); };
   button.OnClick = failing.Handler();
   button.Press();
   EXPECT_EQ(failing.count, 1);
-  EXPECT_TRUE(bench.errors.empty());
+  EXPECT_TRUE(fixture.errors.empty());
 }
 
-class NotingFormPeer final : public ui::FormPeer {
+class RecordingFormPeer final : public ui::FormPeer {
  public:
   void PopUp(ui::MenuItem& menu) override { shown.push_back(&menu); }
   void FormUnloaded() override { ++unloads; }
@@ -211,16 +211,16 @@ class NotingFormPeer final : public ui::FormPeer {
 };
 
 TEST_F(FormRules, PeerIsNotifiedOfTheUnloadOnceAndAfterTheHandler) {
-  NotingFormPeer peer;
-  bench.form.AttachFormPeer(&peer);
+  RecordingFormPeer peer;
+  fixture.form.AttachFormPeer(&peer);
   Handled unloaded;
   unloaded.action = [&] {
     EXPECT_EQ(peer.unloads, 0);
-    EXPECT_FALSE(bench.form.Unloaded());
+    EXPECT_FALSE(fixture.form.Unloaded());
   };
-  bench.form.OnUnload = unloaded.Handler();
-  bench.form.Unload();
-  bench.form.Unload();
+  fixture.form.OnUnload = unloaded.Handler();
+  fixture.form.Unload();
+  fixture.form.Unload();
   EXPECT_EQ(unloaded.count, 1);
   EXPECT_EQ(peer.unloads, 1);
 }
@@ -228,42 +228,42 @@ TEST_F(FormRules, PeerIsNotifiedOfTheUnloadOnceAndAfterTheHandler) {
 TEST_F(FormRules, FailingUnloadHandlerStillUnloads) {
   Handled unloaded;
   unloaded.answer = base::kPathNotFound;
-  bench.form.OnUnload = unloaded.Handler();
-  bench.form.Unload();
-  EXPECT_TRUE(bench.form.Unloaded());
-  EXPECT_EQ(bench.errors, (std::vector<int>{76}));
+  fixture.form.OnUnload = unloaded.Handler();
+  fixture.form.Unload();
+  EXPECT_TRUE(fixture.form.Unloaded());
+  EXPECT_EQ(fixture.errors, (std::vector<int>{76}));
 }
 
 TEST_F(FormRules, MenuPopsUpAtThePeerUntilTheFormUnloaded) {
-  NotingFormPeer peer;
-  ui::MenuItem menu(bench.events, "menu", "Menu");
-  bench.form.PopUpMenu(menu);
-  bench.form.AttachFormPeer(&peer);
-  bench.form.PopUpMenu(menu);
+  RecordingFormPeer peer;
+  ui::MenuItem menu(fixture.events, "menu", "Menu");
+  fixture.form.PopUpMenu(menu);
+  fixture.form.AttachFormPeer(&peer);
+  fixture.form.PopUpMenu(menu);
   EXPECT_EQ(peer.shown, (std::vector<ui::MenuItem*>{&menu}));
-  bench.form.Unload();
-  bench.form.PopUpMenu(menu);
+  fixture.form.Unload();
+  fixture.form.PopUpMenu(menu);
   EXPECT_EQ(peer.shown.size(), 1U);
 }
 
 TEST_F(FormRules, UnloadedFormIsNeitherShownNorMinimised) {
   Handled activated;
-  bench.form.Hide();
-  bench.form.OnActivate = activated.Handler();
-  bench.form.Unload();
-  bench.form.Show();
-  bench.form.SetState(ui::WindowState::kMinimised);
-  EXPECT_FALSE(bench.form.Shown());
-  EXPECT_EQ(bench.form.State(), ui::WindowState::kNormal);
+  fixture.form.Hide();
+  fixture.form.OnActivate = activated.Handler();
+  fixture.form.Unload();
+  fixture.form.Show();
+  fixture.form.SetState(ui::WindowState::kMinimised);
+  EXPECT_FALSE(fixture.form.Shown());
+  EXPECT_EQ(fixture.form.State(), ui::WindowState::kNormal);
 }
 
 TEST_F(FormRules, PeerIsNotifiedOfAStateFromCodeNotFromTheUser) {
-  NotingPeer peer;
-  bench.form.AttachPeer(&peer);
-  bench.form.SetState(ui::WindowState::kMinimised);
-  bench.form.SetState(ui::WindowState::kMinimised);
-  bench.form.UserChangedState(ui::WindowState::kNormal);
-  EXPECT_EQ(bench.form.State(), ui::WindowState::kNormal);
+  RecordingPeer peer;
+  fixture.form.AttachPeer(&peer);
+  fixture.form.SetState(ui::WindowState::kMinimised);
+  fixture.form.SetState(ui::WindowState::kMinimised);
+  fixture.form.UserChangedState(ui::WindowState::kNormal);
+  EXPECT_EQ(fixture.form.State(), ui::WindowState::kNormal);
   EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kWindowState}));
 }
 
@@ -277,19 +277,19 @@ struct PointerLog {
 
 TEST_F(FormRules, PointerPositionArrivesWithButtonAndShift) {
   PointerLog log;
-  bench.form.OnMouseMove =
+  fixture.form.OnMouseMove =
       base::Callback<base::Status(int, int, double, double)>::To<&PointerLog::Moved>(log);
-  bench.form.PointerMoved(1, 2, 7725, -15);
+  fixture.form.PointerMoved(1, 2, 7725, -15);
   EXPECT_EQ(log.numbers, (std::vector<double>{1, 2, 7725, -15}));
 }
 
 TEST_F(FormRules, TimersKeepTickingWhileTheFormIsHidden) {
   SteppedTimers clock;
-  ui::Timer timer(bench.events, "Timer", 100, true);
+  ui::Timer timer(fixture.events, "Timer", 100, true);
   Handled ticked;
   timer.OnTimer = ticked.Handler();
   clock.Add(timer);
-  bench.form.Hide();
+  fixture.form.Hide();
   clock.AdvanceMs(300);
   EXPECT_EQ(ticked.count, 3);
 }
@@ -300,10 +300,10 @@ class Timers : public testing::Test {
     clock.Add(timer);
     timer.OnTimer = ticked.Handler();
   }
-  ControlBench bench;
+  FormFixture fixture;
   SteppedTimers clock;
   Handled ticked;
-  ui::Timer timer{bench.events, "Timer", 1000, false};
+  ui::Timer timer{fixture.events, "Timer", 1000, false};
 };
 
 TEST_F(Timers, TickAfterEachFullIntervalWhileEnabled) {
@@ -367,7 +367,7 @@ TEST_F(Timers, TicksDueInsideTheOwnHandlerAreLost) {
 }
 
 TEST_F(Timers, OtherTimersTickInsideAHandler) {
-  ui::Timer other(bench.events, "Other", 110, true);
+  ui::Timer other(fixture.events, "Other", 110, true);
   Handled other_ticked;
   other.OnTimer = other_ticked.Handler();
   clock.Add(other);
@@ -398,7 +398,7 @@ TEST_F(Timers, FailingHandlerIsReportedAndTheTimerContinues) {
   ticked.answer = base::kOverflow;
   timer.SetEnabled(true);
   clock.AdvanceMs(2000);
-  EXPECT_EQ(bench.errors, (std::vector<int>{6, 6}));
+  EXPECT_EQ(fixture.errors, (std::vector<int>{6, 6}));
 }
 
 TEST_F(Timers, LongestIntervalIsAccepted) {
@@ -436,7 +436,7 @@ TEST_F(Timers, PeerIsNotifiedOfEachRestartAndEachStop) {
 
 TEST_F(Timers, NothingTicksAfterTheFormUnloaded) {
   timer.SetEnabled(true);
-  bench.form.Unload();
+  fixture.form.Unload();
   clock.AdvanceMs(10000);
   EXPECT_EQ(ticked.count, 0);
 }

@@ -1,64 +1,64 @@
 // Resizable forms, Enter and Esc when no button takes them, and controls that move.
 #include <gtest/gtest.h>
 
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 
 namespace qdix::tests {
 namespace {
 
 TEST(FormSize, OnlyAFormWithAMinimumSizeIsResizable) {
-  ControlBench bench;
-  EXPECT_FALSE(bench.form.IsResizable());
-  const ui::Form resizable(bench.events, {.name = "Form", .place = {0, 0, 200, 100}},
+  FormFixture fixture;
+  EXPECT_FALSE(fixture.form.IsResizable());
+  const ui::Form resizable(fixture.events, {.name = "Form", .place = {0, 0, 200, 100}},
                            {.width = 50, .height = 40});
   EXPECT_TRUE(resizable.IsResizable());
   EXPECT_EQ(resizable.Smallest().height, 40);
 }
 
 TEST(FormSize, NewSizeUpdatesThePlaceAndRunsTheHandlerOnce) {
-  ControlBench bench;
+  FormFixture fixture;
   Handled resized;
-  bench.form.OnResize = resized.Handler();
-  bench.form.UserResized({.width = 300, .height = 200});
-  EXPECT_EQ(bench.form.GetPlace(), (ui::Place{0, 0, 300, 200}));
+  fixture.form.OnResize = resized.Handler();
+  fixture.form.UserResized({.width = 300, .height = 200});
+  EXPECT_EQ(fixture.form.GetPlace(), (ui::Place{0, 0, 300, 200}));
   EXPECT_EQ(resized.count, 1);
-  bench.form.UserResized({.width = 300, .height = 200});
+  fixture.form.UserResized({.width = 300, .height = 200});
   EXPECT_EQ(resized.count, 1) << "the form already has that size";
 }
 
 TEST(FormSize, OnlyBoundsFromCodeReachThePeer) {
-  ControlBench bench;
-  NotingPeer peer;
-  bench.form.AttachPeer(&peer);
-  EXPECT_EQ(bench.form.Bounds(), std::nullopt);
-  bench.form.UserMoved({.left = 1, .top = 2, .width = 3, .height = 4});
-  EXPECT_EQ(bench.form.Bounds(), (ui::WindowBounds{1, 2, 3, 4}));
+  FormFixture fixture;
+  RecordingPeer peer;
+  fixture.form.AttachPeer(&peer);
+  EXPECT_EQ(fixture.form.Bounds(), std::nullopt);
+  fixture.form.UserMoved({.left = 1, .top = 2, .width = 3, .height = 4});
+  EXPECT_EQ(fixture.form.Bounds(), (ui::WindowBounds{1, 2, 3, 4}));
   EXPECT_TRUE(peer.changes.empty());
-  bench.form.SetBounds({.left = 5, .top = 6, .width = 7, .height = 8});
+  fixture.form.SetBounds({.left = 5, .top = 6, .width = 7, .height = 8});
   EXPECT_EQ(peer.changes, std::vector<ui::Change>{ui::Change::kBounds});
-  bench.form.AttachPeer(nullptr);
+  fixture.form.AttachPeer(nullptr);
 }
 
 TEST(FormSize, MaximisedFormCanBeReached) {
-  ControlBench bench;
-  ui::Button button(bench.form, {.name = "Command1"});
-  bench.form.UserChangedState(ui::WindowState::kMaximised);
+  FormFixture fixture;
+  ui::Button button(fixture.form, {.name = "Command1"});
+  fixture.form.UserChangedState(ui::WindowState::kMaximised);
   EXPECT_TRUE(button.Reachable());
 }
 
 TEST(FormSize, EscRunsItsHandler) {
-  ControlBench bench;
+  FormFixture fixture;
   Handled escaped;
-  bench.form.PressEscape();
-  bench.form.OnEscape = escaped.Handler();
-  bench.form.PressEscape();
+  fixture.form.PressEscape();
+  fixture.form.OnEscape = escaped.Handler();
+  fixture.form.PressEscape();
   EXPECT_EQ(escaped.count, 1);
 }
 
 TEST(FormSize, MovedControlNotifiesItsPeerOnce) {
-  ControlBench bench;
-  ui::Button button(bench.form, {.name = "Command1", .place = {1, 2, 3, 4}});
-  NotingPeer peer;
+  FormFixture fixture;
+  ui::Button button(fixture.form, {.name = "Command1", .place = {1, 2, 3, 4}});
+  RecordingPeer peer;
   button.AttachPeer(&peer);
   button.SetPlace({1, 2, 3, 4});
   EXPECT_TRUE(peer.changes.empty());
@@ -68,8 +68,8 @@ TEST(FormSize, MovedControlNotifiesItsPeerOnce) {
 }
 
 TEST(FormSize, EnterInATextBoxRunsItsHandlerIfTheUserCanReachIt) {
-  ControlBench bench;
-  ui::TextBox box(bench.form, {.name = "Text1"});
+  FormFixture fixture;
+  ui::TextBox box(fixture.form, {.name = "Text1"});
   Handled entered;
   box.OnEnter = entered.Handler();
   box.PressEnter();
@@ -77,7 +77,7 @@ TEST(FormSize, EnterInATextBoxRunsItsHandlerIfTheUserCanReachIt) {
   box.SetEnabled(false);
   box.PressEnter();
   EXPECT_EQ(entered.count, 1);
-  ui::Label label(bench.form, {.name = "Label1"});
+  ui::Label label(fixture.form, {.name = "Label1"});
   label.PressEnter();
   EXPECT_EQ(entered.count, 1);
 }

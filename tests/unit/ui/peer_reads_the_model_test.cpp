@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/meter3.h"
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 #include "ui/timer.h"
 
 namespace qdix::tests {
@@ -24,11 +24,11 @@ using Seen = std::vector<std::string>;
 
 class PeerReadsTheModel : public testing::Test {
  protected:
-  ControlBench bench;
+  FormFixture fixture;
 };
 
 TEST_F(PeerReadsTheModel, CommonPropertiesOfControls) {
-  ui::Label label(bench.form, {.name = "Label", .caption = "old", .place = {1, 1, 1, 1}});
+  ui::Label label(fixture.form, {.name = "Label", .caption = "old", .place = {1, 1, 1, 1}});
   ReadingPeer peer([&label] {
     return label.Caption() + (label.Enabled() ? " enabled" : " disabled") +
            (label.Visible() ? " shown " : " hidden ") + std::to_string(label.BackColour()) + " " +
@@ -46,9 +46,9 @@ TEST_F(PeerReadsTheModel, CommonPropertiesOfControls) {
 }
 
 TEST_F(PeerReadsTheModel, ValuesOfBoxesAndOptions) {
-  ui::CheckBox box(bench.form, {.name = "Box"});
-  ui::OptionButton one(bench.form, {.name = "One"});
-  ui::OptionButton other(bench.form, {.name = "Other"});
+  ui::CheckBox box(fixture.form, {.name = "Box"});
+  ui::OptionButton one(fixture.form, {.name = "One"});
+  ui::OptionButton other(fixture.form, {.name = "Other"});
   ReadingPeer box_peer([&box] { return std::to_string(box.Value()); });
   const auto selected = [&one, &other] {
     return std::string(one.Selected() ? "one" : "-") + (other.Selected() ? "other" : "-");
@@ -68,7 +68,7 @@ TEST_F(PeerReadsTheModel, ValuesOfBoxesAndOptions) {
 }
 
 TEST_F(PeerReadsTheModel, TextAndSelectionOfATextBox) {
-  ui::TextBox box(bench.form, {.name = "Text"}, 5);
+  ui::TextBox box(fixture.form, {.name = "Text"}, 5);
   box.SetText("old");
   box.SelectAll();
   ReadingPeer peer([&box] {
@@ -84,7 +84,7 @@ TEST_F(PeerReadsTheModel, TextAndSelectionOfATextBox) {
 }
 
 TEST_F(PeerReadsTheModel, RowsAndSelectionOfAList) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   ReadingPeer peer(
       [&list] { return std::to_string(list.Count()) + " " + std::to_string(list.SelectedIndex()); });
   list.AttachPeer(&peer);
@@ -96,7 +96,7 @@ TEST_F(PeerReadsTheModel, RowsAndSelectionOfAList) {
 }
 
 TEST_F(PeerReadsTheModel, TextOfAComboWhoseRowWasChosen) {
-  ui::DropDownCombo combo(bench.form, {.name = "Combo"});
+  ui::DropDownCombo combo(fixture.form, {.name = "Combo"});
   combo.AddItem("a");
   combo.AddItem("b");
   combo.SetText("a");
@@ -114,7 +114,7 @@ TEST_F(PeerReadsTheModel, TextOfAComboWhoseRowWasChosen) {
 }
 
 TEST_F(PeerReadsTheModel, ValueAndRangeOfAScrollBar) {
-  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 0, .maximum = 10});
+  ui::VerticalScrollBar bar(fixture.form, {.name = "Bar"}, {.minimum = 0, .maximum = 10});
   ReadingPeer peer([&bar] {
     return std::to_string(bar.Value()) + " of " + std::to_string(bar.Minimum()) + "-" +
            std::to_string(bar.Maximum());
@@ -129,7 +129,7 @@ TEST_F(PeerReadsTheModel, ValueAndRangeOfAScrollBar) {
 }
 
 TEST_F(PeerReadsTheModel, RangeOfASliderWithEitherEndMoved) {
-  ui::Slider slider(bench.form, {.name = "Slider"}, {.minimum = 0, .maximum = 10, .value = 5});
+  ui::Slider slider(fixture.form, {.name = "Slider"}, {.minimum = 0, .maximum = 10, .value = 5});
   ReadingPeer peer([&slider] {
     return std::to_string(slider.Value()) + " of " + std::to_string(slider.Minimum()) + "-" +
            std::to_string(slider.Maximum());
@@ -145,7 +145,7 @@ TEST_F(PeerReadsTheModel, RangeOfASliderWithEitherEndMoved) {
 
 TEST_F(PeerReadsTheModel, OpenTab) {
   constexpr ui::Design kPages[] = {{.name = "One"}, {.name = "Two"}};
-  ui::TabStrip strip(bench.form, {.name = "Tabs"}, kPages);
+  ui::TabStrip strip(fixture.form, {.name = "Tabs"}, kPages);
   ReadingPeer peer([&strip] { return std::to_string(strip.Tab()); });
   strip.AttachPeer(&peer);
   EXPECT_TRUE(strip.SetTab(1).Ok());
@@ -153,20 +153,20 @@ TEST_F(PeerReadsTheModel, OpenTab) {
 }
 
 TEST_F(PeerReadsTheModel, StateVisibilityAndFocusOfAForm) {
-  ui::Button button(bench.form, {.name = "Button"});
+  ui::Button button(fixture.form, {.name = "Button"});
   const auto read = [this, &button] {
-    return std::string(bench.form.Shown() ? "shown" : "hidden") +
-           (bench.form.State() == ui::WindowState::kMinimised ? " minimised" : "") +
+    return std::string(fixture.form.Shown() ? "shown" : "hidden") +
+           (fixture.form.State() == ui::WindowState::kMinimised ? " minimised" : "") +
            (button.HasFocus() ? " focus" : "");
   };
   ReadingPeer form_peer(read);
   ReadingPeer button_peer(read);
-  bench.form.AttachPeer(&form_peer);
+  fixture.form.AttachPeer(&form_peer);
   button.AttachPeer(&button_peer);
   button.SetFocus();
-  bench.form.SetState(ui::WindowState::kMinimised);
-  bench.form.Hide();
-  bench.form.Show();
+  fixture.form.SetState(ui::WindowState::kMinimised);
+  fixture.form.Hide();
+  fixture.form.Show();
   EXPECT_EQ(button_peer.seen, Seen{"shown focus"});
   EXPECT_EQ(form_peer.seen,
             (Seen{"shown minimised focus", "hidden minimised focus", "shown minimised focus"}));
@@ -174,12 +174,12 @@ TEST_F(PeerReadsTheModel, StateVisibilityAndFocusOfAForm) {
 
 TEST_F(PeerReadsTheModel, BoundsOfAFormAndTheBorderOfADrawing) {
   ReadingPeer form_peer(
-      [this] { return std::to_string(bench.form.Bounds().value_or(ui::WindowBounds{}).left); });
-  bench.form.AttachPeer(&form_peer);
-  bench.form.SetBounds({.left = 5, .top = 6, .width = 7, .height = 8});
+      [this] { return std::to_string(fixture.form.Bounds().value_or(ui::WindowBounds{}).left); });
+  fixture.form.AttachPeer(&form_peer);
+  fixture.form.SetBounds({.left = 5, .top = 6, .width = 7, .height = 8});
   EXPECT_EQ(form_peer.seen, Seen{"5"});
 
-  controls::Meter3 meter(bench.form, {.name = "Meter"});
+  controls::Meter3 meter(fixture.form, {.name = "Meter"});
   ReadingPeer meter_peer([&meter] { return std::string(meter.Border() == 0 ? "none" : "3D"); });
   meter.AttachPeer(&meter_peer);
   EXPECT_TRUE(meter.SetBorder(0).Ok());
@@ -187,33 +187,33 @@ TEST_F(PeerReadsTheModel, BoundsOfAFormAndTheBorderOfADrawing) {
 }
 
 TEST_F(PeerReadsTheModel, BeforeTheHandlerRuns) {
-  NotingPeer peer;
+  RecordingPeer peer;
   std::vector<std::size_t> told;
   Handled handled;
   handled.action = [&] { told.push_back(peer.changes.size()); };
-  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 0, .maximum = 10});
-  ui::TextBox text(bench.form, {.name = "Text"});
-  ui::ListBox list(bench.form, {.name = "List"});
-  ui::OptionButton option(bench.form, {.name = "Option"});
-  bar.OnChange = text.OnChange = list.OnClick = option.OnClick = bench.form.OnActivate = handled.Handler();
+  ui::VerticalScrollBar bar(fixture.form, {.name = "Bar"}, {.minimum = 0, .maximum = 10});
+  ui::TextBox text(fixture.form, {.name = "Text"});
+  ui::ListBox list(fixture.form, {.name = "List"});
+  ui::OptionButton option(fixture.form, {.name = "Option"});
+  bar.OnChange = text.OnChange = list.OnClick = option.OnClick = fixture.form.OnActivate = handled.Handler();
   list.AddItem("a");
-  bench.form.Hide();
+  fixture.form.Hide();
   for (ui::Control* control :
        {static_cast<ui::Control*>(&bar), static_cast<ui::Control*>(&text), static_cast<ui::Control*>(&list),
-        static_cast<ui::Control*>(&option), static_cast<ui::Control*>(&bench.form)}) {
+        static_cast<ui::Control*>(&option), static_cast<ui::Control*>(&fixture.form)}) {
     control->AttachPeer(&peer);
   }
   EXPECT_TRUE(bar.SetValue(1).Ok());
   text.SetText("a");
   EXPECT_TRUE(list.SetSelectedIndex(0).Ok());
   option.SetSelected(true);
-  bench.form.Show();
+  fixture.form.Show();
   EXPECT_EQ(told, (std::vector<std::size_t>{1, 2, 3, 4, 5}));
 }
 
 TEST_F(PeerReadsTheModel, TabIsOpenAndTheFocusHasLeftBeforeItsHandlerRuns) {
   constexpr ui::Design kPages[] = {{.name = "One"}, {.name = "Two"}};
-  ui::TabStrip strip(bench.form, {.name = "Tabs"}, kPages);
+  ui::TabStrip strip(fixture.form, {.name = "Tabs"}, kPages);
   ui::Button button(strip.Page(0), {.name = "Button"});
   button.SetFocus();
   Seen order;
@@ -244,9 +244,9 @@ TEST_F(PeerReadsTheModel, WindowIsRemovedAfterTheUnloadAndTheLastHandler) {
     void FormUnloaded() override { was_over = form.Unloaded() && form.Dispatcher().Stopped(); }
     const ui::Form& form;
     bool was_over = false;
-  } window(bench.form);
-  bench.form.AttachFormPeer(&window);
-  bench.form.Unload();
+  } window(fixture.form);
+  fixture.form.AttachFormPeer(&window);
+  fixture.form.Unload();
   EXPECT_TRUE(window.was_over);
 }
 
@@ -259,7 +259,7 @@ struct ReadingTimerPeer final : ui::TimerPeer {
 };
 
 TEST_F(PeerReadsTheModel, IntervalAndStateOfATimer) {
-  ui::Timer timer(bench.events, "Timer", 1000, false);
+  ui::Timer timer(fixture.events, "Timer", 1000, false);
   ReadingTimerPeer peer;
   timer.AttachPeer(&peer);
   timer.SetEnabled(true);

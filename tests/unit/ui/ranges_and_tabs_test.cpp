@@ -3,24 +3,24 @@
 
 #include <array>
 
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 
 namespace qdix::tests {
 namespace {
 
 class Ranges : public testing::Test {
  protected:
-  ControlBench bench;
+  FormFixture fixture;
   Handled changed;
 };
 
 TEST_F(Ranges, ScrollBarStartsAtItsLowestValueEvenIfInverted) {
-  EXPECT_EQ(ui::VerticalScrollBar(bench.form, {.name = "A"}, {.minimum = 3, .maximum = 9}).Value(), 3);
-  EXPECT_EQ(ui::VerticalScrollBar(bench.form, {.name = "B"}, {.minimum = 20, .maximum = 1}).Value(), 1);
+  EXPECT_EQ(ui::VerticalScrollBar(fixture.form, {.name = "A"}, {.minimum = 3, .maximum = 9}).Value(), 3);
+  EXPECT_EQ(ui::VerticalScrollBar(fixture.form, {.name = "B"}, {.minimum = 20, .maximum = 1}).Value(), 1);
 }
 
 TEST_F(Ranges, ScrollBarFiresWhenItsValueDiffersAndRefusesValuesOutside) {
-  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 20, .maximum = 1});
+  ui::VerticalScrollBar bar(fixture.form, {.name = "Bar"}, {.minimum = 20, .maximum = 1});
   bar.OnChange = changed.Handler();
   EXPECT_TRUE(bar.SetValue(20).Ok());
   EXPECT_TRUE(bar.SetValue(20).Ok());
@@ -32,7 +32,7 @@ TEST_F(Ranges, ScrollBarFiresWhenItsValueDiffersAndRefusesValuesOutside) {
 }
 
 TEST_F(Ranges, NarrowerRangeMovesTheValueWithoutFiring) {
-  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 32, .maximum = 1});
+  ui::VerticalScrollBar bar(fixture.form, {.name = "Bar"}, {.minimum = 32, .maximum = 1});
   EXPECT_TRUE(bar.SetValue(30).Ok());
   bar.OnChange = changed.Handler();
   bar.SetRange(16, 1);
@@ -46,7 +46,7 @@ TEST_F(Ranges, NarrowerRangeMovesTheValueWithoutFiring) {
 }
 
 TEST_F(Ranges, UserStepsPagesAndDragsInsideTheRange) {
-  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"},
+  ui::VerticalScrollBar bar(fixture.form, {.name = "Bar"},
                             {.minimum = 0, .maximum = 100, .small_change = 5, .large_change = 10});
   bar.OnChange = changed.Handler();
   bar.Step(1);
@@ -61,7 +61,8 @@ TEST_F(Ranges, UserStepsPagesAndDragsInsideTheRange) {
 }
 
 TEST_F(Ranges, UpArrowOfAnInvertedBarIncreases) {
-  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 32750, .maximum = 0, .small_change = 5});
+  ui::VerticalScrollBar bar(fixture.form, {.name = "Bar"},
+                            {.minimum = 32750, .maximum = 0, .small_change = 5});
   bar.Step(-1);
   EXPECT_EQ(bar.Value(), 5);
   bar.Step(1);
@@ -69,7 +70,7 @@ TEST_F(Ranges, UpArrowOfAnInvertedBarIncreases) {
 }
 
 TEST_F(Ranges, NearestTakesAnyDouble) {
-  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 1, .maximum = 240});
+  ui::VerticalScrollBar bar(fixture.form, {.name = "Bar"}, {.minimum = 1, .maximum = 240});
   bar.SetNearest(1e300);
   EXPECT_EQ(bar.Value(), 240);
   bar.SetNearest(-1e300);
@@ -87,7 +88,7 @@ struct Moves {
 };
 
 TEST_F(Ranges, SliderIsClampedAndFiresForTheUsersMovesOnly) {
-  ui::Slider slider(bench.form, {.name = "Slider"}, {.minimum = 512, .maximum = 4096, .value = 512});
+  ui::Slider slider(fixture.form, {.name = "Slider"}, {.minimum = 512, .maximum = 4096, .value = 512});
   Moves moves;
   slider.OnMove = base::Callback<base::Status(std::int32_t)>::To<&Moves::Moved>(moves);
   slider.SetValue(9999);
@@ -105,7 +106,7 @@ TEST_F(Ranges, SliderIsClampedAndFiresForTheUsersMovesOnly) {
 }
 
 TEST_F(Ranges, OnlyTheUserMovesASliderOfStepsToTheNearestStep) {
-  ui::Slider slider(bench.form, {.name = "Slider"},
+  ui::Slider slider(fixture.form, {.name = "Slider"},
                     {.minimum = 512, .maximum = 4096, .value = 700, .step = 512});
   EXPECT_EQ(slider.Value(), 700);
   slider.SetValue(900);
@@ -121,12 +122,12 @@ TEST_F(Ranges, OnlyTheUserMovesASliderOfStepsToTheNearestStep) {
 }
 
 TEST_F(Ranges, InitialValueOfASliderIsInsideItsRange) {
-  EXPECT_EQ(ui::Slider(bench.form, {.name = "A"}, {.minimum = 512, .maximum = 4096}).Value(), 512);
-  EXPECT_EQ(ui::Slider(bench.form, {.name = "B"}, {.minimum = 1, .maximum = 5, .value = 9}).Value(), 5);
+  EXPECT_EQ(ui::Slider(fixture.form, {.name = "A"}, {.minimum = 512, .maximum = 4096}).Value(), 512);
+  EXPECT_EQ(ui::Slider(fixture.form, {.name = "B"}, {.minimum = 1, .maximum = 5, .value = 9}).Value(), 5);
 }
 
 TEST_F(Ranges, NewRangeOfASliderMovesTheValueToTheNearestEnd) {
-  ui::Slider slider(bench.form, {.name = "Slider"}, {.minimum = 0, .maximum = 100, .value = 50});
+  ui::Slider slider(fixture.form, {.name = "Slider"}, {.minimum = 0, .maximum = 100, .value = 50});
   slider.SetMinimum(60);
   EXPECT_EQ(slider.Value(), 60);
   slider.SetMaximum(30);
@@ -147,7 +148,7 @@ class ValueReader final : public ui::ControlPeer {
 };
 
 TEST_F(Ranges, PeerOfASliderFindsTheValueInsideTheNewRange) {
-  ui::Slider slider(bench.form, {.name = "Slider"}, {.minimum = 0, .maximum = 100, .value = 50});
+  ui::Slider slider(fixture.form, {.name = "Slider"}, {.minimum = 0, .maximum = 100, .value = 50});
   ValueReader reader;
   slider.AttachPeer(&reader);
   slider.SetMaximum(40);
@@ -159,8 +160,8 @@ TEST_F(Ranges, PeerOfASliderFindsTheValueInsideTheNewRange) {
 }
 
 TEST_F(Ranges, PeerOfAScrollBarIsNotifiedOnlyOfANewRange) {
-  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 1, .maximum = 20});
-  NotingPeer peer;
+  ui::VerticalScrollBar bar(fixture.form, {.name = "Bar"}, {.minimum = 1, .maximum = 20});
+  RecordingPeer peer;
   bar.AttachPeer(&peer);
   bar.SetRange(1, 20);
   bar.SetRange(1, 30);
@@ -171,9 +172,9 @@ TEST_F(Ranges, PeerOfAScrollBarIsNotifiedOnlyOfANewRange) {
 }
 
 TEST_F(Ranges, UnreachableBarAndSliderDoNotMove) {
-  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 0, .maximum = 100});
-  ui::Slider slider(bench.form, {.name = "Slider"}, {});
-  bench.form.Hide();
+  ui::VerticalScrollBar bar(fixture.form, {.name = "Bar"}, {.minimum = 0, .maximum = 100});
+  ui::Slider slider(fixture.form, {.name = "Slider"}, {});
+  fixture.form.Hide();
   bar.Step(1);
   bar.Page(1);
   bar.Drag(50);
@@ -185,7 +186,7 @@ TEST_F(Ranges, UnreachableBarAndSliderDoNotMove) {
 TEST_F(Ranges, AnyNumberOfStepsAndPagesStopsAtTheEnds) {
   constexpr std::int32_t kMaxUnits = 0x7FFFFFFF;
   ui::VerticalScrollBar bar(
-      bench.form, {.name = "Bar"},
+      fixture.form, {.name = "Bar"},
       {.minimum = -kMaxUnits, .maximum = kMaxUnits, .small_change = kMaxUnits, .large_change = kMaxUnits});
   bar.Page(kMaxUnits);
   EXPECT_EQ(bar.Value(), kMaxUnits);
@@ -194,7 +195,8 @@ TEST_F(Ranges, AnyNumberOfStepsAndPagesStopsAtTheEnds) {
 }
 
 TEST_F(Ranges, PageTowardTheTopOfAnInvertedBarIncreases) {
-  ui::VerticalScrollBar bar(bench.form, {.name = "Bar"}, {.minimum = 100, .maximum = 0, .large_change = 30});
+  ui::VerticalScrollBar bar(fixture.form, {.name = "Bar"},
+                            {.minimum = 100, .maximum = 0, .large_change = 30});
   bar.Page(-1);
   EXPECT_EQ(bar.Value(), 30);
 }
@@ -213,8 +215,8 @@ class Tabs : public testing::Test {
   base::Result<bool> Refuse() { return false; }
 
  protected:
-  ControlBench bench;
-  ui::TabStrip strip{bench.form, {.name = "Strip"}, kPages};
+  FormFixture fixture;
+  ui::TabStrip strip{fixture.form, {.name = "Strip"}, kPages};
   std::vector<int> left;
 };
 
@@ -257,14 +259,14 @@ TEST_F(Tabs, TabOpenedByCodeTakesTheFocusFromTheOldPageWithoutAsking) {
   box.OnLostFocus = lost.Handler();
   box.SetFocus();
   EXPECT_TRUE(strip.SetTab(1).Ok());
-  EXPECT_EQ(bench.form.Focused(), nullptr);
+  EXPECT_EQ(fixture.form.Focused(), nullptr);
   EXPECT_EQ(lost.count, 1);
 }
 
 class Menus : public testing::Test {
  protected:
-  ControlBench bench;
-  ui::MenuItem menu{bench.events, "menu", "Menu"};
+  FormFixture fixture;
+  ui::MenuItem menu{fixture.events, "menu", "Menu"};
   ui::MenuItem entry{menu, "entry", "Entry & more"};
   ui::MenuItem bar{menu, "bar", ui::MenuItem::kSeparatorCaption};
   ui::MenuItem sub{menu, "sub", "Programs"};

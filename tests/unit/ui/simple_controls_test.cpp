@@ -1,19 +1,19 @@
 // Check box, option button, button, and the properties common to all controls.
 #include <gtest/gtest.h>
 
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 
 namespace qdix::tests {
 namespace {
 
 class SimpleControls : public testing::Test {
  protected:
-  ControlBench bench;
+  FormFixture fixture;
   Handled clicked;
 };
 
 TEST_F(SimpleControls, CheckBoxFiresOnlyWhenItsValueChanges) {
-  ui::CheckBox box(bench.form, {.name = "Box"});
+  ui::CheckBox box(fixture.form, {.name = "Box"});
   box.OnClick = clicked.Handler();
   EXPECT_TRUE(box.SetValue(1).Ok());
   EXPECT_TRUE(box.SetValue(1).Ok());
@@ -25,7 +25,7 @@ TEST_F(SimpleControls, CheckBoxFiresOnlyWhenItsValueChanges) {
 }
 
 TEST_F(SimpleControls, CheckBoxRefusesOtherValues) {
-  ui::CheckBox box(bench.form, {.name = "Box"});
+  ui::CheckBox box(fixture.form, {.name = "Box"});
   box.OnClick = clicked.Handler();
   EXPECT_EQ(box.SetValue(3).Error(), base::kInvalidPropertyValue);
   EXPECT_EQ(box.SetValue(-1).Error(), base::kInvalidPropertyValue);
@@ -34,7 +34,7 @@ TEST_F(SimpleControls, CheckBoxRefusesOtherValues) {
 }
 
 TEST_F(SimpleControls, HandlerRunsInsideTheAssignmentAfterTheValueChanged) {
-  ui::CheckBox box(bench.form, {.name = "Box"});
+  ui::CheckBox box(fixture.form, {.name = "Box"});
   int seen = -1;
   clicked.action = [&] { seen = box.Value(); };
   box.OnClick = clicked.Handler();
@@ -43,7 +43,7 @@ TEST_F(SimpleControls, HandlerRunsInsideTheAssignmentAfterTheValueChanged) {
 }
 
 TEST_F(SimpleControls, HandlerMayChangeTheSameControlAgain) {
-  ui::CheckBox box(bench.form, {.name = "Box"});
+  ui::CheckBox box(fixture.form, {.name = "Box"});
   clicked.action = [&] { box.SetTicked(false); };
   box.OnClick = clicked.Handler();
   box.SetTicked(true);
@@ -52,15 +52,15 @@ TEST_F(SimpleControls, HandlerMayChangeTheSameControlAgain) {
 }
 
 TEST_F(SimpleControls, HandlersErrorGoesToTheDispatcherNotToTheAssignment) {
-  ui::CheckBox box(bench.form, {.name = "Box"});
+  ui::CheckBox box(fixture.form, {.name = "Box"});
   clicked.answer = base::kOverflow;
   box.OnClick = clicked.Handler();
   EXPECT_TRUE(box.SetValue(1).Ok());
-  EXPECT_EQ(bench.errors, (std::vector<int>{6}));
+  EXPECT_EQ(fixture.errors, (std::vector<int>{6}));
 }
 
 TEST_F(SimpleControls, PressTicksAClearBoxAndClearsAnyOther) {
-  ui::CheckBox box(bench.form, {.name = "Box"});
+  ui::CheckBox box(fixture.form, {.name = "Box"});
   box.Press();
   EXPECT_EQ(box.Value(), 1);
   box.Press();
@@ -71,8 +71,8 @@ TEST_F(SimpleControls, PressTicksAClearBoxAndClearsAnyOther) {
 }
 
 TEST_F(SimpleControls, OptionsOfOneContainerAreExclusiveAndClearedSilently) {
-  ui::Frame frame(bench.form, {.name = "Frame"});
-  ui::Frame other(bench.form, {.name = "Other"});
+  ui::Frame frame(fixture.form, {.name = "Frame"});
+  ui::Frame other(fixture.form, {.name = "Other"});
   ui::OptionButton a(frame, {.name = "A"});
   ui::OptionButton b(frame, {.name = "B"});
   ui::OptionButton elsewhere(other, {.name = "C"});
@@ -94,8 +94,8 @@ TEST_F(SimpleControls, OptionsOfOneContainerAreExclusiveAndClearedSilently) {
 }
 
 TEST_F(SimpleControls, OptionsHandlerSeesTheOthersCleared) {
-  ui::OptionButton a(bench.form, {.name = "A"});
-  ui::OptionButton b(bench.form, {.name = "B"});
+  ui::OptionButton a(fixture.form, {.name = "A"});
+  ui::OptionButton b(fixture.form, {.name = "B"});
   a.SetSelected(true);
   bool a_was_selected = true;
   clicked.action = [&] { a_was_selected = a.Selected(); };
@@ -106,16 +106,16 @@ TEST_F(SimpleControls, OptionsHandlerSeesTheOthersCleared) {
 
 struct Obstacle {
   const char* what;
-  void (*put)(ControlBench&, ui::Frame&, ui::Button&);
+  void (*put)(FormFixture&, ui::Frame&, ui::Button&);
 };
 class Unreachable : public SimpleControls, public testing::WithParamInterface<Obstacle> {};
 TEST_P(Unreachable, ControlDoesNothing) {
-  ui::Frame frame(bench.form, {.name = "Frame"});
+  ui::Frame frame(fixture.form, {.name = "Frame"});
   ui::Button button(frame, {.name = "Button"});
   button.OnClick = clicked.Handler();
   button.Press();
   ASSERT_EQ(clicked.count, 1);
-  GetParam().put(bench, frame, button);
+  GetParam().put(fixture, frame, button);
   button.Press();
   button.SetFocus();
   EXPECT_EQ(clicked.count, 1);
@@ -124,21 +124,21 @@ TEST_P(Unreachable, ControlDoesNothing) {
 INSTANTIATE_TEST_SUITE_P(
     Obstacles, Unreachable,
     testing::Values(
-        Obstacle{"disabled", [](ControlBench&, ui::Frame&, ui::Button& button) { button.SetEnabled(false); }},
-        Obstacle{"hidden", [](ControlBench&, ui::Frame&, ui::Button& button) { button.SetVisible(false); }},
+        Obstacle{"disabled", [](FormFixture&, ui::Frame&, ui::Button& button) { button.SetEnabled(false); }},
+        Obstacle{"hidden", [](FormFixture&, ui::Frame&, ui::Button& button) { button.SetVisible(false); }},
         Obstacle{"frame disabled",
-                 [](ControlBench&, ui::Frame& frame, ui::Button&) { frame.SetEnabled(false); }},
+                 [](FormFixture&, ui::Frame& frame, ui::Button&) { frame.SetEnabled(false); }},
         Obstacle{"frame hidden",
-                 [](ControlBench&, ui::Frame& frame, ui::Button&) { frame.SetVisible(false); }},
-        Obstacle{"form hidden", [](ControlBench& bench, ui::Frame&, ui::Button&) { bench.form.Hide(); }},
-        Obstacle{"form minimised", [](ControlBench& bench, ui::Frame&,
-                                      ui::Button&) { bench.form.SetState(ui::WindowState::kMinimised); }},
+                 [](FormFixture&, ui::Frame& frame, ui::Button&) { frame.SetVisible(false); }},
+        Obstacle{"form hidden", [](FormFixture& fixture, ui::Frame&, ui::Button&) { fixture.form.Hide(); }},
+        Obstacle{"form minimised", [](FormFixture& fixture, ui::Frame&,
+                                      ui::Button&) { fixture.form.SetState(ui::WindowState::kMinimised); }},
         Obstacle{"form unloaded",
-                 [](ControlBench& bench, ui::Frame&, ui::Button&) { bench.form.Unload(); }}));
+                 [](FormFixture& fixture, ui::Frame&, ui::Button&) { fixture.form.Unload(); }}));
 
 TEST_F(SimpleControls, PeerIsNotifiedOfEachChangeAndNothingElse) {
-  ui::Label label(bench.form, {.name = "Label", .caption = "a"});
-  NotingPeer peer;
+  ui::Label label(fixture.form, {.name = "Label", .caption = "a"});
+  RecordingPeer peer;
   label.AttachPeer(&peer);
   label.SetCaption("a");
   label.SetEnabled(true);
@@ -154,9 +154,9 @@ TEST_F(SimpleControls, PeerIsNotifiedOfEachChangeAndNothingElse) {
 }
 
 TEST_F(SimpleControls, DisablingAFrameNotifiesThePeersInsideIt) {
-  ui::Frame frame(bench.form, {.name = "Frame"});
+  ui::Frame frame(fixture.form, {.name = "Frame"});
   ui::Button button(frame, {.name = "Button"});
-  NotingPeer peer;
+  RecordingPeer peer;
   button.AttachPeer(&peer);
   frame.SetEnabled(false);
   EXPECT_EQ(peer.changes, (std::vector<ui::Change>{ui::Change::kEnabled}));
@@ -165,16 +165,16 @@ TEST_F(SimpleControls, DisablingAFrameNotifiesThePeersInsideIt) {
 }
 
 TEST_F(SimpleControls, TextFieldsAndListsAreWhiteAndOtherControlsGrey) {
-  EXPECT_EQ(ui::TextBox(bench.form, {.name = "Text"}).BackColour(), ui::kWindowBackground);
-  EXPECT_EQ(ui::ListBox(bench.form, {.name = "List"}).BackColour(), ui::kWindowBackground);
-  EXPECT_EQ(ui::DropDownList(bench.form, {.name = "Drop"}).BackColour(), ui::kWindowBackground);
-  EXPECT_EQ(ui::DropDownCombo(bench.form, {.name = "Combo"}).BackColour(), ui::kWindowBackground);
-  EXPECT_EQ(ui::Label(bench.form, {.name = "Label"}).BackColour(), ui::kButtonFace);
-  EXPECT_EQ(bench.form.BackColour(), ui::kButtonFace);
+  EXPECT_EQ(ui::TextBox(fixture.form, {.name = "Text"}).BackColour(), ui::kWindowBackground);
+  EXPECT_EQ(ui::ListBox(fixture.form, {.name = "List"}).BackColour(), ui::kWindowBackground);
+  EXPECT_EQ(ui::DropDownList(fixture.form, {.name = "Drop"}).BackColour(), ui::kWindowBackground);
+  EXPECT_EQ(ui::DropDownCombo(fixture.form, {.name = "Combo"}).BackColour(), ui::kWindowBackground);
+  EXPECT_EQ(ui::Label(fixture.form, {.name = "Label"}).BackColour(), ui::kButtonFace);
+  EXPECT_EQ(fixture.form.BackColour(), ui::kButtonFace);
 }
 
 TEST_F(SimpleControls, ControlStartsAsItWasDesigned) {
-  const ui::Button button(bench.form,
+  const ui::Button button(fixture.form,
                           {.name = "Button",
                            .caption = "Go",
                            .access_key = 'G',
@@ -190,20 +190,20 @@ TEST_F(SimpleControls, ControlStartsAsItWasDesigned) {
   EXPECT_FALSE(button.Visible());
   EXPECT_FALSE(button.Enabled());
   EXPECT_EQ(button.Role(), ui::ButtonRole::kCancel);
-  EXPECT_EQ(button.Parent(), &bench.form);
-  EXPECT_EQ(&button.GetForm(), &bench.form);
+  EXPECT_EQ(button.Parent(), &fixture.form);
+  EXPECT_EQ(&button.GetForm(), &fixture.form);
 }
 
 TEST_F(SimpleControls, PeersOfCheckBoxAndOptionsAreNotifiedOfEachChangedValue) {
-  ui::CheckBox box(bench.form, {.name = "Box"});
-  ui::OptionButton a(bench.form, {.name = "A"});
-  ui::OptionButton b(bench.form, {.name = "B"});
-  ui::OptionButton untouched(bench.form, {.name = "C"});
+  ui::CheckBox box(fixture.form, {.name = "Box"});
+  ui::OptionButton a(fixture.form, {.name = "A"});
+  ui::OptionButton b(fixture.form, {.name = "B"});
+  ui::OptionButton untouched(fixture.form, {.name = "C"});
   a.SetSelected(true);
-  NotingPeer box_peer;
-  NotingPeer a_peer;
-  NotingPeer b_peer;
-  NotingPeer untouched_peer;
+  RecordingPeer box_peer;
+  RecordingPeer a_peer;
+  RecordingPeer b_peer;
+  RecordingPeer untouched_peer;
   box.AttachPeer(&box_peer);
   a.AttachPeer(&a_peer);
   b.AttachPeer(&b_peer);
@@ -218,8 +218,8 @@ TEST_F(SimpleControls, PeersOfCheckBoxAndOptionsAreNotifiedOfEachChangedValue) {
 }
 
 TEST_F(SimpleControls, PeerIsNotifiedBeforeTheHandlerRuns) {
-  ui::CheckBox box(bench.form, {.name = "Box"});
-  NotingPeer peer;
+  ui::CheckBox box(fixture.form, {.name = "Box"});
+  RecordingPeer peer;
   box.AttachPeer(&peer);
   clicked.action = [&] { EXPECT_EQ(peer.changes.size(), 1U); };
   box.OnClick = clicked.Handler();
@@ -228,8 +228,8 @@ TEST_F(SimpleControls, PeerIsNotifiedBeforeTheHandlerRuns) {
 }
 
 TEST_F(SimpleControls, OptionsHandlerMayChooseAnother) {
-  ui::OptionButton a(bench.form, {.name = "A"});
-  ui::OptionButton b(bench.form, {.name = "B"});
+  ui::OptionButton a(fixture.form, {.name = "A"});
+  ui::OptionButton b(fixture.form, {.name = "B"});
   clicked.action = [&] { a.SetSelected(true); };
   b.OnClick = clicked.Handler();
   b.Press();
@@ -238,9 +238,9 @@ TEST_F(SimpleControls, OptionsHandlerMayChooseAnother) {
 }
 
 TEST_F(SimpleControls, UnreachableCheckBoxAndOptionKeepTheirValues) {
-  ui::CheckBox box(bench.form, {.name = "Box"});
-  ui::OptionButton option(bench.form, {.name = "Option"});
-  bench.form.SetEnabled(false);
+  ui::CheckBox box(fixture.form, {.name = "Box"});
+  ui::OptionButton option(fixture.form, {.name = "Option"});
+  fixture.form.SetEnabled(false);
   box.Press();
   option.Press();
   EXPECT_EQ(box.Value(), 0);
@@ -248,8 +248,8 @@ TEST_F(SimpleControls, UnreachableCheckBoxAndOptionKeepTheirValues) {
 }
 
 TEST_F(SimpleControls, HandlerThatUnloadsTheFormIsTheLastToRun) {
-  ui::CheckBox box(bench.form, {.name = "Box"});
-  clicked.action = [&] { bench.form.Unload(); };
+  ui::CheckBox box(fixture.form, {.name = "Box"});
+  clicked.action = [&] { fixture.form.Unload(); };
   box.OnClick = clicked.Handler();
   box.SetTicked(true);
   box.SetTicked(false);
@@ -258,16 +258,16 @@ TEST_F(SimpleControls, HandlerThatUnloadsTheFormIsTheLastToRun) {
 }
 
 TEST_F(SimpleControls, ControlsAreFoundByNameAtAnyDepth) {
-  ui::Frame frame(bench.form, {.name = "Frame"});
+  ui::Frame frame(fixture.form, {.name = "Frame"});
   ui::Button button(frame, {.name = "Button"});
-  EXPECT_EQ(bench.form.Find("Button"), &button);
-  EXPECT_EQ(bench.form.Find("Missing"), nullptr);
+  EXPECT_EQ(fixture.form.Find("Button"), &button);
+  EXPECT_EQ(fixture.form.Find("Missing"), nullptr);
 }
 
 TEST_F(SimpleControls, ChildrenAreInOrderOfCreation) {
-  ui::Button first(bench.form, {.name = "First"});
-  ui::Label second(bench.form, {.name = "Second"});
-  EXPECT_EQ(bench.form.Children(), (std::vector<ui::Control*>{&first, &second}));
+  ui::Button first(fixture.form, {.name = "First"});
+  ui::Label second(fixture.form, {.name = "Second"});
+  EXPECT_EQ(fixture.form.Children(), (std::vector<ui::Control*>{&first, &second}));
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 #include "tests/support/pixel_canvas.h"
 #include "tests/support/stepped_timers.h"
 
@@ -89,10 +89,10 @@ class SteppedTime : public testing::Test {
   }
   void Note(char letter) { log += letter + std::to_string(clock.NowMs()) + ' '; }
 
-  ControlBench bench;
+  FormFixture fixture;
   SteppedTimers clock;
-  ui::Timer a{bench.events, "A", 200, true};
-  ui::Timer b{bench.events, "B", 100, true};
+  ui::Timer a{fixture.events, "A", 200, true};
+  ui::Timer b{fixture.events, "B", 100, true};
   Handled a_ticked;
   Handled b_ticked;
   std::string log;

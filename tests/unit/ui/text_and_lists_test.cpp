@@ -1,7 +1,7 @@
 // Text box, list box, drop-down list, drop-down combo.
 #include <gtest/gtest.h>
 
-#include "tests/support/control_bench.h"
+#include "tests/support/form_fixture.h"
 
 namespace qdix::tests {
 namespace {
@@ -9,9 +9,9 @@ namespace {
 class TextBoxRules : public testing::Test {
  protected:
   TextBoxRules() { box.OnChange = changed.Handler(); }
-  ControlBench bench;
+  FormFixture fixture;
   Handled changed;
-  ui::TextBox box{bench.form, {.name = "Text"}, 5};
+  ui::TextBox box{fixture.form, {.name = "Text"}, 5};
 };
 
 TEST_F(TextBoxRules, AssignmentFiresWhenTheTextDiffers) {
@@ -89,7 +89,7 @@ TEST_F(TextBoxRules, AssignmentIsNotFiltered) {
 }
 
 TEST_F(TextBoxRules, EditInTheWindowFiresOnceAndIsNotSentBackToIt) {
-  NotingPeer peer;
+  RecordingPeer peer;
   box.AttachPeer(&peer);
   box.UserEdited("ab", 1, 0);
   box.UserEdited("ab", 2, 0);
@@ -121,7 +121,7 @@ TEST_F(TextBoxRules, SameTextKeepsTheSelection) {
 }
 
 TEST_F(TextBoxRules, PeerIsNotifiedOfSelectionAndText) {
-  NotingPeer peer;
+  RecordingPeer peer;
   box.AttachPeer(&peer);
   box.SetText("80");
   box.SelectAll();
@@ -138,7 +138,7 @@ TEST_F(TextBoxRules, SelectionCanBeReplacedInAFullBox) {
 }
 
 TEST_F(TextBoxRules, TypingTheSelectedCharacterMovesTheCaretAndFiresNothing) {
-  NotingPeer peer;
+  RecordingPeer peer;
   box.SetText("7");
   box.SelectAll();
   box.AttachPeer(&peer);
@@ -183,7 +183,7 @@ TEST_F(TextBoxRules, KeyHandlerThatUnloadsTheFormPreventsTyping) {
       form.Unload();
       return base::kDone;
     }
-  } unloader{bench.form};
+  } unloader{fixture.form};
   box.OnKeyPress = base::Callback<base::Status(char&)>::To<&Unloader::Unload>(unloader);
   box.TypeText("12");
   EXPECT_EQ(box.Text(), "");
@@ -213,12 +213,12 @@ class ListRules : public testing::Test {
     for (const char* text : {"5", "10", "20"}) list.AddItem(text, text[0]);
     list.OnClick = clicked.Handler();
   }
-  ControlBench bench;
+  FormFixture fixture;
   Handled clicked;
 };
 
 TEST_F(ListRules, FillingAndClearingFireNothing) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   Fill(list);
   EXPECT_TRUE(list.SetSelectedIndex(1).Ok());
   clicked.count = 0;
@@ -229,7 +229,7 @@ TEST_F(ListRules, FillingAndClearingFireNothing) {
 }
 
 TEST_F(ListRules, SelectingFiresWhenTheIndexChangesAndClearingItDoesNot) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   Fill(list);
   EXPECT_TRUE(list.SetSelectedIndex(2).Ok());
   EXPECT_TRUE(list.SetSelectedIndex(2).Ok());
@@ -242,7 +242,7 @@ TEST_F(ListRules, SelectingFiresWhenTheIndexChangesAndClearingItDoesNot) {
 }
 
 TEST_F(ListRules, RowKeyArrivesIfTheUserCanReachTheList) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   Fill(list);
   struct Keys {
     std::vector<ui::RowKey> seen;
@@ -260,7 +260,7 @@ TEST_F(ListRules, RowKeyArrivesIfTheUserCanReachTheList) {
 }
 
 TEST_F(ListRules, IndexOutsideTheListIsRefused) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   Fill(list);
   EXPECT_EQ(list.SetSelectedIndex(3).Error(), base::kInvalidPropertyValue);
   EXPECT_EQ(list.SetSelectedIndex(-2).Error(), base::kInvalidPropertyValue);
@@ -272,7 +272,7 @@ TEST_F(ListRules, IndexOutsideTheListIsRefused) {
 }
 
 TEST_F(ListRules, ClickOnTheSelectedRowOfAListFiresAgain) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   Fill(list);
   EXPECT_TRUE(list.Choose("10"));
   EXPECT_TRUE(list.Choose("10"));
@@ -281,7 +281,7 @@ TEST_F(ListRules, ClickOnTheSelectedRowOfAListFiresAgain) {
 }
 
 TEST_F(ListRules, DoubleClickSelectsItsRowFirst) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   Fill(list);
   Handled opened;
   list.OnDoubleClick = opened.Handler();
@@ -294,7 +294,7 @@ TEST_F(ListRules, DoubleClickSelectsItsRowFirst) {
 }
 
 TEST_F(ListRules, DoubleClickOnTheSelectedRowIsNoFurtherClick) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   Fill(list);
   EXPECT_TRUE(list.Choose("10"));
   list.DoubleClick(1);
@@ -302,7 +302,7 @@ TEST_F(ListRules, DoubleClickOnTheSelectedRowIsNoFurtherClick) {
 }
 
 TEST_F(ListRules, DoubleClickOutsideTheRowsOrOutOfReachDoesNothing) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   Fill(list);
   Handled opened;
   list.OnDoubleClick = opened.Handler();
@@ -315,7 +315,7 @@ TEST_F(ListRules, DoubleClickOutsideTheRowsOrOutOfReachDoesNothing) {
 }
 
 TEST_F(ListRules, EnterOpensTheSelectedRow) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   Fill(list);
   Handled opened;
   list.OnDoubleClick = opened.Handler();
@@ -330,7 +330,7 @@ TEST_F(ListRules, EnterOpensTheSelectedRow) {
 }
 
 TEST_F(ListRules, UnreachableListAcceptsNoChoice) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   Fill(list);
   list.SetVisible(false);
   EXPECT_FALSE(list.Choose("10"));
@@ -340,7 +340,7 @@ TEST_F(ListRules, UnreachableListAcceptsNoChoice) {
 }
 
 TEST_F(ListRules, ChoiceOutsideTheListSelectsNothing) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   Fill(list);
   list.ChooseIndex(3);
   list.ChooseIndex(-1);
@@ -349,8 +349,8 @@ TEST_F(ListRules, ChoiceOutsideTheListSelectsNothing) {
 }
 
 TEST_F(ListRules, PeerIsNotifiedOfRowsAndSelection) {
-  ui::ListBox list(bench.form, {.name = "List"});
-  NotingPeer peer;
+  ui::ListBox list(fixture.form, {.name = "List"});
+  RecordingPeer peer;
   list.AttachPeer(&peer);
   list.AddItem("5");
   EXPECT_TRUE(list.SetSelectedIndex(0).Ok());
@@ -360,7 +360,7 @@ TEST_F(ListRules, PeerIsNotifiedOfRowsAndSelection) {
 }
 
 TEST_F(ListRules, ClickHandlerMayClearTheList) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   Fill(list);
   clicked.action = [&] { list.Clear(); };
   EXPECT_TRUE(list.Choose("10"));
@@ -369,7 +369,7 @@ TEST_F(ListRules, ClickHandlerMayClearTheList) {
 }
 
 TEST_F(ListRules, FirstOfEqualRowsIsFound) {
-  ui::DropDownList list(bench.form, {.name = "Drop"});
+  ui::DropDownList list(fixture.form, {.name = "Drop"});
   Fill(list);
   list.AddItem("10");
   list.SetText("10");
@@ -377,7 +377,7 @@ TEST_F(ListRules, FirstOfEqualRowsIsFound) {
 }
 
 TEST_F(ListRules, DropDownKeepsItsSelectionForATextThatIsNoRow) {
-  ui::DropDownList list(bench.form, {.name = "Drop"});
+  ui::DropDownList list(fixture.form, {.name = "Drop"});
   Fill(list);
   list.SetText("20");
   list.SetText("20");
@@ -389,7 +389,7 @@ TEST_F(ListRules, DropDownKeepsItsSelectionForATextThatIsNoRow) {
 }
 
 TEST_F(ListRules, DropDownListFiresNothingFromCode) {
-  ui::DropDownList list(bench.form, {.name = "Drop"}, ui::CodeFiresClick::kNo);
+  ui::DropDownList list(fixture.form, {.name = "Drop"}, ui::CodeFiresClick::kNo);
   Fill(list);
   list.SetText("5");
   EXPECT_EQ(clicked.count, 0);
@@ -398,7 +398,7 @@ TEST_F(ListRules, DropDownListFiresNothingFromCode) {
 }
 
 TEST_F(ListRules, ComboAcceptsAnyTextAndSelectsTheEqualRow) {
-  ui::DropDownCombo combo(bench.form, {.name = "Combo"});
+  ui::DropDownCombo combo(fixture.form, {.name = "Combo"});
   Fill(combo);
   Handled changed;
   combo.OnChange = changed.Handler();
@@ -415,7 +415,7 @@ TEST_F(ListRules, ComboAcceptsAnyTextAndSelectsTheEqualRow) {
 }
 
 TEST_F(ListRules, ComboChangeHandlerSeesTheSelectionOfTheNewText) {
-  ui::DropDownCombo combo(bench.form, {.name = "Combo"});
+  ui::DropDownCombo combo(fixture.form, {.name = "Combo"});
   Fill(combo);
   Handled changed;
   std::vector<int> seen;
@@ -439,7 +439,7 @@ class ComboReader final : public ui::ControlPeer {
 };
 
 TEST_F(ListRules, ComboPeerNeverFindsTheOldTextAfterAnEdit) {
-  ui::DropDownCombo combo(bench.form, {.name = "Combo"});
+  ui::DropDownCombo combo(fixture.form, {.name = "Combo"});
   Fill(combo);
   combo.SetText("20");
   ComboReader reader;
@@ -450,7 +450,7 @@ TEST_F(ListRules, ComboPeerNeverFindsTheOldTextAfterAnEdit) {
 }
 
 TEST_F(ListRules, ComboShowsItsNewTextBeforeItsHandlerRuns) {
-  ui::DropDownCombo combo(bench.form, {.name = "Combo"});
+  ui::DropDownCombo combo(fixture.form, {.name = "Combo"});
   ComboReader reader;
   combo.AttachPeer(&reader);
   Handled changed;
@@ -461,7 +461,7 @@ TEST_F(ListRules, ComboShowsItsNewTextBeforeItsHandlerRuns) {
 }
 
 TEST_F(ListRules, ClearingTheSelectionOfAComboKeepsItsText) {
-  ui::DropDownCombo combo(bench.form, {.name = "Combo"});
+  ui::DropDownCombo combo(fixture.form, {.name = "Combo"});
   Fill(combo);
   combo.SetText("20");
   EXPECT_TRUE(combo.SetSelectedIndex(ui::ListControl::kNoSelection).Ok());
@@ -469,7 +469,7 @@ TEST_F(ListRules, ClearingTheSelectionOfAComboKeepsItsText) {
 }
 
 TEST_F(ListRules, ListHoldsNoMoreThanTheSystemsLists) {
-  ui::ListBox list(bench.form, {.name = "List"});
+  ui::ListBox list(fixture.form, {.name = "List"});
   for (int i = 0; i < 32770; ++i) list.AddItem("x");
   EXPECT_EQ(list.Count(), 32767);
 }

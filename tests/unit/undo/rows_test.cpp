@@ -10,7 +10,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::vector<std::string> BeforeOf(undo::UndoScreen& screen) {
+std::vector<std::string> StateBefore(undo::UndoScreen& screen) {
   std::vector<std::string> texts;
   for (const undo::EntryRow* const row : screen.Rows()) texts.push_back(row->before.Caption());
   return texts;
@@ -36,7 +36,7 @@ TEST(UndoRows, ShowOldBesideCurrentValues) {
   UndoRig rig;
   rig.TakeRecordAndChange();
   rig.Start();
-  EXPECT_THAT(BeforeOf(rig.Screen()),
+  EXPECT_THAT(StateBefore(rig.Screen()),
               ElementsAre("2048", "(none)", "(none)", "Desktop", "D:", "not recorded; backup: 0", "(none)",
                           "not recorded; backup: (none)"));
   EXPECT_THAT(NowOf(rig.Screen()),
@@ -93,7 +93,7 @@ TEST(UndoRows, NothingRecordedLeavesOnlyClose) {
               "Nothing is recorded. Q-DIX records these settings before it first changes one, so there is "
               "nothing to put back.");
     EXPECT_EQ(BoxesOf(rig.Screen()), "--------");
-    for (const std::string& text : BeforeOf(rig.Screen())) EXPECT_EQ(text, "not recorded");
+    for (const std::string& text : StateBefore(rig.Screen())) EXPECT_EQ(text, "not recorded");
     EXPECT_FALSE(rig.Screen().cmdPutBack.Enabled());
     EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
     EXPECT_TRUE(rig.Screen().cmdClose.Reachable());
@@ -109,8 +109,8 @@ TEST(UndoRows, UnrecordedEntriesAreNotOfferedWithoutABackup) {
   rig.Start();
   EXPECT_EQ(rig.backup, std::nullopt);
   EXPECT_EQ(BoxesOf(rig.Screen()), "xx-x----");
-  EXPECT_THAT(BeforeOf(rig.Screen()), ElementsAre("(none)", "(none)", "512", "Desktop", "C:", "not recorded",
-                                                  "not recorded", "not recorded"));
+  EXPECT_THAT(StateBefore(rig.Screen()), ElementsAre("(none)", "(none)", "512", "Desktop",
+                                                     "C:", "not recorded", "not recorded", "not recorded"));
   EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
   EXPECT_EQ(rig.Screen().lblBackup.Caption(),
             "There is no backup of system.ini (system.qdix in the Windows folder).");

@@ -162,7 +162,7 @@ TEST_F(UndoState, BackupTruncatedByAFullDiskIsDamaged) {
 
 TEST_F(UndoState, UnreadableBackupOffersNothing) {
   rig.TakeRecord();
-  rig.machine.HoldFile(kBackupPath);
+  rig.machine.LockFile(kBackupPath);
   Start();
   EXPECT_EQ(
       Backup(),

@@ -178,7 +178,7 @@ TEST_F(WholeFile, FileThatLostItsNameIsReported) {
 }
 
 TEST_F(WholeFile, FileHeldByAnotherProgramStaysUnchanged) {
-  rig.machine.HoldFile(kIniPath);
+  rig.machine.LockFile(kIniPath);
   PressAndAnswer({os::kIdYes, os::kIdOk});
   EXPECT_EQ(BoxText(1), kNotReplaced);
   EXPECT_EQ(rig.Ini(), kIniAfter);

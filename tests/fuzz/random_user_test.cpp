@@ -1,8 +1,9 @@
 // Starts with random settings and uses all controls at random: nothing crashes, nothing leaks, no value
 // leaves its range, and the program ends when it is closed. A failing run prints its seed, which replays it.
+#include "tests/fuzz/random_user.h"
+
 #include <gtest/gtest.h>
 
-#include "tests/fuzz/random_hand.h"
 #include "tests/support/program_rig.h"
 
 namespace qdix::tests {
@@ -12,7 +13,7 @@ constexpr unsigned long kEvents = 18000;
 /// A release of many passes is ended by closing the window, as a user would do.
 constexpr int kPatiencePumps = 30000;
 
-class RandomHands : private RandomSource {
+class RandomUser : private RandomSource {
  public:
   using RandomSource::RandomSource;
 
@@ -22,7 +23,7 @@ class RandomHands : private RandomSource {
     FillLauncher();
     rig_.machine.LimitAllocatableBytes(Chance(3) ? 0xFFFFFFFFU : Random() % (600 * kMegabyte));
     rig_.Create();
-    hand_.Take(rig_.program->Window());
+    actions_.Collect(rig_.program->Window());
     rig_.machine.OnPump([this](int number) { InsidePump(number); });
     rig_.program->Start();
     if (!Chance(4)) rig_.RemoveGraph();
@@ -47,10 +48,10 @@ class RandomHands : private RandomSource {
           "AutoActive",    "AutoSecs",    "Warnings",      "TimeActive",   "TimeUnit",
           "CPUAutoActive", "AutoCPU",     "CPUTimeActive", "TimeCPU",      "CPU",
           "LastTab",       "CounterDate", "CounterValue",  "Launcher RAM", "Launcher Retry"}) {
-      if (Chance(2)) rig_.Store("Settings", key, hand_.SomeText());
+      if (Chance(2)) rig_.Store("Settings", key, actions_.SomeText());
     }
     for (const char* key : {"StartDisplay", "StartupRAM", "StartupTime", "TimeMinutes", "TimeHours"}) {
-      if (Chance(2)) rig_.Store("Startup", key, hand_.SomeText());
+      if (Chance(2)) rig_.Store("Startup", key, actions_.SomeText());
     }
   }
 
@@ -60,13 +61,13 @@ class RandomHands : private RandomSource {
     static constexpr std::string_view kTexts[] = {"",   "0",      "D",      "C:",     "D:\\swap", "on",
                                                   "On", "131072", "100000", "131072", "-5",       "1E300"};
     if (Chance(2)) return std::string(kTexts[Random() % std::size(kTexts)]);
-    if (!Chance(8)) return hand_.SomeText();
+    if (!Chance(8)) return actions_.SomeText();
     static constexpr std::size_t kLengths[] = {253, 254, 255, 256, 70000};
     return std::string(kLengths[Random() % std::size(kLengths)], static_cast<char>('0' + Random() % 10));
   }
 
   void FillSystem() {
-    std::string ini = Chance(3) ? hand_.SomeText() + "\r\n" : "";
+    std::string ini = Chance(3) ? actions_.SomeText() + "\r\n" : "";
     ini += "[386Enh]\r\n";
     for (const char* key : {"PagingDrive", "MinPagingFileSize", "MaxPagingFileSize", "Paging"}) {
       if (Chance(2)) ini.append(key).append("=").append(RandomEntry()).append("\r\n");
@@ -81,7 +82,7 @@ class RandomHands : private RandomSource {
       if (Chance(2)) {
         rig_.machine.SetRegistryBytes(os::kHkeyLocalMachine,
                                       "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\FS Templates\\Quondix",
-                                      name, Word() % 5, hand_.SomeText());
+                                      name, Word() % 5, actions_.SomeText());
       }
     }
     for (char letter = 'C'; Chance(2) && letter < 'Z'; ++letter) {
@@ -92,7 +93,7 @@ class RandomHands : private RandomSource {
     }
     if (Chance(2)) rig_.machine.RemoveExtendedQuery();
     if (Chance(2)) rig_.machine.RemoveProgram("defrag");
-    rig_.machine.WhileBoxIsOpen([this] { hand_.Answer(rig_.machine); });
+    rig_.machine.WhileBoxIsOpen([this] { actions_.Answer(rig_.machine); });
   }
 
   /// Writes a list of arbitrary bytes and length: often a readable one, sometimes one that is too long.
@@ -101,7 +102,7 @@ class RandomHands : private RandomSource {
     const unsigned records = Chance(20) ? 26 : Word() % 8;
     std::string content;
     while (content.size() < records * kRecordBytes + Word() % kRecordBytes)
-      content += hand_.SomeText() + "   ";
+      content += actions_.SomeText() + "   ";
     if (Chance(2)) rig_.machine.WriteFile("C:\\Program Files\\QDIX\\launcher.dat", content);
     if (Chance(4)) rig_.machine.ProtectDisk();
     if (Chance(2)) rig_.machine.AddProgram("C:\\Program Files\\QDIX\\configL.exe");
@@ -126,7 +127,7 @@ class RandomHands : private RandomSource {
       if (Chance(10)) rig_.program->Window().PointerMoved(0, 0, static_cast<double>(Random() % 8000), 0);
       if (Chance(20)) rig_.program->Window().Show();
       if (Chance(20)) rig_.program->Window().SetState(ui::WindowState::kNormal);
-      hand_.UseAny();
+      actions_.UseAny();
     }
     --depth_;
   }
@@ -163,14 +164,14 @@ class RandomHands : private RandomSource {
     }
   }
 
-  RandomHand hand_{*this};
+  RandomActions actions_{*this};
   ProgramRig rig_;
   int depth_ = 0;
   /// Upper limit of the load readings that the time so far can have caused.
   int readings_ = 0;
 };
 
-TEST(RandomHandsOnAllControls, NeitherCrashNorLeakNorLeaveARange) { RunHands<RandomHands>(kEvents); }
+TEST(RandomUserOnAllControls, NeitherCrashesNorLeaksNorLeavesARange) { RunRandomUser<RandomUser>(kEvents); }
 
 }  // namespace
 }  // namespace qdix::tests

@@ -14,7 +14,7 @@
 
 namespace qdix::tests {
 
-class NotingPeer final : public ui::ControlPeer {
+class RecordingPeer final : public ui::ControlPeer {
  public:
   void ControlChanged(ui::Control& /*control*/, ui::Change change) override { changes.push_back(change); }
   std::vector<ui::Change> changes;
@@ -34,10 +34,10 @@ class Handled {
   base::Status answer = base::kDone;
 };
 
-class ControlBench {
+class FormFixture {
  public:
-  ControlBench() {
-    events.ReportErrorsTo(ui::EventDispatcher::ErrorReporter::To<&ControlBench::Report>(*this));
+  FormFixture() {
+    events.ReportErrorsTo(ui::EventDispatcher::ErrorReporter::To<&FormFixture::Report>(*this));
     form.Show();
   }
   void Report(const base::RuntimeError& error) { errors.push_back(error.number); }

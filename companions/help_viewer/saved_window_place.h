@@ -8,10 +8,10 @@
 
 namespace qdix::help_viewer {
 
-class RememberedPlace {
+class SavedWindowPlace {
  public:
   /// Both must outlive this object.
-  RememberedPlace(os::Registry& registry, os::Screen& screen) : settings_(registry), screen_(screen) {}
+  SavedWindowPlace(os::Registry& registry, os::Screen& screen) : settings_(registry), screen_(screen) {}
 
   /// Places the window at its stored position, moved and shrunk to fit the work area. If nothing is stored,
   /// or something other than numbers, leaves the window where it is.

@@ -6,12 +6,12 @@
 namespace qdix::os::win32 {
 
 /// Keep it for a single query: programs started while it exists inherit the mode.
-class NoDiskRequest {
+class SuppressedDiskErrors {
  public:
-  NoDiskRequest() : former_(SetErrorMode(SEM_FAILCRITICALERRORS)) {}
-  NoDiskRequest(const NoDiskRequest&) = delete;
-  NoDiskRequest& operator=(const NoDiskRequest&) = delete;
-  ~NoDiskRequest() { SetErrorMode(former_); }
+  SuppressedDiskErrors() : former_(SetErrorMode(SEM_FAILCRITICALERRORS)) {}
+  SuppressedDiskErrors(const SuppressedDiskErrors&) = delete;
+  SuppressedDiskErrors& operator=(const SuppressedDiskErrors&) = delete;
+  ~SuppressedDiskErrors() { SetErrorMode(former_); }
 
  private:
   UINT former_;

@@ -19,7 +19,7 @@ def play(scenario, memory_mb):
     return json.loads((folder / "release.json").read_text(encoding="utf-8")), folder
 
 
-class PlayedCase(unittest.TestCase):
+class ScenarioCase(unittest.TestCase):
     """Base of the cases. Each names its scenario; `result` is the result and `folder` has the screenshots."""
     scenario = None
     memory_mb = 96

@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "tests/fuzz/random_hand.h"
+#include "tests/fuzz/random_user.h"
 #include "tests/unit/help_viewer/help_rig.h"
 
 namespace qdix::tests {
@@ -12,12 +12,12 @@ namespace {
 
 constexpr unsigned long kEvents = 12000;
 
-class HelpHands : private RandomSource {
+class RandomHelpUser : private RandomSource {
  public:
   using RandomSource::RandomSource;
 
   unsigned long Run() {
-    rig_.machine.WhileBoxIsOpen([this] { hand_.Answer(rig_.machine); });
+    rig_.machine.WhileBoxIsOpen([this] { actions_.Answer(rig_.machine); });
     rig_.printer.while_open = [this] {
       if (Chance(40)) rig_.form->EndSession();
     };
@@ -32,8 +32,8 @@ class HelpHands : private RandomSource {
 
  private:
   void Start() {
-    rig_.Start(Chance(3) ? hand_.SomeText() : std::to_string(Random() % 13));
-    hand_.Take(rig_.form->Window());
+    rig_.Start(Chance(3) ? actions_.SomeText() : std::to_string(Random() % 13));
+    actions_.Collect(rig_.form->Window());
     has_surface_ = true;
   }
 
@@ -41,7 +41,7 @@ class HelpHands : private RandomSource {
     if (Chance(10)) ChangeDevices();
     if (Chance(10)) ChangeWindow();
     if (Chance(80)) rig_.form->Window().PressEscape();
-    if (Chance(3)) return hand_.UseAny();
+    if (Chance(3)) return actions_.UseAny();
     if (Chance(4)) return Find();
     UsePane();
   }
@@ -73,7 +73,7 @@ class HelpHands : private RandomSource {
   void Find() {
     static constexpr std::array<const char*, 5> kWords{"e", "files", "PARAGRAPH 1", "caf\xE9", "nowhere"};
     rig_.Screen().cmdFind.Press();
-    rig_.TypeWord(Chance(4) ? hand_.SomeText() : kWords[Random() % kWords.size()]);
+    rig_.TypeWord(Chance(4) ? actions_.SomeText() : kWords[Random() % kWords.size()]);
     rig_.Screen().txtWord.PressEnter();
     if (Chance(2)) rig_.Screen().lstFound.DoubleClick(static_cast<int>(Random() % 6));
   }
@@ -126,15 +126,15 @@ class HelpHands : private RandomSource {
                   box.text.starts_with("The topic could not be copied."))
           << box.text;
     }
-    rig_.machine.ForgetRecords();
+    rig_.machine.ClearRecords();
   }
 
   HelpRig rig_;
-  RandomHand hand_{*this};
+  RandomActions actions_{*this};
   bool has_surface_ = false;
 };
 
-TEST(HelpHands, AlwaysSeeATopicAtAValidPosition) { RunHands<HelpHands>(kEvents); }
+TEST(RandomHelpUser, AlwaysSeesATopicAtAValidPosition) { RunRandomUser<RandomHelpUser>(kEvents); }
 
 }  // namespace
 }  // namespace qdix::tests

@@ -24,14 +24,14 @@
 
 namespace qdix::tests {
 
-class RandomHand {
+class RandomActions {
  public:
-  explicit RandomHand(RandomSource& source) : source_(source) {}
+  explicit RandomActions(RandomSource& source) : source_(source) {}
 
   /// Collects all controls of a window for the random user.
-  void Take(const ui::Form& window) {
+  void Collect(const ui::Form& window) {
     controls_.clear();
-    ui::VisitControls(window, ui::ControlVisitor::To<&RandomHand::Note>(*this));
+    ui::VisitControls(window, ui::ControlVisitor::To<&RandomActions::Add>(*this));
   }
   void UseAny() { Use(*controls_[source_.Random() % controls_.size()]); }
 
@@ -61,7 +61,7 @@ class RandomHand {
   }
 
  private:
-  void Note(ui::Control& control, int /*number*/) { controls_.push_back(&control); }
+  void Add(ui::Control& control, int /*number*/) { controls_.push_back(&control); }
 
   void Use(ui::Control& control) {
     const auto number = static_cast<std::int32_t>(source_.Random() % 400) - 20;
@@ -102,16 +102,16 @@ class RandomHand {
 /// Events per run; then the next seed starts.
 inline constexpr int kEventsPerRun = 120;
 
-/// Runs `Hands(seed).Run()` with successive seeds until there have been as many events as QDIX_EVENTS asks
+/// Runs `User(seed).Run()` with successive seeds until there have been as many events as QDIX_EVENTS asks
 /// for. Each run returns its number of events. QDIX_SEED with QDIX_EVENTS=1 replays one run.
-template <class Hands>
-void RunHands(unsigned long events_by_itself) {
+template <class User>
+void RunRandomUser(unsigned long events_by_itself) {
   const unsigned long wanted = NumberFromEnvironment("QDIX_EVENTS", events_by_itself);
   const unsigned first_seed = FirstSeed();
   unsigned seed = first_seed;
   for (unsigned long events = 0; events < wanted; ++seed) {
     SCOPED_TRACE("QDIX_SEED=" + std::to_string(seed));
-    const unsigned long events_of_run = Hands(seed).Run();
+    const unsigned long events_of_run = User(seed).Run();
     // A program that ends while it starts counts as one event.
     events += std::max(events_of_run, 1UL);
     if (testing::Test::HasFailure()) return;

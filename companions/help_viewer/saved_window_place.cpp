@@ -1,4 +1,4 @@
-#include "help_viewer/remembered_place.h"
+#include "help_viewer/saved_window_place.h"
 
 #include <algorithm>
 #include <array>
@@ -33,7 +33,7 @@ void FitInto(int& begin, int& length, int screen_length) {
 
 }  // namespace
 
-void RememberedPlace::Restore(ui::Form& window) const {
+void SavedWindowPlace::Restore(ui::Form& window) const {
   if (settings_.GetBoolean(kSection, kMaximised, false)) window.SetState(ui::WindowState::kMaximised);
   ui::WindowBounds bounds;
   for (const Side& side : kSides) {
@@ -48,7 +48,7 @@ void RememberedPlace::Restore(ui::Form& window) const {
   window.SetBounds(bounds);
 }
 
-void RememberedPlace::Save(const ui::Form& window) {
+void SavedWindowPlace::Save(const ui::Form& window) {
   if (!window.Bounds().has_value()) return;
   const ui::WindowBounds& bounds = *window.Bounds();
   for (const Side& side : kSides) settings_.SaveNumber(kSection, side.key, bounds.*side.member);

@@ -25,7 +25,7 @@ constexpr std::array<std::string_view, 7> kKnownBoxes{
 
 }  // namespace
 
-void Days::Weather() {
+void Days::ChangeConditions() {
   if (Chance(3)) {
     conditions_.available_mb = kAvailableMb[Random(kAvailableMb.size())];
     rig_.machine.SetMemory(MemoryBytes(128), MemoryBytes(conditions_.available_mb), MemoryBytes(128),
@@ -59,7 +59,7 @@ void Days::Weather() {
 void Days::RestartTaskbar() {
   ++report_.taskbar_restarts;
   rig_.machine.CloseWindow(taskbar_);
-  rig_.machine.ForgetTrayIcons();
+  rig_.machine.ClearTrayIcons();
   Pass(1 + Random(70000));
   taskbar_ = rig_.machine.OpenWindow("Shell_TrayWnd", "");
   if (Chance(3)) rig_.machine.FailNextCall("Shell_NotifyIconA");
@@ -95,30 +95,30 @@ void Days::Open(screens::Tab tab) {
 }
 
 void Days::Hand() {
-  ++report_.hands;
+  ++report_.user_visits;
   switch (Random(6)) {
     case 0:
-      HandOnAutomatic();
+      UseAutomaticTab();
       break;
     case 1:
-      HandOnTimeIntervals();
+      UseTimeIntervalsTab();
       break;
     case 2:
-      HandOnReleases();
+      UseReleases();
       break;
     case 3:
-      HandOnSystem();
+      UseSystem();
       break;
     case 4:
       SaveTuning();
       break;
     default:
-      HandOnTray();
+      UseTray();
   }
   forecast_->FollowControls();
 }
 
-void Days::HandOnAutomatic() {
+void Days::UseAutomaticTab() {
   Open(screens::kAutomaticTab);
   screens::AutomaticScreen& tab = rig_.program->Automatic();
   const int row = static_cast<int>(Random(static_cast<unsigned>(tab.List2.Count())));
@@ -136,7 +136,7 @@ void Days::HandOnAutomatic() {
   counter_date_ = rig_.machine.GetSystem().clock.LongDate(rig_.machine.GetSystem().clock.Now());
 }
 
-void Days::HandOnTimeIntervals() {
+void Days::UseTimeIntervalsTab() {
   Open(screens::kTimeIntervalsTab);
   screens::TimeIntervalsScreen& tab = rig_.program->TimeIntervals();
   (Chance(4) ? tab.Option5 : tab.Option4).Press();
@@ -152,7 +152,7 @@ void Days::HandOnTimeIntervals() {
   }
 }
 
-void Days::HandOnReleases() {
+void Days::UseReleases() {
   Open(screens::kQuondixTab);
   screens::QuondixScreen& tab = rig_.program->Quondix();
   tab.VScroll1.Drag(static_cast<int>(1 + Random(4)));
@@ -166,7 +166,7 @@ void Days::HandOnReleases() {
   if (is_paused || Chance(3)) tab.Command3.Press();
 }
 
-void Days::HandOnSystem() {
+void Days::UseSystem() {
   Open(screens::kStartupTab);
   screens::StartupScreen& tab = rig_.program->Startup();
   tab.Slider7.Drag(static_cast<int>(1 + Random(5)));
@@ -179,7 +179,7 @@ void Days::HandOnSystem() {
   if (Chance(2)) (Chance(2) ? rig_.program->Quondix().Command2 : rig_.program->Quondix().Command4).Press();
 }
 
-void Days::HandOnTray() {
+void Days::UseTray() {
   constexpr double kMouseMoved = 512 * ui::kTwipsPerPixel;
   constexpr double kDoubleClick = 515 * ui::kTwipsPerPixel;
   rig_.program->Window().PointerMoved(0, 0, Chance(3) ? kDoubleClick : kMouseMoved, 0);

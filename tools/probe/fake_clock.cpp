@@ -1,4 +1,4 @@
-#include "played_clock.h"
+#include "fake_clock.h"
 
 // clang-format off
 #include <windows.h>

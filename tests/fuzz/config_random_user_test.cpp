@@ -3,8 +3,8 @@
 // prints its seed.
 #include <gtest/gtest.h>
 
-#include "tests/fuzz/random_hand.h"
 #include "tests/fuzz/random_list_maker.h"
+#include "tests/fuzz/random_user.h"
 #include "tests/unit/config_launcher/config_rig.h"
 
 namespace qdix::tests {
@@ -12,22 +12,22 @@ namespace {
 
 constexpr unsigned long kEvents = 12000;
 
-class ConfigHands : private RandomListMaker {
+class RandomConfigUser : private RandomListMaker {
  public:
   using RandomListMaker::RandomListMaker;
 
   unsigned long Run() {
     if (!Chance(4)) rig_.machine.WriteFile(kListPath, RandomFile());
     on_disk_ = rig_.ListOnDisk();
-    rig_.machine.WhileBoxIsOpen([this] { hand_.Answer(rig_.machine); });
+    rig_.machine.WhileBoxIsOpen([this] { actions_.Answer(rig_.machine); });
     rig_.Start();
-    hand_.Take(rig_.form->Window());
+    actions_.Collect(rig_.form->Window());
     for (unsigned long events = 0; events < kEventsPerRun; ++events) {
       Act();
       CheckInvariants();
       if (!rig_.form->Window().Unloaded()) continue;
       rig_.Restart();
-      hand_.Take(rig_.form->Window());
+      actions_.Collect(rig_.form->Window());
     }
     return kEventsPerRun;
   }
@@ -45,7 +45,7 @@ class ConfigHands : private RandomListMaker {
     if (Chance(4)) rig_.Type({Printable(RandomText(60)), Printable(RandomText(260)), ""});
     if (Chance(60)) rig_.form->Window().Close();
     if (Chance(60)) rig_.form->Window().PressEscape();
-    hand_.UseAny();
+    actions_.UseAny();
   }
 
   /// Another program may keep the session going: the window then stays open, whether the list was saved or
@@ -84,15 +84,15 @@ class ConfigHands : private RandomListMaker {
     EXPECT_EQ(rig_.machine.OpenFileCount(), 0);
     EXPECT_EQ(rig_.machine.OpenKeyCount(), 0);
     EXPECT_TRUE(rig_.machine.Misuses().empty());
-    rig_.machine.ForgetRecords();
+    rig_.machine.ClearRecords();
   }
 
   ConfigRig rig_;
-  RandomHand hand_{*this};
+  RandomActions actions_{*this};
   std::optional<std::string> on_disk_;
 };
 
-TEST(ConfigHands, KeepTheListCompleteAtEveryMoment) { RunHands<ConfigHands>(kEvents); }
+TEST(RandomConfigUser, KeepsTheListCompleteAtEveryMoment) { RunRandomUser<RandomConfigUser>(kEvents); }
 
 }  // namespace
 }  // namespace qdix::tests

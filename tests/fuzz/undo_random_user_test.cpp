@@ -5,7 +5,7 @@
 
 #include <array>
 
-#include "tests/fuzz/random_hand.h"
+#include "tests/fuzz/random_user.h"
 #include "tests/unit/undo/undo_rig.h"
 
 namespace qdix::tests {
@@ -22,13 +22,13 @@ constexpr std::array<const char*, 9> kFailingCalls{"WritePrivateProfileStringA",
                                                    "FindFirstFileA",
                                                    "ExitWindowsEx"};
 
-class UndoHands : private RandomSource {
+class RandomUndoUser : private RandomSource {
  public:
   using RandomSource::RandomSource;
 
   unsigned long Run() {
     FillMachine();
-    rig_.machine.WhileBoxIsOpen([this] { hand_.Answer(rig_.machine); });
+    rig_.machine.WhileBoxIsOpen([this] { actions_.Answer(rig_.machine); });
     Start();
     for (unsigned long events = 0; events < kEventsPerRun; ++events) {
       Act();
@@ -43,7 +43,7 @@ class UndoHands : private RandomSource {
     if (!Chance(8)) rig_.TakeRecord();
     if (!Chance(4)) rig_.Change();
     for (const char* name : {"MinFileCache", "PagingDrive", "PathCache"}) {
-      if (Chance(4)) rig_.SetRecord(name, hand_.SomeText());
+      if (Chance(4)) rig_.SetRecord(name, actions_.SomeText());
     }
     if (Chance(8)) rig_.machine.ProtectFile(kIniPath);
   }
@@ -51,23 +51,23 @@ class UndoHands : private RandomSource {
   void Start() {
     rig_.machine.EndProcess();
     rig_.Start();
-    hand_.Take(rig_.form->Window());
+    actions_.Collect(rig_.form->Window());
   }
 
   void Act() {
     if (Chance(10)) rig_.machine.FailNextCall(kFailingCalls[Random() % kFailingCalls.size()]);
     if (Chance(20)) rig_.machine.LimitFreeBytes(Random() % 100);
     if (Chance(20)) rig_.machine.LimitFreeBytes(1000000);
-    if (Chance(20)) rig_.machine.HoldFile(Chance(2) ? kIniPath : kBackupPath);
+    if (Chance(20)) rig_.machine.LockFile(Chance(2) ? kIniPath : kBackupPath);
     if (Chance(10)) {
-      rig_.machine.LetGoOfFile(kIniPath);
-      rig_.machine.LetGoOfFile(kBackupPath);
+      rig_.machine.UnlockFile(kIniPath);
+      rig_.machine.UnlockFile(kBackupPath);
     }
     // Another program changes a setting that this one restores.
     if (Chance(15)) rig_.SetTemplate(Chance(2) ? "Quondix" : "Desktop");
     if (Chance(60)) rig_.form->EndSession();
     if (Chance(60)) rig_.form->Window().Close();
-    hand_.UseAny();
+    actions_.UseAny();
   }
 
   void CheckInvariants() {
@@ -84,16 +84,16 @@ class UndoHands : private RandomSource {
     if (!rig_.form->Window().Unloaded()) {
       EXPECT_EQ(rig_.Screen().cmdPutBack.Enabled(), some_are_ticked);
     }
-    rig_.machine.ForgetRecords();
+    rig_.machine.ClearRecords();
   }
 
   using EntryRow = undo::EntryRow;
 
   UndoRig rig_;
-  RandomHand hand_{*this};
+  RandomActions actions_{*this};
 };
 
-TEST(UndoHands, LoseNothingAndTouchNoRecord) { RunHands<UndoHands>(kEvents); }
+TEST(RandomUndoUser, LosesNothingAndTouchesNoRecord) { RunRandomUser<RandomUndoUser>(kEvents); }
 
 }  // namespace
 }  // namespace qdix::tests
