@@ -11,8 +11,10 @@ struct AboutScreen {
 
   ui::Container& page;
 
+  /// The program's icon.
   ui::Picture imgProgram{page, {.name = "imgProgram", .place = {11, 11, 22, 20}}, kProgramPicture};
   ui::Label lblProduct{page, {.name = "lblProduct", .caption = "Q-DIX", .place = {40, 11, 24, 8}}};
+  /// The version, as in "v2.10".
   ui::Label lblVersion{page, {.name = "lblVersion", .place = {65, 11, 60, 8}}};
   ui::Label lblFor{
       page,

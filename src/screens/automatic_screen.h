@@ -32,13 +32,16 @@ struct AutomaticScreen {
                        .caption = "Free up memory when RAM drops below:",
                        .access_key = 'b',
                        .place = {11, 31, 136, 8}}};
+  /// Threshold of the automatic release, in megabytes of 1,024,000 bytes. VScroll2 changes it.
   ui::TextBox Text2{FrameAuto, {.name = "Text2", .tool_tip = kMinRamTip, .place = {150, 28, 26, 13}}};
+  /// Moves the threshold in Text2 by whole megabytes.
   ui::VerticalScrollBar VScroll2{
       FrameAuto, {.name = "VScroll2", .tool_tip = kMinRamTip, .place = {177, 28, 9, 13}}, kMinRamRange};
   ui::Label lblMinRamUnit{FrameAuto, {.name = "lblMinRamUnit", .caption = "MB", .place = {190, 31, 30, 8}}};
   ui::Label lblInterval{
       FrameAuto,
       {.name = "lblInterval", .caption = "Check RAM every:", .access_key = 'k', .place = {11, 48, 70, 8}}};
+  /// Seconds between two checks of the free memory.
   ui::ListBox List2{FrameAuto,
                     {.name = "List2", .tool_tip = "Intervals for monitoring RAM", .place = {11, 58, 60, 43}}};
   ui::Label lblSeconds{FrameAuto, {.name = "lblSeconds", .caption = "seconds", .place = {75, 58, 40, 8}}};
@@ -47,6 +50,7 @@ struct AutomaticScreen {
                            .caption = "Amount of RAM to Release:",
                            .access_key = 'm',
                            .place = {150, 48, 104, 8}}};
+  /// Amount of an automatic release, in megabytes of 1,040,000 bytes.
   ui::ListBox List4{FrameAuto, {.name = "List4", .tool_tip = kHalfRamTip, .place = {150, 58, 60, 43}}};
 
   ui::Frame FrameAutoCpu{page, {.name = "FrameAutoCpu", .caption = "CPU", .place = {4, 109, 260, 32}}};
@@ -55,6 +59,7 @@ struct AutomaticScreen {
                        .caption = "Don't perform automatic freeup unless CPU usage is below",
                        .access_key = 'u',
                        .place = {11, 122, 204, 10}}};
+  /// Processor load in percent from which automatic releases wait.
   ui::TextBox Text9{FrameAutoCpu, {.name = "Text9", .place = {218, 120, 24, 13}}};
   ui::Label lblAutoCpuUnit{FrameAutoCpu,
                            {.name = "lblAutoCpuUnit", .caption = "%", .place = {245, 122, 12, 8}}};

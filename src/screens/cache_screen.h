@@ -31,6 +31,7 @@ struct CacheScreen {
 
   ui::Label lblPreset{
       page, {.name = "lblPreset", .caption = "Preset :", .access_key = 'P', .place = {11, 6, 32, 8}}};
+  /// Presets of the disk cache; shows the one that the sliders match.
   ui::DropDownList Combo2{page,
                           {.name = "Combo2",
                            .tool_tip = "Sizes that suit a use of the computer, worked out from its memory",
@@ -50,6 +51,7 @@ struct CacheScreen {
                          .access_key = 'M',
                          .place = {11, 32, 190, 8},
                          .enabled = false}};
+  /// MinFileCache, in KB.
   ui::Slider Slider1{
       FrameCache, {.name = "Slider1", .place = {8, 41, 250, 18}, .enabled = false}, kCacheSizeRange};
   ui::CheckBox Check6{FrameCache,
@@ -64,6 +66,7 @@ struct CacheScreen {
                          .access_key = 'x',
                          .place = {11, 62, 190, 8},
                          .enabled = false}};
+  /// MaxFileCache, in KB.
   ui::Slider Slider2{
       FrameCache, {.name = "Slider2", .place = {8, 71, 250, 18}, .enabled = false}, kCacheSizeRange};
   ui::CheckBox Check7{FrameCache,
@@ -78,6 +81,7 @@ struct CacheScreen {
                           .access_key = 'C',
                           .place = {11, 92, 190, 8},
                           .enabled = false}};
+  /// ChunkSize, in KB.
   ui::Slider Slider3{
       FrameCache, {.name = "Slider3", .place = {8, 101, 250, 18}, .enabled = false}, kChunkRange};
 
@@ -95,6 +99,7 @@ struct CacheScreen {
                           .access_key = 'N',
                           .place = {11, 147, 116, 8},
                           .enabled = false}};
+  /// NameCache, in entries.
   ui::Slider Slider4{
       FrameFileCache, {.name = "Slider4", .place = {8, 156, 122, 18}, .enabled = false}, kNameCacheRange};
   ui::Label lblDirectoryCache{FrameFileCache,
@@ -103,6 +108,7 @@ struct CacheScreen {
                                .access_key = 'D',
                                .place = {139, 147, 116, 8},
                                .enabled = false}};
+  /// PathCache, in entries.
   ui::Slider Slider5{FrameFileCache,
                      {.name = "Slider5", .place = {136, 156, 122, 18}, .enabled = false},
                      kDirectoryCacheRange};

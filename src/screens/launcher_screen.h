@@ -16,6 +16,7 @@ struct LauncherScreen {
 
   ui::Label lblPrograms{
       page, {.name = "lblPrograms", .caption = "Programs :", .access_key = 'P', .place = {5, 4, 90, 8}}};
+  /// Programs of the launcher, in the order of its file.
   ui::ListBox List5{
       page, {.name = "List5", .tool_tip = "Double click a program to launch", .place = {4, 14, 96, 146}}};
   ui::Button Command15{page,

@@ -41,6 +41,7 @@ struct MainWindow {
 
   ui::EventDispatcher& events;
   ui::Form Form1{events, {.name = "Form1", .caption = "Q-DIX", .place = {0, 0, 280, 238}}};
+  /// The tabs. Each page is a screen of its own.
   ui::TabStrip SSTab1{Form1, {.name = "SSTab1", .place = {3, 3, 274, 232}}, kTabPages};
 
   /// Refreshes the display.

@@ -22,15 +22,21 @@ struct QuondixScreen {
   ui::Container& page;
 
   ui::Frame FrameMemory{page, {.name = "FrameMemory", .caption = "Memory", .place = {4, 2, 260, 66}}};
+  /// Total physical memory.
   ui::Label lblTotalMem{FrameMemory, {.name = "lblTotalMem", .place = {11, 13, 244, 8}}};
+  /// Available share of the physical memory.
   controls::Meter3 Gauge1{FrameMemory, {.name = "Gauge1", .place = {11, 22, 107, 13}}};
+  /// The share of Gauge1 as text.
   ui::Label lblPercentFree{FrameMemory, {.name = "lblPercentFree", .place = {124, 24, 131, 8}}};
+  /// Size of the swap file.
   ui::Label lblSwapfile{FrameMemory, {.name = "lblSwapfile", .place = {11, 41, 244, 8}}};
+  /// Used share of the swap file.
   controls::Meter3 Gauge2{FrameMemory, {.name = "Gauge2", .place = {11, 50, 107, 13}}};
   ui::Label lblSwapfileUsed{FrameMemory,
                             {.name = "lblSwapfileUsed", .caption = "%  Used", .place = {124, 52, 131, 8}}};
 
   ui::Frame FrameCpu{page, {.name = "FrameCpu", .caption = "CPU Usage", .place = {4, 70, 260, 61}}};
+  /// Processor load, a bar per reading. A release adds a full bar.
   controls::XGraphMeter XGraphMeter1{FrameCpu,
                                      {.name = "XGraphMeter1", .place = {11, 82, 132, 42}},
                                      {.back_colour = ui::kMenuBackground, .fore_colour = 0x000000FFU}};
@@ -43,11 +49,14 @@ struct QuondixScreen {
   ui::Label lblAmount{
       FrameRelease,
       {.name = "lblAmount", .caption = "Amount of RAM:", .access_key = 'A', .place = {11, 144, 56, 8}}};
+  /// Amount of a manual release, in megabytes of 1,040,000 bytes.
   ui::ListBox List1{FrameRelease, {.name = "List1", .place = {11, 154, 56, 43}}};
   ui::Label lblRetries{
       FrameRelease,
       {.name = "lblRetries", .caption = "Number of Retrys", .access_key = 'R', .place = {76, 144, 82, 8}}};
+  /// Passes of a release, 1 to 20. VScroll1 changes it.
   ui::TextBox Text1{FrameRelease, {.name = "Text1", .tool_tip = kTryTimesTip, .place = {76, 154, 26, 13}}};
+  /// Moves the number in Text1.
   ui::VerticalScrollBar VScroll1{FrameRelease,
                                  {.name = "VScroll1", .tool_tip = kTryTimesTip, .place = {103, 154, 9, 13}},
                                  kTryTimesRange};

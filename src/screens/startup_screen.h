@@ -38,13 +38,16 @@ struct StartupScreen {
                               .caption = "Amount of RAM to Release:",
                               .access_key = 'A',
                               .place = {11, 32, 92, 8}}};
+  /// Amount of the release after start-up, in megabytes of 1,040,000 bytes.
   ui::DropDownList Combo1{FrameStartup, {.name = "Combo1", .place = {106, 30, 60, 80}}};
   ui::Label lblStartupTime{FrameStartup,
                            {.name = "lblStartupTime",
                             .caption = "Wait before freeing up RAM:",
                             .access_key = 'W',
                             .place = {11, 49, 92, 8}}};
+  /// Delay of the release after start-up, in seconds. VScroll3 changes it.
   ui::TextBox Text3{FrameStartup, {.name = "Text3", .tool_tip = kStartupTimeTip, .place = {106, 47, 30, 13}}};
+  /// Moves the number in Text3.
   ui::VerticalScrollBar VScroll3{FrameStartup,
                                  {.name = "VScroll3", .tool_tip = kStartupTimeTip, .place = {137, 47, 9, 13}},
                                  kStartupTimeRange};
@@ -64,6 +67,7 @@ struct StartupScreen {
 
   ui::Frame FrameGraph{
       page, {.name = "FrameGraph", .caption = "CPU Graph Update Interval", .place = {138, 69, 126, 54}}};
+  /// Ticks of the display timer between two bars of the graph; 1 is "Faster".
   ui::Slider Slider7{FrameGraph,
                      {.name = "Slider7", .place = {145, 82, 112, 20}},
                      {.minimum = 1, .maximum = 5, .value = 1, .small_change = 1, .large_change = 1}};

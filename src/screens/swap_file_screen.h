@@ -41,13 +41,16 @@ struct SwapFileScreen {
   ui::Label lblHardDisk{
       Frame11,
       {.name = "lblHardDisk", .caption = "Hard Disk :", .access_key = 'H', .place = {11, 71, 52, 8}}};
+  /// Drives for the swap file.
   ui::DropDownList Combo3{
       Frame11,
       {.name = "Combo3", .tool_tip = "The disk that the swap file is kept on", .place = {66, 69, 110, 90}}};
   ui::Label lblSwapSize{
       Frame11,
       {.name = "lblSwapSize", .caption = "Swapfile Size :", .access_key = 'z', .place = {11, 88, 52, 8}}};
+  /// Size of the swap file, in megabytes of 1,024 KB. VScroll4 changes it.
   ui::TextBox Text8{Frame11, {.name = "Text8", .tool_tip = kSwapSizeTip, .place = {66, 86, 50, 13}}};
+  /// Moves the size in Text8.
   ui::VerticalScrollBar VScroll4{
       Frame11, {.name = "VScroll4", .tool_tip = kSwapSizeTip, .place = {117, 86, 9, 13}}, kSwapSizeRange};
   ui::Label lblSwapUnit{Frame11, {.name = "lblSwapUnit", .caption = "MB", .place = {130, 88, 20, 8}}};

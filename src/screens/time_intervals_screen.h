@@ -20,6 +20,7 @@ struct TimeIntervalsScreen {
   ui::Label lblUnit{
       FrameTime,
       {.name = "lblUnit", .caption = "Release RAM every:", .access_key = 'R', .place = {11, 32, 66, 8}}};
+  /// Interval of the timed release, in the unit that is selected beside it.
   ui::ListBox lstTime{
       FrameTime,
       {.name = "lstTime", .tool_tip = "Time interval at which RAM is Released", .place = {11, 42, 60, 51}}};
@@ -33,7 +34,9 @@ struct TimeIntervalsScreen {
                            .caption = "Amount of RAM to Release:",
                            .access_key = 'm',
                            .place = {150, 32, 104, 8}}};
+  /// Amount of a timed release, in megabytes of 1,040,000 bytes.
   ui::ListBox List3{FrameTime, {.name = "List3", .tool_tip = kHalfRamTip, .place = {150, 42, 60, 51}}};
+  /// When the next release is due.
   ui::Label lblNextRelease{FrameTime,
                            {.name = "lblNextRelease", .place = {11, 100, 244, 8}, .visible = false}};
 
@@ -43,6 +46,7 @@ struct TimeIntervalsScreen {
                         .caption = "Don't perform time freeup unless CPU usage is below",
                         .access_key = 'u',
                         .place = {11, 130, 204, 10}}};
+  /// Processor load in percent from which timed releases wait.
   ui::TextBox Text10{FrameTimeCpu, {.name = "Text10", .place = {218, 128, 24, 13}}};
   ui::Label lblTimeCpuUnit{FrameTimeCpu,
                            {.name = "lblTimeCpuUnit", .caption = "%", .place = {245, 130, 12, 8}}};
