@@ -55,7 +55,6 @@ void EntryList::Show() {
                             (has_system_ini || !kEntries[row].IsInSystemIni());
     ShowRow(row);
   }
-  base::Ignore(Box_Click());
 }
 
 void EntryList::ShowRow(std::size_t row) {

@@ -127,6 +127,8 @@ TEST_F(ModuleRegistry, SetValueExWritesOnlyTextsAndNumbers) {
   EXPECT_EQ(registry.SetValueEx(key, "V", os::kRegDword, "-2"), os::kErrorSuccess);
   EXPECT_EQ(Stored()->type, os::kRegDword);
   EXPECT_EQ(Stored()->bytes, "\xFE\xFF\xFF\xFF");
+  EXPECT_EQ(registry.SetValueEx(key, "V", os::kRegDword, "2147483648"), os::kErrorSuccess);
+  EXPECT_EQ(Stored()->bytes, std::string(4, '\0')) << "too large for a 32-bit number";
   EXPECT_EQ(registry.SetValueEx(key, "V", os::kRegBinary, "7"), os::kErrorSuccess);
   EXPECT_EQ(Stored()->type, os::kRegDword) << "the value was not written";
   machine.FailNextCall("RegSetValueExA");

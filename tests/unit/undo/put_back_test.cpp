@@ -266,6 +266,16 @@ TEST_F(PutBack, BlanksAndQuotationMarksOfAValueAreRestored) {
   EXPECT_EQ(other.machine.Boxes().size(), 2U) << "there is nothing left to put back";
 }
 
+TEST_F(PutBack, DoubleQuotationMarksInsideQuotationMarksAreRestored) {
+  UndoRig other("[boot]\r\n[386Enh]\r\nPagingDrive=\"\"D:\"\"\r\n");
+  const std::string before = other.Ini();
+  other.TakeRecord();
+  other.machine.WriteFile(kIniPath, "[boot]\r\n[386Enh]\r\nPagingDrive=C:\r\n");
+  other.Start();
+  ConfirmPutBack(other);
+  EXPECT_EQ(other.Ini(), before);
+}
+
 TEST_F(PutBack, TextEqualToTheDefaultIsAnOrdinaryEntry) {
   for (const char* const text : {"(missing)", "(none)"}) {
     UndoRig other("[boot]\r\n[386Enh]\r\nPagingDrive=" + std::string(text) + "\r\n");
