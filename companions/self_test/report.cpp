@@ -7,7 +7,7 @@ namespace qdix::self_test {
 
 namespace {
 
-/// Names of facts and checks are padded to these columns.
+/// Names of facts, and of checks and questions, are padded to these columns.
 constexpr std::size_t kFactColumn = 20;
 constexpr std::size_t kCheckColumn = 48;
 
@@ -47,16 +47,21 @@ void Report::Fact(std::string_view name, std::string_view value) {
 
 void Report::Begin(std::string_view name) {
   Write(FilledUp(name, kCheckColumn, '.'));
-  check_began_ = clock_.GetTickCount();
+  line_began_ = clock_.GetTickCount();
 }
 
 void Report::End(const Outcome& outcome) {
-  const std::string time = MsSince(check_began_);
+  const std::string time = MsSince(line_began_);
   ++checks_;
   if (!outcome.is_ok) ++failures_;
   std::string result = outcome.is_ok ? "ok" : "FAILED: " + outcome.remark;
   if (outcome.is_ok && !outcome.remark.empty()) result += " (" + outcome.remark + ")";
   Line(result + ", " + time);
+}
+
+void Report::Answer(const std::string& answer) {
+  const std::string time = MsSince(line_began_);
+  Line("answer: " + answer + ", " + time);
 }
 
 void Report::Finish() {

@@ -1,5 +1,6 @@
-// The log of a run: facts about the machine, one line per check, the totals. Every part is written to the
-// disk at once: if the machine hangs or crashes, the log ends with the name of the check that caused it.
+// The log of a run: facts about the machine, one line per check or question, the totals. Every part is
+// written to the disk at once: if the machine hangs or crashes, the log ends with the name of the check or
+// question that caused it.
 #pragma once
 
 #include <cstdint>
@@ -36,7 +37,16 @@ class Report {
     End(check());
   }
 
-  /// Writes the totals. Call once, at the end.
+  /// Asks the system a question that has no wrong answer, and writes its line: name, answer, time in
+  /// milliseconds. `question` takes no arguments and returns the answer as text. It does not count as a
+  /// check.
+  template <class Question>
+  void Ask(std::string_view name, const Question& question) {
+    Begin(name);
+    Answer(question());
+  }
+
+  /// Writes the totals of the checks. Call once, at the end.
   void Finish();
 
   [[nodiscard]] int Checks() const { return checks_; }
@@ -48,6 +58,7 @@ class Report {
   [[nodiscard]] bool Opens(const std::string& path);
   void Begin(std::string_view name);
   void End(const Outcome& outcome);
+  void Answer(const std::string& answer);
   void Write(std::string_view text);
   [[nodiscard]] std::string MsSince(std::uint32_t tick) const;
 
@@ -56,7 +67,7 @@ class Report {
   std::string path_;
   os::FileHandle file_ = os::kInvalidFile;
   std::uint32_t run_began_;
-  std::uint32_t check_began_ = 0;
+  std::uint32_t line_began_ = 0;
   int checks_ = 0;
   int failures_ = 0;
   bool is_incomplete_ = false;

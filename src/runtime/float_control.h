@@ -10,6 +10,13 @@ inline void SetFloatingPointControl() {
   asm volatile("fldcw %0" ::"m"(kControlWord));
 }
 
+/// Returns the control word.
+[[nodiscard]] inline unsigned short FloatingPointControl() {
+  unsigned short word = 0;
+  asm volatile("fnstcw %0" : "=m"(word));
+  return word;
+}
+
 /// Sets the control word again at the end of its scope. For calls that run code of other programs or drivers.
 class FloatingPointKeeper {
  public:

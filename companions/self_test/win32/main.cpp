@@ -7,11 +7,13 @@
 #include "base/numbers.h"
 #include "os/win32/win32_system.h"
 #include "runtime/entry.h"
+#include "self_test/profile_questions.h"
 #include "self_test/reading_checks.h"
 #include "self_test/win32/drawing_checks.h"
 #include "self_test/win32/machine_facts.h"
 #include "self_test/win32/own_places.h"
 #include "self_test/win32/round_trip_checks.h"
+#include "self_test/win32/system_questions.h"
 #include "self_test/win32/window_checks.h"
 #include "shell/application_folder.h"
 #include "shell/registry_key.h"
@@ -43,7 +45,10 @@ class SelfTest {
     RunReadingChecks(report_, real, places_.Places().folder);
     RunDrawingChecks(report_);
     RunPrograms();
+    AskAboutProfileFiles(report_, real.profile_files, real.files, places_.Places().folder);
     report_.Run("Removing the test key and folder", [this] { return places_.Remove(); });
+    // Last: if one of these calls brings a system down, the checks are in the log and nothing is left behind.
+    questions::AskAboutSystem(report_);
     report_.Finish();
   }
 

@@ -35,9 +35,19 @@ Outcome OpenTab(OpenProgram<app::Form1>& open, int tab) {
   return opened.Ok() ? open.Walk() : Outcome::Failed(opened.Error().Description());
 }
 
+/// Says whose window is in front while ours is shown.
+std::string Foreground() {
+  HWND const front = GetForegroundWindow();
+  if (front == nullptr) return "none";
+  DWORD process = 0;
+  GetWindowThreadProcessId(front, &process);
+  return process == GetCurrentProcessId() ? "of this program" : "of another program";
+}
+
 void CheckMainProgram(const Bench& bench) {
   auto open = std::make_unique<OpenProgram<app::Form1>>(bench);
   bench.report.Run("QDIX: start", [&open] { return open->Start(); });
+  bench.report.Ask("QDIX: foreground window", &Foreground);
   int tab = 0;
   for (const ui::Design& page : screens::kTabPages) {
     bench.report.Run(std::string("QDIX: tab \"") + page.caption + "\"",

@@ -45,6 +45,25 @@ TEST_F(SelfTestReport, EachCheckHasALineWithResultAndTime) {
             "3 checks, 2 ok, 1 failed, 55 ms\r\n");
 }
 
+TEST_F(SelfTestReport, QuestionHasALineWithItsAnswerAndIsNoCheck) {
+  Make();
+  report->Run("One", [] { return Outcome::Ok(); });
+  report->Ask("Two", [this] {
+    EXPECT_TRUE(
+        machine.ReadFile(kPath).value_or("").ends_with("Two ............................................ "));
+    machine.AdvanceMs(7);
+    return std::string("refused (error 123)");
+  });
+  report->Finish();
+  EXPECT_EQ(report->Checks(), 1);
+  EXPECT_EQ(report->Failures(), 0);
+  EXPECT_EQ(machine.ReadFile(kPath),
+            "One ............................................ ok, 0 ms\r\n"
+            "Two ............................................ answer: refused (error 123), 7 ms\r\n"
+            "\r\n"
+            "1 checks, 1 ok, 0 failed, 7 ms\r\n");
+}
+
 TEST_F(SelfTestReport, NameIsOnTheDiskBeforeTheCheckBegins) {
   Make();
   report->Run("Hangs", [this] {

@@ -1,0 +1,64 @@
+#include <windows.h>
+// shellapi.h needs windows.h first.
+#include <shellapi.h>
+
+#include <array>
+
+#include "os/win32/shortcut_object.h"
+#include "runtime/float_control.h"
+#include "self_test/answer_texts.h"
+#include "self_test/win32/library_function.h"
+#include "self_test/win32/system_questions.h"
+
+namespace qdix::self_test::win32::questions {
+
+namespace {
+
+DWORD WINAPI ReadInNewThread(void* word) {
+  *static_cast<unsigned short*>(word) = runtime::FloatingPointControl();
+  return 0;
+}
+
+/// Our own thread has had its word set by the start of the program.
+std::string OfNewThread() {
+  unsigned short word = 0;
+  DWORD number = 0;
+  HANDLE const thread = CreateThread(nullptr, 0, &ReadInNewThread, &word, 0, &number);
+  if (thread == nullptr) return "no thread";
+  WaitForSingleObject(thread, INFINITE);
+  CloseHandle(thread);
+  return Hex(word, 4);
+}
+
+/// Makes a call with our control word and returns the one it leaves. Restores ours.
+std::string WordAfter(void (*call)()) {
+  const runtime::FloatingPointKeeper keeper;
+  runtime::SetFloatingPointControl();
+  call();
+  return Hex(runtime::FloatingPointControl(), 4);
+}
+
+void LoadCommonDialogs() { const LoadedLibrary library("comdlg32.dll"); }
+void LoadPrinting() { const LoadedLibrary library("winspool.drv"); }
+
+void GetFileInfo() {
+  std::array<char, MAX_PATH> path{};
+  SHFILEINFOA info{};
+  GetModuleFileNameA(nullptr, path.data(), path.size());
+  SHGetFileInfoA(path.data(), 0, &info, sizeof info, SHGFI_DISPLAYNAME | SHGFI_TYPENAME);
+}
+
+void MakeObject() { const os::win32::ShortcutObject shortcut; }
+
+constexpr std::array<Question, 5> kQuestions{
+    {{"Control word of a new thread", &OfNewThread},
+     {"Control word after loading comdlg32.dll", [] { return WordAfter(&LoadCommonDialogs); }},
+     {"Control word after loading winspool.drv", [] { return WordAfter(&LoadPrinting); }},
+     {"Control word after SHGetFileInfo", [] { return WordAfter(&GetFileInfo); }},
+     {"Control word after a COM object", [] { return WordAfter(&MakeObject); }}}};
+
+}  // namespace
+
+std::span<const Question> AboutControlWord() { return kQuestions; }
+
+}  // namespace qdix::self_test::win32::questions

@@ -1,0 +1,83 @@
+#include <windows.h>
+
+#include <array>
+
+#include "base/numbers.h"
+#include "os/win32/no_disk_request.h"
+#include "self_test/answer_texts.h"
+#include "self_test/win32/library_function.h"
+#include "self_test/win32/system_questions.h"
+
+namespace qdix::self_test::win32::questions {
+
+namespace {
+
+using ExtendedQuery = BOOL(WINAPI*)(const char*, ULARGE_INTEGER*, ULARGE_INTEGER*, ULARGE_INTEGER*);
+
+ExtendedQuery FindExtendedQuery() {
+  return FindFunction<ExtendedQuery>(GetModuleHandleA("kernel32.dll"), "GetDiskFreeSpaceExA");
+}
+
+/// Returns what `answer` says about the root of the Windows drive, then about the same text without the
+/// backslash.
+std::string WithAndWithoutBackslash(std::string (*answer)(const char* root)) {
+  std::array<char, MAX_PATH> root{};
+  AnswerList answers;
+  if (GetWindowsDirectoryA(root.data(), root.size()) >= root.size()) return answers.Text();
+  for (const std::size_t length : {3, 2}) {
+    root[length] = '\0';
+    answers.Add({root.data(), " ", answer(root.data())});
+  }
+  return answers.Text();
+}
+
+/// Makes a query that returns whether it succeeded.
+std::string Outcome(BOOL (*query)(const char* root), const char* root) {
+  const os::win32::NoDiskRequest quiet;
+  SetLastError(ERROR_SUCCESS);
+  if (query(root) != FALSE) return "succeeded";
+  return "refused (error " + base::ShortestText(GetLastError()) + ")";
+}
+
+BOOL QueryExtended(const char* root) {
+  ULARGE_INTEGER ignored{};
+  return FindExtendedQuery()(root, &ignored, &ignored, &ignored);
+}
+
+BOOL QuerySpace(const char* root) {
+  DWORD ignored = 0;
+  return GetDiskFreeSpaceA(root, &ignored, &ignored, &ignored, &ignored);
+}
+
+BOOL QueryVolume(const char* root) {
+  DWORD flags = 0;
+  return GetVolumeInformationA(root, nullptr, 0, nullptr, nullptr, &flags, nullptr, 0);
+}
+
+std::string ExtendedSpace() {
+  if (FindExtendedQuery() == nullptr) return "no such function";
+  return WithAndWithoutBackslash([](const char* root) { return Outcome(&QueryExtended, root); });
+}
+
+std::string Space() {
+  return WithAndWithoutBackslash([](const char* root) { return Outcome(&QuerySpace, root); });
+}
+
+std::string Volume() {
+  return WithAndWithoutBackslash([](const char* root) { return Outcome(&QueryVolume, root); });
+}
+
+std::string Type() {
+  return WithAndWithoutBackslash([](const char* root) { return base::ShortestText(GetDriveTypeA(root)); });
+}
+
+constexpr std::array<Question, 4> kQuestions{{{"Drive: GetDiskFreeSpaceEx", &ExtendedSpace},
+                                              {"Drive: GetDiskFreeSpace", &Space},
+                                              {"Drive: GetVolumeInformation", &Volume},
+                                              {"Drive: GetDriveType", &Type}}};
+
+}  // namespace
+
+std::span<const Question> AboutDrives() { return kQuestions; }
+
+}  // namespace qdix::self_test::win32::questions
