@@ -168,7 +168,6 @@ constexpr Answer kAnswers[] = {
     {"Control word of a new thread", kOurControlWord},
     {"Control word after loading comdlg32.dll", kOurControlWord},
     {"Control word after loading winspool.drv", kOurControlWord},
-    {"Control word after SHGetFileInfo", kOurControlWord},
     {"Control word after a COM object", kOurControlWord},
 };
 

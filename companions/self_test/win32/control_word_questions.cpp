@@ -1,6 +1,4 @@
 #include <windows.h>
-// shellapi.h needs windows.h first.
-#include <shellapi.h>
 
 #include <array>
 
@@ -41,20 +39,12 @@ std::string WordAfter(void (*call)()) {
 void LoadCommonDialogs() { const LoadedLibrary library("comdlg32.dll"); }
 void LoadPrinting() { const LoadedLibrary library("winspool.drv"); }
 
-void GetFileInfo() {
-  std::array<char, MAX_PATH> path{};
-  SHFILEINFOA info{};
-  GetModuleFileNameA(nullptr, path.data(), path.size());
-  SHGetFileInfoA(path.data(), 0, &info, sizeof info, SHGFI_DISPLAYNAME | SHGFI_TYPENAME);
-}
-
 void MakeObject() { const os::win32::ShortcutObject shortcut; }
 
-constexpr std::array<Question, 5> kQuestions{
+constexpr std::array<Question, 4> kQuestions{
     {{"Control word of a new thread", &OfNewThread},
      {"Control word after loading comdlg32.dll", [] { return WordAfter(&LoadCommonDialogs); }},
      {"Control word after loading winspool.drv", [] { return WordAfter(&LoadPrinting); }},
-     {"Control word after SHGetFileInfo", [] { return WordAfter(&GetFileInfo); }},
      {"Control word after a COM object", [] { return WordAfter(&MakeObject); }}}};
 
 }  // namespace
