@@ -52,7 +52,7 @@ class Boxes {
     return answer == os::kIdYes ? Choice::kYes : Choice::kNo;
   }
 
-  void Tell(const std::string& message) {
+  void Show(const std::string& message) {
     const Opened opened(*this);
     system_.dialogs.MessageBoxA(message, application_.Title(), os::kMbOk | os::kMbIconExclamation);
   }

@@ -42,7 +42,7 @@ base::Status Browse::cmdBrowseStartIn_Click() {
   }
   if (folder.empty() || screen_.Window.Unloaded()) return base::kDone;
   if (folder.size() > launcher::kStartInWidth) {
-    boxes_.Tell("This path is too long. The list takes paths of 255 characters at most.");
+    boxes_.Show("This path is too long. The list takes paths of 255 characters at most.");
     return base::kDone;
   }
   screen_.txtStartIn.SetText(folder);

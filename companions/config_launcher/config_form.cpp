@@ -53,7 +53,7 @@ void ConfigForm::Start() {
   }
   const FoundList found = file_.Read();
   if (!found.is_readable) {
-    boxes_.Tell(
+    boxes_.Show(
         "The list of programs could not be read.\r\n\r\nPlease make sure that no other program has "
         "launcher.dat open, and start Config Launcher again.");
     screen_.Window.Unload();
@@ -63,7 +63,7 @@ void ConfigForm::Start() {
   screen_.Window.Show();
   const std::string remarks = Remarks(found);
   if (!remarks.empty()) {
-    boxes_.Tell("There are problems with the list of programs (launcher.dat):\r\n\r\n" + remarks +
+    boxes_.Show("There are problems with the list of programs (launcher.dat):\r\n\r\n" + remarks +
                 "\r\nThe file does not change until you save the list.");
   }
 }
@@ -102,7 +102,7 @@ bool ConfigForm::SaveList() {
     return false;
   }
   if (entry_list_.Entries().size() > launcher::kMaxEntries) {
-    boxes_.Tell(
+    boxes_.Show(
         "The launcher takes 25 programs at most.\r\n\r\nPlease remove some before you save the list.");
     return false;
   }
@@ -111,7 +111,7 @@ bool ConfigForm::SaveList() {
     entry_list_.WasSaved();
     return true;
   }
-  boxes_.Tell(std::string("The list of programs could not be saved.\r\n\r\n") +
+  boxes_.Show(std::string("The list of programs could not be saved.\r\n\r\n") +
               (saved == Saved::kNo ? "Your previous list has not been changed."
                                    : "Your previous list is in launcher.bak.") +
               " Please make sure that the disk is neither full nor write-protected and that no other program "
@@ -134,7 +134,7 @@ bool ConfigForm::HasUnsavedChanges() const {
 }
 
 void ConfigForm::ReportUntrapped(const base::RuntimeError& error) {
-  boxes_.Tell(base::UntrappedErrorText(error));
+  boxes_.Show(base::UntrappedErrorText(error));
   screen_.Window.Unload();
 }
 

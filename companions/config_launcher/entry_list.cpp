@@ -131,17 +131,17 @@ void EntryList::StartNew(LauncherEntry entry) {
 
 bool EntryList::CanBeUsed(const LauncherEntry& entry) {
   if (entry.name.empty()) {
-    boxes_.Tell("Please type a name for the program.");
+    boxes_.Show("Please type a name for the program.");
     screen_.txtName.SetFocus();
     return false;
   }
   if (IsDividingLine(entry.name)) {
-    boxes_.Tell("The menu shows the name \"-\" as a dividing line.\r\n\r\nPlease type another name.");
+    boxes_.Show("The menu shows the name \"-\" as a dividing line.\r\n\r\nPlease type another name.");
     screen_.txtName.SetFocus();
     return false;
   }
   if (entry.path.empty()) {
-    boxes_.Tell("Please type a command line, or press \"Browse...\" to find the program.");
+    boxes_.Show("Please type a command line, or press \"Browse...\" to find the program.");
     screen_.txtPath.SetFocus();
     return false;
   }
@@ -166,7 +166,7 @@ bool EntryList::MayAdd(const LauncherEntry& entry) {
 
 bool EntryList::HasRoom() {
   if (entries_.size() < launcher::kMaxEntries) return true;
-  boxes_.Tell("The launcher takes 25 programs at most.\r\n\r\nPlease remove one before you add another.");
+  boxes_.Show("The launcher takes 25 programs at most.\r\n\r\nPlease remove one before you add another.");
   return false;
 }
 
@@ -239,7 +239,7 @@ void EntryList::AddFiles(const std::vector<std::string>& paths) {
     if (!keeps_fields) FillFields();
   }
   picked.Report(boxes_);
-  if (!has_room) boxes_.Tell("The launcher takes 25 programs at most. Not all files were added.");
+  if (!has_room) boxes_.Show("The launcher takes 25 programs at most. Not all files were added.");
 }
 
 }  // namespace qdix::config_launcher

@@ -55,13 +55,13 @@ bool PickedFiles::CanBeStarted(const std::string& path) const {
 
 void PickedFiles::Report(Boxes& boxes) const {
   if (!refused_.Empty()) {
-    boxes.Tell(
+    boxes.Show(
         "These files were not added. They are not programs or shortcuts to programs, or their paths are too "
         "long:\r\n\r\n" +
         refused_.Text());
   }
   if (!without_folder_.Empty()) {
-    boxes.Tell(
+    boxes.Show(
         "The launcher cannot use a network folder that has no drive letter. \"Start In:\" was left empty for "
         "these programs:\r\n\r\n" +
         without_folder_.Text());

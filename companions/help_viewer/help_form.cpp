@@ -102,7 +102,8 @@ base::Status HelpForm::cmdPrint_Click() {
     devices_.printer.DeleteDC();
   }
   if (!is_printed && !screen_.Window.Unloaded()) {
-    Tell("The topic could not be printed.\r\n\r\nPlease make sure that a printer is installed and ready.");
+    ShowMessage(
+        "The topic could not be printed.\r\n\r\nPlease make sure that a printer is installed and ready.");
   }
   return base::kDone;
 }
@@ -110,14 +111,14 @@ base::Status HelpForm::cmdPrint_Click() {
 base::Status HelpForm::cmdCopy_Click() {
   screen_.paneTopic.SetFocus();
   if (!devices_.clipboard.SetClipboardData(PlainText(screen_.paneTopic.Shown()))) {
-    Tell(
+    ShowMessage(
         "The topic could not be copied.\r\n\r\nAnother program may be using the clipboard. Please try "
         "again.");
   }
   return base::kDone;
 }
 
-void HelpForm::Tell(const std::string& message) const {
+void HelpForm::ShowMessage(const std::string& message) const {
   system_.dialogs.MessageBoxA(message, application_.Title(), os::kMbOk | os::kMbIconExclamation);
 }
 
@@ -137,7 +138,7 @@ base::Status HelpForm::Unload() {
 }
 
 void HelpForm::ReportUntrapped(const base::RuntimeError& error) {
-  Tell(base::UntrappedErrorText(error));
+  ShowMessage(base::UntrappedErrorText(error));
   screen_.Window.Unload();
 }
 

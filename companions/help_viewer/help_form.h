@@ -68,7 +68,7 @@ class HelpForm {
   void Bind();
   void CloseOtherViewers() const;
   void ShowSide(Side side);
-  void Tell(const std::string& message) const;
+  void ShowMessage(const std::string& message) const;
   base::Status Arrange();
   base::Status Close();
   base::Status Unload();

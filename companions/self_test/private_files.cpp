@@ -6,7 +6,7 @@
 
 namespace qdix::self_test {
 
-bool LiesIn(std::string_view folder, std::string_view path) {
+bool IsInFolder(std::string_view folder, std::string_view path) {
   const std::size_t last = path.rfind('\\');
   if (last == std::string_view::npos || last + 1 == path.size()) return false;
   return base::EqualsIgnoringCase(path.substr(0, last), folder);
@@ -20,7 +20,7 @@ std::uint32_t PrivateFiles::GetWindowsDirectoryA(char* buffer, std::uint32_t siz
 }
 
 bool PrivateFiles::CopyFileA(const char* from, const char* to) {
-  return LiesIn(folder_, to) && real_.CopyFileA(from, to);
+  return IsInFolder(folder_, to) && real_.CopyFileA(from, to);
 }
 
 std::uint32_t PrivateFiles::GetFileAttributesA(const char* path) { return real_.GetFileAttributesA(path); }
@@ -31,7 +31,7 @@ bool PrivateFiles::FindFirstFileA(const char* path, os::FoundFile& found) {
 
 os::FileHandle PrivateFiles::CreateFileA(const char* path, std::uint32_t access, std::uint32_t disposition) {
   const bool changes = access != os::kGenericRead || disposition != os::kOpenExisting;
-  if (changes && !LiesIn(folder_, path)) return os::kInvalidFile;
+  if (changes && !IsInFolder(folder_, path)) return os::kInvalidFile;
   return real_.CreateFileA(path, access, disposition);
 }
 
@@ -52,10 +52,12 @@ bool PrivateFiles::WriteFile(os::FileHandle file, const char* bytes, std::uint32
 bool PrivateFiles::FlushFileBuffers(os::FileHandle file) { return real_.FlushFileBuffers(file); }
 
 bool PrivateFiles::MoveFileA(const char* from, const char* to) {
-  return LiesIn(folder_, from) && LiesIn(folder_, to) && real_.MoveFileA(from, to);
+  return IsInFolder(folder_, from) && IsInFolder(folder_, to) && real_.MoveFileA(from, to);
 }
 
-bool PrivateFiles::DeleteFileA(const char* path) { return LiesIn(folder_, path) && real_.DeleteFileA(path); }
+bool PrivateFiles::DeleteFileA(const char* path) {
+  return IsInFolder(folder_, path) && real_.DeleteFileA(path);
+}
 
 bool PrivateFiles::IsDBCSLeadByte(char byte) { return real_.IsDBCSLeadByte(byte); }
 
@@ -73,7 +75,7 @@ std::uint32_t PrivateProfileFiles::GetPrivateProfileStringA(const char* section,
 bool PrivateProfileFiles::WritePrivateProfileStringA(const char* section, const char* key, const char* value,
                                                      const char* file) {
   const std::string path = PathOf(file);
-  return LiesIn(folder_, path) && real_.WritePrivateProfileStringA(section, key, value, path.c_str());
+  return IsInFolder(folder_, path) && real_.WritePrivateProfileStringA(section, key, value, path.c_str());
 }
 
 }  // namespace qdix::self_test

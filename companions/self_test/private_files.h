@@ -11,7 +11,7 @@
 namespace qdix::self_test {
 
 /// True for a file directly in the folder. `folder` has no backslash at the end.
-[[nodiscard]] bool LiesIn(std::string_view folder, std::string_view path);
+[[nodiscard]] bool IsInFolder(std::string_view folder, std::string_view path);
 
 class PrivateFiles final : public os::Files {
  public:

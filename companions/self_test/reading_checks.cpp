@@ -28,7 +28,7 @@ std::string WindowsFolder(os::Files& files) {
 /// Returns "C:\" for a path on that drive.
 std::string DriveOf(const std::string& path) { return path.substr(0, 2) + "\\"; }
 
-Outcome ClockTells(const os::System& real) {
+Outcome CheckClock(const os::System& real) {
   const double now = real.clock.Now();
   if (now < kFirstDay || now > kLastDay) return Outcome::Failed("the date is before 1995 or after 2099");
   const std::string date = real.clock.LongDate(now);
@@ -46,7 +46,7 @@ Outcome PumpWaits(const os::System& real) {
   return Outcome::Expect(waited_ms + kTickMs >= kWaitMs, "a 100 ms wait ended too early");
 }
 
-Outcome MemoryTells(const os::System& real) {
+Outcome CheckMemoryStatus(const os::System& real) {
   const os::MemoryStatus status = real.memory.GlobalMemoryStatus();
   if (status.total_physical == 0) return Outcome::Failed("the total memory is reported as 0");
   if (status.available_physical > status.total_physical) {
@@ -79,7 +79,7 @@ Outcome DrivesAreListed(const os::System& real) {
   return has_windows ? Outcome::Ok(remark) : Outcome::Failed("the Windows drive is missing: " + remark);
 }
 
-Outcome DriveOfWindowsTells(const os::System& real) {
+Outcome CheckWindowsDrive(const os::System& real) {
   const std::string root = DriveOf(WindowsFolder(real.files));
   os::DiskClusters clusters;
   std::uint32_t flags = 0;
@@ -126,7 +126,7 @@ std::int32_t Load(os::Registry& registry, const char* path) {
   return bytes[1] == 0 && bytes[2] == 0 && bytes[3] == 0 ? bytes[0] : -1;
 }
 
-Outcome StatisticTells(const os::System& real) {
+Outcome CheckLoadStatistic(const os::System& real) {
   constexpr std::int32_t kMaxPercent = 100;
   static_cast<void>(Load(real.registry, "PerfStats\\StartStat"));  // reading StartStat starts the statistic
   const std::int32_t percent = Load(real.registry, "PerfStats\\StatData");
@@ -135,7 +135,7 @@ Outcome StatisticTells(const os::System& real) {
   return Outcome::Ok(base::TextOf(percent) + " %");
 }
 
-Outcome ProcessorTells(const os::System& real) {
+Outcome CheckProcessor(const os::System& real) {
   constexpr std::uint32_t kMeasuringMs = 30;
   const cpu::ProcessorIdentity identity = cpu::Identify(real.processor);
   if (cpu::NameOf(identity).empty()) return Outcome::Failed("it cannot be identified");
@@ -223,15 +223,15 @@ void RunReadingChecks(Report& report, const os::System& real, const std::string&
     Outcome (*check)(const os::System& real);
   };
   constexpr std::array<Reading, 13> kReadings{{
-      {"Date and time", &ClockTells},
+      {"Date and time", &CheckClock},
       {"Event pump", &PumpWaits},
-      {"Memory status", &MemoryTells},
+      {"Memory status", &CheckMemoryStatus},
       {"Windows folder", &WindowsFolderIsThere},
       {"Drives and their types", &DrivesAreListed},
-      {"Windows drive", &DriveOfWindowsTells},
+      {"Windows drive", &CheckWindowsDrive},
       {"Reading the registry", &RegistryReads},
-      {"Processor load", &StatisticTells},
-      {"Processor", &ProcessorTells},
+      {"Processor load", &CheckLoadStatistic},
+      {"Processor", &CheckProcessor},
       {"Shell folders", &ShellFoldersAreThere},
       {"Program path", &OwnPathIsKnown},
       {"Finding a file", &FileIsLookedUp},

@@ -60,9 +60,9 @@ def entries_source(imports, libraries):
 
 def exports_source(exports):
     fails = stubs(exports)
-    rows = [f'    {{"{library}", "{name}", Here::{"kOnlyFails" if name in fails.get(library, ()) else "kWorks"}}},'
+    rows = [f'    {{"{library}", "{name}", Support::{"kOnlyFails" if name in fails.get(library, ()) else "kWorks"}}},'
             for library, names in sorted(exported_names(exports).items()) for name in sorted(names)]
-    rows += [f'    {{"{library}", "{name}", Here::kLater}},'
+    rows += [f'    {{"{library}", "{name}", Support::kLater}},'
              for library, names in sorted(listed_names(exports, LATER).items()) for name in sorted(names)]
     return "\n".join([
         "// Made by make_strict.py.", '#include "tests/strict95/guard/imports.h"', "", "namespace qdix::strict95 {", "",

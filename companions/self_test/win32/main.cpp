@@ -41,7 +41,7 @@ class SelfTest {
                  base::TextOf(app::kMinorVersion) + "." + base::TextOf(app::kRevision));
     WriteMachineFacts(report_, real);
     report_.Line("");
-    report_.Run("Preparing the test key and folder", [this] { return places_.AreMade(); });
+    report_.Run("Preparing the test key and folder", [this] { return places_.WereCreated(); });
     RunReadingChecks(report_, real, places_.Places().folder);
     RunDrawingChecks(report_);
     RunPrograms();
@@ -53,7 +53,7 @@ class SelfTest {
   }
 
   /// Shows the result and returns the exit code of the program.
-  [[nodiscard]] int Tell() {
+  [[nodiscard]] int ShowResult() {
     if (report_.Path().empty() || report_.IsIncomplete()) {
       Say("The log could not be written. Please copy QDIXTEST.EXE to a folder on the hard disk and start it "
           "there.",
@@ -112,5 +112,5 @@ class SelfTest {
 extern "C" int QdixMain(void* instance, int /*show_command*/) {
   const auto test = std::make_unique<qdix::self_test::win32::SelfTest>(static_cast<HINSTANCE>(instance));
   test->Run();
-  return test->Tell();
+  return test->ShowResult();
 }

@@ -85,7 +85,7 @@ OwnPlacesKeeper::OwnPlacesKeeper()
   is_made_ = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-Outcome OwnPlacesKeeper::AreMade() const {
+Outcome OwnPlacesKeeper::WereCreated() const {
   return is_made_ ? Outcome::Ok(places_.folder)
                   : Outcome::Failed("cannot prepare the test key or " + places_.folder);
 }

@@ -19,7 +19,7 @@ class OwnPlacesKeeper {
 
   [[nodiscard]] const OwnPlaces& Places() const { return places_; }
   /// Returns a failure if the folder does not exist.
-  [[nodiscard]] Outcome AreMade() const;
+  [[nodiscard]] Outcome WereCreated() const;
   /// Removes the key and the folder, and also the parent key if it did not exist before.
   [[nodiscard]] Outcome Remove() const;
 

@@ -15,7 +15,7 @@ const ui::Control* PageOf(const ui::Control& control) {
 }
 
 /// Returns the window that directly contains the control's window.
-HWND StandsOn(HWND main, const ui::Form& form, const ui::Control& control) {
+HWND ParentWindowOf(HWND main, const ui::Form& form, const ui::Control& control) {
   const ui::Control* const page = PageOf(control);
   return page == nullptr ? main : GetDlgItem(main, ui::NumberOf(form, page->Name()));
 }
@@ -46,7 +46,7 @@ bool CarriesCaption(ui::Kind kind) {
   }
 }
 
-bool LiesInside(HWND window, HWND on) {
+bool IsInside(HWND window, HWND on) {
   RECT box{};
   RECT inner{};
   GetWindowRect(window, &box);
@@ -81,7 +81,7 @@ class WindowWalk {
     if (CarriesCaption(control.GetKind()) && GetWindowTextLengthA(window) < caption_length) {
       return "has an incomplete caption";
     }
-    return LiesInside(window, StandsOn(main_, form_, control)) ? nullptr : "extends beyond its window";
+    return IsInside(window, ParentWindowOf(main_, form_, control)) ? nullptr : "extends beyond its window";
   }
 
   HWND main_;
@@ -93,7 +93,7 @@ class WindowWalk {
 }  // namespace
 
 HWND WindowOf(HWND main, const ui::Form& form, const ui::Control& control) {
-  HWND const on = StandsOn(main, form, control);
+  HWND const on = ParentWindowOf(main, form, control);
   return on == nullptr ? nullptr : GetDlgItem(on, ui::NumberOf(form, control.Name()));
 }
 

@@ -62,11 +62,11 @@ void CheckLookup(Call& call) {
   const char* const name = call.Argument<const char*>(2);
   if (HIWORD(name) == 0) return;
   const Export* const found = FindExport(LibraryName(call.Argument<HMODULE>(1)), name);
-  if (found != nullptr && found->here == Here::kOnlyFails) {
+  if (found != nullptr && found->support == Support::kOnlyFails) {
     Report(call, Rule::kLaterNames, Format("%s exists only to fail", name));
   }
-  const Here last = ChosenMachine() == Machine::k98 ? Here::kLater : Here::kWorks;
-  const bool is_there = found != nullptr && (found->here == Here::kWorks || found->here == last);
+  const Support last = ChosenMachine() == Machine::k98 ? Support::kLater : Support::kWorks;
+  const bool is_there = found != nullptr && (found->support == Support::kWorks || found->support == last);
   if (!is_there) call.Refuse(0);
 }
 
@@ -89,7 +89,7 @@ void CheckLibrary(Call& call) {
   if (!is_known) call.Refuse(0);
 }
 
-void TellVersion(Call& call) {
+void ReportVersion(Call& call) {
   if (call.result == 0) return;
   auto& version = *call.Argument<OSVERSIONINFOA*>(1);
   const bool is_98 = ChosenMachine() == Machine::k98;
@@ -117,7 +117,7 @@ void AddAnswers(Watches& watches, HMODULE guard) {
   watches.Before("GetProcAddress", &CheckLookup);
   watches.After("GetProcAddress", [guard](Call& call) { GuardLookup(guard, call); });
   watches.Before("LoadLibraryA", &CheckLibrary);
-  watches.After("GetVersionExA", &TellVersion);
+  watches.After("GetVersionExA", &ReportVersion);
 }
 
 }  // namespace qdix::strict95

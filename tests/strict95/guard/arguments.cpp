@@ -149,7 +149,7 @@ bool Fits(const ArgumentRule& row, std::uint32_t value) {
 }
 
 /// True for a field of SCROLLINFO that its mask leaves out.
-bool IsMeaningless(const ArgumentRule& row, const std::uint32_t* record) {
+bool IsGarbage(const ArgumentRule& row, const std::uint32_t* record) {
   if (std::strcmp(row.function, "SetScrollInfo") != 0 || row.offset < 8) return false;
   const std::uint32_t mask = record[1];
   const std::uint32_t field = row.offset <= 12 ? SIF_RANGE : row.offset == 16 ? SIF_PAGE : SIF_POS;
@@ -160,7 +160,7 @@ void CheckArgument(const ArgumentRule& row, Call& call) {
   std::uint32_t value = call.Argument(row.argument);
   if (row.offset != kItself) {
     const auto* const record = call.Argument<const std::uint32_t*>(row.argument);
-    if (record == nullptr || IsMeaningless(row, record)) return;
+    if (record == nullptr || IsGarbage(row, record)) return;
     std::memcpy(&value, reinterpret_cast<const char*>(record) + row.offset, sizeof value);
   }
   if (Fits(row, value)) return;

@@ -63,7 +63,7 @@ class Watches {
   Function& Checked(std::string_view name);
 
   std::vector<Function> functions_;
-  Function of_nobody_;
+  Function unowned_;
 };
 
 /// Returns the index of a function among the imports; kImportCount if no program imports it.

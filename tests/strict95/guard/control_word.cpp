@@ -7,7 +7,7 @@ namespace qdix::strict95 {
 namespace {
 
 /// 24 bits of precision, rounding upwards, no exceptions.
-constexpr std::uint16_t kHostile = 0x087F;
+constexpr std::uint16_t kForeignWord = 0x087F;
 /// The bits that affect results: precision and rounding. The exception masks do not matter.
 constexpr std::uint16_t kPrecisionAndRounding = 0x0F00;
 
@@ -16,7 +16,7 @@ struct Expected {
   bool is_due = false;
 };
 
-Expected& TheExpected() {
+Expected& GetExpected() {
   static Expected expected;
   return expected;
 }
@@ -28,22 +28,22 @@ std::uint16_t ControlWord() {
 }
 
 void Remember(const Call& /*call*/) {
-  if (!TheExpected().is_due) TheExpected().word = ControlWord();
+  if (!GetExpected().is_due) GetExpected().word = ControlWord();
 }
 
-void BeHostile(const Call& /*call*/) {
-  const std::uint16_t word = kHostile;
+void SetForeignWord(const Call& /*call*/) {
+  const std::uint16_t word = kForeignWord;
   asm volatile("fldcw %0" : : "m"(word));
-  TheExpected().is_due = true;
+  GetExpected().is_due = true;
 }
 
 void CheckSetAgain(const Call& call) {
-  if (!TheExpected().is_due) return;
-  TheExpected().is_due = false;
+  if (!GetExpected().is_due) return;
+  GetExpected().is_due = false;
   const std::uint16_t found = ControlWord();
-  if (((found ^ TheExpected().word) & kPrecisionAndRounding) == 0) return;
+  if (((found ^ GetExpected().word) & kPrecisionAndRounding) == 0) return;
   Report(call, Rule::kControlWord, Format("continues with the control word %#x that other code set", found));
-  asm volatile("fldcw %0" : : "m"(TheExpected().word));
+  asm volatile("fldcw %0" : : "m"(GetExpected().word));
 }
 
 }  // namespace
@@ -53,7 +53,7 @@ void AddControlWordRules(Watches& watches) {
        {"PrintDlgA", "GetOpenFileNameA", "SHBrowseForFolderA", "ShellExecuteA", "SHFileOperationA",
         "CoCreateInstance", "StartDocA", "EndPage", "EndDoc"}) {
     watches.Before(function, &Remember);
-    watches.After(function, &BeHostile);
+    watches.After(function, &SetForeignWord);
   }
   for (const char* const function : {"GetMessageA", "PeekMessageA", "ExitProcess", "SetWindowTextA"}) {
     watches.Before(function, &CheckSetAgain);

@@ -78,7 +78,7 @@ asm(REFUSAL(0) REFUSAL(1) REFUSAL(2) REFUSAL(3) REFUSAL(4) REFUSAL(5) REFUSAL(6)
 namespace {
 
 /// Returns the code that continues the call: the system function, or a refusal.
-void* HandOn(Watches::Function& function, std::uint32_t* frame, const Call& call, FARPROC system) {
+void* PassOn(Watches::Function& function, std::uint32_t* frame, const Call& call, FARPROC system) {
   if (call.is_refused) {
     guard_refusal = call.result;
     return reinterpret_cast<void*>(kGuardRefusals[call.import->argument_words]);
@@ -107,7 +107,7 @@ extern "C" void* GuardEnter(std::uint32_t index, std::uint32_t* frame) {
   Call call{.import = &kImports[index], .arguments = frame + 1, .caller = frame[0]};
   for (const Handler& handler : function.before) handler(call);
   SetLastError(kGarbageError);
-  return HandOn(function, frame, call, system_functions[index]);
+  return PassOn(function, frame, call, system_functions[index]);
 }
 
 extern "C" std::uint32_t GuardLeave(std::uint32_t result) {

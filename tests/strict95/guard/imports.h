@@ -23,7 +23,7 @@ extern const std::size_t kImportCount;
 /// The system's address of each import, null until it is known.
 extern FARPROC system_functions[];
 
-enum class Here {
+enum class Support {
   /// Works on the first Windows 95.
   kWorks,
   /// Exported by the first Windows 95, but a stub that only fails.
@@ -35,7 +35,7 @@ enum class Here {
 struct Export {
   const char* library;
   const char* name;
-  Here here;
+  Support support;
 };
 
 extern const Export kExports[];

@@ -173,7 +173,7 @@ class Ledger {
   std::array<Holdings, kKindCount> kinds_;
 };
 
-Ledger& TheLedger() {
+Ledger& GetLedger() {
   static Ledger ledger;
   return ledger;
 }
@@ -206,16 +206,16 @@ std::uint32_t HandleOf(const Call& call, const Movement& row) {
 }
 
 /// True for null and for the roots of the registry, which are always open.
-bool IsNobodys(Kind kind, std::uint32_t handle) {
+bool IsUnowned(Kind kind, std::uint32_t handle) {
   return handle == 0 || (kind == kKeys && handle >= 0x80000000U);
 }
 
 void Move(const Call& call, const Movement& row) {
   const std::uint32_t handle = HandleOf(call, row);
-  if (!Succeeded(call, row.success) || IsNobodys(row.kind, handle)) return;
+  if (!Succeeded(call, row.success) || IsUnowned(row.kind, handle)) return;
   if (row.is_taken) {
-    TheLedger().Take(call, row.kind, handle);
-  } else if (!TheLedger().Give(row.kind, handle)) {
+    GetLedger().Take(call, row.kind, handle);
+  } else if (!GetLedger().Give(row.kind, handle)) {
     Report(call, Rule::kBalance,
            Format("gives back one of its %s that it does not hold", kBudgets[row.kind].name));
   }
@@ -223,7 +223,7 @@ void Move(const Call& call, const Movement& row) {
 
 /// All programs share five common device contexts, so a program must not hold one while it waits.
 void CheckWaiting(const Call& call) {
-  const int count = TheLedger().Count(kCommonDevices);
+  const int count = GetLedger().Count(kCommonDevices);
   if (count > 0) Report(call, Rule::kBalance, Format("waits with %d common device contexts", count));
 }
 
@@ -231,27 +231,27 @@ std::uint64_t TimerOf(const Call& call) { return std::uint64_t{call.Argument(1)}
 
 void WindowsGone(const Call& /*call*/) {
   const auto is_gone = [](std::uint64_t handle) { return IsWindow(reinterpret_cast<HWND>(handle)) == 0; };
-  TheLedger().GiveAll(kWindows, is_gone);
-  TheLedger().GiveAll(kTimers, [&is_gone](std::uint64_t timer) { return is_gone(timer >> 32U); });
+  GetLedger().GiveAll(kWindows, is_gone);
+  GetLedger().GiveAll(kTimers, [&is_gone](std::uint64_t timer) { return is_gone(timer >> 32U); });
 }
 
 void MenuGone(const Call& call) {
   if (call.result == 0) return;
   // DestroyMenu also destroys the submenus.
-  TheLedger().GiveAll(kMenus, [](std::uint64_t menu) { return IsMenu(reinterpret_cast<HMENU>(menu)) == 0; });
+  GetLedger().GiveAll(kMenus, [](std::uint64_t menu) { return IsMenu(reinterpret_cast<HMENU>(menu)) == 0; });
 }
 
 void CheckKey(const Call& call) {
   const std::uint32_t key = call.Argument(1);
-  if (IsNobodys(kKeys, key) || TheLedger().Holds(kKeys, key)) return;
+  if (IsUnowned(kKeys, key) || GetLedger().Holds(kKeys, key)) return;
   Report(call, Rule::kRegistry, "uses a key that it does not hold");
 }
 
 void Close(const Call& call) {
   WindowsGone(call);
   for (int kind = 0; kind < kKindCount; ++kind) {
-    ReportHeld(kBudgets[kind].name, TheLedger().Most(static_cast<Kind>(kind)));
-    const int left = TheLedger().Count(static_cast<Kind>(kind));
+    ReportHeld(kBudgets[kind].name, GetLedger().Most(static_cast<Kind>(kind)));
+    const int left = GetLedger().Count(static_cast<Kind>(kind));
     if (left > 0) Report(call, Rule::kBalance, Format("%d %s left", left, kBudgets[kind].name));
   }
 }
@@ -265,17 +265,17 @@ void AddResourceRules(Watches& watches) {
   // A shared image belongs to the system, and the program must not free it.
   watches.After("LoadImageA", [](Call& call) {
     if (call.result == 0 || (call.Argument(6) & LR_SHARED) != 0) return;
-    TheLedger().Take(call, call.Argument(3) == IMAGE_BITMAP ? kObjects : kIcons, call.result);
+    GetLedger().Take(call, call.Argument(3) == IMAGE_BITMAP ? kObjects : kIcons, call.result);
   });
   // The device context is the first word of PAINTSTRUCT.
   watches.After("EndPaint", [](Call& call) {
-    TheLedger().Give(kCommonDevices, call.Argument<const std::uint32_t*>(2)[0]);
+    GetLedger().Give(kCommonDevices, call.Argument<const std::uint32_t*>(2)[0]);
   });
   watches.After("SetTimer", [](Call& call) {
-    if (call.result != 0 && !TheLedger().Holds(kTimers, TimerOf(call)))
-      TheLedger().Take(call, kTimers, TimerOf(call));
+    if (call.result != 0 && !GetLedger().Holds(kTimers, TimerOf(call)))
+      GetLedger().Take(call, kTimers, TimerOf(call));
   });
-  watches.After("KillTimer", [](Call& call) { TheLedger().Give(kTimers, TimerOf(call)); });
+  watches.After("KillTimer", [](Call& call) { GetLedger().Give(kTimers, TimerOf(call)); });
   watches.After("DestroyWindow", &WindowsGone);
   watches.After("DestroyMenu", &MenuGone);
   watches.Before("GetMessageA", &CheckWaiting);

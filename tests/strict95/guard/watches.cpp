@@ -25,7 +25,7 @@ Watches::Function& Watches::Checked(std::string_view name) {
     std::fprintf(stderr, "guard: a rule names %s, which no Windows has\n", std::string(name).c_str());
     std::abort();
   }
-  return of_nobody_;
+  return unowned_;
 }
 
 void Watches::Before(std::string_view function, Handler handler) {

@@ -202,7 +202,7 @@ bool AnswersLaterQuestionsWithNo() {
          (SystemParametersInfoA(kWheelLines, 0, &lines, 0) == 0) == IsRtm();
 }
 
-bool LeavesNoMeaningInTheLastError() {
+bool ScramblesTheLastError() {
   SetLastError(ERROR_SUCCESS);
   GetTickCount();
   return GetLastError() != ERROR_SUCCESS;
@@ -269,14 +269,9 @@ bool PassesTheStartCommandOn() {
 }
 
 constexpr bool (*kPlayed[])() = {
-    &LacksLaterFunctions,
-    &LacksLaterLibraries,
-    &AnswersLaterQuestionsWithNo,
-    &LeavesNoMeaningInTheLastError,
-    &RefusesWhatIsNotReady,
-    &ResetsThePrinterAtEachPage,
-    &CutsCoordinates,
-    &PassesTheStartCommandOn,
+    &LacksLaterFunctions,   &LacksLaterLibraries,     &AnswersLaterQuestionsWithNo,
+    &ScramblesTheLastError, &RefusesWhatIsNotReady,   &ResetsThePrinterAtEachPage,
+    &CutsCoordinates,       &PassesTheStartCommandOn,
 };
 
 }  // namespace
