@@ -3,7 +3,7 @@
 #include <array>
 
 #include "base/numbers.h"
-#include "os/win32/no_disk_request.h"
+#include "os/win32/suppressed_disk_errors.h"
 #include "self_test/answer_texts.h"
 #include "self_test/win32/library_function.h"
 #include "self_test/win32/system_questions.h"
@@ -33,7 +33,7 @@ std::string WithAndWithoutBackslash(std::string (*answer)(const char* root)) {
 
 /// Makes a query that returns whether it succeeded.
 std::string Outcome(BOOL (*query)(const char* root), const char* root) {
-  const os::win32::NoDiskRequest quiet;
+  const os::win32::SuppressedDiskErrors quiet;
   SetLastError(ERROR_SUCCESS);
   if (query(root) != FALSE) return "succeeded";
   return "refused (error " + base::ShortestText(GetLastError()) + ")";
