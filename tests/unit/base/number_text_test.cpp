@@ -71,7 +71,8 @@ TEST(LeadingNumberText, SmallestNumbersDoNotReadAsZero) {
 
 TEST(IsNumber, TakesTheWholeText) {
   for (const char* text : {"1", " 1.5 ", "-2E3", ".5", "46347.5"}) EXPECT_TRUE(base::IsNumber(text)) << text;
-  for (const char* text : {"e5", "-E3", "", " ", "x", "1x", "1 2", "--1", ".", "12 o'clock", "1E", "1E ", "1E+ "})
+  for (const char* text :
+       {"e5", "-E3", "", " ", "x", "1x", "1 2", "--1", ".", "12 o'clock", "1E", "1E ", "1E+ "})
     EXPECT_FALSE(base::IsNumber(text)) << text;
   EXPECT_FALSE(base::IsNumber(std::string_view("1E5", 2))) << "the text ends before the 5";
 }
