@@ -38,9 +38,9 @@ std::string HandlesOfOneKey() {
   HKEY second = nullptr;
   if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, "Software", 0, KEY_READ, &first) != ERROR_SUCCESS) return "unknown";
   const LONG opened = RegOpenKeyExA(HKEY_LOCAL_MACHINE, "Software", 0, KEY_READ, &second);
-  const std::string answer = opened != ERROR_SUCCESS ? "unknown"
-                             : first == second       ? "the same handle"
-                                                     : "two handles";
+  std::string answer = opened != ERROR_SUCCESS ? "unknown"
+                       : first == second       ? "the same handle"
+                                               : "two handles";
   if (opened == ERROR_SUCCESS) RegCloseKey(second);
   RegCloseKey(first);
   return answer;
