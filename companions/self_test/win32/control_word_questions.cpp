@@ -5,27 +5,27 @@
 #include "os/win32/shortcut_object.h"
 #include "runtime/float_control.h"
 #include "self_test/answer_texts.h"
-#include "self_test/win32/library_function.h"
+#include "self_test/win32/loaded_library.h"
 #include "self_test/win32/system_questions.h"
 
 namespace qdix::self_test::win32::questions {
 
 namespace {
 
-DWORD WINAPI ReadInNewThread(void* word) {
-  *static_cast<unsigned short*>(word) = runtime::FloatingPointControl();
-  return 0;
-}
+/// The exit code is the control word.
+DWORD WINAPI ReadInNewThread(void* /*unused*/) { return runtime::FloatingPointControl(); }
 
 /// Our own thread has had its word set by the start of the program.
 std::string OfNewThread() {
-  unsigned short word = 0;
+  constexpr DWORD kLimitMs = 10000;
   DWORD number = 0;
-  HANDLE const thread = CreateThread(nullptr, 0, &ReadInNewThread, &word, 0, &number);
+  HANDLE const thread = CreateThread(nullptr, 0, &ReadInNewThread, nullptr, 0, &number);
   if (thread == nullptr) return "no thread";
-  WaitForSingleObject(thread, INFINITE);
+  DWORD word = 0;
+  const bool has_ended =
+      WaitForSingleObject(thread, kLimitMs) == WAIT_OBJECT_0 && GetExitCodeThread(thread, &word) != FALSE;
   CloseHandle(thread);
-  return Hex(word, 4);
+  return has_ended ? Hex(word, 4) : "the thread does not end";
 }
 
 /// Makes a call with our control word and returns the one it leaves. Restores ours.

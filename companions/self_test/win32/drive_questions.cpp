@@ -3,20 +3,14 @@
 #include <array>
 
 #include "base/numbers.h"
+#include "os/win32/late_binding.h"
 #include "os/win32/suppressed_disk_errors.h"
 #include "self_test/answer_texts.h"
-#include "self_test/win32/library_function.h"
 #include "self_test/win32/system_questions.h"
 
 namespace qdix::self_test::win32::questions {
 
 namespace {
-
-using ExtendedQuery = BOOL(WINAPI*)(const char*, ULARGE_INTEGER*, ULARGE_INTEGER*, ULARGE_INTEGER*);
-
-ExtendedQuery FindExtendedQuery() {
-  return FindFunction<ExtendedQuery>(GetModuleHandleA("kernel32.dll"), "GetDiskFreeSpaceExA");
-}
 
 /// Returns what `answer` says about the root of the Windows drive, then about the same text without the
 /// backslash.
@@ -41,7 +35,7 @@ std::string Outcome(BOOL (*query)(const char* root), const char* root) {
 
 BOOL QueryExtended(const char* root) {
   ULARGE_INTEGER ignored{};
-  return FindExtendedQuery()(root, &ignored, &ignored, &ignored);
+  return os::win32::FindExtendedQuery()(root, &ignored, &ignored, &ignored);
 }
 
 BOOL QuerySpace(const char* root) {
@@ -55,7 +49,7 @@ BOOL QueryVolume(const char* root) {
 }
 
 std::string ExtendedSpace() {
-  if (FindExtendedQuery() == nullptr) return "no such function";
+  if (os::win32::FindExtendedQuery() == nullptr) return "no such function";
   return WithAndWithoutBackslash([](const char* root) { return Outcome(&QueryExtended, root); });
 }
 

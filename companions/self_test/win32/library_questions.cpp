@@ -4,13 +4,16 @@
 #include <cstdint>
 
 #include "base/numbers.h"
+#include "os/win32/late_binding.h"
 #include "self_test/answer_texts.h"
-#include "self_test/win32/library_function.h"
+#include "self_test/win32/loaded_library.h"
 #include "self_test/win32/system_questions.h"
 
 namespace qdix::self_test::win32::questions {
 
 namespace {
+
+using os::win32::FindFunction;
 
 struct Function {
   const char* library;
@@ -98,7 +101,7 @@ std::string Dotted(std::initializer_list<DWORD> numbers) {
   return text;
 }
 
-std::string ToldVersion(HMODULE library) {
+std::string ReportedVersion(HMODULE library) {
   const auto query = FindFunction<VersionQuery>(library, "DllGetVersion");
   LibraryVersion version;
   if (query == nullptr || FAILED(query(&version))) return "none";
@@ -134,7 +137,7 @@ std::string FileVersion(HMODULE library) {
 std::string Version(const char* name) {
   HMODULE const library = GetModuleHandleA(name);
   AnswerList versions;
-  versions.Add({"DllGetVersion ", ToldVersion(library)});
+  versions.Add({"DllGetVersion ", ReportedVersion(library)});
   versions.Add({"file ", FileVersion(library)});
   return versions.Text();
 }

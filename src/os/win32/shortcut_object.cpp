@@ -9,6 +9,8 @@
 
 #include <array>
 
+#include "os/win32/late_binding.h"
+
 namespace qdix::os::win32 {
 
 namespace {
@@ -23,11 +25,6 @@ using WidePath = std::array<WCHAR, MAX_PATH>;
 
 bool Widen(const std::string& path, WidePath& wide) {
   return MultiByteToWideChar(CP_ACP, 0, path.c_str(), -1, wide.data(), static_cast<int>(wide.size())) != 0;
-}
-
-template <class Function>
-Function FindFunction(HMODULE library, const char* name) {
-  return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
 }
 
 }  // namespace

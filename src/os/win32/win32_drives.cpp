@@ -4,19 +4,12 @@
 
 #include <string_view>
 
+#include "os/win32/late_binding.h"
 #include "os/win32/suppressed_disk_errors.h"
 
 namespace qdix::os::win32 {
 
 namespace {
-
-using ExtendedQuery = BOOL(WINAPI*)(const char*, ULARGE_INTEGER*, ULARGE_INTEGER*, ULARGE_INTEGER*);
-
-/// Returns null on the first Windows 95, which lacks the function. Its second edition has it.
-ExtendedQuery FindExtendedQuery() {
-  return reinterpret_cast<ExtendedQuery>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("kernel32.dll"), "GetDiskFreeSpaceExA")));
-}
 
 /// True if the root has its trailing backslash. Later systems read a bare "C:" as the current folder of that
 /// drive.

@@ -1,4 +1,4 @@
-#include "self_test/win32/library_function.h"
+#include "self_test/win32/loaded_library.h"
 
 namespace qdix::self_test::win32 {
 
