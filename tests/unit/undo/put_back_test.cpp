@@ -266,8 +266,8 @@ TEST_F(PutBack, BlanksAndQuotationMarksOfAValueAreRestored) {
   EXPECT_EQ(other.machine.Boxes().size(), 2U) << "there is nothing left to put back";
 }
 
-TEST_F(PutBack, DoubleQuotationMarksInsideQuotationMarksAreRestored) {
-  UndoRig other("[boot]\r\n[386Enh]\r\nPagingDrive=\"\"D:\"\"\r\n");
+void ExpectRestored(const std::string& drive) {
+  UndoRig other("[boot]\r\n[386Enh]\r\nPagingDrive=" + drive + "\r\n");
   const std::string before = other.Ini();
   other.TakeRecord();
   other.machine.WriteFile(kIniPath, "[boot]\r\n[386Enh]\r\nPagingDrive=C:\r\n");
@@ -276,16 +276,10 @@ TEST_F(PutBack, DoubleQuotationMarksInsideQuotationMarksAreRestored) {
   EXPECT_EQ(other.Ini(), before);
 }
 
+TEST_F(PutBack, DoubleQuotationMarksInsideQuotationMarksAreRestored) { ExpectRestored("\"\"D:\"\""); }
+
 TEST_F(PutBack, TextEqualToTheDefaultIsAnOrdinaryEntry) {
-  for (const char* const text : {"(missing)", "(none)"}) {
-    UndoRig other("[boot]\r\n[386Enh]\r\nPagingDrive=" + std::string(text) + "\r\n");
-    const std::string before = other.Ini();
-    other.TakeRecord();
-    other.machine.WriteFile(kIniPath, "[boot]\r\n[386Enh]\r\nPagingDrive=C:\r\n");
-    other.Start();
-    ConfirmPutBack(other);
-    EXPECT_EQ(other.Ini(), before);
-  }
+  for (const char* const text : {"(missing)", "(none)"}) ExpectRestored(text);
 }
 
 TEST_F(PutBack, RemovalDeletesAllEqualLines) {
