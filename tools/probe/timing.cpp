@@ -1,6 +1,7 @@
 #include "timing.h"
 
 #include "tests/e2e/driver/bare_loop.h"
+#include "ui/win32/owned.h"
 
 namespace qdix::probe {
 
@@ -17,23 +18,12 @@ double NowMs() {
   return static_cast<double>(now.QuadPart) * 1000 / static_cast<double>(per_second.QuadPart);
 }
 
-/// With a window, each pump of Wine also asks the screen.
-class PumpingWindow {
- public:
-  explicit PumpingWindow(bool is_wanted) {
-    if (is_wanted)
-      window_ = CreateWindowA("STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
-  }
-  PumpingWindow(const PumpingWindow&) = delete;
-  PumpingWindow& operator=(const PumpingWindow&) = delete;
-  ~PumpingWindow() {
-    if (IsThere()) DestroyWindow(window_);
-  }
-  [[nodiscard]] bool IsThere() const { return window_ != nullptr; }
-
- private:
-  HWND window_ = nullptr;
-};
+/// With a window, each pump of Wine also asks the screen. Null if none is wanted, or if it cannot be made.
+ui::win32::OwnedWindow PumpingWindow(bool is_wanted) {
+  if (!is_wanted) return nullptr;
+  return ui::win32::OwnedWindow(
+      CreateWindowA("STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr));
+}
 
 }  // namespace
 
@@ -48,8 +38,8 @@ double PressMs(const e2e::ShippedProgram& program, const std::string& name) {
 
 double LoopMs(SIZE_T bytes, int pumps) {
   const bool needs_window = pumps > 0;
-  const PumpingWindow window(needs_window);
-  if (window.IsThere() != needs_window) return kFailed;
+  const ui::win32::OwnedWindow window = PumpingWindow(needs_window);
+  if ((window != nullptr) != needs_window) return kFailed;
   const double start_ms = NowMs();
   {
     const e2e::TouchedBlock block(bytes);
@@ -61,8 +51,8 @@ double LoopMs(SIZE_T bytes, int pumps) {
 }
 
 double PumpsMs(int times, bool with_window) {
-  const PumpingWindow window(with_window);
-  if (window.IsThere() != with_window) return kFailed;
+  const ui::win32::OwnedWindow window = PumpingWindow(with_window);
+  if ((window != nullptr) != with_window) return kFailed;
   const double start_ms = NowMs();
   e2e::Pump(times);
   return NowMs() - start_ms;
