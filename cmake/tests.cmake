@@ -112,12 +112,26 @@ if(WIN32)
     target_link_libraries(qdix_bench PRIVATE qdix_warnings e2e_driver ${precision_object})
     target_link_options(qdix_bench PRIVATE -static)
 
+    # tests/strict95: all tests run on the strict Windows 98. Start, tabs, swap file, help, undo, launcher and self-test also
+    # run on the strict first Windows 95, in a prefix and on a desktop of their own, beside the other tests. The shipped
+    # programs themselves get a smoke test.
+    set(strict_main ${CMAKE_SOURCE_DIR}/build/win9x-strict/QDIX.exe)
+    set_tests_properties(wine.e2e PROPERTIES ENVIRONMENT "QDIX_PROGRAM=${strict_main};QDIX_STRICT=98")
+    set(rtm_tests "StartSession.*:StartModeSession.*:*TabSession.*:SwapFileSession.*:*HelpOfTheProgram.*:HelpSession.*")
+    string(APPEND rtm_tests ":UndoSession.*:LauncherSession.*:SelfTest.*")
+    add_test(NAME wine.e2e_rtm
+      COMMAND ${CMAKE_SOURCE_DIR}/tests/strict95/on_own_machine.sh rtm ${strict_main} $<TARGET_FILE:witness>
+              $<TARGET_FILE:e2e_tests> --gtest_brief=1 --gtest_filter=${rtm_tests})
+    add_test(NAME wine.e2e_untouched
+      COMMAND e2e_tests --gtest_brief=1 --gtest_filter=StartSession.FirstStartStoresExactlyItsDefaults:TabSession.*)
+    set_tests_properties(wine.e2e_rtm wine.e2e_untouched PROPERTIES TIMEOUT ${wine_limit_s})
+
     # Has its own prefix and desktop, so it need not wait for the other tests.
     add_test(NAME wine.install
       COMMAND ${CMAKE_SOURCE_DIR}/tests/dist/install_test.sh ${CMAKE_SOURCE_DIR}/build/win9x $<TARGET_FILE:qdix_probe>)
     set_tests_properties(wine.install PROPERTIES TIMEOUT ${wine_limit_s})
   endif()
-  foreach(desktop_test IN ITEMS wine.contract wine.e2e)
+  foreach(desktop_test IN ITEMS wine.contract wine.e2e wine.e2e_untouched)
     if(TEST ${desktop_test})
       # One desktop, one pointer, one registry.
       set_tests_properties(${desktop_test} PROPERTIES RESOURCE_LOCK desktop)

@@ -6,9 +6,12 @@
 #include <windows.h>
 // clang-format on
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <vector>
+
+#include "tests/strict95/machine.h"
 
 namespace qdix::e2e {
 
@@ -18,6 +21,9 @@ class Machine {
     MEMORYSTATUS status = {};
     status.dwLength = sizeof status;
     GlobalMemoryStatus(&status);
+    if (strict95::ChosenMachine() == strict95::Machine::kRtm) {
+      status.dwTotalPhys = std::min<SIZE_T>(status.dwTotalPhys, strict95::kRtmMemoryBytes);
+    }
     total_mb_ = static_cast<double>(static_cast<LONG>(status.dwTotalPhys)) / 1.024 / 1000000;
   }
 

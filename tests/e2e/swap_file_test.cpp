@@ -32,13 +32,31 @@ constexpr const char* kOwnSetup =
 constexpr const char* kOtherSetup =
     "[386Enh]\r\nPagingDrive=C:\r\nMinPagingFileSize=100000\r\nMaxPagingFileSize=100000\r\n";
 
-/// Returns the free megabytes of 1,024,000 bytes on a drive, right now.
-double FreeMb(const char* root) {
+/// Returns the free bytes on a drive, at most 2 GB, as the classic query answers.
+double ClassicFreeBytes(const char* root) {
+  DWORD sectors_per_cluster = 0;
+  DWORD bytes_per_sector = 0;
+  DWORD free_clusters = 0;
+  DWORD clusters = 0;
+  EXPECT_TRUE(GetDiskFreeSpaceA(root, &sectors_per_cluster, &bytes_per_sector, &free_clusters, &clusters))
+      << root;
+  return static_cast<double>(sectors_per_cluster) * bytes_per_sector * free_clusters;
+}
+
+/// Returns the free bytes on a drive.
+double ExtendedFreeBytes(const char* root) {
   ULARGE_INTEGER available = {};
   ULARGE_INTEGER total = {};
   ULARGE_INTEGER free = {};
   EXPECT_TRUE(GetDiskFreeSpaceExA(root, &available, &total, &free)) << root;
-  return static_cast<double>(free.QuadPart) / 1000000 / 1.024;
+  return static_cast<double>(free.QuadPart);
+}
+
+/// Returns the free megabytes of 1,024,000 bytes on a drive, right now, as the machine under test counts
+/// them.
+double FreeMb(const char* root) {
+  const bool is_rtm = strict95::ChosenMachine() == strict95::Machine::kRtm;
+  return (is_rtm ? ClassicFreeBytes(root) : ExtendedFreeBytes(root)) / 1000000 / 1.024;
 }
 
 /// The system's editor under the name of the defragmenter, which Wine does not have. The editor takes its

@@ -6,6 +6,7 @@
 // clang-format on
 
 #include <cstdint>
+#include <string>
 
 #include "tests/e2e/driver/inside_process.h"
 
@@ -15,12 +16,14 @@ class FakeDisk {
  public:
   explicit FakeDisk(HANDLE process) : process_(process), page_(process) {}
 
-  /// Makes the program's calls of the extended free space function return this figure for size and free space
-  /// of any drive from now on. Returns false if the replacement cannot be installed.
+  /// Makes both free space functions return this figure to the program as the size and the free space of any
+  /// drive from now on; the classic one rounds down to clusters and to the 2 GB that it can answer. Returns
+  /// false if the replacements cannot be installed.
   [[nodiscard]] bool Play(std::uint64_t free_bytes);
 
  private:
-  [[nodiscard]] bool Redirect();
+  [[nodiscard]] bool RedirectBoth();
+  [[nodiscard]] bool Redirect(const char* name, std::uint32_t offset, const std::string& code) const;
 
   HANDLE process_;
   ForeignPage page_;

@@ -43,7 +43,10 @@ ProgramFacts ConfigLauncher() {
   return {"configL.exe", config_launcher::kTitle, MapOf<config_launcher::ConfigForm>(dialogs)};
 }
 
-std::string WitnessPath() { return WindowsPath(QDIX_WITNESS); }
+std::string WitnessPath() {
+  const char* const chosen = std::getenv("QDIX_WITNESS_PROGRAM");
+  return WindowsPath(chosen != nullptr ? chosen : QDIX_WITNESS);
+}
 
 std::string WitnessReportPath() {
   const std::string program = WitnessPath();

@@ -19,7 +19,8 @@ struct ProgramFacts {
 [[nodiscard]] ProgramFacts ConfigLauncher();
 [[nodiscard]] ProgramFacts HelpViewer();
 
-/// Paths of the program that reports how it was started, and of its report.
+/// Paths of the program that reports how it was started, and of the report, which it writes next to itself.
+/// The environment variable QDIX_WITNESS_PROGRAM (a path of the host) names another copy of the program.
 [[nodiscard]] std::string WitnessPath();
 [[nodiscard]] std::string WitnessReportPath();
 

@@ -100,6 +100,12 @@ void ReportVersion(Call& call) {
   version.szCSDVersion[0] = '\0';
 }
 
+void TellSmallMemory(Call& call) {
+  auto& memory = *call.Argument<MEMORYSTATUS*>(1);
+  memory.dwTotalPhys = std::min<SIZE_T>(memory.dwTotalPhys, kRtmMemoryBytes);
+  memory.dwAvailPhys = std::min<SIZE_T>(memory.dwAvailPhys, kRtmMemoryBytes);
+}
+
 }  // namespace
 
 void AddAnswers(Watches& watches, HMODULE guard) {
@@ -113,6 +119,7 @@ void AddAnswers(Watches& watches, HMODULE guard) {
     watches.Before("LoadCursorA", [](Call& call) {
       if (call.Argument(1) == 0 && call.Argument(2) == kHandCursor) call.Refuse(0);
     });
+    watches.After("GlobalMemoryStatus", &TellSmallMemory);
   }
   watches.Before("GetProcAddress", &CheckLookup);
   watches.After("GetProcAddress", [guard](Call& call) { GuardLookup(guard, call); });

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "tests/strict95/guard/imports.h"
+#include "tests/strict95/machine.h"
 
 namespace qdix::strict95 {
 
@@ -68,15 +69,5 @@ class Watches {
 
 /// Returns the index of a function among the imports; kImportCount if no program imports it.
 [[nodiscard]] std::size_t ImportNumber(std::string_view name);
-
-enum class Machine {
-  /// 4.00.950, with common controls 4.00.
-  kRtm,
-  /// 4.10: extended disk query, foreground lock.
-  k98
-};
-
-/// Returns the machine that the environment variable QDIX_STRICT names: "rtm"; anything else is Windows 98.
-[[nodiscard]] Machine ChosenMachine();
 
 }  // namespace qdix::strict95

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <string>
 
 #include "tests/strict95/guard/call.h"
@@ -34,11 +33,6 @@ void Watches::Before(std::string_view function, Handler handler) {
 
 void Watches::After(std::string_view function, Handler handler) {
   Checked(function).after.push_back(std::move(handler));
-}
-
-Machine ChosenMachine() {
-  const char* const chosen = std::getenv("QDIX_STRICT");
-  return chosen != nullptr && std::strcmp(chosen, "rtm") == 0 ? Machine::kRtm : Machine::k98;
 }
 
 }  // namespace qdix::strict95
