@@ -8,6 +8,7 @@ namespace qdix::strict95 {
 
 void AddArgumentRules(Watches& watches);
 void AddMessageRules(Watches& watches);
+void AddRegistryRules(Watches& watches);
 void AddResourceRules(Watches& watches);
 void AddSelectionRules(Watches& watches);
 void AddForegroundRules(Watches& watches);
@@ -21,6 +22,7 @@ void AddStartCommand(Watches& watches);
 inline void AddAllRules(Watches& watches, HMODULE guard) {
   AddArgumentRules(watches);
   AddMessageRules(watches);
+  AddRegistryRules(watches);
   AddResourceRules(watches);
   AddSelectionRules(watches);
   AddForegroundRules(watches);

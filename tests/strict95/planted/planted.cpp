@@ -18,6 +18,7 @@ namespace {
 constexpr const char* kProfile = "planted.ini";
 constexpr const char* kProfilePath = "C:\\windows\\planted.ini";
 constexpr const char* kCopyPath = "C:\\windows\\planted.old";
+constexpr const char* kSecondCopyPath = "C:\\windows\\planted.new";
 constexpr WORD kHandCursor = 32649;
 constexpr UINT kWheelLines = 0x68;
 constexpr int kHotColour = 26;
@@ -41,10 +42,19 @@ class Window {
 
 #define PLANTED [[gnu::noinline]] void
 
+/// Gives whoever has the foreground the last input; this program never has it.
+void PressAKeyElsewhere() {
+  constexpr DWORD kLongerThanAnyLagMs = 500;
+  Sleep(kLongerThanAnyLagMs);
+  keybd_event(VK_SHIFT, 0, 0, 0);
+  keybd_event(VK_SHIFT, 0, KEYEVENTF_KEYUP, 0);
+}
+
 /// The WM_QUIT in the queue closes the box.
 PLANTED BoxBehindOthers() {
+  PressAKeyElsewhere();
   PostQuitMessage(0);
-  MessageBoxA(nullptr, "planted", "planted", MB_OK);
+  MessageBoxA(nullptr, "planted", "planted", MB_OK | MB_SETFOREGROUND);
 }
 
 PLANTED LookupOfAStub() { GetProcAddress(GetModuleHandleA("kernel32.dll"), "MoveFileExA"); }
@@ -146,6 +156,31 @@ PLANTED ClosedKey() {
   RegQueryValueExA(key, "planted", nullptr, nullptr, nullptr, nullptr);
 }
 
+/// The second close of a key that others have open too takes it from them.
+PLANTED KeyClosedTooOften() {
+  HKEY one = nullptr;
+  HKEY other = nullptr;
+  RegOpenKeyExA(HKEY_CURRENT_USER, "Software", 0, KEY_READ, &one);
+  RegOpenKeyExA(HKEY_CURRENT_USER, "Software", 0, KEY_READ, &other);
+  RegCloseKey(one);
+  RegCloseKey(one);
+  RegCloseKey(other);
+}
+
+PLANTED KeyOpenedTooOften() {
+  constexpr int kMaxOpenings = 0xFFFF;
+  HKEY key = nullptr;
+  for (int count = 0; count <= kMaxOpenings; ++count) {
+    RegOpenKeyExA(HKEY_CURRENT_USER, "Software", 0, KEY_READ, &key);
+  }
+  for (int count = 0; count <= kMaxOpenings; ++count) RegCloseKey(key);
+}
+
+PLANTED KeyLeftOpen() {
+  HKEY key = nullptr;
+  RegOpenKeyA(HKEY_CURRENT_USER, "Software", &key);
+}
+
 PLANTED CopyOfAnUnwrittenProfile() {
   WritePrivateProfileStringA("planted", "planted", "1", kProfile);
   CopyFileA(kProfilePath, kCopyPath, FALSE);
@@ -178,6 +213,9 @@ constexpr void (*kReported[])() = {
     &QuestionToAnEmptyDrive,
     &ForeignControlWord,
     &ClosedKey,
+    &KeyClosedTooOften,
+    &KeyOpenedTooOften,
+    &KeyLeftOpen,
     &CopyOfAnUnwrittenProfile,
 };
 
@@ -216,13 +254,78 @@ bool RefusesWhatIsNotReady() {
   return is_refused;
 }
 
+/// Only Windows 98 has the lock.
+bool KeepsTheForegroundFromOthers() {
+  const Window window("STATIC");
+  ShowWindow(window.Get(), SW_SHOWNA);
+  PressAKeyElsewhere();
+  return IsRtm() || SetForegroundWindow(window.Get()) == FALSE;
+}
+
+bool HasOneHandleForAKey() {
+  HKEY one = nullptr;
+  HKEY other = nullptr;
+  RegOpenKeyA(HKEY_CURRENT_USER, "Software", &one);
+  RegCreateKeyA(HKEY_CURRENT_USER, "SOFTWARE", &other);
+  RegCloseKey(one);
+  const bool is_open = RegQueryInfoKeyA(other, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                        nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+  RegCloseKey(other);
+  return one == other && is_open;
+}
+
+char PlantedTextOf(const char* file) {
+  char text[2] = "";
+  GetPrivateProfileStringA("planted", "planted", "", text, sizeof text, file);
+  return text[0];
+}
+
+/// A copy made before the flush has the old contents. Reading that copy writes the changes of the original.
+bool KeepsProfilesInMemory() {
+  WritePrivateProfileStringA("planted", "planted", "1", kProfile);
+  WritePrivateProfileStringA(nullptr, nullptr, nullptr, kProfile);
+  WritePrivateProfileStringA("planted", "planted", "2", kProfile);
+  const bool is_read_back = PlantedTextOf(kProfile) == '2';
+  CopyFileA(kProfilePath, kCopyPath, FALSE);
+  const bool is_old = PlantedTextOf(kCopyPath) == '1';
+  CopyFileA(kProfilePath, kSecondCopyPath, FALSE);
+  const bool is_written = PlantedTextOf(kSecondCopyPath) == '2';
+  for (const char* const file : {kProfilePath, kCopyPath, kSecondCopyPath}) DeleteFileA(file);
+  return is_read_back && is_old && is_written;
+}
+
 bool ResetsThePrinterAtEachPage() {
   HDC const device = CreateCompatibleDC(nullptr);
   SetTextColor(device, RGB(1, 2, 3));
+  SetTextAlign(device, TA_BASELINE);
+  SetWindowOrgEx(device, 7, 7, nullptr);
   StartPage(device);
-  const bool is_reset = SetTextColor(device, 0) == 0;
+  POINT origin{};
+  SetWindowOrgEx(device, 0, 0, &origin);
+  const bool is_reset = SetTextColor(device, 0) == 0 && SetTextAlign(device, 0) == 0 && origin.x == 0;
   DeleteDC(device);
   return is_reset;
+}
+
+/// True if a bitmap from before the change can no longer be drawn, and a new one can.
+bool OutdatesBitmapsWithTheDisplay() {
+  HDC const screen = GetDC(nullptr);
+  HDC const target = CreateCompatibleDC(screen);
+  HDC const source = CreateCompatibleDC(screen);
+  HBITMAP const before = CreateCompatibleBitmap(screen, 8, 8);
+  HGDIOBJ const former = SelectObject(source, before);
+  const bool is_drawn = BitBlt(target, 0, 0, 1, 1, source, 0, 0, SRCCOPY) != 0;
+  const Window window("STATIC");
+  SendMessageA(window.Get(), WM_DISPLAYCHANGE, 16, MAKELPARAM(640, 480));
+  const bool is_outdated = BitBlt(target, 0, 0, 1, 1, source, 0, 0, SRCCOPY) == 0;
+  HBITMAP const renewed = CreateCompatibleBitmap(screen, 8, 8);
+  SelectObject(source, renewed);
+  const bool is_renewed = BitBlt(target, 0, 0, 1, 1, source, 0, 0, SRCCOPY) != 0;
+  SelectObject(source, former);
+  for (HBITMAP const bitmap : {before, renewed}) DeleteObject(bitmap);
+  for (HDC const device : {target, source}) DeleteDC(device);
+  ReleaseDC(nullptr, screen);
+  return is_drawn && is_outdated && is_renewed;
 }
 
 bool CutsCoordinates() {
@@ -269,9 +372,10 @@ bool PassesTheStartCommandOn() {
 }
 
 constexpr bool (*kPlayed[])() = {
-    &LacksLaterFunctions,   &LacksLaterLibraries,     &AnswersLaterQuestionsWithNo,
-    &ScramblesTheLastError, &RefusesWhatIsNotReady,   &ResetsThePrinterAtEachPage,
-    &CutsCoordinates,       &PassesTheStartCommandOn,
+    &LacksLaterFunctions,           &LacksLaterLibraries,   &AnswersLaterQuestionsWithNo,
+    &ScramblesTheLastError, &RefusesWhatIsNotReady, &KeepsTheForegroundFromOthers,
+    &HasOneHandleForAKey,           &KeepsProfilesInMemory, &ResetsThePrinterAtEachPage,
+    &OutdatesBitmapsWithTheDisplay, &CutsCoordinates,       &PassesTheStartCommandOn,
 };
 
 }  // namespace
