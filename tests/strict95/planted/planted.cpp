@@ -373,7 +373,7 @@ bool PassesTheStartCommandOn() {
 
 constexpr bool (*kPlayed[])() = {
     &LacksLaterFunctions,           &LacksLaterLibraries,   &AnswersLaterQuestionsWithNo,
-    &ScramblesTheLastError, &RefusesWhatIsNotReady, &KeepsTheForegroundFromOthers,
+    &ScramblesTheLastError,         &RefusesWhatIsNotReady, &KeepsTheForegroundFromOthers,
     &HasOneHandleForAKey,           &KeepsProfilesInMemory, &ResetsThePrinterAtEachPage,
     &OutdatesBitmapsWithTheDisplay, &CutsCoordinates,       &PassesTheStartCommandOn,
 };
