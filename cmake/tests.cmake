@@ -24,12 +24,12 @@ set(wine_limit_s 3000)
 # A hundred times what a shard needs on an idle machine.
 set(shard_limit_s 600)
 
-# qdix_test(<name> [SHARDS <count>] SOURCES <file>... LIBRARIES <target>...): adds a test program. On this machine each of
-# its tests is one ctest test. Where starting a process per test would take longer than the tests, SHARDS makes that many
-# ctest tests instead; build/<preset>/reports/ then has the result of every single test. Under Wine the program is one
-# ctest test.
+# qdix_test(<name> [SHARDS <count>] [GROUPED] SOURCES <file>... LIBRARIES <target>...): adds a test program. On this machine
+# each of its tests is one ctest test. Where starting a process per test would take longer than the tests, SHARDS makes that
+# many ctest tests instead; build/<preset>/reports/ then has the result of every single test. Under Wine the program is one
+# ctest test, or none if GROUPED; the caller then adds its groups.
 function(qdix_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 test "" "SHARDS" "SOURCES;LIBRARIES")
+  cmake_parse_arguments(PARSE_ARGV 1 test "GROUPED" "SHARDS" "SOURCES;LIBRARIES")
   if(NOT test_SOURCES)
     return()
   endif()
@@ -42,9 +42,11 @@ function(qdix_test name)
     target_link_libraries(${name} PRIVATE ${precision_object})
     # A different name, so "-R unit" finds only the quick tests.
     string(REPLACE "unit" "portable" wine_name wine.${prefix})
-    # Brief: after a failure, its text must not drown among hundreds of lines of other tests.
-    add_test(NAME ${wine_name} COMMAND ${name} --gtest_brief=1)
-    set_tests_properties(${wine_name} PROPERTIES TIMEOUT ${wine_limit_s})
+    if(NOT test_GROUPED)
+      # Brief: after a failure, its text must not drown among hundreds of lines of other tests.
+      add_test(NAME ${wine_name} COMMAND ${name} --gtest_brief=1)
+      set_tests_properties(${wine_name} PROPERTIES TIMEOUT ${wine_limit_s})
+    endif()
   elseif(test_SHARDS)
     math(EXPR last_shard "${test_SHARDS} - 1")
     foreach(shard RANGE ${last_shard})
@@ -87,7 +89,7 @@ if(WIN32)
     add_executable(qdix_probe ${probe_sources})
     target_link_libraries(qdix_probe PRIVATE qdix_warnings e2e_driver)
     target_link_options(qdix_probe PRIVATE -static)
-    qdix_test(e2e_tests SOURCES ${e2e_sources} LIBRARIES e2e_driver qdix_win32)
+    qdix_test(e2e_tests GROUPED SOURCES ${e2e_sources} LIBRARIES e2e_driver qdix_win32)
     add_dependencies(e2e_tests qdix_packed_topics)
     # The launcher starts this program in the tests.
     add_executable(witness WIN32 tests/e2e/witness/main.cpp)
@@ -112,26 +114,32 @@ if(WIN32)
     target_link_libraries(qdix_bench PRIVATE qdix_warnings e2e_driver ${precision_object})
     target_link_options(qdix_bench PRIVATE -static)
 
-    # tests/strict95: all tests run on the strict Windows 98. Start, tabs, swap file, help, undo, launcher and self-test also
-    # run on the strict first Windows 95, in a prefix and on a desktop of their own, beside the other tests. The shipped
-    # programs themselves get a smoke test.
-    set(strict_main ${CMAKE_SOURCE_DIR}/build/win9x-strict/QDIX.exe)
-    set_tests_properties(wine.e2e PROPERTIES ENVIRONMENT "QDIX_PROGRAM=${strict_main};QDIX_STRICT=98")
-    set(rtm_tests "StartSession.*:StartModeSession.*:*TabSession.*:SwapFileSession.*:*HelpOfTheProgram.*:HelpSession.*")
-    string(APPEND rtm_tests ":UndoSession.*:LauncherSession.*:SelfTest.*")
-    add_test(NAME wine.e2e_rtm
-      COMMAND ${CMAKE_SOURCE_DIR}/tests/strict95/on_own_machine.sh rtm ${strict_main} $<TARGET_FILE:witness>
-              $<TARGET_FILE:e2e_tests> --gtest_brief=1 --gtest_filter=${rtm_tests})
-    add_test(NAME wine.e2e_untouched
-      COMMAND e2e_tests --gtest_brief=1 --gtest_filter=StartSession.FirstStartStoresExactlyItsDefaults:TabSession.*)
-    set_tests_properties(wine.e2e_rtm wine.e2e_untouched PROPERTIES TIMEOUT ${wine_limit_s})
+    # Each group runs on a strict machine (tests/strict95), in a prefix and on a desktop of its own, beside other tests.
+    # The cost makes ctest start the longest tests first.
+    function(qdix_e2e_group name machine filter)
+      add_test(NAME wine.e2e_${name}
+        COMMAND ${CMAKE_SOURCE_DIR}/tests/strict95/on_own_machine.sh ${machine}
+                ${CMAKE_SOURCE_DIR}/build/win9x-strict/QDIX.exe $<TARGET_FILE:witness> $<TARGET_FILE:e2e_tests>
+                --gtest_brief=1 --gtest_filter=${filter})
+      set_tests_properties(wine.e2e_${name} PROPERTIES TIMEOUT ${wine_limit_s} COST 1000)
+    endfunction()
+    # All tests run on the strict Windows 98, in two groups that take about the same time: those of the companions and of
+    # what starts them, and all others.
+    set(companions "ConfigSession.*:*HelpOfTheProgram.*:HelpSession.*:LauncherSession.*:SelfTest.*:UndoSession.*")
+    qdix_e2e_group(98_companions 98 ${companions})
+    qdix_e2e_group(98_program 98 "-${companions}")
+    qdix_e2e_group(rtm rtm "StartSession.*:StartModeSession.*:*TabSession.*:SwapFileSession.*:${companions}")
+    # The programs as they are shipped get a smoke test and the self-test, which knows Wine's answers.
+    add_test(NAME wine.e2e_untouched COMMAND e2e_tests --gtest_brief=1
+      --gtest_filter=StartSession.FirstStartStoresExactlyItsDefaults:TabSession.*:SelfTest.*)
+    set_tests_properties(wine.e2e_untouched PROPERTIES TIMEOUT ${wine_limit_s})
 
     # Has its own prefix and desktop, so it need not wait for the other tests.
     add_test(NAME wine.install
       COMMAND ${CMAKE_SOURCE_DIR}/tests/dist/install_test.sh ${CMAKE_SOURCE_DIR}/build/win9x $<TARGET_FILE:qdix_probe>)
     set_tests_properties(wine.install PROPERTIES TIMEOUT ${wine_limit_s})
   endif()
-  foreach(desktop_test IN ITEMS wine.contract wine.e2e wine.e2e_untouched)
+  foreach(desktop_test IN ITEMS wine.contract wine.e2e_untouched)
     if(TEST ${desktop_test})
       # One desktop, one pointer, one registry.
       set_tests_properties(${desktop_test} PROPERTIES RESOURCE_LOCK desktop)

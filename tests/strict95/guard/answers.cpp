@@ -16,25 +16,32 @@ enum class Lacks {
   kRtmOnly
 };
 
-/// If the argument is greater than `last_known`, the call gets this answer without reaching the system.
+constexpr std::uint32_t kNoLimit = 0xFFFFFFFF;
+
+/// If the argument is in this range, the call gets this answer without reaching the system.
 struct Answer {
   const char* function;
   unsigned argument;
-  std::uint32_t last_known;
+  std::uint32_t first_unknown;
+  std::uint32_t last_unknown;
   std::uint32_t answer;
   Lacks who;
 };
 
 constexpr Answer kAnswers[] = {
-    // Windows 95 knows the colours up to COLOR_INFOBK.
-    {"GetSysColor", 1, 24, 0, Lacks::kRtmOnly},
-    {"GetSysColorBrush", 1, 24, 0, Lacks::kRtmOnly},
-    {"GetSysColor", 1, 28, 0, Lacks::kBoth},
-    {"GetSysColorBrush", 1, 28, 0, Lacks::kBoth},
-    {"SystemParametersInfoA", 1, 0x5E, 0, Lacks::kRtmOnly},
-    {"SystemParametersInfoA", 1, 0x69, 0, Lacks::kBoth},
-    {"GetSystemMetrics", 1, 75, 0, Lacks::kRtmOnly},
-    {"GetSystemMetrics", 1, 83, 0, Lacks::kBoth},
+    // Windows 95 knows the colours up to COLOR_INFOBK, Windows 98 also those of gradients and links.
+    {"GetSysColor", 1, 25, kNoLimit, 0, Lacks::kRtmOnly},
+    {"GetSysColorBrush", 1, 25, kNoLimit, 0, Lacks::kRtmOnly},
+    {"GetSysColor", 1, 29, kNoLimit, 0, Lacks::kBoth},
+    {"GetSysColorBrush", 1, 29, kNoLimit, 0, Lacks::kBoth},
+    // Windows 98 added the wheel and the screen saver's state, and further up the tracking of the active window
+    // and the foreground lock.
+    {"SystemParametersInfoA", 1, 0x5F, kNoLimit, 0, Lacks::kRtmOnly},
+    {"SystemParametersInfoA", 1, 0x73, 0x0FFF, 0, Lacks::kBoth},
+    {"SystemParametersInfoA", 1, 0x1010, 0x1FFF, 0, Lacks::kBoth},
+    {"SystemParametersInfoA", 1, 0x2006, kNoLimit, 0, Lacks::kBoth},
+    {"GetSystemMetrics", 1, 76, kNoLimit, 0, Lacks::kRtmOnly},
+    {"GetSystemMetrics", 1, 84, kNoLimit, 0, Lacks::kBoth},
 };
 
 constexpr std::uint32_t kHandCursor = 32649;
@@ -112,7 +119,8 @@ void AddAnswers(Watches& watches, HMODULE guard) {
   for (const Answer& row : kAnswers) {
     if (row.who == Lacks::kRtmOnly && ChosenMachine() != Machine::kRtm) continue;
     watches.Before(row.function, [&row](Call& call) {
-      if (call.Argument(row.argument) > row.last_known) call.Refuse(row.answer);
+      const std::uint32_t asked = call.Argument(row.argument);
+      if (row.first_unknown <= asked && asked <= row.last_unknown) call.Refuse(row.answer);
     });
   }
   if (ChosenMachine() == Machine::kRtm) {
