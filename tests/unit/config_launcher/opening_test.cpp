@@ -149,6 +149,7 @@ TEST_F(ConfigOpening, UntrappedErrorIsShownAndEndsTheProgram) {
   rig.machine.WhileBoxIsOpen([&rig] { EXPECT_FALSE(rig.form->Window().Unloaded()); });
   rig.form->Window().Dispatcher().Report(base::kOverflow);
   EXPECT_TRUE(rig.BoxText(1).starts_with("Run-time error '6':"));
+  EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk | os::kMbIconExclamation);
   EXPECT_TRUE(rig.form->Window().Unloaded());
 }
 

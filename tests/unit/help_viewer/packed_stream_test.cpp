@@ -51,6 +51,12 @@ TEST(PackedHelp, DamageEndsTheStreamEarly) {
       << "no more bytes than the stated size";
 }
 
+TEST(PackedHelp, StreamThatIsCutInARepetitionEndsThere) {
+  EXPECT_EQ(Unpack("\x08\0\0\0\x01"
+                   "a\x00"s),
+            "aaaa");
+}
+
 TEST(PackedHelp, ImpossibleSizeIsRejected) {
   EXPECT_EQ(Unpack("\xFF\xFF\xFF\xFF\xFF"
                    "abc"s),

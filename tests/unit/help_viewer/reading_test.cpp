@@ -170,6 +170,7 @@ TEST(HelpReading, UntrappedErrorIsShownAndEndsTheProgram) {
   rig.form->Window().Dispatcher().Report(base::kOverflow);
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_TRUE(rig.machine.Boxes()[0].text.starts_with("Run-time error '6':"));
+  EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk | os::kMbIconExclamation);
   EXPECT_TRUE(rig.form->Window().Unloaded());
 }
 

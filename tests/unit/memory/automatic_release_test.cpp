@@ -297,6 +297,16 @@ TEST_F(AutomaticRelease, ShorterIntervalDuringACountLetsItPassItsEnd) {
   EXPECT_EQ(Count(), "none");
 }
 
+TEST_F(AutomaticRelease, IntervalOf60DuringACountChecksEveryMinuteFromNowOn) {
+  rig.Store("Settings", "AutoSecs", "300");
+  rig.Start();
+  RunChecks(3);
+  EXPECT_TRUE(rig.program->Automatic().List2.SetSelectedIndex(4).Ok());
+  EXPECT_EQ(rig.program->Automatic().List2.SelectedText(), "60");
+  RunChecks(2);
+  EXPECT_EQ(Count(), "2");
+}
+
 TEST_F(AutomaticRelease, CountThatPassedItsEndFinallyOverflows) {
   rig.Store("Settings", "AutoSecs", "300");
   rig.Start();

@@ -194,6 +194,7 @@ TEST(UndoRows, UntrappedErrorIsShownAndEndsTheProgram) {
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Undo");
   EXPECT_TRUE(rig.machine.Boxes()[0].text.starts_with("Run-time error '6':"));
+  EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk | os::kMbIconStop);
   EXPECT_TRUE(rig.form->Window().Unloaded());
 }
 
