@@ -207,6 +207,7 @@ TEST_F(CacheSession, FirstSaveWritesSizesTemplateBackupAndRecord) {
   Save();
   const std::string min = std::to_string(multimedia.min_kb);
   const std::string max = std::to_string(multimedia.max_kb);
+  CloseProgram();
   EXPECT_EQ(SystemIni(),
             "[boot]\r\nshell=Explorer.exe\r\n[386Enh]\r\ndevice=*vpowerd\r\n[vcache]\r\nminfilecache=" + min +
                 "\r\nmaxfilecache=" + max + "\r\nchunksize=4096\r\n[drivers]\r\nwave=mmsystem.dll\r\n");
@@ -222,7 +223,6 @@ TEST_F(CacheSession, FirstSaveWritesSizesTemplateBackupAndRecord) {
                                                  {"OldMaxCache", "0"},
                                                  {"OldChunk", "0"},
                                                  {"OldFileCache", "Desktop"}}));
-  CloseProgram();
 }
 
 TEST_F(CacheSession, RecordHoldsTheOldContentsOfSystemIni) {
@@ -238,6 +238,7 @@ TEST_F(CacheSession, RecordHoldsTheOldContentsOfSystemIni) {
           .chunk_set = true});
   ChooseByArrowKeys(low_memory.preset);
   Save();
+  CloseProgram();
   EXPECT_EQ(SystemIni(),
             "[386Enh]\r\nPagingDrive=C:\r\nMinPagingFileSize=131072\r\nMaxPagingFileSize=131072\r\n"
             "[vcache]\r\nmaxfilecache=" +
@@ -251,7 +252,6 @@ TEST_F(CacheSession, RecordHoldsTheOldContentsOfSystemIni) {
                                                  {"OldPagingDrive", "C:"},
                                                  {"OldMinPagingFileSize", "131072"},
                                                  {"OldMaxPagingFileSize", "131072"}}));
-  CloseProgram();
 }
 
 TEST_F(CacheSession, SecondSaveNamesTheTemplateAndKeepsBackupAndRecord) {
@@ -262,6 +262,7 @@ TEST_F(CacheSession, SecondSaveNamesTheTemplateAndKeepsBackupAndRecord) {
   const RegistryTexts record = TextsOf(kMachineKey);
   ChooseByArrowKeys(low_memory.preset);
   Save();
+  CloseProgram();
   EXPECT_EQ(RegistryBytes(kOwnTemplate, ""), "1: 51 75 6F 6E 64 69 78 20 53 65 74 74 69 6E 67 73 00");
   EXPECT_EQ(RegistryBytes(kOwnTemplate, "NameCache"), "3: 51 01 00 00");
   EXPECT_EQ(RegistryBytes(kOwnTemplate, "PathCache"), "3: 10 00 00 00");
@@ -269,7 +270,6 @@ TEST_F(CacheSession, SecondSaveNamesTheTemplateAndKeepsBackupAndRecord) {
   EXPECT_EQ(TextsOf(kMachineKey), record);
   EXPECT_EQ(SystemIniText("vcache", "MinFileCache"), std::nullopt) << "its box is cleared";
   EXPECT_EQ(SystemIniText("vcache", "MaxFileCache"), std::to_string(low_memory.max_kb));
-  CloseProgram();
 }
 
 TEST_F(CacheSession, SavedPresetsAreRecognisedByTheNextStart) {
@@ -304,11 +304,11 @@ TEST_F(CacheSession, SystemDefaultsRemoveEverySizeWithTheNextSave) {
   EXPECT_TRUE(program.MessageBoxes().empty());
   EXPECT_EQ(SystemIniText("vcache", "chunksize"), "4096") << "nothing is written before the save";
   Save();
+  CloseProgram();
   EXPECT_EQ(SystemIni(), "[vcache]\r\nother=1\r\n");
   EXPECT_EQ(RegistryBytes(kOwnTemplate, "NameCache"), std::nullopt);
   EXPECT_EQ(RegistryBytes(kOwnTemplate, "PathCache"), std::nullopt);
   EXPECT_EQ(RegistryText(kTemplates, ""), "Quondix");
-  CloseProgram();
   StartOnCacheTab();
   Expect({.preset = kUserDefined});
   CloseProgram();

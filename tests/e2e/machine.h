@@ -32,6 +32,9 @@ class Machine {
   /// Returns half of the whole megabytes, rounded down.
   [[nodiscard]] int HalfMb() const { return static_cast<int>(std::floor(total_mb_)) / 2; }
 
+  /// Returns 66 % of the megabytes, rounded down.
+  [[nodiscard]] int TwoThirdsMb() const { return static_cast<int>(std::floor(total_mb_ * 0.66)); }
+
   /// Returns whole megabytes of 1,024,000 bytes: the smallest swap file that can be saved.
   [[nodiscard]] int WholeMb() const { return static_cast<int>(std::floor(total_mb_)); }
   /// Returns the largest disk cache that the sliders reach, in kilobytes.

@@ -236,6 +236,7 @@ TEST_F(SwapFileSession, ChosenSizeIsWrittenRecordedAndShownByTheNextStart) {
   Answer(kSaveQuestion, IDYES);
   Answer(kRestartQuestion, IDNO);
   const std::string size_kb = std::to_string(machine.WholeMb() * 1024);
+  CloseProgram();
   EXPECT_EQ(
       SystemIni(),
       "[boot]\r\nshell=Explorer.exe\r\n[386Enh]\r\ndevice=*vpowerd\r\nPagingDrive=C:\r\nMinPagingFileSize=" +
@@ -247,7 +248,6 @@ TEST_F(SwapFileSession, ChosenSizeIsWrittenRecordedAndShownByTheNextStart) {
                                                  {"OldMaxCache", "0"},
                                                  {"OldChunk", "1024"},
                                                  {"OldFileCache", "Desktop"}}));
-  CloseProgram();
   StartOnSwapFileTab();
   ExpectOption("optSwap2");
   ExpectSize(lowest_mb, machine.WholeMb());
@@ -323,10 +323,10 @@ TEST_F(SwapFileSession, WindowsDefaultRemovesTheEntriesAndSwitchesPagingOn) {
   EXPECT_EQ(ButtonWithKeyboard(), IDYES);
   PressKey(VK_RETURN);
   Answer(kDefaultRestartQuestion, IDNO);
+  CloseProgram();
   EXPECT_EQ(SystemIni(), "[386Enh]\r\ndevice=*vpowerd\r\nPaging=on\r\n");
   EXPECT_EQ(WindowsFile(kSystemBackup), kOwnSetup);
   EXPECT_EQ(RegistryText(kMachineKey, "OldMaxPagingFileSize"), "131072");
-  CloseProgram();
   StartOnSwapFileTab();
   ExpectOption("optSwap1");
   CloseProgram();

@@ -33,6 +33,7 @@ class TuningSession : public Session {
 
   /// Makes system.ini hold these bytes before the program starts.
   static void SetSystemIni(const std::string& bytes) { SetWindowsFile(kSystemIni, bytes); }
+  /// Windows 95 writes a program's changes at its end, or at a restart. Ask after that.
   [[nodiscard]] static std::string SystemIni() { return WindowsFile(kSystemIni).value_or("(no file)"); }
 
   /// Returns what a user reads on a control, without the marks of access keys.

@@ -2,6 +2,13 @@
 
 namespace qdix::os::win32 {
 
+namespace {
+
+/// Every kind of message that Windows 95 knows. QS_ALLINPUT of the headers has a later one.
+constexpr DWORD kAllInput = 0xFF;
+
+}  // namespace
+
 void Win32EventPump::PumpEvents() { static_cast<void>(HandlePending()); }
 
 Win32EventPump::Queue Win32EventPump::HandlePending() {
@@ -26,7 +33,7 @@ void Win32EventPump::WaitMs(std::uint32_t ms) {
     if (queue == Queue::kEnds || passed_ms >= ms) return;
     // The wait ends only for new messages, so the queue must be empty first.
     if (queue == Queue::kEmpty) {
-      MsgWaitForMultipleObjects(0, nullptr, FALSE, ms - passed_ms, QS_ALLINPUT);
+      MsgWaitForMultipleObjects(0, nullptr, FALSE, ms - passed_ms, kAllInput);
     }
   }
 }

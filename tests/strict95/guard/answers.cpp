@@ -34,7 +34,8 @@ constexpr Answer kAnswers[] = {
     {"GetSysColorBrush", 1, 25, kNoLimit, 0, Lacks::kRtmOnly},
     {"GetSysColor", 1, 29, kNoLimit, 0, Lacks::kBoth},
     {"GetSysColorBrush", 1, 29, kNoLimit, 0, Lacks::kBoth},
-    // Windows 98 added the wheel and the screen saver's state, and further up the tracking of the active window
+    // Windows 98 added the wheel and the screen saver's state, and further up the tracking of the active
+    // window
     // and the foreground lock.
     {"SystemParametersInfoA", 1, 0x5F, kNoLimit, 0, Lacks::kRtmOnly},
     {"SystemParametersInfoA", 1, 0x73, 0x0FFF, 0, Lacks::kBoth},

@@ -17,8 +17,9 @@ constexpr int kIconFlags = 12 / 4;
 constexpr int kIconMessage = 16 / 4;
 
 struct Right {
-  /// When the program last received input, on the clock of GetTickCount.
-  DWORD input_ms = GetTickCount();
+  /// When the program was started and when it last received input, on the clock of GetTickCount.
+  DWORD start_ms = GetTickCount();
+  DWORD input_ms = start_ms;
   /// The message by which its icon reports clicks.
   UINT icon_message = 0;
 };
@@ -52,7 +53,14 @@ bool HasLastInput() {
          static_cast<std::int32_t>(last.dwTime - TheRight().input_ms) <= kLagMs;
 }
 
-bool MayTakeForeground() { return HasForeground() || HasLastInput(); }
+/// A program that has just been started keeps the right. For Wine, a window that opens or closes below the
+/// pointer is input to another program; for Windows it is not.
+bool HasJustStarted() {
+  constexpr DWORD kStartMs = 5000;
+  return GetTickCount() - TheRight().start_ms < kStartMs;
+}
+
+bool MayTakeForeground() { return HasForeground() || HasLastInput() || HasJustStarted(); }
 
 void CheckBox(Call& call) {
   if (MayTakeForeground()) return;

@@ -62,6 +62,7 @@ constexpr Movement kMovements[] = {
     Taken("CreateWindowExA", kWindows),
     Taken("CreateFileA", kHandles, Success::kNotMinusOne),
     Taken("CreateMutexA", kHandles),
+    Taken("CreateThread", kHandles),
     TakenBehind("CreateProcessA", kHandles, 10, 0, Success::kNotZero),
     TakenBehind("CreateProcessA", kHandles, 10, 4, Success::kNotZero),
     Given("CloseHandle", kHandles, 1, Success::kAlways),

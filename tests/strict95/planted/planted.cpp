@@ -21,6 +21,7 @@ constexpr const char* kCopyPath = "C:\\windows\\planted.old";
 constexpr const char* kSecondCopyPath = "C:\\windows\\planted.new";
 constexpr WORD kHandCursor = 32649;
 constexpr UINT kWheelLines = 0x68;
+constexpr UINT kForegroundLock = 0x2000;
 constexpr int kHotColour = 26;
 /// For a copy of this program that only opens two windows, on a slow machine too.
 constexpr DWORD kChildLimitMs = 60000;
@@ -44,8 +45,12 @@ class Window {
 
 /// Gives whoever has the foreground the last input; this program never has it.
 void PressAKeyElsewhere() {
+  // A program that has just been started may take the foreground, and the clocks of input and ticks differ.
+  constexpr DWORD kStartMs = 5500;
   constexpr DWORD kLongerThanAnyLagMs = 500;
-  Sleep(kLongerThanAnyLagMs);
+  static const DWORD begin_ms = GetTickCount();
+  const DWORD passed_ms = GetTickCount() - begin_ms;
+  Sleep(passed_ms < kStartMs ? kStartMs - passed_ms : kLongerThanAnyLagMs);
   keybd_event(VK_SHIFT, 0, 0, 0);
   keybd_event(VK_SHIFT, 0, KEYEVENTF_KEYUP, 0);
 }
@@ -237,7 +242,8 @@ bool AnswersLaterQuestionsWithNo() {
   UINT lines = 0;
   return (GetSysColorBrush(kHotColour) == nullptr) == IsRtm() &&
          (LoadCursorA(nullptr, MAKEINTRESOURCEA(kHandCursor)) == nullptr) == IsRtm() &&
-         (SystemParametersInfoA(kWheelLines, 0, &lines, 0) == 0) == IsRtm();
+         (SystemParametersInfoA(kWheelLines, 0, &lines, 0) == 0) == IsRtm() &&
+         (SystemParametersInfoA(kForegroundLock, 0, &lines, 0) == 0) == IsRtm();
 }
 
 bool ScramblesTheLastError() {
