@@ -27,6 +27,14 @@ std::string DescribeWindow(HWND window) {
          (answers ? "" : ", does not answer") + "\n";
 }
 
+void End(const RunningProcess& process) {
+  const HANDLE handle = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, process.id);
+  if (handle == nullptr) return;
+  TerminateProcess(handle, kEndedBySupervisor);
+  WaitForSingleObject(handle, kEndLimitMs);
+  CloseHandle(handle);
+}
+
 }  // namespace
 
 std::vector<RunningProcess> RunningProcesses() {
@@ -59,12 +67,13 @@ void EndAllBut(const std::vector<RunningProcess>& kept) {
     const bool stays = process.id == GetCurrentProcessId() ||
                        std::any_of(kept.begin(), kept.end(),
                                    [&](const RunningProcess& one) { return one.id == process.id; });
-    if (stays) continue;
-    const HANDLE handle = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, process.id);
-    if (handle == nullptr) continue;
-    TerminateProcess(handle, kEndedBySupervisor);
-    WaitForSingleObject(handle, kEndLimitMs);
-    CloseHandle(handle);
+    if (!stays) End(process);
+  }
+}
+
+void EndAllOf(std::string_view file_name) {
+  for (const RunningProcess& process : RunningProcesses()) {
+    if (process.file_name == file_name) End(process);
   }
 }
 

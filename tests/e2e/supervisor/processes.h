@@ -6,6 +6,7 @@
 // clang-format on
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace qdix::e2e {
@@ -23,5 +24,8 @@ struct RunningProcess {
 
 /// Ends every process except this one and those in `kept`.
 void EndAllBut(const std::vector<RunningProcess>& kept);
+
+/// Ends every process of this program.
+void EndAllOf(std::string_view file_name);
 
 }  // namespace qdix::e2e

@@ -8,6 +8,7 @@
 #include "tests/e2e/driver/file_keeper.h"
 #include "tests/e2e/driver/photograph.h"
 #include "tests/e2e/driver/polling.h"
+#include "tests/e2e/driver/program_facts.h"
 #include "tests/e2e/supervisor/progress.h"
 
 namespace qdix::e2e {
@@ -82,6 +83,9 @@ int Supervisor::Run() {
     if (!is_complete) ReportAndCleanUp(end, progress.begun.back());
     finished_.insert(finished_.end(), progress.begun.begin(), progress.begun.end());
   }
+  // The first start of a test opens a help viewer that stays. It would keep the output open, and whoever
+  // reads that would wait for it.
+  EndAllOf(HelpViewer().file_name);
   for (const std::string& test : stopped_) std::printf("[  STOPPED ] %s\n", test.c_str());
   return all_passed ? 0 : 1;
 }
