@@ -20,7 +20,7 @@ target_compile_options(qdix_arithmetic INTERFACE
 # Shipped code: no exceptions, no run-time type information.
 add_library(qdix_shipped INTERFACE)
 target_compile_options(qdix_shipped INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Os;-flto;-fno-inline-functions-called-once;\
--mno-stack-arg-probe;-mno-accumulate-outgoing-args;-mpreferred-stack-boundary=2;\
+-fno-declone-ctor-dtor;-fomit-frame-pointer;-mno-stack-arg-probe;-mno-accumulate-outgoing-args;-mpreferred-stack-boundary=2;\
 -fno-exceptions;-fno-rtti;-fno-threadsafe-statics;-fno-use-cxa-atexit;-fno-asynchronous-unwind-tables;\
 -ffunction-sections;-fdata-sections;-Walloca;-Wframe-larger-than=3000;-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
 target_link_libraries(qdix_shipped INTERFACE qdix_windows95 qdix_arithmetic)
