@@ -44,7 +44,7 @@ class ConfigForm {
   void FilesDropped(const std::vector<std::string>& paths) { entry_list_.AddFiles(paths); }
 
   [[nodiscard]] ui::Application& TheApplication() { return application_; }
-  [[nodiscard]] ui::Form& Window() { return screen_.Window; }
+  [[nodiscard]] ui::Form& Form() { return screen_.Window; }
   [[nodiscard]] ConfigScreen& Screen() { return screen_; }
   [[nodiscard]] const std::vector<launcher::LauncherEntry>& Entries() const { return entry_list_.Entries(); }
 

@@ -47,7 +47,7 @@ class HelpForm {
   void EndSession();
 
   [[nodiscard]] ui::Application& TheApplication() { return application_; }
-  [[nodiscard]] ui::Form& Window() { return screen_.Window; }
+  [[nodiscard]] ui::Form& Form() { return screen_.Window; }
   [[nodiscard]] HelpScreen& Screen() { return screen_; }
   /// Returns the index of the current topic, or kContentsPage.
   [[nodiscard]] int Current() const { return reader_.Current(); }

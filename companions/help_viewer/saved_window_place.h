@@ -3,7 +3,7 @@
 
 #include "os/screen.h"
 #include "os/system.h"
-#include "shell/settings_store.h"
+#include "registry/settings_store.h"
 #include "ui/form.h"
 
 namespace qdix::help_viewer {
@@ -19,7 +19,7 @@ class SavedWindowPlace {
   void Save(const ui::Form& window);
 
  private:
-  shell::SettingsStore settings_;
+  registry::SettingsStore settings_;
   os::Screen& screen_;
 };
 

@@ -13,7 +13,7 @@
 #include "os/session.h"
 #include "os/shell.h"
 #include "os/shell_files.h"
-#include "os/windows.h"
+#include "os/top_level_windows.h"
 
 namespace qdix::self_test {
 

@@ -7,7 +7,7 @@
 #include "base/text.h"
 #include "cpu/processor_name.h"
 #include "os/error_codes.h"
-#include "shell/registry_key.h"
+#include "registry/registry_key.h"
 
 namespace qdix::self_test {
 
@@ -101,13 +101,13 @@ Outcome CheckWindowsDrive(const os::System& real) {
 
 Outcome RegistryReads(const os::System& real) {
   const auto there =
-      shell::RegistryKey::Open(real.registry, os::kHkeyLocalMachine,
-                               "Software\\Microsoft\\Windows\\CurrentVersion", os::kKeyQueryValue);
+      registry::RegistryKey::Open(real.registry, os::kHkeyLocalMachine,
+                                  "Software\\Microsoft\\Windows\\CurrentVersion", os::kKeyQueryValue);
   if (!there.IsOpen()) return Outcome::Failed("the Windows key cannot be opened");
   if (there.HasValue("QDIXTEST has no such value"))
     return Outcome::Failed("a value that does not exist was found");
   const auto missing =
-      shell::RegistryKey::Open(real.registry, os::kHkeyLocalMachine, "QDIXTEST\\None", os::kKeyQueryValue);
+      registry::RegistryKey::Open(real.registry, os::kHkeyLocalMachine, "QDIXTEST\\None", os::kKeyQueryValue);
   return Outcome::Expect(!missing.IsOpen(), "a key that does not exist was opened");
 }
 

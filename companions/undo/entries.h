@@ -5,8 +5,8 @@
 #include <cstddef>
 
 #include "tuning/cache/file_system_template.h"
-#include "tuning/cache/record_names.h"
-#include "tuning/cache/system_ini.h"
+#include "tuning/record_names.h"
+#include "tuning/system_ini.h"
 
 namespace qdix::undo {
 
@@ -34,14 +34,17 @@ struct Entry {
 
 /// In the order of the rows.
 inline constexpr std::array<Entry, 8> kEntries{{
-    {tuning::kVcacheSection, "MinFileCache", Recorded::kAsNumber, tuning::kRecordedMinCache},
-    {tuning::kVcacheSection, "MaxFileCache", Recorded::kAsNumber, tuning::kRecordedMaxCache},
-    {tuning::kVcacheSection, "ChunkSize", Recorded::kAsNumber, tuning::kRecordedChunk},
+    {tuning::kVcacheSection, tuning::kMinFileCacheEntry, Recorded::kAsNumber, tuning::kRecordedMinCache},
+    {tuning::kVcacheSection, tuning::kMaxFileCacheEntry, Recorded::kAsNumber, tuning::kRecordedMaxCache},
+    {tuning::kVcacheSection, tuning::kChunkSizeEntry, Recorded::kAsNumber, tuning::kRecordedChunk},
     {nullptr, tuning::kUnnamedValue, Recorded::kAsTextOrEmpty, tuning::kRecordedTemplate},
-    {tuning::k386EnhSection, "PagingDrive", Recorded::kAsTextOrMissing, tuning::kRecordedPagingDrive},
-    {tuning::k386EnhSection, "MinPagingFileSize", Recorded::kAsTextOrMissing, tuning::kRecordedMinPagingFile},
-    {tuning::k386EnhSection, "MaxPagingFileSize", Recorded::kAsTextOrMissing, tuning::kRecordedMaxPagingFile},
-    {tuning::k386EnhSection, "Paging", Recorded::kNever, nullptr},
+    {tuning::k386EnhSection, tuning::kPagingDriveEntry, Recorded::kAsTextOrMissing,
+     tuning::kRecordedPagingDrive},
+    {tuning::k386EnhSection, tuning::kMinPagingFileSizeEntry, Recorded::kAsTextOrMissing,
+     tuning::kRecordedMinPagingFile},
+    {tuning::k386EnhSection, tuning::kMaxPagingFileSizeEntry, Recorded::kAsTextOrMissing,
+     tuning::kRecordedMaxPagingFile},
+    {tuning::k386EnhSection, tuning::kPagingEntry, Recorded::kNever, nullptr},
 }};
 
 }  // namespace qdix::undo

@@ -1,7 +1,7 @@
 #include "undo/ini_state.h"
 
 #include "base/text.h"
-#include "tuning/cache/system_ini.h"
+#include "tuning/system_ini.h"
 
 namespace qdix::undo {
 

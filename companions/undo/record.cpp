@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "shell/registry_key.h"
-#include "shell/registry_paths.h"
+#include "registry/registry_key.h"
+#include "registry/registry_paths.h"
 
 namespace qdix::undo {
 
@@ -17,7 +17,7 @@ bool IsAlwaysRecorded(const Entry& entry) {
 
 Record Record::Read(os::Registry& registry) {
   const auto key =
-      shell::RegistryKey::Open(registry, os::kHkeyLocalMachine, shell::kMachineKey, os::kKeyQueryValue);
+      registry::RegistryKey::Open(registry, os::kHkeyLocalMachine, registry::kMachineKey, os::kKeyQueryValue);
   if (key.ReadText(tuning::kRecordMarker).value_or("").empty()) return {};
   Values values;
   for (std::size_t entry = 0; entry < kEntries.size(); ++entry) {

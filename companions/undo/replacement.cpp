@@ -1,7 +1,7 @@
 #include "undo/replacement.h"
 
 #include "shell/file_content.h"
-#include "tuning/cache/system_ini.h"
+#include "tuning/system_ini.h"
 
 namespace qdix::undo {
 

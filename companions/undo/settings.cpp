@@ -3,8 +3,8 @@
 #include <array>
 
 #include "base/text.h"
+#include "registry/registry_key.h"
 #include "shell/file_content.h"
-#include "shell/registry_key.h"
 
 namespace qdix::undo {
 
@@ -87,8 +87,8 @@ std::optional<std::string> Settings::ReadNow(const Entry& entry) const {
 }
 
 std::optional<std::string> Settings::ReadTemplate() const {
-  auto name = shell::RegistryKey::Open(system_.registry, os::kHkeyLocalMachine, tuning::kTemplatesKey,
-                                       os::kKeyQueryValue)
+  auto name = registry::RegistryKey::Open(system_.registry, os::kHkeyLocalMachine, tuning::kTemplatesKey,
+                                          os::kKeyQueryValue)
                   .ReadText(tuning::kUnnamedValue);
   return name.value_or("").empty() ? std::nullopt : name;
 }

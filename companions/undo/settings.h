@@ -5,8 +5,8 @@
 #include <string>
 
 #include "os/system.h"
-#include "shell/module_registry.h"
-#include "tuning/cache/system_ini.h"
+#include "registry/module_registry.h"
+#include "tuning/system_ini.h"
 #include "undo/before.h"
 #include "undo/ini_state.h"
 #include "undo/record.h"
@@ -74,7 +74,7 @@ class Settings {
   [[nodiscard]] std::string BackupPath() const;
 
   const os::System& system_;
-  shell::ModuleRegistry module_registry_;
+  registry::ModuleRegistry module_registry_;
   tuning::SystemIni system_ini_;
   Record record_;
   Backup backup_;

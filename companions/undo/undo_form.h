@@ -26,7 +26,7 @@ class UndoForm {
   void EndSession();
 
   [[nodiscard]] ui::Application& TheApplication() { return application_; }
-  [[nodiscard]] ui::Form& Window() { return screen_.Window; }
+  [[nodiscard]] ui::Form& Form() { return screen_.Window; }
   [[nodiscard]] UndoScreen& Screen() { return screen_; }
 
   base::Status cmdClose_Click();

@@ -7,13 +7,13 @@ namespace qdix::app {
 Form1::Form1(const os::System& system)
     : system_(system),
       settings_(system.registry),
-      single_instance_(system, application_, window_.Form1),
+      single_instance_(system, application_, window_.Form),
       machine_record_(system.registry),
       processor_(system.processor),
       cpu_speed_(processor_, quondix_),
       cpu_usage_(system, application_, settings_, quondix_, startup_),
-      monitor_(system, application_, window_.Form1, quondix_, cpu_usage_),
-      release_(system, application_, window_.Form1),
+      monitor_(system, application_, window_.Form, quondix_, cpu_usage_),
+      release_(system, application_, window_.Form),
       manual_release_(release_, settings_, quondix_),
       scheduled_release_(release_, monitor_, cpu_usage_, manual_release_, {quondix_, startup_}),
       automatic_release_(system, settings_, automatic_, window_.SSTab1, window_.Timer2, application_,
@@ -27,7 +27,7 @@ Form1::Form1(const os::System& system)
                      swap_file_screen_, about_}),
       system_ini_(system.profile_files, system.files),
       first_save_(system, system_ini_),
-      restart_(system, application_, window_.Form1),
+      restart_(system, application_, window_.Form),
       cache_settings_(system, system_ini_, monitor_, cache_),
       cache_save_(system, application_, cache_, system_ini_, first_save_, restart_),
       drive_info_(system.drives),
@@ -35,21 +35,21 @@ Form1::Form1(const os::System& system)
       swap_suggestion_(system.dialogs, application_, monitor_, swap_file_screen_, swap_file_),
       swap_save_(system.dialogs, application_, monitor_, swap_file_screen_, swap_file_,
                  {system_ini_, first_save_, restart_}),
-      defragmenter_(system, application_, window_.Form1, swap_file_screen_, swap_file_),
+      defragmenter_(system, application_, window_.Form, swap_file_screen_, swap_file_),
       launch_release_(release_, monitor_, settings_, launcher_screen_, startup_.Check4),
-      program_launcher_(system, application_, {window_.Form1, launcher_screen_, tray_menu_}, launch_release_),
+      program_launcher_(system, application_, {window_.Form, launcher_screen_, tray_menu_}, launch_release_),
       config_watch_(system, launcher_screen_, window_.Timer7, program_launcher_),
       up_time_(system.clock, startup_),
       window_modes_(settings_, {window_, quondix_, automatic_, time_intervals_, startup_}),
-      tray_icon_(system, window_.Form1, tray_menu_, monitor_, manual_release_) {
+      tray_icon_(system, window_.Form, tray_menu_, monitor_, manual_release_) {
   BindEvents();
 }
 
 void Form1::BindEvents() {
   using ui::Handler;
   events_.ReportErrorsTo(ui::EventDispatcher::ErrorReporter::To<&Form1::ReportUntrapped>(*this));
-  window_.Form1.OnActivate = Handler::To<&Form1::Form_Activate>(*this);
-  window_.Form1.OnUnload = Handler::To<&Form1::Form_Unload>(*this);
+  window_.Form.OnActivate = Handler::To<&Form1::Form_Activate>(*this);
+  window_.Form.OnUnload = Handler::To<&Form1::Form_Unload>(*this);
   window_.SSTab1.OnClick = base::Callback<base::Status(int)>::To<&Form1::SSTab1_Click>(*this);
   window_.Timer1.OnTimer = Handler::To<&Form1::Timer1_Timer>(*this);
   window_.Timer6.OnTimer = Handler::To<&Form1::Timer6_Timer>(*this);
@@ -57,19 +57,19 @@ void Form1::BindEvents() {
 
 void Form1::Start() {
   events_.Run(ui::Handler::To<&Form1::Form_Load>(*this));
-  if (!window_.Form1.Unloaded() && !window_modes_.StartsHidden()) window_.Form1.Show();
+  if (!window_.Form.Unloaded() && !window_modes_.StartsHidden()) window_.Form.Show();
 }
 
 void Form1::EndSession() {
   application_.SetSessionIsEnding();
-  window_.Form1.UnloadAtOnce();
+  window_.Form.UnloadAtOnce();
 }
 
 /// Also called at the end of the load, to refresh the display of a hidden window. The first help waits for a
 /// window that the user can see.
 base::Status Form1::Form_Activate() {
   window_.Timer1.SetEnabled(true);
-  if (!first_help_pending_ || !window_.Form1.Visible()) return base::kDone;
+  if (!first_help_pending_ || !window_.Form.Visible()) return base::kDone;
   first_help_pending_ = false;
   return help_.HasViewer() ? help_.FirstHelp() : base::kDone;
 }
@@ -126,18 +126,18 @@ base::Status Form1::SaveAtExit() {
   if (!amount.Ok()) return amount;
   const base::Result<bool> auto_limit = automatic_release_.Text9_Validate();
   if (!auto_limit.Ok()) return auto_limit.Error();
-  if (window_.Form1.Unloaded()) return base::kDone;
+  if (window_.Form.Unloaded()) return base::kDone;
   const base::Result<bool> time_limit = timed_release_.Text10_Validate();
   if (!time_limit.Ok()) return time_limit.Error();
-  if (window_.Form1.Unloaded()) return base::kDone;
-  settings_.SaveNumber(shell::kSettingsSection, "LastTab", window_.SSTab1.Tab());
+  if (window_.Form.Unloaded()) return base::kDone;
+  settings_.SaveNumber(registry::kSettingsSection, "LastTab", window_.SSTab1.Tab());
   return base::kDone;
 }
 
 void Form1::ReportUntrapped(const base::RuntimeError& error) {
   system_.dialogs.MessageBoxA(base::UntrappedErrorText(error), application_.Title(),
                               os::kMbOk | os::kMbIconStop);
-  window_.Form1.Unload();
+  window_.Form.Unload();
 }
 
 }  // namespace qdix::app

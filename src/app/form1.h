@@ -21,6 +21,7 @@
 #include "memory/startup_release.h"
 #include "memory/timed_release.h"
 #include "os/system.h"
+#include "registry/settings_store.h"
 #include "screens/about_screen.h"
 #include "screens/automatic_screen.h"
 #include "screens/cache_screen.h"
@@ -33,18 +34,17 @@
 #include "screens/tray_menu.h"
 #include "shell/desktop_shortcut.h"
 #include "shell/help.h"
-#include "shell/settings_store.h"
 #include "shell/startup_registration.h"
 #include "tuning/cache/cache_save.h"
 #include "tuning/cache/cache_settings.h"
-#include "tuning/cache/first_save.h"
-#include "tuning/cache/system_ini.h"
+#include "tuning/first_save.h"
 #include "tuning/restart.h"
 #include "tuning/swap/defragmenter.h"
 #include "tuning/swap/drive_info.h"
 #include "tuning/swap/swap_file.h"
 #include "tuning/swap/swap_save.h"
 #include "tuning/swap/swap_suggestion.h"
+#include "tuning/system_ini.h"
 #include "ui/application.h"
 
 namespace qdix::app {
@@ -65,7 +65,7 @@ class Form1 {
   void EndSession();
 
   [[nodiscard]] ui::Application& TheApplication() { return application_; }
-  [[nodiscard]] ui::Form& Window() { return window_.Form1; }
+  [[nodiscard]] ui::Form& Form() { return window_.Form; }
   [[nodiscard]] screens::MainWindow::AllTimers Timers() { return window_.Timers(); }
 
   base::Status Form_Load();
@@ -77,23 +77,23 @@ class Form1 {
 
   // The screens, for code that inspects or operates the window.
   [[nodiscard]] screens::MainWindow& MainWindow() { return window_; }
-  [[nodiscard]] screens::QuondixScreen& Quondix() { return quondix_; }
-  [[nodiscard]] screens::AutomaticScreen& Automatic() { return automatic_; }
-  [[nodiscard]] screens::TimeIntervalsScreen& TimeIntervals() { return time_intervals_; }
-  [[nodiscard]] screens::StartupScreen& Startup() { return startup_; }
-  [[nodiscard]] screens::LauncherScreen& Launcher() { return launcher_screen_; }
-  [[nodiscard]] screens::CacheScreen& Cache() { return cache_; }
-  [[nodiscard]] screens::SwapFileScreen& SwapFile() { return swap_file_screen_; }
-  [[nodiscard]] screens::AboutScreen& About() { return about_; }
+  [[nodiscard]] screens::QuondixScreen& QuondixScreen() { return quondix_; }
+  [[nodiscard]] screens::AutomaticScreen& AutomaticScreen() { return automatic_; }
+  [[nodiscard]] screens::TimeIntervalsScreen& TimeIntervalsScreen() { return time_intervals_; }
+  [[nodiscard]] screens::StartupScreen& StartupScreen() { return startup_; }
+  [[nodiscard]] screens::LauncherScreen& LauncherScreen() { return launcher_screen_; }
+  [[nodiscard]] screens::CacheScreen& CacheScreen() { return cache_; }
+  [[nodiscard]] screens::SwapFileScreen& SwapFileScreen() { return swap_file_screen_; }
+  [[nodiscard]] screens::AboutScreen& AboutScreen() { return about_; }
 
-  [[nodiscard]] screens::TrayMenu& TheTrayMenu() { return tray_menu_; }
-  [[nodiscard]] TrayIcon& Tray() { return tray_icon_; }
+  [[nodiscard]] screens::TrayMenu& TrayMenu() { return tray_menu_; }
+  [[nodiscard]] app::TrayIcon& TrayIcon() { return tray_icon_; }
 
-  [[nodiscard]] memory::MemoryMonitor& Monitor() { return monitor_; }
-  [[nodiscard]] memory::MemoryRelease& Release() { return release_; }
-  [[nodiscard]] memory::AutomaticRelease& AutomaticSettings() { return automatic_release_; }
-  [[nodiscard]] cpu::CpuUsage& Cpu() { return cpu_usage_; }
-  [[nodiscard]] memory::StartupRelease& StartupSettings() { return startup_release_; }
+  [[nodiscard]] memory::MemoryMonitor& MemoryMonitor() { return monitor_; }
+  [[nodiscard]] memory::MemoryRelease& MemoryRelease() { return release_; }
+  [[nodiscard]] memory::AutomaticRelease& AutomaticRelease() { return automatic_release_; }
+  [[nodiscard]] cpu::CpuUsage& CpuUsage() { return cpu_usage_; }
+  [[nodiscard]] memory::StartupRelease& StartupRelease() { return startup_release_; }
 
  private:
   void BindEvents();
@@ -108,7 +108,7 @@ class Form1 {
   const os::System& system_;
   ui::EventDispatcher events_;
   ui::Application application_{"Q-DIX"};
-  shell::SettingsStore settings_;
+  registry::SettingsStore settings_;
 
   screens::MainWindow window_{events_};
   screens::QuondixScreen quondix_{window_.SSTab1.Page(screens::kQuondixTab)};
@@ -151,7 +151,7 @@ class Form1 {
   launcher::ConfigWatch config_watch_;
   UpTime up_time_;
   WindowModes window_modes_;
-  TrayIcon tray_icon_;
+  app::TrayIcon tray_icon_;
 
   bool tip_pending_ = false;
   bool first_help_pending_ = false;

@@ -17,7 +17,7 @@ base::Status Form1::Form_Load() {
   cpu_usage_.StartCpuStatistics();
   cpu_usage_.FirstCPUUSAGE();
   // Reporting the first reading opens a message box. The session may have ended while it was open.
-  if (window_.Form1.Unloaded()) return base::kDone;
+  if (window_.Form.Unloaded()) return base::kDone;
   automatic_release_.FillLists();
   timed_release_.FillLists();
   startup_release_.FillLists();
@@ -29,7 +29,7 @@ base::Status Form1::Form_Load() {
   cpu_usage_.LoadUpdateInterval();
   timed_release_.LoadCpuLimit();
   SelectStoredTab();
-  if (window_.Form1.Unloaded()) return base::kDone;  // the session may have ended during the tip, too
+  if (window_.Form.Unloaded()) return base::kDone;  // the session may have ended during the tip, too
   cache_settings_.SetupCache();
   startup_registration_.CheckStartup();
   automatic_release_.LoadCounter();
@@ -68,7 +68,7 @@ void Form1::RunFirstTimeSteps() {
 }
 
 void Form1::SelectStoredTab() {
-  const double stored = settings_.GetNumber(shell::kSettingsSection, "LastTab", 0);
+  const double stored = settings_.GetNumber(registry::kSettingsSection, "LastTab", 0);
   const base::Result<std::int32_t> tab = base::ToInt32(stored);
   if (tab.Ok())
     base::Ignore(window_.SSTab1.SetTab(tab.Value()));  // a tab that does not exist leaves the first one open

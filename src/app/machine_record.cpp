@@ -1,14 +1,14 @@
 #include "app/machine_record.h"
 
-#include "shell/registry_key.h"
-#include "shell/registry_paths.h"
+#include "registry/registry_key.h"
+#include "registry/registry_paths.h"
 
 namespace qdix::app {
 
 namespace {
 
-using shell::kMachineKey;
-using shell::RegistryKey;
+using registry::kMachineKey;
+using registry::RegistryKey;
 
 constexpr const char* kUserKey = "Software\\QDIX";
 constexpr const char* kMarker = "HasRun";

@@ -14,7 +14,7 @@ constexpr double kHidden = 3;
 
 }  // namespace
 
-WindowModes::WindowModes(shell::SettingsStore& settings, const Screens& screens)
+WindowModes::WindowModes(registry::SettingsStore& settings, const Screens& screens)
     : settings_(settings), screens_(screens) {
   using ui::Handler;
   screens_.quondix.Command2.OnClick = Handler::To<&WindowModes::Command2_Click>(*this);
@@ -26,12 +26,12 @@ WindowModes::WindowModes(shell::SettingsStore& settings, const Screens& screens)
 }
 
 void WindowModes::LoadStartDisplay() {
-  const double stored = settings_.GetNumber(shell::kStartupSection, "StartDisplay", kFullyDisplayed);
+  const double stored = settings_.GetNumber(registry::kStartupSection, "StartDisplay", kFullyDisplayed);
   if (stored == kFullyDisplayed) {
     screens_.startup.Option1.SetSelected(true);
   } else if (stored == kMinimised) {
     screens_.startup.Option2.SetSelected(true);
-    screens_.window.Form1.SetState(ui::WindowState::kMinimised);
+    screens_.window.Form.SetState(ui::WindowState::kMinimised);
   } else if (stored == kHidden) {
     screens_.startup.Option3.SetSelected(true);
     starts_hidden_ = true;
@@ -39,12 +39,12 @@ void WindowModes::LoadStartDisplay() {
 }
 
 base::Status WindowModes::Command2_Click() {
-  screens_.window.Form1.Hide();
+  screens_.window.Form.Hide();
   return base::kDone;
 }
 
 base::Status WindowModes::Command4_Click() {
-  screens_.window.Form1.SetState(ui::WindowState::kMinimised);
+  screens_.window.Form.SetState(ui::WindowState::kMinimised);
   return base::kDone;
 }
 
@@ -96,7 +96,7 @@ base::Status WindowModes::Option3_Click() {
 }
 
 void WindowModes::SaveStartDisplay(double mode) {
-  settings_.SaveNumber(shell::kStartupSection, "StartDisplay", mode);
+  settings_.SaveNumber(registry::kStartupSection, "StartDisplay", mode);
 }
 
 }  // namespace qdix::app

@@ -1,12 +1,12 @@
 // Hides, minimises and pauses the program, and sets how it appears at the next start.
 #pragma once
 
+#include "registry/settings_store.h"
 #include "screens/automatic_screen.h"
 #include "screens/main_window.h"
 #include "screens/quondix_screen.h"
 #include "screens/startup_screen.h"
 #include "screens/time_intervals_screen.h"
-#include "shell/settings_store.h"
 
 namespace qdix::app {
 
@@ -20,7 +20,7 @@ class WindowModes {
     screens::StartupScreen& startup;
   };
 
-  WindowModes(shell::SettingsStore& settings, const Screens& screens);
+  WindowModes(registry::SettingsStore& settings, const Screens& screens);
 
   /// Selects the option of the stored display mode and minimises or hides the window before it is shown. An
   /// unknown mode selects none.
@@ -40,7 +40,7 @@ class WindowModes {
   void Resume();
   void SaveStartDisplay(double mode);
 
-  shell::SettingsStore& settings_;
+  registry::SettingsStore& settings_;
   Screens screens_;
   bool starts_hidden_ = false;
 };

@@ -1,5 +1,4 @@
-// A callback in two words: a function and the object that it works on. Binding allocates nothing and cannot
-// fail.
+// A callback in two words: a function and what it works on. Binding allocates nothing and cannot fail.
 #pragma once
 
 namespace qdix::base {
@@ -19,6 +18,13 @@ class Callback<R(Args...)> {
     return Callback(&object, [](void* bound, Args... args) -> R {
       return (static_cast<Object*>(bound)->*Method)(args...);
     });
+  }
+
+  /// Returns a callback that calls `callable`, for example a lambda in a variable.
+  template <class Callable>
+  [[nodiscard]] static constexpr Callback Of(Callable& callable) {
+    return Callback(&callable,
+                    [](void* bound, Args... args) -> R { return (*static_cast<Callable*>(bound))(args...); });
   }
 
   constexpr explicit operator bool() const { return function_ != nullptr; }

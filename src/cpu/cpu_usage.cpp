@@ -25,18 +25,19 @@ constexpr std::int32_t kFloorPercent = 4;
 }  // namespace
 
 CpuUsage::CpuUsage(const os::System& system, const ui::Application& application,
-                   shell::SettingsStore& settings, screens::QuondixScreen& quondix,
+                   registry::SettingsStore& settings, screens::QuondixScreen& quondix,
                    screens::StartupScreen& startup)
     : system_(system), application_(application), settings_(settings), quondix_(quondix), startup_(startup) {
   startup_.Slider7.OnMove = base::Callback<base::Status(std::int32_t)>::To<&CpuUsage::Slider7_Change>(*this);
 }
 
 void CpuUsage::LoadUpdateInterval() {
-  startup_.Slider7.SetNearest(settings_.GetNumber(shell::kSettingsSection, kIntervalKey, kDefaultInterval));
+  startup_.Slider7.SetNearest(
+      settings_.GetNumber(registry::kSettingsSection, kIntervalKey, kDefaultInterval));
 }
 
 base::Status CpuUsage::Slider7_Change(std::int32_t position) {
-  settings_.SaveNumber(shell::kSettingsSection, kIntervalKey, position);
+  settings_.SaveNumber(registry::kSettingsSection, kIntervalKey, position);
   return base::kDone;
 }
 

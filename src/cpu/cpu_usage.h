@@ -7,16 +7,16 @@
 #include <cstdint>
 
 #include "os/system.h"
+#include "registry/settings_store.h"
 #include "screens/quondix_screen.h"
 #include "screens/startup_screen.h"
-#include "shell/settings_store.h"
 #include "ui/application.h"
 
 namespace qdix::cpu {
 
 class CpuUsage {
  public:
-  CpuUsage(const os::System& system, const ui::Application& application, shell::SettingsStore& settings,
+  CpuUsage(const os::System& system, const ui::Application& application, registry::SettingsStore& settings,
            screens::QuondixScreen& quondix, screens::StartupScreen& startup);
 
   /// Makes Windows start the statistic. Call it once, before the first reading.
@@ -46,7 +46,7 @@ class CpuUsage {
 
   const os::System& system_;
   const ui::Application& application_;
-  shell::SettingsStore& settings_;
+  registry::SettingsStore& settings_;
   screens::QuondixScreen& quondix_;
   screens::StartupScreen& startup_;
   /// Slots 1 to 7 of the samples, newest first: readings in percent.

@@ -17,28 +17,8 @@ constexpr double kMaxMb = 250;
 
 }  // namespace
 
-/// Computes the amount of each pass of one release. If no share is selected, the amount stays as it was, 0 at
-/// first.
-struct LaunchRelease::Amount {
-  const LaunchRelease& owner;
-  double mb = 0;
-
-  double Next() {
-    const double total_mb = owner.monitor_.TotalRAM();
-    if (owner.screen_.Option9.Selected()) {
-      mb = base::WholePart(total_mb * 0.33);
-    } else if (owner.screen_.Option8.Selected()) {
-      mb = base::WholePart(total_mb * 0.5);
-    } else if (owner.screen_.Option7.Selected()) {
-      mb = base::WholePart(total_mb * 0.66);
-    }
-    mb = std::min(mb, kMaxMb);
-    return mb;
-  }
-};
-
 LaunchRelease::LaunchRelease(memory::MemoryRelease& release, const memory::MemoryMonitor& monitor,
-                             shell::SettingsStore& settings, screens::LauncherScreen& screen,
+                             registry::SettingsStore& settings, screens::LauncherScreen& screen,
                              const ui::CheckBox& warning_silencer)
     : release_(release),
       monitor_(monitor),
@@ -56,26 +36,39 @@ LaunchRelease::LaunchRelease(memory::MemoryRelease& release, const memory::Memor
 }
 
 void LaunchRelease::LoadSettings() {
-  const std::string share = settings_.GetSetting(shell::kSettingsSection, kShareKey, kFirst);
+  const std::string share = settings_.GetSetting(registry::kSettingsSection, kShareKey, kFirst);
   ui::OptionButton* option = &screen_.Option6;
   if (share == "1") option = &screen_.Option9;
   if (share == "2") option = &screen_.Option8;
   if (share == "3") option = &screen_.Option7;
   option->SetSelected(true);
-  const std::string passes = settings_.GetSetting(shell::kSettingsSection, kPassesKey, kFirst);
+  const std::string passes = settings_.GetSetting(registry::kSettingsSection, kPassesKey, kFirst);
   for (ui::OptionButton& element : screen_.Slider_6) {
     element.SetSelected(element.Caption() == passes);
   }
 }
 
+/// If no share is selected, the amount stays as it was, 0 at first.
 memory::ReleaseOutcome LaunchRelease::FreeMemoryBeforeLaunch() {
-  Amount amount{*this};
+  double amount_mb = 0;
+  auto next_amount_mb = [this, &amount_mb] {
+    const double total_mb = monitor_.TotalRAM();
+    const double share = Share();
+    if (share != 0) amount_mb = std::min(base::WholePart(total_mb * share), kMaxMb);
+    return amount_mb;
+  };
   const memory::ReleaseRequest request{
-      .amount_mb = base::Callback<double()>::To<&Amount::Next>(amount),
+      .amount_mb = base::Callback<double()>::Of(next_amount_mb),
       .passes = static_cast<double>(Passes()),
       .warning_is_silenced = base::Callback<bool()>::To<&LaunchRelease::WarningIsSilenced>(*this),
   };
   return release_.FreeUpMemory(request);
+}
+
+double LaunchRelease::Share() const {
+  if (screen_.Option9.Selected()) return 0.33;
+  if (screen_.Option8.Selected()) return 0.5;
+  return screen_.Option7.Selected() ? 0.66 : 0;
 }
 
 int LaunchRelease::Passes() const {
@@ -88,27 +81,27 @@ int LaunchRelease::Passes() const {
 bool LaunchRelease::WarningIsSilenced() { return warning_silencer_.Ticked(); }
 
 base::Status LaunchRelease::Option9_Click() {
-  settings_.SaveSetting(shell::kSettingsSection, kShareKey, "1");
+  settings_.SaveSetting(registry::kSettingsSection, kShareKey, "1");
   return base::kDone;
 }
 
 base::Status LaunchRelease::Option8_Click() {
-  settings_.SaveSetting(shell::kSettingsSection, kShareKey, "2");
+  settings_.SaveSetting(registry::kSettingsSection, kShareKey, "2");
   return base::kDone;
 }
 
 base::Status LaunchRelease::Option7_Click() {
-  settings_.SaveSetting(shell::kSettingsSection, kShareKey, "3");
+  settings_.SaveSetting(registry::kSettingsSection, kShareKey, "3");
   return base::kDone;
 }
 
 base::Status LaunchRelease::Option6_Click() {
-  settings_.SaveSetting(shell::kSettingsSection, kShareKey, "4");
+  settings_.SaveSetting(registry::kSettingsSection, kShareKey, "4");
   return base::kDone;
 }
 
 base::Status LaunchRelease::Slider_6_Click(int index) {
-  settings_.SaveNumber(shell::kSettingsSection, kPassesKey, index + 1);
+  settings_.SaveNumber(registry::kSettingsSection, kPassesKey, index + 1);
   return base::kDone;
 }
 

@@ -3,8 +3,8 @@
 
 #include "memory/memory_monitor.h"
 #include "memory/memory_release.h"
+#include "registry/settings_store.h"
 #include "screens/launcher_screen.h"
-#include "shell/settings_store.h"
 #include "ui/control_array.h"
 
 namespace qdix::launcher {
@@ -13,7 +13,7 @@ class LaunchRelease {
  public:
   /// `warning_silencer` is the check box that suppresses the warning about low resources.
   LaunchRelease(memory::MemoryRelease& release, const memory::MemoryMonitor& monitor,
-                shell::SettingsStore& settings, screens::LauncherScreen& screen,
+                registry::SettingsStore& settings, screens::LauncherScreen& screen,
                 const ui::CheckBox& warning_silencer);
 
   /// Shows the stored share and number of passes in their controls.
@@ -32,13 +32,14 @@ class LaunchRelease {
  private:
   static constexpr int kMaxPasses = 5;
 
-  struct Amount;
+  /// Returns the part of the memory to free, or 0 if none is selected.
+  [[nodiscard]] double Share() const;
   [[nodiscard]] int Passes() const;
   [[nodiscard]] bool WarningIsSilenced();
 
   memory::MemoryRelease& release_;
   const memory::MemoryMonitor& monitor_;
-  shell::SettingsStore& settings_;
+  registry::SettingsStore& settings_;
   screens::LauncherScreen& screen_;
   const ui::CheckBox& warning_silencer_;
   ui::ElementHandlers<kMaxPasses> passes_handlers_;

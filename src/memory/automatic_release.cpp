@@ -25,7 +25,7 @@ constexpr std::string_view kCounterLater = "Automatic feature has detected and r
 
 }  // namespace
 
-AutomaticRelease::AutomaticRelease(const os::System& system, shell::SettingsStore& settings,
+AutomaticRelease::AutomaticRelease(const os::System& system, registry::SettingsStore& settings,
                                    screens::AutomaticScreen& screen, ui::TabStrip& tabs, ui::Timer& timer2,
                                    const ui::Application& application, ScheduledRelease& scheduled)
     : system_(system),
@@ -56,18 +56,18 @@ void AutomaticRelease::FillLists() {
 }
 
 void AutomaticRelease::StartCounter() {
-  settings_.SaveNumber(shell::kSettingsSection, "CounterDate", system_.clock.Now());
-  settings_.SaveNumber(shell::kSettingsSection, "CounterValue", 0);
+  settings_.SaveNumber(registry::kSettingsSection, "CounterDate", system_.clock.Now());
+  settings_.SaveNumber(registry::kSettingsSection, "CounterValue", 0);
 }
 
 void AutomaticRelease::LoadCounter() {
-  const std::string stored_date = settings_.GetSetting(shell::kSettingsSection, "CounterDate", "");
+  const std::string stored_date = settings_.GetSetting(registry::kSettingsSection, "CounterDate", "");
   double start_date = base::ParseLeadingNumber(stored_date);
   if (!base::IsNumber(stored_date) || system_.clock.LongDate(start_date).empty()) {
     start_date = system_.clock.Now();
-    settings_.SaveNumber(shell::kSettingsSection, "CounterDate", start_date);
+    settings_.SaveNumber(registry::kSettingsSection, "CounterDate", start_date);
   }
-  const double stored_count = settings_.GetNumber(shell::kSettingsSection, "CounterValue", 0);
+  const double stored_count = settings_.GetNumber(registry::kSettingsSection, "CounterValue", 0);
   counter_start_date_ = start_date;
   auto_release_count_ = base::ToInt32(stored_count).ValueOr(0);
   ShowCounter(kCounterAtLoad);
@@ -82,7 +82,7 @@ void AutomaticRelease::ShowCounter(std::string_view beginning) {
 }
 
 void AutomaticRelease::LoadThreshold(double total_ram_mb) {
-  const std::string stored = settings_.GetSetting(shell::kSettingsSection, "MinRAM",
+  const std::string stored = settings_.GetSetting(registry::kSettingsSection, "MinRAM",
                                                   base::ShortestText(DefaultThreshold(total_ram_mb)));
   screen_.VScroll2.SetNearest(base::ParseLeadingNumber(stored));
   screen_.Text2.SetText(stored);
@@ -90,17 +90,18 @@ void AutomaticRelease::LoadThreshold(double total_ram_mb) {
 
 void AutomaticRelease::LoadAmount(double total_ram_mb) {
   const double proposed = DefaultAmount(screen_.List4, total_ram_mb);
-  SelectNumber(screen_.List4, settings_.GetNumber(shell::kSettingsSection, "AutoQuondix", proposed));
+  SelectNumber(screen_.List4, settings_.GetNumber(registry::kSettingsSection, "AutoQuondix", proposed));
 }
 
 void AutomaticRelease::LoadActive() {
-  screen_.Check1.SetTicked(settings_.GetBoolean(shell::kSettingsSection, "AutoActive", false));
+  screen_.Check1.SetTicked(settings_.GetBoolean(registry::kSettingsSection, "AutoActive", false));
   if (screen_.Check1.Ticked()) timer2_.SetNearestInterval(SelectedNumber(screen_.List2) * kMsPerSecond);
   timer2_.SetEnabled(screen_.Check1.Ticked());
 }
 
 void AutomaticRelease::LoadInterval() {
-  SelectNumber(screen_.List2, settings_.GetNumber(shell::kSettingsSection, "AutoSecs", kDefaultCheckSeconds));
+  SelectNumber(screen_.List2,
+               settings_.GetNumber(registry::kSettingsSection, "AutoSecs", kDefaultCheckSeconds));
 }
 
 base::Status AutomaticRelease::Timer2_Timer() {
@@ -131,13 +132,13 @@ base::Status AutomaticRelease::AutoMem() {
   if (!count.Ok()) return count.Error();
   auto_release_count_ = count.Value();
   ShowCounter(kCounterLater);
-  settings_.SaveNumber(shell::kSettingsSection, "CounterValue", auto_release_count_);
+  settings_.SaveNumber(registry::kSettingsSection, "CounterValue", auto_release_count_);
   return base::kDone;
 }
 
 base::Status AutomaticRelease::Check1_Click() {
   timer2_.SetEnabled(screen_.Check1.Ticked());
-  settings_.SaveNumber(shell::kSettingsSection, "AutoActive", screen_.Check1.Value());
+  settings_.SaveNumber(registry::kSettingsSection, "AutoActive", screen_.Check1.Value());
   return base::kDone;
 }
 
@@ -148,17 +149,17 @@ base::Status AutomaticRelease::List2_Click() {
       static_cast<std::int32_t>((within_a_minute ? seconds : kMinuteSeconds) * kMsPerSecond));
   if (!armed.Ok()) return armed;
   auto_check_ticks_ = within_a_minute ? 1 : seconds / kMinuteSeconds;
-  settings_.SaveNumber(shell::kSettingsSection, "AutoSecs", seconds);
+  settings_.SaveNumber(registry::kSettingsSection, "AutoSecs", seconds);
   return base::kDone;
 }
 
 base::Status AutomaticRelease::List4_Click() {
-  settings_.SaveNumber(shell::kSettingsSection, "AutoQuondix", SelectedNumber(screen_.List4));
+  settings_.SaveNumber(registry::kSettingsSection, "AutoQuondix", SelectedNumber(screen_.List4));
   return base::kDone;
 }
 
 base::Status AutomaticRelease::Text2_Change() {
-  settings_.SaveSetting(shell::kSettingsSection, "MinRAM", screen_.Text2.Text());
+  settings_.SaveSetting(registry::kSettingsSection, "MinRAM", screen_.Text2.Text());
   return base::kDone;
 }
 
@@ -169,9 +170,9 @@ base::Status AutomaticRelease::VScroll2_Change() {
 
 base::Status AutomaticRelease::Command7_Click() {
   counter_start_date_ = base::WholePart(system_.clock.Now());
-  settings_.SaveNumber(shell::kSettingsSection, "CounterDate", counter_start_date_);
+  settings_.SaveNumber(registry::kSettingsSection, "CounterDate", counter_start_date_);
   auto_release_count_ = 0;
-  settings_.SaveNumber(shell::kSettingsSection, "CounterValue", 0);
+  settings_.SaveNumber(registry::kSettingsSection, "CounterValue", 0);
   ShowCounter(kCounterLater);
   return base::kDone;
 }

@@ -15,9 +15,9 @@ namespace qdix::memory {
 
 class AutomaticRelease {
  public:
-  AutomaticRelease(const os::System& system, shell::SettingsStore& settings, screens::AutomaticScreen& screen,
-                   ui::TabStrip& tabs, ui::Timer& timer2, const ui::Application& application,
-                   ScheduledRelease& scheduled);
+  AutomaticRelease(const os::System& system, registry::SettingsStore& settings,
+                   screens::AutomaticScreen& screen, ui::TabStrip& tabs, ui::Timer& timer2,
+                   const ui::Application& application, ScheduledRelease& scheduled);
 
   /// Fills the lists but selects nothing.
   void FillLists();
@@ -60,7 +60,7 @@ class AutomaticRelease {
   void ShowCounter(std::string_view beginning);
 
   const os::System& system_;
-  shell::SettingsStore& settings_;
+  registry::SettingsStore& settings_;
   screens::AutomaticScreen& screen_;
   ui::Timer& timer2_;
   ScheduledRelease& scheduled_;

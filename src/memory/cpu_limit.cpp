@@ -5,14 +5,14 @@
 namespace qdix::memory {
 
 void CpuLimit::Load() {
-  controls_.active.SetTicked(settings_.GetBoolean(shell::kSettingsSection, keys_.active, true));
+  controls_.active.SetTicked(settings_.GetBoolean(registry::kSettingsSection, keys_.active, true));
   RefreshActive();
   controls_.percent.SetText(
-      settings_.GetSetting(shell::kSettingsSection, keys_.percent, base::ShortestText(kDefaultPercent)));
+      settings_.GetSetting(registry::kSettingsSection, keys_.percent, base::ShortestText(kDefaultPercent)));
 }
 
 base::Status CpuLimit::ActiveClicked() {
-  settings_.SaveNumber(shell::kSettingsSection, keys_.active, controls_.active.Value());
+  settings_.SaveNumber(registry::kSettingsSection, keys_.active, controls_.active.Value());
   RefreshActive();
   return base::kDone;
 }
@@ -20,7 +20,7 @@ base::Status CpuLimit::ActiveClicked() {
 /// Uses the stored percentage, not the one the user is typing.
 bool CpuLimit::HoldsBack(std::int32_t load_percent) const {
   if (!controls_.active.Ticked()) return false;
-  return settings_.GetNumber(shell::kSettingsSection, keys_.percent, kDefaultPercent) <= load_percent;
+  return settings_.GetNumber(registry::kSettingsSection, keys_.percent, kDefaultPercent) <= load_percent;
 }
 
 void CpuLimit::RefreshActive() {
@@ -37,7 +37,7 @@ base::Status CpuLimit::PercentKeyPressed(char& character) {
 base::Result<bool> CpuLimit::ValidatePercent() {
   const double percent = base::ParseLeadingNumber(controls_.percent.Text());
   if (percent >= kLowestPercent && percent <= kHighestPercent) {
-    settings_.SaveSetting(shell::kSettingsSection, keys_.percent, controls_.percent.Text());
+    settings_.SaveSetting(registry::kSettingsSection, keys_.percent, controls_.percent.Text());
     return true;
   }
   if (application_.SessionIsEnding()) return false;

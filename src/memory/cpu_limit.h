@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "os/dialogs.h"
-#include "shell/settings_store.h"
+#include "registry/settings_store.h"
 #include "ui/application.h"
 #include "ui/simple_controls.h"
 #include "ui/tab_strip.h"
@@ -30,8 +30,8 @@ class CpuLimit {
     const char* percent;
   };
 
-  CpuLimit(const Controls& controls, const Keys& keys, shell::SettingsStore& settings, os::Dialogs& dialogs,
-           const ui::Application& application)
+  CpuLimit(const Controls& controls, const Keys& keys, registry::SettingsStore& settings,
+           os::Dialogs& dialogs, const ui::Application& application)
       : controls_(controls), keys_(keys), settings_(settings), dialogs_(dialogs), application_(application) {}
 
   void Load();
@@ -55,7 +55,7 @@ class CpuLimit {
 
   Controls controls_;
   Keys keys_;
-  shell::SettingsStore& settings_;
+  registry::SettingsStore& settings_;
   os::Dialogs& dialogs_;
   const ui::Application& application_;
   bool opening_tab_ = false;

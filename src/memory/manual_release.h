@@ -4,8 +4,8 @@
 #include <cstdint>
 
 #include "memory/memory_release.h"
+#include "registry/settings_store.h"
 #include "screens/quondix_screen.h"
-#include "shell/settings_store.h"
 
 namespace qdix::memory {
 
@@ -14,7 +14,7 @@ class ManualRelease {
   /// A release shows in the CPU graph as a full-height bar.
   static constexpr std::int32_t kReleaseBar = 100;
 
-  ManualRelease(MemoryRelease& release, shell::SettingsStore& settings, screens::QuondixScreen& screen);
+  ManualRelease(MemoryRelease& release, registry::SettingsStore& settings, screens::QuondixScreen& screen);
 
   void FillList();
 
@@ -35,7 +35,7 @@ class ManualRelease {
   double Amount();
 
   MemoryRelease& release_;
-  shell::SettingsStore& settings_;
+  registry::SettingsStore& settings_;
   screens::QuondixScreen& screen_;
 };
 

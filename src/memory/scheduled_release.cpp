@@ -4,19 +4,10 @@
 
 namespace qdix::memory {
 
-namespace {
-
-struct ChosenAmount {
-  const ui::ListControl& amounts;
-  double Read() { return SelectedNumber(amounts); }
-};
-
-}  // namespace
-
 ReleaseOutcome ScheduledRelease::Run(const ui::ListControl& amounts, WhenFree when_free) {
-  ChosenAmount chosen{amounts};
+  auto chosen_mb = [&amounts] { return SelectedNumber(amounts); };
   ReleaseRequest request{
-      .amount_mb = base::Callback<double()>::To<&ChosenAmount::Read>(chosen),
+      .amount_mb = base::Callback<double()>::Of(chosen_mb),
       .passes = manual_.TryTimes(),
       .warning_is_silenced = base::Callback<bool()>::To<&ScheduledRelease::WarningIsSilenced>(*this),
   };

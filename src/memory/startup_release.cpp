@@ -15,7 +15,7 @@ constexpr std::int32_t kMsPerSecond = 1000;
 
 }  // namespace
 
-StartupRelease::StartupRelease(shell::SettingsStore& settings, screens::StartupScreen& screen,
+StartupRelease::StartupRelease(registry::SettingsStore& settings, screens::StartupScreen& screen,
                                ui::Timer& timer3, ScheduledRelease& scheduled)
     : settings_(settings), screen_(screen), timer3_(timer3), scheduled_(scheduled) {
   using ui::Handler;
@@ -29,17 +29,17 @@ StartupRelease::StartupRelease(shell::SettingsStore& settings, screens::StartupS
 void StartupRelease::FillLists() { AddItems(screen_.Combo1, ReleaseAmounts()); }
 
 void StartupRelease::LoadWarnings() {
-  screen_.Check4.SetTicked(settings_.GetBoolean(shell::kSettingsSection, "Warnings", false));
+  screen_.Check4.SetTicked(settings_.GetBoolean(registry::kSettingsSection, "Warnings", false));
 }
 
 void StartupRelease::LoadAmount(double total_ram_mb) {
   SelectNumber(screen_.Combo1,
-               settings_.GetNumber(shell::kStartupSection, "StartupRAM", HalfOfMemory(total_ram_mb)));
+               settings_.GetNumber(registry::kStartupSection, "StartupRAM", HalfOfMemory(total_ram_mb)));
 }
 
 void StartupRelease::LoadAndArmDelay() {
-  const std::string stored =
-      settings_.GetSetting(shell::kStartupSection, "StartupTime", base::ShortestText(kMaxSingleDelaySeconds));
+  const std::string stored = settings_.GetSetting(registry::kStartupSection, "StartupTime",
+                                                  base::ShortestText(kMaxSingleDelaySeconds));
   const auto seconds = static_cast<std::int16_t>(
       base::ClampToInt32(base::ParseLeadingNumber(stored), 0, std::numeric_limits<std::int16_t>::max()));
   screen_.VScroll3.SetNearest(seconds);
@@ -73,12 +73,12 @@ base::Status StartupRelease::Timer3_Timer() {
 void StartupRelease::StartupMem() { scheduled_.Run(screen_.Combo1, ScheduledRelease::WhenFree::kGoOn); }
 
 base::Status StartupRelease::Combo1_LostFocus() {
-  settings_.SaveNumber(shell::kStartupSection, "StartupRAM", SelectedNumber(screen_.Combo1));
+  settings_.SaveNumber(registry::kStartupSection, "StartupRAM", SelectedNumber(screen_.Combo1));
   return base::kDone;
 }
 
 base::Status StartupRelease::Text3_Change() {
-  settings_.SaveSetting(shell::kStartupSection, "StartupTime", screen_.Text3.Text());
+  settings_.SaveSetting(registry::kStartupSection, "StartupTime", screen_.Text3.Text());
   return base::kDone;
 }
 
@@ -88,7 +88,7 @@ base::Status StartupRelease::VScroll3_Change() {
 }
 
 base::Status StartupRelease::Check4_Click() {
-  settings_.SaveNumber(shell::kSettingsSection, "Warnings", screen_.Check4.Value());
+  settings_.SaveNumber(registry::kSettingsSection, "Warnings", screen_.Check4.Value());
   return base::kDone;
 }
 

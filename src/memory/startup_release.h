@@ -4,15 +4,15 @@
 #include <cstdint>
 
 #include "memory/scheduled_release.h"
+#include "registry/settings_store.h"
 #include "screens/startup_screen.h"
-#include "shell/settings_store.h"
 #include "ui/timer.h"
 
 namespace qdix::memory {
 
 class StartupRelease {
  public:
-  StartupRelease(shell::SettingsStore& settings, screens::StartupScreen& screen, ui::Timer& timer3,
+  StartupRelease(registry::SettingsStore& settings, screens::StartupScreen& screen, ui::Timer& timer3,
                  ScheduledRelease& scheduled);
 
   /// Fills the list of amounts but selects nothing.
@@ -38,7 +38,7 @@ class StartupRelease {
   [[nodiscard]] std::int16_t StartupDelayLeft() const { return startup_delay_left_; }
 
  private:
-  shell::SettingsStore& settings_;
+  registry::SettingsStore& settings_;
   screens::StartupScreen& screen_;
   ui::Timer& timer3_;
   ScheduledRelease& scheduled_;

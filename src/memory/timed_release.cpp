@@ -32,7 +32,7 @@ struct TimedRelease::Unit {
 constexpr TimedRelease::Unit TimedRelease::Unit::kMinutes{kMinuteItems, 1, "TimeMinutes", 30, 1};
 constexpr TimedRelease::Unit TimedRelease::Unit::kHours{kHourItems, 2, "TimeHours", 1, 60};
 
-TimedRelease::TimedRelease(const os::System& system, shell::SettingsStore& settings,
+TimedRelease::TimedRelease(const os::System& system, registry::SettingsStore& settings,
                            screens::TimeIntervalsScreen& screen, ui::TabStrip& tabs, const Timers& timers,
                            const ui::Application& application, ScheduledRelease& scheduled)
     : settings_(settings),
@@ -58,16 +58,16 @@ void TimedRelease::FillLists() { AddItems(screen_.List3, ReleaseAmounts()); }
 
 void TimedRelease::LoadAmount(double total_ram_mb) {
   const double proposed = DefaultAmount(screen_.List3, total_ram_mb);
-  SelectNumber(screen_.List3, settings_.GetNumber(shell::kSettingsSection, "TimeQuondix", proposed));
+  SelectNumber(screen_.List3, settings_.GetNumber(registry::kSettingsSection, "TimeQuondix", proposed));
 }
 
 void TimedRelease::LoadUnit() {
-  const double stored = settings_.GetNumber(shell::kSettingsSection, "TimeUnit", Unit::kMinutes.number);
+  const double stored = settings_.GetNumber(registry::kSettingsSection, "TimeUnit", Unit::kMinutes.number);
   (stored == Unit::kMinutes.number ? screen_.Option4 : screen_.Option5).SetSelected(true);
 }
 
 void TimedRelease::LoadActive() {
-  screen_.Check3.SetTicked(settings_.GetBoolean(shell::kSettingsSection, "TimeActive", false));
+  screen_.Check3.SetTicked(settings_.GetBoolean(registry::kSettingsSection, "TimeActive", false));
   RefreshActive();
 }
 
@@ -122,7 +122,7 @@ base::Result<ReleaseOutcome> TimedRelease::TimeMem() {
 
 base::Status TimedRelease::Check3_Click() {
   RefreshActive();
-  settings_.SaveNumber(shell::kSettingsSection, "TimeActive", screen_.Check3.Value());
+  settings_.SaveNumber(registry::kSettingsSection, "TimeActive", screen_.Check3.Value());
   timed_minute_count_ = 0;
   UpdateNextRelease();
   return base::kDone;
@@ -142,8 +142,8 @@ base::Status TimedRelease::Option5_Click() {
 void TimedRelease::ChooseUnit(const Unit& unit) {
   screen_.lstTime.Clear();
   AddItems(screen_.lstTime, unit.items);
-  settings_.SaveNumber(shell::kSettingsSection, "TimeUnit", unit.number);
-  const double item = settings_.GetNumber(shell::kStartupSection, unit.key, unit.default_item);
+  settings_.SaveNumber(registry::kSettingsSection, "TimeUnit", unit.number);
+  const double item = settings_.GetNumber(registry::kStartupSection, unit.key, unit.default_item);
   choosing_unit_ = true;
   SelectNumber(screen_.lstTime, item);
   choosing_unit_ = false;
@@ -151,7 +151,7 @@ void TimedRelease::ChooseUnit(const Unit& unit) {
 }
 
 base::Status TimedRelease::lstTime_Click() {
-  settings_.SaveSetting(shell::kStartupSection, SelectedUnit().key, screen_.lstTime.SelectedText());
+  settings_.SaveSetting(registry::kStartupSection, SelectedUnit().key, screen_.lstTime.SelectedText());
   if (choosing_unit_) return base::kDone;
   timed_minute_count_ = 0;
   UpdateNextRelease();
@@ -159,7 +159,7 @@ base::Status TimedRelease::lstTime_Click() {
 }
 
 base::Status TimedRelease::List3_Click() {
-  settings_.SaveNumber(shell::kSettingsSection, "TimeQuondix", SelectedNumber(screen_.List3));
+  settings_.SaveNumber(registry::kSettingsSection, "TimeQuondix", SelectedNumber(screen_.List3));
   return base::kDone;
 }
 

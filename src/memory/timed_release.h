@@ -22,9 +22,9 @@ class TimedRelease {
     ui::Timer& timer5;
   };
 
-  TimedRelease(const os::System& system, shell::SettingsStore& settings, screens::TimeIntervalsScreen& screen,
-               ui::TabStrip& tabs, const Timers& timers, const ui::Application& application,
-               ScheduledRelease& scheduled);
+  TimedRelease(const os::System& system, registry::SettingsStore& settings,
+               screens::TimeIntervalsScreen& screen, ui::TabStrip& tabs, const Timers& timers,
+               const ui::Application& application, ScheduledRelease& scheduled);
 
   /// Fills the list of amounts. Choosing the unit fills the list of intervals.
   void FillLists();
@@ -64,7 +64,7 @@ class TimedRelease {
   void ChooseUnit(const Unit& unit);
   void RefreshActive();
 
-  shell::SettingsStore& settings_;
+  registry::SettingsStore& settings_;
   screens::TimeIntervalsScreen& screen_;
   Timers timers_;
   ScheduledRelease& scheduled_;

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "os/windows.h"
+#include "os/top_level_windows.h"
 
 namespace qdix::os {
 

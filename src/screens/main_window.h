@@ -40,9 +40,9 @@ struct MainWindow {
   explicit MainWindow(ui::EventDispatcher& dispatcher) : events(dispatcher) {}
 
   ui::EventDispatcher& events;
-  ui::Form Form1{events, {.name = "Form1", .caption = "Q-DIX", .place = {0, 0, 280, 238}}};
+  ui::Form Form{events, {.name = "Form1", .caption = "Q-DIX", .place = {0, 0, 280, 238}}};
   /// The tabs. Each page is a screen of its own.
-  ui::TabStrip SSTab1{Form1, {.name = "SSTab1", .place = {3, 3, 274, 232}}, kTabPages};
+  ui::TabStrip SSTab1{Form, {.name = "SSTab1", .place = {3, 3, 274, 232}}, kTabPages};
 
   /// Refreshes the display.
   ui::Timer Timer1{events, "Timer1", 750, false};

@@ -1,8 +1,8 @@
 #include "shell/startup_registration.h"
 
+#include "registry/module_registry.h"
+#include "registry/registry_key.h"
 #include "shell/application_folder.h"
-#include "shell/module_registry.h"
-#include "shell/registry_key.h"
 #include "shell/shell_folders.h"
 #include "shell/shortcut_names.h"
 
@@ -18,8 +18,9 @@ void StartupRegistration::CheckStartup() {
   const bool has_shortcut =
       !startup_folder.empty() && system_.files.GetFileAttributesA((startup_folder + kShortcutName).c_str()) !=
                                      os::kInvalidFileAttributes;
-  if (has_shortcut || RegistryKey::Open(system_.registry, os::kHkeyLocalMachine, kRunKey, os::kKeyQueryValue)
-                          .HasValue(kRunValue)) {
+  if (has_shortcut || registry::RegistryKey::Open(system_.registry, os::kHkeyLocalMachine, registry::kRunKey,
+                                                  os::kKeyQueryValue)
+                          .HasValue(registry::kRunValue)) {
     screen_.Check2.SetTicked(true);
     return;
   }
@@ -42,15 +43,18 @@ base::Status StartupRegistration::Check2_Click() {
 /// Writes no entry without a path: Windows would report it at each start.
 void StartupRegistration::SetRunEntry() {
   const std::string path = ProgramPath(system_.processes);
-  const std::int32_t run = path.empty() ? RegistryPaths::kNoKey : paths_.GetSubkeyHandle(kRunPath);
-  if (run == RegistryPaths::kNoKey) return;
-  ModuleRegistry(system_.registry).SetValueEx(static_cast<os::KeyHandle>(run), kRunValue, os::kRegSz, path);
+  const std::int32_t run =
+      path.empty() ? registry::RegistryPaths::kNoKey : paths_.GetSubkeyHandle(registry::kRunPath);
+  if (run == registry::RegistryPaths::kNoKey) return;
+  registry::ModuleRegistry(system_.registry)
+      .SetValueEx(static_cast<os::KeyHandle>(run), registry::kRunValue, os::kRegSz, path);
   paths_.CloseSubkey(run);
 }
 
 /// Deletes the entry again under the path that older versions used, in case they left one of their own.
 void StartupRegistration::StartupDelete() {
-  paths_.DeleteValue("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run", kRunValue);
+  paths_.DeleteValue("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run",
+                     registry::kRunValue);
 }
 
 void StartupRegistration::DeleteStartMenuShortcut(const std::string& name) {

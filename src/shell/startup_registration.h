@@ -3,8 +3,8 @@
 #pragma once
 
 #include "os/system.h"
+#include "registry/registry_paths.h"
 #include "screens/startup_screen.h"
-#include "shell/registry_paths.h"
 
 namespace qdix::shell {
 
@@ -28,7 +28,7 @@ class StartupRegistration {
 
   const os::System& system_;
   screens::StartupScreen& screen_;
-  RegistryPaths paths_;
+  registry::RegistryPaths paths_;
 };
 
 }  // namespace qdix::shell

@@ -13,15 +13,6 @@ int VisitBelow(const Container& container, ControlVisitor visit, int number) {
   return number;
 }
 
-struct NameSearch {
-  std::string_view name;
-  int number = 0;
-
-  void Visit(Control& control, int its_number) {
-    if (number == 0 && control.Name() == name) number = its_number;
-  }
-};
-
 }  // namespace
 
 void VisitControls(const Container& root, ControlVisitor visit) {
@@ -29,9 +20,12 @@ void VisitControls(const Container& root, ControlVisitor visit) {
 }
 
 int NumberOf(const Container& root, std::string_view name) {
-  NameSearch search{name};
-  VisitControls(root, ControlVisitor::To<&NameSearch::Visit>(search));
-  return search.number;
+  int found = 0;
+  auto compare = [name, &found](const Control& control, int number) {
+    if (found == 0 && control.Name() == name) found = number;
+  };
+  VisitControls(root, ControlVisitor::Of(compare));
+  return found;
 }
 
 }  // namespace qdix::ui

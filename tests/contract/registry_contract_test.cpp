@@ -1,7 +1,7 @@
 // Registry: keys, values, result codes.
 #include <gmock/gmock.h>
 
-#include "shell/registry_key.h"
+#include "registry/registry_key.h"
 #include "tests/contract/machine.h"
 
 namespace qdix::contract {
@@ -262,10 +262,11 @@ TEST_F(RegistryContract, ClosedHandleIsInvalid) {
 TEST_F(RegistryContract, TextsOfTheProgramSurviveTheRoundTrip) {
   const std::string path = Below("Settings");
   for (const std::string text : {"", "64 MB", "True", "1,5", "a\tb", "\xE4\xF6\xFC"}) {
-    auto writer = shell::RegistryKey::Create(system.registry, os::kHkeyCurrentUser, path, os::kKeySetValue);
+    auto writer =
+        registry::RegistryKey::Create(system.registry, os::kHkeyCurrentUser, path, os::kKeySetValue);
     ASSERT_TRUE(writer.WriteText("Text", text)) << text;
     const auto reader =
-        shell::RegistryKey::Open(system.registry, os::kHkeyCurrentUser, path, os::kKeyQueryValue);
+        registry::RegistryKey::Open(system.registry, os::kHkeyCurrentUser, path, os::kKeyQueryValue);
     EXPECT_EQ(reader.ReadText("Text"), text);
   }
 }

@@ -107,7 +107,7 @@ class SetupText(unittest.TestCase):
         self.assertEqual([line for line in lines[:-1] if "rundll" in line], [])
 
     def test_it_removes_what_the_program_writes(self):
-        paths, store = "src/shell/registry_paths.h", "src/shell/settings_store.cpp"
+        paths, store = "src/registry/registry_paths.h", "src/registry/settings_store.cpp"
         keys = "\n".join(self.plain["QDIX.Keys"]).replace('"', "")
         for line in (f"HKLM,{constant(paths, 'kMachineKey')}",
                      f"HKLM,{constant(paths, 'kRunKey')},{constant(paths, 'kRunValue')}",

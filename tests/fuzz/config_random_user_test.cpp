@@ -21,13 +21,13 @@ class RandomConfigUser : private RandomListMaker {
     on_disk_ = rig_.ListOnDisk();
     rig_.machine.WhileBoxIsOpen([this] { actions_.Answer(rig_.machine); });
     rig_.Start();
-    actions_.Collect(rig_.form->Window());
+    actions_.Collect(rig_.form->Form());
     for (unsigned long events = 0; events < kEventsPerRun; ++events) {
       Act();
       CheckInvariants();
-      if (!rig_.form->Window().Unloaded()) continue;
+      if (!rig_.form->Form().Unloaded()) continue;
       rig_.Restart();
-      actions_.Collect(rig_.form->Window());
+      actions_.Collect(rig_.form->Form());
     }
     return kEventsPerRun;
   }
@@ -43,17 +43,17 @@ class RandomConfigUser : private RandomListMaker {
     }
     if (Chance(60)) AskForTheEndOfTheSession();
     if (Chance(4)) rig_.Type({Printable(RandomText(60)), Printable(RandomText(260)), ""});
-    if (Chance(60)) rig_.form->Window().Close();
-    if (Chance(60)) rig_.form->Window().PressEscape();
+    if (Chance(60)) rig_.form->Form().Close();
+    if (Chance(60)) rig_.form->Form().PressEscape();
     actions_.UseAny();
   }
 
   /// Another program may keep the session going: the window then stays open, whether the list was saved or
   /// not.
   void AskForTheEndOfTheSession() {
-    const bool was_open = !rig_.form->Window().Unloaded();
+    const bool was_open = !rig_.form->Form().Unloaded();
     const bool may_end = rig_.form->MaySessionEnd();
-    EXPECT_EQ(!rig_.form->Window().Unloaded(), was_open);
+    EXPECT_EQ(!rig_.form->Form().Unloaded(), was_open);
     if (rig_.ListOnDisk() == on_disk_) return;
     EXPECT_TRUE(may_end) << "the list is saved, yet the window refuses the end of the session";
     ExpectSaved();
@@ -77,7 +77,7 @@ class RandomConfigUser : private RandomListMaker {
     const auto list = rig_.ListOnDisk();
     if (list != on_disk_) {
       ExpectSaved();
-      EXPECT_TRUE(rig_.form->Window().Unloaded()) << "the list is saved, yet the window is still open";
+      EXPECT_TRUE(rig_.form->Form().Unloaded()) << "the list is saved, yet the window is still open";
     }
     EXPECT_EQ(rig_.machine.ReadFile(kListTemporaryPath), std::nullopt);
     EXPECT_EQ(rig_.Rows().size(), rig_.form->Entries().size());

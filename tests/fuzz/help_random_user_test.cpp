@@ -25,7 +25,7 @@ class RandomHelpUser : private RandomSource {
     for (unsigned long events = 0; events < kEventsPerRun; ++events) {
       Act();
       CheckInvariants();
-      if (rig_.form->Window().Unloaded()) Start();
+      if (rig_.form->Form().Unloaded()) Start();
     }
     return kEventsPerRun;
   }
@@ -33,14 +33,14 @@ class RandomHelpUser : private RandomSource {
  private:
   void Start() {
     rig_.Start(Chance(3) ? actions_.SomeText() : std::to_string(Random() % 13));
-    actions_.Collect(rig_.form->Window());
+    actions_.Collect(rig_.form->Form());
     has_surface_ = true;
   }
 
   void Act() {
     if (Chance(10)) ChangeDevices();
     if (Chance(10)) ChangeWindow();
-    if (Chance(80)) rig_.form->Window().PressEscape();
+    if (Chance(80)) rig_.form->Form().PressEscape();
     if (Chance(3)) return actions_.UseAny();
     if (Chance(4)) return Find();
     UsePane();
@@ -60,7 +60,7 @@ class RandomHelpUser : private RandomSource {
   [[nodiscard]] int Pixels() { return static_cast<int>(Random() % 700); }
 
   void ChangeWindow() {
-    ui::Form& window = rig_.form->Window();
+    ui::Form& window = rig_.form->Form();
     window.UserResized(
         {static_cast<std::int16_t>(Random() % 900), static_cast<std::int16_t>(Random() % 700)});
     window.UserMoved({Pixels() - 100, Pixels() - 100, Pixels(), Pixels()});

@@ -21,17 +21,17 @@ class RandomLists : private RandomListMaker {
     rig_.machine.WriteFile(kListPath, before);
     rig_.Start();
     ExpectShowable();
-    for (int i = 0; i < kActionsPerRun && !rig_.form->Window().Unloaded(); ++i) {
+    for (int i = 0; i < kActionsPerRun && !rig_.form->Form().Unloaded(); ++i) {
       Act();
       ASSERT_EQ(rig_.ListOnDisk(), before) << "changed before OK";
     }
-    if (rig_.form->Window().Unloaded()) return;
+    if (rig_.form->Form().Unloaded()) return;
     // From here on, text that was typed but not added to the list may be lost.
     while (rig_.form->Entries().size() > launcher::kMaxEntries) Remove();
     const Entries shown = rig_.form->Entries();
     rig_.machine.AnswerNextBox(os::kIdYes);
     rig_.Screen().cmdOK.Press();
-    ASSERT_TRUE(rig_.form->Window().Unloaded());
+    ASSERT_TRUE(rig_.form->Form().Unloaded());
     EXPECT_EQ(rig_.ListOnDisk(), BytesOf(shown));
     rig_.Restart();
     EXPECT_TRUE(rig_.form->Entries() == shown);

@@ -42,7 +42,7 @@ class TabWithFile {
     } else {
       ExpectRows();
       StartEach();
-      rig_.program->Window().Unload();
+      rig_.program->Form().Unload();
     }
     EXPECT_EQ(rig_.machine.ReadFile(kPath), file_);
     EXPECT_TRUE(rig_.machine.Misuses().empty());
@@ -51,14 +51,14 @@ class TabWithFile {
 
  private:
   void ExpectEnd() {
-    EXPECT_TRUE(rig_.program->Window().Unloaded());
+    EXPECT_TRUE(rig_.program->Form().Unloaded());
     ASSERT_FALSE(rig_.machine.Boxes().empty());
     EXPECT_EQ(rig_.machine.Boxes().back().text,
               "Run-time error '340':\r\n\r\nControl array element '25' doesn't exist");
   }
 
   void ExpectRows() {
-    const ui::ListBox& list = rig_.program->Launcher().List5;
+    const ui::ListBox& list = rig_.program->LauncherScreen().List5;
     ASSERT_EQ(static_cast<std::size_t>(list.Count()), RecordsOf(file_));
     for (int row = 0; row < list.Count(); ++row) {
       EXPECT_EQ(list.Item(row), FieldOf(file_, static_cast<std::size_t>(row), 0));
@@ -68,7 +68,7 @@ class TabWithFile {
   /// No file has such a name: each launch reports that, and the next one still works.
   void StartEach() {
     rig_.program->MainWindow().SSTab1.ChooseTab(screens::kLauncherTab);
-    ui::ListBox& list = rig_.program->Launcher().List5;
+    ui::ListBox& list = rig_.program->LauncherScreen().List5;
     for (int row = 0; row < list.Count(); ++row) {
       const std::size_t boxes_before = rig_.machine.Boxes().size();
       list.ChooseIndex(row);

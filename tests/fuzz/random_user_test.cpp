@@ -23,17 +23,17 @@ class RandomUser : private RandomSource {
     FillLauncher();
     rig_.machine.LimitAllocatableBytes(Chance(3) ? 0xFFFFFFFFU : Random() % (600 * kMegabyte));
     rig_.Create();
-    actions_.Collect(rig_.program->Window());
+    actions_.Collect(rig_.program->Form());
     rig_.machine.OnPump([this](int number) { InsidePump(number); });
     rig_.program->Start();
     if (!Chance(4)) rig_.RemoveGraph();
     unsigned long events = 0;
-    for (; events < kEventsPerRun && !rig_.program->Window().Unloaded(); ++events) {
+    for (; events < kEventsPerRun && !rig_.program->Form().Unloaded(); ++events) {
       Act();
       CheckInvariants();
       CheckHoldings();
     }
-    rig_.program->Window().Unload();
+    rig_.program->Form().Unload();
     rig_.AdvanceMs(100000);
     CheckHoldings();
     EXPECT_EQ(rig_.machine.TrayIconCount(), 0);
@@ -109,7 +109,7 @@ class RandomUser : private RandomSource {
   }
 
   void InsidePump(int number) {
-    if (number > kPatiencePumps || Chance(200000)) rig_.program->Window().Unload();
+    if (number > kPatiencePumps || Chance(200000)) rig_.program->Form().Unload();
     if (Chance(2000)) Act();
   }
 
@@ -124,9 +124,9 @@ class RandomUser : private RandomSource {
       if (Chance(10)) rig_.SetAvailableMb(static_cast<double>(Random() % 64));
       if (Chance(10)) rig_.machine.SetCpuLoad(Chance(10) ? Word() : Word() % 101);
       if (Chance(50)) rig_.machine.OpenWindow("Shell_TrayWnd", "");
-      if (Chance(10)) rig_.program->Window().PointerMoved(0, 0, static_cast<double>(Random() % 8000), 0);
-      if (Chance(20)) rig_.program->Window().Show();
-      if (Chance(20)) rig_.program->Window().SetState(ui::WindowState::kNormal);
+      if (Chance(10)) rig_.program->Form().PointerMoved(0, 0, static_cast<double>(Random() % 8000), 0);
+      if (Chance(20)) rig_.program->Form().Show();
+      if (Chance(20)) rig_.program->Form().SetState(ui::WindowState::kNormal);
       actions_.UseAny();
     }
     --depth_;
@@ -143,18 +143,18 @@ class RandomUser : private RandomSource {
   }
 
   void CheckInvariants() {
-    const auto& screen = rig_.program->Quondix();
+    const auto& screen = rig_.program->QuondixScreen();
     EXPECT_GE(screen.Gauge1.Value(), 0);
     EXPECT_LE(screen.Gauge1.Value(), 50);
     EXPECT_GE(screen.VScroll1.Value(), 1);
     EXPECT_LE(screen.VScroll1.Value(), 20);
-    const auto& cache = rig_.program->Cache();
+    const auto& cache = rig_.program->CacheScreen();
     for (const ui::Slider* slider :
          {&cache.Slider1, &cache.Slider2, &cache.Slider3, &cache.Slider4, &cache.Slider5}) {
       EXPECT_GE(slider->Value(), slider->Minimum()) << slider->Name();
       EXPECT_LE(slider->Value(), std::max(slider->Minimum(), slider->Maximum())) << slider->Name();
     }
-    const auto& swap = rig_.program->SwapFile();
+    const auto& swap = rig_.program->SwapFileScreen();
     EXPECT_TRUE(swap.VScroll4.Value() >= 0 && swap.VScroll4.Value() <= 32750) << swap.VScroll4.Value();
     EXPECT_LE(swap.optSwap1.Selected() + swap.optSwap2.Selected() + swap.optSwap3.Selected(), 1);
     const int tab = rig_.program->MainWindow().SSTab1.Tab();

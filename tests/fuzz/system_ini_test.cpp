@@ -39,13 +39,13 @@ class MachineWithIni {
 
   void Tune() {
     rig_.StartAt(screens::kCacheTab);
-    ASSERT_FALSE(rig_.program->Window().Unloaded());
-    rig_.program->Cache().Combo2.Choose("Multimedia (Win95)");
-    rig_.program->Cache().Command11.Press();
+    ASSERT_FALSE(rig_.program->Form().Unloaded());
+    rig_.program->CacheScreen().Combo2.Choose("Multimedia (Win95)");
+    rig_.program->CacheScreen().Command11.Press();
     rig_.program->MainWindow().SSTab1.ChooseTab(screens::kSwapFileTab);
-    rig_.program->SwapFile().optSwap2.Press();
-    rig_.program->SwapFile().Text8.SetText("192");
-    rig_.program->SwapFile().Command18.Press();
+    rig_.program->SwapFileScreen().optSwap2.Press();
+    rig_.program->SwapFileScreen().Text8.SetText("192");
+    rig_.program->SwapFileScreen().Command18.Press();
     rig_.End();
   }
 
@@ -54,7 +54,7 @@ class MachineWithIni {
     undo::UndoForm form(rig_.machine.GetSystem());
     form.Start();
     form.Screen().cmdPutBack.Press();
-    form.Window().Unload();
+    form.Form().Unload();
     rig_.machine.EndProcess();
   }
 

@@ -22,12 +22,12 @@ class RandomHelp {
 
   void Run() {
     rig_.Start(Chance(2) ? std::to_string(random_() % 8) : RandomText(6));
-    for (int i = 0; i < kActionsPerRun && !rig_.form->Window().Unloaded(); ++i) {
+    for (int i = 0; i < kActionsPerRun && !rig_.form->Form().Unloaded(); ++i) {
       Act();
       ExpectSound();
     }
-    rig_.form->Window().Close();
-    EXPECT_TRUE(rig_.form->Window().Unloaded());
+    rig_.form->Form().Close();
+    EXPECT_TRUE(rig_.form->Form().Unloaded());
     EXPECT_TRUE(rig_.machine.Misuses().empty());
   }
 
@@ -98,7 +98,7 @@ class RandomHelp {
       case 14:
         return pane.Follow(pane.LinkAt(Number(400), Number(300)));
       default:
-        return rig_.form->Window().UserResized(
+        return rig_.form->Form().UserResized(
             {static_cast<std::int16_t>(Number(1500)), static_cast<std::int16_t>(Number(1500))});
     }
   }

@@ -33,7 +33,7 @@ class RandomUndoUser : private RandomSource {
     for (unsigned long events = 0; events < kEventsPerRun; ++events) {
       Act();
       CheckInvariants();
-      if (rig_.form->Window().Unloaded()) Start();
+      if (rig_.form->Form().Unloaded()) Start();
     }
     return kEventsPerRun;
   }
@@ -51,7 +51,7 @@ class RandomUndoUser : private RandomSource {
   void Start() {
     rig_.machine.EndProcess();
     rig_.Start();
-    actions_.Collect(rig_.form->Window());
+    actions_.Collect(rig_.form->Form());
   }
 
   void Act() {
@@ -66,7 +66,7 @@ class RandomUndoUser : private RandomSource {
     // Another program changes a setting that this one restores.
     if (Chance(15)) rig_.SetTemplate(Chance(2) ? "Quondix" : "Desktop");
     if (Chance(60)) rig_.form->EndSession();
-    if (Chance(60)) rig_.form->Window().Close();
+    if (Chance(60)) rig_.form->Form().Close();
     actions_.UseAny();
   }
 
@@ -81,7 +81,7 @@ class RandomUndoUser : private RandomSource {
       EXPECT_TRUE(row->box.Enabled() || !row->box.Ticked()) << row->box.Name();
       some_are_ticked = some_are_ticked || row->box.Ticked();
     }
-    if (!rig_.form->Window().Unloaded()) {
+    if (!rig_.form->Form().Unloaded()) {
       EXPECT_EQ(rig_.Screen().cmdPutBack.Enabled(), some_are_ticked);
     }
     rig_.machine.ClearRecords();

@@ -98,7 +98,7 @@ class WayBack : private RandomSource {
   void Tune() {
     is_tuning_ = true;
     rig_.StartAt(screens::kCacheTab);
-    ASSERT_FALSE(rig_.program->Window().Unloaded());
+    ASSERT_FALSE(rig_.program->Form().Unloaded());
     for (unsigned saves = 1 + Random() % 4; saves > 0; --saves) {
       if (Chance(2)) {
         SaveCache();
@@ -112,7 +112,7 @@ class WayBack : private RandomSource {
 
   void SaveCache() {
     rig_.program->MainWindow().SSTab1.ChooseTab(screens::kCacheTab);
-    auto& tab = rig_.program->Cache();
+    auto& tab = rig_.program->CacheScreen();
     if (Chance(2)) tab.Combo2.ChooseIndex(static_cast<int>(Random() % 12));
     for (ui::CheckBox* const box : {&tab.Check5, &tab.Check6, &tab.Check7, &tab.Check8}) {
       if (Chance(4)) box->Press();
@@ -123,7 +123,7 @@ class WayBack : private RandomSource {
 
   void SaveSwapFile() {
     rig_.program->MainWindow().SSTab1.ChooseTab(screens::kSwapFileTab);
-    auto& tab = rig_.program->SwapFile();
+    auto& tab = rig_.program->SwapFileScreen();
     if (Chance(3)) {
       tab.optSwap1.Press();
     } else {
@@ -140,7 +140,7 @@ class WayBack : private RandomSource {
     form.Start();
     for (undo::EntryRow* const row : form.Screen().Rows()) row->box.SetTicked(row->box.Enabled());
     form.Screen().cmdPutBack.Press();
-    form.Window().Unload();
+    form.Form().Unload();
   }
 
   /// An entry that the program cannot read whole, or that would not fit into one line, is shown and left

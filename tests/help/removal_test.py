@@ -17,14 +17,14 @@ STAYS = "What stays"
 # The self-test keeps its own keys only while it runs.
 WITHOUT_KEYS = ("companions/self_test/",)
 
-PATHS, TEMPLATES = "src/shell/registry_paths.h", "src/tuning/cache/file_system_template.h"
+PATHS, TEMPLATES = "src/registry/registry_paths.h", "src/tuning/cache/file_system_template.h"
 OWN_KEYS = ["HKEY_CURRENT_USER\\" + constant("src/app/machine_record.cpp", "kUserKey"),
-            "HKEY_CURRENT_USER\\" + constant("src/shell/settings_store.cpp", "path").rstrip("\\"),
+            "HKEY_CURRENT_USER\\" + constant("src/registry/settings_store.cpp", "path").rstrip("\\"),
             "HKEY_LOCAL_MACHINE\\" + constant(PATHS, "kMachineKey")]
 TEMPLATE_KEY = f"HKEY_LOCAL_MACHINE\\{constant(TEMPLATES, 'kTemplatesKey')}\\{constant(TEMPLATES, 'kOwnTemplate')}"
 # Windows keys in which the programs read or write a value: the start-up entry and the template.
 KEYS_OF_WINDOWS = {constant(PATHS, "kRunKey"), constant(TEMPLATES, "kTemplatesKey")}
-FILES_LEFT = {constant("src/tuning/cache/system_ini.h", "kSystemBackup"),
+FILES_LEFT = {constant("src/tuning/system_ini.h", "kSystemBackup"),
               constant("src/shell/shortcut_names.h", "kShortcutName"),
               constant("companions/self_test/win32/main.cpp", "kLogName")}
 

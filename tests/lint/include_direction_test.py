@@ -4,12 +4,29 @@ import pathlib
 import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools" / "lint"))
-from include_direction import violations_of  # noqa: E402
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "tools" / "lint"))
+from include_direction import PAGE, Table, violations_of  # noqa: E402
+
+PAGE_TABLE = Table((ROOT / PAGE).read_text(encoding="utf-8"))
 
 
 def violations(path, text, folder="src"):
-    return list(violations_of(pathlib.PurePosixPath(path), text, folder))
+    return list(violations_of(PAGE_TABLE, pathlib.PurePosixPath(path), text, folder))
+
+
+class TableOfThePage(unittest.TestCase):
+    def test_page_has_the_folders_of_both_roots(self):
+        self.assertEqual(PAGE_TABLE.allowed_for("src", "base"), [])
+        self.assertIn("tuning", PAGE_TABLE.allowed_for("companions", "undo"))
+        self.assertIsNone(PAGE_TABLE.allowed_for("src", "undo"))
+
+    def test_row_may_name_only_rows_above_it(self):
+        page = "src/one/  first  ->\nsrc/two/  second  -> one\n"
+        self.assertEqual(list(Table(page).violations()), [])
+        circle = "src/one/  first  -> two\nsrc/two/  second  -> one\n"
+        self.assertEqual(list(Table(circle).violations()),
+                         [f"{PAGE}: src/one/ may include two, which is not above it"])
 
 
 class IncludeDirection(unittest.TestCase):
@@ -34,6 +51,11 @@ class IncludeDirection(unittest.TestCase):
 
     def test_platform_condition_is_found(self):
         self.assertEqual(len(violations("base/a.cpp", "#ifdef _WIN32\n#endif\n")), 1)
+
+    def test_subsystems_have_an_order(self):
+        self.assertEqual(violations("memory/a.cpp", '#include "cpu/cpu_usage.h"\n'), [])
+        self.assertEqual(len(violations("cpu/a.cpp", '#include "memory/memory_monitor.h"\n')), 1)
+        self.assertEqual(len(violations("shell/a.cpp", '#include "memory/memory_monitor.h"\n')), 1)
 
     def test_unknown_folder_is_found(self):
         self.assertEqual(len(violations("misc/a.cpp", "")), 1)

@@ -46,8 +46,8 @@ void Days::Start() {
   rig_.Start();
   counter_date_ = rig_.machine.GetSystem().clock.LongDate(kNoon21November2026);
   forecast_.emplace(rig_, conditions_, kStartupDelaySeconds);
-  activate_ = rig_.program->Window().OnActivate;
-  rig_.program->Window().OnActivate = ui::Handler::To<&Days::Activated>(*this);
+  activate_ = rig_.program->Form().OnActivate;
+  rig_.program->Form().OnActivate = ui::Handler::To<&Days::Activated>(*this);
   up_time_.emplace(rig_.program->MainWindow().Timer6, rig_.timers);
   up_time_->ExpectTickAfter(65000);
   up_time_->After = [this] { CheckUpTime(); };
@@ -88,7 +88,7 @@ void Days::Run(unsigned long days) {
     if (slot % kSlotsPerDay == 0) CheckDay();
     if (testing::Test::HasFailure()) return;
   }
-  rig_.program->Window().Unload();
+  rig_.program->Form().Unload();
   EXPECT_EQ(rig_.machine.TrayIconCount(), 0);
   EXPECT_EQ(rig_.machine.OpenKeyCount(), forecast_->TakeKeysLeftOpen());
 }
@@ -101,24 +101,25 @@ std::string Days::Moment() const {
 void Days::CheckUpTime() {
   const std::int64_t up_ms = (kUpTimeAtStartMs + rig_.timers.NowMs() + waited_ms_) & 0xFFFFFFFF;
   const auto minutes = static_cast<std::int64_t>(std::nearbyint(static_cast<double>(up_ms) / 60000));
-  EXPECT_EQ(rig_.program->Startup().lblTimeRunning.Caption(),
+  EXPECT_EQ(rig_.program->StartupScreen().lblTimeRunning.Caption(),
             "Your system has been running for " + std::to_string(up_ms / 3600000) + " hour(s) and " +
                 std::to_string(minutes % 60) + " minutes.");
 }
 
 /// Checks that nothing is held between two events and that all figures are right.
 void Days::CheckSlot() {
-  ASSERT_FALSE(rig_.program->Window().Unloaded());
+  ASSERT_FALSE(rig_.program->Form().Unloaded());
   allocated_ += static_cast<std::int64_t>(rig_.machine.AllAllocations().size());
   EXPECT_EQ(allocated_, forecast_->Blocks());
   EXPECT_EQ(warned_, forecast_->Warnings());
   EXPECT_TRUE(rig_.machine.OutstandingBlocks().empty());
   EXPECT_EQ(rig_.machine.TrayIconCount(), 1);
   EXPECT_TRUE(rig_.machine.Misuses().empty());
-  EXPECT_NE(rig_.program->Automatic().lblCounter.Caption().find(forecast_->CounterText() + counter_date_),
-            std::string::npos)
-      << rig_.program->Automatic().lblCounter.Caption() << " instead of " << forecast_->CounterText();
-  EXPECT_EQ(rig_.program->TimeIntervals().lblNextRelease.Caption(), forecast_->NextReleaseText());
+  EXPECT_NE(
+      rig_.program->AutomaticScreen().lblCounter.Caption().find(forecast_->CounterText() + counter_date_),
+      std::string::npos)
+      << rig_.program->AutomaticScreen().lblCounter.Caption() << " instead of " << forecast_->CounterText();
+  EXPECT_EQ(rig_.program->TimeIntervalsScreen().lblNextRelease.Caption(), forecast_->NextReleaseText());
   forecast_->ExpectNothingLate();
   up_time_->ExpectNotLate();
   rig_.machine.ClearRecords();

@@ -63,7 +63,7 @@ void Days::RestartTaskbar() {
   Pass(1 + Random(70000));
   taskbar_ = rig_.machine.OpenWindow("Shell_TrayWnd", "");
   if (Chance(3)) rig_.machine.FailNextCall("Shell_NotifyIconA");
-  if (Chance(2)) rig_.program->Tray().AddToTray();
+  if (Chance(2)) rig_.program->TrayIcon().AddToTray();
 }
 
 void Days::ChangeDisk() {
@@ -89,8 +89,8 @@ void Days::AnswerBox() {
 }
 
 void Days::Open(screens::Tab tab) {
-  rig_.program->Window().Show();
-  rig_.program->Window().SetState(ui::WindowState::kNormal);
+  rig_.program->Form().Show();
+  rig_.program->Form().SetState(ui::WindowState::kNormal);
   rig_.program->MainWindow().SSTab1.ChooseTab(tab);
 }
 
@@ -120,7 +120,7 @@ void Days::Hand() {
 
 void Days::UseAutomaticTab() {
   Open(screens::kAutomaticTab);
-  screens::AutomaticScreen& tab = rig_.program->Automatic();
+  screens::AutomaticScreen& tab = rig_.program->AutomaticScreen();
   const int row = static_cast<int>(Random(static_cast<unsigned>(tab.List2.Count())));
   if (forecast_->CanBeMet(std::stod(tab.List2.Item(row)))) tab.List2.ChooseIndex(row);
   tab.List4.ChooseIndex(static_cast<int>(Random(static_cast<unsigned>(tab.List4.Count()))));
@@ -138,7 +138,7 @@ void Days::UseAutomaticTab() {
 
 void Days::UseTimeIntervalsTab() {
   Open(screens::kTimeIntervalsTab);
-  screens::TimeIntervalsScreen& tab = rig_.program->TimeIntervals();
+  screens::TimeIntervalsScreen& tab = rig_.program->TimeIntervalsScreen();
   (Chance(4) ? tab.Option5 : tab.Option4).Press();
   if (tab.Check3.Enabled()) {
     tab.lstTime.ChooseIndex(static_cast<int>(Random(static_cast<unsigned>(tab.lstTime.Count()))));
@@ -154,7 +154,7 @@ void Days::UseTimeIntervalsTab() {
 
 void Days::UseReleases() {
   Open(screens::kQuondixTab);
-  screens::QuondixScreen& tab = rig_.program->Quondix();
+  screens::QuondixScreen& tab = rig_.program->QuondixScreen();
   tab.VScroll1.Drag(static_cast<int>(1 + Random(4)));
   tab.List1.ChooseIndex(static_cast<int>(Random(static_cast<unsigned>(tab.List1.Count()))));
   if (tab.Command1.Enabled()) {
@@ -168,7 +168,7 @@ void Days::UseReleases() {
 
 void Days::UseSystem() {
   Open(screens::kStartupTab);
-  screens::StartupScreen& tab = rig_.program->Startup();
+  screens::StartupScreen& tab = rig_.program->StartupScreen();
   tab.Slider7.Drag(static_cast<int>(1 + Random(5)));
   tab.Check2.Press();
   if (Chance(3)) tab.Check4.Press();
@@ -176,30 +176,31 @@ void Days::UseSystem() {
     tab.Command5.Press();
     waited_ms_ += 2000;
   }
-  if (Chance(2)) (Chance(2) ? rig_.program->Quondix().Command2 : rig_.program->Quondix().Command4).Press();
+  if (Chance(2))
+    (Chance(2) ? rig_.program->QuondixScreen().Command2 : rig_.program->QuondixScreen().Command4).Press();
 }
 
 void Days::UseTray() {
   constexpr double kMouseMoved = 512 * ui::kTwipsPerPixel;
   constexpr double kDoubleClick = 515 * ui::kTwipsPerPixel;
-  rig_.program->Window().PointerMoved(0, 0, Chance(3) ? kDoubleClick : kMouseMoved, 0);
+  rig_.program->Form().PointerMoved(0, 0, Chance(3) ? kDoubleClick : kMouseMoved, 0);
   // There is none if the shell refuses the change.
   if (!rig_.machine.TrayRequests().empty()) {
     EXPECT_EQ(rig_.machine.TrayRequests().back().tip, std::to_string(conditions_.available_mb) + " MB");
   }
   Open(screens::kQuondixTab);
-  if (Chance(2)) rig_.program->TheTrayMenu().mnuTrayHide.Choose();
+  if (Chance(2)) rig_.program->TrayMenu().mnuTrayHide.Choose();
 }
 
 void Days::SaveTuning() {
   const std::string before = rig_.SystemIni();
   Open(screens::kCacheTab);
-  screens::CacheScreen& cache = rig_.program->Cache();
+  screens::CacheScreen& cache = rig_.program->CacheScreen();
   cache.Combo2.ChooseIndex(static_cast<int>(Random(static_cast<unsigned>(cache.Combo2.Count()))));
   cache.Command11.Press();
   Open(screens::kSwapFileTab);
-  rig_.program->SwapFile().optSwap2.Press();
-  rig_.program->SwapFile().cmdBeginnerSwapFile.Press();
+  rig_.program->SwapFileScreen().optSwap2.Press();
+  rig_.program->SwapFileScreen().cmdBeginnerSwapFile.Press();
   if (ini_is_protected_) {
     EXPECT_EQ(rig_.SystemIni(), before);
   }

@@ -60,10 +60,10 @@ void ReleaseForecast::Bind() {
   retry_.After = minute_.After;
 }
 
-double ReleaseForecast::CheckSeconds() const { return Chosen(program_.Automatic().List2); }
+double ReleaseForecast::CheckSeconds() const { return Chosen(program_.AutomaticScreen().List2); }
 
 double ReleaseForecast::IntervalMinutes() const {
-  const auto& tab = program_.TimeIntervals();
+  const auto& tab = program_.TimeIntervalsScreen();
   return Chosen(tab.lstTime) * (tab.Option4.Selected() ? 1 : 60);
 }
 
@@ -71,7 +71,7 @@ void ReleaseForecast::TakeReading() {
   ++ticks_;
   readings_.push_front(conditions_.load_percent);
   readings_.pop_back();
-  const int readings_per_update = program_.Startup().Slider7.Value();
+  const int readings_per_update = program_.StartupScreen().Slider7.Value();
   position_in_update_ = position_in_update_ < readings_per_update ? position_in_update_ + 1 : 1;
   if (position_in_update_ != 1) ++keys_left_open_;
 }
@@ -84,19 +84,20 @@ bool ReleaseForecast::IsHeldBack(const ui::CheckBox& gate) const {
 }
 
 bool ReleaseForecast::ExpectRelease(Amounts kind) {
-  const ui::ListControl* amounts = &program_.Quondix().List1;
-  if (kind == Amounts::kAutomatic) amounts = &program_.Automatic().List4;
-  if (kind == Amounts::kTimed) amounts = &program_.TimeIntervals().List3;
-  if (kind == Amounts::kStartup) amounts = &program_.Startup().Combo1;
+  const ui::ListControl* amounts = &program_.QuondixScreen().List1;
+  if (kind == Amounts::kAutomatic) amounts = &program_.AutomaticScreen().List4;
+  if (kind == Amounts::kTimed) amounts = &program_.TimeIntervalsScreen().List3;
+  if (kind == Amounts::kStartup) amounts = &program_.StartupScreen().Combo1;
   const double amount_mb = Chosen(*amounts);
   const bool looks = kind == Amounts::kAutomatic || kind == Amounts::kTimed;
   if (looks && amount_mb < conditions_.available_mb) return true;
   if (conditions_.refuses_blocks) {
-    if (kind == Amounts::kManual || !program_.Startup().Check4.Ticked()) ++warnings_;
+    if (kind == Amounts::kManual || !program_.StartupScreen().Check4.Ticked()) ++warnings_;
     return false;
   }
   ++releases_;
-  const auto passes = static_cast<std::int64_t>(base::ParseLeadingNumber(program_.Quondix().Text1.Text()));
+  const auto passes =
+      static_cast<std::int64_t>(base::ParseLeadingNumber(program_.QuondixScreen().Text1.Text()));
   blocks_ += passes * (amount_mb > kOneBlockMb ? 2 : 1);
   return true;
 }
@@ -110,8 +111,8 @@ void ReleaseForecast::BeforeCheck() {
   if (conditions_.companion_works) return;
   if (CheckSeconds() > 60 && ++minutes_unchecked_ != CheckSeconds() / 60) return;
   checked_ = CheckSeconds() > 60;
-  const double threshold_mb = base::ParseLeadingNumber(program_.Automatic().Text2.Text());
-  if (threshold_mb <= conditions_.available_mb || IsHeldBack(program_.Automatic().Check9)) return;
+  const double threshold_mb = base::ParseLeadingNumber(program_.AutomaticScreen().Text2.Text());
+  if (threshold_mb <= conditions_.available_mb || IsHeldBack(program_.AutomaticScreen().Check9)) return;
   automatic_finishes_ = ExpectRelease(Amounts::kAutomatic);
 }
 
@@ -123,7 +124,7 @@ void ReleaseForecast::AfterCheck() {
 void ReleaseForecast::BeforeMinute() {
   ++ticks_;
   timed_finishes_.push_back(false);
-  if (IsHeldBack(program_.TimeIntervals().Check10)) {
+  if (IsHeldBack(program_.TimeIntervalsScreen().Check10)) {
     if (!std::exchange(retry_pending_, true)) retry_.ExpectTickAfter(kRetryMs);
     return;
   }
@@ -147,15 +148,15 @@ void ReleaseForecast::Follow(WatchedTimer& timer, bool& runs, bool runs_now, std
 void ReleaseForecast::WindowActivated() { Follow(display_, display_runs_, true, kRefreshMs); }
 
 void ReleaseForecast::FollowControls() {
-  const bool is_paused = program_.Quondix().Command3.Caption() == "Resume Activity";
+  const bool is_paused = program_.QuondixScreen().Command3.Caption() == "Resume Activity";
   const auto interval_ms = static_cast<std::int64_t>(std::min(CheckSeconds(), 60.0) * 1000);
   const bool is_new = std::exchange(check_interval_ms_, interval_ms) != interval_ms;
   if (is_new && check_runs_) check_.ExpectTickAfter(interval_ms);
   if (std::exchange(is_paused_, is_paused) != is_paused) {
     Follow(display_, display_runs_, !is_paused, kRefreshMs);
   }
-  Follow(check_, check_runs_, !is_paused && program_.Automatic().Check1.Ticked(), interval_ms);
-  Follow(minute_, minute_runs_, !is_paused && program_.TimeIntervals().Check3.Ticked(), kMinuteMs);
+  Follow(check_, check_runs_, !is_paused && program_.AutomaticScreen().Check1.Ticked(), interval_ms);
+  Follow(minute_, minute_runs_, !is_paused && program_.TimeIntervalsScreen().Check3.Ticked(), kMinuteMs);
 }
 
 std::string ReleaseForecast::CounterText() const {

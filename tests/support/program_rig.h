@@ -55,7 +55,7 @@ class ProgramRig {
   app::Form1& Create() {
     program.emplace(machine.GetSystem());
     for (ui::Timer* timer : program->Timers()) timers.Add(*timer);
-    program->Quondix().XGraphMeter1.SurfaceChanged(&graph);
+    program->QuondixScreen().XGraphMeter1.SurfaceChanged(&graph);
     return *program;
   }
 
@@ -69,7 +69,7 @@ class ProgramRig {
                       status.available_page_file);
   }
   /// Stops drawing the graph: moving pixels takes most of the time of a long run.
-  void RemoveGraph() { program->Quondix().XGraphMeter1.SurfaceChanged(nullptr); }
+  void RemoveGraph() { program->QuondixScreen().XGraphMeter1.SurfaceChanged(nullptr); }
 
   /// Returns the newest bar of the CPU graph, in pixels from the bottom.
   [[nodiscard]] int NewestBarPx() const {

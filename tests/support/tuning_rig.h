@@ -43,7 +43,7 @@ class TuningRig : public ProgramRig {
     return *program;
   }
   void End() {
-    program->Window().Unload();
+    program->Form().Unload();
     timers = {};
     machine.EndProcess();
   }

@@ -4,9 +4,9 @@
 
 #include <memory>
 
-#include "companion/win32/companion_program.h"
 #include "config_launcher/config_form.h"
 #include "config_launcher/win32/resources.h"
+#include "host/win32/program_host.h"
 #include "os/win32/dropped_files.h"
 #include "os/win32/win32_file_dialogs.h"
 #include "runtime/entry.h"
@@ -18,42 +18,29 @@ namespace qdix::config_launcher::win32 {
 
 namespace {
 
-std::unique_ptr<ui::win32::NativeControl> MakeOwnPeer(const ui::win32::PeerContext& context,
-                                                      ui::Control& model, HWND parent, int number) {
-  using namespace ui::win32;
-  switch (model.GetKind()) {
-    case ui::Kind::kLabel:
-      return MakePeerOf<LabelPeer, ui::Label>(context, model, parent, number);
-    case ui::Kind::kButton:
-      return MakePeerOf<ButtonPeer, ui::Button>(context, model, parent, number);
-    case ui::Kind::kTextBox:
-      return MakePeerOf<TextBoxPeer, ui::TextBox>(context, model, parent, number);
-    case ui::Kind::kListBox:
-      return MakePeerOf<ListBoxPeer, ui::ListBox>(context, model, parent, number);
-    default:
-      return nullptr;
-  }
-}
+constexpr ui::win32::PeerFactory kMakePeer =
+    &ui::win32::MakePeerFrom<ui::win32::LabelPeer, ui::win32::ButtonPeer, ui::win32::TextBoxPeer,
+                             ui::win32::ListBoxPeer>;
 
 class Program {
  public:
-  explicit Program(HINSTANCE instance) : program_(instance, kConfigLauncherIcon, &MakeOwnPeer, dialogs_) {
-    ui::win32::FormWindow& window = program_.Window();
+  explicit Program(HINSTANCE instance) : host_(instance, kConfigLauncherIcon, kMakePeer, dialogs_) {
+    ui::win32::FormWindow& window = host_.Window();
     dialogs_.SetOwner(window.MainWindow());
     window.OnFilesDropped = base::Callback<void(WPARAM)>::To<&Program::FilesDropped>(*this);
-    window.OnQueryEndSession = base::Callback<bool()>::To<&ConfigForm::MaySessionEnd>(program_.TheProgram());
+    window.OnQueryEndSession = base::Callback<bool()>::To<&ConfigForm::MaySessionEnd>(host_.TheProgram());
     window.OnActivatedMinimised =
-        base::Callback<void(std::uint32_t)>::To<&ConfigForm::ActivatedMinimised>(program_.TheProgram());
+        base::Callback<void(std::uint32_t)>::To<&ConfigForm::ActivatedMinimised>(host_.TheProgram());
     os::win32::AcceptDroppedFiles(window.MainWindow());
   }
 
-  [[nodiscard]] bool Run(int show_command) { return program_.Run(show_command); }
+  [[nodiscard]] int Run(int show_command) { return host_.Run(show_command); }
 
  private:
-  void FilesDropped(WPARAM drop) { program_.TheProgram().FilesDropped(os::win32::TakeDroppedPaths(drop)); }
+  void FilesDropped(WPARAM drop) { host_.TheProgram().FilesDropped(os::win32::TakeDroppedPaths(drop)); }
 
   os::win32::Win32FileDialogs dialogs_;
-  companion::win32::CompanionProgram<ConfigForm> program_;
+  host::win32::ProgramHost<ConfigForm> host_;
 };
 
 }  // namespace
@@ -63,5 +50,5 @@ class Program {
 extern "C" int QdixMain(void* instance, int show_command) {
   const auto program =
       std::make_unique<qdix::config_launcher::win32::Program>(static_cast<HINSTANCE>(instance));
-  return program->Run(show_command) ? 0 : 1;
+  return program->Run(show_command);
 }

@@ -12,6 +12,9 @@ namespace qdix::help_viewer::win32 {
 
 class TopicPanePeer final : public ui::win32::NativeControl {
  public:
+  using ModelType = TopicPane;
+  static constexpr ui::Kind kKind = ui::Kind::kOwn;
+
   TopicPanePeer(const ui::win32::PeerContext& context, TopicPane& model, HWND parent, int number);
   ~TopicPanePeer() override;
 

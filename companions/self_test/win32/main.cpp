@@ -6,6 +6,8 @@
 #include "app/version.h"
 #include "base/numbers.h"
 #include "os/win32/win32_system.h"
+#include "registry/registry_key.h"
+#include "registry/registry_paths.h"
 #include "runtime/entry.h"
 #include "self_test/profile_questions.h"
 #include "self_test/reading_checks.h"
@@ -16,8 +18,6 @@
 #include "self_test/win32/system_questions.h"
 #include "self_test/win32/window_checks.h"
 #include "shell/application_folder.h"
-#include "shell/registry_key.h"
-#include "shell/registry_paths.h"
 
 namespace qdix::self_test::win32 {
 
@@ -94,8 +94,8 @@ class SelfTest {
     if (!system.GetSystem().files.CopyFileA(source.c_str(), target.c_str())) {
       return Outcome::Failed("system.ini cannot be copied to " + target);
     }
-    auto machine =
-        shell::RegistryKey::Create(system.GetSystem().registry, os::kHkeyLocalMachine, shell::kMachineKey);
+    auto machine = registry::RegistryKey::Create(system.GetSystem().registry, os::kHkeyLocalMachine,
+                                                 registry::kMachineKey);
     return Outcome::Expect(machine.WriteText("HasRun", "1"), "the registry key cannot be written");
   }
 

@@ -44,11 +44,11 @@ class OpenProgram {
       : system_(bench.system),
         program_(bench.system.GetSystem(), others...),
         timers_(TimersOf(program_)),
-        window_(bench.instance, kSelfTestIcon, program_.TheApplication(), program_.Window(), timers_,
+        window_(bench.instance, kSelfTestIcon, program_.TheApplication(), program_.Form(), timers_,
                 &MakeAnyPeer) {}
   OpenProgram(const OpenProgram&) = delete;
   OpenProgram& operator=(const OpenProgram&) = delete;
-  ~OpenProgram() { program_.Window().Unload(); }
+  ~OpenProgram() { program_.Form().Unload(); }
 
   [[nodiscard]] Program& TheProgram() { return program_; }
   [[nodiscard]] HWND MainWindow() const { return window_.MainWindow(); }
@@ -60,7 +60,7 @@ class OpenProgram {
     program_.Start();
     system_.GetSystem().event_pump.PumpEvents();
     const std::string said = system_.Dialogs().TakeTexts();
-    if (program_.Window().Unloaded()) return Outcome::Failed("it closed at once; message: " + said);
+    if (program_.Form().Unloaded()) return Outcome::Failed("it closed at once; message: " + said);
     if (IsWindowVisible(MainWindow()) == FALSE) return Outcome::Failed("the window is not shown");
     return Outcome::Ok(said.empty() ? said : "message: " + said);
   }
@@ -68,11 +68,11 @@ class OpenProgram {
   /// Handles pending events, then calls WalkWindows.
   [[nodiscard]] Outcome Walk() {
     system_.GetSystem().event_pump.PumpEvents();
-    return WalkWindows(MainWindow(), program_.Window());
+    return WalkWindows(MainWindow(), program_.Form());
   }
 
   [[nodiscard]] HWND WindowOf(const ui::Control& control) {
-    return win32::WindowOf(MainWindow(), program_.Window(), control);
+    return win32::WindowOf(MainWindow(), program_.Form(), control);
   }
 
   /// Sends the notification that Windows sends to the parent when the user clicks or changes a control.

@@ -4,7 +4,7 @@
 
 #include "config_launcher/config_form.h"
 #include "launcher/launcher_file.h"
-#include "shell/settings_store.h"
+#include "registry/settings_store.h"
 
 namespace qdix::self_test::win32 {
 
@@ -31,7 +31,7 @@ std::string RowOf(HWND list, int row) {
 }
 
 Outcome Stored(const Bench& bench, std::string_view section, const char* key, const char* expected) {
-  const shell::SettingsStore settings(bench.system.GetSystem().registry);
+  const registry::SettingsStore settings(bench.system.GetSystem().registry);
   const std::string stored = settings.GetSetting(section, key, "nothing");
   if (stored == expected) return Outcome::Ok();
   return Outcome::Failed(std::string(key) + " holds " + stored + ", not " + expected);
@@ -48,30 +48,30 @@ Outcome SaveProgramList(const Bench& bench) {
   SetWindowTextA(open->WindowOf(screen.txtPath), "C:\\NOTHING.EXE");
   open->Notify(screen.cmdAdd, BN_CLICKED);
   open->Notify(screen.cmdOK, BN_CLICKED);
-  const bool is_saved = open->TheProgram().Window().Unloaded();
+  const bool is_saved = open->TheProgram().Form().Unloaded();
   return is_saved ? Outcome::Ok()
                   : Outcome::Failed("the list was not saved; message: " + bench.system.Dialogs().TakeTexts());
 }
 
 Outcome TickBox(const Bench& bench, MainProgram& open) {
-  const ui::CheckBox& box = open.TheProgram().Startup().Check4;
+  const ui::CheckBox& box = open.TheProgram().StartupScreen().Check4;
   open.Notify(box, BN_CLICKED);
   if (SendMessageA(open.WindowOf(box), BM_GETCHECK, 0, 0) != BST_CHECKED) {
     return Outcome::Failed("the box is not ticked");
   }
-  return Stored(bench, shell::kSettingsSection, "Warnings", "1");
+  return Stored(bench, registry::kSettingsSection, "Warnings", "1");
 }
 
 Outcome TypeText(const Bench& bench, MainProgram& open) {
-  SetWindowTextA(open.WindowOf(open.TheProgram().Startup().Text3), kDelayText);
-  return Stored(bench, shell::kStartupSection, "StartupTime", kDelayText);
+  SetWindowTextA(open.WindowOf(open.TheProgram().StartupScreen().Text3), kDelayText);
+  return Stored(bench, registry::kStartupSection, "StartupTime", kDelayText);
 }
 
 Outcome DragSlider(const Bench& bench, MainProgram& open) {
-  HWND const slider = open.WindowOf(open.TheProgram().Startup().Slider7);
+  HWND const slider = open.WindowOf(open.TheProgram().StartupScreen().Slider7);
   SendMessageA(slider, TBM_SETPOS, TRUE, kSliderPosition);
   SendMessageA(GetParent(slider), WM_HSCROLL, TB_ENDTRACK, reinterpret_cast<LPARAM>(slider));
-  return Stored(bench, shell::kSettingsSection, "CPU", "3");
+  return Stored(bench, registry::kSettingsSection, "CPU", "3");
 }
 
 Outcome FindAgain(MainProgram& open) {
@@ -80,7 +80,7 @@ Outcome FindAgain(MainProgram& open) {
   app::Form1& form1 = open.TheProgram();
   if (form1.MainWindow().SSTab1.Tab() != screens::kStartupTab)
     return Outcome::Failed("the wrong tab is open");
-  const screens::StartupScreen& startup = form1.Startup();
+  const screens::StartupScreen& startup = form1.StartupScreen();
   if (SendMessageA(open.WindowOf(startup.Check4), BM_GETCHECK, 0, 0) != BST_CHECKED) {
     return Outcome::Failed("the tick was not restored");
   }
@@ -89,7 +89,7 @@ Outcome FindAgain(MainProgram& open) {
     return Outcome::Failed("the slider position was not restored");
   }
   form1.MainWindow().SSTab1.ChooseTab(screens::kLauncherTab);
-  return Outcome::Expect(RowOf(open.WindowOf(form1.Launcher().List5), 0) == kProgramName,
+  return Outcome::Expect(RowOf(open.WindowOf(form1.LauncherScreen().List5), 0) == kProgramName,
                          "the program list was not restored");
 }
 
@@ -104,7 +104,7 @@ Outcome ReleaseOneMegabyte(const Bench& bench, MainProgram& open) {
   const int taken_before = memory.Taken();
   const std::uint32_t touched_before = memory.TouchedBytes();
   OneMegabyte one;
-  const memory::ReleaseOutcome outcome = open.TheProgram().Release().FreeUpMemory(
+  const memory::ReleaseOutcome outcome = open.TheProgram().MemoryRelease().FreeUpMemory(
       {.amount_mb = base::Callback<double()>::To<&OneMegabyte::Amount>(one), .passes = 1});
   if (outcome != memory::ReleaseOutcome::kFinished) {
     return Outcome::Failed("the release did not finish: " + bench.system.Dialogs().TakeTexts());

@@ -78,8 +78,7 @@ void CheckHelpViewer(const Bench& bench) {
 std::unique_ptr<ui::win32::NativeControl> MakeAnyPeer(const ui::win32::PeerContext& context,
                                                       ui::Control& model, HWND parent, int number) {
   if (model.GetKind() != ui::Kind::kOwn) return ui::win32::MakePeer(context, model, parent, number);
-  return ui::win32::MakePeerOf<help_viewer::win32::TopicPanePeer, help_viewer::TopicPane>(context, model,
-                                                                                          parent, number);
+  return ui::win32::MakePeerFrom<help_viewer::win32::TopicPanePeer>(context, model, parent, number);
 }
 
 void RunWindowChecks(const Bench& bench) {

@@ -1,44 +1,23 @@
 // The entry point of undo.exe: connects the program and the peers of its controls. Contains no logic.
-#include <windows.h>
-
 #include <memory>
 
-#include "companion/win32/companion_program.h"
+#include "host/win32/program_host.h"
 #include "runtime/entry.h"
 #include "ui/win32/simple_peers.h"
 #include "undo/undo_form.h"
 #include "undo/win32/resources.h"
 
-namespace qdix::undo::win32 {
-
 namespace {
 
-using Program = companion::win32::CompanionProgram<UndoForm>;
+using namespace qdix::ui::win32;
 
-std::unique_ptr<ui::win32::NativeControl> MakeOwnPeer(const ui::win32::PeerContext& context,
-                                                      ui::Control& model, HWND parent, int number) {
-  using namespace ui::win32;
-  switch (model.GetKind()) {
-    case ui::Kind::kFrame:
-      return MakePeerOf<FramePeer, ui::Frame>(context, model, parent, number);
-    case ui::Kind::kLabel:
-      return MakePeerOf<LabelPeer, ui::Label>(context, model, parent, number);
-    case ui::Kind::kButton:
-      return MakePeerOf<ButtonPeer, ui::Button>(context, model, parent, number);
-    case ui::Kind::kCheckBox:
-      return MakePeerOf<CheckBoxPeer, ui::CheckBox>(context, model, parent, number);
-    default:
-      return nullptr;
-  }
-}
+constexpr PeerFactory kMakePeer = &MakePeerFrom<FramePeer, LabelPeer, ButtonPeer, CheckBoxPeer>;
 
 }  // namespace
 
-}  // namespace qdix::undo::win32
-
 extern "C" int QdixMain(void* instance, int show_command) {
-  namespace own = qdix::undo::win32;
+  using Program = qdix::host::win32::ProgramHost<qdix::undo::UndoForm>;
   const auto program =
-      std::make_unique<own::Program>(static_cast<HINSTANCE>(instance), own::kUndoIcon, &own::MakeOwnPeer);
-  return program->Run(show_command) ? 0 : 1;
+      std::make_unique<Program>(static_cast<HINSTANCE>(instance), qdix::undo::win32::kUndoIcon, kMakePeer);
+  return program->Run(show_command);
 }

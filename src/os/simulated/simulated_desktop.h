@@ -12,7 +12,7 @@
 #include "os/shell.h"
 #include "os/simulated/call_log.h"
 #include "os/simulated/simulated_files.h"
-#include "os/windows.h"
+#include "os/top_level_windows.h"
 
 namespace qdix::os::simulated {
 

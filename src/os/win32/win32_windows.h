@@ -1,7 +1,7 @@
 // Implements `Windows` with the Windows API. Only forwards.
 #pragma once
 
-#include "os/windows.h"
+#include "os/top_level_windows.h"
 
 namespace qdix::os::win32 {
 

@@ -44,9 +44,9 @@ base::Status CacheSave::Save() {
   registry_.WriteRegistryText(os::kHkeyLocalMachine, kOwnTemplateKey, kUnnamedValue, "Quondix Settings");
   const base::Status saved = SaveTemplate();
   if (!saved.Ok()) return saved;
-  SaveSize(screen_.Check5, screen_.Slider1, "minfilecache");
-  SaveSize(screen_.Check6, screen_.Slider2, "maxfilecache");
-  SaveSize(screen_.Check7, screen_.Slider3, "chunksize");
+  SaveSize(screen_.Check5, screen_.Slider1, kWrittenMinFileCacheEntry);
+  SaveSize(screen_.Check6, screen_.Slider2, kWrittenMaxFileCacheEntry);
+  SaveSize(screen_.Check7, screen_.Slider3, kWrittenChunkSizeEntry);
   return base::kDone;
 }
 

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "os/system.h"
+#include "registry/module_registry.h"
 #include "screens/cache_screen.h"
-#include "shell/module_registry.h"
-#include "tuning/cache/first_save.h"
-#include "tuning/cache/system_ini.h"
+#include "tuning/first_save.h"
 #include "tuning/restart.h"
+#include "tuning/system_ini.h"
 #include "ui/application.h"
 
 namespace qdix::tuning {
@@ -31,7 +31,7 @@ class CacheSave {
   void SaveSize(const ui::CheckBox& box, const ui::Slider& slider, const char* key);
 
   os::Dialogs& dialogs_;
-  shell::ModuleRegistry registry_;
+  registry::ModuleRegistry registry_;
   const ui::Application& application_;
   screens::CacheScreen& screen_;
   SystemIni& system_ini_;

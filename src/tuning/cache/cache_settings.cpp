@@ -84,8 +84,8 @@ void CacheSettings::FillList() {
 void CacheSettings::SetupCache() {
   SetCacheRange(screen_.Slider1, monitor_.TotalRAM());
   SetCacheRange(screen_.Slider2, monitor_.TotalRAM());
-  LoadCacheSize(MinCache(), "MinFileCache");
-  LoadCacheSize(MaxCache(), "MaxFileCache");
+  LoadCacheSize(MinCache(), kMinFileCacheEntry);
+  LoadCacheSize(MaxCache(), kMaxFileCacheEntry);
   if (screen_.Check5.Ticked() && screen_.Check6.Ticked() &&
       screen_.Slider1.Value() > screen_.Slider2.Value()) {
     screen_.Slider1.SetValue(screen_.Slider2.Value());
@@ -107,7 +107,7 @@ void CacheSettings::LoadCacheSize(const Group& group, const char* key) {
 }
 
 void CacheSettings::LoadChunkSize() {
-  const double size_kb = system_ini_.ReadIniValue(kVcacheSection, "chunksize");
+  const double size_kb = system_ini_.ReadIniValue(kVcacheSection, kWrittenChunkSizeEntry);
   screen_.Check7.SetTicked(size_kb != 0);
   if (size_kb != 0) screen_.Slider3.SetNearest(size_kb);
   RefreshEnabledState(ChunkSize());

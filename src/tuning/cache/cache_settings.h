@@ -4,10 +4,10 @@
 
 #include "memory/memory_monitor.h"
 #include "os/system.h"
+#include "registry/module_registry.h"
 #include "screens/cache_screen.h"
-#include "shell/module_registry.h"
 #include "tuning/cache/cache_presets.h"
-#include "tuning/cache/system_ini.h"
+#include "tuning/system_ini.h"
 
 namespace qdix::tuning {
 
@@ -56,7 +56,7 @@ class CacheSettings {
   void BoxClicked();
   base::Status SliderMoved(const Group& group);
 
-  shell::ModuleRegistry registry_;
+  registry::ModuleRegistry registry_;
   const SystemIni& system_ini_;
   const memory::MemoryMonitor& monitor_;
   screens::CacheScreen& screen_;

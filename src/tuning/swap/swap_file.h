@@ -6,16 +6,10 @@
 
 #include "memory/memory_monitor.h"
 #include "screens/swap_file_screen.h"
-#include "tuning/cache/system_ini.h"
 #include "tuning/swap/drive_info.h"
+#include "tuning/system_ini.h"
 
 namespace qdix::tuning {
-
-/// Entries of the section [386Enh].
-inline constexpr const char* kPagingDriveEntry = "PagingDrive";
-inline constexpr const char* kMinPagingFileSizeEntry = "MinPagingFileSize";
-inline constexpr const char* kMaxPagingFileSizeEntry = "MaxPagingFileSize";
-inline constexpr const char* kPagingEntry = "Paging";
 
 /// Sizes are in megabytes on the screen and in kilobytes in system.ini.
 inline constexpr double kKilobytesPerMegabyte = 1024;

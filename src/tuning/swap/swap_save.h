@@ -4,10 +4,10 @@
 #include "memory/memory_monitor.h"
 #include "os/dialogs.h"
 #include "screens/swap_file_screen.h"
-#include "tuning/cache/first_save.h"
-#include "tuning/cache/system_ini.h"
+#include "tuning/first_save.h"
 #include "tuning/restart.h"
 #include "tuning/swap/swap_file.h"
+#include "tuning/system_ini.h"
 #include "ui/application.h"
 
 namespace qdix::tuning {

@@ -10,6 +10,9 @@ namespace qdix::ui::win32 {
 
 class DrawingPeer final : public NativeControl {
  public:
+  using ModelType = DrawingControl;
+  static constexpr Kind kKind = Kind::kDrawing;
+
   DrawingPeer(const PeerContext& context, DrawingControl& model, HWND parent, int number);
   ~DrawingPeer() override;
 

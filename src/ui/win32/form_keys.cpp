@@ -8,17 +8,6 @@ namespace {
 
 bool IsDown(int key) { return GetKeyState(key) < 0; }
 
-struct ButtonSearch {
-  ButtonRole role;
-  Button* found = nullptr;
-
-  void Visit(Control& control, int /*number*/) {
-    if (found != nullptr || control.GetKind() != Kind::kButton || !control.Reachable()) return;
-    auto& button = static_cast<Button&>(control);
-    if (button.Role() == role) found = &button;
-  }
-};
-
 }  // namespace
 
 bool FormKeys::IsTabSwitch(WPARAM key) {
@@ -40,9 +29,14 @@ void FormKeys::SwitchTab(WPARAM key) {
 }
 
 Button* FormKeys::ReachableButton(ButtonRole role) const {
-  ButtonSearch search{role};
-  VisitControls(form_, ControlVisitor::To<&ButtonSearch::Visit>(search));
-  return search.found;
+  Button* found = nullptr;
+  auto compare = [role, &found](Control& control, int /*number*/) {
+    if (found != nullptr || control.GetKind() != Kind::kButton || !control.Reachable()) return;
+    auto& button = static_cast<Button&>(control);
+    if (button.Role() == role) found = &button;
+  };
+  VisitControls(form_, ControlVisitor::Of(compare));
+  return found;
 }
 
 TabStrip* FormKeys::FirstTabStrip() const {

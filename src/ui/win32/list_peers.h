@@ -8,6 +8,9 @@ namespace qdix::ui::win32 {
 
 class ListBoxPeer final : public NativeControl {
  public:
+  using ModelType = ListBox;
+  static constexpr Kind kKind = Kind::kListBox;
+
   ListBoxPeer(const PeerContext& context, ListBox& model, HWND parent, int number);
   void OnCommand(UINT code) override;
 
@@ -45,11 +48,17 @@ class DropDownPeer : public NativeControl {
 
 class DropDownListPeer final : public DropDownPeer {
  public:
+  using ModelType = DropDownList;
+  static constexpr Kind kKind = Kind::kDropDownList;
+
   DropDownListPeer(const PeerContext& context, DropDownList& model, HWND parent, int number);
 };
 
 class DropDownComboPeer final : public DropDownPeer {
  public:
+  using ModelType = DropDownCombo;
+  static constexpr Kind kKind = Kind::kDropDownCombo;
+
   DropDownComboPeer(const PeerContext& context, DropDownCombo& model, HWND parent, int number);
   void OnCommand(UINT code) override;
 

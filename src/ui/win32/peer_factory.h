@@ -13,11 +13,21 @@ namespace qdix::ui::win32 {
 using PeerFactory = std::unique_ptr<NativeControl> (*)(const PeerContext& context, Control& model,
                                                        HWND parent, int number);
 
-/// Makes a peer of one kind. `model` must be a Model.
-template <class Peer, class Model>
-[[nodiscard]] std::unique_ptr<NativeControl> MakePeerOf(const PeerContext& context, Control& model,
-                                                        HWND parent, int number) {
-  return std::make_unique<Peer>(context, static_cast<Model&>(model), parent, number);
+/// Makes a peer if the control is of its kind.
+template <class Peer>
+void MakeIfOfKind(std::unique_ptr<NativeControl>& peer, const PeerContext& context, Control& model,
+                  HWND parent, int number) {
+  if (model.GetKind() != Peer::kKind) return;
+  peer = std::make_unique<Peer>(context, static_cast<typename Peer::ModelType&>(model), parent, number);
+}
+
+/// The factory of these kinds. Each peer names its kind of control (`kKind`) and its class (`ModelType`).
+template <class... Peers>
+[[nodiscard]] std::unique_ptr<NativeControl> MakePeerFrom(const PeerContext& context, Control& model,
+                                                          HWND parent, int number) {
+  std::unique_ptr<NativeControl> peer;
+  (MakeIfOfKind<Peers>(peer, context, model, parent, number), ...);
+  return peer;
 }
 
 /// The factory of all kinds that more than one program uses.

@@ -25,38 +25,29 @@ bool HoldsDrawing(const Container& container) {
 
 }  // namespace
 
-/// One walk over all controls.
-struct PeerMaker::DueWindows {
-  const PeerMaker& maker;
-  /// The page on which the latest window was made, or null.
+void PeerMaker::MakeDue() const {
+  // The page on which the latest window was made, or null.
   const TabPage* made_on = nullptr;
-  bool any_missing = false;
-
-  void MakeMissing(Control& control, int number) {
-    const NativeControl* const peer = maker.context_.peers.ByNumber(number);
+  auto make_missing = [this, &made_on](Control& control, int number) {
+    const NativeControl* const peer = context_.peers.ByNumber(number);
     if (peer == nullptr) {
-      if (maker.IsDue(control) && maker.Make(control, number)) made_on = PageOf(control);
+      if (IsDue(control) && Make(control, number)) made_on = PageOf(control);
     } else if (made_on != nullptr && PageOf(control) == made_on) {
       // A new window is the last on its page. Move the windows from an earlier attempt behind it: the Tab key
       // follows this order, which must match the order on the screen.
       SetWindowPos(peer->Window(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
-  }
-
-  void LookForMissing(Control& control, int number) {
-    if (maker.context_.peers.ByNumber(number) == nullptr && maker.IsDue(control)) any_missing = true;
-  }
-};
-
-void PeerMaker::MakeDue() const {
-  DueWindows walk{*this};
-  VisitControls(form_, ControlVisitor::To<&DueWindows::MakeMissing>(walk));
+  };
+  VisitControls(form_, ControlVisitor::Of(make_missing));
 }
 
 bool PeerMaker::Complete() const {
-  DueWindows walk{*this};
-  VisitControls(form_, ControlVisitor::To<&DueWindows::LookForMissing>(walk));
-  return !walk.any_missing;
+  bool is_complete = true;
+  auto look = [this, &is_complete](const Control& control, int number) {
+    if (context_.peers.ByNumber(number) == nullptr && IsDue(control)) is_complete = false;
+  };
+  VisitControls(form_, ControlVisitor::Of(look));
+  return is_complete;
 }
 
 /// Also checks the native window, because another program can show it without the form's knowledge.

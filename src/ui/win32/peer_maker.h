@@ -25,8 +25,6 @@ class PeerMaker {
   [[nodiscard]] bool Complete() const;
 
  private:
-  struct DueWindows;
-
   [[nodiscard]] bool IsDue(const Control& control) const;
   [[nodiscard]] bool Make(Control& control, int number) const;
   [[nodiscard]] HWND ParentWindowOf(const Control& control) const;

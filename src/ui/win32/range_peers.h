@@ -10,6 +10,9 @@ namespace qdix::ui::win32 {
 /// maximum.
 class ScrollBarPeer final : public NativeControl {
  public:
+  using ModelType = VerticalScrollBar;
+  static constexpr Kind kKind = Kind::kVerticalScrollBar;
+
   ScrollBarPeer(const PeerContext& context, VerticalScrollBar& model, HWND parent, int number);
   void OnScroll(UINT code) override;
 
@@ -24,6 +27,9 @@ class ScrollBarPeer final : public NativeControl {
 
 class SliderPeer final : public NativeControl {
  public:
+  using ModelType = Slider;
+  static constexpr Kind kKind = Kind::kSlider;
+
   SliderPeer(const PeerContext& context, Slider& model, HWND parent, int number);
   void OnScroll(UINT code) override;
 

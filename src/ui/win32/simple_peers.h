@@ -8,6 +8,9 @@ namespace qdix::ui::win32 {
 
 class LabelPeer final : public NativeControl {
  public:
+  using ModelType = Label;
+  static constexpr Kind kKind = Kind::kLabel;
+
   LabelPeer(const PeerContext& context, Label& model, HWND parent, int number);
 
  private:
@@ -17,6 +20,9 @@ class LabelPeer final : public NativeControl {
 
 class FramePeer final : public NativeControl {
  public:
+  using ModelType = Frame;
+  static constexpr Kind kKind = Kind::kFrame;
+
   FramePeer(const PeerContext& context, Frame& model, HWND parent, int number);
   void ControlChanged(Control& control, Change change) override;
 
@@ -26,6 +32,9 @@ class FramePeer final : public NativeControl {
 
 class PicturePeer final : public NativeControl {
  public:
+  using ModelType = Picture;
+  static constexpr Kind kKind = Kind::kPicture;
+
   PicturePeer(const PeerContext& context, Picture& model, HWND parent, int number);
 
  private:
@@ -34,6 +43,9 @@ class PicturePeer final : public NativeControl {
 
 class ButtonPeer : public NativeControl {
  public:
+  using ModelType = Button;
+  static constexpr Kind kKind = Kind::kButton;
+
   ButtonPeer(const PeerContext& context, Button& model, HWND parent, int number);
   void OnCommand(UINT code) override;
 
@@ -52,6 +64,9 @@ class ButtonPeer : public NativeControl {
 
 class CheckBoxPeer final : public NativeControl {
  public:
+  using ModelType = CheckBox;
+  static constexpr Kind kKind = Kind::kCheckBox;
+
   CheckBoxPeer(const PeerContext& context, CheckBox& model, HWND parent, int number);
   void OnCommand(UINT code) override;
 
@@ -63,6 +78,9 @@ class CheckBoxPeer final : public NativeControl {
 
 class OptionButtonPeer final : public NativeControl {
  public:
+  using ModelType = OptionButton;
+  static constexpr Kind kKind = Kind::kOptionButton;
+
   OptionButtonPeer(const PeerContext& context, OptionButton& model, HWND parent, int number);
   void OnCommand(UINT code) override;
 

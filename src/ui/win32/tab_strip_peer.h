@@ -9,6 +9,9 @@ namespace qdix::ui::win32 {
 
 class TabStripPeer final : public NativeControl {
  public:
+  using ModelType = TabStrip;
+  static constexpr Kind kKind = Kind::kTabStrip;
+
   TabStripPeer(const PeerContext& context, TabStrip& model, HWND parent, int number);
   void OnNotify(UINT code) override;
 
@@ -24,6 +27,9 @@ class TabStripPeer final : public NativeControl {
 
 class TabPagePeer final : public NativeControl {
  public:
+  using ModelType = TabPage;
+  static constexpr Kind kKind = Kind::kTabPage;
+
   TabPagePeer(const PeerContext& context, TabPage& model, HWND parent, int number);
 
  private:

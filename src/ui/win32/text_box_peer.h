@@ -12,6 +12,9 @@ namespace qdix::ui::win32 {
 
 class TextBoxPeer final : public NativeControl {
  public:
+  using ModelType = TextBox;
+  static constexpr Kind kKind = Kind::kTextBox;
+
   TextBoxPeer(const PeerContext& context, TextBox& model, HWND parent, int number);
   void OnCommand(UINT code) override;
   HBRUSH Paint(UINT message, HDC device) override;

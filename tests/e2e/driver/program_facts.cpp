@@ -22,7 +22,7 @@ template <class Program, class... Others>
 ScreenMap MapOf(Others&&... others) {
   const os::SimulatedMachine machine;
   Program program(machine.GetSystem(), others...);
-  return ScreenMap(program.Window());
+  return ScreenMap(program.Form());
 }
 
 /// Converts a path of the host to the form that programs under Wine use.

@@ -64,16 +64,16 @@ void StartSwapTab(TuningRig& rig, const char* ini, double free_mb = 2000) {
 
 void SaveSwapSize(TuningRig& rig, const char* size_mb) {
   StartSwapTab(rig, "");
-  rig.program->SwapFile().optSwap2.Press();
-  rig.program->SwapFile().Text8.SetText(size_mb);
+  rig.program->SwapFileScreen().optSwap2.Press();
+  rig.program->SwapFileScreen().Text8.SetText(size_mb);
   rig.Answer({os::kIdYes, os::kIdNo});
-  rig.program->SwapFile().Command18.Press();
+  rig.program->SwapFileScreen().Command18.Press();
 }
 
 void AskForASuggestion(TuningRig& rig) {
   rig.StartAt(screens::kSwapFileTab);
-  rig.program->SwapFile().optSwap2.Press();
-  rig.program->SwapFile().cmdBeginnerSwapFile.Press();
+  rig.program->SwapFileScreen().optSwap2.Press();
+  rig.program->SwapFileScreen().cmdBeginnerSwapFile.Press();
 }
 
 // With -14,000,000 bytes available, the difference exceeds 32 bits. The used share is 100.65 percent, and its
@@ -92,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Occasion{"button without memory",
                              [](TuningRig& rig) {
                                rig.machine.LimitAllocatableBytes(0);
-                               rig.Start().Quondix().Command1.Press();
+                               rig.Start().QuondixScreen().Command1.Press();
                              },
                              {Box(kLowResources)}},
                     Occasion{"automatic release without memory",
@@ -125,7 +125,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Occasion{"launch without memory",
                              [](TuningRig& rig) {
                                rig.machine.LimitAllocatableBytes(0);
-                               StartWithProgram(rig, "calc").Launcher().List5.DoubleClick(0);
+                               StartWithProgram(rig, "calc").LauncherScreen().List5.DoubleClick(0);
                              },
                              {Box(kLowResources)}}));
 
@@ -133,50 +133,52 @@ INSTANTIATE_TEST_SUITE_P(
 // box that silences the warning changes nothing.
 INSTANTIATE_TEST_SUITE_P(
     OfErrors, Boxes,
-    testing::Values(
-        Occasion{"release of a negative amount, warnings silenced",
-                 [](TuningRig& rig) {
-                   rig.Store("Settings", "Warnings", "1");
-                   rig.machine.SetMemory(0xC0000000U, MemoryBytes(32), MemoryBytes(64), MemoryBytes(32));
-                   app::Form1& program = StartWithProgram(rig, "calc");
-                   ASSERT_TRUE(program.Startup().Check4.Ticked());
-                   program.Launcher().List5.DoubleClick(0);
-                 },
-                 {Box("Subscript out of range")}},
-        Occasion{"launch of a missing program",
-                 [](TuningRig& rig) { StartWithProgram(rig, "missing").Launcher().List5.DoubleClick(0); },
-                 {Box("File not found")}},
-        Occasion{"load that no byte holds",
-                 [](TuningRig& rig) {
-                   rig.machine.SetCpuLoad(300);
-                   rig.Start();
-                 },
-                 {Box("error in CPU Usage Code\r\nOverflow - err number 6")}},
-        Occasion{"error that nothing traps",
-                 [](TuningRig& rig) {
-                   rig.Start().Quondix().XGraphMeter1.SetMax(0);
-                   rig.program->Quondix().Command1.Press();
-                 },
-                 {Box("Run-time error '11':\r\n\r\nDivision by zero", kStopIcon)}},
-        Occasion{"second copy without a first window",
-                 [](TuningRig& rig) {
-                   rig.machine.SetOtherCopyRunning(true);
-                   rig.machine.OpenWindow("ThunderRT6Main", "Q-DIX");
-                   rig.Start();
-                 },
-                 {Box("error in ActivatePrecInstance")}},
-        Occasion{
-            "limits that are no limits",
-            [](TuningRig& rig) {
-              screens::MainWindow& window = rig.StartAt(screens::kAutomaticTab).MainWindow();
-              rig.program->Automatic().Text9.SetText("4");
-              window.SSTab1.ChooseTab(screens::kAboutTab);
-              rig.program->Automatic().Text9.SetText("5");
-              window.SSTab1.ChooseTab(screens::kTimeIntervalsTab);
-              rig.program->TimeIntervals().Text10.SetText("100");
-              window.SSTab1.ChooseTab(screens::kAboutTab);
-            },
-            {Box("Please enter a number between 5 an 99"), Box("Please enter a number between 5 an 99")}}));
+    testing::Values(Occasion{"release of a negative amount, warnings silenced",
+                             [](TuningRig& rig) {
+                               rig.Store("Settings", "Warnings", "1");
+                               rig.machine.SetMemory(0xC0000000U, MemoryBytes(32), MemoryBytes(64),
+                                                     MemoryBytes(32));
+                               app::Form1& program = StartWithProgram(rig, "calc");
+                               ASSERT_TRUE(program.StartupScreen().Check4.Ticked());
+                               program.LauncherScreen().List5.DoubleClick(0);
+                             },
+                             {Box("Subscript out of range")}},
+                    Occasion{"launch of a missing program",
+                             [](TuningRig& rig) {
+                               StartWithProgram(rig, "missing").LauncherScreen().List5.DoubleClick(0);
+                             },
+                             {Box("File not found")}},
+                    Occasion{"load that no byte holds",
+                             [](TuningRig& rig) {
+                               rig.machine.SetCpuLoad(300);
+                               rig.Start();
+                             },
+                             {Box("error in CPU Usage Code\r\nOverflow - err number 6")}},
+                    Occasion{"error that nothing traps",
+                             [](TuningRig& rig) {
+                               rig.Start().QuondixScreen().XGraphMeter1.SetMax(0);
+                               rig.program->QuondixScreen().Command1.Press();
+                             },
+                             {Box("Run-time error '11':\r\n\r\nDivision by zero", kStopIcon)}},
+                    Occasion{"second copy without a first window",
+                             [](TuningRig& rig) {
+                               rig.machine.SetOtherCopyRunning(true);
+                               rig.machine.OpenWindow("ThunderRT6Main", "Q-DIX");
+                               rig.Start();
+                             },
+                             {Box("error in ActivatePrecInstance")}},
+                    Occasion{"limits that are no limits",
+                             [](TuningRig& rig) {
+                               screens::MainWindow& window = rig.StartAt(screens::kAutomaticTab).MainWindow();
+                               rig.program->AutomaticScreen().Text9.SetText("4");
+                               window.SSTab1.ChooseTab(screens::kAboutTab);
+                               rig.program->AutomaticScreen().Text9.SetText("5");
+                               window.SSTab1.ChooseTab(screens::kTimeIntervalsTab);
+                               rig.program->TimeIntervalsScreen().Text10.SetText("100");
+                               window.SSTab1.ChooseTab(screens::kAboutTab);
+                             },
+                             {Box("Please enter a number between 5 an 99"),
+                              Box("Please enter a number between 5 an 99")}}));
 
 INSTANTIATE_TEST_SUITE_P(
     OfTuning, Boxes,
@@ -184,14 +186,14 @@ INSTANTIATE_TEST_SUITE_P(
         Occasion{"cache saved",
                  [](TuningRig& rig) {
                    rig.Answer({os::kIdYes, os::kIdNo});
-                   rig.StartAt(screens::kCacheTab).Cache().Command11.Press();
+                   rig.StartAt(screens::kCacheTab).CacheScreen().Command11.Press();
                  },
                  {Box("Are you sure you want to save these new cache settings?", kYesNo | kNoIsDefault),
                   Box(kRestartOffer, kYesNo | kInformationIcon)}},
         Occasion{"swap file left to Windows",
                  [](TuningRig& rig) {
                    rig.Answer({os::kIdYes, os::kIdNo});
-                   rig.StartAt(screens::kSwapFileTab).SwapFile().Command18.Press();
+                   rig.StartAt(screens::kSwapFileTab).SwapFileScreen().Command18.Press();
                  },
                  {Box("Are you sure you want to set the virtual memory (swapfile) settings to Window's "
                       "default settings?",
@@ -203,7 +205,7 @@ INSTANTIATE_TEST_SUITE_P(
         Occasion{"swap file of another's setup",
                  [](TuningRig& rig) {
                    StartSwapTab(rig, "[386Enh]\r\nPagingDrive=C:\r\n");
-                   rig.program->SwapFile().Command18.Press();
+                   rig.program->SwapFileScreen().Command18.Press();
                  },
                  {Box("No changes have been made to your virtual memory settings.")}},
         Occasion{
@@ -223,7 +225,7 @@ INSTANTIATE_TEST_SUITE_P(
         Occasion{"defragmenter",
                  [](TuningRig& rig) {
                    rig.Answer({os::kIdCancel});
-                   rig.StartAt(screens::kSwapFileTab).SwapFile().Command26.Press();
+                   rig.StartAt(screens::kSwapFileTab).SwapFileScreen().Command26.Press();
                  },
                  {Box("Ok to run the Disk Defragmenter now?  Quondix will close down for this process.",
                       kOkCancel)}}));

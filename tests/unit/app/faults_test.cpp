@@ -18,23 +18,23 @@ void RunSession(ProgramRig& rig) {
   rig.machine.FakeProcessor().SetLeaf(1, {.eax = 0x052C, .edx = 0x10});
   rig.SetAvailableMb(1);
   rig.Start();
-  if (rig.program->Window().Unloaded()) return;
+  if (rig.program->Form().Unloaded()) return;
   rig.RemoveGraph();
   rig.AdvanceMs(1500);
-  rig.program->Quondix().List1.Choose("512 MB");
-  rig.program->Quondix().Command1.Press();
+  rig.program->QuondixScreen().List1.Choose("512 MB");
+  rig.program->QuondixScreen().Command1.Press();
   for (int tab = 0; tab < 8; ++tab) rig.program->MainWindow().SSTab1.ChooseTab(tab);
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
-  rig.program->Automatic().Check1.Press();
-  rig.program->Automatic().Command7.Press();
+  rig.program->AutomaticScreen().Check1.Press();
+  rig.program->AutomaticScreen().Command7.Press();
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kTimeIntervalsTab);
-  rig.program->TimeIntervals().Check3.Press();
-  rig.program->TimeIntervals().lstTime.Choose("5");
+  rig.program->TimeIntervalsScreen().Check3.Press();
+  rig.program->TimeIntervalsScreen().lstTime.Choose("5");
   rig.program->MainWindow().Timer1.SetEnabled(false);
   rig.AdvanceMs(65000);
   rig.machine.OpenWindow("Shell_TrayWnd", "");
   rig.AdvanceMs(5 * kMinuteMs);
-  rig.program->Window().Unload();
+  rig.program->Form().Unload();
 }
 
 int CallsOfASession() {
@@ -44,7 +44,7 @@ int CallsOfASession() {
 }
 
 void ExpectSoundEnd(ProgramRig& rig, int call) {
-  EXPECT_TRUE(rig.program->Window().Unloaded()) << call;
+  EXPECT_TRUE(rig.program->Form().Unloaded()) << call;
   EXPECT_TRUE(rig.machine.OutstandingBlocks().empty()) << call;
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << call;
   EXPECT_TRUE(rig.machine.Misuses().empty()) << call << ": " << rig.machine.Misuses().front();

@@ -35,33 +35,33 @@ TEST(FirstStart, StoresExactlyTheDefaultsOfA64MegabyteMachine) {
 TEST(FirstStart, ShowsTheDefaultsInItsControls) {
   ProgramRig rig(64 * kMegabyte);
   auto& program = rig.Start();
-  EXPECT_EQ(program.Quondix().List1.SelectedText(), "32 MB");
-  EXPECT_EQ(program.Quondix().Text1.Text(), "1");
-  EXPECT_EQ(program.Automatic().Text2.Text(), "2");
-  EXPECT_EQ(program.Automatic().VScroll2.Value(), 2);
-  EXPECT_EQ(program.Automatic().List4.SelectedText(), "32 MB");
-  EXPECT_EQ(program.Automatic().List2.SelectedText(), "20");
-  EXPECT_EQ(program.Automatic().Text9.Text(), "80");
-  EXPECT_FALSE(program.Automatic().Check1.Ticked());
-  EXPECT_TRUE(program.Automatic().Check9.Ticked());
-  EXPECT_EQ(program.TimeIntervals().List3.SelectedText(), "32 MB");
-  EXPECT_EQ(program.TimeIntervals().lstTime.SelectedText(), "30");
-  EXPECT_EQ(program.TimeIntervals().Text10.Text(), "80");
-  EXPECT_TRUE(program.TimeIntervals().Option4.Selected());
-  EXPECT_FALSE(program.TimeIntervals().lblNextRelease.Visible());
-  EXPECT_EQ(program.Startup().Combo1.Text(), "32 MB");
-  EXPECT_EQ(program.Startup().Text3.Text(), "60");
-  EXPECT_EQ(program.Startup().VScroll3.Value(), 60);
-  EXPECT_TRUE(program.Startup().Option1.Selected());
-  EXPECT_EQ(program.About().lblVersion.Caption(), "v2.10");
+  EXPECT_EQ(program.QuondixScreen().List1.SelectedText(), "32 MB");
+  EXPECT_EQ(program.QuondixScreen().Text1.Text(), "1");
+  EXPECT_EQ(program.AutomaticScreen().Text2.Text(), "2");
+  EXPECT_EQ(program.AutomaticScreen().VScroll2.Value(), 2);
+  EXPECT_EQ(program.AutomaticScreen().List4.SelectedText(), "32 MB");
+  EXPECT_EQ(program.AutomaticScreen().List2.SelectedText(), "20");
+  EXPECT_EQ(program.AutomaticScreen().Text9.Text(), "80");
+  EXPECT_FALSE(program.AutomaticScreen().Check1.Ticked());
+  EXPECT_TRUE(program.AutomaticScreen().Check9.Ticked());
+  EXPECT_EQ(program.TimeIntervalsScreen().List3.SelectedText(), "32 MB");
+  EXPECT_EQ(program.TimeIntervalsScreen().lstTime.SelectedText(), "30");
+  EXPECT_EQ(program.TimeIntervalsScreen().Text10.Text(), "80");
+  EXPECT_TRUE(program.TimeIntervalsScreen().Option4.Selected());
+  EXPECT_FALSE(program.TimeIntervalsScreen().lblNextRelease.Visible());
+  EXPECT_EQ(program.StartupScreen().Combo1.Text(), "32 MB");
+  EXPECT_EQ(program.StartupScreen().Text3.Text(), "60");
+  EXPECT_EQ(program.StartupScreen().VScroll3.Value(), 60);
+  EXPECT_TRUE(program.StartupScreen().Option1.Selected());
+  EXPECT_EQ(program.AboutScreen().lblVersion.Caption(), "v2.10");
   EXPECT_EQ(program.MainWindow().SSTab1.Tab(), 0);
-  EXPECT_TRUE(program.Window().Shown());
+  EXPECT_TRUE(program.Form().Shown());
 }
 
 TEST(FirstStart, ChecksStartWithWindowsAndRegistersTheProgram) {
   ProgramRig rig;
   rig.machine.CreateRegistryKey(os::kHkeyLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Run");
-  EXPECT_TRUE(rig.Start().Startup().Check2.Ticked());
+  EXPECT_TRUE(rig.Start().StartupScreen().Check2.Ticked());
   EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine,
                                      "Software\\Microsoft\\Windows\\CurrentVersion\\Run", "Quondix"),
             "C:\\Program Files\\QDIX\\QDIX.exe");
@@ -120,7 +120,7 @@ TEST(LaterStart, DoesNotRegisterAProgramThatIsNotRegistered) {
   ProgramRig rig;
   rig.SetHasRunBefore();
   rig.machine.CreateRegistryKey(os::kHkeyLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Run");
-  EXPECT_FALSE(rig.Start().Startup().Check2.Ticked());
+  EXPECT_FALSE(rig.Start().StartupScreen().Check2.Ticked());
   EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine,
                                      "Software\\Microsoft\\Windows\\CurrentVersion\\Run", "Quondix"),
             std::nullopt);
@@ -131,7 +131,7 @@ TEST(LaterStart, RepairsTheEntryOfAProgramThatWasMoved) {
   rig.SetHasRunBefore();
   const char* run = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
   rig.machine.SetRegistryValue(os::kHkeyLocalMachine, run, "Quondix", "D:\\OLD\\QDIX.exe");
-  EXPECT_TRUE(rig.Start().Startup().Check2.Ticked());
+  EXPECT_TRUE(rig.Start().StartupScreen().Check2.Ticked());
   EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine, run, "Quondix"),
             "C:\\Program Files\\QDIX\\QDIX.exe");
 }
@@ -142,8 +142,8 @@ TEST(StartRegistration, UntickingRemovesTheEntry) {
   rig.machine.CreateRegistryKey(os::kHkeyLocalMachine, run);
   rig.Start();
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kStartupTab);
-  rig.program->Startup().Check2.Press();
-  EXPECT_FALSE(rig.program->Startup().Check2.Ticked());
+  rig.program->StartupScreen().Check2.Press();
+  EXPECT_FALSE(rig.program->StartupScreen().Check2.Ticked());
   EXPECT_EQ(rig.machine.RegistryText(os::kHkeyLocalMachine, run, "Quondix"), std::nullopt);
 }
 
@@ -166,10 +166,10 @@ class DefaultsBySize : public testing::TestWithParam<MachineSize> {};
 TEST_P(DefaultsBySize, FollowHalfOfTheMemory) {
   ProgramRig rig(GetParam().megabytes * kMegabyte);
   auto& program = rig.Start();
-  EXPECT_EQ(program.Quondix().List1.SelectedText(), GetParam().manual);
-  EXPECT_EQ(program.Automatic().List4.SelectedText(), GetParam().release);
-  EXPECT_EQ(program.TimeIntervals().List3.SelectedText(), GetParam().release);
-  EXPECT_EQ(program.Automatic().Text2.Text(), GetParam().threshold);
+  EXPECT_EQ(program.QuondixScreen().List1.SelectedText(), GetParam().manual);
+  EXPECT_EQ(program.AutomaticScreen().List4.SelectedText(), GetParam().release);
+  EXPECT_EQ(program.TimeIntervalsScreen().List3.SelectedText(), GetParam().release);
+  EXPECT_EQ(program.AutomaticScreen().Text2.Text(), GetParam().threshold);
 }
 
 // 16 MB are 16.384 of the program's megabytes, and half of the whole part is 8; and so on.

@@ -98,8 +98,8 @@ TEST_P(SecondCopyByClass, RestoresAndRaisesTheFirstAndEnds) {
   rig.machine.PlaceDirectlyBehind(hidden, first_window);
   rig.machine.Minimise(first_window);
   rig.Start();
-  EXPECT_TRUE(rig.program->Window().Unloaded());
-  EXPECT_FALSE(rig.program->Window().Shown());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
+  EXPECT_FALSE(rig.program->Form().Shown());
   EXPECT_FALSE(rig.machine.IsMinimised(first_window));
   EXPECT_EQ(rig.machine.ForegroundWindow(), first_window);
   EXPECT_TRUE(rig.machine.Boxes().empty());
@@ -151,7 +151,7 @@ TEST_F(SecondCopy, CannotFindItselfBecauseItIsRenamedFirst) {
   rig.program->Start();
   EXPECT_EQ(rig.program->TheApplication().Title(), "unwanted instance");
   EXPECT_NE(rig.machine.ForegroundWindow(), own);
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
 }
 
 TEST_F(SecondCopy, ChangesNoSettingAndCreatesNoKey) {
@@ -164,7 +164,7 @@ TEST_F(SecondCopy, ChangesNoSettingAndCreatesNoKey) {
 
 TEST_F(SecondCopy, AlsoEndsIfTheFirstHasNoWindowYet) {
   rig.Start();
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
   EXPECT_TRUE(rig.machine.Boxes().empty());
 }
 
@@ -175,14 +175,14 @@ TEST_F(SecondCopy, ReportsThatNoWindowIsInFrontOfTheHiddenOne) {
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "error in ActivatePrecInstance");
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX");
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
 }
 
 TEST_F(Lifecycle, CloseWritesAtMostFourValuesInOrder) {
   auto& program = Start();
   program.MainWindow().SSTab1.ChooseTab(screens::kAboutTab);
   const std::size_t before = rig.machine.Calls().size();
-  program.Window().Unload();
+  program.Form().Unload();
   EXPECT_EQ(WrittenValues(before), (Texts{"StartupRAM", "AutoCPU", "TimeCPU", "LastTab"}));
   EXPECT_EQ(rig.Stored("Settings", "LastTab"), "7");
   EXPECT_EQ(rig.Stored("Startup", "StartupRAM"), "32");
@@ -191,11 +191,11 @@ TEST_F(Lifecycle, CloseWritesAtMostFourValuesInOrder) {
 TEST_F(Lifecycle, CloseStoresAnUnvalidatedEdit) {
   auto& program = Start();
   program.MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
-  program.Automatic().Text9.SetFocus();
-  program.Automatic().Text9.SelectAll();
-  program.Automatic().Text9.TypeText("55");
+  program.AutomaticScreen().Text9.SetFocus();
+  program.AutomaticScreen().Text9.SelectAll();
+  program.AutomaticScreen().Text9.TypeText("55");
   EXPECT_EQ(rig.Stored("Settings", "AutoCPU"), std::nullopt);
-  program.Window().Unload();
+  program.Form().Unload();
   EXPECT_EQ(rig.Stored("Settings", "AutoCPU"), "55");
   EXPECT_EQ(rig.Stored("Settings", "LastTab"), "1");
 }
@@ -203,13 +203,13 @@ TEST_F(Lifecycle, CloseStoresAnUnvalidatedEdit) {
 TEST_F(Lifecycle, CloseWithAnInvalidLimitTellsTheUserAndKeepsTheStoredValue) {
   rig.Store("Settings", "AutoCPU", "70");
   auto& program = Start();
-  program.Automatic().Text9.SetText("4");
-  program.Window().Unload();
+  program.AutomaticScreen().Text9.SetText("4");
+  program.Form().Unload();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "Please enter a number between 5 an 99");
   EXPECT_EQ(rig.Stored("Settings", "AutoCPU"), "70");
   EXPECT_EQ(rig.Stored("Settings", "LastTab"), "1") << "the refusal opened the tab with the limit";
-  EXPECT_TRUE(program.Window().Unloaded());
+  EXPECT_TRUE(program.Form().Unloaded());
 }
 
 TEST_F(Lifecycle, EndOfTheSessionDuringABoxOfTheLoadLeavesNoIconAndStoresNothing) {
@@ -217,7 +217,7 @@ TEST_F(Lifecycle, EndOfTheSessionDuringABoxOfTheLoadLeavesNoIconAndStoresNothing
   rig.machine.WhileBoxIsOpen([this] { rig.program->EndSession(); });
   Start();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
   EXPECT_EQ(rig.machine.TrayIconCount(), 0);
   EXPECT_EQ(WrittenValues(), Texts{});
 }
@@ -239,26 +239,26 @@ TEST(LoadOfAFirstRun, StopsWhenTheSessionEndsDuringTheTip) {
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Quondix Tip");
   EXPECT_EQ(CallsAfter(rig.machine, at_the_end), Texts{});
-  EXPECT_TRUE(rig.program->Window().Unloaded());
-  EXPECT_FALSE(rig.program->Window().Shown());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
+  EXPECT_FALSE(rig.program->Form().Shown());
 }
 
 TEST_F(Lifecycle, EndOfTheSessionDuringTheBoxOfACloseSavesAndEndsAtOnce) {
   rig.Store("Settings", "AutoCPU", "70");
   auto& program = Start();
-  program.Automatic().Text9.SetText("4");
-  program.TimeIntervals().Text10.SetText("33");
+  program.AutomaticScreen().Text9.SetText("4");
+  program.TimeIntervalsScreen().Text10.SetText("33");
   std::size_t at_the_end = 0;
   rig.machine.WhileBoxIsOpen([&] {
     EXPECT_EQ(rig.Stored("Settings", "LastTab"), std::nullopt);
     program.EndSession();
-    EXPECT_TRUE(program.Window().Unloaded()) << "the process may end now";
+    EXPECT_TRUE(program.Form().Unloaded()) << "the process may end now";
     EXPECT_EQ(rig.Stored("Settings", "TimeCPU"), "33");
     EXPECT_EQ(rig.Stored("Settings", "LastTab"), "1") << "the refusal opened the tab with the limit";
     EXPECT_EQ(rig.machine.TrayIconCount(), 0);
     at_the_end = rig.machine.Calls().size();
   });
-  program.Window().Unload();
+  program.Form().Unload();
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(CallsAfter(rig.machine, at_the_end), Texts{});
   EXPECT_EQ(rig.Stored("Settings", "AutoCPU"), "70");
@@ -266,15 +266,15 @@ TEST_F(Lifecycle, EndOfTheSessionDuringTheBoxOfACloseSavesAndEndsAtOnce) {
 
 TEST_F(Lifecycle, EndOfTheSessionDuringTheSecondBoxOfACloseSavesAndEndsAtOnce) {
   auto& program = Start();
-  program.Automatic().Text9.SetText("33");
-  program.TimeIntervals().Text10.SetText("4");
+  program.AutomaticScreen().Text9.SetText("33");
+  program.TimeIntervalsScreen().Text10.SetText("4");
   std::size_t at_the_end = 0;
   rig.machine.WhileBoxIsOpen([&] {
     program.EndSession();
     EXPECT_EQ(rig.Stored("Settings", "LastTab"), "2");
     at_the_end = rig.machine.Calls().size();
   });
-  program.Window().Unload();
+  program.Form().Unload();
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(CallsAfter(rig.machine, at_the_end), Texts{});
   EXPECT_EQ(rig.Stored("Settings", "AutoCPU"), "33");
@@ -283,27 +283,27 @@ TEST_F(Lifecycle, EndOfTheSessionDuringTheSecondBoxOfACloseSavesAndEndsAtOnce) {
 
 TEST_F(Lifecycle, CloseHappensOnce) {
   auto& program = Start();
-  program.Window().Unload();
+  program.Form().Unload();
   const std::size_t calls = rig.machine.Calls().size();
-  program.Window().Unload();
+  program.Form().Unload();
   rig.AdvanceMs(60000);
   EXPECT_EQ(rig.machine.Calls().size(), calls) << "no timer ticks after the close";
 }
 
 TEST_F(Lifecycle, CloseBeforeTheEndOfTheLoadSavesNothing) {
   auto& program = rig.Create();
-  program.Window().Unload();
+  program.Form().Unload();
   EXPECT_TRUE(WrittenValues().empty());
 }
 
 TEST_F(Lifecycle, EndOfTheSessionAsksNothingAndDropsInvalidLimits) {
   rig.Store("Settings", "AutoCPU", "70");
   auto& program = Start();
-  program.Automatic().Text9.SetText("100");
-  program.TimeIntervals().Text10.SetText("99");
+  program.AutomaticScreen().Text9.SetText("100");
+  program.TimeIntervalsScreen().Text10.SetText("99");
   program.EndSession();
   EXPECT_TRUE(rig.machine.Boxes().empty());
-  EXPECT_TRUE(program.Window().Unloaded());
+  EXPECT_TRUE(program.Form().Unloaded());
   EXPECT_EQ(rig.Stored("Settings", "AutoCPU"), "70");
   EXPECT_EQ(rig.Stored("Settings", "TimeCPU"), "99");
   EXPECT_EQ(rig.Stored("Settings", "LastTab"), "0");
@@ -313,34 +313,34 @@ TEST_F(Lifecycle, LeavingATabByTheKeyboardChecksTheLimitOnIt) {
   auto& program = Start();
   auto& tabs = program.MainWindow().SSTab1;
   tabs.ChooseTab(screens::kAutomaticTab);
-  program.Automatic().Text9.SetText("4");  // the focus is elsewhere, so only leaving the tab checks it
+  program.AutomaticScreen().Text9.SetText("4");  // the focus is elsewhere, so only leaving the tab checks it
   tabs.ChooseTab(screens::kAboutTab);
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(tabs.Tab(), screens::kAutomaticTab);
-  EXPECT_TRUE(program.Automatic().Text9.HasFocus());
-  EXPECT_EQ(program.Automatic().Text9.SelectionLength(), 1);
+  EXPECT_TRUE(program.AutomaticScreen().Text9.HasFocus());
+  EXPECT_EQ(program.AutomaticScreen().Text9.SelectionLength(), 1);
 }
 
 TEST_F(Lifecycle, LeavingATabWithTheFocusInAnInvalidLimitAsksOnceAndStays) {
   auto& program = Start();
   auto& tabs = program.MainWindow().SSTab1;
   tabs.ChooseTab(screens::kTimeIntervalsTab);
-  program.TimeIntervals().Text10.SetFocus();
-  program.TimeIntervals().Text10.SelectAll();
-  program.TimeIntervals().Text10.TypeText("100");
+  program.TimeIntervalsScreen().Text10.SetFocus();
+  program.TimeIntervalsScreen().Text10.SelectAll();
+  program.TimeIntervalsScreen().Text10.TypeText("100");
   tabs.ChooseTab(screens::kQuondixTab);
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(tabs.Tab(), screens::kTimeIntervalsTab);
-  EXPECT_TRUE(program.TimeIntervals().Text10.HasFocus());
+  EXPECT_TRUE(program.TimeIntervalsScreen().Text10.HasFocus());
 }
 
 TEST_F(Lifecycle, InvalidLimitThatOpensItsTabChecksNoOtherLimit) {
   auto& program = Start();
   auto& tabs = program.MainWindow().SSTab1;
   tabs.ChooseTab(screens::kTimeIntervalsTab);
-  program.Automatic().Text9.SetText("4");
-  program.TimeIntervals().Text10.SetText("4");
-  (void)program.AutomaticSettings().Text9_Validate();
+  program.AutomaticScreen().Text9.SetText("4");
+  program.TimeIntervalsScreen().Text10.SetText("4");
+  (void)program.AutomaticRelease().Text9_Validate();
   EXPECT_EQ(tabs.Tab(), screens::kAutomaticTab);
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
 }
@@ -352,8 +352,8 @@ struct Limit {
 class CpuLimits : public Lifecycle, public testing::WithParamInterface<Limit> {};
 TEST_P(CpuLimits, AreAcceptedFrom5To99) {
   auto& program = Start();
-  program.Automatic().Text9.SetText(GetParam().text);
-  const auto accepted = program.AutomaticSettings().Text9_Validate();
+  program.AutomaticScreen().Text9.SetText(GetParam().text);
+  const auto accepted = program.AutomaticRelease().Text9_Validate();
   EXPECT_EQ(accepted.ValueOr(!GetParam().accepted), GetParam().accepted);
   EXPECT_EQ(rig.Stored("Settings", "AutoCPU").has_value(), GetParam().accepted);
 }
@@ -366,72 +366,72 @@ TEST_F(Lifecycle, PauseStopsTheTimersAndResumeStartsThoseTicked) {
   auto& program = Start();
   auto& window = program.MainWindow();
   program.MainWindow().SSTab1.ChooseTab(screens::kTimeIntervalsTab);
-  program.TimeIntervals().Check3.Press();
+  program.TimeIntervalsScreen().Check3.Press();
   program.MainWindow().SSTab1.ChooseTab(screens::kQuondixTab);
-  auto& pause = program.Quondix().Command3;
+  auto& pause = program.QuondixScreen().Command3;
   pause.Press();
   EXPECT_EQ(pause.Caption(), "Resume Activity");
   for (const ui::Timer* timer : {&window.Timer1, &window.Timer2, &window.Timer3, &window.Timer4}) {
     EXPECT_FALSE(timer->Enabled()) << timer->Name();
   }
-  EXPECT_FALSE(program.Automatic().Check1.Enabled());
-  EXPECT_FALSE(program.TimeIntervals().Check3.Enabled());
-  EXPECT_FALSE(program.TimeIntervals().lblNextRelease.Visible());
+  EXPECT_FALSE(program.AutomaticScreen().Check1.Enabled());
+  EXPECT_FALSE(program.TimeIntervalsScreen().Check3.Enabled());
+  EXPECT_FALSE(program.TimeIntervalsScreen().lblNextRelease.Visible());
   pause.Press();
   EXPECT_EQ(pause.Caption(), "Pause All Activity");
   EXPECT_TRUE(window.Timer1.Enabled());
   EXPECT_FALSE(window.Timer2.Enabled()) << "its box is cleared";
   EXPECT_FALSE(window.Timer3.Enabled()) << "a paused start-up release is lost";
   EXPECT_TRUE(window.Timer4.Enabled());
-  EXPECT_TRUE(program.Automatic().Check1.Enabled());
-  EXPECT_TRUE(program.TimeIntervals().Check3.Enabled());
-  EXPECT_TRUE(program.TimeIntervals().lblNextRelease.Visible());
+  EXPECT_TRUE(program.AutomaticScreen().Check1.Enabled());
+  EXPECT_TRUE(program.TimeIntervalsScreen().Check3.Enabled());
+  EXPECT_TRUE(program.TimeIntervalsScreen().lblNextRelease.Visible());
 }
 
 TEST_F(Lifecycle, ResumeRestartsTheLowMemoryCheckIfItIsTicked) {
   auto& program = Start();
   program.MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
-  program.Automatic().Check1.Press();
+  program.AutomaticScreen().Check1.Press();
   ASSERT_TRUE(program.MainWindow().Timer2.Enabled());
   program.MainWindow().SSTab1.ChooseTab(screens::kQuondixTab);
-  program.Quondix().Command3.Press();
+  program.QuondixScreen().Command3.Press();
   EXPECT_FALSE(program.MainWindow().Timer2.Enabled());
-  program.Quondix().Command3.Press();
+  program.QuondixScreen().Command3.Press();
   EXPECT_TRUE(program.MainWindow().Timer2.Enabled());
 }
 
 TEST_F(Lifecycle, ResumeWithoutTimedReleasesLeavesTheirLabelOff) {
   auto& program = Start();
-  program.Quondix().Command3.Press();
-  program.Quondix().Command3.Press();
-  EXPECT_TRUE(program.TimeIntervals().Check3.Enabled());
+  program.QuondixScreen().Command3.Press();
+  program.QuondixScreen().Command3.Press();
+  EXPECT_TRUE(program.TimeIntervalsScreen().Check3.Enabled());
   EXPECT_FALSE(program.MainWindow().Timer4.Enabled());
-  EXPECT_FALSE(program.TimeIntervals().lblNextRelease.Visible());
+  EXPECT_FALSE(program.TimeIntervalsScreen().lblNextRelease.Visible());
 }
 
 TEST_F(Lifecycle, ChoosingADisplayModeStoresItAndChangesNothingNow) {
   auto& program = Start();
   program.MainWindow().SSTab1.ChooseTab(screens::kStartupTab);
-  program.Startup().Option3.Press();
+  program.StartupScreen().Option3.Press();
   EXPECT_EQ(rig.Stored("Startup", "StartDisplay"), "3");
-  EXPECT_TRUE(program.Window().Shown());
-  program.Startup().Option2.Press();
+  EXPECT_TRUE(program.Form().Shown());
+  program.StartupScreen().Option2.Press();
   EXPECT_EQ(rig.Stored("Startup", "StartDisplay"), "2");
-  EXPECT_EQ(program.Window().State(), ui::WindowState::kNormal);
+  EXPECT_EQ(program.Form().State(), ui::WindowState::kNormal);
 }
 
 TEST_F(Lifecycle, UntrappedErrorShowsItsNumberAndUnloads) {
   auto& program = Start();
   // A bar of height zero has no scale. Dividing by it is an error that the button's handler does not trap.
-  program.Quondix().XGraphMeter1.SetMax(0);
+  program.QuondixScreen().XGraphMeter1.SetMax(0);
   rig.machine.WhileBoxIsOpen(
-      [&program] { EXPECT_FALSE(program.Window().Unloaded()) << "it unloads only after the box was read"; });
-  program.Quondix().Command1.Press();
+      [&program] { EXPECT_FALSE(program.Form().Unloaded()) << "it unloads only after the box was read"; });
+  program.QuondixScreen().Command1.Press();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "Run-time error '11':\r\n\r\nDivision by zero");
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX");
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk | os::kMbIconStop);
-  EXPECT_TRUE(program.Window().Unloaded());
+  EXPECT_TRUE(program.Form().Unloaded());
   EXPECT_EQ(rig.Stored("Settings", "LastTab"), "0") << "it unloads normally";
 }
 

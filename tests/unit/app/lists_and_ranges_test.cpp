@@ -27,7 +27,7 @@ class Lists : public testing::Test {
 };
 
 TEST_F(Lists, CheckIntervalsAreNineValuesInSeconds) {
-  EXPECT_EQ(ItemsOf(program.Automatic().List2),
+  EXPECT_EQ(ItemsOf(program.AutomaticScreen().List2),
             (Texts{"5", "10", "20", "30", "60", "120", "180", "240", "300"}));
 }
 
@@ -35,15 +35,15 @@ TEST_F(Lists, TimedIntervalsAreThoseOfTheChosenUnit) {
   const Texts minutes{"5", "10", "15", "20", "30", "40", "50"};
   const Texts hours{"1",  "2",  "3",  "4",  "5",  "6",  "7",  "8", "9",
                     "10", "12", "14", "16", "18", "20", "22", "24"};
-  EXPECT_EQ(ItemsOf(program.TimeIntervals().lstTime), minutes);
-  program.TimeIntervals().Option5.SetSelected(true);
-  EXPECT_EQ(ItemsOf(program.TimeIntervals().lstTime), hours);
-  program.TimeIntervals().Option4.SetSelected(true);
-  EXPECT_EQ(ItemsOf(program.TimeIntervals().lstTime), minutes);
+  EXPECT_EQ(ItemsOf(program.TimeIntervalsScreen().lstTime), minutes);
+  program.TimeIntervalsScreen().Option5.SetSelected(true);
+  EXPECT_EQ(ItemsOf(program.TimeIntervalsScreen().lstTime), hours);
+  program.TimeIntervalsScreen().Option4.SetSelected(true);
+  EXPECT_EQ(ItemsOf(program.TimeIntervalsScreen().lstTime), minutes);
 }
 
 TEST_F(Lists, AmountsOfTheButtonAreThirty) {
-  EXPECT_EQ(ItemsOf(program.Quondix().List1),
+  EXPECT_EQ(ItemsOf(program.QuondixScreen().List1),
             (Texts{"1 MB",   "2 MB",   "4 MB",   "6 MB",   "8 MB",   "12 MB",  "16 MB",  "20 MB",
                    "24 MB",  "28 MB",  "32 MB",  "40 MB",  "48 MB",  "56 MB",  "64 MB",  "72 MB",
                    "88 MB",  "104 MB", "120 MB", "136 MB", "168 MB", "200 MB", "232 MB", "264 MB",
@@ -55,13 +55,13 @@ TEST_F(Lists, AmountsOfTheOtherReleasesAreTwentyFive) {
                       "48 MB",  "56 MB",  "64 MB",  "72 MB",  "88 MB",  "104 MB", "120 MB",
                       "136 MB", "168 MB", "200 MB", "232 MB", "264 MB", "296 MB", "328 MB",
                       "360 MB", "424 MB", "480 MB", "512 MB"};
-  EXPECT_EQ(ItemsOf(program.TimeIntervals().List3), amounts);
-  EXPECT_EQ(ItemsOf(program.Automatic().List4), amounts);
-  EXPECT_EQ(ItemsOf(program.Startup().Combo1), amounts);
+  EXPECT_EQ(ItemsOf(program.TimeIntervalsScreen().List3), amounts);
+  EXPECT_EQ(ItemsOf(program.AutomaticScreen().List4), amounts);
+  EXPECT_EQ(ItemsOf(program.StartupScreen().Combo1), amounts);
 }
 
 TEST_F(Lists, PresetsAreThirteenNames) {
-  EXPECT_EQ(ItemsOf(program.Cache().Combo2),
+  EXPECT_EQ(ItemsOf(program.CacheScreen().Combo2),
             (Texts{"User-defined", "Standard System (Win95)", "Standard System (Win98/ME)",
                    "Power User (Win95)", "Power User (Win98/ME)", "Multimedia (Win95)",
                    "Multimedia (Win98/ME)", "3D Games (Win95)", "3D Games (Win98/ME)", "CD Writer (Win95)",
@@ -70,8 +70,8 @@ TEST_F(Lists, PresetsAreThirteenNames) {
 
 /// Lists of programs and drives on the machine: empty on this one.
 TEST_F(Lists, ProgramsAndDrivesComeFromTheMachine) {
-  EXPECT_EQ(ItemsOf(program.Launcher().List5), Texts{});
-  EXPECT_EQ(ItemsOf(program.SwapFile().Combo3), Texts{});
+  EXPECT_EQ(ItemsOf(program.LauncherScreen().List5), Texts{});
+  EXPECT_EQ(ItemsOf(program.SwapFileScreen().Combo3), Texts{});
 }
 
 /// Minimum, maximum, value, small and large change. The minimum is at the top of a scroll bar and at the left
@@ -90,15 +90,18 @@ Range RangeOf(const ui::Slider& slider) {
 using Ranges = std::vector<std::pair<std::string, Range>>;
 
 Ranges BarsOf(app::Form1& program) {
-  return {{"VScroll1", RangeOf(program.Quondix().VScroll1)},
-          {"VScroll2", RangeOf(program.Automatic().VScroll2)},
-          {"VScroll3", RangeOf(program.Startup().VScroll3)},
-          {"VScroll4", RangeOf(program.SwapFile().VScroll4)}};
+  return {{"VScroll1", RangeOf(program.QuondixScreen().VScroll1)},
+          {"VScroll2", RangeOf(program.AutomaticScreen().VScroll2)},
+          {"VScroll3", RangeOf(program.StartupScreen().VScroll3)},
+          {"VScroll4", RangeOf(program.SwapFileScreen().VScroll4)}};
 }
 Ranges SlidersOf(app::Form1& program) {
-  return {{"Slider1", RangeOf(program.Cache().Slider1)}, {"Slider2", RangeOf(program.Cache().Slider2)},
-          {"Slider3", RangeOf(program.Cache().Slider3)}, {"Slider4", RangeOf(program.Cache().Slider4)},
-          {"Slider5", RangeOf(program.Cache().Slider5)}, {"Slider7", RangeOf(program.Startup().Slider7)}};
+  return {{"Slider1", RangeOf(program.CacheScreen().Slider1)},
+          {"Slider2", RangeOf(program.CacheScreen().Slider2)},
+          {"Slider3", RangeOf(program.CacheScreen().Slider3)},
+          {"Slider4", RangeOf(program.CacheScreen().Slider4)},
+          {"Slider5", RangeOf(program.CacheScreen().Slider5)},
+          {"Slider7", RangeOf(program.StartupScreen().Slider7)}};
 }
 
 /// On a machine of 64 MB: 67,108,864 bytes, at 500 KB per 1,024,000 bytes, make 32,768.
@@ -120,10 +123,11 @@ TEST_F(Lists, RangesOfTheSliders) {
 
 TEST_F(Lists, OnlyChunkMovesInSteps) {
   const auto step = [](const ui::Slider& slider) { return slider.Range().step; };
-  const screens::CacheScreen& cache = program.Cache();
-  EXPECT_EQ((std::vector<int>{step(cache.Slider1), step(cache.Slider2), step(cache.Slider3),
-                              step(cache.Slider4), step(cache.Slider5), step(program.Startup().Slider7)}),
-            (std::vector<int>{1, 1, 512, 1, 1, 1}));
+  const screens::CacheScreen& cache = program.CacheScreen();
+  EXPECT_EQ(
+      (std::vector<int>{step(cache.Slider1), step(cache.Slider2), step(cache.Slider3), step(cache.Slider4),
+                        step(cache.Slider5), step(program.StartupScreen().Slider7)}),
+      (std::vector<int>{1, 1, 512, 1, 1, 1}));
 }
 
 /// The threshold has the same range on every machine.
@@ -131,7 +135,7 @@ TEST(ThresholdRange, ReachesFrom1To32OnSmallAndLargeMachines) {
   for (const std::uint32_t megabytes : {4U, 16U, 1024U}) {
     ProgramRig rig(megabytes * kMegabyte);
     rig.SetHasRunBefore();
-    const ui::VerticalScrollBar& bar = rig.Start().Automatic().VScroll2;
+    const ui::VerticalScrollBar& bar = rig.Start().AutomaticScreen().VScroll2;
     EXPECT_EQ(bar.Minimum(), 32) << megabytes;
     EXPECT_EQ(bar.Maximum(), 1) << megabytes;
   }
@@ -139,7 +143,7 @@ TEST(ThresholdRange, ReachesFrom1To32OnSmallAndLargeMachines) {
 
 /// A slider's smallest value is at its left, and the smallest interval is the fastest.
 TEST_F(Lists, FasterIsBelowTheLeftEndOfTheGraphIntervalAndSlowerBelowTheRight) {
-  const screens::StartupScreen& screen = program.Startup();
+  const screens::StartupScreen& screen = program.StartupScreen();
   const auto middle = [](const ui::Control& control) {
     return control.GetPlace().left + control.GetPlace().width / 2;
   };

@@ -161,7 +161,7 @@ TEST(CloseOrder, SettingsAreStoredBeforeTheIconGoes) {
   TuningRig rig;
   rig.StartAt(screens::kAboutTab);
   const std::size_t before = rig.machine.Calls().size();
-  rig.program->Window().Unload();
+  rig.program->Form().Unload();
   EXPECT_THAT(CallsOf(rig.machine, {"RegSetValueExA", "Shell_NotifyIconA"}, before),
               ElementsAre(Setting("Startup", "StartupRAM"), Setting("Settings", "AutoCPU"),
                           Setting("Settings", "TimeCPU"), Setting("Settings", "LastTab"),
@@ -197,8 +197,8 @@ TEST(ReleaseOrder, FirstBlockIsAllocatedAndFreedBeforeTheSecond) {
   TuningRig rig;
   rig.StartAt(screens::kQuondixTab);
   rig.RemoveGraph();
-  ASSERT_TRUE(rig.program->Quondix().List1.Choose("512 MB"));
-  rig.program->Quondix().Command1.Press();
+  ASSERT_TRUE(rig.program->QuondixScreen().List1.Choose("512 MB"));
+  rig.program->QuondixScreen().Command1.Press();
   EXPECT_THAT(CallsOf(rig.machine, {"VirtualAlloc", "VirtualFree"}),
               ElementsAre("VirtualAlloc(260000001)", "VirtualAlloc(272480001)", "VirtualFree(260000001)",
                           "VirtualFree(272480001)"));
@@ -230,12 +230,12 @@ TEST_P(RestartOrder, MachineIsRestartedBeforeTheWindowUnloads) {
 INSTANTIATE_TEST_SUITE_P(
     OfEachSaving, RestartOrder,
     testing::Values(Saving{"cache", screens::kCacheTab,
-                           [](app::Form1& program) { program.Cache().Command11.Press(); }},
+                           [](app::Form1& program) { program.CacheScreen().Command11.Press(); }},
                     Saving{"swap file left to Windows", screens::kSwapFileTab,
-                           [](app::Form1& program) { program.SwapFile().Command18.Press(); }},
+                           [](app::Form1& program) { program.SwapFileScreen().Command18.Press(); }},
                     Saving{"swap file of one size", screens::kSwapFileTab, [](app::Form1& program) {
-                             program.SwapFile().optSwap2.Press();
-                             program.SwapFile().Command18.Press();
+                             program.SwapFileScreen().optSwap2.Press();
+                             program.SwapFileScreen().Command18.Press();
                            }}));
 
 /// The current entry, then the entry of older versions, then both shortcuts.
@@ -245,7 +245,7 @@ TEST(RegistrationOrder, ClearingTheBoxTakesItsStepsInOrder) {
                                "Quondix", "C:\\Program Files\\QDIX\\QDIX.exe");
   rig.StartAt(screens::kStartupTab);
   const std::size_t before = rig.machine.Calls().size();
-  rig.program->Startup().Check2.Press();
+  rig.program->StartupScreen().Check2.Press();
   EXPECT_THAT(CallsOf(rig.machine, {"RegDeleteValueA", "RegSetValueExA", "DeleteFileA"}, before),
               ElementsAre("RegDeleteValueA(HKLM\\Software\\Microsoft\\Windows\\CurrentVersion\\Run: Quondix)",
                           "RegDeleteValueA(HKLM\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run: Quondix)",

@@ -208,7 +208,7 @@ TEST(TabTable, ThereAreEightTabsInAWindowOfTheProgramsName) {
   ProgramRig rig;
   screens::MainWindow& window = rig.Create().MainWindow();
   EXPECT_EQ(window.SSTab1.Count(), 8);
-  EXPECT_EQ(window.Form1.Caption(), "Q-DIX");
+  EXPECT_EQ(window.Form.Caption(), "Q-DIX");
   EXPECT_EQ(rig.program->TheApplication().Title(), "Q-DIX");
 }
 
@@ -227,7 +227,7 @@ TEST(TrayMenuTable, HoldsExactlyTheseEntries) {
   std::string programs = "    mnuProgram ''\n";
   for (int entry = 1; entry < 25; ++entry) programs += "    mnuProgram '' hidden\n";
   ProgramRig rig;
-  EXPECT_EQ(MenuText(rig.Create().TheTrayMenu().mnuTray),
+  EXPECT_EQ(MenuText(rig.Create().TrayMenu().mnuTray),
             "mnuTray 'Tray Menu'\n"
             "  mnuTrayFreeup 'Free-up RAM'\n"
             "  mnuTrayBar '-'\n"

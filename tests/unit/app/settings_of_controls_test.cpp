@@ -24,7 +24,7 @@ class ControlSettings : public testing::Test {
 };
 
 TEST_F(ControlSettings, ManualAmountAndPasses) {
-  auto& screen = rig.program->Quondix();
+  auto& screen = rig.program->QuondixScreen();
   EXPECT_TRUE(screen.List1.Choose("64 MB"));
   EXPECT_EQ(Settings("FreeUpRAM"), "64");
   screen.VScroll1.Step(-2);  // up
@@ -37,18 +37,18 @@ TEST_F(ControlSettings, ManualAmountAndPasses) {
 
 TEST_F(ControlSettings, UpArrowOfTheBarsIncreasesTheirValue) {
   Open(screens::kAutomaticTab);
-  rig.program->Automatic().VScroll2.Step(-1);
-  EXPECT_EQ(rig.program->Automatic().Text2.Text(), "3");
+  rig.program->AutomaticScreen().VScroll2.Step(-1);
+  EXPECT_EQ(rig.program->AutomaticScreen().Text2.Text(), "3");
   Open(screens::kStartupTab);
-  rig.program->Startup().VScroll3.Step(-1);
+  rig.program->StartupScreen().VScroll3.Step(-1);
   EXPECT_EQ(Startup("StartupTime"), "61");
-  rig.program->Startup().VScroll3.Drag(240);
+  rig.program->StartupScreen().VScroll3.Drag(240);
   EXPECT_EQ(Startup("StartupTime"), "240");
 }
 
 TEST_F(ControlSettings, AutomaticTab) {
   Open(screens::kAutomaticTab);
-  auto& screen = rig.program->Automatic();
+  auto& screen = rig.program->AutomaticScreen();
   screen.Check1.Press();
   EXPECT_EQ(Settings("AutoActive"), "1");
   EXPECT_TRUE(rig.program->MainWindow().Timer2.Running());
@@ -57,7 +57,7 @@ TEST_F(ControlSettings, AutomaticTab) {
   EXPECT_FALSE(rig.program->MainWindow().Timer2.Running());
   EXPECT_TRUE(screen.List2.Choose("300"));
   EXPECT_EQ(Settings("AutoSecs"), "300");
-  EXPECT_EQ(rig.program->AutomaticSettings().AutoCheckTicks(), 5);
+  EXPECT_EQ(rig.program->AutomaticRelease().AutoCheckTicks(), 5);
   EXPECT_TRUE(screen.List4.Choose("512 MB"));
   EXPECT_EQ(Settings("AutoQuondix"), "512");
   screen.Text2.SelectAll();
@@ -76,17 +76,17 @@ TEST_F(ControlSettings, AutomaticTab) {
 TEST_F(ControlSettings, ResetCounterStoresTheBareDate) {
   rig.Store("Settings", "CounterValue", "12");
   Open(screens::kAutomaticTab);
-  rig.program->Automatic().Command7.Press();
+  rig.program->AutomaticScreen().Command7.Press();
   EXPECT_EQ(Settings("CounterDate"), "46347");
   EXPECT_EQ(Settings("CounterValue"), "0");
-  EXPECT_EQ(rig.program->Automatic().lblCounter.Caption(),
+  EXPECT_EQ(rig.program->AutomaticScreen().lblCounter.Caption(),
             "Automatic feature has detected and released RAM 0 times since Q-DIX was started on "
             "Saturday, November 21, 2026");
 }
 
 TEST_F(ControlSettings, TimeIntervalsTab) {
   Open(screens::kTimeIntervalsTab);
-  auto& screen = rig.program->TimeIntervals();
+  auto& screen = rig.program->TimeIntervalsScreen();
   screen.Check3.Press();
   EXPECT_EQ(Settings("TimeActive"), "1");
   EXPECT_TRUE(screen.lblNextRelease.Visible());
@@ -114,7 +114,7 @@ TEST_F(ControlSettings, TimeIntervalsTab) {
 
 TEST_F(ControlSettings, StartupTab) {
   Open(screens::kStartupTab);
-  auto& screen = rig.program->Startup();
+  auto& screen = rig.program->StartupScreen();
   screen.Check4.Press();
   EXPECT_EQ(Settings("Warnings"), "1");
   screen.Combo1.SetFocus();
@@ -127,14 +127,14 @@ TEST_F(ControlSettings, StartupTab) {
 TEST_F(ControlSettings, GraphIntervalIsStoredWhenTheUserMovesIt) {
   Open(screens::kStartupTab);
   EXPECT_EQ(Settings("CPU"), "(none)");
-  rig.program->Startup().Slider7.Drag(3);
+  rig.program->StartupScreen().Slider7.Drag(3);
   EXPECT_EQ(Settings("CPU"), "3");
 }
 
 TEST_F(ControlSettings, RefusedWritesLeaveTheOldValueAndSayNothing) {
   rig.Store("Settings", "FreeUpRAM", "16");
   rig.machine.DenyWrites(os::kHkeyCurrentUser, ProgramRig::SectionPath("Settings"));
-  EXPECT_TRUE(rig.program->Quondix().List1.Choose("64 MB"));
+  EXPECT_TRUE(rig.program->QuondixScreen().List1.Choose("64 MB"));
   EXPECT_EQ(Settings("FreeUpRAM"), "16");
   EXPECT_TRUE(rig.machine.Boxes().empty());
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0);

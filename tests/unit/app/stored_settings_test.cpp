@@ -16,13 +16,13 @@ class StoredSettings : public testing::Test {
 
 TEST_F(StoredSettings, AmountThatIsNoListItemLeavesTheListWithoutASelection) {
   rig.Store("Settings", "FreeUpRAM", "33");
-  EXPECT_EQ(Start().Quondix().List1.SelectedIndex(), -1);
+  EXPECT_EQ(Start().QuondixScreen().List1.SelectedIndex(), -1);
   EXPECT_EQ(rig.Stored("Settings", "FreeUpRAM"), "33");
 }
 
 TEST_F(StoredSettings, AmountsAreComparedAsNumbers) {
   rig.Store("Settings", "FreeUpRAM", " 16.0 MB");
-  EXPECT_EQ(Start().Quondix().List1.SelectedText(), "16 MB");
+  EXPECT_EQ(Start().QuondixScreen().List1.SelectedText(), "16 MB");
 }
 
 TEST_F(StoredSettings, TextBoxShowsTheStoredTextAndTheBarTheNearestValue) {
@@ -30,20 +30,20 @@ TEST_F(StoredSettings, TextBoxShowsTheStoredTextAndTheBarTheNearestValue) {
   rig.Store("Settings", "MinRAM", "1000");
   rig.Store("Startup", "StartupTime", "abc");
   auto& program = Start();
-  EXPECT_EQ(program.Quondix().Text1.Text(), "2.5");
-  EXPECT_EQ(program.Quondix().VScroll1.Value(), 2);
+  EXPECT_EQ(program.QuondixScreen().Text1.Text(), "2.5");
+  EXPECT_EQ(program.QuondixScreen().VScroll1.Value(), 2);
   EXPECT_EQ(rig.Stored("Settings", "TryTimes"), "2.5");
-  EXPECT_EQ(program.Automatic().Text2.Text(), "1000");
-  EXPECT_EQ(program.Automatic().VScroll2.Value(), 32);
+  EXPECT_EQ(program.AutomaticScreen().Text2.Text(), "1000");
+  EXPECT_EQ(program.AutomaticScreen().VScroll2.Value(), 32);
   EXPECT_EQ(rig.Stored("Settings", "MinRAM"), "1000");
-  EXPECT_EQ(program.Startup().Text3.Text(), "abc");
-  EXPECT_EQ(program.Startup().VScroll3.Value(), 1);
+  EXPECT_EQ(program.StartupScreen().Text3.Text(), "abc");
+  EXPECT_EQ(program.StartupScreen().VScroll3.Value(), 1);
   EXPECT_EQ(rig.Stored("Startup", "StartupTime"), "abc");
 }
 
 TEST_F(StoredSettings, GraphIntervalTakesTheNearestPosition) {
   rig.Store("Settings", "CPU", "99");
-  EXPECT_EQ(Start().Startup().Slider7.Value(), 5);
+  EXPECT_EQ(Start().StartupScreen().Slider7.Value(), 5);
   EXPECT_EQ(rig.Stored("Settings", "CPU"), "99");
 }
 
@@ -63,7 +63,7 @@ INSTANTIATE_TEST_SUITE_P(Values, OddTab, testing::Values("8", "-1", "", "abc", "
 TEST_F(StoredSettings, CounterShowsItsCountAndLongDate) {
   rig.Store("Settings", "CounterDate", "36526.75");
   rig.Store("Settings", "CounterValue", "12");
-  EXPECT_EQ(Start().Automatic().lblCounter.Caption(),
+  EXPECT_EQ(Start().AutomaticScreen().lblCounter.Caption(),
             "Auto Detection feature has detected and released RAM 12 times since Q-DIX was started on "
             "Saturday, January 1, 2000");
   EXPECT_EQ(rig.Stored("Settings", "CounterDate"), "36526.75");
@@ -72,7 +72,7 @@ TEST_F(StoredSettings, CounterShowsItsCountAndLongDate) {
 class NoDate : public StoredSettings, public testing::WithParamInterface<const char*> {};
 TEST_P(NoDate, CountsAsMissing) {
   rig.Store("Settings", "CounterDate", GetParam());
-  EXPECT_TRUE(Start().Automatic().lblCounter.Caption().ends_with("on Saturday, November 21, 2026"));
+  EXPECT_TRUE(Start().AutomaticScreen().lblCounter.Caption().ends_with("on Saturday, November 21, 2026"));
   EXPECT_EQ(rig.Stored("Settings", "CounterDate"), "46347.5");
 }
 INSTANTIATE_TEST_SUITE_P(Values, NoDate, testing::Values("", "yesterday", "12 o'clock", "1E300", "-1E9"));
@@ -85,7 +85,7 @@ TEST_F(StoredSettings, MissingCounterDateIsStoredAtLoad) {
 class OddCount : public StoredSettings, public testing::WithParamInterface<const char*> {};
 TEST_P(OddCount, ReadsZero) {
   rig.Store("Settings", "CounterValue", GetParam());
-  EXPECT_TRUE(Start().Automatic().lblCounter.Caption().starts_with(
+  EXPECT_TRUE(Start().AutomaticScreen().lblCounter.Caption().starts_with(
       "Auto Detection feature has detected and released RAM 0 times"));
 }
 INSTANTIATE_TEST_SUITE_P(Values, OddCount, testing::Values("", "x", "2147483648", "-1E300"));
@@ -94,7 +94,7 @@ TEST_F(StoredSettings, AutomaticReleaseStartsWithTheDefaultIntervalThenTheStored
   rig.Store("Settings", "AutoActive", "True");
   rig.Store("Settings", "AutoSecs", "30");
   auto& program = Start();
-  EXPECT_TRUE(program.Automatic().Check1.Ticked());
+  EXPECT_TRUE(program.AutomaticScreen().Check1.Ticked());
   EXPECT_TRUE(program.MainWindow().Timer2.Enabled());
   EXPECT_EQ(program.MainWindow().Timer2.Interval(), 30000);
   EXPECT_EQ(rig.Stored("Settings", "AutoActive"), "1");
@@ -112,11 +112,11 @@ TEST_F(StoredSettings, LongCheckIntervalsAreCountedInMinutes) {
   rig.Store("Settings", "AutoSecs", "120");
   auto& program = Start();
   EXPECT_EQ(program.MainWindow().Timer2.Interval(), 60000);
-  EXPECT_EQ(program.AutomaticSettings().AutoCheckTicks(), 2);
+  EXPECT_EQ(program.AutomaticRelease().AutoCheckTicks(), 2);
   program.MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
-  EXPECT_TRUE(program.Automatic().List2.Choose("60"));
+  EXPECT_TRUE(program.AutomaticScreen().List2.Choose("60"));
   EXPECT_EQ(program.MainWindow().Timer2.Interval(), 60000);
-  EXPECT_EQ(program.AutomaticSettings().AutoCheckTicks(), 1);
+  EXPECT_EQ(program.AutomaticRelease().AutoCheckTicks(), 1);
 }
 
 TEST_F(StoredSettings, ClearedCpuGateDisablesItsBoxFromTheStart) {
@@ -124,18 +124,18 @@ TEST_F(StoredSettings, ClearedCpuGateDisablesItsBoxFromTheStart) {
   rig.Store("Settings", "AutoCPU", "55");
   rig.Store("Settings", "CPUTimeActive", "False");
   auto& program = Start();
-  EXPECT_FALSE(program.Automatic().Check9.Ticked());
-  EXPECT_FALSE(program.Automatic().Text9.Enabled());
-  EXPECT_EQ(program.Automatic().Text9.BackColour(), ui::kMenuBackground);
-  EXPECT_EQ(program.Automatic().Text9.Text(), "55");
-  EXPECT_FALSE(program.TimeIntervals().Text10.Enabled());
+  EXPECT_FALSE(program.AutomaticScreen().Check9.Ticked());
+  EXPECT_FALSE(program.AutomaticScreen().Text9.Enabled());
+  EXPECT_EQ(program.AutomaticScreen().Text9.BackColour(), ui::kMenuBackground);
+  EXPECT_EQ(program.AutomaticScreen().Text9.Text(), "55");
+  EXPECT_FALSE(program.TimeIntervalsScreen().Text10.Enabled());
 }
 
 TEST_F(StoredSettings, HoursFillTheListWithHours) {
   rig.Store("Settings", "TimeUnit", "2");
   rig.Store("Startup", "TimeHours", "24");
   rig.Store("Settings", "TimeActive", "1");
-  auto& screen = Start().TimeIntervals();
+  auto& screen = Start().TimeIntervalsScreen();
   EXPECT_TRUE(screen.Option5.Selected());
   EXPECT_FALSE(screen.Option4.Selected());
   EXPECT_EQ(screen.lstTime.Count(), 17);
@@ -147,34 +147,34 @@ TEST_F(StoredSettings, HoursFillTheListWithHours) {
 
 TEST_F(StoredSettings, UnknownUnitIsHours) {
   rig.Store("Settings", "TimeUnit", "fortnights");
-  EXPECT_TRUE(Start().TimeIntervals().Option5.Selected());
-  EXPECT_EQ(rig.program->TimeIntervals().lstTime.SelectedText(), "1");
+  EXPECT_TRUE(Start().TimeIntervalsScreen().Option5.Selected());
+  EXPECT_EQ(rig.program->TimeIntervalsScreen().lstTime.SelectedText(), "1");
 }
 
 TEST_F(StoredSettings, MinimisedStart) {
   rig.Store("Startup", "StartDisplay", "2");
   auto& program = Start();
-  EXPECT_TRUE(program.Startup().Option2.Selected());
-  EXPECT_TRUE(program.Window().Shown());
-  EXPECT_EQ(program.Window().State(), ui::WindowState::kMinimised);
+  EXPECT_TRUE(program.StartupScreen().Option2.Selected());
+  EXPECT_TRUE(program.Form().Shown());
+  EXPECT_EQ(program.Form().State(), ui::WindowState::kMinimised);
   EXPECT_TRUE(program.MainWindow().Timer1.Running());
 }
 
 TEST_F(StoredSettings, HiddenStartStillRunsTheDisplayTimer) {
   rig.Store("Startup", "StartDisplay", "3");
   auto& program = Start();
-  EXPECT_TRUE(program.Startup().Option3.Selected());
-  EXPECT_FALSE(program.Window().Shown());
+  EXPECT_TRUE(program.StartupScreen().Option3.Selected());
+  EXPECT_FALSE(program.Form().Shown());
   EXPECT_TRUE(program.MainWindow().Timer1.Running());
 }
 
 TEST_F(StoredSettings, UnknownDisplayModeTicksNoneAndShowsTheWindow) {
   rig.Store("Startup", "StartDisplay", "4");
   auto& program = Start();
-  EXPECT_FALSE(program.Startup().Option1.Selected());
-  EXPECT_FALSE(program.Startup().Option2.Selected());
-  EXPECT_FALSE(program.Startup().Option3.Selected());
-  EXPECT_TRUE(program.Window().Shown());
+  EXPECT_FALSE(program.StartupScreen().Option1.Selected());
+  EXPECT_FALSE(program.StartupScreen().Option2.Selected());
+  EXPECT_FALSE(program.StartupScreen().Option3.Selected());
+  EXPECT_TRUE(program.Form().Shown());
 }
 
 struct Delay {
@@ -188,7 +188,7 @@ TEST_P(StartupDelay, ArmsTimer3) {
   auto& program = Start();
   EXPECT_TRUE(program.MainWindow().Timer3.Enabled());
   EXPECT_EQ(program.MainWindow().Timer3.Interval(), GetParam().interval_ms);
-  EXPECT_EQ(program.StartupSettings().StartupDelayLeft(), GetParam().left_seconds);
+  EXPECT_EQ(program.StartupRelease().StartupDelayLeft(), GetParam().left_seconds);
 }
 INSTANTIATE_TEST_SUITE_P(Values, StartupDelay,
                          testing::Values(Delay{"60", 60000, 0}, Delay{"61", 60000, 61}, Delay{"1", 1000, 0},
@@ -218,7 +218,7 @@ TEST_F(StoredSettings, GarbageInEveryValueNeverEndsTheLoad) {
       odd.Store("Startup", key, text);
     }
     odd.Start();
-    EXPECT_FALSE(odd.program->Window().Unloaded()) << text.substr(0, 20);
+    EXPECT_FALSE(odd.program->Form().Unloaded()) << text.substr(0, 20);
     EXPECT_TRUE(odd.machine.Boxes().empty()) << text.substr(0, 20);
     odd.AdvanceMs(2000);
   }

@@ -26,11 +26,11 @@ class Tray : public testing::Test {
   }
   void Launch() {
     rig.Create();
-    rig.program->Window().AttachFormPeer(&menus);
-    rig.program->Tray().SetOwner(0x1234, 0x5678);
+    rig.program->Form().AttachFormPeer(&menus);
+    rig.program->TrayIcon().SetOwner(0x1234, 0x5678);
     rig.program->Start();
   }
-  void MouseOnIcon(double x_twips) { rig.program->Window().PointerMoved(0, 0, x_twips, 0); }
+  void MouseOnIcon(double x_twips) { rig.program->Form().PointerMoved(0, 0, x_twips, 0); }
   [[nodiscard]] const os::simulated::TrayRequest& Last() const { return rig.machine.TrayRequests().back(); }
 
   ProgramRig rig;
@@ -72,30 +72,30 @@ TEST_F(Tray, TipShowsTheAvailableMemoryAsOfTheLastMouseMove) {
 }
 
 TEST_F(Tray, DoubleClickRestoresAHiddenWindow) {
-  rig.program->Quondix().Command2.Press();
-  EXPECT_FALSE(rig.program->Window().Shown());
+  rig.program->QuondixScreen().Command2.Press();
+  EXPECT_FALSE(rig.program->Form().Shown());
   MouseOnIcon(kDoubleClick);
-  EXPECT_TRUE(rig.program->Window().Shown());
+  EXPECT_TRUE(rig.program->Form().Shown());
 }
 
 TEST_F(Tray, DoubleClickRestoresAMinimisedWindow) {
-  rig.program->Quondix().Command4.Press();
-  EXPECT_EQ(rig.program->Window().State(), ui::WindowState::kMinimised);
+  rig.program->QuondixScreen().Command4.Press();
+  EXPECT_EQ(rig.program->Form().State(), ui::WindowState::kMinimised);
   MouseOnIcon(kDoubleClick);
-  EXPECT_EQ(rig.program->Window().State(), ui::WindowState::kNormal);
+  EXPECT_EQ(rig.program->Form().State(), ui::WindowState::kNormal);
 }
 
 TEST_F(Tray, WindowRestoredByAnotherProgramWorksAsAfterDisplay) {
   auto& program = *rig.program;
-  program.Quondix().Command3.Press();
-  program.Quondix().Command4.Press();
-  program.TheTrayMenu().mnuTrayHide.Choose();
-  program.Window().UserChangedState(ui::WindowState::kNormal);
-  program.Window().UserChangedVisible(true);
+  program.QuondixScreen().Command3.Press();
+  program.QuondixScreen().Command4.Press();
+  program.TrayMenu().mnuTrayHide.Choose();
+  program.Form().UserChangedState(ui::WindowState::kNormal);
+  program.Form().UserChangedVisible(true);
   EXPECT_TRUE(program.MainWindow().Timer1.Enabled()) << "every activation starts the display";
   program.MainWindow().SSTab1.ChooseTab(screens::kStartupTab);
   EXPECT_EQ(program.MainWindow().SSTab1.Tab(), screens::kStartupTab);
-  program.Window().UserChangedVisible(false);
+  program.Form().UserChangedVisible(false);
   program.MainWindow().SSTab1.ChooseTab(screens::kAboutTab);
   EXPECT_EQ(program.MainWindow().SSTab1.Tab(), screens::kStartupTab) << "a user cannot reach a hidden window";
 }
@@ -108,24 +108,24 @@ TEST_F(Tray, RightButtonOpensTheMenuAndALeftClickDoesNothing) {
 }
 
 TEST_F(Tray, EntryWithTheEffectOfADoubleClickIsTheDefault) {
-  for (const ui::MenuItem* item : rig.program->TheTrayMenu().mnuTray.Children()) {
+  for (const ui::MenuItem* item : rig.program->TrayMenu().mnuTray.Children()) {
     EXPECT_EQ(item->IsDefault(), item->Caption() == "Display Q-DIX") << item->Caption();
   }
 }
 
 TEST_F(Tray, MenuHoldsItsEntriesInOrder) {
   std::vector<std::string> captions;
-  for (const ui::MenuItem* item : rig.program->TheTrayMenu().mnuTray.Children())
+  for (const ui::MenuItem* item : rig.program->TrayMenu().mnuTray.Children())
     captions.push_back(item->Caption());
   EXPECT_EQ(captions, (std::vector<std::string>{"Free-up RAM", "-", "Display Q-DIX", "Hide", "-", "Programs",
                                                 "-", "Close"}));
-  EXPECT_EQ(rig.program->TheTrayMenu().mnuTrayBar.Name(), "mnuTrayBar");
-  EXPECT_EQ(rig.program->TheTrayMenu().mnuTrayBar2.Name(), "mnuTrayBar2");
-  EXPECT_EQ(rig.program->TheTrayMenu().mnuTrayBar3.Name(), "mnuTrayBar3");
+  EXPECT_EQ(rig.program->TrayMenu().mnuTrayBar.Name(), "mnuTrayBar");
+  EXPECT_EQ(rig.program->TrayMenu().mnuTrayBar2.Name(), "mnuTrayBar2");
+  EXPECT_EQ(rig.program->TrayMenu().mnuTrayBar3.Name(), "mnuTrayBar3");
 }
 
 TEST_F(Tray, EmptyListMeansTwentyFiveHiddenEntriesInADisabledSubmenu) {
-  const ui::MenuItem& programs = rig.program->TheTrayMenu().mnuPrograms;
+  const ui::MenuItem& programs = rig.program->TrayMenu().mnuPrograms;
   EXPECT_FALSE(programs.Enabled());
   ASSERT_EQ(programs.Children().size(), 25U);
   EXPECT_TRUE(programs.Children()[0]->Visible()) << "a submenu always shows one entry";
@@ -133,14 +133,14 @@ TEST_F(Tray, EmptyListMeansTwentyFiveHiddenEntriesInADisabledSubmenu) {
 }
 
 TEST_F(Tray, SingleClicksAndMovesLeaveAHiddenWindowHidden) {
-  rig.program->Quondix().Command2.Press();
+  rig.program->QuondixScreen().Command2.Press();
   MouseOnIcon(kLeftButton);
   MouseOnIcon(512 * ui::kTwipsPerPixel);
-  EXPECT_FALSE(rig.program->Window().Shown());
+  EXPECT_FALSE(rig.program->Form().Shown());
 }
 
 TEST_F(Tray, PointerOverThatPixelOfTheWindowCountsAsAClick) {
-  rig.program->Window().PointerMoved(0, 0, 516 * ui::kTwipsPerPixel, 300);
+  rig.program->Form().PointerMoved(0, 0, 516 * ui::kTwipsPerPixel, 300);
   EXPECT_EQ(menus.shown, (std::vector<std::string>{"mnuTray"}));
 }
 
@@ -162,7 +162,7 @@ TEST_F(TrayAtLogOn, RefusedAddIsRetriedEvenIfTheRefreshFails) {
 }
 
 TEST_F(TrayAtLogOn, RefusedAddIsAlsoRetriedWhilePaused) {
-  rig.program->Quondix().Command3.Press();
+  rig.program->QuondixScreen().Command3.Press();
   rig.AdvanceMs(64999);
   EXPECT_EQ(rig.machine.TrayIconCount(), 0);
   rig.AdvanceMs(1);
@@ -184,7 +184,7 @@ TEST_F(Tray, SilentNewTaskbarGetsTheIconWithinAMinute) {
 TEST_F(Tray, AnnouncedNewTaskbarGetsTheIconAtOnceAndNotTwice) {
   rig.machine.OpenWindow("Shell_TrayWnd", "");
   rig.machine.ClearTrayIcons();
-  rig.program->Tray().AddToTray();
+  rig.program->TrayIcon().AddToTray();
   EXPECT_EQ(rig.machine.TrayIconCount(), 1);
   const std::size_t asked = rig.machine.TrayRequests().size();
   rig.AdvanceMs(2 * 65000);
@@ -192,42 +192,42 @@ TEST_F(Tray, AnnouncedNewTaskbarGetsTheIconAtOnceAndNotTwice) {
 }
 
 TEST_F(Tray, ClosedProgramNeverAddsTheIconAgain) {
-  rig.program->Window().Unload();
+  rig.program->Form().Unload();
   rig.machine.OpenWindow("Shell_TrayWnd", "");
-  rig.program->Tray().AddToTray();
-  rig.program->Tray().RetryAdd();
-  rig.program->Tray().LookForTaskbar();
+  rig.program->TrayIcon().AddToTray();
+  rig.program->TrayIcon().RetryAdd();
+  rig.program->TrayIcon().LookForTaskbar();
   EXPECT_EQ(rig.machine.TrayIconCount(), 0);
 }
 
 TEST_F(Tray, MenuFreesMemoryLikeTheButtonAlsoWhileTheButtonIsDisabled) {
-  EXPECT_TRUE(rig.program->Quondix().List1.Choose("12 MB"));
-  rig.program->Quondix().Command1.SetEnabled(false);
-  rig.program->TheTrayMenu().mnuTrayFreeup.Choose();
+  EXPECT_TRUE(rig.program->QuondixScreen().List1.Choose("12 MB"));
+  rig.program->QuondixScreen().Command1.SetEnabled(false);
+  rig.program->TrayMenu().mnuTrayFreeup.Choose();
   EXPECT_EQ(rig.machine.AllAllocations(), (std::vector<std::uint32_t>{12480001}));
-  EXPECT_TRUE(rig.program->Quondix().Command1.Enabled());
+  EXPECT_TRUE(rig.program->QuondixScreen().Command1.Enabled());
 }
 
 TEST_F(Tray, MenuHidesShowsAndCloses) {
-  auto& menu = rig.program->TheTrayMenu();
+  auto& menu = rig.program->TrayMenu();
   menu.mnuTrayHide.Choose();
-  EXPECT_FALSE(rig.program->Window().Shown());
+  EXPECT_FALSE(rig.program->Form().Shown());
   EXPECT_EQ(rig.machine.TrayIconCount(), 1) << "the icon stays";
   menu.mnuTrayDisplay.Choose();
-  EXPECT_TRUE(rig.program->Window().Shown());
+  EXPECT_TRUE(rig.program->Form().Shown());
   menu.mnuTrayClose.Choose();
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
 }
 
 TEST_F(Tray, CloseRemovesTheIcon) {
-  rig.program->Window().Unload();
+  rig.program->Form().Unload();
   EXPECT_EQ(Last().request, os::kNimDelete);
   EXPECT_EQ(rig.machine.TrayIconCount(), 0);
 }
 
 TEST_F(Tray, CloseInTheMiddleOfAReleaseRemovesTheIcon) {
-  rig.machine.OnPump([&](int) { rig.program->Window().Unload(); });
-  rig.program->Quondix().Command1.Press();
+  rig.machine.OnPump([&](int) { rig.program->Form().Unload(); });
+  rig.program->QuondixScreen().Command1.Press();
   EXPECT_EQ(rig.machine.TrayIconCount(), 0);
 }
 

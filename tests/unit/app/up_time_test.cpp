@@ -18,7 +18,7 @@ TEST_P(UpTime, CutsTheHoursAndRoundsTheMinutes) {
   ProgramRig rig;
   rig.SetHasRunBefore();
   rig.machine.AdvanceMs(GetParam().ms);
-  EXPECT_EQ(rig.Start().Startup().lblTimeRunning.Caption(), GetParam().text);
+  EXPECT_EQ(rig.Start().StartupScreen().lblTimeRunning.Caption(), GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -39,7 +39,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(UpTimeLabel, FollowsEvery65Seconds) {
   ProgramRig rig;
   rig.SetHasRunBefore();
-  auto& label = rig.Start().Startup().lblTimeRunning;
+  auto& label = rig.Start().StartupScreen().lblTimeRunning;
   rig.machine.AdvanceMs(2 * kMinuteMs);
   rig.AdvanceMs(64999);
   EXPECT_EQ(label.Caption(), "Your system has been running for 0 hour(s) and 0 minutes.");
@@ -50,8 +50,8 @@ TEST(UpTimeLabel, FollowsEvery65Seconds) {
 TEST(UpTimeLabel, KeepsRunningWhilePaused) {
   ProgramRig rig;
   rig.SetHasRunBefore();
-  auto& label = rig.Start().Startup().lblTimeRunning;
-  rig.program->Quondix().Command3.Press();
+  auto& label = rig.Start().StartupScreen().lblTimeRunning;
+  rig.program->QuondixScreen().Command3.Press();
   rig.machine.AdvanceMs(2 * kMinuteMs);
   rig.AdvanceMs(65000);
   EXPECT_EQ(label.Caption(), "Your system has been running for 0 hour(s) and 2 minutes.");
@@ -61,7 +61,7 @@ TEST(UpTimeLabel, StartsAgainWhenTheTickCountWraps) {
   ProgramRig rig;
   rig.SetHasRunBefore();
   rig.machine.AdvanceMs(4294967296 + kHourMs);
-  EXPECT_EQ(rig.Start().Startup().lblTimeRunning.Caption(),
+  EXPECT_EQ(rig.Start().StartupScreen().lblTimeRunning.Caption(),
             "Your system has been running for 1 hour(s) and 0 minutes.");
 }
 

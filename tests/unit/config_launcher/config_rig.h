@@ -65,7 +65,7 @@ class ConfigRig {
   }
   /// Ends the program and starts it again on the same machine.
   config_launcher::ConfigForm& Restart() {
-    form->Window().Unload();
+    form->Form().Unload();
     machine.EndProcess();
     return Start();
   }

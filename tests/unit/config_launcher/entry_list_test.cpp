@@ -14,7 +14,7 @@ using Names = std::vector<std::string>;
 TEST(ConfigEntryList, EmptyListOffersOnlyAdd) {
   ConfigRig rig;
   rig.Start();
-  EXPECT_TRUE(rig.form->Window().Shown());
+  EXPECT_TRUE(rig.form->Form().Shown());
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
   EXPECT_EQ(rig.Screen().lblCount.Caption(), "(0 of 25)");
   EXPECT_TRUE(rig.Screen().cmdAdd.Reachable());

@@ -46,7 +46,7 @@ void Prepare(ConfigRig& rig, Before before) {
 
 void RunSession(ConfigRig& rig) {
   rig.Start();
-  if (rig.form->Window().Unloaded()) return;
+  if (rig.form->Form().Unloaded()) return;
   rig.Type(kNew);
   rig.Screen().cmdAdd.Press();
   rig.Screen().cmdOK.Press();
@@ -72,7 +72,7 @@ Entries ListOfNextStart(ConfigRig& rig) {
   rig.machine.FailCallNumber(0);
   rig.machine.FailFromCallNumber(0);
   rig.Restart();
-  EXPECT_FALSE(rig.form->Window().Unloaded());
+  EXPECT_FALSE(rig.form->Form().Unloaded());
   return rig.form->Entries();
 }
 
@@ -83,7 +83,7 @@ void ExpectSound(ConfigRig& rig, Before before, int call) {
   for (const auto& box : rig.machine.Boxes()) EXPECT_TRUE(IsKnown(box.text)) << trace << ": " << box.text;
   const bool was_saved = rig.ListOnDisk() == BytesOf(NewList(before));
   // A window that stays open shows everything. A closed one has saved, or could read nothing.
-  if (!rig.form->Window().Unloaded()) {
+  if (!rig.form->Form().Unloaded()) {
     EXPECT_EQ(rig.form->Entries().back(), kNew) << trace;
   }
   const Entries next = ListOfNextStart(rig);
@@ -98,7 +98,7 @@ TEST(ConfigFaults, SessionsWithoutAFaultSave) {
     EXPECT_EQ(rig.ListOnDisk(), BytesOf(NewList(before)));
     EXPECT_EQ(rig.machine.ReadFile(kListBackupPath), std::nullopt);
     EXPECT_EQ(rig.machine.ReadFile(kListTemporaryPath), std::nullopt);
-    EXPECT_TRUE(rig.form->Window().Unloaded());
+    EXPECT_TRUE(rig.form->Form().Unloaded());
   }
 }
 
@@ -135,13 +135,13 @@ TEST(ConfigFaults, FullDiskKeepsTheOldListAndTheWindow) {
     rig.machine.LimitFreeBytes(bytes);
     RunSession(rig);
     EXPECT_EQ(rig.BoxText(1), kCouldNotBeSaved);
-    EXPECT_FALSE(rig.form->Window().Unloaded());
+    EXPECT_FALSE(rig.form->Form().Unloaded());
     EXPECT_EQ(rig.form->Entries().size(), 4U);
     EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(3)));
     EXPECT_EQ(rig.machine.ReadFile(kListTemporaryPath), std::nullopt);
     rig.machine.LimitFreeBytes(100000);
     rig.Screen().cmdOK.Press();
-    EXPECT_TRUE(rig.form->Window().Unloaded());
+    EXPECT_TRUE(rig.form->Form().Unloaded());
     EXPECT_EQ(rig.ListOnDisk(), BytesOf(NewList(Before::kList)));
   }
 }
@@ -156,7 +156,7 @@ TEST(ConfigFaults, ProtectedListAndProtectedDiskAreLeftAlone) {
     }
     RunSession(rig);
     EXPECT_EQ(rig.BoxText(1), kCouldNotBeSaved);
-    EXPECT_FALSE(rig.form->Window().Unloaded());
+    EXPECT_FALSE(rig.form->Form().Unloaded());
     EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(3)));
   }
 }

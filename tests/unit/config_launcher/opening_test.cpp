@@ -16,9 +16,9 @@ class ConfigOpening : public testing::Test {
   void ExpectRemark(ConfigRig& rig, const std::string& remark) {
     rig.Start();
     EXPECT_EQ(rig.BoxText(1), OpeningMessage(remark));
-    EXPECT_TRUE(rig.form->Window().Shown());
+    EXPECT_TRUE(rig.form->Form().Shown());
     rig.Screen().cmdCancel.Press();
-    EXPECT_TRUE(rig.form->Window().Unloaded()) << "nothing was changed, so nothing is asked";
+    EXPECT_TRUE(rig.form->Form().Unloaded()) << "nothing was changed, so nothing is asked";
     EXPECT_EQ(rig.Changes(), Names{});
     EXPECT_EQ(rig.machine.OpenFileCount(), 0);
   }
@@ -53,11 +53,11 @@ TEST_F(ConfigOpening, TooManyEntriesAreShownAndNotSaved) {
   rig.Screen().cmdOK.Press();
   EXPECT_EQ(rig.BoxText(2),
             "The launcher takes 25 programs at most.\r\n\r\nPlease remove some before you save the list.");
-  EXPECT_FALSE(rig.form->Window().Unloaded());
+  EXPECT_FALSE(rig.form->Form().Unloaded());
   EXPECT_EQ(rig.Changes(), Names{});
   rig.Screen().cmdRemove.Press();
   rig.Screen().cmdOK.Press();
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_TRUE(rig.form->Form().Unloaded());
   EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(27)).substr(2 * launcher::kRecordBytes));
 }
 
@@ -138,7 +138,7 @@ TEST_F(ConfigOpening, WindowShowsItselfWithItsList) {
   ConfigRig rig(SomeEntries(3));
   ShowingPeer peer(rig);
   rig.form.emplace(rig.machine.GetSystem(), rig.dialogs);
-  rig.form->Window().AttachPeer(&peer);
+  rig.form->Form().AttachPeer(&peer);
   rig.form->Start();
   EXPECT_EQ(peer.rows_shown, std::vector<int>{3});
 }
@@ -146,11 +146,11 @@ TEST_F(ConfigOpening, WindowShowsItselfWithItsList) {
 TEST_F(ConfigOpening, UntrappedErrorIsShownAndEndsTheProgram) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();
-  rig.machine.WhileBoxIsOpen([&rig] { EXPECT_FALSE(rig.form->Window().Unloaded()); });
-  rig.form->Window().Dispatcher().Report(base::kOverflow);
+  rig.machine.WhileBoxIsOpen([&rig] { EXPECT_FALSE(rig.form->Form().Unloaded()); });
+  rig.form->Form().Dispatcher().Report(base::kOverflow);
   EXPECT_TRUE(rig.BoxText(1).starts_with("Run-time error '6':"));
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk | os::kMbIconExclamation);
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_TRUE(rig.form->Form().Unloaded());
 }
 
 TEST_F(ConfigOpening, CopyBesideAListIsLeftAlone) {
@@ -166,13 +166,13 @@ TEST_F(ConfigOpening, UnreadableListIsNotOverwritten) {
     ConfigRig rig;
     rig.machine.WriteFile(path, BytesOf(SomeEntries(3)));
     rig.machine.FailNextCall("ReadFile");
-    rig.machine.WhileBoxIsOpen([&rig] { EXPECT_FALSE(rig.form->Window().Unloaded()); });
+    rig.machine.WhileBoxIsOpen([&rig] { EXPECT_FALSE(rig.form->Form().Unloaded()); });
     rig.Start();
     EXPECT_EQ(rig.BoxText(1),
               "The list of programs could not be read.\r\n\r\nPlease make sure that no other program has "
               "launcher.dat open, and start Config Launcher again.");
-    EXPECT_TRUE(rig.form->Window().Unloaded());
-    EXPECT_FALSE(rig.form->Window().Shown());
+    EXPECT_TRUE(rig.form->Form().Unloaded());
+    EXPECT_FALSE(rig.form->Form().Shown());
     EXPECT_EQ(rig.Changes(), Names{});
   }
 }
@@ -195,9 +195,9 @@ TEST_F(ConfigOpening, SecondCopyBringsTheFirstForwardAndEnds) {
   };
   EXPECT_LT(called("OpenIcon"), called("SetForegroundWindow")) << "nobody is brought to an icon";
   EXPECT_NE(called("SetForegroundWindow"), calls.end());
-  EXPECT_TRUE(rig.form->Window().Unloaded());
-  EXPECT_FALSE(rig.form->Window().Shown());
-  EXPECT_NE(rig.form->Window().Caption(), "Config Launcher") << "the copy could find itself";
+  EXPECT_TRUE(rig.form->Form().Unloaded());
+  EXPECT_FALSE(rig.form->Form().Shown());
+  EXPECT_NE(rig.form->Form().Caption(), "Config Launcher") << "the copy could find itself";
   EXPECT_NE(rig.form->TheApplication().Title(), "Config Launcher");
 }
 
@@ -205,7 +205,7 @@ TEST_F(ConfigOpening, SecondCopyAlsoEndsIfTheFirstHasNoWindow) {
   ConfigRig rig;
   rig.machine.SetOtherCopyRunning(true);
   rig.Start();
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_TRUE(rig.form->Form().Unloaded());
   EXPECT_EQ(rig.machine.ForegroundWindow(), 0U);
   for (const std::string& call : rig.machine.Calls()) EXPECT_FALSE(call.starts_with("OpenIcon")) << call;
 }

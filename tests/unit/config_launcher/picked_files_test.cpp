@@ -265,7 +265,7 @@ TEST(ConfigBrowse, OkAsksAboutAPickedFileThatWasNotAdded) {
   rig.Screen().cmdBrowsePath.Press();
   rig.Screen().cmdOK.Press();
   EXPECT_EQ(rig.BoxText(1), kSaveWithoutFields);
-  EXPECT_FALSE(rig.form->Window().Unloaded());
+  EXPECT_FALSE(rig.form->Form().Unloaded());
 }
 
 TEST(ConfigBrowse, ShortcutGivesItsTarget) {
@@ -325,15 +325,15 @@ TEST(ConfigBrowse, WindowStaysOpenDuringADialogUntilTheSessionEnds) {
   rig.Start();
   rig.Type({"Game", "", ""});
   rig.dialogs.PickNext("C:\\A.EXE");
-  rig.dialogs.WhileOpen([&rig] { rig.form->Window().Close(); });
+  rig.dialogs.WhileOpen([&rig] { rig.form->Form().Close(); });
   rig.Screen().cmdBrowsePath.Press();
-  EXPECT_FALSE(rig.form->Window().Unloaded());
+  EXPECT_FALSE(rig.form->Form().Unloaded());
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
   EXPECT_EQ(rig.Fields().path, "C:\\A.EXE");
   rig.dialogs.PickNext("C:\\B.EXE");
   rig.dialogs.WhileOpen([&rig] { rig.form->EndSession(); });
   rig.Screen().cmdBrowsePath.Press();
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_TRUE(rig.form->Form().Unloaded());
   EXPECT_EQ(rig.Fields().path, "C:\\A.EXE");
 }
 

@@ -19,7 +19,7 @@ TEST(ConfigSaving, ListIsWrittenByteForByteAndNothingIsLeftBehind) {
   rig.Screen().cmdAdd.Press();
   rig.Screen().cmdMoveUp.Press();
   rig.Screen().cmdOK.Press();
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_TRUE(rig.form->Form().Unloaded());
   EXPECT_EQ(rig.ListOnDisk(), "Game" + std::string(51, ' ') + "\"C:\\My Games\\G.EXE\"" +
                                   std::string(236, ' ') + std::string(255, ' ') + "Caf\xE9" +
                                   std::string(51, ' ') + "NOTEPAD.EXE" + std::string(244, ' ') +
@@ -59,12 +59,12 @@ TEST(ConfigSaving, FieldsThatWereNotAddedCauseAQuestion) {
   rig.Type(kEditor);
   rig.Screen().cmdOK.Press();
   EXPECT_EQ(rig.BoxText(1), kSaveWithoutFields);
-  EXPECT_FALSE(rig.form->Window().Unloaded()) << "the default answer is No";
+  EXPECT_FALSE(rig.form->Form().Unloaded()) << "the default answer is No";
   EXPECT_EQ(rig.Fields(), kEditor);
   EXPECT_EQ(rig.Changes(), Names{});
   rig.machine.AnswerNextBox(os::kIdYes);
   rig.Screen().cmdOK.Press();
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_TRUE(rig.form->Form().Unloaded());
   EXPECT_EQ(rig.ListOnDisk(), BytesOf(SomeEntries(1)));
 }
 
@@ -74,7 +74,7 @@ TEST(ConfigSaving, FieldsChangedBackCauseNoQuestion) {
   rig.Type(kEditor);
   rig.Type(SomeEntries(1)[0]);
   rig.Screen().cmdOK.Press();
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_TRUE(rig.form->Form().Unloaded());
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
 }
 
@@ -85,7 +85,7 @@ TEST(ConfigClosing, UnchangedListClosesAtOnce) {
   rig.Screen().cmdMoveUp.Press();
   rig.Screen().cmdMoveDown.Press();
   rig.Screen().cmdCancel.Press();
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_TRUE(rig.form->Form().Unloaded());
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
   EXPECT_EQ(rig.Changes(), Names{});
 }
@@ -102,17 +102,17 @@ TEST(ConfigClosing, CancelAndCloseAskAboutChanges) {
       }
       const auto close = [&rig, by_window] {
         if (by_window) {
-          rig.form->Window().Close();
+          rig.form->Form().Close();
         } else {
           rig.Screen().cmdCancel.Press();
         }
       };
       close();
       EXPECT_EQ(rig.BoxText(1), "Do you want to discard your changes?");
-      EXPECT_FALSE(rig.form->Window().Unloaded()) << "the default answer is No";
+      EXPECT_FALSE(rig.form->Form().Unloaded()) << "the default answer is No";
       rig.machine.AnswerNextBox(os::kIdYes);
       close();
-      EXPECT_TRUE(rig.form->Window().Unloaded());
+      EXPECT_TRUE(rig.form->Form().Unloaded());
       EXPECT_EQ(rig.Changes(), Names{});
     }
   }
@@ -122,10 +122,10 @@ TEST(ConfigClosing, IsIgnoredDuringAQuestion) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();
   rig.Screen().cmdMoveDown.Press();
-  rig.machine.WhileBoxIsOpen([&rig] { rig.form->Window().Close(); });
+  rig.machine.WhileBoxIsOpen([&rig] { rig.form->Form().Close(); });
   rig.Screen().cmdCancel.Press();
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
-  EXPECT_FALSE(rig.form->Window().Unloaded());
+  EXPECT_FALSE(rig.form->Form().Unloaded());
 }
 
 constexpr const char* kNotSaved = "The list of programs has not been saved.\r\n\r\nDo you want to save it?";
@@ -134,7 +134,7 @@ TEST(ConfigClosing, SessionMayEndAtOnceIfNothingIsLost) {
   ConfigRig rig(SomeEntries(3));
   rig.Start();
   EXPECT_TRUE(rig.form->MaySessionEnd());
-  EXPECT_FALSE(rig.form->Window().Unloaded()) << "another program may still refuse to end the session";
+  EXPECT_FALSE(rig.form->Form().Unloaded()) << "another program may still refuse to end the session";
   rig.Screen().cmdCancel.Press();
   EXPECT_TRUE(rig.form->MaySessionEnd());
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
@@ -149,7 +149,7 @@ TEST(ConfigClosing, EndingSessionAsksAboutTheList) {
     EXPECT_EQ(rig.form->MaySessionEnd(), answer != os::kIdCancel) << answer;
     EXPECT_EQ(rig.BoxText(1), kNotSaved);
     EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbYesNoCancel | os::kMbIconQuestion);
-    EXPECT_FALSE(rig.form->Window().Unloaded());
+    EXPECT_FALSE(rig.form->Form().Unloaded());
     const bool is_saved = rig.ListOnDisk() == BytesOf({SomeEntries(2)[1], SomeEntries(2)[0]});
     EXPECT_EQ(is_saved, answer == os::kIdYes) << answer;
     if (is_saved) {
@@ -178,7 +178,7 @@ TEST(ConfigClosing, SessionContinuesIfTheListCannotBeSaved) {
   rig.machine.ProtectDisk();
   EXPECT_FALSE(rig.form->MaySessionEnd());
   EXPECT_EQ(rig.BoxText(2), kCouldNotBeSaved);
-  EXPECT_FALSE(rig.form->Window().Unloaded());
+  EXPECT_FALSE(rig.form->Form().Unloaded());
 }
 
 /// Windows reaches a minimised window either by a call of Q-DIX or by an action of the user.
@@ -187,7 +187,7 @@ TEST(ConfigActivation, OnlyQdixRestoresTheMinimisedWindow) {
   rig.Start();
   const os::WindowHandle taskbar = rig.machine.OpenWindow("Shell_TrayWnd", "");
   os::Windows& windows = rig.machine.GetSystem().windows;
-  ui::Form& window = rig.form->Window();
+  ui::Form& window = rig.form->Form();
   window.UserChangedState(ui::WindowState::kMinimised);
   rig.form->ActivatedMinimised(0);
   EXPECT_EQ(window.State(), ui::WindowState::kMinimised) << "without Q-DIX there is no previous thread";
@@ -210,7 +210,7 @@ TEST(ConfigClosing, EndOfTheSessionAsksAndWritesNothing) {
   rig.Type(kEditor);
   rig.form->EndSession();
   EXPECT_TRUE(rig.form->TheApplication().SessionIsEnding());
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_TRUE(rig.form->Form().Unloaded());
   EXPECT_EQ(rig.machine.Boxes().size(), 0U);
   EXPECT_EQ(rig.Changes(), Names{});
 }
@@ -225,7 +225,7 @@ TEST(ConfigClosing, EndOfTheSessionDuringAQuestionIsNoAnswer) {
     rig.form->EndSession();
   });
   rig.Screen().cmdOK.Press();
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_TRUE(rig.form->Form().Unloaded());
   EXPECT_EQ(rig.Changes(), Names{});
 }
 

@@ -16,7 +16,7 @@ class DrawingInstances : public testing::Test {
     rig.Create();
   }
   ProgramRig rig;
-  screens::QuondixScreen& screen = rig.program->Quondix();
+  screens::QuondixScreen& screen = rig.program->QuondixScreen();
 };
 
 TEST_F(DrawingInstances, GraphIsRedOnTheColourOfMenus) {

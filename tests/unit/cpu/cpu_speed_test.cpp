@@ -102,7 +102,7 @@ TEST(CpuSpeedAtLoad, ShowsWhatTheProcessorReports) {
   processor.SetLeaf(0, {.eax = 1, .ebx = 0x756e6547, .ecx = 0x6c65746e, .edx = 0x49656e69});
   processor.SetLeaf(1, {.eax = 0x52C, .edx = 0x1BF});
   processor.SetClock(133333);
-  EXPECT_EQ(rig.Start().Quondix().lblCPU.Caption(), "CPU : Intel Pentium  133 MHz");
+  EXPECT_EQ(rig.Start().QuondixScreen().lblCPU.Caption(), "CPU : Intel Pentium  133 MHz");
 }
 
 TEST(CpuSpeedAtLoad, ForbiddenCounterLeavesTheLabelEmpty) {
@@ -112,7 +112,7 @@ TEST(CpuSpeedAtLoad, ForbiddenCounterLeavesTheLabelEmpty) {
   processor.SetLeaf(0, {.eax = 1, .ebx = 0x756e6547, .ecx = 0x6c65746e, .edx = 0x49656e69});
   processor.SetLeaf(1, {.eax = 0x52C, .edx = 0x1BF});
   processor.SetClock(0);
-  EXPECT_EQ(rig.Start().Quondix().lblCPU.Caption(), "");
+  EXPECT_EQ(rig.Start().QuondixScreen().lblCPU.Caption(), "");
 }
 
 TEST(CpuSpeedAtLoad, ProcessorWithoutACounterIsNeverMeasured) {
@@ -120,7 +120,7 @@ TEST(CpuSpeedAtLoad, ProcessorWithoutACounterIsNeverMeasured) {
   rig.SetHasRunBefore();
   rig.machine.FakeProcessor().SetGeneration(3);
   rig.machine.FakeProcessor().SetClock(33000);
-  EXPECT_EQ(rig.Start().Quondix().lblCPU.Caption(), "");
+  EXPECT_EQ(rig.Start().QuondixScreen().lblCPU.Caption(), "");
   for (const std::string& call : rig.machine.Calls()) EXPECT_FALSE(call.starts_with("CountCycles")) << call;
 }
 

@@ -17,8 +17,8 @@ class CpuUsage : public testing::Test {
     rig.Store("Startup", "StartupTime", "0");
   }
   void Refresh(int times = 1) { rig.AdvanceMs(times * kRefreshMs); }
-  [[nodiscard]] const std::string& Label() { return rig.program->Quondix().lblUSAGE.Caption(); }
-  [[nodiscard]] std::int32_t Average() { return rig.program->Cpu().AverageCpuUsage(); }
+  [[nodiscard]] const std::string& Label() { return rig.program->QuondixScreen().lblUSAGE.Caption(); }
+  [[nodiscard]] std::int32_t Average() { return rig.program->CpuUsage().AverageCpuUsage(); }
   /// Returns the index of the first recorded call with this beginning.
   [[nodiscard]] std::size_t FirstCall(const std::string& beginning) const {
     const auto& calls = rig.machine.Calls();
@@ -80,7 +80,7 @@ TEST_F(CpuUsage, LowerIntervalBelowTheCountUpdatesAtOnce) {
   Refresh(4);
   rig.graph.ClearCounts();
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kStartupTab);
-  rig.program->Startup().Slider7.Drag(2);
+  rig.program->StartupScreen().Slider7.Drag(2);
   Refresh();
   EXPECT_EQ(rig.graph.CopyCount(), 1);
 }
@@ -155,14 +155,14 @@ TEST_F(CpuUsage, ReadingOutsideAByteIsReportedWheneverItIsInTheOldestSlot) {
   EXPECT_EQ(rig.machine.Boxes()[0].text, "error in CPU Usage Code\r\nOverflow - err number 6");
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX");
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk);
-  EXPECT_FALSE(rig.program->Window().Unloaded()) << "the load continues";
+  EXPECT_FALSE(rig.program->Form().Unloaded()) << "the load continues";
   EXPECT_EQ(rig.machine.TrayIconCount(), 1);
   Refresh(7);
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
   Refresh(2);
   EXPECT_EQ(rig.machine.Boxes().size(), 3U);
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0);
-  EXPECT_FALSE(rig.program->Window().Unloaded());
+  EXPECT_FALSE(rig.program->Form().Unloaded());
 }
 
 TEST_F(CpuUsage, FirstReadingOutsideAByteLeavesSevenFoursAndNothing) {
@@ -199,7 +199,7 @@ TEST_F(CpuUsage, PauseStopsTheReadings) {
   rig.machine.SetCpuLoad(100);
   rig.Start();
   Refresh();
-  rig.program->Quondix().Command3.Press();
+  rig.program->QuondixScreen().Command3.Press();
   const std::int32_t before = Average();
   Refresh(10);
   EXPECT_EQ(Average(), before);
@@ -209,7 +209,7 @@ TEST_F(CpuUsage, ManyReadingsLeaveNothingBehind) {
   rig.machine.SetCpuLoad(37);
   rig.Start();
   rig.RemoveGraph();
-  for (int count = 0; count < 20000; ++count) rig.program->Cpu().CPUUsage();
+  for (int count = 0; count < 20000; ++count) rig.program->CpuUsage().CPUUsage();
   EXPECT_EQ(Average(), 37);
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0);
 }

@@ -51,7 +51,7 @@ TEST(HelpCopy, ClipboardHeldByAnotherProgramIsReported) {
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk | os::kMbIconExclamation);
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Help")
       << "the title of the window would be found instead of it";
-  EXPECT_FALSE(rig.form->Window().Unloaded());
+  EXPECT_FALSE(rig.form->Form().Unloaded());
 }
 
 TEST(HelpPrint, TopicIsPrintedWithMarginsOnOnePage) {
@@ -179,9 +179,9 @@ TEST(HelpPrint, ProgramThatEndsDuringTheDialogPrintsNothing) {
     HelpRig rig;
     rig.printer.choice = choice;
     rig.Start("0");
-    rig.printer.while_open = [&rig] { rig.form->Window().Close(); };
+    rig.printer.while_open = [&rig] { rig.form->Form().Close(); };
     rig.Screen().cmdPrint.Press();
-    EXPECT_TRUE(rig.form->Window().Unloaded());
+    EXPECT_TRUE(rig.form->Form().Unloaded());
     EXPECT_FALSE(rig.printer.is_open);
     EXPECT_TRUE(rig.printer.pages.empty());
     EXPECT_TRUE(rig.machine.Boxes().empty());

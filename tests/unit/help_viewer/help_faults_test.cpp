@@ -28,13 +28,13 @@ void ReadHelp(HelpRig& rig) {
   rig.Screen().lstContents.ChooseIndex(2);
   rig.Screen().cmdCopy.Press();
   rig.Screen().cmdPrint.Press();
-  rig.form->Window().UserMoved({20, 30, 500, 600});
-  rig.form->Window().PressEscape();
+  rig.form->Form().UserMoved({20, 30, 500, 600});
+  rig.form->Form().PressEscape();
 }
 
 /// Expects each side of the window to have its old or its new position.
 void ExpectSoundEnd(HelpRig& rig, int call) {
-  EXPECT_TRUE(rig.form->Window().Unloaded()) << call;
+  EXPECT_TRUE(rig.form->Form().Unloaded()) << call;
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << call;
   EXPECT_TRUE(rig.machine.Misuses().empty()) << call;
   EXPECT_FALSE(rig.printer.is_open) << call;
@@ -81,7 +81,7 @@ TEST(HelpFaults, PrinterFailureAtAnyStepIsReportedOnceAndReleasesThePrinter) {
     EXPECT_TRUE(rig.machine.Boxes().front().text.starts_with("The topic could not be printed.")) << step;
     EXPECT_FALSE(rig.printer.is_open) << step;
     EXPECT_EQ(rig.printer.calls.back(), "DeleteDC") << step;
-    EXPECT_TRUE(rig.form->Window().Unloaded()) << step;
+    EXPECT_TRUE(rig.form->Form().Unloaded()) << step;
   }
 }
 

@@ -25,15 +25,15 @@ class HelpPlace : public testing::Test {
     return rig.machine.RegistryText(os::kHkeyCurrentUser, kKey, name).value_or("(none)");
   }
   /// Returns the position that a start gives the window.
-  [[nodiscard]] std::optional<ui::WindowBounds> Restored() { return rig.Start("4").Window().Bounds(); }
+  [[nodiscard]] std::optional<ui::WindowBounds> Restored() { return rig.Start("4").Form().Bounds(); }
 
   HelpRig rig;
 };
 
 TEST_F(HelpPlace, IsSavedWhenTheWindowCloses) {
   rig.Start("4");
-  rig.form->Window().UserMoved({.left = 10, .top = 20, .width = 500, .height = 400});
-  rig.form->Window().Close();
+  rig.form->Form().UserMoved({.left = 10, .top = 20, .width = 500, .height = 400});
+  rig.form->Form().Close();
   EXPECT_EQ(Stored("Left"), "10");
   EXPECT_EQ(Stored("Top"), "20");
   EXPECT_EQ(Stored("Width"), "500");
@@ -43,8 +43,8 @@ TEST_F(HelpPlace, IsSavedWhenTheWindowCloses) {
 
 TEST_F(HelpPlace, IsSavedWhenTheSessionEnds) {
   rig.Start("4");
-  rig.form->Window().UserMoved({.left = 10, .top = 20, .width = 500, .height = 400});
-  rig.form->Window().UserChangedState(ui::WindowState::kMaximised);
+  rig.form->Form().UserMoved({.left = 10, .top = 20, .width = 500, .height = 400});
+  rig.form->Form().UserChangedState(ui::WindowState::kMaximised);
   rig.form->EndSession();
   EXPECT_EQ(Stored("Width"), "500");
   EXPECT_EQ(Stored("Maximised"), "True");
@@ -52,20 +52,20 @@ TEST_F(HelpPlace, IsSavedWhenTheSessionEnds) {
 
 TEST_F(HelpPlace, WindowNeverPlacedSavesNothing) {
   rig.Start("4");
-  rig.form->Window().Close();
+  rig.form->Form().Close();
   EXPECT_EQ(Stored("Left"), "(none)");
 }
 
 TEST_F(HelpPlace, ComesBackAtTheNextStart) {
   Store("10", "20", "500", "400");
   EXPECT_EQ(Restored(), (ui::WindowBounds{10, 20, 500, 400}));
-  EXPECT_EQ(rig.form->Window().State(), ui::WindowState::kNormal);
+  EXPECT_EQ(rig.form->Form().State(), ui::WindowState::kNormal);
 }
 
 TEST_F(HelpPlace, MaximisedWindowComesBackMaximised) {
   Store("10", "20", "500", "400", "True");
   EXPECT_EQ(Restored(), (ui::WindowBounds{10, 20, 500, 400}));
-  EXPECT_EQ(rig.form->Window().State(), ui::WindowState::kMaximised);
+  EXPECT_EQ(rig.form->Form().State(), ui::WindowState::kMaximised);
 }
 
 TEST_F(HelpPlace, MissingPlaceLeavesTheWindowWhereTheSystemPutsIt) { EXPECT_EQ(Restored(), std::nullopt); }
@@ -111,9 +111,9 @@ TEST_F(HelpPlace, FailingRegistryDoesNoHarm) {
   for (int call = 1; call < 30; ++call) {
     rig.machine.FailFromCallNumber(rig.machine.FaultableCallCount() + call);
     rig.Start("4");
-    rig.form->Window().UserMoved({.left = 1, .top = 2, .width = 300, .height = 300});
-    rig.form->Window().Close();
-    EXPECT_TRUE(rig.form->Window().Unloaded());
+    rig.form->Form().UserMoved({.left = 1, .top = 2, .width = 300, .height = 300});
+    rig.form->Form().Close();
+    EXPECT_TRUE(rig.form->Form().Unloaded());
     rig.machine.FailFromCallNumber(0);
   }
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0);

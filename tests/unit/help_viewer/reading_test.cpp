@@ -12,8 +12,8 @@ namespace {
 TEST(HelpReading, OpensTheTopicByNumberAndGivesItTheKeyboard) {
   HelpRig rig;
   rig.Start("5");
-  EXPECT_TRUE(rig.form->Window().Shown());
-  EXPECT_EQ(rig.form->Window().Caption(), "Quondix Help");
+  EXPECT_TRUE(rig.form->Form().Shown());
+  EXPECT_EQ(rig.form->Form().Caption(), "Quondix Help");
   EXPECT_EQ(rig.Title(), "Files");
   EXPECT_EQ(rig.Screen().lstContents.SelectedText(), "    Files");
   EXPECT_TRUE(rig.Pane().HasFocus());
@@ -134,7 +134,7 @@ TEST(HelpReading, WindowShowsItselfWithItsTopic) {
   HelpRig rig;
   rig.Make("4");
   AskingPeer peer([&rig] { return rig.Title(); });
-  rig.form->Window().AttachPeer(&peer);
+  rig.form->Form().AttachPeer(&peer);
   rig.form->Start();
   EXPECT_EQ(peer.answers, (Answers{{ui::Change::kVisible, "Memory"}}));
 }
@@ -142,7 +142,7 @@ TEST(HelpReading, WindowShowsItselfWithItsTopic) {
 TEST(HelpReading, KeyboardMovesBeforeItsControlIsHidden) {
   HelpRig rig;
   rig.Start("4");
-  const auto focused = [&rig] { return std::string(rig.form->Window().Focused()->Name()); };
+  const auto focused = [&rig] { return std::string(rig.form->Form().Focused()->Name()); };
   rig.Pane().Follow(0);
   rig.Screen().lstContents.Choose("    About");
   AskingPeer back(focused);
@@ -166,12 +166,12 @@ TEST(HelpReading, KeyboardMovesBeforeItsControlIsHidden) {
 TEST(HelpReading, UntrappedErrorIsShownAndEndsTheProgram) {
   HelpRig rig;
   rig.Start("4");
-  rig.machine.WhileBoxIsOpen([&rig] { EXPECT_FALSE(rig.form->Window().Unloaded()); });
-  rig.form->Window().Dispatcher().Report(base::kOverflow);
+  rig.machine.WhileBoxIsOpen([&rig] { EXPECT_FALSE(rig.form->Form().Unloaded()); });
+  rig.form->Form().Dispatcher().Report(base::kOverflow);
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_TRUE(rig.machine.Boxes()[0].text.starts_with("Run-time error '6':"));
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk | os::kMbIconExclamation);
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_TRUE(rig.form->Form().Unloaded());
 }
 
 TEST(HelpReading, EnterInTheContentsGivesTheTopicTheKeyboard) {
@@ -265,16 +265,16 @@ TEST(HelpReading, TopicOpenedAgainIsShownFromItsBeginning) {
 TEST(HelpReading, EscClosesAndSoDoesTheSystem) {
   HelpRig rig;
   rig.Start("4");
-  rig.form->Window().PressEscape();
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  rig.form->Form().PressEscape();
+  EXPECT_TRUE(rig.form->Form().Unloaded());
   HelpRig other;
   other.Start("4");
-  other.form->Window().Close();
-  EXPECT_TRUE(other.form->Window().Unloaded());
+  other.form->Form().Close();
+  EXPECT_TRUE(other.form->Form().Unloaded());
   HelpRig ending;
   ending.Start("4");
   ending.form->EndSession();
-  EXPECT_TRUE(ending.form->Window().Unloaded());
+  EXPECT_TRUE(ending.form->Form().Unloaded());
 }
 
 TEST(HelpReading, BookWithoutTopicsIsAlsoShown) {

@@ -13,13 +13,13 @@ class HelpWindow : public testing::Test {
  protected:
   HelpWindow() {
     rig.Start("4");
-    Collect(rig.form->Window(), controls);
+    Collect(rig.form->Form(), controls);
   }
 
   /// Only one side of the window is visible at a time: the contents, or the controls that find a word.
   void ExpectRoomOnEachSide() {
     constexpr std::int16_t kMargin = 7;
-    const ui::Place window = rig.form->Window().GetPlace();
+    const ui::Place window = rig.form->Form().GetPlace();
     const ui::Place inner{kMargin, kMargin, static_cast<std::int16_t>(window.width - 2 * kMargin),
                           static_cast<std::int16_t>(window.height - 2 * kMargin)};
     for (ui::Button* const side : {&rig.Screen().cmdContents, &rig.Screen().cmdFind}) {
@@ -56,9 +56,9 @@ TEST_F(HelpWindow, FieldAndListOfTopicsHaveTheKeyOfTheLabelBeforeThem) {
 }
 
 TEST_F(HelpWindow, EverythingHasRoomInEverySize) {
-  const ui::FormSize smallest = rig.form->Window().Smallest();
+  const ui::FormSize smallest = rig.form->Form().Smallest();
   for (const ui::FormSize size : {kFirstSize, smallest, ui::FormSize{1000, 700}, ui::FormSize{300, 600}}) {
-    rig.form->Window().UserResized(size);
+    rig.form->Form().UserResized(size);
     ExpectRoomOnEachSide();
     EXPECT_GE(rig.Pane().GetPlace().width, 120) << size.width;
     EXPECT_GE(rig.Pane().GetPlace().height, 80) << size.width;
@@ -68,7 +68,7 @@ TEST_F(HelpWindow, EverythingHasRoomInEverySize) {
 TEST_F(HelpWindow, BothPanesFollowTheWindow) {
   const ui::Place list = rig.Screen().lstContents.GetPlace();
   const ui::Place pane = rig.Pane().GetPlace();
-  rig.form->Window().UserResized({500, 300});
+  rig.form->Form().UserResized({500, 300});
   EXPECT_EQ(rig.Screen().lstContents.GetPlace().height, list.height + 50);
   EXPECT_GT(rig.Screen().lstContents.GetPlace().width, list.width);
   EXPECT_EQ(rig.Pane().GetPlace().height, pane.height + 50);
@@ -78,7 +78,7 @@ TEST_F(HelpWindow, BothPanesFollowTheWindow) {
 /// While the system arranges a window, it can be smaller than the minimum that a user can set.
 TEST_F(HelpWindow, NoSizeMakesAPlaceNegative) {
   for (const ui::FormSize size : {ui::FormSize{0, 0}, ui::FormSize{1, 1}, ui::FormSize{100, 20}}) {
-    rig.form->Window().UserResized(size);
+    rig.form->Form().UserResized(size);
     for (const ui::Control* control : controls) {
       EXPECT_GT(control->GetPlace().width, 0) << control->Name();
       EXPECT_GT(control->GetPlace().height, 0) << control->Name();
@@ -89,7 +89,7 @@ TEST_F(HelpWindow, NoSizeMakesAPlaceNegative) {
 TEST_F(HelpWindow, InitialSizeFitsOn640By480) {
   // A dialog unit is 1.5 pixels wide and 13/8 pixels high at 96 dots per inch; frame, caption and taskbar
   // take the rest.
-  const ui::Place window = rig.form->Window().GetPlace();
+  const ui::Place window = rig.form->Form().GetPlace();
   EXPECT_EQ(window.width, kFirstSize.width);
   EXPECT_LE(window.width * 3 / 2 + 8, 640);
   EXPECT_LE(window.height * 13 / 8 + 27, 480 - 28);

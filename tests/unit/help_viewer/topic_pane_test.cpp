@@ -255,7 +255,7 @@ TEST_F(HelpPane, FollowingAMissingLinkOrWithoutAWindowDoesNothing) {
   pane.Follow(2);
   pane.Follow(-1);
   EXPECT_EQ(rig.Title(), "Welcome");
-  rig.form->Window().Unload();
+  rig.form->Form().Unload();
   pane.Follow(0);
   EXPECT_EQ(rig.Title(), "Welcome");
 }

@@ -31,17 +31,17 @@ class ConfigWatchTest : public testing::Test {
     for (const std::string& name : names) content += launcher::RecordBytes({name, "calc", ""});
     rig.machine.WriteFile(kListPath, content);
   }
-  void PressConfigure() { rig.program->Launcher().Command15.Press(); }
+  void PressConfigure() { rig.program->LauncherScreen().Command15.Press(); }
   ui::Timer& Timer7() { return rig.program->MainWindow().Timer7; }
   std::vector<std::string> Listed() {
     std::vector<std::string> names;
-    const ui::ListBox& list = rig.program->Launcher().List5;
+    const ui::ListBox& list = rig.program->LauncherScreen().List5;
     for (int row = 0; row < list.Count(); ++row) names.push_back(list.Item(row));
     return names;
   }
   std::vector<std::string> InMenu() {
     std::vector<std::string> names;
-    for (const ui::MenuItem* item : rig.program->TheTrayMenu().mnuPrograms.Children()) {
+    for (const ui::MenuItem* item : rig.program->TrayMenu().mnuPrograms.Children()) {
       if (item->Visible()) names.push_back(item->Caption());
     }
     return names;
@@ -135,7 +135,7 @@ TEST_F(ConfigWatchTest, EmptiedListDisablesTheMenuAndKeepsItsLastEntry) {
   WriteList({});
   rig.AdvanceMs(4 * kTickMs);
   EXPECT_THAT(Listed(), IsEmpty());
-  EXPECT_FALSE(rig.program->TheTrayMenu().mnuPrograms.Enabled());
+  EXPECT_FALSE(rig.program->TrayMenu().mnuPrograms.Enabled());
   EXPECT_EQ(InMenu().size(), 1U);
 }
 
@@ -163,7 +163,7 @@ TEST_F(ConfigWatchTest, UnreadableListIsKeptAndReadAtTheNextTick) {
     rig.AdvanceMs(kTickMs);
     EXPECT_THAT(Listed(), ElementsAre("Old")) << refused;
     EXPECT_THAT(InMenu(), ElementsAre("Old")) << refused;
-    EXPECT_TRUE(rig.program->TheTrayMenu().mnuPrograms.Enabled()) << refused;
+    EXPECT_TRUE(rig.program->TrayMenu().mnuPrograms.Enabled()) << refused;
     EXPECT_TRUE(Timer7().Enabled()) << refused;
     rig.AdvanceMs(kTickMs);
     EXPECT_THAT(Listed(), ElementsAre("New 1", "New 2")) << refused;
@@ -192,7 +192,7 @@ TEST_F(ConfigWatchTest, MissingListEmptiesListAndMenu) {
   rig.machine.GetSystem().files.DeleteFileA(kListPath);
   rig.AdvanceMs(4 * kTickMs);
   EXPECT_THAT(Listed(), IsEmpty());
-  EXPECT_FALSE(rig.program->TheTrayMenu().mnuPrograms.Enabled());
+  EXPECT_FALSE(rig.program->TrayMenu().mnuPrograms.Enabled());
   EXPECT_FALSE(Timer7().Enabled());
   EXPECT_EQ(rig.machine.ReadFile(kListPath), "");
 }
@@ -204,7 +204,7 @@ TEST_F(ConfigWatchTest, TooLongAListEndsTheProgram) {
   ASSERT_FALSE(rig.machine.Boxes().empty());
   EXPECT_EQ(rig.machine.Boxes().back().text,
             "Run-time error '340':\r\n\r\nControl array element '25' doesn't exist");
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
 }
 
 TEST_F(ConfigWatchTest, MissingEditorIsARunTimeError) {
@@ -212,7 +212,7 @@ TEST_F(ConfigWatchTest, MissingEditorIsARunTimeError) {
   PressConfigure();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "Run-time error '53':\r\n\r\nFile not found");
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
 }
 
 TEST_F(ConfigWatchTest, RootFolderGetsNoSecondSeparator) {

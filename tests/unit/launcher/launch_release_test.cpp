@@ -18,7 +18,7 @@ class LaunchRig : public TuningRig {
     machine.WriteFile(kListPath, launcher::RecordBytes({"Calculator", "calc", ""}));
     machine.AddProgram("calc");
   }
-  screens::LauncherScreen& Tab() { return program->Launcher(); }
+  screens::LauncherScreen& Tab() { return program->LauncherScreen(); }
   void StartLauncher() { StartAt(screens::kLauncherTab); }
   /// Starts the program in the list, without the graph, because there are many pumps.
   void Launch() {

@@ -39,27 +39,27 @@ void UseTheLauncher(ProgramRig& rig) {
   rig.machine.AddFolder("D:\\GAMES");
   rig.machine.WriteFile(kListPath, ListOf(3));
   rig.Start();
-  if (rig.program->Window().Unloaded()) return;
+  if (rig.program->Form().Unloaded()) return;
   rig.RemoveGraph();
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kLauncherTab);
-  screens::LauncherScreen& tab = rig.program->Launcher();
+  screens::LauncherScreen& tab = rig.program->LauncherScreen();
   if (tab.List5.Count() > 0) {
     tab.List5.ChooseIndex(0);
     tab.List5.PressEnter();
-    rig.program->TheTrayMenu().mnuProgram[0].Choose();
+    rig.program->TrayMenu().mnuProgram[0].Choose();
   }
   tab.Command15.Press();
-  if (rig.program->Window().Unloaded()) return;
+  if (rig.program->Form().Unloaded()) return;
   const os::WindowHandle editor = rig.machine.OpenWindow("QDIXMain", "Config Launcher");
   tab.Command15.Press();
   rig.machine.WriteFile(kListPath, ListOf(25));
   rig.machine.CloseWindow(editor);
   rig.AdvanceMs(kFourTicksMs);
-  rig.program->Window().Unload();
+  rig.program->Form().Unload();
 }
 
 void ExpectSoundEnd(ProgramRig& rig, int call) {
-  EXPECT_TRUE(rig.program->Window().Unloaded()) << call;
+  EXPECT_TRUE(rig.program->Form().Unloaded()) << call;
   EXPECT_TRUE(rig.machine.OutstandingBlocks().empty()) << call;
   EXPECT_EQ(rig.machine.OpenFileCount(), 0) << call;
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << call;
@@ -79,7 +79,7 @@ void RunWithFaults(const Plan& plan) {
   ProgramRig sound;
   UseTheLauncher(sound);
   ASSERT_EQ(sound.machine.StartedPrograms().size(), 3U);
-  ASSERT_EQ(sound.program->Launcher().List5.Count(), 25);
+  ASSERT_EQ(sound.program->LauncherScreen().List5.Count(), 25);
   const int calls = sound.machine.FaultableCallCount();
   ASSERT_GT(calls, 100);
   for (int call = 1; call <= calls; ++call) {

@@ -52,8 +52,8 @@ class Launcher : public testing::Test {
     WriteList(entries);
     Start();
   }
-  screens::LauncherScreen& Tab() { return rig.program->Launcher(); }
-  screens::TrayMenu& Menu() { return rig.program->TheTrayMenu(); }
+  screens::LauncherScreen& Tab() { return rig.program->LauncherScreen(); }
+  screens::TrayMenu& Menu() { return rig.program->TrayMenu(); }
   std::vector<std::string> Listed() {
     std::vector<std::string> names;
     for (int row = 0; row < Tab().List5.Count(); ++row) names.push_back(Tab().List5.Item(row));
@@ -135,7 +135,7 @@ TEST_F(Launcher, TwentyFiveProgramsFillTheMenu) {
   EXPECT_EQ(Listed().size(), 25U);
   EXPECT_EQ(InMenu().size(), 25U);
   EXPECT_EQ(InMenu().back(), "Program 25");
-  EXPECT_FALSE(rig.program->Window().Unloaded());
+  EXPECT_FALSE(rig.program->Form().Unloaded());
 }
 
 TEST_F(Launcher, TwentySixthProgramEndsTheProgramAndLeavesTheListAsItIs) {
@@ -146,7 +146,7 @@ TEST_F(Launcher, TwentySixthProgramEndsTheProgramAndLeavesTheListAsItIs) {
     ASSERT_FALSE(other.machine.Boxes().empty());
     EXPECT_EQ(other.machine.Boxes().back().text,
               "Run-time error '340':\r\n\r\nControl array element '25' doesn't exist");
-    EXPECT_TRUE(other.program->Window().Unloaded());
+    EXPECT_TRUE(other.program->Form().Unloaded());
     EXPECT_EQ(other.machine.ReadFile(kListPath), Records(Numbered(count)));
     EXPECT_EQ(other.machine.OpenFileCount(), 0);
     EXPECT_EQ(other.machine.TrayIconCount(), 0);
@@ -326,7 +326,7 @@ TEST_F(Launcher, MissingProgramIsReported) {
   StartWith({{"Gone", "nothing.exe", ""}});
   Tab().List5.DoubleClick(0);
   EXPECT_THAT(Boxes(), ElementsAre("File not found"));
-  EXPECT_FALSE(rig.program->Window().Unloaded());
+  EXPECT_FALSE(rig.program->Form().Unloaded());
 }
 
 TEST_F(Launcher, EmptyCommandLineIsReported) {
@@ -340,7 +340,7 @@ TEST_F(Launcher, ChosenProgramStartsEvenIfTheListIsReadAgainDuringTheRelease) {
   rig.machine.OnPump([&](int number) {
     if (number != 1) return;
     WriteList({{"Second", "game2", ""}});
-    rig.program->Launcher().Command15.Press();
+    rig.program->LauncherScreen().Command15.Press();
   });
   rig.machine.AddProgram("C:\\PROGRAM FILES\\QDIX\\CONFIGL.EXE");
   Tab().List5.DoubleClick(0);
@@ -351,7 +351,7 @@ TEST_F(Launcher, ChosenProgramStartsEvenIfTheListIsReadAgainDuringTheRelease) {
 TEST_F(Launcher, ClosingTheWindowDuringTheReleaseStartsNothing) {
   StartWith({{"Calculator", "calc", "D:\\GAMES"}});
   rig.machine.OnPump([&](int number) {
-    if (number == 10) rig.program->Window().Unload();
+    if (number == 10) rig.program->Form().Unload();
   });
   Tab().List5.DoubleClick(0);
   EXPECT_THAT(Starts(), IsEmpty());

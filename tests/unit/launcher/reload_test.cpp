@@ -25,7 +25,7 @@ class LauncherReload : public testing::Test {
     WriteList({"First", "game1", "D:\\FIRST"});
     rig.Start().MainWindow().SSTab1.ChooseTab(screens::kLauncherTab);
     rig.RemoveGraph();
-    rig.program->Launcher().Command15.Press();
+    rig.program->LauncherScreen().Command15.Press();
   }
   void WriteList(const launcher::LauncherEntry& entry) {
     rig.machine.WriteFile("C:\\Program Files\\QDIX\\launcher.dat", launcher::RecordBytes(entry));
@@ -35,7 +35,7 @@ class LauncherReload : public testing::Test {
       if (number != 1) return;
       WriteList({"Second", "game2", "E:\\SECOND"});
       rig.AdvanceMs(kUntilReloadMs);
-      listed_in_pump = rig.program->Launcher().List5.Item(0);
+      listed_in_pump = rig.program->LauncherScreen().List5.Item(0);
     });
   }
   /// Returns the calls from `first_call` on that change the folder and start a program.
@@ -54,19 +54,19 @@ class LauncherReload : public testing::Test {
 };
 
 TEST_F(LauncherReload, ReadsTheSettingsOfTheReleaseAgain) {
-  ASSERT_TRUE(rig.program->Launcher().Option9.Selected());
-  ASSERT_TRUE(rig.program->Launcher().Slider_6[0].Selected());
+  ASSERT_TRUE(rig.program->LauncherScreen().Option9.Selected());
+  ASSERT_TRUE(rig.program->LauncherScreen().Slider_6[0].Selected());
   rig.Store("Settings", "Launcher RAM", "3");
   rig.Store("Settings", "Launcher Retry", "4");
   rig.AdvanceMs(kUntilReloadMs);
-  EXPECT_TRUE(rig.program->Launcher().Option7.Selected());
-  EXPECT_TRUE(rig.program->Launcher().Slider_6[3].Selected());
+  EXPECT_TRUE(rig.program->LauncherScreen().Option7.Selected());
+  EXPECT_TRUE(rig.program->LauncherScreen().Slider_6[3].Selected());
 }
 
 TEST_F(LauncherReload, ProgramOfTheListKeepsItsPathAndFolderDuringItsRelease) {
   ReloadAtTheFirstPump();
   const std::size_t before = rig.machine.Calls().size();
-  rig.program->Launcher().List5.DoubleClick(0);
+  rig.program->LauncherScreen().List5.DoubleClick(0);
   EXPECT_EQ(listed_in_pump, "Second") << "the list was read again";
   EXPECT_THAT(Starts(before), ElementsAre("SetCurrentDirectoryA(D:)", "SetCurrentDirectoryA(D:\\FIRST)",
                                           "CreateProcessA(game1)"));
@@ -75,7 +75,7 @@ TEST_F(LauncherReload, ProgramOfTheListKeepsItsPathAndFolderDuringItsRelease) {
 TEST_F(LauncherReload, ProgramOfTheMenuKeepsItsPathAndFolderDuringItsRelease) {
   ReloadAtTheFirstPump();
   const std::size_t before = rig.machine.Calls().size();
-  rig.program->TheTrayMenu().mnuProgram[0].Choose();
+  rig.program->TrayMenu().mnuProgram[0].Choose();
   EXPECT_EQ(listed_in_pump, "Second") << "the list was read again";
   EXPECT_THAT(Starts(before), ElementsAre("SetCurrentDirectoryA(D:)", "SetCurrentDirectoryA(D:\\FIRST)",
                                           "CreateProcessA(game1)"));

@@ -27,7 +27,9 @@ class AutomaticRelease : public testing::Test {
   }
   [[nodiscard]] const Sizes& Allocations() const { return rig.machine.AllAllocations(); }
   [[nodiscard]] std::string Count() const { return rig.Stored("Settings", "CounterValue").value_or("none"); }
-  [[nodiscard]] const std::string& CounterText() { return rig.program->Automatic().lblCounter.Caption(); }
+  [[nodiscard]] const std::string& CounterText() {
+    return rig.program->AutomaticScreen().lblCounter.Caption();
+  }
   /// Runs ticks of the check timer, without the thousands of display refreshes between them.
   void RunChecks(int ticks) {
     rig.program->MainWindow().Timer1.SetEnabled(false);
@@ -64,10 +66,10 @@ TEST_F(AutomaticRelease, ThresholdEqualToTheAvailableMemoryDoesNotTrigger) {
 }
 
 TEST_F(AutomaticRelease, ThresholdIsTheLeadingNumberOfItsText) {
-  rig.Start().Automatic().Text2.SetText("4.5 and more");
+  rig.Start().AutomaticScreen().Text2.SetText("4.5 and more");
   RunChecks(1);
   EXPECT_EQ(Count(), "none");
-  rig.program->Automatic().Text2.SetText("5.5 and more");
+  rig.program->AutomaticScreen().Text2.SetText("5.5 and more");
   RunChecks(1);
   EXPECT_EQ(Count(), "1");
 }
@@ -92,7 +94,7 @@ class AutomaticGate : public AutomaticRelease {
 
 TEST_F(AutomaticGate, AverageOfExactlyTheLimitSkipsTheRelease) {
   StartWithLoad(80);
-  ASSERT_EQ(rig.program->Cpu().AverageCpuUsage(), 80);
+  ASSERT_EQ(rig.program->CpuUsage().AverageCpuUsage(), 80);
   EXPECT_EQ(Allocations(), Sizes{});
   EXPECT_EQ(Count(), "none") << "nothing is counted";
   EXPECT_LT(rig.NewestBarPx(), kFullBarPx) << "there is no spike";
@@ -100,13 +102,13 @@ TEST_F(AutomaticGate, AverageOfExactlyTheLimitSkipsTheRelease) {
 
 TEST_F(AutomaticGate, AverageBelowTheLimitLetsItRun) {
   StartWithLoad(79);
-  ASSERT_EQ(rig.program->Cpu().AverageCpuUsage(), 79);
+  ASSERT_EQ(rig.program->CpuUsage().AverageCpuUsage(), 79);
   EXPECT_EQ(Count(), "1");
 }
 
 TEST_F(AutomaticGate, StoredLimitCountsNotTheOneBeingTyped) {
   StartWithLoad(79);
-  rig.program->Automatic().Text9.SetText("5");
+  rig.program->AutomaticScreen().Text9.SetText("5");
   rig.AdvanceMs(20000);
   EXPECT_EQ(Count(), "2");
 }
@@ -122,7 +124,7 @@ TEST_F(AutomaticGate, MissingLimitIs80) {
 TEST_F(AutomaticRelease, IntervalOf120ChecksEverySecondMinute) {
   rig.Store("Settings", "AutoSecs", "120");
   rig.Start();
-  EXPECT_EQ(rig.program->AutomaticSettings().AutoCheckTicks(), 2);
+  EXPECT_EQ(rig.program->AutomaticRelease().AutoCheckTicks(), 2);
   RunChecks(1);
   EXPECT_EQ(Count(), "none");
   RunChecks(1);
@@ -134,7 +136,7 @@ TEST_F(AutomaticRelease, IntervalOf120ChecksEverySecondMinute) {
 TEST_F(AutomaticRelease, IntervalOf60ChecksEveryMinute) {
   rig.Store("Settings", "AutoSecs", "60");
   rig.Start();
-  EXPECT_EQ(rig.program->AutomaticSettings().AutoCheckTicks(), 1);
+  EXPECT_EQ(rig.program->AutomaticRelease().AutoCheckTicks(), 1);
   EXPECT_EQ(rig.program->MainWindow().Timer2.Interval(), 60000);
   RunChecks(3);
   EXPECT_EQ(Count(), "3");
@@ -196,7 +198,7 @@ TEST_F(AutomaticRelease, AmountIsReadAgainAtEveryAttempt) {
   rig.Store("Settings", "TryTimes", "2");
   rig.Start();
   rig.machine.OnPump([this](int pump) {
-    if (pump == 1) base::Ignore(rig.program->Automatic().List4.SetSelectedIndex(0));
+    if (pump == 1) base::Ignore(rig.program->AutomaticScreen().List4.SetSelectedIndex(0));
   });
   RunChecks(1);
   EXPECT_EQ(Allocations(), (Sizes{kBytesOf24Mb, 12 * 1040000 + 1}));
@@ -252,7 +254,7 @@ TEST_F(AutomaticRelease, LackOfMemoryIsSilentWithTheWarningTicked) {
 TEST_F(AutomaticRelease, CloseInTheMiddleCountsNothingAndKeepsNoBlock) {
   rig.Start();
   rig.machine.OnPump([this](int pump) {
-    if (pump == 100) rig.program->Window().Unload();
+    if (pump == 100) rig.program->Form().Unload();
   });
   RunChecks(1);
   EXPECT_EQ(Count(), "none");
@@ -285,14 +287,15 @@ TEST_F(AutomaticRelease, TwoTimersFireDuringARelease) {
   EXPECT_EQ(Allocations(), (Sizes{kBytesOf24Mb, 16 * 1040000 + 1, 40 * 1040000 + 1}));
   EXPECT_EQ(Count(), "1");
   EXPECT_EQ(rig.machine.OutstandingBlocks(), Sizes{});
-  EXPECT_EQ(rig.program->TimeIntervals().lblNextRelease.Caption(), "Next Release of RAM is due in 5 minutes");
+  EXPECT_EQ(rig.program->TimeIntervalsScreen().lblNextRelease.Caption(),
+            "Next Release of RAM is due in 5 minutes");
 }
 
 TEST_F(AutomaticRelease, ShorterIntervalDuringACountLetsItPassItsEnd) {
   rig.Store("Settings", "AutoSecs", "300");
   rig.Start();
   RunChecks(3);
-  EXPECT_TRUE(rig.program->Automatic().List2.SetSelectedIndex(5).Ok());  // 120
+  EXPECT_TRUE(rig.program->AutomaticScreen().List2.SetSelectedIndex(5).Ok());  // 120
   RunChecks(100);
   EXPECT_EQ(Count(), "none");
 }
@@ -301,8 +304,8 @@ TEST_F(AutomaticRelease, IntervalOf60DuringACountChecksEveryMinuteFromNowOn) {
   rig.Store("Settings", "AutoSecs", "300");
   rig.Start();
   RunChecks(3);
-  EXPECT_TRUE(rig.program->Automatic().List2.SetSelectedIndex(4).Ok());
-  EXPECT_EQ(rig.program->Automatic().List2.SelectedText(), "60");
+  EXPECT_TRUE(rig.program->AutomaticScreen().List2.SetSelectedIndex(4).Ok());
+  EXPECT_EQ(rig.program->AutomaticScreen().List2.SelectedText(), "60");
   RunChecks(2);
   EXPECT_EQ(Count(), "2");
 }
@@ -311,13 +314,13 @@ TEST_F(AutomaticRelease, CountThatPassedItsEndFinallyOverflows) {
   rig.Store("Settings", "AutoSecs", "300");
   rig.Start();
   RunChecks(3);
-  EXPECT_TRUE(rig.program->Automatic().List2.SetSelectedIndex(5).Ok());
+  EXPECT_TRUE(rig.program->AutomaticScreen().List2.SetSelectedIndex(5).Ok());
   RunChecks(32767 - 3);
   EXPECT_TRUE(rig.machine.Boxes().empty());
   RunChecks(1);
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "Run-time error '6':\r\n\r\nOverflow");
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
 }
 
 TEST_F(AutomaticRelease, CounterAtItsLimitOverflowsUntrapped) {
@@ -328,17 +331,17 @@ TEST_F(AutomaticRelease, CounterAtItsLimitOverflowsUntrapped) {
   RunChecks(1);
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "Run-time error '6':\r\n\r\nOverflow");
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
   EXPECT_EQ(Count(), "2147483647");
 }
 
 TEST_F(AutomaticRelease, PauseStopsItAndResumeStartsAFullInterval) {
   rig.Start();
   rig.AdvanceMs(15000);
-  rig.program->Quondix().Command3.Press();
+  rig.program->QuondixScreen().Command3.Press();
   rig.AdvanceMs(10 * kMinuteMs);
   EXPECT_EQ(Count(), "none");
-  rig.program->Quondix().Command3.Press();
+  rig.program->QuondixScreen().Command3.Press();
   rig.AdvanceMs(19999);
   EXPECT_EQ(Count(), "none");
   rig.AdvanceMs(1);
@@ -354,7 +357,7 @@ TEST_F(AutomaticRelease, ResetRestartsTheCountFromToday) {
             "Automatic feature has detected and released RAM 42 times since Q-DIX was started on Monday, "
             "July 6, 2009");
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
-  rig.program->Automatic().Command7.Press();
+  rig.program->AutomaticScreen().Command7.Press();
   EXPECT_EQ(Count(), "0");
   EXPECT_EQ(rig.Stored("Settings", "CounterDate"), "46347");
   EXPECT_EQ(CounterText(),

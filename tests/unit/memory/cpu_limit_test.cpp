@@ -74,11 +74,12 @@ INSTANTIATE_TEST_SUITE_P(
     Both, CpuLimitField,
     testing::Values(
         LimitField{"AutoCPU", screens::kAutomaticTab,
-                   [](app::Form1& program) -> ui::TextBox& { return program.Automatic().Text9; },
-                   [](app::Form1& program) -> ui::CheckBox& { return program.Automatic().Check9; }},
-        LimitField{"TimeCPU", screens::kTimeIntervalsTab,
-                   [](app::Form1& program) -> ui::TextBox& { return program.TimeIntervals().Text10; },
-                   [](app::Form1& program) -> ui::CheckBox& { return program.TimeIntervals().Check10; }}));
+                   [](app::Form1& program) -> ui::TextBox& { return program.AutomaticScreen().Text9; },
+                   [](app::Form1& program) -> ui::CheckBox& { return program.AutomaticScreen().Check9; }},
+        LimitField{
+            "TimeCPU", screens::kTimeIntervalsTab,
+            [](app::Form1& program) -> ui::TextBox& { return program.TimeIntervalsScreen().Text10; },
+            [](app::Form1& program) -> ui::CheckBox& { return program.TimeIntervalsScreen().Check10; }}));
 
 }  // namespace
 }  // namespace qdix::tests

@@ -70,11 +70,11 @@ TEST_F(DayOfReleases, HappenAtTheirExactTimes) {
   rig.machine.SetCpuLoad(10);
   rig.SetAvailableMb(20);
   RunUntil(At(18, 10));
-  rig.program->Quondix().Command3.Press();
+  rig.program->QuondixScreen().Command3.Press();
   rig.SetAvailableMb(5);
   RunUntil(At(19, 10));
   rig.SetAvailableMb(20);
-  rig.program->Quondix().Command3.Press();
+  rig.program->QuondixScreen().Command3.Press();
   RunUntil(At(24, 0));
 
   EXPECT_EQ(releases, (std::vector<Taken>{
@@ -89,7 +89,7 @@ TEST_F(DayOfReleases, HappenAtTheirExactTimes) {
                       }));
   EXPECT_EQ(rig.Stored("Settings", "CounterValue"), "3");
   // Three minutes before the pause, 290 after it.
-  EXPECT_EQ(rig.program->TimeIntervals().lblNextRelease.Caption(),
+  EXPECT_EQ(rig.program->TimeIntervalsScreen().lblNextRelease.Caption(),
             "Next Release of RAM is due in 67 minutes");
   EXPECT_TRUE(rig.machine.Boxes().empty());
   EXPECT_EQ(rig.machine.OutstandingBlocks(), std::vector<std::uint32_t>{});

@@ -20,19 +20,19 @@ class Release : public testing::Test {
   }
 
   void Press(const char* amount, const char* passes) {
-    ASSERT_TRUE(rig.program->Quondix().List1.Choose(amount));
-    rig.program->Quondix().Text1.SetText(passes);
-    rig.program->Quondix().Command1.Press();
+    ASSERT_TRUE(rig.program->QuondixScreen().List1.Choose(amount));
+    rig.program->QuondixScreen().Text1.SetText(passes);
+    rig.program->QuondixScreen().Command1.Press();
   }
 
   double Amount() { return amount_mb; }
   memory::ReleaseOutcome FreeUp(double mb, double passes) {
     amount_mb = mb;
-    return rig.program->Release().FreeUpMemory(
+    return rig.program->MemoryRelease().FreeUpMemory(
         {.amount_mb = base::Callback<double()>::To<&Release::Amount>(*this), .passes = passes});
   }
 
-  ui::Button& Button() { return rig.program->Quondix().Command1; }
+  ui::Button& Button() { return rig.program->QuondixScreen().Command1; }
 
   ProgramRig rig;
   double amount_mb = 0;
@@ -112,16 +112,16 @@ TEST_F(Release, PassCountIsReadOnceAndTheAmountAtEveryPass) {
   rig.machine.OnPump([&](int) {
     if (changed) return;
     changed = true;
-    rig.program->Quondix().Text1.SetText("9");
-    EXPECT_TRUE(rig.program->Quondix().List1.Choose("2 MB"));
+    rig.program->QuondixScreen().Text1.SetText("9");
+    EXPECT_TRUE(rig.program->QuondixScreen().List1.Choose("2 MB"));
   });
   Press("1 MB", "2");
   EXPECT_EQ(rig.machine.AllAllocations(), (Sizes{1040001, 2080001}));
 }
 
 TEST_F(Release, NoSelectionAllocatesASingleByte) {
-  ASSERT_TRUE(rig.program->Quondix().List1.SetSelectedIndex(ui::ListControl::kNoSelection).Ok());
-  rig.program->Quondix().Command1.Press();
+  ASSERT_TRUE(rig.program->QuondixScreen().List1.SetSelectedIndex(ui::ListControl::kNoSelection).Ok());
+  rig.program->QuondixScreen().Command1.Press();
   EXPECT_EQ(rig.machine.AllAllocations(), (Sizes{1}));
 }
 
@@ -137,7 +137,7 @@ TEST_F(Release, OutOfMemoryOnTheSecondPassEndsTheRunWithOneWarning) {
 }
 
 TEST_F(Release, ManualReleaseWarnsEvenWithTheWarningSwitchedOff) {
-  rig.program->Startup().Check4.SetTicked(true);
+  rig.program->StartupScreen().Check4.SetTicked(true);
   rig.machine.LimitAllocatableBytes(1000);
   Press("12 MB", "1");
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
@@ -181,7 +181,7 @@ TEST_F(Release, SilencedWarningShowsNothing) {
   struct Silence {
     bool Yes() { return true; }
   } silence;
-  EXPECT_EQ(rig.program->Release().FreeUpMemory(
+  EXPECT_EQ(rig.program->MemoryRelease().FreeUpMemory(
                 {.amount_mb = base::Callback<double()>::To<&Release::Amount>(*this),
                  .passes = 2,
                  .warning_is_silenced = base::Callback<bool()>::To<&Silence::Yes>(silence)}),
@@ -198,7 +198,7 @@ TEST_F(Release, CheckBetweenPassesEndsTheRelease) {
       return asked.size() == 3;
     }
   } question;
-  EXPECT_EQ(rig.program->Release().FreeUpMemory(
+  EXPECT_EQ(rig.program->MemoryRelease().FreeUpMemory(
                 {.amount_mb = base::Callback<double()>::To<&Release::Amount>(*this),
                  .passes = 5,
                  .enough_is_free = base::Callback<bool(double)>::To<&Question::IsFree>(question)}),
@@ -231,7 +231,7 @@ TEST_F(Release, DisplayIsRefreshedDuringARelease) {
     if (++pumps == 100) rig.AdvanceMs(750);
   });
   Press("12 MB", "1");
-  EXPECT_EQ(rig.program->Window().Caption(), "23.45 MB   Q-DIX");
+  EXPECT_EQ(rig.program->Form().Caption(), "23.45 MB   Q-DIX");
 }
 
 class CloseInRelease : public Release, public testing::WithParamInterface<int> {};
@@ -241,11 +241,11 @@ TEST_P(CloseInRelease, UnloadsOnceFreesTheBlocksAndDoesNothingElse) {
   std::size_t calls_at_close = 0;
   rig.machine.OnPump([&](int number) {
     if (number - pumps_before != GetParam()) return;
-    rig.program->Window().Unload();
+    rig.program->Form().Unload();
     calls_at_close = rig.machine.Calls().size();
   });
   Press("512 MB", "1E9");
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
   EXPECT_EQ(rig.machine.PumpCount() - pumps_before, GetParam()) << "no pump after the close";
   EXPECT_TRUE(rig.machine.OutstandingBlocks().empty());
   EXPECT_EQ(rig.machine.AllAllocations().size(), GetParam() > 10000 ? 4U : 2U);
@@ -266,7 +266,7 @@ TEST_F(Release, CloseInANestedReleaseUnwindsBoth) {
       base::Ignore(Button().OnClick());
     } else if (depth == 1) {
       depth = 2;
-      rig.program->Window().Unload();
+      rig.program->Form().Unload();
     }
   });
   Press("12 MB", "3");
@@ -276,15 +276,15 @@ TEST_F(Release, CloseInANestedReleaseUnwindsBoth) {
 
 TEST_F(Release, CloseWhileTheWarningIsOpenShowsNothingMore) {
   rig.machine.LimitAllocatableBytes(1000);
-  rig.machine.WhileBoxIsOpen([&] { rig.program->Window().Unload(); });
+  rig.machine.WhileBoxIsOpen([&] { rig.program->Form().Unload(); });
   Press("12 MB", "2");
   EXPECT_EQ(rig.machine.Boxes().size(), 1U);
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
   EXPECT_FALSE(Button().Enabled());
 }
 
 TEST_F(Release, NoPassBeginsAfterTheClose) {
-  rig.program->Window().Unload();
+  rig.program->Form().Unload();
   EXPECT_EQ(FreeUp(12, 1), memory::ReleaseOutcome::kUnloaded);
   EXPECT_EQ(FreeUp(12, 0), memory::ReleaseOutcome::kUnloaded);
   EXPECT_TRUE(rig.machine.AllAllocations().empty());

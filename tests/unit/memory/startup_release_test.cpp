@@ -46,7 +46,7 @@ TEST_F(StartupRelease, DelayOf61SecondsIsAOneMinuteTickAndAOneSecondTick) {
   StartWithDelay("61");
   rig.AdvanceMs(60 * kSecondMs);
   EXPECT_EQ(rig.program->MainWindow().Timer3.Interval(), 1000);
-  EXPECT_EQ(rig.program->StartupSettings().StartupDelayLeft(), 0);
+  EXPECT_EQ(rig.program->StartupRelease().StartupDelayLeft(), 0);
 }
 
 TEST_F(StartupRelease, DelayOf300SecondsIsFiveMinuteTicksTheLastSetTo60Seconds) {
@@ -54,7 +54,7 @@ TEST_F(StartupRelease, DelayOf300SecondsIsFiveMinuteTicksTheLastSetTo60Seconds) 
   const std::vector<int> left_after_minutes{240, 180, 120, 0};
   for (const int left_seconds : left_after_minutes) {
     rig.AdvanceMs(kMinuteMs);
-    EXPECT_EQ(rig.program->StartupSettings().StartupDelayLeft(), left_seconds);
+    EXPECT_EQ(rig.program->StartupRelease().StartupDelayLeft(), left_seconds);
     EXPECT_EQ(rig.program->MainWindow().Timer3.Interval(), 60000);
     EXPECT_EQ(Allocations(), Sizes{});
   }
@@ -107,9 +107,9 @@ TEST_F(StartupRelease, LackOfMemoryIsSilentWithTheWarningTicked) {
 TEST_F(StartupRelease, PauseCancelsItForThisRun) {
   StartWithDelay("240");
   rig.AdvanceMs(90 * kSecondMs);
-  rig.program->Quondix().Command3.Press();
+  rig.program->QuondixScreen().Command3.Press();
   rig.AdvanceMs(10 * kSecondMs);
-  rig.program->Quondix().Command3.Press();
+  rig.program->QuondixScreen().Command3.Press();
   rig.program->MainWindow().Timer1.SetEnabled(false);
   rig.AdvanceMs(60 * kMinuteMs);
   EXPECT_EQ(Allocations(), Sizes{});
@@ -117,17 +117,17 @@ TEST_F(StartupRelease, PauseCancelsItForThisRun) {
 
 TEST_F(StartupRelease, ErrorOfTheGraphIsShownAndNothingIsReleased) {
   StartWithDelay("1");
-  rig.program->Quondix().XGraphMeter1.SetMax(0);
+  rig.program->QuondixScreen().XGraphMeter1.SetMax(0);
   rig.AdvanceMs(kSecondMs);
   EXPECT_EQ(Allocations(), Sizes{});
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "Run-time error '11':\r\n\r\nDivision by zero");
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
 }
 
 TEST_F(StartupRelease, CloseInTheMiddleKeepsNoBlock) {
   StartWithDelay("1");
-  rig.machine.OnPump([this](int) { rig.program->Window().Unload(); });
+  rig.machine.OnPump([this](int) { rig.program->Form().Unload(); });
   rig.AdvanceMs(kSecondMs);
   EXPECT_EQ(Allocations(), Sizes{kBytesOf16Mb});
   EXPECT_EQ(rig.machine.OutstandingBlocks(), Sizes{});

@@ -13,7 +13,7 @@ TEST(DefaultThreshold, FollowsTheWholeMegabytesOfTheMemory) {
        {1.0, 32.0, 32.99, 33.0, 65.0, 65.99, 66.0, 97.0, 97.99, 98.0, 131.0, 131.99, 132.0, 500.0}) {
     ProgramRig rig(MemoryBytes(mb));
     rig.SetHasRunBefore();
-    thresholds.emplace_back(mb, rig.Start().Automatic().Text2.Text());
+    thresholds.emplace_back(mb, rig.Start().AutomaticScreen().Text2.Text());
   }
   EXPECT_EQ(thresholds, (std::vector<std::pair<double, std::string>>{{1.0, "1"},
                                                                      {32.0, "1"},
@@ -49,7 +49,7 @@ TEST_F(ClearedLimits, LetTheAutomaticReleaseRunOnABusyMachine) {
   rig.Start();
   rig.SetAvailableMb(1);
   rig.AdvanceMs(20000);
-  ASSERT_EQ(rig.program->Cpu().AverageCpuUsage(), 100);
+  ASSERT_EQ(rig.program->CpuUsage().AverageCpuUsage(), 100);
   EXPECT_EQ(rig.machine.AllAllocations(), (std::vector<std::uint32_t>{33280001}));
   EXPECT_EQ(rig.Stored("Settings", "CounterValue"), "1");
 }
@@ -60,7 +60,7 @@ TEST_F(ClearedLimits, LetTheTimedReleaseRunOnABusyMachine) {
   rig.Start();
   rig.SetAvailableMb(1);
   rig.AdvanceMs(5 * kMinuteMs);
-  ASSERT_EQ(rig.program->Cpu().AverageCpuUsage(), 100);
+  ASSERT_EQ(rig.program->CpuUsage().AverageCpuUsage(), 100);
   EXPECT_EQ(rig.machine.AllAllocations(), (std::vector<std::uint32_t>{33280001}));
   EXPECT_FALSE(rig.program->MainWindow().Timer5.Enabled());
 }

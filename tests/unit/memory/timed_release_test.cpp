@@ -25,7 +25,9 @@ class TimedRelease : public testing::Test {
     rig.AdvanceMs(minutes * kMinuteMs);
   }
   [[nodiscard]] const Sizes& Allocations() const { return rig.machine.AllAllocations(); }
-  [[nodiscard]] const std::string& Label() { return rig.program->TimeIntervals().lblNextRelease.Caption(); }
+  [[nodiscard]] const std::string& Label() {
+    return rig.program->TimeIntervalsScreen().lblNextRelease.Caption();
+  }
   static std::string DueIn(int minutes) {
     return "Next Release of RAM is due in " + std::to_string(minutes) + " minutes";
   }
@@ -115,7 +117,7 @@ TEST_F(TimedGate, RetryMayRelease) {
 
 TEST_F(TimedGate, RetryContinuesWhilePaused) {
   rig.AdvanceMs(kMinuteMs);
-  rig.program->Quondix().Command3.Press();
+  rig.program->QuondixScreen().Command3.Press();
   EXPECT_TRUE(rig.program->MainWindow().Timer5.Enabled());
   EXPECT_FALSE(rig.program->MainWindow().Timer4.Enabled());
 }
@@ -135,7 +137,7 @@ class WaitingRelease : public TimedGate {
 };
 
 TEST_F(WaitingRelease, RunsDespiteAPause) {
-  rig.program->Quondix().Command3.Press();
+  rig.program->QuondixScreen().Command3.Press();
   EXPECT_EQ(Allocations(), Sizes{});
   rig.AdvanceMs(1000);
   EXPECT_EQ(Allocations(), Sizes{kBytesOf40Mb});
@@ -143,7 +145,7 @@ TEST_F(WaitingRelease, RunsDespiteAPause) {
 
 TEST_F(WaitingRelease, IsCancelledByUnticking) {
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kTimeIntervalsTab);
-  rig.program->TimeIntervals().Check3.Press();
+  rig.program->TimeIntervalsScreen().Check3.Press();
   rig.AdvanceMs(10 * kMinuteMs);
   EXPECT_EQ(Allocations(), Sizes{});
 }
@@ -153,9 +155,9 @@ TEST_F(TimedRelease, ChangingTheUnitContinuesTheCount) {
   rig.Start();
   RunMinutes(10);
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kTimeIntervalsTab);
-  rig.program->TimeIntervals().Option5.Press();
+  rig.program->TimeIntervalsScreen().Option5.Press();
   EXPECT_EQ(Label(), DueIn(50)) << "an hour minus ten minutes";
-  rig.program->TimeIntervals().Option4.Press();
+  rig.program->TimeIntervalsScreen().Option4.Press();
   EXPECT_EQ(Label(), DueIn(20));
 }
 
@@ -163,7 +165,7 @@ TEST_F(TimedRelease, ChoosingAnIntervalRestartsTheCountdown) {
   rig.Start();
   RunMinutes(3);
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kTimeIntervalsTab);
-  EXPECT_TRUE(rig.program->TimeIntervals().lstTime.Choose("10"));
+  EXPECT_TRUE(rig.program->TimeIntervalsScreen().lstTime.Choose("10"));
   EXPECT_EQ(Label(), DueIn(10));
 }
 
@@ -173,7 +175,7 @@ TEST_F(TimedRelease, ShorterIntervalShowsNegativeMinutesAndIsDueAtOnce) {
   rig.Start();
   RunMinutes(100);
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kTimeIntervalsTab);
-  rig.program->TimeIntervals().Option4.Press();
+  rig.program->TimeIntervalsScreen().Option4.Press();
   EXPECT_EQ(Label(), DueIn(-95));
   RunMinutes(1);
   EXPECT_EQ(Allocations(), Sizes{kBytesOf40Mb});
@@ -220,26 +222,26 @@ TEST_F(TimedRelease, MinuteCountOverflowsUntrapped) {
   RunMinutes(1);
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "Run-time error '6':\r\n\r\nOverflow");
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
 }
 
 TEST_F(TimedRelease, UntickingStopsHidesTheLabelAndForgetsTheMinutes) {
   rig.Start();
   RunMinutes(3);
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kTimeIntervalsTab);
-  rig.program->TimeIntervals().Check3.Press();
-  EXPECT_FALSE(rig.program->TimeIntervals().lblNextRelease.Visible());
+  rig.program->TimeIntervalsScreen().Check3.Press();
+  EXPECT_FALSE(rig.program->TimeIntervalsScreen().lblNextRelease.Visible());
   EXPECT_EQ(rig.Stored("Settings", "TimeActive"), "0");
   RunMinutes(10);
   EXPECT_EQ(Allocations(), Sizes{});
-  rig.program->TimeIntervals().Check3.Press();
-  EXPECT_TRUE(rig.program->TimeIntervals().lblNextRelease.Visible());
+  rig.program->TimeIntervalsScreen().Check3.Press();
+  EXPECT_TRUE(rig.program->TimeIntervalsScreen().lblNextRelease.Visible());
   EXPECT_EQ(Label(), DueIn(5));
 }
 
 TEST_F(TimedRelease, CloseInTheMiddleKeepsNoBlock) {
   rig.Start();
-  rig.machine.OnPump([this](int) { rig.program->Window().Unload(); });
+  rig.machine.OnPump([this](int) { rig.program->Form().Unload(); });
   RunMinutes(5);
   EXPECT_EQ(Allocations(), Sizes{kBytesOf40Mb});
   EXPECT_EQ(rig.machine.OutstandingBlocks(), Sizes{});

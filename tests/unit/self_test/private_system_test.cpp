@@ -10,9 +10,9 @@
 #include "app/form1.h"
 #include "memory/memory_block.h"
 #include "os/simulated/simulated_machine.h"
-#include "shell/registry_key.h"
-#include "shell/registry_paths.h"
-#include "shell/settings_store.h"
+#include "registry/registry_key.h"
+#include "registry/registry_paths.h"
+#include "registry/settings_store.h"
 
 namespace qdix::tests {
 namespace {
@@ -55,13 +55,13 @@ class PrivateSystem : public testing::Test {
 
 TEST_F(PrivateSystem, EveryRegistryRootIsInsideItsOwnKey) {
   EXPECT_TRUE(
-      shell::RegistryKey::Create(Registry(), os::kHkeyLocalMachine, "SOFTWARE\\QDIX").WriteText("A", "1"));
+      registry::RegistryKey::Create(Registry(), os::kHkeyLocalMachine, "SOFTWARE\\QDIX").WriteText("A", "1"));
   EXPECT_TRUE(
-      shell::RegistryKey::Create(Registry(), os::kHkeyCurrentUser, "Software\\QDIX").WriteText("B", "2"));
+      registry::RegistryKey::Create(Registry(), os::kHkeyCurrentUser, "Software\\QDIX").WriteText("B", "2"));
   EXPECT_EQ(machine.RegistryText(os::kHkeyCurrentUser, InOwnKey("Root2", "SOFTWARE\\QDIX"), "A"), "1");
   EXPECT_EQ(machine.RegistryText(os::kHkeyCurrentUser, InOwnKey("Root1", "Software\\QDIX"), "B"), "2");
   const auto read =
-      shell::RegistryKey::Open(Registry(), os::kHkeyLocalMachine, "SOFTWARE\\QDIX", os::kKeyQueryValue);
+      registry::RegistryKey::Open(Registry(), os::kHkeyLocalMachine, "SOFTWARE\\QDIX", os::kKeyQueryValue);
   EXPECT_EQ(read.ReadText("A"), "1");
 }
 
@@ -76,10 +76,10 @@ TEST_F(PrivateSystem, OldRegistryCallsAlsoUseItsOwnKey) {
 }
 
 TEST_F(PrivateSystem, PathByNamesAlsoUsesItsOwnKey) {
-  shell::RegistryPaths paths(Registry());
+  registry::RegistryPaths paths(Registry());
   paths.CreateRegistryKey("A\\B", os::kHkeyLocalMachine);
   const std::int32_t key = paths.GetSubkeyHandle("HKEY_LOCAL_MACHINE\\A\\B");
-  ASSERT_NE(key, shell::RegistryPaths::kNoKey);
+  ASSERT_NE(key, registry::RegistryPaths::kNoKey);
   EXPECT_FALSE(paths.CloseSubkey(key));
 }
 
@@ -95,7 +95,7 @@ TEST_F(PrivateSystem, RootsHaveNoValuesAndAcceptNone) {
 }
 
 TEST_F(PrivateSystem, ValueInItsOwnKeyIsDeleted) {
-  auto key = shell::RegistryKey::Create(Registry(), os::kHkeyCurrentUser, "Software\\QDIX");
+  auto key = registry::RegistryKey::Create(Registry(), os::kHkeyCurrentUser, "Software\\QDIX");
   ASSERT_TRUE(key.WriteText("B", "2"));
   EXPECT_TRUE(key.DeleteValue("B"));
   EXPECT_EQ(machine.RegistryText(os::kHkeyCurrentUser, InOwnKey("Root1", "Software\\QDIX"), "B"),
@@ -151,7 +151,7 @@ TEST_F(PrivateSystem, EveryFileCanBeFoundAndItsOwnKeysFlushed) {
   os::FoundFile found;
   EXPECT_TRUE(Files().FindFirstFileA("C:\\A.TXT", found));
   EXPECT_EQ(found.dos_name, "A.TXT");
-  auto key = shell::RegistryKey::Create(Registry(), os::kHkeyLocalMachine, "SOFTWARE\\QDIX");
+  auto key = registry::RegistryKey::Create(Registry(), os::kHkeyLocalMachine, "SOFTWARE\\QDIX");
   EXPECT_TRUE(key.Flush());
   EXPECT_EQ(Registry().RegFlushKey(os::kHkeyLocalMachine), os::kErrorSuccess) << "there is nothing to write";
 }
@@ -208,15 +208,16 @@ TEST_F(PrivateSystem, MessagesAreKeptInOneLineUntilTheyAreRead) {
 TEST_F(PrivateSystem, FirstStartAndUseOfEverythingLeaveTheMachineAlone) {
   const auto form1 = std::make_unique<app::Form1>(system.GetSystem());
   form1->Start();
-  ASSERT_FALSE(form1->Window().Unloaded()) << system.Dialogs().TakeTexts();
+  ASSERT_FALSE(form1->Form().Unloaded()) << system.Dialogs().TakeTexts();
   for (int tab = 0; tab < form1->MainWindow().SSTab1.Count(); ++tab) {
     form1->MainWindow().SSTab1.ChooseTab(tab);
-    for (ui::Button* button : {&form1->Startup().Command5, &form1->Quondix().Command21}) button->Press();
-    form1->Startup().Check2.Press();
-    form1->Startup().Check4.Press();
+    for (ui::Button* button : {&form1->StartupScreen().Command5, &form1->QuondixScreen().Command21})
+      button->Press();
+    form1->StartupScreen().Check2.Press();
+    form1->StartupScreen().Check4.Press();
   }
-  form1->Window().Unload();
-  EXPECT_EQ(shell::SettingsStore(Registry()).GetNumber(shell::kSettingsSection, "LastTab", -1), 7);
+  form1->Form().Unload();
+  EXPECT_EQ(registry::SettingsStore(Registry()).GetNumber(registry::kSettingsSection, "LastTab", -1), 7);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ class DesktopShortcutTest : public testing::Test {
     rig.SetHasRunBefore();
     rig.Start().MainWindow().SSTab1.ChooseTab(screens::kStartupTab);
   }
-  void Press() { rig.program->Startup().Command5.Press(); }
+  void Press() { rig.program->StartupScreen().Command5.Press(); }
   /// Returns the calls of one press, without those that only query.
   Calls CallsOfAPress() {
     const std::size_t before = rig.machine.Calls().size();
@@ -99,9 +99,9 @@ TEST_F(DesktopShortcutTest, IsNotMadeWithoutADesktopFolder) {
 }
 
 TEST_F(DesktopShortcutTest, WindowCanBeClosedDuringTheWait) {
-  rig.machine.OnPump([this](int) { rig.program->Window().Unload(); });
+  rig.machine.OnPump([this](int) { rig.program->Form().Unload(); });
   Press();
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
   EXPECT_EQ(TargetAt(kOnDesktop), kProgram);
 }
 

@@ -23,7 +23,7 @@ class HelpTest : public testing::Test {
   HelpTest() { rig.SetHasRunBefore(); }
   void PressOnTab(int tab, const char* name) {
     rig.program->MainWindow().SSTab1.ChooseTab(tab);
-    auto* const button = static_cast<ui::Button*>(rig.program->Window().Find(name));
+    auto* const button = static_cast<ui::Button*>(rig.program->Form().Find(name));
     ASSERT_NE(button, nullptr) << name;
     button->Press();
   }
@@ -37,7 +37,7 @@ TEST_P(HelpButtons, OpensTheTopicOfItsTab) {
   PressOnTab(GetParam().tab, GetParam().name);
   EXPECT_THAT(rig.machine.StartedPrograms(),
               ElementsAre(std::string("C:\\Program Files\\QDIX\\") + GetParam().command));
-  EXPECT_EQ(rig.program->Window().Find(GetParam().name)->Caption(), "Help / Tips");
+  EXPECT_EQ(rig.program->Form().Find(GetParam().name)->Caption(), "Help / Tips");
 }
 
 INSTANTIATE_TEST_SUITE_P(Tabs, HelpButtons,
@@ -52,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(Tabs, HelpButtons,
 
 TEST_F(HelpTest, ButtonOfTheSwapFileTabHasTheLightBulb) {
   rig.Start();
-  EXPECT_EQ(rig.program->SwapFile().Command20.PictureId(), screens::kLightBulbPicture);
+  EXPECT_EQ(rig.program->SwapFileScreen().Command20.PictureId(), screens::kLightBulbPicture);
 }
 
 TEST_F(HelpTest, ProgramInARootFolderUsesASingleSeparator) {
@@ -100,14 +100,14 @@ TEST_F(HelpTest, MissingViewerIsAnUntrappedErrorAndTypedTextIsKept) {
   rig.Start();
   rig.machine.RemoveProgram("C:\\Program Files\\QDIX\\help.exe");
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kAutomaticTab);
-  rig.program->Automatic().Text9.SetFocus();
-  rig.program->Automatic().Text9.SelectAll();
-  rig.program->Automatic().Text9.TypeText("55");
-  rig.program->Automatic().Command22.Press();
+  rig.program->AutomaticScreen().Text9.SetFocus();
+  rig.program->AutomaticScreen().Text9.SelectAll();
+  rig.program->AutomaticScreen().Text9.TypeText("55");
+  rig.program->AutomaticScreen().Command22.Press();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "Run-time error '53':\r\n\r\nFile not found");
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX");
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
   EXPECT_EQ(rig.Stored("Settings", "AutoCPU"), "55");
   EXPECT_EQ(rig.Stored("Settings", "LastTab"), "1");
 }
@@ -124,15 +124,15 @@ TEST_F(HelpTest, MissingManualIsReportedByTheShell) {
   rig.Start();
   PressOnTab(screens::kAboutTab, "Command6");
   EXPECT_THAT(rig.machine.Boxes(), IsEmpty());
-  EXPECT_FALSE(rig.program->Window().Unloaded());
+  EXPECT_FALSE(rig.program->Form().Unloaded());
 }
 
 TEST(FirstHelp, OpensWithTheWindowOfAFirstStartAndNeverAgain) {
   ProgramRig rig;
   rig.Start();
   EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("C:\\Program Files\\QDIX\\help.exe 0"));
-  rig.program->Window().Hide();
-  rig.program->Window().Show();
+  rig.program->Form().Hide();
+  rig.program->Form().Show();
   EXPECT_EQ(rig.machine.StartedPrograms().size(), 1U);
 }
 
@@ -141,7 +141,7 @@ TEST(FirstHelp, WaitsForAWindowThatStartsHidden) {
   rig.Store("Startup", "StartDisplay", "3");
   rig.Start();
   EXPECT_THAT(rig.machine.StartedPrograms(), IsEmpty());
-  rig.program->Window().Show();
+  rig.program->Form().Show();
   EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("C:\\Program Files\\QDIX\\help.exe 0"));
 }
 
@@ -157,11 +157,11 @@ TEST(FirstHelp, WithoutAViewerTheFirstStartShowsOnlyTheWindow) {
   rig.machine.RemoveProgram("C:\\Program Files\\QDIX\\help.exe");
   rig.Start();
   EXPECT_THAT(rig.machine.Boxes(), IsEmpty());
-  EXPECT_FALSE(rig.program->Window().Unloaded());
-  EXPECT_TRUE(rig.program->Window().Shown());
+  EXPECT_FALSE(rig.program->Form().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Shown());
   rig.machine.AddProgram("C:\\Program Files\\QDIX\\help.exe");
-  rig.program->Window().Hide();
-  rig.program->Window().Show();
+  rig.program->Form().Hide();
+  rig.program->Form().Show();
   EXPECT_THAT(rig.machine.StartedPrograms(), IsEmpty()) << "the first steps open only at the first start";
 }
 
@@ -169,7 +169,7 @@ TEST(FirstHelp, AlsoOpensInAWindowThatAnotherProgramShows) {
   ProgramRig rig;
   rig.Store("Startup", "StartDisplay", "3");
   rig.Start();
-  rig.program->Window().UserChangedVisible(true);
+  rig.program->Form().UserChangedVisible(true);
   EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("C:\\Program Files\\QDIX\\help.exe 0"));
 }
 

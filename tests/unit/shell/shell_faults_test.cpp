@@ -25,15 +25,16 @@ void PressAllHelpButtons(app::Form1& program) {
     screens::Tab tab;
     ui::Button& button;
   };
-  const std::array<HelpButton, 9> buttons{{{screens::kQuondixTab, program.Quondix().Command21},
-                                           {screens::kAutomaticTab, program.Automatic().Command22},
-                                           {screens::kTimeIntervalsTab, program.TimeIntervals().Command23},
-                                           {screens::kStartupTab, program.Startup().Command24},
-                                           {screens::kLauncherTab, program.Launcher().Command16},
-                                           {screens::kCacheTab, program.Cache().Command19},
-                                           {screens::kSwapFileTab, program.SwapFile().Command20},
-                                           {screens::kAboutTab, program.About().Command17},
-                                           {screens::kAboutTab, program.About().Command6}}};
+  const std::array<HelpButton, 9> buttons{
+      {{screens::kQuondixTab, program.QuondixScreen().Command21},
+       {screens::kAutomaticTab, program.AutomaticScreen().Command22},
+       {screens::kTimeIntervalsTab, program.TimeIntervalsScreen().Command23},
+       {screens::kStartupTab, program.StartupScreen().Command24},
+       {screens::kLauncherTab, program.LauncherScreen().Command16},
+       {screens::kCacheTab, program.CacheScreen().Command19},
+       {screens::kSwapFileTab, program.SwapFileScreen().Command20},
+       {screens::kAboutTab, program.AboutScreen().Command17},
+       {screens::kAboutTab, program.AboutScreen().Command6}}};
   for (const HelpButton& help : buttons) {
     program.MainWindow().SSTab1.ChooseTab(help.tab);
     help.button.Press();
@@ -51,15 +52,15 @@ void UseShell(ProgramRig& rig) {
   rig.machine.WriteFile(kForeignShortcut, "somebody's");
   rig.machine.WriteFile(kManual, "<html>");
   rig.Start();
-  if (rig.program->Window().Unloaded()) return;
+  if (rig.program->Form().Unloaded()) return;
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kStartupTab);
-  for (int press = 0; press < 3; ++press) rig.program->Startup().Check2.Press();
-  rig.program->Startup().Command5.Press();
+  for (int press = 0; press < 3; ++press) rig.program->StartupScreen().Check2.Press();
+  rig.program->StartupScreen().Command5.Press();
   rig.machine.MakeNoRecentShortcuts();
-  rig.program->Startup().Command5.Press();
+  rig.program->StartupScreen().Command5.Press();
   rig.machine.OpenWindow("QDIXMain", "Quondix Help");
   PressAllHelpButtons(*rig.program);
-  rig.program->Window().Unload();
+  rig.program->Form().Unload();
 }
 
 /// An icon that the taskbar does not remove on request is out of the program's hands.
@@ -69,7 +70,7 @@ bool RemovalOfIconWasAsked(const os::SimulatedMachine& machine) {
 }
 
 void ExpectSoundEnd(ProgramRig& rig, int call) {
-  EXPECT_TRUE(rig.program->Window().Unloaded()) << call;
+  EXPECT_TRUE(rig.program->Form().Unloaded()) << call;
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << call;
   EXPECT_TRUE(rig.machine.Misuses().empty()) << call;
   EXPECT_TRUE(rig.machine.TrayIconCount() == 0 || RemovalOfIconWasAsked(rig.machine)) << call;

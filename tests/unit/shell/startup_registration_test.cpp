@@ -28,7 +28,7 @@ class StartupRegistrationTest : public testing::Test {
   }
   [[nodiscard]] bool Exists(const char* path) const { return rig.machine.ReadFile(path).has_value(); }
   void StartOnTab() { rig.Start().MainWindow().SSTab1.ChooseTab(screens::kStartupTab); }
-  ui::CheckBox& Check2() { return rig.program->Startup().Check2; }
+  ui::CheckBox& Check2() { return rig.program->StartupScreen().Check2; }
 
   ProgramRig rig;
 };
@@ -117,7 +117,7 @@ TEST_F(StartupRegistrationTest, MissingRunKeyIsNotCreated) {
   ProgramRig bare;
   bare.SetHasRunBefore();
   bare.Start().MainWindow().SSTab1.ChooseTab(screens::kStartupTab);
-  bare.program->Startup().Check2.Press();
+  bare.program->StartupScreen().Check2.Press();
   EXPECT_FALSE(bare.machine.KeyExists(os::kHkeyLocalMachine, kRunKey));
   EXPECT_TRUE(bare.machine.Boxes().empty());
 }
@@ -126,7 +126,7 @@ TEST_F(StartupRegistrationTest, FirstStartThatCouldNotRegisterShowsTheBoxClear) 
   ProgramRig bare;
   bare.Start();
   EXPECT_FALSE(bare.machine.KeyExists(os::kHkeyLocalMachine, kRunKey));
-  EXPECT_FALSE(bare.program->Startup().Check2.Ticked());
+  EXPECT_FALSE(bare.program->StartupScreen().Check2.Ticked());
 }
 
 TEST_F(StartupRegistrationTest, ProgramInARootFolderUsesASingleSeparator) {

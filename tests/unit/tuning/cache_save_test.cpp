@@ -26,7 +26,7 @@ std::string Ini(const std::string& entry) { return "WritePrivateProfileStringA("
 
 class CacheSaving : public testing::Test {
  protected:
-  screens::CacheScreen& Tab() { return rig.program->Cache(); }
+  screens::CacheScreen& Tab() { return rig.program->CacheScreen(); }
   void Start() { rig.StartAt(screens::kCacheTab); }
   void Save(const std::vector<int>& answers) {
     rig.Answer(answers);
@@ -124,7 +124,7 @@ TEST_F(CacheSaving, SecondSaveNamesTheTemplateEvenWithoutTheTemplatesKey) {
   for (const char* expected : {"none", "Quondix"}) {
     bare.machine.AnswerNextBox(os::kIdYes);
     bare.machine.AnswerNextBox(os::kIdNo);
-    bare.program->Cache().Command11.Press();
+    bare.program->CacheScreen().Command11.Press();
     EXPECT_EQ(bare.machine.RegistryText(os::kHkeyLocalMachine, kTemplatesPath, "").value_or("none"),
               expected);
   }
@@ -205,14 +205,14 @@ TEST_F(CacheSaving, RestartIsOfferedLast) {
   EXPECT_EQ(rig.machine.Boxes()[1].title, "Q-DIX");
   EXPECT_EQ(rig.machine.Boxes()[1].flags, os::kMbYesNo | os::kMbIconInformation);
   EXPECT_EQ(rig.machine.RestartCount(), 0);
-  EXPECT_FALSE(rig.program->Window().Unloaded());
+  EXPECT_FALSE(rig.program->Form().Unloaded());
 }
 
 TEST_F(CacheSaving, YesRestartsTheMachineAndEndsTheProgram) {
   Start();
   Save({os::kIdYes, os::kIdYes});
   EXPECT_EQ(rig.machine.RestartCount(), 1);
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
   EXPECT_EQ(rig.machine.TrayIconCount(), 0);
   EXPECT_EQ(rig.Stored("Settings", "LastTab"), "5");
 }
@@ -221,7 +221,7 @@ TEST_F(CacheSaving, WindowClosedDuringTheQuestionWritesNothing) {
   Start();
   const std::size_t before = rig.machine.Calls().size();
   rig.machine.WhileBoxIsOpen([this] {
-    rig.program->Window().Unload();
+    rig.program->Form().Unload();
     rig.machine.EndBoxes();
   });
   Tab().Command11.Press();
@@ -241,7 +241,7 @@ TEST_F(CacheSaving, EntriesBeyond16BitsAreAnOverflow) {
   Save({os::kIdYes});
   EXPECT_EQ(rig.BoxTexts().back(), "Run-time error '6':\r\n\r\nOverflow");
   EXPECT_EQ(rig.SystemIni(), "[vcache]\r\nMinFileCache=1024\r\n");
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
 }
 
 TEST_F(CacheSaving, WriteProtectedFileStaysUnchangedSilently) {

@@ -34,7 +34,7 @@ class CacheTab : public testing::Test {
  protected:
   explicit CacheTab(double ram_mb = 64) : rig(ram_mb) {}
 
-  screens::CacheScreen& Tab() { return rig.program->Cache(); }
+  screens::CacheScreen& Tab() { return rig.program->CacheScreen(); }
   void Start() { rig.StartAt(screens::kCacheTab); }
   Shown Min() { return Look(Tab().Slider1, Tab().lblMinCache); }
   Shown Max() { return Look(Tab().Slider2, Tab().lblMaxCache); }
@@ -319,11 +319,11 @@ class SavedPreset : public testing::TestWithParam<double> {
   static std::string AfterRestart(double ram_mb, std::string_view preset) {
     TuningRig rig(ram_mb);
     rig.StartAt(screens::kCacheTab);
-    EXPECT_TRUE(rig.program->Cache().Combo2.Choose(preset)) << preset;
+    EXPECT_TRUE(rig.program->CacheScreen().Combo2.Choose(preset)) << preset;
     rig.Answer({os::kIdYes, os::kIdNo});
-    rig.program->Cache().Command11.Press();
+    rig.program->CacheScreen().Command11.Press();
     rig.Restart(screens::kCacheTab);
-    return rig.program->Cache().Combo2.Text();
+    return rig.program->CacheScreen().Combo2.Text();
   }
 
   /// The presets with the same values as another on small machines, and the name that is shown for them.
@@ -344,7 +344,7 @@ TEST_P(SavedPreset, IsRecognisedAtTheNextStart) {
 TEST_P(SavedPreset, StaysInsideTheSliders) {
   TuningRig rig(GetParam());
   rig.StartAt(screens::kCacheTab);
-  screens::CacheScreen& tab = rig.program->Cache();
+  screens::CacheScreen& tab = rig.program->CacheScreen();
   for (const tuning::CachePreset& preset : tuning::CachePresets()) {
     tab.Combo2.Choose(preset.name);
     const auto values = preset.For(GetParam());
@@ -407,11 +407,11 @@ TEST(CacheTabOnAHugeMachine, LeavesTheSlidersAtTheirMinimum) {
   rig.machine.SetMemory(0xF0000000U, 0x10000000U, 0xF0000000U, 0x10000000U);
   rig.WriteSystemIni("[vcache]\r\nMaxFileCache=2048\r\n");
   rig.StartAt(screens::kCacheTab);
-  EXPECT_EQ(rig.program->Cache().Slider2.Value(), 512);
-  EXPECT_EQ(rig.program->Cache().Check6.Value(), 0);
-  rig.program->Cache().Combo2.Choose("Standard System (Win95)");
-  EXPECT_EQ(rig.program->Cache().Slider2.Value(), 512);
-  EXPECT_FALSE(rig.program->Window().Unloaded());
+  EXPECT_EQ(rig.program->CacheScreen().Slider2.Value(), 512);
+  EXPECT_EQ(rig.program->CacheScreen().Check6.Value(), 0);
+  rig.program->CacheScreen().Combo2.Choose("Standard System (Win95)");
+  EXPECT_EQ(rig.program->CacheScreen().Slider2.Value(), 512);
+  EXPECT_FALSE(rig.program->Form().Unloaded());
 }
 
 }  // namespace

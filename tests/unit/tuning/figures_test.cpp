@@ -56,7 +56,7 @@ class SliderEnds : public testing::TestWithParam<SliderEnd> {};
 TEST_P(SliderEnds, AreRounded) {
   ProgramRig rig(GetParam().memory_bytes);
   rig.SetHasRunBefore();
-  const screens::CacheScreen& tab = rig.Start().Cache();
+  const screens::CacheScreen& tab = rig.Start().CacheScreen();
   EXPECT_EQ(tab.Slider1.Maximum(), GetParam().largest_kb);
   EXPECT_EQ(tab.Slider2.Maximum(), GetParam().largest_kb);
 }
@@ -73,7 +73,7 @@ TEST(RecognisedPreset, DoesNotDependOnTheBoxesOfMaximumAndChunk) {
                                "\x00\x08\x00\x00"s);
   rig.machine.SetRegistryBytes(os::kHkeyLocalMachine, kOwnTemplatePath, "PathCache", os::kRegBinary,
                                "\x40\x00\x00\x00"s);
-  const screens::CacheScreen& tab = rig.StartAt(screens::kCacheTab).Cache();
+  const screens::CacheScreen& tab = rig.StartAt(screens::kCacheTab).CacheScreen();
   EXPECT_FALSE(tab.Check6.Ticked());
   EXPECT_FALSE(tab.Check7.Ticked());
   EXPECT_EQ(tab.Combo2.Text(), "Standard System (Win95)");
@@ -86,9 +86,9 @@ TEST(Megabytes, AreDividedInTheOrderOfTheirKind) {
   rig.machine.SetMemory(44032000, 22016000, 44032000, 22016000);
   rig.machine.AddDrive('C', {.total_bytes = FreeBytes(4000), .free_bytes = 44032000});
   rig.StartAt(screens::kSwapFileTab);
-  EXPECT_EQ(rig.program->SwapFile().Combo3.Item(0), "C:\\ 42MB Free");
-  EXPECT_EQ(rig.program->Monitor().TotalRAM(), 43.0);
-  EXPECT_EQ(rig.program->SwapFile().Text8.Text(), "129");
+  EXPECT_EQ(rig.program->SwapFileScreen().Combo3.Item(0), "C:\\ 42MB Free");
+  EXPECT_EQ(rig.program->MemoryMonitor().TotalRAM(), 43.0);
+  EXPECT_EQ(rig.program->SwapFileScreen().Text8.Text(), "129");
 }
 
 struct Room {
@@ -105,13 +105,13 @@ TEST_P(SuggestionRoom, IsTheRoundedFreeSpace) {
   TuningRig rig;
   rig.machine.AddDrive('C', {.total_bytes = FreeBytes(4000), .free_bytes = FreeBytes(GetParam().free_mb)});
   rig.StartAt(screens::kSwapFileTab);
-  rig.program->SwapFile().optSwap2.Press();
-  rig.program->SwapFile().cmdBeginnerSwapFile.Press();
+  rig.program->SwapFileScreen().optSwap2.Press();
+  rig.program->SwapFileScreen().cmdBeginnerSwapFile.Press();
   ASSERT_EQ(rig.BoxTexts().size(), 1U);
   EXPECT_THAT(rig.BoxTexts()[0],
               testing::StartsWith(GetParam().is_enough ? "Quondix suggests configuring your swapfile"
                                                        : "Quondix suggests you leave your virtual memory"));
-  EXPECT_EQ(rig.program->SwapFile().optSwap2.Selected(), GetParam().is_enough);
+  EXPECT_EQ(rig.program->SwapFileScreen().optSwap2.Selected(), GetParam().is_enough);
 }
 
 INSTANTIATE_TEST_SUITE_P(Megabytes, SuggestionRoom,
@@ -123,9 +123,9 @@ TEST(SwapSizeThatIsRefusedTwice, IsReportedAsTooLow) {
   TuningRig rig;
   rig.machine.AddDrive('C', {.total_bytes = FreeBytes(4000), .free_bytes = FreeBytes(20)});
   rig.StartAt(screens::kSwapFileTab);
-  rig.program->SwapFile().optSwap2.Press();
-  rig.program->SwapFile().Text8.SetText("10");
-  rig.program->SwapFile().Command18.Press();
+  rig.program->SwapFileScreen().optSwap2.Press();
+  rig.program->SwapFileScreen().Text8.SetText("10");
+  rig.program->SwapFileScreen().Command18.Press();
   EXPECT_THAT(rig.BoxTexts(),
               ElementsAre("It is not very safe to set the swapfile size this low. The lowest Quondix will "
                           "allow you to set on this system is 64 MB."));
@@ -144,7 +144,7 @@ class PagingEntries : public testing::TestWithParam<PagingEntry> {};
 TEST_P(PagingEntries, AreTrimmedAndComparedWithCase) {
   TuningRig rig;
   rig.WriteSystemIni(std::string("[386Enh]\r\n") + GetParam().entry + "\r\n");
-  const screens::SwapFileScreen& tab = rig.StartAt(screens::kSwapFileTab).SwapFile();
+  const screens::SwapFileScreen& tab = rig.StartAt(screens::kSwapFileTab).SwapFileScreen();
   EXPECT_EQ(tab.optSwap1.Selected(), GetParam().is_on);
   EXPECT_EQ(tab.optSwap3.Selected(), !GetParam().is_on);
 }

@@ -49,32 +49,32 @@ class RecordFlush : public testing::Test {
 
 TEST_F(RecordFlush, CacheSettings) {
   Start(screens::kCacheTab);
-  rig.program->Cache().Combo2.Choose("Multimedia (Win95)");
-  rig.program->Cache().Command11.Press();
+  rig.program->CacheScreen().Combo2.Choose("Multimedia (Win95)");
+  rig.program->CacheScreen().Command11.Press();
   ExpectRecordThenFlushThenTheRest();
 }
 
 TEST_F(RecordFlush, OwnSwapFile) {
   Start(screens::kSwapFileTab);
-  rig.program->SwapFile().optSwap2.Press();
-  rig.program->SwapFile().Text8.SetText("192");
-  rig.program->SwapFile().Command18.Press();
+  rig.program->SwapFileScreen().optSwap2.Press();
+  rig.program->SwapFileScreen().Text8.SetText("192");
+  rig.program->SwapFileScreen().Command18.Press();
   ExpectRecordThenFlushThenTheRest();
 }
 
 TEST_F(RecordFlush, SwapFileOfWindows) {
   Start(screens::kSwapFileTab);
-  rig.program->SwapFile().optSwap1.Press();
-  rig.program->SwapFile().Command18.Press();
+  rig.program->SwapFileScreen().optSwap1.Press();
+  rig.program->SwapFileScreen().Command18.Press();
   ExpectRecordThenFlushThenTheRest();
 }
 
 TEST_F(RecordFlush, LaterSavesDoNotFlush) {
   Start(screens::kCacheTab);
-  rig.program->Cache().Command11.Press();
+  rig.program->CacheScreen().Command11.Press();
   first_call = rig.machine.Calls().size();
   rig.Answer({os::kIdYes, os::kIdNo});
-  rig.program->Cache().Command11.Press();
+  rig.program->CacheScreen().Command11.Press();
   const std::vector<std::string> calls = ChangesAndFlushes();
   EXPECT_FALSE(calls.empty());
   EXPECT_EQ(std::count(calls.begin(), calls.end(), kFlush), 0);

@@ -23,10 +23,10 @@ TEST(RecordOrder, ComesBeforeTheSwapFileIsLeftToWindows) {
   rig.WriteSystemIni(
       "[386Enh]\r\nPagingDrive=C:\r\nMinPagingFileSize=102400\r\nMaxPagingFileSize=102400\r\n");
   rig.StartAt(screens::kSwapFileTab);
-  rig.program->SwapFile().optSwap1.Press();
+  rig.program->SwapFileScreen().optSwap1.Press();
   rig.Answer({os::kIdYes, os::kIdNo});
   const std::size_t before = rig.machine.Calls().size();
-  rig.program->SwapFile().Command18.Press();
+  rig.program->SwapFileScreen().Command18.Press();
   const auto records = PlacesOf(rig, kRecordCall, before);
   const auto copies = PlacesOf(rig, "CopyFileA(", before);
   const auto questions = PlacesOf(rig, "MessageBoxA(", before);
@@ -52,12 +52,12 @@ TEST(RecordOrder, FailedBackupAndRecordAreNotRetriedByTheNextSave) {
   rig.StartAt(screens::kCacheTab);
   rig.Answer({os::kIdYes, os::kIdNo, os::kIdYes, os::kIdNo, os::kIdYes, os::kIdNo});
   rig.machine.FailNextCall("CopyFileA");
-  rig.program->Cache().Command11.Press();
+  rig.program->CacheScreen().Command11.Press();
   ASSERT_EQ(rig.machine.ReadFile(kBackupPath), std::nullopt);
   const std::size_t before = rig.machine.Calls().size();
-  rig.program->Cache().Command11.Press();
+  rig.program->CacheScreen().Command11.Press();
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kSwapFileTab);
-  rig.program->SwapFile().Command18.Press();
+  rig.program->SwapFileScreen().Command18.Press();
   EXPECT_EQ(rig.machine.Boxes().size(), 6U);
   EXPECT_TRUE(PlacesOf(rig, "CopyFileA(", before).empty());
   EXPECT_TRUE(PlacesOf(rig, kRecordCall, before).empty());

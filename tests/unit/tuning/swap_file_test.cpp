@@ -40,7 +40,7 @@ TEST_P(LoadedSetup, IsDerivedFromTheEntries) {
   rig.machine.AddDrive('D', {.total_bytes = FreeBytes(9000), .free_bytes = FreeBytes(500)});
   rig.WriteSystemIni("[boot]\r\nshell=x\r\n[386Enh]\r\n" + GetParam().entries);
   rig.StartAt(screens::kSwapFileTab);
-  const screens::SwapFileScreen& tab = rig.program->SwapFile();
+  const screens::SwapFileScreen& tab = rig.program->SwapFileScreen();
   EXPECT_EQ(SelectedOption(tab), GetParam().option);
   EXPECT_EQ(tab.Combo3.Text(), GetParam().drive);
   EXPECT_EQ(tab.Text8.Text(), GetParam().size);
@@ -117,8 +117,8 @@ TEST_P(ProposedSize, ComesFromMemoryAndFreeSpace) {
   TuningRig rig(GetParam().ram_mb);
   rig.machine.AddDrive('C', {.total_bytes = FreeBytes(9000), .free_bytes = FreeBytes(GetParam().free_mb)});
   rig.StartAt(screens::kSwapFileTab);
-  EXPECT_EQ(rig.program->SwapFile().Text8.Text(), GetParam().size);
-  EXPECT_EQ(rig.program->SwapFile().VScroll4.Value(), GetParam().bar);
+  EXPECT_EQ(rig.program->SwapFileScreen().Text8.Text(), GetParam().size);
+  EXPECT_EQ(rig.program->SwapFileScreen().VScroll4.Value(), GetParam().bar);
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, ProposedSize,
@@ -129,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(Table, ProposedSize,
 
 class SwapTab : public testing::Test {
  protected:
-  screens::SwapFileScreen& Tab() { return rig.program->SwapFile(); }
+  screens::SwapFileScreen& Tab() { return rig.program->SwapFileScreen(); }
   void Start() { rig.StartAt(screens::kSwapFileTab); }
   void StartOptimised() {
     rig.WriteSystemIni(
@@ -153,8 +153,8 @@ TEST_F(SwapTab, EntriesOfAnyLengthAreRead) {
     any.WriteSystemIni("[386Enh]\r\nPagingDrive=C:\r\nMinPagingFileSize=" + digits +
                        "\r\nMaxPagingFileSize=" + digits + "\r\n");
     any.StartAt(screens::kSwapFileTab);
-    EXPECT_EQ(any.program->SwapFile().VScroll4.Value(), 32750) << length;
-    EXPECT_EQ(any.program->SwapFile().Text8.Text(), "9.765625E+250") << length;
+    EXPECT_EQ(any.program->SwapFileScreen().VScroll4.Value(), 32750) << length;
+    EXPECT_EQ(any.program->SwapFileScreen().Text8.Text(), "9.765625E+250") << length;
   }
 }
 
@@ -162,9 +162,9 @@ TEST_F(SwapTab, MachineWithoutAFixedDriveHasNoneToSelect) {
   TuningRig bare;
   bare.machine.AddDrive('C', {.type = 5});
   bare.StartAt(screens::kSwapFileTab);
-  EXPECT_EQ(bare.program->SwapFile().Combo3.Count(), 0);
-  EXPECT_EQ(bare.program->SwapFile().Text8.Text(), "-10");
-  EXPECT_EQ(bare.program->SwapFile().VScroll4.Value(), 0);
+  EXPECT_EQ(bare.program->SwapFileScreen().Combo3.Count(), 0);
+  EXPECT_EQ(bare.program->SwapFileScreen().Text8.Text(), "-10");
+  EXPECT_EQ(bare.program->SwapFileScreen().VScroll4.Value(), 0);
   EXPECT_TRUE(bare.machine.Boxes().empty());
 }
 
@@ -243,7 +243,7 @@ TEST_F(SwapTab, SizeBeyondTheBarIsARunTimeError) {
   Tab().Combo3.SetFocus();
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].text, "Run-time error '380':\r\n\r\nInvalid property value");
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
 }
 
 TEST_F(SwapTab, SizeBeyond32BitsIsAnOverflow) {

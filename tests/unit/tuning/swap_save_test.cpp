@@ -32,7 +32,7 @@ class SwapSaving : public testing::Test {
  protected:
   explicit SwapSaving(double ram_mb = 64) : rig(ram_mb) {}
 
-  screens::SwapFileScreen& Tab() { return rig.program->SwapFile(); }
+  screens::SwapFileScreen& Tab() { return rig.program->SwapFileScreen(); }
   /// Starts on a machine that already has the record.
   void StartWithRecord(const std::string& ini) {
     rig.machine.SetRegistryValue(os::kHkeyLocalMachine, kMachineKeyPath, "FirstSave", "1");
@@ -80,7 +80,7 @@ TEST_F(SwapSaving, OwnSetupIsWrittenInOrder) {
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbYesNo | os::kMbDefaultButton2);
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX");
   EXPECT_EQ(rig.machine.Boxes()[1].flags, os::kMbYesNo | os::kMbIconInformation);
-  EXPECT_FALSE(rig.program->Window().Unloaded());
+  EXPECT_FALSE(rig.program->Form().Unloaded());
 }
 
 TEST_F(SwapSaving, SavedSetupIsShownAtTheNextStart) {
@@ -141,7 +141,7 @@ TEST_F(SwapSaving, YesRestartsTheMachineAndEndsTheProgram) {
   StartWithRecord(kOptimised);
   Save({os::kIdYes, os::kIdYes});
   EXPECT_EQ(rig.machine.RestartCount(), 1);
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
   EXPECT_EQ(rig.Stored("Settings", "LastTab"), "6");
 }
 
@@ -265,7 +265,7 @@ TEST_F(SwapSaving, WindowsDefaultRestartsIfTheUserAgrees) {
   Tab().optSwap1.Press();
   Save({os::kIdYes, os::kIdYes});
   EXPECT_THAT(Changes(), testing::Contains("ExitWindowsEx(2, 0)"));
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
 }
 
 TEST_F(SwapSaving, ForeignSetupIsLeftAlone) {
@@ -355,7 +355,7 @@ TEST_F(SwapSaving, DefragmenterReplacesTheProgram) {
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOkCancel);
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX");
   EXPECT_THAT(rig.machine.StartedPrograms(), ElementsAre("defrag D:"));
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
 }
 
 TEST_F(SwapSaving, CancelledDefragmenterDoesNothing) {
@@ -363,7 +363,7 @@ TEST_F(SwapSaving, CancelledDefragmenterDoesNothing) {
   rig.Answer({os::kIdCancel});
   Tab().Command26.Press();
   EXPECT_TRUE(rig.machine.StartedPrograms().empty());
-  EXPECT_FALSE(rig.program->Window().Unloaded());
+  EXPECT_FALSE(rig.program->Form().Unloaded());
 }
 
 TEST_F(SwapSaving, MissingDefragmenterIsARunTimeError) {
@@ -372,7 +372,7 @@ TEST_F(SwapSaving, MissingDefragmenterIsARunTimeError) {
   rig.Answer({os::kIdOk});
   Tab().Command26.Press();
   EXPECT_EQ(Box(1), "Run-time error '53':\r\n\r\nFile not found");
-  EXPECT_TRUE(rig.program->Window().Unloaded());
+  EXPECT_TRUE(rig.program->Form().Unloaded());
 }
 
 // On a machine whose total reads as negative, the suggested size does not fit the bar.

@@ -1,13 +1,13 @@
 // Entries of system.ini, its backup, and the record of its entries before the first change.
-#include "tuning/cache/system_ini.h"
+#include "tuning/system_ini.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
 #include "os/simulated/simulated_machine.h"
-#include "tuning/cache/first_save.h"
 #include "tuning/cache/vcache_value.h"
+#include "tuning/first_save.h"
 
 namespace qdix::tests {
 namespace {

@@ -56,18 +56,18 @@ void AnswerBoxes(TuningRig& rig) {
 void UseBothTabs(TuningRig& rig) {
   rig.WriteSystemIni(kBefore);
   rig.Start();
-  if (rig.program->Window().Unloaded()) return;
+  if (rig.program->Form().Unloaded()) return;
   AnswerBoxes(rig);
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kCacheTab);
-  rig.program->Cache().Combo2.Choose("Multimedia (Win95)");
-  rig.program->Cache().Command11.Press();
+  rig.program->CacheScreen().Combo2.Choose("Multimedia (Win95)");
+  rig.program->CacheScreen().Command11.Press();
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kSwapFileTab);
-  rig.program->SwapFile().optSwap2.Press();
-  rig.program->SwapFile().cmdBeginnerSwapFile.Press();
-  rig.program->SwapFile().Text8.SetText("192");
-  rig.program->SwapFile().Command18.Press();
-  rig.program->SwapFile().Command26.Press();
-  rig.program->Window().Unload();
+  rig.program->SwapFileScreen().optSwap2.Press();
+  rig.program->SwapFileScreen().cmdBeginnerSwapFile.Press();
+  rig.program->SwapFileScreen().Text8.SetText("192");
+  rig.program->SwapFileScreen().Command18.Press();
+  rig.program->SwapFileScreen().Command26.Press();
+  rig.program->Form().Unload();
 }
 
 /// Expects only complete old and new lines, and every line that the session does not touch.
@@ -97,7 +97,7 @@ void ExpectSoundTemplate(const TuningRig& rig, int call) {
 }
 
 void ExpectSoundEnd(TuningRig& rig, int call) {
-  EXPECT_TRUE(rig.program->Window().Unloaded()) << call;
+  EXPECT_TRUE(rig.program->Form().Unloaded()) << call;
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << call;
   EXPECT_TRUE(rig.machine.Misuses().empty()) << call;
   EXPECT_EQ(rig.machine.RestartCount(), 0) << call;
@@ -118,15 +118,15 @@ void GoBackToDefaults(TuningRig& rig) {
   rig.machine.SetRegistryBytes(os::kHkeyLocalMachine, kOwnTemplatePath, "NameCache", os::kRegBinary,
                                {0, '\x08', 0, 0});
   rig.Start();
-  if (rig.program->Window().Unloaded()) return;
+  if (rig.program->Form().Unloaded()) return;
   AnswerBoxes(rig);
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kCacheTab);
-  rig.program->Cache().Command14.Press();
-  rig.program->Cache().Command11.Press();
+  rig.program->CacheScreen().Command14.Press();
+  rig.program->CacheScreen().Command11.Press();
   rig.program->MainWindow().SSTab1.ChooseTab(screens::kSwapFileTab);
-  rig.program->SwapFile().optSwap1.Press();
-  rig.program->SwapFile().Command18.Press();
-  rig.program->Window().Unload();
+  rig.program->SwapFileScreen().optSwap1.Press();
+  rig.program->SwapFileScreen().Command18.Press();
+  rig.program->Form().Unload();
 }
 
 struct Scenario {

@@ -62,7 +62,7 @@ void ExpectOldOrNew(const UndoRig& rig, int call) {
 }
 
 void ExpectSound(UndoRig& rig, int call) {
-  EXPECT_TRUE(rig.form->Window().Unloaded()) << call;
+  EXPECT_TRUE(rig.form->Form().Unloaded()) << call;
   EXPECT_TRUE(rig.RecordIsUntouched()) << call;
   EXPECT_EQ(rig.machine.OpenKeyCount(), 0) << call;
   EXPECT_TRUE(rig.machine.Misuses().empty()) << call;

@@ -121,7 +121,7 @@ TEST_F(PutBack, NewStateIsShownAndARestartIsOffered) {
   ASSERT_EQ(rig.machine.Boxes().size(), 2U);
   EXPECT_EQ(BoxText(1), kRestartQuestion);
   EXPECT_EQ(rig.machine.RestartCount(), 0);
-  EXPECT_FALSE(rig.form->Window().Unloaded());
+  EXPECT_FALSE(rig.form->Form().Unloaded());
 }
 
 TEST_F(PutBack, RestartIsRequestedOnceIfTheUserAgrees) {
@@ -129,7 +129,7 @@ TEST_F(PutBack, RestartIsRequestedOnceIfTheUserAgrees) {
   PressAndAnswer(os::kIdYes, os::kIdYes);
   EXPECT_EQ(rig.machine.RestartCount(), 1);
   EXPECT_EQ(rig.machine.Calls().back(), "ExitWindowsEx(2, 0)");
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_TRUE(rig.form->Form().Unloaded());
 }
 
 TEST_F(PutBack, OnlyTickedEntriesAreListedAndWritten) {
@@ -234,7 +234,7 @@ TEST_F(PutBack, WindowClosedDuringTheListOfFailuresOffersNoRestart) {
   StartChanged();
   rig.machine.ProtectFile(kIniPath);
   rig.machine.WhileBoxIsOpen([this] {
-    if (rig.machine.Boxes().size() == 2) rig.form->Window().Unload();
+    if (rig.machine.Boxes().size() == 2) rig.form->Form().Unload();
   });
   PressAndAnswer(os::kIdYes);
   EXPECT_EQ(rig.machine.Boxes().size(), 2U);

@@ -50,7 +50,7 @@ TEST(UndoRows, ShowOldBesideCurrentValues) {
       "Q-DIX recorded these settings before it first changed this computer. Tick the ones that you want "
       "to put back.");
   EXPECT_TRUE(rig.Screen().lblBackup.Caption().starts_with("Backup: system.qdix"));
-  EXPECT_TRUE(rig.form->Window().Shown());
+  EXPECT_TRUE(rig.form->Form().Shown());
   EXPECT_THAT(rig.Changes(rig.machine.Calls().size()), IsEmpty());
 }
 
@@ -98,7 +98,7 @@ TEST(UndoRows, NothingRecordedLeavesOnlyClose) {
     EXPECT_FALSE(rig.Screen().cmdRestore.Enabled());
     EXPECT_TRUE(rig.Screen().cmdClose.Reachable());
     rig.Screen().cmdClose.Press();
-    EXPECT_TRUE(rig.form->Window().Unloaded());
+    EXPECT_TRUE(rig.form->Form().Unloaded());
   }
 }
 
@@ -189,13 +189,13 @@ TEST(UndoRows, UntrappedErrorIsShownAndEndsTheProgram) {
   UndoRig rig;
   rig.Start();
   rig.machine.WhileBoxIsOpen(
-      [&rig] { EXPECT_FALSE(rig.form->Window().Unloaded()) << "it unloads only after the box was read"; });
-  rig.form->Window().Dispatcher().Report(base::kOverflow);
+      [&rig] { EXPECT_FALSE(rig.form->Form().Unloaded()) << "it unloads only after the box was read"; });
+  rig.form->Form().Dispatcher().Report(base::kOverflow);
   ASSERT_EQ(rig.machine.Boxes().size(), 1U);
   EXPECT_EQ(rig.machine.Boxes()[0].title, "Q-DIX Undo");
   EXPECT_TRUE(rig.machine.Boxes()[0].text.starts_with("Run-time error '6':"));
   EXPECT_EQ(rig.machine.Boxes()[0].flags, os::kMbOk | os::kMbIconStop);
-  EXPECT_TRUE(rig.form->Window().Unloaded());
+  EXPECT_TRUE(rig.form->Form().Unloaded());
 }
 
 }  // namespace

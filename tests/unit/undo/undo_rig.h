@@ -6,8 +6,8 @@
 
 #include "os/simulated/simulated_machine.h"
 #include "tuning/cache/file_system_template.h"
-#include "tuning/cache/first_save.h"
-#include "tuning/cache/system_ini.h"
+#include "tuning/first_save.h"
+#include "tuning/system_ini.h"
 #include "undo/undo_form.h"
 
 namespace qdix::tests {

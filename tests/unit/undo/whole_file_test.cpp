@@ -212,7 +212,7 @@ TEST_F(WholeFile, EndOfTheSessionDuringTheQuestionReplacesNothing) {
 
 TEST_F(WholeFile, WindowClosedDuringTheResultOffersNoRestart) {
   rig.machine.WhileBoxIsOpen([this] {
-    if (rig.machine.Boxes().size() == 2) rig.form->Window().Unload();
+    if (rig.machine.Boxes().size() == 2) rig.form->Form().Unload();
   });
   PressAndAnswer({os::kIdYes, os::kIdOk, os::kIdYes});
   EXPECT_EQ(rig.machine.Boxes().size(), 2U);

@@ -7,7 +7,7 @@
 
 #include "os/registry.h"
 
-namespace qdix::shell {
+namespace qdix::registry {
 
 /// The program's machine-wide key.
 inline constexpr const char* kMachineKey = "SOFTWARE\\QDIX";
@@ -45,4 +45,4 @@ class RegistryPaths {
   os::Registry& registry_;
 };
 
-}  // namespace qdix::shell
+}  // namespace qdix::registry

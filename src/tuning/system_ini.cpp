@@ -1,4 +1,4 @@
-#include "tuning/cache/system_ini.h"
+#include "tuning/system_ini.h"
 
 #include <array>
 

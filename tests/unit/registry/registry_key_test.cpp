@@ -1,5 +1,5 @@
 // A key that is open for the lifetime of its object, and the texts in it.
-#include "shell/registry_key.h"
+#include "registry/registry_key.h"
 
 #include <gtest/gtest.h>
 
@@ -16,8 +16,8 @@ class RegistryKeyText : public testing::Test {
  protected:
   std::optional<std::string> Read(const std::string& stored) {
     machine.SetRegistryValue(os::kHkeyLocalMachine, kKey, "V", stored);
-    const auto key = shell::RegistryKey::Open(machine.GetSystem().registry, os::kHkeyLocalMachine, kKey,
-                                              os::kKeyQueryValue);
+    const auto key = registry::RegistryKey::Open(machine.GetSystem().registry, os::kHkeyLocalMachine, kKey,
+                                                 os::kKeyQueryValue);
     return key.ReadText("V");
   }
 

@@ -1,4 +1,4 @@
-// Windows of any program: finds them, walks their z-order and brings them to the front.
+// Top-level windows of any program: finds them, walks their z-order and brings them to the front.
 #pragma once
 
 #include <cstdint>

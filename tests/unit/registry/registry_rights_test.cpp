@@ -40,7 +40,7 @@ TEST(RegistryRights, OfAFirstStartItsTickAndItsClose) {
   rig.machine.CreateRegistryKey(os::kHkeyLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Run");
   rig.Start();
   rig.AdvanceMs(kRefreshMs);
-  rig.program->Window().Unload();
+  rig.program->Form().Unload();
   EXPECT_EQ(
       Openings(rig.machine),
       (Texts{Made("HKLM\\SOFTWARE\\QDIX", kToMakeAKey), Made("HKLM\\SOFTWARE\\QDIX", kToWrite),
@@ -62,7 +62,7 @@ TEST(RegistryRights, OfTheRemovedEntry) {
                                "Quondix", "C:\\Program Files\\QDIX\\QDIX.exe");
   rig.StartAt(screens::kStartupTab);
   const std::size_t before = rig.machine.Calls().size();
-  rig.program->Startup().Check2.Press();
+  rig.program->StartupScreen().Check2.Press();
   Texts expected;
   for (const std::string root : {"HKLM\\Software", "HKLM\\SOFTWARE"}) {
     for (const char* const below :
@@ -77,10 +77,10 @@ TEST(RegistryRights, OfTheRemovedEntry) {
 TEST(RegistryRights, OfTheRecordAndTheTemplateThatASaveWrites) {
   TuningRig rig;
   rig.StartAt(screens::kCacheTab);
-  rig.program->Cache().Check8.Press();
+  rig.program->CacheScreen().Check8.Press();
   rig.Answer({os::kIdYes, os::kIdNo});
   const std::size_t before = rig.machine.Calls().size();
-  rig.program->Cache().Command11.Press();
+  rig.program->CacheScreen().Command11.Press();
   const Texts openings = Openings(rig.machine, before);
   for (const std::string& call :
        {Made("HKLM\\SOFTWARE\\QDIX", kToMakeAKey), std::string("RegOpenKeyA(HKLM\\SOFTWARE\\QDIX)"),

@@ -8,7 +8,7 @@
 
 #include "os/registry.h"
 
-namespace qdix::shell {
+namespace qdix::registry {
 
 inline constexpr std::string_view kSettingsSection = "Settings";
 inline constexpr std::string_view kStartupSection = "Startup";
@@ -39,4 +39,4 @@ class SettingsStore {
   os::Registry& registry_;
 };
 
-}  // namespace qdix::shell
+}  // namespace qdix::registry

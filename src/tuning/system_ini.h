@@ -13,8 +13,20 @@ inline constexpr const char* kSystemIni = "system.ini";
 /// The backup in the same folder, made before the program's first change. It is older if it already existed
 /// and could not be replaced.
 inline constexpr const char* kSystemBackup = "system.qdix";
+/// The section of the disk cache, and its entries. Windows ignores case; new entries get the lower case.
 inline constexpr const char* kVcacheSection = "vcache";
+inline constexpr const char* kMinFileCacheEntry = "MinFileCache";
+inline constexpr const char* kMaxFileCacheEntry = "MaxFileCache";
+inline constexpr const char* kChunkSizeEntry = "ChunkSize";
+inline constexpr const char* kWrittenMinFileCacheEntry = "minfilecache";
+inline constexpr const char* kWrittenMaxFileCacheEntry = "maxfilecache";
+inline constexpr const char* kWrittenChunkSizeEntry = "chunksize";
+/// The section of the swap file, and its entries.
 inline constexpr const char* k386EnhSection = "386Enh";
+inline constexpr const char* kPagingDriveEntry = "PagingDrive";
+inline constexpr const char* kMinPagingFileSizeEntry = "MinPagingFileSize";
+inline constexpr const char* kMaxPagingFileSizeEntry = "MaxPagingFileSize";
+inline constexpr const char* kPagingEntry = "Paging";
 
 class SystemIni {
  public:

@@ -1,9 +1,9 @@
-#include "shell/settings_store.h"
+#include "registry/settings_store.h"
 
 #include "base/numbers.h"
-#include "shell/registry_key.h"
+#include "registry/registry_key.h"
 
-namespace qdix::shell {
+namespace qdix::registry {
 
 namespace {
 
@@ -49,4 +49,4 @@ void SettingsStore::SaveNumber(std::string_view section, const char* key, double
   SaveSetting(section, key, base::ShortestText(number));
 }
 
-}  // namespace qdix::shell
+}  // namespace qdix::registry

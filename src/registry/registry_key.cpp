@@ -1,8 +1,8 @@
-#include "shell/registry_key.h"
+#include "registry/registry_key.h"
 
 #include "base/text.h"
 
-namespace qdix::shell {
+namespace qdix::registry {
 
 namespace {
 
@@ -80,4 +80,4 @@ bool RegistryKey::DeleteValue(const char* value_name) {
   return open_ && registry_.RegDeleteValueA(handle_, value_name) == os::kErrorSuccess;
 }
 
-}  // namespace qdix::shell
+}  // namespace qdix::registry

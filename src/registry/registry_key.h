@@ -7,7 +7,7 @@
 
 #include "os/registry.h"
 
-namespace qdix::shell {
+namespace qdix::registry {
 
 /// Returns the text of a value of known size, up to its first NUL. Returns nullopt if it cannot be read, is
 /// no longer a text, or is longer than anything that the program stores.
@@ -51,4 +51,4 @@ class RegistryKey {
   bool open_ = false;
 };
 
-}  // namespace qdix::shell
+}  // namespace qdix::registry

@@ -1,5 +1,5 @@
 // Registry values below a root, byte for byte.
-#include "shell/module_registry.h"
+#include "registry/module_registry.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ class ModuleRegistry : public testing::Test {
   }
 
   os::SimulatedMachine machine;
-  shell::ModuleRegistry registry{machine.GetSystem().registry};
+  registry::ModuleRegistry registry{machine.GetSystem().registry};
 };
 
 TEST_F(ModuleRegistry, TextIsReadUpToItsFirstNul) {

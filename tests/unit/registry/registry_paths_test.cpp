@@ -1,5 +1,5 @@
 // Registry keys by textual path.
-#include "shell/registry_paths.h"
+#include "registry/registry_paths.h"
 
 #include <gtest/gtest.h>
 
@@ -19,14 +19,14 @@ class RegistryPaths : public testing::Test {
   /// Opens the key, closes it, and returns whether that worked.
   bool Opens(const std::string& path) {
     const std::int32_t handle = paths.GetSubkeyHandle(path);
-    if (handle == shell::RegistryPaths::kNoKey) return false;
+    if (handle == registry::RegistryPaths::kNoKey) return false;
     EXPECT_EQ(machine.OpenKeyCount(), 1) << "the parent keys are closed";
     EXPECT_FALSE(paths.CloseSubkey(handle));
     return true;
   }
 
   os::SimulatedMachine machine;
-  shell::RegistryPaths paths{machine.GetSystem().registry};
+  registry::RegistryPaths paths{machine.GetSystem().registry};
 };
 
 TEST_F(RegistryPaths, OpensElementByElementWithAllRights) {

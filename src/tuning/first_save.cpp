@@ -1,27 +1,28 @@
-#include "tuning/cache/first_save.h"
+#include "tuning/first_save.h"
 
 #include "base/numbers.h"
-#include "shell/registry_key.h"
+#include "registry/registry_key.h"
 #include "tuning/cache/file_system_template.h"
-#include "tuning/cache/record_names.h"
+#include "tuning/record_names.h"
 
 namespace qdix::tuning {
 
-using shell::kMachineKey;
+using registry::kMachineKey;
 
 void FirstSave::CheckFirstSave() {
   if (!registry_.ReadRegistryValue(os::kHkeyLocalMachine, kMachineKey, kRecordMarker).empty()) return;
   paths_.CreateRegistryKey(kMachineKey, os::kHkeyLocalMachine);
   Record(kRecordMarker, "1");
   system_ini_.BackupSystemINI();
-  RecordCacheSize(kRecordedMinCache, "MinFileCache");
-  RecordCacheSize(kRecordedMaxCache, "MaxFileCache");
-  RecordCacheSize(kRecordedChunk, "chunksize");
+  RecordCacheSize(kRecordedMinCache, kMinFileCacheEntry);
+  RecordCacheSize(kRecordedMaxCache, kMaxFileCacheEntry);
+  RecordCacheSize(kRecordedChunk, kWrittenChunkSizeEntry);
   Record(kRecordedTemplate, registry_.ReadRegistryValue(os::kHkeyLocalMachine, kTemplatesKey, kUnnamedValue));
-  RecordPagingEntry(kRecordedPagingDrive, "PagingDrive");
-  RecordPagingEntry(kRecordedMinPagingFile, "MinPagingFileSize");
-  RecordPagingEntry(kRecordedMaxPagingFile, "MaxPagingFileSize");
-  shell::RegistryKey::Open(system_.registry, os::kHkeyLocalMachine, kMachineKey, os::kKeyQueryValue).Flush();
+  RecordPagingEntry(kRecordedPagingDrive, kPagingDriveEntry);
+  RecordPagingEntry(kRecordedMinPagingFile, kMinPagingFileSizeEntry);
+  RecordPagingEntry(kRecordedMaxPagingFile, kMaxPagingFileSizeEntry);
+  registry::RegistryKey::Open(system_.registry, os::kHkeyLocalMachine, kMachineKey, os::kKeyQueryValue)
+      .Flush();
 }
 
 void FirstSave::Record(const char* value_name, const std::string& text) {

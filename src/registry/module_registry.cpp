@@ -1,11 +1,11 @@
-#include "shell/module_registry.h"
+#include "registry/module_registry.h"
 
 #include <array>
 
 #include "base/numbers.h"
-#include "shell/registry_key.h"
+#include "registry/registry_key.h"
 
-namespace qdix::shell {
+namespace qdix::registry {
 
 namespace {
 
@@ -93,4 +93,4 @@ std::int32_t ModuleRegistry::SetValueEx(os::KeyHandle key, const char* value_nam
   return os::kErrorSuccess;
 }
 
-}  // namespace qdix::shell
+}  // namespace qdix::registry

@@ -7,7 +7,7 @@
 
 #include "os/registry.h"
 
-namespace qdix::shell {
+namespace qdix::registry {
 
 class ModuleRegistry {
  public:
@@ -44,4 +44,4 @@ class ModuleRegistry {
   os::Registry& registry_;
 };
 
-}  // namespace qdix::shell
+}  // namespace qdix::registry

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "os/system.h"
-#include "shell/module_registry.h"
-#include "shell/registry_paths.h"
-#include "tuning/cache/system_ini.h"
+#include "registry/module_registry.h"
+#include "registry/registry_paths.h"
+#include "tuning/system_ini.h"
 
 namespace qdix::tuning {
 
@@ -24,8 +24,8 @@ class FirstSave {
   void RecordPagingEntry(const char* value_name, const char* key);
 
   const os::System& system_;
-  shell::ModuleRegistry registry_;
-  shell::RegistryPaths paths_;
+  registry::ModuleRegistry registry_;
+  registry::RegistryPaths paths_;
   SystemIni& system_ini_;
 };
 

@@ -1,13 +1,13 @@
-#include "shell/registry_paths.h"
+#include "registry/registry_paths.h"
 
 #include <array>
 #include <span>
 #include <vector>
 
 #include "base/text.h"
-#include "shell/registry_key.h"
+#include "registry/registry_key.h"
 
-namespace qdix::shell {
+namespace qdix::registry {
 
 namespace {
 
@@ -92,4 +92,4 @@ void RegistryPaths::CreateRegistryKey(const std::string& path, os::KeyHandle roo
   const auto made_and_closed = RegistryKey::Create(registry_, root, path);
 }
 
-}  // namespace qdix::shell
+}  // namespace qdix::registry
