@@ -70,7 +70,7 @@ class Frames(unittest.TestCase):
         self.assertEqual(frame_bytes("lea    -0x1234(%esp),%esp"), 0x1234)
 
     def test_other_instructions_make_no_frame(self):
-        for text in ("add    $0x10,%esp", "sub    $0x10,%eax", "lea    0x10(%esp),%esp", "push   %ebp"):
+        for text in ("add    $0x10,%esp", "sub    $0xffffff80,%esp", "sub    $0x10,%eax", "lea    0x10(%esp),%esp", "push   %ebp"):
             self.assertEqual(frame_bytes(text), 0)
 
 

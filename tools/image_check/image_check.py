@@ -122,7 +122,7 @@ def is_allowed(section, text):
 
 def frame_bytes(text):
     """Returns how far an instruction lowers the stack pointer at once; 0 for any other."""
-    match = re.match(r"\s*(?:sub[lw]?\s+\$0x([0-9a-f]+)|add[lw]?\s+\$0x(f[0-9a-f]{7})|lea[lw]?\s+-0x([0-9a-f]+)\(%esp\)),%esp", text)
+    match = re.match(r"\s*(?:sub[lw]?\s+\$0x([0-9a-f]{1,7}|[0-7][0-9a-f]{7})|add[lw]?\s+\$0x(f[0-9a-f]{7})|lea[lw]?\s+-0x([0-9a-f]+)\(%esp\)),%esp", text)
     if not match:
         return 0
     sub, add, lea = match.groups()
