@@ -154,6 +154,17 @@ TEST_F(AutomaticRelease, TicksWhileTheCompanionWorksAreNotCounted) {
   EXPECT_EQ(Count(), "1") << "the one earlier tick still counts";
 }
 
+TEST_F(AutomaticRelease, IntervalOf60WaitsWhileTheCompanionWorks) {
+  rig.Store("Settings", "AutoSecs", "60");
+  rig.Start();
+  const os::WindowHandle companion = rig.machine.OpenWindow("ThunderRT6Main", "Kestrin Launcher (Working)");
+  RunChecks(3);
+  EXPECT_EQ(Count(), "none");
+  rig.machine.CloseWindow(companion);
+  RunChecks(1);
+  EXPECT_EQ(Count(), "1");
+}
+
 TEST_F(AutomaticRelease, IdleCompanionDisturbsNothing) {
   rig.Start();
   rig.machine.OpenWindow("ThunderRT6Main", "Kestrin Launcher");
