@@ -17,9 +17,10 @@ constexpr int kIconFlags = 12 / 4;
 constexpr int kIconMessage = 16 / 4;
 
 struct Right {
-  /// When the program was started and when it last received input, on the clock of GetTickCount.
-  DWORD start_ms = GetTickCount();
-  DWORD input_ms = start_ms;
+  /// When the program last received input, on the clock of GetTickCount.
+  DWORD input_ms = GetTickCount();
+  /// True until the program first waits for messages.
+  bool is_starting = true;
   /// The message by which its icon reports clicks.
   UINT icon_message = 0;
 };
@@ -53,14 +54,9 @@ bool HasLastInput() {
          static_cast<std::int32_t>(last.dwTime - TheRight().input_ms) <= kLagMs;
 }
 
-/// A program that has just been started keeps the right. For Wine, a window that opens or closes below the
-/// pointer is input to another program; for Windows it is not.
-bool HasJustStarted() {
-  constexpr DWORD kStartMs = 5000;
-  return GetTickCount() - TheRight().start_ms < kStartMs;
-}
-
-bool MayTakeForeground() { return HasForeground() || HasLastInput() || HasJustStarted(); }
+/// A program keeps the right during its start. For Wine, a window that opens or closes below the pointer is
+/// input to another program; for Windows it is not.
+bool MayTakeForeground() { return TheRight().is_starting || HasForeground() || HasLastInput(); }
 
 void CheckBox(Call& call) {
   if (MayTakeForeground()) return;
@@ -84,6 +80,7 @@ void AddForegroundRules(Watches& watches) {
     const auto* const icon = call.Argument<const std::uint32_t*>(2);
     if ((icon[kIconFlags] & NIF_MESSAGE) != 0) TheRight().icon_message = icon[kIconMessage];
   });
+  watches.Before("GetMessageA", [](Call& /*call*/) { TheRight().is_starting = false; });
   watches.Before("SetForegroundWindow", [](Call& call) {
     if (!MayTakeForeground()) call.Refuse(FALSE);
   });

@@ -41,23 +41,33 @@ class Window {
   HWND window_;
 };
 
+bool IsRtm() {
+  OSVERSIONINFOA version{};
+  version.dwOSVersionInfoSize = sizeof version;
+  return GetVersionExA(&version) != 0 && version.dwMinorVersion == 0;
+}
+
 #define PLANTED [[gnu::noinline]] void
 
-/// Gives whoever has the foreground the last input; this program never has it.
-void PressAKeyElsewhere() {
-  // A program that has just been started may take the foreground, and the clocks of input and ticks differ.
-  constexpr DWORD kStartMs = 5500;
-  constexpr DWORD kLongerThanAnyLagMs = 500;
-  static const DWORD begin_ms = GetTickCount();
-  const DWORD passed_ms = GetTickCount() - begin_ms;
-  Sleep(passed_ms < kStartMs ? kStartMs - passed_ms : kLongerThanAnyLagMs);
-  keybd_event(VK_SHIFT, 0, 0, 0);
-  keybd_event(VK_SHIFT, 0, KEYEVENTF_KEYUP, 0);
+/// Ends the right of the start, which lasts until a program first waits for messages, and gives whoever has
+/// the foreground the last input until the guard refuses it to this program. Only Windows 98 has the lock.
+void LoseTheForeground() {
+  constexpr DWORD kLimitMs = 10000;
+  constexpr DWORD kPollMs = 50;
+  MSG message;
+  PostMessageA(nullptr, WM_NULL, 0, 0);
+  GetMessageA(&message, nullptr, 0, 0);
+  if (IsRtm()) return;
+  for (const DWORD begin_ms = GetTickCount(); GetTickCount() - begin_ms < kLimitMs; Sleep(kPollMs)) {
+    keybd_event(VK_SHIFT, 0, 0, 0);
+    keybd_event(VK_SHIFT, 0, KEYEVENTF_KEYUP, 0);
+    if (SetForegroundWindow(GetDesktopWindow()) == FALSE) return;
+  }
 }
 
 /// The WM_QUIT in the queue closes the box.
 PLANTED BoxBehindOthers() {
-  PressAKeyElsewhere();
+  LoseTheForeground();
   PostQuitMessage(0);
   MessageBoxA(nullptr, "planted", "planted", MB_OK | MB_SETFOREGROUND);
 }
@@ -224,12 +234,6 @@ constexpr void (*kReported[])() = {
     &CopyOfAnUnwrittenProfile,
 };
 
-bool IsRtm() {
-  OSVERSIONINFOA version{};
-  version.dwOSVersionInfoSize = sizeof version;
-  return GetVersionExA(&version) != 0 && version.dwMinorVersion == 0;
-}
-
 bool LacksLaterFunctions() {
   const bool is_missing = GetProcAddress(GetModuleHandleA("kernel32.dll"), "GetDiskFreeSpaceExA") == nullptr;
   return is_missing == IsRtm() &&
@@ -264,7 +268,7 @@ bool RefusesWhatIsNotReady() {
 bool KeepsTheForegroundFromOthers() {
   const Window window("STATIC");
   ShowWindow(window.Get(), SW_SHOWNA);
-  PressAKeyElsewhere();
+  LoseTheForeground();
   return IsRtm() || SetForegroundWindow(window.Get()) == FALSE;
 }
 
