@@ -9,17 +9,10 @@ readonly probe=${2:?the program that looks at windows}
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=tools/wine/common.sh
 source "$here/../../tools/wine/common.sh"
+# shellcheck source=tools/wine/own_prefix.sh
+source "$wine_tools_dir/own_prefix.sh"
 
-work_dir=$(mktemp -d "$checkout_dir/build/install-test.XXXXXX")
-export WINEPREFIX="$work_dir/prefix"
-clean_up() {
-  remove_prefix "$WINEPREFIX"
-  rm -rf "$work_dir"
-}
-trap clean_up EXIT
-trap 'exit 129' HUP
-trap 'exit 130' INT
-trap 'exit 143' TERM
+use_own_prefix install-test
 
 wine() { "$wine_tools_dir/wine.sh" "$@" </dev/null; }
 

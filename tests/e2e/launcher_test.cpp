@@ -17,7 +17,6 @@ namespace {
 
 /// The largest amount in one block.
 constexpr int kLargestBlockMb = 250;
-constexpr std::uint64_t kPageBytes = 4096;
 /// A third of the deadline, so that a lost key is pressed again.
 constexpr int kPressAgainMs = kDeadlineMs / 3;
 
@@ -25,11 +24,10 @@ std::string Record(const std::string& name, const std::string& path, const std::
   return launcher::RecordBytes({name, path, start_in});
 }
 
-/// Returns the bytes in whole pages that 66 % of the memory take: megabytes of 1,040,000 bytes, plus one
-/// byte.
-std::uint64_t WholePagesOfTwoThirds() {
+/// Returns the size of the block for 66 % of the memory: megabytes of 1,040,000 bytes, plus one byte.
+std::uint64_t BlockOfTwoThirds() {
   const auto amount_mb = static_cast<std::uint64_t>(std::min(Machine().TwoThirdsMb(), kLargestBlockMb));
-  return (amount_mb * 1040000 + 1 + kPageBytes - 1) / kPageBytes * kPageBytes;
+  return WholePages(amount_mb * 1040000 + 1);
 }
 
 std::string Quoted(const std::string& path) { return '"' + path + '"'; }
@@ -302,10 +300,10 @@ TEST_F(LauncherSession, MemoryIsFreedBeforeTheProgramStarts) {
   EXPECT_EQ(program.Text("txtFreeLabel"), "Freeing Up Memory");
   EXPECT_EQ(report.Bytes(), std::nullopt) << "the program started before the memory was freed";
   EXPECT_TRUE(Photograph("launcher_freeing"));
-  const std::uint64_t whole_pages = WholePagesOfTwoThirds();
+  const std::uint64_t block_bytes = BlockOfTwoThirds();
   EXPECT_TRUE(program.Await([&] {
     const std::vector<std::uint64_t> blocks = program.CommittedBlocks(100000000);
-    return !blocks.empty() && blocks.front() == whole_pages;
+    return !blocks.empty() && blocks.front() == block_bytes;
   }));
   ExpectStarted(Quoted(WitnessPath()), "C:\\");
   EXPECT_TRUE(program.CommittedBlocks(100000000).empty());

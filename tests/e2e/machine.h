@@ -15,6 +15,12 @@
 
 namespace qdix::e2e {
 
+/// Returns the bytes of the whole pages that an allocation takes.
+[[nodiscard]] inline std::uint64_t WholePages(std::uint64_t bytes) {
+  constexpr std::uint64_t kPageBytes = 4096;
+  return (bytes + kPageBytes - 1) / kPageBytes * kPageBytes;
+}
+
 class Machine {
  public:
   Machine() {

@@ -3,6 +3,7 @@
 
 #include "tests/e2e/driver/hand.h"
 #include "tests/e2e/driver/process_memory.h"
+#include "tests/e2e/machine.h"
 #include "tests/e2e/session.h"
 
 namespace qdix::e2e {
@@ -10,10 +11,7 @@ namespace {
 
 using Blocks = std::vector<std::uint64_t>;
 
-constexpr std::uint64_t kPageBytes = 4096;
 constexpr int kReleaseDeadlineMs = 600000;
-
-std::uint64_t WholePages(std::uint64_t bytes) { return (bytes + kPageBytes - 1) / kPageBytes * kPageBytes; }
 
 const std::uint64_t kLargestFirstBlock = WholePages(260000001);
 

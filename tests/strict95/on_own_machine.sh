@@ -14,18 +14,10 @@ shift 4
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=tools/wine/common.sh
 source "$here/../../tools/wine/common.sh"
+# shellcheck source=tools/wine/own_prefix.sh
+source "$wine_tools_dir/own_prefix.sh"
 
-work_dir=$(mktemp -d "$checkout_dir/build/strict-$machine.XXXXXX")
-export WINEPREFIX="$work_dir/prefix"
-clean_up() {
-  set_wine_programs "$(chosen_wine)"
-  remove_prefix "$WINEPREFIX"
-  rm -rf "$work_dir"
-}
-trap clean_up EXIT
-trap 'exit 129' HUP
-trap 'exit 130' INT
-trap 'exit 143' TERM
+use_own_prefix "strict-$machine"
 
 if [ "$machine" = rtm ]; then export QDIX_PHOTOS=rtm; fi
 cp -r "$(dirname "$program")" "$work_dir/programs"

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "tests/strict95/guard/lower_case.h"
 #include "tests/strict95/guard/rules.h"
 
 namespace qdix::strict95 {
@@ -47,14 +48,16 @@ constexpr Answer kAnswers[] = {
 
 constexpr std::uint32_t kHandCursor = 32649;
 
+/// Returns the name of a library in lower case, without folder and extension.
+std::string LibraryName(const std::string& path) {
+  const std::string file_name = path.substr(path.find_last_of('\\') + 1);
+  return LowerCase(file_name.substr(0, file_name.find('.')));
+}
+
 std::string LibraryName(HMODULE module) {
   char path[MAX_PATH] = "";
   GetModuleFileNameA(module, path, sizeof path);
-  std::string name = path;
-  name = name.substr(name.find_last_of('\\') + 1);
-  name = name.substr(0, name.find('.'));
-  std::transform(name.begin(), name.end(), name.begin(), [](unsigned char one) { return std::tolower(one); });
-  return name;
+  return LibraryName(std::string(path));
 }
 
 /// Returns null if not even Windows ME has the function.
@@ -88,10 +91,7 @@ void GuardLookup(HMODULE guard, Call& call) {
 }
 
 void CheckLibrary(Call& call) {
-  std::string name = call.Argument<const char*>(1);
-  std::transform(name.begin(), name.end(), name.begin(), [](unsigned char one) { return std::tolower(one); });
-  name = name.substr(name.find_last_of('\\') + 1);
-  name = name.substr(0, name.find('.'));
+  const std::string name = LibraryName(std::string(call.Argument<const char*>(1)));
   const bool is_known = std::any_of(kExports, kExports + kExportCount,
                                     [&name](const Export& one) { return name == one.library; });
   if (!is_known) call.Refuse(0);

@@ -1,11 +1,10 @@
 // Windows 95 keeps changes to an INI file in memory until they are flushed or another INI file is used. Until
 // then the file on the disk has its old contents. The guard does the same: it lets the program change and
 // read a copy, and copies that back.
-#include <algorithm>
 #include <array>
-#include <cctype>
 #include <string>
 
+#include "tests/strict95/guard/lower_case.h"
 #include "tests/strict95/guard/rules.h"
 
 namespace qdix::strict95 {
@@ -39,9 +38,7 @@ std::string FullPath(const char* name, bool is_profile) {
   } else {
     GetFullPathNameA(name, path.size(), path.data(), nullptr);
   }
-  std::string text = path.data();
-  std::transform(text.begin(), text.end(), text.begin(), [](unsigned char one) { return std::tolower(one); });
-  return text;
+  return LowerCase(path.data());
 }
 
 bool IsThere(const std::string& path) { return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES; }

@@ -1,12 +1,11 @@
 // Registry keys as Windows 95 keeps them: a key has one handle, however often it is opened, and counts its
 // openings in 16 bits. The last close invalidates the handle for everybody who still has it.
-#include <algorithm>
-#include <cctype>
 #include <map>
 #include <string>
 #include <utility>
 
 #include "tests/strict95/guard/ledger.h"
+#include "tests/strict95/guard/lower_case.h"
 #include "tests/strict95/guard/rules.h"
 
 namespace qdix::strict95 {
@@ -44,8 +43,7 @@ std::string NamedPath(const Call& call) {
   const char* const below = call.Argument<const char*>(2);
   std::string path = PathOf(call.Argument(1));
   if (below != nullptr && below[0] != '\0') path += std::string("\\") + below;
-  std::transform(path.begin(), path.end(), path.begin(), [](unsigned char one) { return std::tolower(one); });
-  return path;
+  return LowerCase(path);
 }
 
 /// False if another program has deleted the key.
