@@ -27,7 +27,7 @@ if(QDIX_SHIPPED)
 endif()
 
 if(NOT WIN32)
-  foreach(test IN ITEMS generator manual page drift statements removal)
+  foreach(test IN ITEMS generator manual page drift statements removal settings)
     add_test(NAME help.${test} COMMAND ${DEBIAN_PYTHON3} ${CMAKE_SOURCE_DIR}/tests/help/${test}_test.py)
   endforeach()
 endif()

@@ -9,17 +9,17 @@ namespace qdix::help_viewer {
 
 namespace {
 
-constexpr std::string_view kSection = "Help";
-constexpr const char* kMaximised = "Maximised";
+constexpr const char* kSection = "Help";
+constexpr registry::SwitchSetting kMaximised{{kSection, "Maximised"}, false};
 
 struct Side {
-  const char* key;
+  registry::MachineSetting setting;
   int ui::WindowBounds::*member;
 };
-constexpr std::array<Side, 4> kSides{{{"Left", &ui::WindowBounds::left},
-                                      {"Top", &ui::WindowBounds::top},
-                                      {"Width", &ui::WindowBounds::width},
-                                      {"Height", &ui::WindowBounds::height}}};
+constexpr std::array<Side, 4> kSides{{{{{kSection, "Left"}}, &ui::WindowBounds::left},
+                                      {{{kSection, "Top"}}, &ui::WindowBounds::top},
+                                      {{{kSection, "Width"}}, &ui::WindowBounds::width},
+                                      {{{kSection, "Height"}}, &ui::WindowBounds::height}}};
 
 /// In pixels. The minimum size of the window itself is larger.
 constexpr int kMinSidePx = 1;
@@ -34,10 +34,10 @@ void FitInto(int& begin, int& length, int screen_length) {
 }  // namespace
 
 void SavedWindowPlace::Restore(ui::Form& window) const {
-  if (settings_.GetBoolean(kSection, kMaximised, false)) window.SetState(ui::WindowState::kMaximised);
+  if (settings_.Get(kMaximised)) window.SetState(ui::WindowState::kMaximised);
   ui::WindowBounds bounds;
   for (const Side& side : kSides) {
-    const std::string text = settings_.GetSetting(kSection, side.key, "");
+    const std::string text = settings_.Stored(side.setting).value_or("");
     if (!base::IsNumber(text)) return;
     bounds.*side.member =
         base::ClampToInt32(base::ParseLeadingNumber(text), -kMaxCoordinatePx, kMaxCoordinatePx);
@@ -51,9 +51,9 @@ void SavedWindowPlace::Restore(ui::Form& window) const {
 void SavedWindowPlace::Save(const ui::Form& window) {
   if (!window.Bounds().has_value()) return;
   const ui::WindowBounds& bounds = *window.Bounds();
-  for (const Side& side : kSides) settings_.SaveNumber(kSection, side.key, bounds.*side.member);
+  for (const Side& side : kSides) settings_.Save(side.setting, bounds.*side.member);
   const bool is_maximised = window.State() == ui::WindowState::kMaximised;
-  settings_.SaveSetting(kSection, kMaximised, is_maximised ? "True" : "False");
+  settings_.Save(kMaximised, is_maximised ? "True" : "False");
 }
 
 }  // namespace qdix::help_viewer

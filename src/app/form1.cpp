@@ -4,6 +4,8 @@
 
 namespace qdix::app {
 
+namespace setting = registry::setting;
+
 Form1::Form1(const os::System& system)
     : system_(system),
       settings_(system.registry),
@@ -130,7 +132,7 @@ base::Status Form1::SaveAtExit() {
   const base::Result<bool> time_limit = timed_release_.Text10_Validate();
   if (!time_limit.Ok()) return time_limit.Error();
   if (window_.Form.Unloaded()) return base::kDone;
-  settings_.SaveNumber(registry::kSettingsSection, "LastTab", window_.SSTab1.Tab());
+  settings_.Save(setting::kLastTab, window_.SSTab1.Tab());
   return base::kDone;
 }
 

@@ -6,6 +6,8 @@
 
 namespace qdix::app {
 
+namespace setting = registry::setting;
+
 base::Status Form1::Form_Load() {
   if (single_instance_.AnotherIsRunning()) {
     single_instance_.ActivatePrevInstance();
@@ -68,7 +70,7 @@ void Form1::RunFirstTimeSteps() {
 }
 
 void Form1::SelectStoredTab() {
-  const double stored = settings_.GetNumber(registry::kSettingsSection, "LastTab", 0);
+  const double stored = settings_.Get(setting::kLastTab);
   const base::Result<std::int32_t> tab = base::ToInt32(stored);
   if (tab.Ok())
     base::Ignore(window_.SSTab1.SetTab(tab.Value()));  // a tab that does not exist leaves the first one open

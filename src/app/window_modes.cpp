@@ -4,6 +4,8 @@ namespace qdix::app {
 
 namespace {
 
+namespace setting = registry::setting;
+
 constexpr std::string_view kPauseCaption = "Pause All Activity";
 constexpr std::string_view kResumeCaption = "Resume Activity";
 
@@ -26,7 +28,7 @@ WindowModes::WindowModes(registry::SettingsStore& settings, const Screens& scree
 }
 
 void WindowModes::LoadStartDisplay() {
-  const double stored = settings_.GetNumber(registry::kStartupSection, "StartDisplay", kFullyDisplayed);
+  const double stored = settings_.Get(setting::kStartDisplay);
   if (stored == kFullyDisplayed) {
     screens_.startup.Option1.SetSelected(true);
   } else if (stored == kMinimised) {
@@ -95,8 +97,6 @@ base::Status WindowModes::Option3_Click() {
   return base::kDone;
 }
 
-void WindowModes::SaveStartDisplay(double mode) {
-  settings_.SaveNumber(registry::kStartupSection, "StartDisplay", mode);
-}
+void WindowModes::SaveStartDisplay(double mode) { settings_.Save(setting::kStartDisplay, mode); }
 
 }  // namespace qdix::app

@@ -10,8 +10,7 @@ namespace qdix::cpu {
 
 namespace {
 
-constexpr const char* kIntervalKey = "CPU";
-constexpr double kDefaultInterval = 1;
+namespace setting = registry::setting;
 
 constexpr const char* kStartKey = "PerfStats\\StartStat";
 constexpr const char* kDataKey = "PerfStats\\StatData";
@@ -31,13 +30,10 @@ CpuUsage::CpuUsage(const os::System& system, const ui::Application& application,
   startup_.Slider7.OnMove = base::Callback<base::Status(std::int32_t)>::To<&CpuUsage::Slider7_Change>(*this);
 }
 
-void CpuUsage::LoadUpdateInterval() {
-  startup_.Slider7.SetNearest(
-      settings_.GetNumber(registry::kSettingsSection, kIntervalKey, kDefaultInterval));
-}
+void CpuUsage::LoadUpdateInterval() { startup_.Slider7.SetNearest(settings_.Get(setting::kCpu)); }
 
 base::Status CpuUsage::Slider7_Change(std::int32_t position) {
-  settings_.SaveNumber(registry::kSettingsSection, kIntervalKey, position);
+  settings_.Save(setting::kCpu, position);
   return base::kDone;
 }
 

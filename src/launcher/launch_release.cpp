@@ -8,9 +8,7 @@ namespace qdix::launcher {
 
 namespace {
 
-constexpr const char* kShareKey = "Launcher RAM";
-constexpr const char* kPassesKey = "Launcher Retry";
-constexpr const char* kFirst = "1";
+namespace setting = registry::setting;
 
 /// Maximum amount of one pass, in megabytes of 1,040,000 bytes.
 constexpr double kMaxMb = 250;
@@ -36,13 +34,13 @@ LaunchRelease::LaunchRelease(memory::MemoryRelease& release, const memory::Memor
 }
 
 void LaunchRelease::LoadSettings() {
-  const std::string share = settings_.GetSetting(registry::kSettingsSection, kShareKey, kFirst);
+  const std::string share = settings_.Get(setting::kLauncherRam);
   ui::OptionButton* option = &screen_.Option6;
   if (share == "1") option = &screen_.Option9;
   if (share == "2") option = &screen_.Option8;
   if (share == "3") option = &screen_.Option7;
   option->SetSelected(true);
-  const std::string passes = settings_.GetSetting(registry::kSettingsSection, kPassesKey, kFirst);
+  const std::string passes = settings_.Get(setting::kLauncherRetry);
   for (ui::OptionButton& element : screen_.Slider_6) {
     element.SetSelected(element.Caption() == passes);
   }
@@ -81,27 +79,27 @@ int LaunchRelease::Passes() const {
 bool LaunchRelease::WarningIsSilenced() { return warning_silencer_.Ticked(); }
 
 base::Status LaunchRelease::Option9_Click() {
-  settings_.SaveSetting(registry::kSettingsSection, kShareKey, "1");
+  settings_.Save(setting::kLauncherRam, "1");
   return base::kDone;
 }
 
 base::Status LaunchRelease::Option8_Click() {
-  settings_.SaveSetting(registry::kSettingsSection, kShareKey, "2");
+  settings_.Save(setting::kLauncherRam, "2");
   return base::kDone;
 }
 
 base::Status LaunchRelease::Option7_Click() {
-  settings_.SaveSetting(registry::kSettingsSection, kShareKey, "3");
+  settings_.Save(setting::kLauncherRam, "3");
   return base::kDone;
 }
 
 base::Status LaunchRelease::Option6_Click() {
-  settings_.SaveSetting(registry::kSettingsSection, kShareKey, "4");
+  settings_.Save(setting::kLauncherRam, "4");
   return base::kDone;
 }
 
 base::Status LaunchRelease::Slider_6_Click(int index) {
-  settings_.SaveNumber(registry::kSettingsSection, kPassesKey, index + 1);
+  settings_.Save(setting::kLauncherRetry, index + 1);
   return base::kDone;
 }
 

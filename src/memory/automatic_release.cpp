@@ -9,9 +9,10 @@ namespace qdix::memory {
 
 namespace {
 
+namespace setting = registry::setting;
+
 constexpr std::array<std::string_view, 9> kCheckSeconds{"5",   "10",  "20",  "30", "60",
                                                         "120", "180", "240", "300"};
-constexpr double kDefaultCheckSeconds = 20;
 /// Longest check interval that Timer2 counts in one tick. For longer ones the timer ticks once a minute.
 constexpr double kMinuteSeconds = 60;
 constexpr double kMsPerSecond = 1000;
@@ -33,8 +34,8 @@ AutomaticRelease::AutomaticRelease(const os::System& system, registry::SettingsS
       screen_(screen),
       timer2_(timer2),
       scheduled_(scheduled),
-      cpu_limit_({screen.Check9, screen.Text9, tabs, screens::kAutomaticTab}, {"CPUAutoActive", "AutoCPU"},
-                 settings, system.dialogs, application) {
+      cpu_limit_({screen.Check9, screen.Text9, tabs, screens::kAutomaticTab},
+                 {setting::kCpuAutoActive, setting::kAutoCpu}, settings, system.dialogs, application) {
   using ui::Handler;
   timer2_.OnTimer = Handler::To<&AutomaticRelease::Timer2_Timer>(*this);
   screen_.Check1.OnClick = Handler::To<&AutomaticRelease::Check1_Click>(*this);
@@ -56,18 +57,18 @@ void AutomaticRelease::FillLists() {
 }
 
 void AutomaticRelease::StartCounter() {
-  settings_.SaveNumber(registry::kSettingsSection, "CounterDate", system_.clock.Now());
-  settings_.SaveNumber(registry::kSettingsSection, "CounterValue", 0);
+  settings_.Save(setting::kCounterDate, system_.clock.Now());
+  settings_.Save(setting::kCounterValue, 0);
 }
 
 void AutomaticRelease::LoadCounter() {
-  const std::string stored_date = settings_.GetSetting(registry::kSettingsSection, "CounterDate", "");
+  const std::string stored_date = settings_.Stored(setting::kCounterDate).value_or("");
   double start_date = base::ParseLeadingNumber(stored_date);
   if (!base::IsNumber(stored_date) || system_.clock.LongDate(start_date).empty()) {
     start_date = system_.clock.Now();
-    settings_.SaveNumber(registry::kSettingsSection, "CounterDate", start_date);
+    settings_.Save(setting::kCounterDate, start_date);
   }
-  const double stored_count = settings_.GetNumber(registry::kSettingsSection, "CounterValue", 0);
+  const double stored_count = settings_.Get(setting::kCounterValue);
   counter_start_date_ = start_date;
   auto_release_count_ = base::ToInt32(stored_count).ValueOr(0);
   ShowCounter(kCounterAtLoad);
@@ -82,27 +83,24 @@ void AutomaticRelease::ShowCounter(std::string_view beginning) {
 }
 
 void AutomaticRelease::LoadThreshold(double total_ram_mb) {
-  const std::string stored = settings_.GetSetting(registry::kSettingsSection, "MinRAM",
-                                                  base::ShortestText(DefaultThreshold(total_ram_mb)));
+  const std::string stored =
+      settings_.Stored(setting::kMinRam).value_or(base::ShortestText(DefaultThreshold(total_ram_mb)));
   screen_.VScroll2.SetNearest(base::ParseLeadingNumber(stored));
   screen_.Text2.SetText(stored);
 }
 
 void AutomaticRelease::LoadAmount(double total_ram_mb) {
   const double proposed = DefaultAmount(screen_.List4, total_ram_mb);
-  SelectNumber(screen_.List4, settings_.GetNumber(registry::kSettingsSection, "AutoQuondix", proposed));
+  SelectNumber(screen_.List4, settings_.NumberOr(setting::kAutoQuondix, proposed));
 }
 
 void AutomaticRelease::LoadActive() {
-  screen_.Check1.SetTicked(settings_.GetBoolean(registry::kSettingsSection, "AutoActive", false));
+  screen_.Check1.SetTicked(settings_.Get(setting::kAutoActive));
   if (screen_.Check1.Ticked()) timer2_.SetNearestInterval(SelectedNumber(screen_.List2) * kMsPerSecond);
   timer2_.SetEnabled(screen_.Check1.Ticked());
 }
 
-void AutomaticRelease::LoadInterval() {
-  SelectNumber(screen_.List2,
-               settings_.GetNumber(registry::kSettingsSection, "AutoSecs", kDefaultCheckSeconds));
-}
+void AutomaticRelease::LoadInterval() { SelectNumber(screen_.List2, settings_.Get(setting::kAutoSecs)); }
 
 base::Status AutomaticRelease::Timer2_Timer() {
   if (system_.windows.FindWindowA(kCompanionClass, kCompanionWorking) != 0) return base::kDone;
@@ -132,13 +130,13 @@ base::Status AutomaticRelease::AutoMem() {
   if (!count.Ok()) return count.Error();
   auto_release_count_ = count.Value();
   ShowCounter(kCounterLater);
-  settings_.SaveNumber(registry::kSettingsSection, "CounterValue", auto_release_count_);
+  settings_.Save(setting::kCounterValue, auto_release_count_);
   return base::kDone;
 }
 
 base::Status AutomaticRelease::Check1_Click() {
   timer2_.SetEnabled(screen_.Check1.Ticked());
-  settings_.SaveNumber(registry::kSettingsSection, "AutoActive", screen_.Check1.Value());
+  settings_.Save(setting::kAutoActive, screen_.Check1.Value());
   return base::kDone;
 }
 
@@ -149,17 +147,17 @@ base::Status AutomaticRelease::List2_Click() {
       static_cast<std::int32_t>((within_a_minute ? seconds : kMinuteSeconds) * kMsPerSecond));
   if (!armed.Ok()) return armed;
   auto_check_ticks_ = within_a_minute ? 1 : seconds / kMinuteSeconds;
-  settings_.SaveNumber(registry::kSettingsSection, "AutoSecs", seconds);
+  settings_.Save(setting::kAutoSecs, seconds);
   return base::kDone;
 }
 
 base::Status AutomaticRelease::List4_Click() {
-  settings_.SaveNumber(registry::kSettingsSection, "AutoQuondix", SelectedNumber(screen_.List4));
+  settings_.Save(setting::kAutoQuondix, SelectedNumber(screen_.List4));
   return base::kDone;
 }
 
 base::Status AutomaticRelease::Text2_Change() {
-  settings_.SaveSetting(registry::kSettingsSection, "MinRAM", screen_.Text2.Text());
+  settings_.Save(setting::kMinRam, screen_.Text2.Text());
   return base::kDone;
 }
 
@@ -170,9 +168,9 @@ base::Status AutomaticRelease::VScroll2_Change() {
 
 base::Status AutomaticRelease::Command7_Click() {
   counter_start_date_ = base::WholePart(system_.clock.Now());
-  settings_.SaveNumber(registry::kSettingsSection, "CounterDate", counter_start_date_);
+  settings_.Save(setting::kCounterDate, counter_start_date_);
   auto_release_count_ = 0;
-  settings_.SaveNumber(registry::kSettingsSection, "CounterValue", 0);
+  settings_.Save(setting::kCounterValue, 0);
   ShowCounter(kCounterLater);
   return base::kDone;
 }

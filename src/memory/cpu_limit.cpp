@@ -5,14 +5,13 @@
 namespace qdix::memory {
 
 void CpuLimit::Load() {
-  controls_.active.SetTicked(settings_.GetBoolean(registry::kSettingsSection, keys_.active, true));
+  controls_.active.SetTicked(settings_.Get(stored_.active));
   RefreshActive();
-  controls_.percent.SetText(
-      settings_.GetSetting(registry::kSettingsSection, keys_.percent, base::ShortestText(kDefaultPercent)));
+  controls_.percent.SetText(settings_.Get(stored_.percent));
 }
 
 base::Status CpuLimit::ActiveClicked() {
-  settings_.SaveNumber(registry::kSettingsSection, keys_.active, controls_.active.Value());
+  settings_.Save(stored_.active, controls_.active.Value());
   RefreshActive();
   return base::kDone;
 }
@@ -20,7 +19,7 @@ base::Status CpuLimit::ActiveClicked() {
 /// Uses the stored percentage, not the one the user is typing.
 bool CpuLimit::HoldsBack(std::int32_t load_percent) const {
   if (!controls_.active.Ticked()) return false;
-  return settings_.GetNumber(registry::kSettingsSection, keys_.percent, kDefaultPercent) <= load_percent;
+  return base::ParseLeadingNumber(settings_.Get(stored_.percent)) <= load_percent;
 }
 
 void CpuLimit::RefreshActive() {
@@ -37,7 +36,7 @@ base::Status CpuLimit::PercentKeyPressed(char& character) {
 base::Result<bool> CpuLimit::ValidatePercent() {
   const double percent = base::ParseLeadingNumber(controls_.percent.Text());
   if (percent >= kLowestPercent && percent <= kHighestPercent) {
-    settings_.SaveSetting(registry::kSettingsSection, keys_.percent, controls_.percent.Text());
+    settings_.Save(stored_.percent, controls_.percent.Text());
     return true;
   }
   if (application_.SessionIsEnding()) return false;

@@ -14,7 +14,6 @@ namespace qdix::memory {
 
 class CpuLimit {
  public:
-  static constexpr double kDefaultPercent = 80;
   static constexpr double kLowestPercent = 5;
   static constexpr double kHighestPercent = 99;
 
@@ -25,14 +24,18 @@ class CpuLimit {
     /// The tab with both controls.
     int tab;
   };
-  struct Keys {
-    const char* active;
-    const char* percent;
+  struct Settings {
+    const registry::SwitchSetting& active;
+    const registry::TextSetting& percent;
   };
 
-  CpuLimit(const Controls& controls, const Keys& keys, registry::SettingsStore& settings,
+  CpuLimit(const Controls& controls, const Settings& stored, registry::SettingsStore& settings,
            os::Dialogs& dialogs, const ui::Application& application)
-      : controls_(controls), keys_(keys), settings_(settings), dialogs_(dialogs), application_(application) {}
+      : controls_(controls),
+        stored_(stored),
+        settings_(settings),
+        dialogs_(dialogs),
+        application_(application) {}
 
   void Load();
 
@@ -54,7 +57,7 @@ class CpuLimit {
   void RefreshActive();
 
   Controls controls_;
-  Keys keys_;
+  Settings stored_;
   registry::SettingsStore& settings_;
   os::Dialogs& dialogs_;
   const ui::Application& application_;

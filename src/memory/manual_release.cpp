@@ -5,6 +5,8 @@
 
 namespace qdix::memory {
 
+namespace setting = registry::setting;
+
 ManualRelease::ManualRelease(MemoryRelease& release, registry::SettingsStore& settings,
                              screens::QuondixScreen& screen)
     : release_(release), settings_(settings), screen_(screen) {
@@ -18,11 +20,11 @@ void ManualRelease::FillList() { AddItems(screen_.List1, ManualAmounts()); }
 
 void ManualRelease::LoadAmount(double total_ram_mb) {
   const double proposed = DefaultAmount(screen_.List1, total_ram_mb);
-  SelectNumber(screen_.List1, settings_.GetNumber(registry::kSettingsSection, "FreeUpRAM", proposed));
+  SelectNumber(screen_.List1, settings_.NumberOr(setting::kFreeUpRam, proposed));
 }
 
 void ManualRelease::LoadTryTimes() {
-  const std::string stored = settings_.GetSetting(registry::kSettingsSection, "TryTimes", "1");
+  const std::string stored = settings_.Get(setting::kTryTimes);
   screen_.VScroll1.SetNearest(base::ParseLeadingNumber(stored));
   screen_.Text1.SetText(stored);
 }
@@ -44,12 +46,12 @@ base::Status ManualRelease::Command1_Click() {
 }
 
 base::Status ManualRelease::List1_Click() {
-  settings_.SaveNumber(registry::kSettingsSection, "FreeUpRAM", SelectedNumber(screen_.List1));
+  settings_.Save(setting::kFreeUpRam, SelectedNumber(screen_.List1));
   return base::kDone;
 }
 
 base::Status ManualRelease::Text1_Change() {
-  settings_.SaveSetting(registry::kSettingsSection, "TryTimes", screen_.Text1.Text());
+  settings_.Save(setting::kTryTimes, screen_.Text1.Text());
   return base::kDone;
 }
 

@@ -9,6 +9,8 @@ namespace qdix::memory {
 
 namespace {
 
+namespace setting = registry::setting;
+
 /// A longer delay is counted in minutes, because a timer interval holds little more than one minute.
 constexpr std::int32_t kMaxSingleDelaySeconds = 60;
 constexpr std::int32_t kMsPerSecond = 1000;
@@ -28,18 +30,14 @@ StartupRelease::StartupRelease(registry::SettingsStore& settings, screens::Start
 
 void StartupRelease::FillLists() { AddItems(screen_.Combo1, ReleaseAmounts()); }
 
-void StartupRelease::LoadWarnings() {
-  screen_.Check4.SetTicked(settings_.GetBoolean(registry::kSettingsSection, "Warnings", false));
-}
+void StartupRelease::LoadWarnings() { screen_.Check4.SetTicked(settings_.Get(setting::kWarnings)); }
 
 void StartupRelease::LoadAmount(double total_ram_mb) {
-  SelectNumber(screen_.Combo1,
-               settings_.GetNumber(registry::kStartupSection, "StartupRAM", HalfOfMemory(total_ram_mb)));
+  SelectNumber(screen_.Combo1, settings_.NumberOr(setting::kStartupRam, HalfOfMemory(total_ram_mb)));
 }
 
 void StartupRelease::LoadAndArmDelay() {
-  const std::string stored = settings_.GetSetting(registry::kStartupSection, "StartupTime",
-                                                  base::ShortestText(kMaxSingleDelaySeconds));
+  const std::string stored = settings_.Get(setting::kStartupTime);
   const auto seconds = static_cast<std::int16_t>(
       base::ClampToInt32(base::ParseLeadingNumber(stored), 0, std::numeric_limits<std::int16_t>::max()));
   screen_.VScroll3.SetNearest(seconds);
@@ -73,12 +71,12 @@ base::Status StartupRelease::Timer3_Timer() {
 void StartupRelease::StartupMem() { scheduled_.Run(screen_.Combo1, ScheduledRelease::WhenFree::kGoOn); }
 
 base::Status StartupRelease::Combo1_LostFocus() {
-  settings_.SaveNumber(registry::kStartupSection, "StartupRAM", SelectedNumber(screen_.Combo1));
+  settings_.Save(setting::kStartupRam, SelectedNumber(screen_.Combo1));
   return base::kDone;
 }
 
 base::Status StartupRelease::Text3_Change() {
-  settings_.SaveSetting(registry::kStartupSection, "StartupTime", screen_.Text3.Text());
+  settings_.Save(setting::kStartupTime, screen_.Text3.Text());
   return base::kDone;
 }
 
@@ -88,7 +86,7 @@ base::Status StartupRelease::VScroll3_Change() {
 }
 
 base::Status StartupRelease::Check4_Click() {
-  settings_.SaveNumber(registry::kSettingsSection, "Warnings", screen_.Check4.Value());
+  settings_.Save(setting::kWarnings, screen_.Check4.Value());
   return base::kDone;
 }
 

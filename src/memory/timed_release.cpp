@@ -10,27 +10,28 @@ namespace qdix::memory {
 
 namespace {
 
+namespace setting = registry::setting;
+
 constexpr std::array<std::string_view, 7> kMinuteItems{"5", "10", "15", "20", "30", "40", "50"};
 constexpr std::array<std::string_view, 17> kHourItems{"1",  "2",  "3",  "4",  "5",  "6",  "7",  "8", "9",
                                                       "10", "12", "14", "16", "18", "20", "22", "24"};
 
 }  // namespace
 
-/// A unit of the interval: what the list offers, and where the choice is stored.
+/// A unit of the interval: what the list offers, and where the choice from it is stored.
 struct TimedRelease::Unit {
   std::span<const std::string_view> items;
   /// The stored "TimeUnit".
   double number;
-  const char* key;
-  double default_item;
+  const registry::NumberSetting& interval;
   std::int32_t minutes;
 
   static const Unit kMinutes;
   static const Unit kHours;
 };
 
-constexpr TimedRelease::Unit TimedRelease::Unit::kMinutes{kMinuteItems, 1, "TimeMinutes", 30, 1};
-constexpr TimedRelease::Unit TimedRelease::Unit::kHours{kHourItems, 2, "TimeHours", 1, 60};
+constexpr TimedRelease::Unit TimedRelease::Unit::kMinutes{kMinuteItems, 1, setting::kTimeMinutes, 1};
+constexpr TimedRelease::Unit TimedRelease::Unit::kHours{kHourItems, 2, setting::kTimeHours, 60};
 
 TimedRelease::TimedRelease(const os::System& system, registry::SettingsStore& settings,
                            screens::TimeIntervalsScreen& screen, ui::TabStrip& tabs, const Timers& timers,
@@ -40,7 +41,7 @@ TimedRelease::TimedRelease(const os::System& system, registry::SettingsStore& se
       timers_(timers),
       scheduled_(scheduled),
       cpu_limit_({screen.Check10, screen.Text10, tabs, screens::kTimeIntervalsTab},
-                 {"CPUTimeActive", "TimeCPU"}, settings, system.dialogs, application) {
+                 {setting::kCpuTimeActive, setting::kTimeCpu}, settings, system.dialogs, application) {
   using ui::Handler;
   timers_.timer4.OnTimer = Handler::To<&TimedRelease::Timer4_Timer>(*this);
   timers_.timer5.OnTimer = Handler::To<&TimedRelease::Timer5_Timer>(*this);
@@ -58,16 +59,16 @@ void TimedRelease::FillLists() { AddItems(screen_.List3, ReleaseAmounts()); }
 
 void TimedRelease::LoadAmount(double total_ram_mb) {
   const double proposed = DefaultAmount(screen_.List3, total_ram_mb);
-  SelectNumber(screen_.List3, settings_.GetNumber(registry::kSettingsSection, "TimeQuondix", proposed));
+  SelectNumber(screen_.List3, settings_.NumberOr(setting::kTimeQuondix, proposed));
 }
 
 void TimedRelease::LoadUnit() {
-  const double stored = settings_.GetNumber(registry::kSettingsSection, "TimeUnit", Unit::kMinutes.number);
+  const double stored = settings_.Get(setting::kTimeUnit);
   (stored == Unit::kMinutes.number ? screen_.Option4 : screen_.Option5).SetSelected(true);
 }
 
 void TimedRelease::LoadActive() {
-  screen_.Check3.SetTicked(settings_.GetBoolean(registry::kSettingsSection, "TimeActive", false));
+  screen_.Check3.SetTicked(settings_.Get(setting::kTimeActive));
   RefreshActive();
 }
 
@@ -122,7 +123,7 @@ base::Result<ReleaseOutcome> TimedRelease::TimeMem() {
 
 base::Status TimedRelease::Check3_Click() {
   RefreshActive();
-  settings_.SaveNumber(registry::kSettingsSection, "TimeActive", screen_.Check3.Value());
+  settings_.Save(setting::kTimeActive, screen_.Check3.Value());
   timed_minute_count_ = 0;
   UpdateNextRelease();
   return base::kDone;
@@ -142,8 +143,8 @@ base::Status TimedRelease::Option5_Click() {
 void TimedRelease::ChooseUnit(const Unit& unit) {
   screen_.lstTime.Clear();
   AddItems(screen_.lstTime, unit.items);
-  settings_.SaveNumber(registry::kSettingsSection, "TimeUnit", unit.number);
-  const double item = settings_.GetNumber(registry::kStartupSection, unit.key, unit.default_item);
+  settings_.Save(setting::kTimeUnit, unit.number);
+  const double item = settings_.Get(unit.interval);
   choosing_unit_ = true;
   SelectNumber(screen_.lstTime, item);
   choosing_unit_ = false;
@@ -151,7 +152,7 @@ void TimedRelease::ChooseUnit(const Unit& unit) {
 }
 
 base::Status TimedRelease::lstTime_Click() {
-  settings_.SaveSetting(registry::kStartupSection, SelectedUnit().key, screen_.lstTime.SelectedText());
+  settings_.Save(SelectedUnit().interval, screen_.lstTime.SelectedText());
   if (choosing_unit_) return base::kDone;
   timed_minute_count_ = 0;
   UpdateNextRelease();
@@ -159,7 +160,7 @@ base::Status TimedRelease::lstTime_Click() {
 }
 
 base::Status TimedRelease::List3_Click() {
-  settings_.SaveNumber(registry::kSettingsSection, "TimeQuondix", SelectedNumber(screen_.List3));
+  settings_.Save(setting::kTimeQuondix, SelectedNumber(screen_.List3));
   return base::kDone;
 }
 

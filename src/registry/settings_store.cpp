@@ -7,46 +7,42 @@ namespace qdix::registry {
 
 namespace {
 
-std::string SectionPath(std::string_view section) {
+std::string SectionPath(const char* section) {
   std::string path = "Software\\VB and VBA Program Settings\\QDIX\\";
   path += section;
   return path;
 }
 
-std::optional<std::string> Stored(os::Registry& registry, std::string_view section, const char* key) {
-  const auto opened =
-      RegistryKey::Open(registry, os::kHkeyCurrentUser, SectionPath(section), os::kKeyQueryValue);
-  return opened.ReadText(key);
-}
-
 }  // namespace
 
-std::string SettingsStore::GetSetting(std::string_view section, const char* key,
-                                      std::string_view missing) const {
-  return Stored(registry_, section, key).value_or(std::string(missing));
+std::optional<std::string> SettingsStore::Stored(const Setting& setting) const {
+  const auto opened =
+      RegistryKey::Open(registry_, os::kHkeyCurrentUser, SectionPath(setting.section), os::kKeyQueryValue);
+  return opened.ReadText(setting.key);
 }
 
-double SettingsStore::GetNumber(std::string_view section, const char* key, double missing) const {
-  const auto text = Stored(registry_, section, key);
+std::string SettingsStore::Get(const TextSetting& setting) const {
+  return Stored(setting).value_or(setting.missing);
+}
+
+double SettingsStore::Get(const NumberSetting& setting) const { return NumberOr(setting, setting.missing); }
+
+bool SettingsStore::Get(const SwitchSetting& setting) const {
+  const auto text = Stored(setting);
+  return text ? base::ParseBoolean(*text) : setting.missing;
+}
+
+double SettingsStore::NumberOr(const Setting& setting, double missing) const {
+  const auto text = Stored(setting);
   return text ? base::ParseLeadingNumber(*text) : missing;
 }
 
-bool SettingsStore::GetBoolean(std::string_view section, const char* key, bool missing) const {
-  const auto text = Stored(registry_, section, key);
-  return text ? base::ParseBoolean(*text) : missing;
+void SettingsStore::Save(const Setting& setting, const std::string& text) {
+  auto opened =
+      RegistryKey::Create(registry_, os::kHkeyCurrentUser, SectionPath(setting.section), os::kKeySetValue);
+  opened.WriteText(setting.key, text);
 }
 
-bool SettingsStore::HasSetting(std::string_view section, const char* key) const {
-  return Stored(registry_, section, key).has_value();
-}
-
-void SettingsStore::SaveSetting(std::string_view section, const char* key, const std::string& text) {
-  auto opened = RegistryKey::Create(registry_, os::kHkeyCurrentUser, SectionPath(section), os::kKeySetValue);
-  opened.WriteText(key, text);
-}
-
-void SettingsStore::SaveNumber(std::string_view section, const char* key, double number) {
-  SaveSetting(section, key, base::ShortestText(number));
-}
+void SettingsStore::Save(const Setting& setting, double number) { Save(setting, base::ShortestText(number)); }
 
 }  // namespace qdix::registry

@@ -1,39 +1,34 @@
-// Stores the per-user settings, one text per key, in the sections "Settings" and "Startup". Uses the registry
-// path of earlier installations, so their settings carry over. Caches nothing: every read and write goes to
-// the registry.
+// Stores the per-user settings, one text per setting. Uses the registry path of earlier installations, so
+// their settings carry over. Caches nothing: every read and write goes to the registry.
 #pragma once
 
+#include <optional>
 #include <string>
-#include <string_view>
 
 #include "os/registry.h"
+#include "registry/settings.h"
 
 namespace qdix::registry {
-
-inline constexpr std::string_view kSettingsSection = "Settings";
-inline constexpr std::string_view kStartupSection = "Startup";
 
 class SettingsStore {
  public:
   explicit SettingsStore(os::Registry& registry) : registry_(registry) {}
 
-  /// Returns the stored text, or `missing` if there is none. A value that exists but is empty gives an empty
+  /// Returns the stored text, or nullopt if there is none. A value that exists but is empty gives an empty
   /// text.
-  [[nodiscard]] std::string GetSetting(std::string_view section, const char* key,
-                                       std::string_view missing) const;
+  [[nodiscard]] std::optional<std::string> Stored(const Setting& setting) const;
+
+  [[nodiscard]] std::string Get(const TextSetting& setting) const;
+  [[nodiscard]] double Get(const NumberSetting& setting) const;
+  [[nodiscard]] bool Get(const SwitchSetting& setting) const;
 
   /// Returns the leading number of the stored text, or `missing` if there is none.
-  [[nodiscard]] double GetNumber(std::string_view section, const char* key, double missing) const;
-
-  /// Returns the stored text as a Boolean, or `missing` if there is none.
-  [[nodiscard]] bool GetBoolean(std::string_view section, const char* key, bool missing) const;
-
-  [[nodiscard]] bool HasSetting(std::string_view section, const char* key) const;
+  [[nodiscard]] double NumberOr(const Setting& setting, double missing) const;
 
   /// Saves a text. If the system refuses, the old value stays and no error is reported.
-  void SaveSetting(std::string_view section, const char* key, const std::string& text);
+  void Save(const Setting& setting, const std::string& text);
   /// Saves the shortest text of a number.
-  void SaveNumber(std::string_view section, const char* key, double number);
+  void Save(const Setting& setting, double number);
 
  private:
   os::Registry& registry_;

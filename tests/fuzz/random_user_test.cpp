@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "registry/settings.h"
 #include "tests/support/program_rig.h"
 
 namespace qdix::tests {
@@ -36,6 +39,7 @@ class RandomUser : private RandomSource {
     rig_.program->Form().Unload();
     rig_.AdvanceMs(100000);
     CheckHoldings();
+    CheckStoredNames();
     EXPECT_EQ(rig_.machine.TrayIconCount(), 0);
     return events;
   }
@@ -43,15 +47,8 @@ class RandomUser : private RandomSource {
  private:
   void FillSettings() {
     if (Chance(2)) rig_.SetHasRunBefore();
-    for (const char* key :
-         {"FreeUpRAM",     "TryTimes",    "MinRAM",        "AutoQuondix",  "TimeQuondix",
-          "AutoActive",    "AutoSecs",    "Warnings",      "TimeActive",   "TimeUnit",
-          "CPUAutoActive", "AutoCPU",     "CPUTimeActive", "TimeCPU",      "CPU",
-          "LastTab",       "CounterDate", "CounterValue",  "Launcher RAM", "Launcher Retry"}) {
-      if (Chance(2)) rig_.Store("Settings", key, actions_.SomeText());
-    }
-    for (const char* key : {"StartDisplay", "StartupRAM", "StartupTime", "TimeMinutes", "TimeHours"}) {
-      if (Chance(2)) rig_.Store("Startup", key, actions_.SomeText());
+    for (const registry::Setting* setting : registry::kAllSettings) {
+      if (Chance(2)) rig_.Store(setting->section, setting->key, actions_.SomeText());
     }
   }
 
@@ -140,6 +137,20 @@ class RandomUser : private RandomSource {
     EXPECT_EQ(rig_.machine.OpenFileCount(), 0);
     EXPECT_TRUE(rig_.machine.Misuses().empty());
     EXPECT_LE(rig_.machine.TrayIconCount(), 1);
+  }
+
+  /// The program stores nothing but its listed settings.
+  void CheckStoredNames() {
+    for (const char* section : {registry::kSettingsSection, registry::kStartupSection}) {
+      for (const auto& [key, text] :
+           rig_.machine.RegistryTexts(os::kHkeyCurrentUser, ProgramRig::SectionPath(section))) {
+        EXPECT_TRUE(std::any_of(registry::kAllSettings.begin(), registry::kAllSettings.end(),
+                                [&](const registry::Setting* setting) {
+                                  return setting->section == std::string_view(section) && setting->key == key;
+                                }))
+            << section << ", " << key;
+      }
+    }
   }
 
   void CheckInvariants() {

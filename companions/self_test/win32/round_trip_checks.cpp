@@ -30,11 +30,11 @@ std::string RowOf(HWND list, int row) {
   return text.data();
 }
 
-Outcome Stored(const Bench& bench, std::string_view section, const char* key, const char* expected) {
+Outcome Stored(const Bench& bench, const registry::Setting& setting, const char* expected) {
   const registry::SettingsStore settings(bench.system.GetSystem().registry);
-  const std::string stored = settings.GetSetting(section, key, "nothing");
+  const std::string stored = settings.Stored(setting).value_or("nothing");
   if (stored == expected) return Outcome::Ok();
-  return Outcome::Failed(std::string(key) + " holds " + stored + ", not " + expected);
+  return Outcome::Failed(std::string(setting.key) + " holds " + stored + ", not " + expected);
 }
 
 /// Adds a program to the launcher's list and saves it.
@@ -59,19 +59,19 @@ Outcome TickBox(const Bench& bench, MainProgram& open) {
   if (SendMessageA(open.WindowOf(box), BM_GETCHECK, 0, 0) != BST_CHECKED) {
     return Outcome::Failed("the box is not ticked");
   }
-  return Stored(bench, registry::kSettingsSection, "Warnings", "1");
+  return Stored(bench, registry::setting::kWarnings, "1");
 }
 
 Outcome TypeText(const Bench& bench, MainProgram& open) {
   SetWindowTextA(open.WindowOf(open.TheProgram().StartupScreen().Text3), kDelayText);
-  return Stored(bench, registry::kStartupSection, "StartupTime", kDelayText);
+  return Stored(bench, registry::setting::kStartupTime, kDelayText);
 }
 
 Outcome DragSlider(const Bench& bench, MainProgram& open) {
   HWND const slider = open.WindowOf(open.TheProgram().StartupScreen().Slider7);
   SendMessageA(slider, TBM_SETPOS, TRUE, kSliderPosition);
   SendMessageA(GetParent(slider), WM_HSCROLL, TB_ENDTRACK, reinterpret_cast<LPARAM>(slider));
-  return Stored(bench, registry::kSettingsSection, "CPU", "3");
+  return Stored(bench, registry::setting::kCpu, "3");
 }
 
 Outcome FindAgain(MainProgram& open) {

@@ -1,6 +1,7 @@
 // What a start does with stored values: exact ones, odd ones, and ones edited by somebody else.
 #include <gtest/gtest.h>
 
+#include "registry/settings.h"
 #include "tests/support/program_rig.h"
 
 namespace qdix::tests {
@@ -209,13 +210,8 @@ TEST_F(StoredSettings, GarbageInEveryValueNeverEndsTheLoad) {
   for (const std::string& text : garbage) {
     ProgramRig odd;
     odd.SetHasRunBefore();
-    for (const char* key : {"FreeUpRAM", "TryTimes", "MinRAM", "AutoQuondix", "TimeQuondix", "AutoActive",
-                            "AutoSecs", "Warnings", "TimeActive", "TimeUnit", "CPUAutoActive", "AutoCPU",
-                            "CPUTimeActive", "TimeCPU", "CPU", "LastTab", "CounterDate", "CounterValue"}) {
-      odd.Store("Settings", key, text);
-    }
-    for (const char* key : {"StartDisplay", "StartupRAM", "StartupTime", "TimeMinutes", "TimeHours"}) {
-      odd.Store("Startup", key, text);
+    for (const registry::Setting* setting : registry::kAllSettings) {
+      odd.Store(setting->section, setting->key, text);
     }
     odd.Start();
     EXPECT_FALSE(odd.program->Form().Unloaded()) << text.substr(0, 20);
