@@ -47,7 +47,8 @@ class CloseDuringReleaseTest(ScenarioCase):
         self.assertGreater(self.gain_kb("before", "after"), 0)
         self.assertEqual(self.result["wrong_words"], 0)
 
-    # Wine itself removes the icon of a destroyed window. The unit tests check that the program removes it.
+    # Wine itself removes the icon of a destroyed window. The unit tests and the strict Windows 95 show that the program
+    # removes it first.
     def test_no_icon_is_left(self):
         without, before, after = (self.tray(name) for name in ("without", "before", "after"))
         self.assertNotEqual(before, without, "the icon was not shown before")

@@ -30,6 +30,7 @@ EXPECTED = [
     ("DeletionOfASelectedObject", 4, "DeleteObject", "deletes an object that is still selected"),
     ("DeletionOfAForeignObject", 4, "DeleteObject", "gives back one of its GDI objects that it does not hold"),
     ("start", 4, "ExitProcess", "1 menus left"),
+    ("start", 4, "ExitProcess", "1 tray icons left"),
     # Those of the copy that PassesTheStartCommandOn starts.
     ("start", 4, "ExitProcess", "3 windows left"),
     ("WideCoordinate", 6, "MoveWindow", "width is 0x9c40"),

@@ -5,6 +5,10 @@
 #include "tests/strict95/guard/ledger.h"
 #include "tests/strict95/guard/rules.h"
 
+// clang-format off
+#include <shellapi.h>
+// clang-format on
+
 namespace qdix::strict95 {
 
 namespace {
@@ -129,6 +133,18 @@ void WindowsGone(const Call& /*call*/) {
   GetLedger().GiveAll(kTimers, [&is_gone](std::uint64_t timer) { return is_gone(timer >> 32U); });
 }
 
+/// The taskbar keeps the icon of a program that has ended until the pointer touches it.
+void CountTrayIcon(const Call& call) {
+  if (call.result == 0) return;
+  NOTIFYICONDATAA record{};
+  std::memcpy(&record, call.Argument<const void*>(2), offsetof(NOTIFYICONDATAA, uFlags));
+  const std::uint64_t icon = std::uint64_t{reinterpret_cast<std::uintptr_t>(record.hWnd)} << 32U | record.uID;
+  if (call.Argument(1) == NIM_DELETE) GetLedger().Give(kTrayIcons, icon);
+  // A restarted taskbar takes the same icon again.
+  if (call.Argument(1) == NIM_ADD && !GetLedger().Holds(kTrayIcons, icon))
+    GetLedger().Take(call, kTrayIcons, icon);
+}
+
 void MenuGone(const Call& call) {
   if (call.result == 0) return;
   // DestroyMenu also destroys the submenus.
@@ -168,6 +184,7 @@ void AddResourceRules(Watches& watches) {
   watches.After("KillTimer", [](Call& call) { GetLedger().Give(kTimers, TimerOf(call)); });
   watches.After("DestroyWindow", &WindowsGone);
   watches.After("DestroyMenu", &MenuGone);
+  watches.After("Shell_NotifyIconA", &CountTrayIcon);
   watches.Before("GetMessageA", &CheckWaiting);
   watches.Before("MsgWaitForMultipleObjects", &CheckWaiting);
   watches.Before("ExitProcess", &Close);

@@ -4,6 +4,7 @@
 #include <windows.h>
 // clang-format off
 #include <commctrl.h>
+#include <shellapi.h>
 #include <shlobj.h>
 // clang-format on
 
@@ -139,6 +140,14 @@ PLANTED DeletionOfAForeignObject() { DeleteObject(GetSysColorBrush(COLOR_WINDOW)
 
 PLANTED MenuLeftBehind() { CreatePopupMenu(); }
 
+PLANTED TrayIconLeftBehind() {
+  const Window owner("STATIC");
+  NOTIFYICONDATAA icon{};
+  icon.cbSize = NOTIFYICONDATAA_V1_SIZE;
+  icon.hWnd = owner.Get();
+  Shell_NotifyIconA(NIM_ADD, &icon);
+}
+
 PLANTED WideCoordinate() {
   const Window button("BUTTON");
   MoveWindow(button.Get(), 0, 0, 40000, 20, FALSE);
@@ -221,6 +230,7 @@ constexpr void (*kReported[])() = {
     &DeletionOfASelectedObject,
     &DeletionOfAForeignObject,
     &MenuLeftBehind,
+    &TrayIconLeftBehind,
     &WideCoordinate,
     &LongInterval,
     &WideWord,
