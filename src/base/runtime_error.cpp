@@ -15,8 +15,6 @@ struct Description {
   std::string_view text;
 };
 
-constexpr int kNoSuchControlElement = 340;
-
 constexpr std::array<Description, 11> kDescriptions{{
     {5, "Invalid procedure call or argument"},
     {6, "Overflow"},
@@ -34,7 +32,8 @@ constexpr std::array<Description, 11> kDescriptions{{
 }  // namespace
 
 std::string RuntimeError::Description() const {
-  if (number == kNoSuchControlElement) return "Control array element '" + TextOf(element) + "' doesn't exist";
+  if (number == NoSuchElement(element).number)
+    return "Control array element '" + TextOf(element) + "' doesn't exist";
   const auto* found = std::find_if(kDescriptions.begin(), kDescriptions.end(),
                                    [this](const auto& entry) { return entry.number == number; });
   return found == kDescriptions.end() ? "Application-defined error" : std::string(found->text);

@@ -32,6 +32,9 @@ inline constexpr RuntimeError kPathNotFound{76};
 inline constexpr RuntimeError kInvalidPropertyValue{380};
 inline constexpr RuntimeError kSetNotPermitted{387};
 
+/// The element of a control array that does not exist.
+constexpr RuntimeError NoSuchElement(int element) { return {340, element}; }
+
 /// Returns the message box text of an error that nothing traps: "Run-time error 'N':", an empty line, the
 /// description.
 [[nodiscard]] std::string UntrappedErrorText(const RuntimeError& error);

@@ -6,8 +6,6 @@ namespace qdix::controls {
 
 namespace {
 
-constexpr int kTwipsPerPixel = 15;
-
 // Position of segment 0. Each further segment begins 20 twips before its neighbour ends, so their borders
 // merge into one line.
 constexpr int kSegmentLeftTwips = 30;
@@ -22,7 +20,7 @@ constexpr std::int16_t kDefaultValue = 0;
 constexpr std::int16_t kDefaultBorder = 1;
 
 // Rounds to the nearest pixel. Whole positions are rounded, so errors do not add up along the row.
-constexpr int ToPixels(int twips) { return (twips + kTwipsPerPixel / 2) / kTwipsPerPixel; }
+constexpr int ToPixels(int twips) { return (twips + ui::kTwipsPerPixel / 2) / ui::kTwipsPerPixel; }
 
 constexpr int SegmentLeft(int segment) {
   return ToPixels(kSegmentLeftTwips + segment * (kSegmentWidthTwips - kSegmentOverlapTwips));

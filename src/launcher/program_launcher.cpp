@@ -9,8 +9,6 @@ namespace qdix::launcher {
 
 namespace {
 
-constexpr int kNoElement = 340;
-
 /// Reads no more records than needed to detect that there are too many.
 constexpr std::uint32_t kMaxBytes = static_cast<std::uint32_t>((kMaxEntries + 2) * kRecordBytes);
 
@@ -71,7 +69,7 @@ base::Status ProgramLauncher::ShowRecords(const std::string& content) {
     menu.mnuPrograms.SetEnabled(true);
     const LauncherEntry entry = ReadRecord(content, index);
     const auto element = static_cast<int>(index);
-    if (element >= menu.mnuProgram.Count()) return base::RuntimeError{kNoElement, element};
+    if (element >= menu.mnuProgram.Count()) return base::NoSuchElement(element);
     const std::string_view shown_name = base::CutAtNul(entry.name);
     menu.mnuProgram[element].SetCaption(shown_name);
     base::Ignore(menu.mnuProgram[element].SetVisible(true));  // only hiding can be refused

@@ -29,7 +29,7 @@ void CpuLimit::RefreshActive() {
 }
 
 base::Status CpuLimit::PercentKeyPressed(char& character) {
-  if (!ui::IsDigitKey(character)) character = 0;
+  ui::KeepDigits(character);
   return base::kDone;
 }
 

@@ -13,6 +13,9 @@
 
 namespace qdix::ui {
 
+/// Twips, the unit of some given positions: 1,440 to the inch, which has 96 pixels.
+inline constexpr int kTwipsPerPixel = 15;
+
 class Container;
 class Control;
 class Form;

@@ -9,7 +9,6 @@
 namespace qdix::ui {
 
 /// Pointer positions are in twips: 15 per pixel, whatever the resolution of the screen.
-inline constexpr double kTwipsPerPixel = 15;
 
 enum class WindowState : std::uint8_t {
   kNormal,

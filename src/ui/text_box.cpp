@@ -14,7 +14,10 @@ int Length(std::string_view text) { return static_cast<int>(text.size()); }
 
 }  // namespace
 
-bool IsDigitKey(char character) { return (character >= '0' && character <= '9') || character == kBackspace; }
+void KeepDigits(char& character) {
+  const bool is_kept = (character >= '0' && character <= '9') || character == kBackspace;
+  if (!is_kept) character = 0;
+}
 
 TextBox::TextBox(Container& parent, const Design& design, int max_length)
     : Control(&parent, Kind::kTextBox, design), max_length_(max_length) {}

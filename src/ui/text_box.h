@@ -5,8 +5,9 @@
 
 namespace qdix::ui {
 
-/// True for the characters that a box for numbers accepts: digits and backspace.
-[[nodiscard]] bool IsDigitKey(char character);
+/// Drops a typed character that a box for numbers does not accept: sets everything but digits and backspace
+/// to 0.
+void KeepDigits(char& character);
 
 class TextBox final : public Control {
  public:

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "base/numbers.h"
-#include "tuning/cache/vcache_value.h"
 
 namespace qdix::tuning {
 
@@ -12,7 +11,7 @@ namespace {
 /// Limit for machines with 32 MB or less, which read as a little more than 32 of these megabytes of 1,024,000
 /// bytes.
 constexpr double kSmallBelowMb = 33;
-constexpr double kHalfMegabyteKb = 512;
+constexpr double kStepKb = 512;
 
 constexpr CacheSize Kb(std::int32_t size_kb) { return {.fixed_kb = size_kb, .share = 0}; }
 constexpr CacheSize Share(double share) { return {.fixed_kb = 0, .share = share}; }
@@ -75,10 +74,13 @@ bool Fits(const CachePreset& preset, const CacheValues& values, double total_ram
 
 }  // namespace
 
+base::Result<std::int32_t> GetVCACHEValue(std::int32_t size_kb) {
+  return base::ToInt32(base::RoundHalfEven(size_kb / kStepKb) * kStepKb);
+}
+
 base::Result<std::int32_t> CacheSize::For(double total_ram_mb) const {
   if (fixed_kb != 0) return fixed_kb;
-  const base::Result<std::int32_t> size_kb =
-      base::ToInt32(base::WholePart(total_ram_mb * kHalfMegabyteKb * share));
+  const base::Result<std::int32_t> size_kb = base::ToInt32(base::WholePart(total_ram_mb * kStepKb * share));
   return size_kb.Ok() ? GetVCACHEValue(size_kb.Value()) : size_kb;
 }
 

@@ -53,6 +53,10 @@ struct CachePreset {
   [[nodiscard]] base::Result<CacheValues> For(double total_ram_mb) const;
 };
 
+/// Returns the multiple of 512 KB nearest to a size in KB, ties to the even multiple. Error 6 if it does not
+/// fit 32 bits.
+[[nodiscard]] base::Result<std::int32_t> GetVCACHEValue(std::int32_t size_kb);
+
 /// Shown when the settings match no preset.
 inline constexpr std::string_view kUserDefined = "User-defined";
 

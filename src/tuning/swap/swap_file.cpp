@@ -121,7 +121,7 @@ base::Status SwapFile::optSwap2_Click() {
 }
 
 base::Status SwapFile::Text8_KeyPress(char& character) {
-  if (!ui::IsDigitKey(character)) character = 0;
+  ui::KeepDigits(character);
   return base::kDone;
 }
 

@@ -6,7 +6,6 @@
 #include <algorithm>
 
 #include "os/simulated/simulated_machine.h"
-#include "tuning/cache/vcache_value.h"
 #include "tuning/first_save.h"
 
 namespace qdix::tests {
@@ -99,26 +98,6 @@ TEST_F(SystemIni, FailedBackupIsSilent) {
   machine.SetWindowsDirectory("C:\\" + std::string(300, 'w'));
   ini.BackupSystemINI();
   EXPECT_EQ(machine.ReadFile(kBackupPath), std::nullopt);
-}
-
-struct Snapped {
-  std::int32_t size_kb;
-  std::int32_t snapped_kb;
-};
-class VcacheValue : public testing::TestWithParam<Snapped> {};
-TEST_P(VcacheValue, IsTheNearestMultipleOf512WithTiesToEven) {
-  const auto snapped = tuning::GetVCACHEValue(GetParam().size_kb);
-  ASSERT_TRUE(snapped.Ok());
-  EXPECT_EQ(snapped.Value(), GetParam().snapped_kb);
-}
-INSTANTIATE_TEST_SUITE_P(Values, VcacheValue,
-                         testing::Values(Snapped{0, 0}, Snapped{256, 0}, Snapped{257, 512},
-                                         Snapped{768, 1024}, Snapped{1280, 1024}, Snapped{10158, 10240},
-                                         Snapped{8192, 8192}, Snapped{-256, 0}, Snapped{-768, -1024},
-                                         Snapped{2147483391, 2147483136}));
-
-TEST(VcacheValueLimit, OverflowsAboveTheLastMultiple) {
-  EXPECT_EQ(tuning::GetVCACHEValue(2147483647).Error(), base::kOverflow);
 }
 
 class FirstSave : public SystemIni {
