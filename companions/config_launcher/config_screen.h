@@ -22,7 +22,9 @@ struct ConfigScreen {
                          .caption = "Programs, in the order of the launcher:",
                          .access_key = 'P',
                          .place = {7, 7, 140, 8}}};
+  /// The names of the entries, in the order of the menu.
   ui::ListBox lstPrograms{Window, {.name = "lstPrograms", .place = {7, 18, 192, 84}}};
+  /// How many entries there are, of how many at most.
   ui::Label lblCount{Window, {.name = "lblCount", .place = {150, 7, 50, 8}}};
   ui::Button cmdMoveUp{Window,
                        {.name = "cmdMoveUp",
@@ -48,6 +50,7 @@ struct ConfigScreen {
 
   ui::Label lblName{Window,
                     {.name = "lblName", .caption = "Name:", .access_key = 'N', .place = {7, 111, 54, 8}}};
+  /// The name of an entry in the menu.
   ui::TextBox txtName{
       Window, {.name = "txtName", .place = {64, 109, 135, 14}}, static_cast<int>(launcher::kNameWidth)};
   ui::Button cmdNew{Window,
@@ -58,6 +61,7 @@ struct ConfigScreen {
                      .place = {206, 109, 50, 14}}};
   ui::Label lblPath{
       Window, {.name = "lblPath", .caption = "Command Line:", .access_key = 'C', .place = {7, 129, 54, 8}}};
+  /// Its command line.
   ui::TextBox txtPath{
       Window, {.name = "txtPath", .place = {64, 127, 135, 14}}, static_cast<int>(launcher::kPathWidth)};
   ui::Button cmdBrowsePath{Window,
@@ -68,6 +72,7 @@ struct ConfigScreen {
                             .place = {206, 127, 50, 14}}};
   ui::Label lblStartIn{
       Window, {.name = "lblStartIn", .caption = "Start In:", .access_key = 'S', .place = {7, 147, 54, 8}}};
+  /// The folder in which it starts; may be empty.
   ui::TextBox txtStartIn{
       Window, {.name = "txtStartIn", .place = {64, 145, 135, 14}}, static_cast<int>(launcher::kStartInWidth)};
   ui::Button cmdBrowseStartIn{Window,

@@ -65,16 +65,20 @@ struct HelpScreen {
                       .tool_tip = "Copy the text of the whole topic to the clipboard (Ctrl+C)",
                       .place = {223, 7, 50, kButtonHeight}}};
 
+  /// The titles of all topics.
   ui::ListBox lstContents{Window, {.name = "lstContents"}};
   ui::Label lblWord{Window,
                     {.name = "lblWord", .caption = "Word to find:", .access_key = 'W', .visible = false}};
+  /// Part of a word, in any case.
   ui::TextBox txtWord{Window, {.name = "txtWord", .visible = false}, 60};
   ui::Label lblFound{Window,
                      {.name = "lblFound", .caption = "Topics found:", .access_key = 'T', .visible = false}};
+  /// The titles of the topics with this word.
   ui::ListBox lstFound{Window,
                        {.name = "lstFound",
                         .tool_tip = "Press Enter or double-click to open a topic, again for the next match",
                         .visible = false}};
+  /// The topic itself.
   TopicPane paneTopic{Window, {.name = "paneTopic"}};
 
   /// Places the lists and the pane for the current size of the window.

@@ -57,6 +57,7 @@ struct UndoScreen {
   ui::EventDispatcher& events;
   ui::Form Window{events, {.name = "UndoWindow", .caption = "Q-DIX Undo", .place = {0, 0, 263, 256}}};
 
+  /// Whether there is a record, and what can be put back from it.
   ui::Label lblState{Window, {.name = "lblState", .place = {7, 7, 249, 24}}};
 
   ui::Label lblEntry{Window, {.name = "lblEntry", .caption = "Setting", .place = {kNameLeft, 37, 80, 8}}};
@@ -99,6 +100,7 @@ struct UndoScreen {
                   {"chkPaging", "lblPagingBefore", "lblPagingNow", "Paging", 'g',
                    "Whether Windows uses a swap file", 179}};
 
+  /// Whether there is a usable copy of system.ini, and its date.
   ui::Label lblBackup{Window, {.name = "lblBackup", .place = {7, 200, 249, 24}}};
 
   ui::Button cmdPutBack{Window,
