@@ -11,7 +11,7 @@ constexpr const char* kFilter = "Programs\0*.exe;*.com;*.bat;*.pif;*.lnk\0";
 
 }  // namespace
 
-Browse::Browse(const os::System& system, os::FileDialogs& dialogs, ConfigScreen& screen, Boxes& boxes,
+Browse::Browse(const os::System& system, os::FileDialogs& dialogs, ConfigScreen& screen, EditorBoxes& boxes,
                EntryList& entry_list)
     : system_(system), dialogs_(dialogs), screen_(screen), boxes_(boxes), entry_list_(entry_list) {
   screen_.cmdBrowsePath.OnClick = ui::Handler::To<&Browse::cmdBrowsePath_Click>(*this);
@@ -21,7 +21,7 @@ Browse::Browse(const os::System& system, os::FileDialogs& dialogs, ConfigScreen&
 base::Status Browse::cmdBrowsePath_Click() {
   std::string path;
   {
-    const Boxes::Opened opened(boxes_);
+    const EditorBoxes::Opened opened(boxes_);
     path = dialogs_.GetOpenFileNameA(
         {.title = "Browse", .filter = kFilter, .folder = FolderText(screen_.txtStartIn.Text())});
   }
@@ -36,7 +36,7 @@ base::Status Browse::cmdBrowsePath_Click() {
 base::Status Browse::cmdBrowseStartIn_Click() {
   std::string folder;
   {
-    const Boxes::Opened opened(boxes_);
+    const EditorBoxes::Opened opened(boxes_);
     folder = dialogs_.SHBrowseForFolderA("Start the program in this folder:",
                                          FolderText(screen_.txtStartIn.Text()));
   }

@@ -1,8 +1,8 @@
 // The two "Browse..." buttons.
 #pragma once
 
-#include "config_launcher/boxes.h"
 #include "config_launcher/config_screen.h"
+#include "config_launcher/editor_boxes.h"
 #include "config_launcher/entry_list.h"
 #include "os/file_dialogs.h"
 #include "os/system.h"
@@ -11,7 +11,7 @@ namespace qdix::config_launcher {
 
 class Browse {
  public:
-  Browse(const os::System& system, os::FileDialogs& dialogs, ConfigScreen& screen, Boxes& boxes,
+  Browse(const os::System& system, os::FileDialogs& dialogs, ConfigScreen& screen, EditorBoxes& boxes,
          EntryList& entry_list);
 
   /// Starts a new entry with the name, command line and folder of the program that the user picks.
@@ -22,7 +22,7 @@ class Browse {
   const os::System& system_;
   os::FileDialogs& dialogs_;
   ConfigScreen& screen_;
-  Boxes& boxes_;
+  EditorBoxes& boxes_;
   EntryList& entry_list_;
 };
 

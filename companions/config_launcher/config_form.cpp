@@ -36,7 +36,7 @@ std::string Remarks(const FoundList& found) {
 
 ConfigForm::ConfigForm(const os::System& system, os::FileDialogs& dialogs)
     : system_(system),
-      boxes_(system, application_, screen_.Window),
+      boxes_(system.dialogs, application_, screen_.Window),
       file_(system),
       entry_list_(system, screen_, boxes_),
       browse_(system, dialogs, screen_, boxes_, entry_list_) {
@@ -80,11 +80,11 @@ void ConfigForm::ActivatedMinimised(std::uint32_t former_thread) {
 bool ConfigForm::MaySessionEnd() {
   if (screen_.Window.Unloaded() || !HasUnsavedChanges()) return true;
   switch (boxes_.Choose("The list of programs has not been saved.\r\n\r\nDo you want to save it?")) {
-    case Boxes::Choice::kYes:
+    case EditorBoxes::Choice::kYes:
       return SaveList();
-    case Boxes::Choice::kNo:
+    case EditorBoxes::Choice::kNo:
       return true;
-    case Boxes::Choice::kCancel:
+    case EditorBoxes::Choice::kCancel:
       return false;
   }
   return true;

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "config_launcher/boxes.h"
 #include "config_launcher/browse.h"
 #include "config_launcher/config_screen.h"
+#include "config_launcher/editor_boxes.h"
 #include "config_launcher/entry_list.h"
 #include "config_launcher/list_file.h"
 #include "os/file_dialogs.h"
@@ -62,7 +62,7 @@ class ConfigForm {
   ui::EventDispatcher events_;
   ui::Application application_{kTitle};
   ConfigScreen screen_{events_};
-  Boxes boxes_;
+  EditorBoxes boxes_;
   ListFile file_;
   EntryList entry_list_;
   Browse browse_;

@@ -19,7 +19,7 @@ std::string Trimmed(const ui::TextBox& box) { return std::string(base::Trim(box.
 
 }  // namespace
 
-EntryList::EntryList(const os::System& system, ConfigScreen& screen, Boxes& boxes)
+EntryList::EntryList(const os::System& system, ConfigScreen& screen, EditorBoxes& boxes)
     : system_(system), screen_(screen), boxes_(boxes) {
   screen_.lstPrograms.OnClick = ui::Handler::To<&EntryList::lstPrograms_Click>(*this);
   screen_.lstPrograms.OnRowKey =

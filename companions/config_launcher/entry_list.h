@@ -4,15 +4,16 @@
 #include <string>
 #include <vector>
 
-#include "config_launcher/boxes.h"
 #include "config_launcher/config_screen.h"
+#include "config_launcher/editor_boxes.h"
 #include "launcher/launcher_file.h"
+#include "os/system.h"
 
 namespace qdix::config_launcher {
 
 class EntryList {
  public:
-  EntryList(const os::System& system, ConfigScreen& screen, Boxes& boxes);
+  EntryList(const os::System& system, ConfigScreen& screen, EditorBoxes& boxes);
 
   /// Shows a list that was read and selects its first entry.
   void Take(const std::vector<launcher::LauncherEntry>& entries);
@@ -67,7 +68,7 @@ class EntryList {
 
   const os::System& system_;
   ConfigScreen& screen_;
-  Boxes& boxes_;
+  EditorBoxes& boxes_;
   std::vector<launcher::LauncherEntry> on_disk_;
   std::vector<launcher::LauncherEntry> entries_;
   /// The entry to which the fields belong; kNone for a new one.

@@ -53,7 +53,7 @@ bool PickedFiles::CanBeStarted(const std::string& path) const {
   return attributes == os::kInvalidFileAttributes || (attributes & os::kFileAttributeDirectory) == 0;
 }
 
-void PickedFiles::Report(Boxes& boxes) const {
+void PickedFiles::Report(EditorBoxes& boxes) const {
   if (!refused_.Empty()) {
     boxes.Show(
         "These files were not added. They are not programs or shortcuts to programs, or their paths are too "

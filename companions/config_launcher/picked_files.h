@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "config_launcher/boxes.h"
+#include "config_launcher/editor_boxes.h"
 #include "launcher/launcher_file.h"
 #include "os/system.h"
 
@@ -22,7 +22,7 @@ class PickedFiles {
   [[nodiscard]] std::optional<launcher::LauncherEntry> EntryOf(const std::string& path);
 
   /// Reports the files without an entry and the entries without their folder.
-  void Report(Boxes& boxes) const;
+  void Report(EditorBoxes& boxes) const;
 
  private:
   /// Lines of a message. Shows only as many as fit on a screen of 640 x 480.

@@ -14,6 +14,7 @@ HelpForm::HelpForm(const os::System& system, const Devices& devices, const Start
       stream_(Unpack(start.packed_stream)),
       book_(stream_),
       first_topic_(book_.IndexOf(TopicOfCommandLine(start.command_line).value_or(kNoLink))),
+      boxes_(system.dialogs, application_),
       reader_(book_, screen_),
       contents_list_(book_, screen_, reader_),
       find_page_(book_, screen_, reader_),
@@ -102,7 +103,7 @@ base::Status HelpForm::cmdPrint_Click() {
     devices_.printer.DeleteDC();
   }
   if (!is_printed && !screen_.Window.Unloaded()) {
-    ShowMessage(
+    boxes_.Warn(
         "The topic could not be printed.\r\n\r\nPlease make sure that a printer is installed and ready.");
   }
   return base::kDone;
@@ -111,15 +112,11 @@ base::Status HelpForm::cmdPrint_Click() {
 base::Status HelpForm::cmdCopy_Click() {
   screen_.paneTopic.SetFocus();
   if (!devices_.clipboard.SetClipboardData(PlainText(screen_.paneTopic.Shown()))) {
-    ShowMessage(
+    boxes_.Warn(
         "The topic could not be copied.\r\n\r\nAnother program may be using the clipboard. Please try "
         "again.");
   }
   return base::kDone;
-}
-
-void HelpForm::ShowMessage(const std::string& message) const {
-  system_.dialogs.MessageBoxA(message, application_.Title(), os::kMbOk | os::kMbIconExclamation);
 }
 
 base::Status HelpForm::Arrange() {
@@ -138,7 +135,7 @@ base::Status HelpForm::Unload() {
 }
 
 void HelpForm::ReportUntrapped(const base::RuntimeError& error) {
-  ShowMessage(base::UntrappedErrorText(error));
+  boxes_.Warn(base::UntrappedErrorText(error));
   screen_.Window.Unload();
 }
 

@@ -10,6 +10,7 @@
 #include "help_viewer/help_screen.h"
 #include "help_viewer/reader.h"
 #include "help_viewer/saved_window_place.h"
+#include "host/boxes.h"
 #include "os/clipboard.h"
 #include "os/printer.h"
 #include "os/screen.h"
@@ -68,7 +69,6 @@ class HelpForm {
   void Bind();
   void CloseOtherViewers() const;
   void ShowSide(Side side);
-  void ShowMessage(const std::string& message) const;
   base::Status Arrange();
   base::Status Close();
   base::Status Unload();
@@ -81,6 +81,7 @@ class HelpForm {
   int first_topic_;
   ui::EventDispatcher events_;
   ui::Application application_{kTitle};
+  host::Boxes boxes_;
   HelpScreen screen_{events_};
   Reader reader_;
   ContentsList contents_list_;

@@ -36,9 +36,8 @@ std::string ActionText(const Entry& entry, const Before& before) {
 
 }  // namespace
 
-EntryList::EntryList(const os::System& system, const ui::Application& application, UndoScreen& screen,
-                     Settings& settings, tuning::Restart& restart)
-    : system_(system), application_(application), screen_(screen), settings_(settings), restart_(restart) {
+EntryList::EntryList(host::Boxes& boxes, UndoScreen& screen, Settings& settings, tuning::Restart& restart)
+    : boxes_(boxes), screen_(screen), settings_(settings), restart_(restart) {
   screen_.cmdPutBack.OnClick = ui::Handler::To<&EntryList::cmdPutBack_Click>(*this);
   for (EntryRow* const row : screen_.Rows()) row->box.OnClick = ui::Handler::To<&EntryList::Box_Click>(*this);
 }
@@ -99,9 +98,8 @@ base::Status EntryList::cmdPutBack_Click() {
   ReadAgain();
   const Choice chosen = Chosen();
   if (!screen_.cmdPutBack.Enabled()) return base::kDone;
-  const int answer = system_.dialogs.MessageBoxA(Question(chosen), application_.Title(),
-                                                 os::kMbYesNo | os::kMbIconQuestion | os::kMbDefaultButton2);
-  if (answer != os::kIdYes || screen_.Window.Unloaded()) return base::kDone;
+  const bool agrees = boxes_.Agrees(Question(chosen), os::kMbIconQuestion | os::kMbDefaultButton2);
+  if (!agrees || screen_.Window.Unloaded()) return base::kDone;
   const States earlier = states_;
   PutBack(chosen);
   ReadAgain();
@@ -136,10 +134,8 @@ void EntryList::NameFailures(const Choice& chosen) {
       names += NameOf(kEntries[row]) + std::string(base::kLineBreak);
   }
   if (names.empty()) return;
-  system_.dialogs.MessageBoxA(
-      "These settings could not be put back:\r\n\r\n" + names +
-          "\r\nPlease make sure that system.ini is not write-protected, and try again.",
-      application_.Title(), os::kMbOk | os::kMbIconExclamation);
+  boxes_.Warn("These settings could not be put back:\r\n\r\n" + names +
+              "\r\nPlease make sure that system.ini is not write-protected, and try again.");
 }
 
 }  // namespace qdix::undo

@@ -6,9 +6,8 @@
 #include <string>
 
 #include "base/callback.h"
-#include "os/system.h"
+#include "host/boxes.h"
 #include "tuning/restart.h"
-#include "ui/application.h"
 #include "undo/settings.h"
 #include "undo/undo_screen.h"
 
@@ -16,8 +15,7 @@ namespace qdix::undo {
 
 class EntryList {
  public:
-  EntryList(const os::System& system, const ui::Application& application, UndoScreen& screen,
-            Settings& settings, tuning::Restart& restart);
+  EntryList(host::Boxes& boxes, UndoScreen& screen, Settings& settings, tuning::Restart& restart);
 
   /// Shows what `Settings` found and the current values. A row cannot be chosen if its entry has its previous
   /// value or the previous value is unknown.
@@ -49,8 +47,7 @@ class EntryList {
   void PutBack(const Choice& chosen);
   void NameFailures(const Choice& chosen);
 
-  const os::System& system_;
-  const ui::Application& application_;
+  host::Boxes& boxes_;
   UndoScreen& screen_;
   Settings& settings_;
   tuning::Restart& restart_;

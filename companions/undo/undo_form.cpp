@@ -1,16 +1,16 @@
 #include "undo/undo_form.h"
 
-#include "base/runtime_error.h"
 #include "undo/state_text.h"
 
 namespace qdix::undo {
 
 UndoForm::UndoForm(const os::System& system)
     : system_(system),
+      boxes_(system.dialogs, application_),
       settings_(system),
-      restart_(system, application_, screen_.Window),
-      entry_list_(system, application_, screen_, settings_, restart_),
-      whole_file_(system, application_, screen_, settings_, entry_list_, restart_) {
+      restart_(system.session, boxes_, screen_.Window),
+      entry_list_(boxes_, screen_, settings_, restart_),
+      whole_file_(system.clock, boxes_, screen_, settings_, entry_list_, restart_) {
   events_.ReportErrorsTo(ui::EventDispatcher::ErrorReporter::To<&UndoForm::ReportUntrapped>(*this));
   screen_.cmdClose.OnClick = ui::Handler::To<&UndoForm::cmdClose_Click>(*this);
   entry_list_.ReadAgain = base::Callback<void()>::To<&UndoForm::Read>(*this);
@@ -42,8 +42,7 @@ base::Status UndoForm::cmdClose_Click() {
 }
 
 void UndoForm::ReportUntrapped(const base::RuntimeError& error) {
-  system_.dialogs.MessageBoxA(base::UntrappedErrorText(error), application_.Title(),
-                              os::kMbOk | os::kMbIconStop);
+  boxes_.ShowUntrapped(error);
   screen_.Window.Unload();
 }
 

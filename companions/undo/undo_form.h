@@ -1,6 +1,7 @@
 // The program: owns the window and everything that works on it, and controls the order of start-up.
 #pragma once
 
+#include "host/boxes.h"
 #include "os/system.h"
 #include "tuning/restart.h"
 #include "ui/application.h"
@@ -38,6 +39,7 @@ class UndoForm {
   const os::System& system_;
   ui::EventDispatcher events_;
   ui::Application application_{"Q-DIX Undo"};
+  host::Boxes boxes_;
   UndoScreen screen_{events_};
   Settings settings_;
   tuning::Restart restart_;

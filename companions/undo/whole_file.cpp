@@ -19,10 +19,10 @@ std::string CommandsToEnter(const std::string& folder) {
 
 }  // namespace
 
-WholeFile::WholeFile(const os::System& system, const ui::Application& application, UndoScreen& screen,
-                     Settings& settings, EntryList& entry_list, tuning::Restart& restart)
-    : system_(system),
-      application_(application),
+WholeFile::WholeFile(os::Clock& clock, host::Boxes& boxes, UndoScreen& screen, Settings& settings,
+                     EntryList& entry_list, tuning::Restart& restart)
+    : clock_(clock),
+      boxes_(boxes),
       screen_(screen),
       settings_(settings),
       entry_list_(entry_list),
@@ -36,9 +36,8 @@ void WholeFile::Show() { screen_.cmdRestore.SetEnabled(settings_.TheBackup().IsW
 base::Status WholeFile::cmdRestore_Click() {
   ReadAgain();
   if (!screen_.cmdRestore.Enabled()) return base::kDone;
-  const int answer = system_.dialogs.MessageBoxA(
-      Question(), application_.Title(), os::kMbYesNo | os::kMbIconExclamation | os::kMbDefaultButton2);
-  if (answer != os::kIdYes || screen_.Window.Unloaded()) return base::kDone;
+  const bool agrees = boxes_.Agrees(Question(), os::kMbIconExclamation | os::kMbDefaultButton2);
+  if (!agrees || screen_.Window.Unloaded()) return base::kDone;
   const Replacement replacement = settings_.RestoreWholeFile();
   const bool is_done = replacement.outcome == Replacement::Outcome::kDone;
   if (is_done) settings_.OfferOwnTemplate();
@@ -54,7 +53,7 @@ base::Status WholeFile::cmdRestore_Click() {
 
 std::string WholeFile::Question() const {
   const Backup& backup = settings_.TheBackup();
-  const std::string date = DateOf(backup, system_.clock);
+  const std::string date = DateOf(backup, clock_);
   std::string question = "All of system.ini will be replaced with system.qdix";
   question += date.empty() ? "." : ", the copy dated " + date + ".";
   question +=
@@ -83,7 +82,7 @@ void WholeFile::ReportRestore(const std::string& kept_name) {
         "\r\n\r\nThe file system template is still \"Quondix\". To put the old one back too, answer No to "
         "the next question and press \"Put Back\".";
   }
-  system_.dialogs.MessageBoxA(text, application_.Title(), os::kMbOk | os::kMbIconInformation);
+  boxes_.Ask(text, os::kMbOk | os::kMbIconInformation);
 }
 
 void WholeFile::ReportFailedRestore(const Replacement& replacement) {
@@ -94,7 +93,7 @@ void WholeFile::ReportFailedRestore(const Replacement& replacement) {
           : "system.ini could not be replaced, and has not been changed.\r\n\r\n"
             "Please make sure that it is not write-protected, that no other program has it open and that the "
             "disk is not full, and try again.";
-  system_.dialogs.MessageBoxA(text, application_.Title(), os::kMbOk | os::kMbIconExclamation);
+  boxes_.Warn(text);
 }
 
 }  // namespace qdix::undo

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "base/callback.h"
-#include "os/system.h"
+#include "host/boxes.h"
+#include "os/clock.h"
 #include "tuning/restart.h"
-#include "ui/application.h"
 #include "undo/entry_list.h"
 #include "undo/settings.h"
 #include "undo/undo_screen.h"
@@ -13,8 +13,8 @@ namespace qdix::undo {
 
 class WholeFile {
  public:
-  WholeFile(const os::System& system, const ui::Application& application, UndoScreen& screen,
-            Settings& settings, EntryList& entry_list, tuning::Restart& restart);
+  WholeFile(os::Clock& clock, host::Boxes& boxes, UndoScreen& screen, Settings& settings,
+            EntryList& entry_list, tuning::Restart& restart);
 
   /// Enables the button if `Settings` found a complete backup.
   void Show();
@@ -29,8 +29,8 @@ class WholeFile {
   void ReportRestore(const std::string& kept_name);
   void ReportFailedRestore(const Replacement& replacement);
 
-  const os::System& system_;
-  const ui::Application& application_;
+  os::Clock& clock_;
+  host::Boxes& boxes_;
   UndoScreen& screen_;
   Settings& settings_;
   EntryList& entry_list_;

@@ -8,20 +8,21 @@ namespace setting = registry::setting;
 
 Form1::Form1(const os::System& system)
     : system_(system),
+      boxes_(system.dialogs, application_),
       settings_(system.registry),
       single_instance_(system, application_, window_.Form),
       machine_record_(system.registry),
       processor_(system.processor),
       cpu_speed_(processor_, quondix_),
-      cpu_usage_(system, application_, settings_, quondix_, startup_),
-      monitor_(system, application_, window_.Form, quondix_, cpu_usage_),
-      release_(system, application_, window_.Form),
+      cpu_usage_(system.registry, boxes_, settings_, quondix_, startup_),
+      monitor_(system.memory, boxes_, window_.Form, quondix_, cpu_usage_),
+      release_(system, boxes_, window_.Form),
       manual_release_(release_, settings_, quondix_),
       scheduled_release_(release_, monitor_, cpu_usage_, manual_release_, {quondix_, startup_}),
-      automatic_release_(system, settings_, automatic_, window_.SSTab1, window_.Timer2, application_,
+      automatic_release_(system, settings_, automatic_, window_.SSTab1, window_.Timer2, boxes_,
                          scheduled_release_),
-      timed_release_(system, settings_, time_intervals_, window_.SSTab1, {window_.Timer4, window_.Timer5},
-                     application_, scheduled_release_),
+      timed_release_(settings_, time_intervals_, window_.SSTab1, {window_.Timer4, window_.Timer5}, boxes_,
+                     scheduled_release_),
       startup_release_(settings_, startup_, window_.Timer3, scheduled_release_),
       startup_registration_(system, startup_),
       desktop_shortcut_(system, startup_),
@@ -29,17 +30,16 @@ Form1::Form1(const os::System& system)
                      swap_file_screen_, about_}),
       system_ini_(system.profile_files, system.files),
       first_save_(system, system_ini_),
-      restart_(system, application_, window_.Form),
+      restart_(system.session, boxes_, window_.Form),
       cache_settings_(system, system_ini_, monitor_, cache_),
-      cache_save_(system, application_, cache_, system_ini_, first_save_, restart_),
+      cache_save_(system.registry, boxes_, cache_, system_ini_, first_save_, restart_),
       drive_info_(system.drives),
       swap_file_(system_ini_, drive_info_, monitor_, swap_file_screen_),
-      swap_suggestion_(system.dialogs, application_, monitor_, swap_file_screen_, swap_file_),
-      swap_save_(system.dialogs, application_, monitor_, swap_file_screen_, swap_file_,
-                 {system_ini_, first_save_, restart_}),
-      defragmenter_(system, application_, window_.Form, swap_file_screen_, swap_file_),
+      swap_suggestion_(boxes_, monitor_, swap_file_screen_, swap_file_),
+      swap_save_(boxes_, monitor_, swap_file_screen_, swap_file_, {system_ini_, first_save_, restart_}),
+      defragmenter_(system.processes, boxes_, window_.Form, swap_file_screen_, swap_file_),
       launch_release_(release_, monitor_, settings_, launcher_screen_, startup_.Check4),
-      program_launcher_(system, application_, {window_.Form, launcher_screen_, tray_menu_}, launch_release_),
+      program_launcher_(system, boxes_, {window_.Form, launcher_screen_, tray_menu_}, launch_release_),
       config_watch_(system, launcher_screen_, window_.Timer7, program_launcher_),
       up_time_(system.clock, startup_),
       window_modes_(settings_, {window_, quondix_, automatic_, time_intervals_, startup_}),
@@ -137,8 +137,7 @@ base::Status Form1::SaveAtExit() {
 }
 
 void Form1::ReportUntrapped(const base::RuntimeError& error) {
-  system_.dialogs.MessageBoxA(base::UntrappedErrorText(error), application_.Title(),
-                              os::kMbOk | os::kMbIconStop);
+  boxes_.ShowUntrapped(error);
   window_.Form.Unload();
 }
 

@@ -10,6 +10,7 @@
 #include "cpu/cpu_speed.h"
 #include "cpu/cpu_usage.h"
 #include "cpu/processor_identification.h"
+#include "host/boxes.h"
 #include "launcher/config_watch.h"
 #include "launcher/launch_release.h"
 #include "launcher/program_launcher.h"
@@ -108,6 +109,7 @@ class Form1 {
   const os::System& system_;
   ui::EventDispatcher events_;
   ui::Application application_{"Q-DIX"};
+  host::Boxes boxes_;
   registry::SettingsStore settings_;
 
   screens::MainWindow window_{events_};

@@ -23,10 +23,9 @@ constexpr std::int32_t kFloorPercent = 4;
 
 }  // namespace
 
-CpuUsage::CpuUsage(const os::System& system, const ui::Application& application,
-                   registry::SettingsStore& settings, screens::QuondixScreen& quondix,
-                   screens::StartupScreen& startup)
-    : system_(system), application_(application), settings_(settings), quondix_(quondix), startup_(startup) {
+CpuUsage::CpuUsage(os::Registry& registry, host::Boxes& boxes, registry::SettingsStore& settings,
+                   screens::QuondixScreen& quondix, screens::StartupScreen& startup)
+    : registry_(registry), boxes_(boxes), settings_(settings), quondix_(quondix), startup_(startup) {
   startup_.Slider7.OnMove = base::Callback<base::Status(std::int32_t)>::To<&CpuUsage::Slider7_Change>(*this);
 }
 
@@ -38,15 +37,14 @@ base::Status CpuUsage::Slider7_Change(std::int32_t position) {
 }
 
 bool CpuUsage::OpenStatistics(const char* path, os::KeyHandle& key) {
-  return system_.registry.RegOpenKeyExA(os::kHkeyDynData, path, os::kKeyQueryValue, key) == os::kErrorSuccess;
+  return registry_.RegOpenKeyExA(os::kHkeyDynData, path, os::kKeyQueryValue, key) == os::kErrorSuccess;
 }
 
 std::int32_t CpuUsage::QueryLoad(os::KeyHandle key) {
   std::array<std::uint8_t, 4> bytes{};
   std::uint32_t type = os::kRegDword;
   std::uint32_t size_bytes = bytes.size();
-  if (system_.registry.RegQueryValueExA(key, kLoadValue, type, bytes.data(), size_bytes) !=
-      os::kErrorSuccess) {
+  if (registry_.RegQueryValueExA(key, kLoadValue, type, bytes.data(), size_bytes) != os::kErrorSuccess) {
     return 0;
   }
   const std::uint32_t reading = bytes[0] | std::uint32_t{bytes[1]} << 8U | std::uint32_t{bytes[2]} << 16U |
@@ -58,14 +56,14 @@ void CpuUsage::StartCpuStatistics() {
   os::KeyHandle key = 0;
   if (!OpenStatistics(kStartKey, key)) return;
   static_cast<void>(QueryLoad(key));  // the query itself starts the statistic
-  system_.registry.RegCloseKey(key);
+  registry_.RegCloseKey(key);
 }
 
 void CpuUsage::FirstCPUUSAGE() {
   os::KeyHandle key = 0;
   if (!OpenStatistics(kDataKey, key)) return;
   const base::Result<std::uint8_t> reading = base::ToByte(QueryLoad(key));
-  system_.registry.RegCloseKey(key);
+  registry_.RegCloseKey(key);
   recent_samples_.fill(kFloorPercent);
   if (reading.Ok()) {
     oldest_sample_ = reading.Value();
@@ -80,7 +78,7 @@ void CpuUsage::CPUUsage() {
   os::KeyHandle key = 0;
   if (!OpenStatistics(kDataKey, key)) return;
   const base::Result<bool> displayed = TakeReading(QueryLoad(key));
-  if (displayed.ValueOr(true)) system_.registry.RegCloseKey(key);
+  if (displayed.ValueOr(true)) registry_.RegCloseKey(key);
   if (!displayed.Ok()) Report(displayed.Error());
 }
 
@@ -117,7 +115,7 @@ void CpuUsage::Report(const base::RuntimeError& error) {
   std::string text = "error in CPU Usage Code";
   text += base::kLineBreak;
   text += error.Description() + " - err number " + base::TextOf(error.number);
-  system_.dialogs.MessageBoxA(text, application_.Title(), os::kMbOk);
+  boxes_.Show(text);
 }
 
 }  // namespace qdix::cpu

@@ -6,17 +6,17 @@
 #include <array>
 #include <cstdint>
 
-#include "os/system.h"
+#include "host/boxes.h"
+#include "os/registry.h"
 #include "registry/settings_store.h"
 #include "screens/quondix_screen.h"
 #include "screens/startup_screen.h"
-#include "ui/application.h"
 
 namespace qdix::cpu {
 
 class CpuUsage {
  public:
-  CpuUsage(const os::System& system, const ui::Application& application, registry::SettingsStore& settings,
+  CpuUsage(os::Registry& registry, host::Boxes& boxes, registry::SettingsStore& settings,
            screens::QuondixScreen& quondix, screens::StartupScreen& startup);
 
   /// Makes Windows start the statistic. Call it once, before the first reading.
@@ -44,8 +44,8 @@ class CpuUsage {
   base::Status ShowAverage();
   void Report(const base::RuntimeError& error);
 
-  const os::System& system_;
-  const ui::Application& application_;
+  os::Registry& registry_;
+  host::Boxes& boxes_;
   registry::SettingsStore& settings_;
   screens::QuondixScreen& quondix_;
   screens::StartupScreen& startup_;

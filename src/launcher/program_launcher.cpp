@@ -18,10 +18,10 @@ bool IsLetter(char character) {
 
 }  // namespace
 
-ProgramLauncher::ProgramLauncher(const os::System& system, const ui::Application& application,
-                                 const Screens& screens, LaunchRelease& release)
+ProgramLauncher::ProgramLauncher(const os::System& system, host::Boxes& boxes, const Screens& screens,
+                                 LaunchRelease& release)
     : system_(system),
-      application_(application),
+      boxes_(boxes),
       screens_(screens),
       release_(release),
       menu_handlers_(base::Callback<base::Status(int)>::To<&ProgramLauncher::mnuProgram_Click>(*this)) {
@@ -136,7 +136,7 @@ void ProgramLauncher::ChangeFolder(const std::string& folder) {
 
 void ProgramLauncher::Report(const base::Status& status) {
   if (status.Ok()) return;
-  system_.dialogs.MessageBoxA(status.Error().Description(), application_.Title(), os::kMbOk);
+  boxes_.Show(status.Error().Description());
 }
 
 }  // namespace qdix::launcher

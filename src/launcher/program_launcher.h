@@ -6,11 +6,11 @@
 #include <optional>
 #include <string>
 
+#include "host/boxes.h"
 #include "launcher/launch_release.h"
 #include "os/system.h"
 #include "screens/launcher_screen.h"
 #include "screens/tray_menu.h"
-#include "ui/application.h"
 #include "ui/control_array.h"
 #include "ui/form.h"
 
@@ -25,7 +25,7 @@ class ProgramLauncher {
     screens::TrayMenu& tray_menu;
   };
 
-  ProgramLauncher(const os::System& system, const ui::Application& application, const Screens& screens,
+  ProgramLauncher(const os::System& system, host::Boxes& boxes, const Screens& screens,
                   LaunchRelease& release);
 
   /// Reads the list and fills the list box and the menu. A list that cannot be read counts as empty. Creates
@@ -64,7 +64,7 @@ class ProgramLauncher {
   void Report(const base::Status& status);
 
   const os::System& system_;
-  const ui::Application& application_;
+  host::Boxes& boxes_;
   Screens screens_;
   LaunchRelease& release_;
   ui::ElementHandlers<screens::TrayMenu::kProgramCount> menu_handlers_;

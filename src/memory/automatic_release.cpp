@@ -28,14 +28,14 @@ constexpr std::string_view kCounterLater = "Automatic feature has detected and r
 
 AutomaticRelease::AutomaticRelease(const os::System& system, registry::SettingsStore& settings,
                                    screens::AutomaticScreen& screen, ui::TabStrip& tabs, ui::Timer& timer2,
-                                   const ui::Application& application, ScheduledRelease& scheduled)
+                                   host::Boxes& boxes, ScheduledRelease& scheduled)
     : system_(system),
       settings_(settings),
       screen_(screen),
       timer2_(timer2),
       scheduled_(scheduled),
       cpu_limit_({screen.Check9, screen.Text9, tabs, screens::kAutomaticTab},
-                 {setting::kCpuAutoActive, setting::kAutoCpu}, settings, system.dialogs, application) {
+                 {setting::kCpuAutoActive, setting::kAutoCpu}, settings, boxes) {
   using ui::Handler;
   timer2_.OnTimer = Handler::To<&AutomaticRelease::Timer2_Timer>(*this);
   screen_.Check1.OnClick = Handler::To<&AutomaticRelease::Check1_Click>(*this);

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "host/boxes.h"
 #include "memory/cpu_limit.h"
 #include "memory/scheduled_release.h"
 #include "os/system.h"
@@ -17,7 +18,7 @@ class AutomaticRelease {
  public:
   AutomaticRelease(const os::System& system, registry::SettingsStore& settings,
                    screens::AutomaticScreen& screen, ui::TabStrip& tabs, ui::Timer& timer2,
-                   const ui::Application& application, ScheduledRelease& scheduled);
+                   host::Boxes& boxes, ScheduledRelease& scheduled);
 
   /// Fills the lists but selects nothing.
   void FillLists();

@@ -39,12 +39,12 @@ base::Result<bool> CpuLimit::ValidatePercent() {
     settings_.Save(stored_.percent, controls_.percent.Text());
     return true;
   }
-  if (application_.SessionIsEnding()) return false;
+  if (boxes_.SessionIsEnding()) return false;
   opening_tab_ = true;
   const base::Status opened = controls_.tabs.SetTab(controls_.tab);
   opening_tab_ = false;
   if (!opened.Ok()) return opened.Error();
-  dialogs_.MessageBoxA("Please enter a number between 5 an 99", application_.Title(), os::kMbOk);
+  boxes_.Show("Please enter a number between 5 an 99");
   controls_.percent.SetFocus();
   controls_.percent.SelectAll();
   return false;

@@ -3,9 +3,8 @@
 
 #include <cstdint>
 
-#include "os/dialogs.h"
+#include "host/boxes.h"
 #include "registry/settings_store.h"
-#include "ui/application.h"
 #include "ui/simple_controls.h"
 #include "ui/tab_strip.h"
 #include "ui/text_box.h"
@@ -30,12 +29,8 @@ class CpuLimit {
   };
 
   CpuLimit(const Controls& controls, const Settings& stored, registry::SettingsStore& settings,
-           os::Dialogs& dialogs, const ui::Application& application)
-      : controls_(controls),
-        stored_(stored),
-        settings_(settings),
-        dialogs_(dialogs),
-        application_(application) {}
+           host::Boxes& boxes)
+      : controls_(controls), stored_(stored), settings_(settings), boxes_(boxes) {}
 
   void Load();
 
@@ -59,8 +54,7 @@ class CpuLimit {
   Controls controls_;
   Settings stored_;
   registry::SettingsStore& settings_;
-  os::Dialogs& dialogs_;
-  const ui::Application& application_;
+  host::Boxes& boxes_;
   bool opening_tab_ = false;
 };
 

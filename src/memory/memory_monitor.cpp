@@ -21,11 +21,11 @@ std::string DoubledText(const controls::Meter3& gauge) { return base::TextOf(gau
 }  // namespace
 
 double MemoryMonitor::TotalRAM() const {
-  return base::BytesToMemoryMb(Signed(system_.memory.GlobalMemoryStatus().total_physical));
+  return base::BytesToMemoryMb(Signed(memory_.GlobalMemoryStatus().total_physical));
 }
 
 double MemoryMonitor::TotalSwapFile() const {
-  return base::BytesToSwapFileThousandMb(Signed(system_.memory.GlobalMemoryStatus().total_page_file));
+  return base::BytesToSwapFileThousandMb(Signed(memory_.GlobalMemoryStatus().total_page_file));
 }
 
 base::Status MemoryMonitor::SetTotalRamMb() {
@@ -43,7 +43,7 @@ void MemoryMonitor::ShowTotals() {
 }
 
 double MemoryMonitor::MemStatus() {
-  const os::MemoryStatus status = system_.memory.GlobalMemoryStatus();
+  const os::MemoryStatus status = memory_.GlobalMemoryStatus();
   double available_mb = base::ParseLeadingNumber(base::FormatTwoDecimals(AvailableMb(status)));
 
   const base::Result<double> plausible = CorrectImplausible(available_mb);
@@ -91,7 +91,7 @@ void MemoryMonitor::ReportOnce(const os::MemoryStatus& status) {
   text += "VM : " + base::ShortestText(used_percent);
   text += base::kLineBreak;
   text += "Total Ram : " + base::TextOf(total_ram_mb_);
-  system_.dialogs.MessageBoxA(text, application_.Title(), os::kMbOk);
+  boxes_.Show(text);
 }
 
 void MemoryMonitor::RefreshMemoryDisplay() {

@@ -5,18 +5,18 @@
 #include <cstdint>
 
 #include "cpu/cpu_usage.h"
-#include "os/system.h"
+#include "host/boxes.h"
+#include "os/memory.h"
 #include "screens/quondix_screen.h"
-#include "ui/application.h"
 #include "ui/form.h"
 
 namespace qdix::memory {
 
 class MemoryMonitor {
  public:
-  MemoryMonitor(const os::System& system, const ui::Application& application, ui::Form& form,
-                screens::QuondixScreen& screen, cpu::CpuUsage& cpu_usage)
-      : system_(system), application_(application), form_(form), screen_(screen), cpu_usage_(cpu_usage) {}
+  MemoryMonitor(os::Memory& memory, host::Boxes& boxes, ui::Form& form, screens::QuondixScreen& screen,
+                cpu::CpuUsage& cpu_usage)
+      : memory_(memory), boxes_(boxes), form_(form), screen_(screen), cpu_usage_(cpu_usage) {}
 
   /// Returns the total physical memory in MB with fractions, unrounded. Totals of 2 GB and above are
   /// negative.
@@ -50,8 +50,8 @@ class MemoryMonitor {
   base::Status ShowAvailable(double available_mb);
   void ReportOnce(const os::MemoryStatus& status);
 
-  const os::System& system_;
-  const ui::Application& application_;
+  os::Memory& memory_;
+  host::Boxes& boxes_;
   ui::Form& form_;
   screens::QuondixScreen& screen_;
   cpu::CpuUsage& cpu_usage_;

@@ -58,10 +58,10 @@ void MemoryRelease::PumpEvents() {
 void MemoryRelease::ReportFailure(const ReleaseRequest& request, const base::RuntimeError& error) {
   if (error == base::kOutOfMemory) {
     if (request.warning_is_silenced && request.warning_is_silenced()) return;
-    system_.dialogs.MessageBoxA(kLowResourcesWarning, application_.Title(), os::kMbOk);
+    boxes_.Show(kLowResourcesWarning);
     return;
   }
-  system_.dialogs.MessageBoxA(error.Description(), application_.Title(), os::kMbOk);
+  boxes_.Show(error.Description());
 }
 
 }  // namespace qdix::memory

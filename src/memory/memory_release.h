@@ -3,8 +3,8 @@
 #pragma once
 
 #include "base/callback.h"
+#include "host/boxes.h"
 #include "os/system.h"
-#include "ui/application.h"
 #include "ui/form.h"
 
 namespace qdix::memory {
@@ -37,8 +37,8 @@ class MemoryRelease {
   static constexpr const char* kLowResourcesWarning =
       "Warning - System Resources may be low.  Please check your harddisk space and swapfile size.";
 
-  MemoryRelease(const os::System& system, const ui::Application& application, const ui::Form& form)
-      : system_(system), application_(application), form_(form) {}
+  MemoryRelease(const os::System& system, host::Boxes& boxes, const ui::Form& form)
+      : system_(system), boxes_(boxes), form_(form) {}
 
   /// Runs the passes of a release inside the calling handler. Any other handler can run in its event pumps,
   /// including another release.
@@ -50,7 +50,7 @@ class MemoryRelease {
   void ReportFailure(const ReleaseRequest& request, const base::RuntimeError& error);
 
   const os::System& system_;
-  const ui::Application& application_;
+  host::Boxes& boxes_;
   const ui::Form& form_;
 };
 

@@ -33,15 +33,15 @@ struct TimedRelease::Unit {
 constexpr TimedRelease::Unit TimedRelease::Unit::kMinutes{kMinuteItems, 1, setting::kTimeMinutes, 1};
 constexpr TimedRelease::Unit TimedRelease::Unit::kHours{kHourItems, 2, setting::kTimeHours, 60};
 
-TimedRelease::TimedRelease(const os::System& system, registry::SettingsStore& settings,
-                           screens::TimeIntervalsScreen& screen, ui::TabStrip& tabs, const Timers& timers,
-                           const ui::Application& application, ScheduledRelease& scheduled)
+TimedRelease::TimedRelease(registry::SettingsStore& settings, screens::TimeIntervalsScreen& screen,
+                           ui::TabStrip& tabs, const Timers& timers, host::Boxes& boxes,
+                           ScheduledRelease& scheduled)
     : settings_(settings),
       screen_(screen),
       timers_(timers),
       scheduled_(scheduled),
       cpu_limit_({screen.Check10, screen.Text10, tabs, screens::kTimeIntervalsTab},
-                 {setting::kCpuTimeActive, setting::kTimeCpu}, settings, system.dialogs, application) {
+                 {setting::kCpuTimeActive, setting::kTimeCpu}, settings, boxes) {
   using ui::Handler;
   timers_.timer4.OnTimer = Handler::To<&TimedRelease::Timer4_Timer>(*this);
   timers_.timer5.OnTimer = Handler::To<&TimedRelease::Timer5_Timer>(*this);

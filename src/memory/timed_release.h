@@ -4,9 +4,9 @@
 
 #include <cstdint>
 
+#include "host/boxes.h"
 #include "memory/cpu_limit.h"
 #include "memory/scheduled_release.h"
-#include "os/system.h"
 #include "screens/main_window.h"
 #include "screens/time_intervals_screen.h"
 #include "ui/timer.h"
@@ -22,9 +22,8 @@ class TimedRelease {
     ui::Timer& timer5;
   };
 
-  TimedRelease(const os::System& system, registry::SettingsStore& settings,
-               screens::TimeIntervalsScreen& screen, ui::TabStrip& tabs, const Timers& timers,
-               const ui::Application& application, ScheduledRelease& scheduled);
+  TimedRelease(registry::SettingsStore& settings, screens::TimeIntervalsScreen& screen, ui::TabStrip& tabs,
+               const Timers& timers, host::Boxes& boxes, ScheduledRelease& scheduled);
 
   /// Fills the list of amounts. Choosing the unit fills the list of intervals.
   void FillLists();

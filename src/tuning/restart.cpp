@@ -4,7 +4,7 @@ namespace qdix::tuning {
 
 void Restart::RebootMachine() {
   constexpr std::uint32_t kReserved = 0;
-  system_.session.ExitWindowsEx(os::kEwxReboot, kReserved);
+  session_.ExitWindowsEx(os::kEwxReboot, kReserved);
 }
 
 void Restart::RebootAndUnload() {
@@ -13,11 +13,11 @@ void Restart::RebootAndUnload() {
 }
 
 void Restart::Offer() {
-  const int answer = system_.dialogs.MessageBoxA(
-      "You must restart your computer before the new settings take effect.\r\n\r\n"
-      "Do you want to restart your computer now?",
-      application_.Title(), os::kMbYesNo | os::kMbIconInformation);
-  if (answer == os::kIdYes) RebootAndUnload();
+  if (boxes_.Agrees("You must restart your computer before the new settings take effect.\r\n\r\n"
+                    "Do you want to restart your computer now?",
+                    os::kMbIconInformation)) {
+    RebootAndUnload();
+  }
 }
 
 }  // namespace qdix::tuning

@@ -1,16 +1,16 @@
 // Restarts Windows, which changed system settings need to take effect.
 #pragma once
 
-#include "os/system.h"
-#include "ui/application.h"
+#include "host/boxes.h"
+#include "os/session.h"
 #include "ui/form.h"
 
 namespace qdix::tuning {
 
 class Restart {
  public:
-  Restart(const os::System& system, const ui::Application& application, ui::Form& form)
-      : system_(system), application_(application), form_(form) {}
+  Restart(os::Session& session, host::Boxes& boxes, ui::Form& form)
+      : session_(session), boxes_(boxes), form_(form) {}
 
   /// Asks Windows to restart the machine. Ignores a refusal.
   void RebootMachine();
@@ -22,8 +22,8 @@ class Restart {
   void Offer();
 
  private:
-  const os::System& system_;
-  const ui::Application& application_;
+  os::Session& session_;
+  host::Boxes& boxes_;
   ui::Form& form_;
 };
 

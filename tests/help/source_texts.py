@@ -17,7 +17,7 @@ _ESCAPED = {"r\\n": "\n", "n": "\n", "0": "\0"}
 _CAPTION = re.compile(r'\.caption =\s*((?:"(?:\\.|[^"\\\n])*"\s*)+)')
 _OPERATED = re.compile(r'ui::(?:Button|CheckBox|OptionButton)\s+\w+\{.*?\.caption =\s*((?:"(?:\\.|[^"\\\n])*"\s*)+)',
                        re.DOTALL)
-_SHOWS_BOXES = re.compile(r"MessageBoxA\(|\bTell\(|\bAsk\(|UntrappedErrorText|kLowResourcesWarning =")
+_SHOWS_BOXES = re.compile(r"MessageBoxA\(|\bboxes_?\.[A-Z]|UntrappedErrorText|kLowResourcesWarning =")
 _MENU_CAPTION = re.compile(r'ui::MenuItem \w+\{\w+, "\w+", "([^"]+)"\}')
 
 _MENU_TITLE = re.compile(r'ui::MenuItem \w+\{events, "\w+", "([^"]+)"\}')

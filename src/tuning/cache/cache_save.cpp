@@ -12,12 +12,10 @@ constexpr const char* kWrittenFile = "System.ini";
 
 }  // namespace
 
-CacheSave::CacheSave(const os::System& system, const ui::Application& application,
-                     screens::CacheScreen& screen, SystemIni& system_ini, FirstSave& first_save,
-                     Restart& restart)
-    : dialogs_(system.dialogs),
-      registry_(system.registry),
-      application_(application),
+CacheSave::CacheSave(os::Registry& registry, host::Boxes& boxes, screens::CacheScreen& screen,
+                     SystemIni& system_ini, FirstSave& first_save, Restart& restart)
+    : registry_(registry),
+      boxes_(boxes),
       screen_(screen),
       system_ini_(system_ini),
       first_save_(first_save),
@@ -27,9 +25,9 @@ CacheSave::CacheSave(const os::System& system, const ui::Application& applicatio
 }
 
 base::Status CacheSave::Command11_Click() {
-  const int answer = dialogs_.MessageBoxA("Are you sure you want to save these new cache settings?",
-                                          application_.Title(), os::kMbYesNo | os::kMbDefaultButton2);
-  if (answer != os::kIdYes) return base::kDone;
+  if (!boxes_.Agrees("Are you sure you want to save these new cache settings?", os::kMbDefaultButton2)) {
+    return base::kDone;
+  }
   const base::Status saved = Save();
   if (!saved.Ok()) return saved;
   restart_.Offer();

@@ -2,20 +2,20 @@
 // resets them to the Windows defaults.
 #pragma once
 
-#include "os/system.h"
+#include "host/boxes.h"
+#include "os/registry.h"
 #include "registry/module_registry.h"
 #include "screens/cache_screen.h"
 #include "tuning/first_save.h"
 #include "tuning/restart.h"
 #include "tuning/system_ini.h"
-#include "ui/application.h"
 
 namespace qdix::tuning {
 
 class CacheSave {
  public:
-  CacheSave(const os::System& system, const ui::Application& application, screens::CacheScreen& screen,
-            SystemIni& system_ini, FirstSave& first_save, Restart& restart);
+  CacheSave(os::Registry& registry, host::Boxes& boxes, screens::CacheScreen& screen, SystemIni& system_ini,
+            FirstSave& first_save, Restart& restart);
 
   /// "Save Settings". Asks first, then writes and offers to restart. Settings that cannot be written stay
   /// unchanged.
@@ -30,9 +30,8 @@ class CacheSave {
   base::Status SaveTemplateEntry(const ui::Slider& slider, const char* value_name);
   void SaveSize(const ui::CheckBox& box, const ui::Slider& slider, const char* key);
 
-  os::Dialogs& dialogs_;
   registry::ModuleRegistry registry_;
-  const ui::Application& application_;
+  host::Boxes& boxes_;
   screens::CacheScreen& screen_;
   SystemIni& system_ini_;
   FirstSave& first_save_;

@@ -1,26 +1,26 @@
 // Runs the disk defragmenter of Windows in place of this program.
 #pragma once
 
-#include "os/system.h"
+#include "host/boxes.h"
+#include "os/processes.h"
 #include "screens/swap_file_screen.h"
 #include "tuning/swap/swap_file.h"
-#include "ui/application.h"
 #include "ui/form.h"
 
 namespace qdix::tuning {
 
 class Defragmenter {
  public:
-  Defragmenter(const os::System& system, const ui::Application& application, ui::Form& form,
-               screens::SwapFileScreen& screen, const SwapFile& swap_file);
+  Defragmenter(os::Processes& processes, host::Boxes& boxes, ui::Form& form, screens::SwapFileScreen& screen,
+               const SwapFile& swap_file);
 
   /// Asks, starts the defragmenter on the selected drive and ends the program. Returns an error if the
   /// defragmenter is missing.
   base::Status Command26_Click();
 
  private:
-  const os::System& system_;
-  const ui::Application& application_;
+  os::Processes& processes_;
+  host::Boxes& boxes_;
   ui::Form& form_;
   const SwapFile& swap_file_;
 };

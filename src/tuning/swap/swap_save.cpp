@@ -5,15 +5,9 @@
 
 namespace qdix::tuning {
 
-SwapSave::SwapSave(os::Dialogs& dialogs, const ui::Application& application,
-                   const memory::MemoryMonitor& monitor, screens::SwapFileScreen& screen, SwapFile& swap_file,
-                   const Tools& tools)
-    : dialogs_(dialogs),
-      application_(application),
-      monitor_(monitor),
-      screen_(screen),
-      swap_file_(swap_file),
-      tools_(tools) {
+SwapSave::SwapSave(host::Boxes& boxes, const memory::MemoryMonitor& monitor, screens::SwapFileScreen& screen,
+                   SwapFile& swap_file, const Tools& tools)
+    : boxes_(boxes), monitor_(monitor), screen_(screen), swap_file_(swap_file), tools_(tools) {
   screen_.Command18.OnClick = ui::Handler::To<&SwapSave::Command18_Click>(*this);
 }
 
@@ -24,23 +18,25 @@ base::Status SwapSave::Command18_Click() {
   } else if (screen_.optSwap2.Selected()) {
     SaveOwnSetup();
   } else {
-    Show("No changes have been made to your virtual memory settings.");
+    boxes_.Show("No changes have been made to your virtual memory settings.");
   }
   return base::kDone;
 }
 
 void SwapSave::SaveWindowsDefault() {
-  if (!Agrees("Are you sure you want to set the virtual memory (swapfile) settings to Window's default "
-              "settings?")) {
+  if (!boxes_.Agrees(
+          "Are you sure you want to set the virtual memory (swapfile) settings to Window's default "
+          "settings?")) {
     return;
   }
   for (const char* const entry : {kPagingDriveEntry, kMinPagingFileSizeEntry, kMaxPagingFileSizeEntry}) {
     tools_.system_ini.DeleteIniValue(k386EnhSection, entry, kSystemIni);
   }
   tools_.system_ini.WriteIniText(k386EnhSection, kPagingEntry, "on", kSystemIni);
-  if (Agrees("Quondix has reset your virtual memory settings to the system's defaults.\r\n"
-             "These settings will not take place until you reboot your system. You should save any work "
-             "before re-starting Windows.  Do you want to restart Windows now?")) {
+  if (boxes_.Agrees(
+          "Quondix has reset your virtual memory settings to the system's defaults.\r\n"
+          "These settings will not take place until you reboot your system. You should save any work "
+          "before re-starting Windows.  Do you want to restart Windows now?")) {
     tools_.restart.RebootAndUnload();
   }
 }
@@ -49,7 +45,7 @@ void SwapSave::SaveOwnSetup() {
   const double size_mb = base::ParseLeadingNumber(screen_.Text8.Text());
   const double lowest_mb = base::WholePart(monitor_.TotalRAM());
   if (size_mb < lowest_mb) {
-    Show(
+    boxes_.Show(
         "It is not very safe to set the swapfile size this low. The lowest Quondix will allow you to set on "
         "this system is " +
         base::ShortestText(lowest_mb) + " MB.");
@@ -58,7 +54,7 @@ void SwapSave::SaveOwnSetup() {
   const std::string drive = swap_file_.SelectedDrive();
   const double free_mb = swap_file_.FreeMb(drive);
   if (size_mb + kSavedReserveMb - 1 >= free_mb) {
-    Show(
+    boxes_.Show(
         "The size you have selected is too large.  You should decrease the Swapfile size, make some more "
         "space available on " +
         drive +
@@ -66,7 +62,8 @@ void SwapSave::SaveOwnSetup() {
         drive + " is " + base::ShortestText(free_mb - kSavedReserveMb) + " MB.");
     return;
   }
-  if (!Agrees("Are you sure you want to configure your Virtual Memory Settings?", os::kMbDefaultButton2)) {
+  if (!boxes_.Agrees("Are you sure you want to configure your Virtual Memory Settings?",
+                     os::kMbDefaultButton2)) {
     return;
   }
   Write(drive, size_mb);
@@ -81,11 +78,5 @@ void SwapSave::Write(const std::string& drive, double size_mb) {
   tools_.system_ini.WriteIniText(k386EnhSection, kMaxPagingFileSizeEntry, size_kb, kSystemIni);
   tools_.system_ini.DeleteIniValue(k386EnhSection, kPagingEntry, kSystemIni);
 }
-
-bool SwapSave::Agrees(const std::string& question, std::uint32_t flags) {
-  return dialogs_.MessageBoxA(question, application_.Title(), os::kMbYesNo | flags) == os::kIdYes;
-}
-
-void SwapSave::Show(const std::string& text) { dialogs_.MessageBoxA(text, application_.Title(), os::kMbOk); }
 
 }  // namespace qdix::tuning

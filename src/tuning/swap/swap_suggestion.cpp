@@ -5,14 +5,9 @@
 
 namespace qdix::tuning {
 
-SwapSuggestion::SwapSuggestion(os::Dialogs& dialogs, const ui::Application& application,
-                               const memory::MemoryMonitor& monitor, screens::SwapFileScreen& screen,
-                               SwapFile& swap_file)
-    : dialogs_(dialogs),
-      application_(application),
-      monitor_(monitor),
-      screen_(screen),
-      swap_file_(swap_file) {
+SwapSuggestion::SwapSuggestion(host::Boxes& boxes, const memory::MemoryMonitor& monitor,
+                               screens::SwapFileScreen& screen, SwapFile& swap_file)
+    : boxes_(boxes), monitor_(monitor), screen_(screen), swap_file_(swap_file) {
   screen_.cmdBeginnerSwapFile.OnClick = ui::Handler::To<&SwapSuggestion::cmdBeginnerSwapFile_Click>(*this);
 }
 
@@ -34,14 +29,15 @@ base::Status SwapSuggestion::Suggest(int row, std::int32_t size_mb) {
   base::Ignore(screen_.Combo3.SetSelectedIndex(row));  // the row was just found
   const base::Status shown = swap_file_.SetSize(size_mb);
   if (!shown.Ok()) return shown;
-  Show("Quondix suggests configuring your swapfile on your " + drive + " at a size of " +
-       base::TextOf(size_mb) +
-       " MB.\r\n\r\n"
-       "If you are an advanced Windows user and you have more than one physical hard disk then you may want "
-       "to view the tips help screen for information on how to further configure your virtual memory "
-       "settings. This is located by pressing the button with the lightbulb on this screen.\r\n\r\n"
-       "It is recomended that you run the Disk Defragmenter on this drive first.\r\n\r\n"
-       "For changes to be made you must press the Save button.");
+  boxes_.Show(
+      "Quondix suggests configuring your swapfile on your " + drive + " at a size of " +
+      base::TextOf(size_mb) +
+      " MB.\r\n\r\n"
+      "If you are an advanced Windows user and you have more than one physical hard disk then you may want "
+      "to view the tips help screen for information on how to further configure your virtual memory "
+      "settings. This is located by pressing the button with the lightbulb on this screen.\r\n\r\n"
+      "It is recomended that you run the Disk Defragmenter on this drive first.\r\n\r\n"
+      "For changes to be made you must press the Save button.");
   return base::kDone;
 }
 
@@ -49,7 +45,7 @@ base::Status SwapSuggestion::Suggest(int row, std::int32_t size_mb) {
 void SwapSuggestion::Refuse(std::int32_t size_mb) {
   const std::string needed_mb = base::TextOf(size_mb + kSuggestionReserveMb);
   if (screen_.Combo3.Count() == 0) {
-    Show(
+    boxes_.Show(
         "Quondix suggests you leave your virtual memory settings configured to Window's default settings for "
         "now.\r\n\r\n"
         "Your Hard Disk does not have enough free disk space available as you should have at least " +
@@ -61,7 +57,7 @@ void SwapSuggestion::Refuse(std::int32_t size_mb) {
         "(2) Install a second Hard Disk onto your computer.");
     return;
   }
-  Show(
+  boxes_.Show(
       "Quondix suggests you leave your virtual memory settings configured to Window's default "
       "settings.\r\n\r\n"
       "Your Hard Disks do not have enough free disk space available as you should have at least " +
@@ -72,10 +68,6 @@ void SwapSuggestion::Refuse(std::int32_t size_mb) {
       "uninstall any unwanted program.\r\n"
       "(2) Move some files from one drive to another to fit."
       "(3) Install another (or larger) Hard Disk onto your computer.");
-}
-
-void SwapSuggestion::Show(const std::string& text) {
-  dialogs_.MessageBoxA(text, application_.Title(), os::kMbOk);
 }
 
 }  // namespace qdix::tuning

@@ -14,7 +14,8 @@ class RestartTest : public testing::Test {
   ui::EventDispatcher events;
   ui::Form form{events, {.name = "Form1"}};
   ui::Application application{"Q-DIX"};
-  Restart restart{machine.GetSystem(), application, form};
+  host::Boxes boxes{machine.GetSystem().dialogs, application};
+  Restart restart{machine.GetSystem().session, boxes, form};
 };
 
 TEST_F(RestartTest, OfferAsksInTheSystemsWords) {

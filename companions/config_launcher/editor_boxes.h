@@ -4,37 +4,34 @@
 
 #include <string>
 
-#include "os/system.h"
-#include "ui/application.h"
+#include "host/boxes.h"
 #include "ui/form.h"
 
 namespace qdix::config_launcher {
 
-class Boxes {
+class EditorBoxes {
  public:
   /// Counts a message box or dialog as open during its lifetime.
   class Opened {
    public:
-    explicit Opened(Boxes& boxes) : boxes_(boxes) { ++boxes_.open_; }
+    explicit Opened(EditorBoxes& boxes) : boxes_(boxes) { ++boxes_.open_; }
     Opened(const Opened&) = delete;
     Opened& operator=(const Opened&) = delete;
     ~Opened() { --boxes_.open_; }
 
    private:
-    Boxes& boxes_;
+    EditorBoxes& boxes_;
   };
 
-  Boxes(const os::System& system, const ui::Application& application, const ui::Form& form)
-      : system_(system), application_(application), form_(form) {}
+  EditorBoxes(os::Dialogs& dialogs, const ui::Application& application, const ui::Form& form)
+      : boxes_(dialogs, application), form_(form) {}
 
   [[nodiscard]] bool AnyIsOpen() const { return open_ != 0; }
 
   /// Returns true if the user answers Yes and the window has not unloaded. The default button is No.
   [[nodiscard]] bool Ask(const std::string& question) {
     const Opened opened(*this);
-    const int answer = system_.dialogs.MessageBoxA(
-        question, application_.Title(), os::kMbYesNo | os::kMbIconQuestion | os::kMbDefaultButton2);
-    return answer == os::kIdYes && !form_.Unloaded();
+    return boxes_.Agrees(question, os::kMbIconQuestion | os::kMbDefaultButton2) && !form_.Unloaded();
   }
 
   enum class Choice : unsigned char {
@@ -46,20 +43,18 @@ class Boxes {
   /// Returns the user's answer. The default button is Yes. Returns kNo if the box could not be shown.
   [[nodiscard]] Choice Choose(const std::string& question) {
     const Opened opened(*this);
-    const int answer =
-        system_.dialogs.MessageBoxA(question, application_.Title(), os::kMbYesNoCancel | os::kMbIconQuestion);
+    const int answer = boxes_.Ask(question, os::kMbYesNoCancel | os::kMbIconQuestion);
     if (answer == os::kIdCancel) return Choice::kCancel;
     return answer == os::kIdYes ? Choice::kYes : Choice::kNo;
   }
 
   void Show(const std::string& message) {
     const Opened opened(*this);
-    system_.dialogs.MessageBoxA(message, application_.Title(), os::kMbOk | os::kMbIconExclamation);
+    boxes_.Warn(message);
   }
 
  private:
-  const os::System& system_;
-  const ui::Application& application_;
+  host::Boxes boxes_;
   const ui::Form& form_;
   int open_ = 0;
 };
