@@ -14,9 +14,20 @@ class LimitedMemory final : public os::Memory {
 
   [[nodiscard]] os::MemoryStatus GlobalMemoryStatus() override { return real_.GlobalMemoryStatus(); }
   /// Returns null for a block above kMaxBytes.
-  [[nodiscard]] void* VirtualAlloc(std::uint32_t bytes) override;
-  void TouchPages(void* block, std::uint32_t bytes) override;
-  void VirtualFree(void* block) override;
+  [[nodiscard]] void* VirtualAlloc(std::uint32_t bytes) override {
+    if (bytes > kMaxBytes) return nullptr;
+    void* const block = real_.VirtualAlloc(bytes);
+    if (block != nullptr) ++taken_;
+    return block;
+  }
+  void TouchPages(void* block, std::uint32_t bytes) override {
+    touched_bytes_ += bytes;
+    real_.TouchPages(block, bytes);
+  }
+  void VirtualFree(void* block) override {
+    ++given_back_;
+    real_.VirtualFree(block);
+  }
 
   [[nodiscard]] std::uint32_t TouchedBytes() const { return touched_bytes_; }
   [[nodiscard]] int Taken() const { return taken_; }

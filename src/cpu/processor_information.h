@@ -12,8 +12,6 @@ using TextBuffer = std::array<char, 255>;
 
 class ProcessorInformation {
  public:
-  virtual ~ProcessorInformation() = default;
-
   /// Writes the clock in MHz as decimal text, or "0" if it is unknown.
   virtual void GetProcessorNormSpeed(TextBuffer& speed) = 0;
 
@@ -23,6 +21,9 @@ class ProcessorInformation {
 
   /// Returns the clock in MHz, or 0 if it is unknown. The argument is reserved.
   [[nodiscard]] virtual std::int32_t cpunormspeed(std::int32_t reserved) = 0;
+
+ protected:
+  ~ProcessorInformation() = default;
 };
 
 }  // namespace qdix::cpu

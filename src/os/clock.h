@@ -8,8 +8,6 @@ namespace qdix::os {
 
 class Clock {
  public:
-  virtual ~Clock() = default;
-
   /// Returns the local date and time in days since 30 December 1899, with the time of day as the fraction.
   [[nodiscard]] virtual double Now() = 0;
 
@@ -19,6 +17,9 @@ class Clock {
   /// Returns a day in the user's long date format. `days` is counted as in Now; the time of day is ignored.
   /// Empty for a day that the system cannot show.
   [[nodiscard]] virtual std::string LongDate(double days) = 0;
+
+ protected:
+  ~Clock() = default;
 };
 
 }  // namespace qdix::os

@@ -26,12 +26,13 @@ inline constexpr int kIdNo = 7;
 
 class Dialogs {
  public:
-  virtual ~Dialogs() = default;
-
   /// Shows a message box and returns the answer: kIdOk, kIdCancel, kIdYes or kIdNo. Returns kIdNone if the
   /// box could not be shown, or was dismissed because the program is ending. Treat that answer as "nothing
   /// was agreed".
   virtual int MessageBoxA(const std::string& text, const std::string& title, std::uint32_t flags) = 0;
+
+ protected:
+  ~Dialogs() = default;
 };
 
 }  // namespace qdix::os

@@ -25,8 +25,6 @@ struct DiskBytes {
 
 class Drives {
  public:
-  virtual ~Drives() = default;
-
   /// Returns 1 and the figures. Returns 0 if the volume cannot be queried, the root has no trailing
   /// backslash, or the system (the first Windows 95) lacks the query.
   [[nodiscard]] virtual std::int32_t GetDiskFreeSpaceExA(const char* root, DiskBytes& bytes) = 0;
@@ -45,6 +43,9 @@ class Drives {
 
   /// Returns 1 and the flags of the file system, or 0.
   [[nodiscard]] virtual std::int32_t GetVolumeInformationA(const char* root, std::uint32_t& flags) = 0;
+
+ protected:
+  ~Drives() = default;
 };
 
 }  // namespace qdix::os

@@ -7,8 +7,6 @@ namespace qdix::os {
 
 class EventPump {
  public:
-  virtual ~EventPump() = default;
-
   /// Handles the waiting window events and returns, at once if there are none. Any handler of the program can
   /// run inside, even one that closes the main window. Drops messages that belong to no window. Handles
   /// nothing after the program has ended its main window.
@@ -16,6 +14,9 @@ class EventPump {
 
   /// Pumps events for `ms` milliseconds and sleeps while there are none. Returns early if the program ends.
   virtual void WaitMs(std::uint32_t ms) = 0;
+
+ protected:
+  ~EventPump() = default;
 };
 
 }  // namespace qdix::os

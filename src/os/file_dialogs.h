@@ -17,8 +17,6 @@ struct OpenFileRequest {
 
 class FileDialogs {
  public:
-  virtual ~FileDialogs() = default;
-
   /// Returns the full path of one existing file; for a shortcut, of the shortcut itself and not of its
   /// target. Empty if the user cancelled or the dialog could not be shown.
   [[nodiscard]] virtual std::string GetOpenFileNameA(const OpenFileRequest& question) = 0;
@@ -27,6 +25,9 @@ class FileDialogs {
   /// shown. `folder` is selected first if it exists.
   [[nodiscard]] virtual std::string SHBrowseForFolderA(const std::string& title,
                                                        const std::string& folder) = 0;
+
+ protected:
+  ~FileDialogs() = default;
 };
 
 }  // namespace qdix::os

@@ -37,8 +37,6 @@ struct FoundFile {
 
 class Files {
  public:
-  virtual ~Files() = default;
-
   /// Copies the path of the Windows folder and its NUL, without a trailing backslash unless it is a root.
   /// Returns its length. A length of `size_bytes` or more means that it did not fit; 0 means that it is
   /// unknown.
@@ -81,6 +79,9 @@ class Files {
   /// True for the first byte of a two-byte character, as in file names on a Windows of the Far East. The
   /// second byte can look like a backslash.
   [[nodiscard]] virtual bool IsDBCSLeadByte(char byte) = 0;
+
+ protected:
+  ~Files() = default;
 };
 
 }  // namespace qdix::os

@@ -24,8 +24,6 @@ inline constexpr std::uint32_t kPageBytes = 4096;
 
 class Memory {
  public:
-  virtual ~Memory() = default;
-
   /// Returns the record with every field set; never fails.
   [[nodiscard]] virtual MemoryStatus GlobalMemoryStatus() = 0;
 
@@ -39,6 +37,9 @@ class Memory {
 
   /// Frees the whole block. `block` comes from VirtualAlloc and is not null.
   virtual void VirtualFree(void* block) = 0;
+
+ protected:
+  ~Memory() = default;
 };
 
 }  // namespace qdix::os

@@ -24,8 +24,6 @@ class Printer {
     kFailed,
   };
 
-  virtual ~Printer() = default;
-
   /// Lets the user choose a printer. The other functions may be called only after kPrint and until DeleteDC.
   [[nodiscard]] virtual Choice PrintDlgA() = 0;
   virtual void DeleteDC() = 0;
@@ -40,6 +38,9 @@ class Printer {
   [[nodiscard]] virtual bool EndPage() = 0;
   [[nodiscard]] virtual bool EndDoc() = 0;
   virtual void AbortDoc() = 0;
+
+ protected:
+  ~Printer() = default;
 };
 
 }  // namespace qdix::os

@@ -10,8 +10,6 @@ namespace qdix::os {
 
 class Processes {
  public:
-  virtual ~Processes() = default;
-
   /// Creates the named mutex and holds it until the process ends. True if another process had already created
   /// it. Returns false if it cannot be created: a program that starts twice is better than one that does not
   /// start.
@@ -33,6 +31,9 @@ class Processes {
   /// its own current folder. False if there is no such folder. A drive without a disk shows no system message
   /// box.
   [[nodiscard]] virtual bool SetCurrentDirectoryA(const std::string& folder) = 0;
+
+ protected:
+  ~Processes() = default;
 };
 
 }  // namespace qdix::os

@@ -23,8 +23,6 @@ struct CycleCount {
 
 class Processor {
  public:
-  virtual ~Processor() = default;
-
   /// Returns 3 for a 386, 4 for a 486 and everything later. Tests the alignment-check flag, which stays clear
   /// on a 386.
   [[nodiscard]] virtual int Generation() = 0;
@@ -38,6 +36,9 @@ class Processor {
   /// Counts cycles with the time-stamp counter for about `milliseconds`. Call it only if the processor
   /// reports the counter. Measures nothing if the system forbids the counter or has no high-resolution timer.
   [[nodiscard]] virtual CycleCount CountCycles(std::uint32_t milliseconds) = 0;
+
+ protected:
+  ~Processor() = default;
 };
 
 }  // namespace qdix::os

@@ -8,8 +8,6 @@ namespace qdix::os {
 
 class ProfileFiles {
  public:
-  virtual ~ProfileFiles() = default;
-
   /// Copies the value of an entry and its NUL, or `missing` if there is none. Truncates what does not fit.
   /// The system may strip trailing spaces and control characters from `missing`. The value excludes spaces
   /// around it and one pair of quotation marks around it. Returns the number of characters copied without the
@@ -25,6 +23,9 @@ class ProfileFiles {
   /// reading or writing it and before anything but these functions changes it.
   virtual bool WritePrivateProfileStringA(const char* section, const char* key, const char* value,
                                           const char* file) = 0;
+
+ protected:
+  ~ProfileFiles() = default;
 };
 
 }  // namespace qdix::os

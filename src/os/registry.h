@@ -32,8 +32,6 @@ inline constexpr std::uint32_t kKeyAllAccess = 0xF003FU;
 
 class Registry {
  public:
-  virtual ~Registry() = default;
-
   /// Opens an existing key. `opened` is set on success only.
   [[nodiscard]] virtual std::int32_t RegOpenKeyExA(KeyHandle parent, const char* subkey, std::uint32_t access,
                                                    KeyHandle& opened) = 0;
@@ -67,6 +65,9 @@ class Registry {
   virtual std::int32_t RegFlushKey(KeyHandle key) = 0;
 
   virtual std::int32_t RegCloseKey(KeyHandle key) = 0;
+
+ protected:
+  ~Registry() = default;
 };
 
 }  // namespace qdix::os

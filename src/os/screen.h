@@ -11,11 +11,12 @@ struct ScreenSize {
 
 class Screen {
  public:
-  virtual ~Screen() = default;
-
   /// Returns the part of the screen that the taskbar and similar bars leave free. Width and height are at
   /// least 1.
   [[nodiscard]] virtual ScreenSize WorkArea() = 0;
+
+ protected:
+  ~Screen() = default;
 };
 
 }  // namespace qdix::os

@@ -35,14 +35,15 @@ inline constexpr int kSwShowMaximized = 3;
 
 class Shell {
  public:
-  virtual ~Shell() = default;
-
   /// Adds, modifies or deletes an icon. False if the shell refuses or is not running.
   virtual bool Shell_NotifyIconA(std::uint32_t request, const NotifyIconData& data) = 0;
 
   /// Applies a verb ("Open") to a file, without an owner window; `show` says how to show the program's
   /// window. False if the file, or a program for it, is missing. The shell may already have shown a message.
   virtual bool ShellExecuteA(const char* verb, const std::string& path, int show) = 0;
+
+ protected:
+  ~Shell() = default;
 };
 
 }  // namespace qdix::os

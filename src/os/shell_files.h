@@ -33,8 +33,6 @@ struct Shortcut {
 
 class ShellFiles {
  public:
-  virtual ~ShellFiles() = default;
-
   /// Returns the path of a shell folder, with a trailing backslash only if it is a root. Empty if the shell
   /// has no such folder.
   [[nodiscard]] virtual std::string SpecialFolder(int number) = 0;
@@ -54,6 +52,9 @@ class ShellFiles {
 
   /// Makes a shortcut and replaces an existing one. False on failure.
   [[nodiscard]] virtual bool WriteShortcut(const std::string& path, const Shortcut& shortcut) = 0;
+
+ protected:
+  ~ShellFiles() = default;
 };
 
 }  // namespace qdix::os

@@ -26,8 +26,6 @@ struct FontHeight {
 /// Positions are device pixels from the upper left corner. Colours are 0x00BBGGRR.
 class TextDevice {
  public:
-  virtual ~TextDevice() = default;
-
   /// Returns the width of a text on one line, or 0 if the device cannot measure it.
   [[nodiscard]] virtual int GetTextExtentPoint32A(const FontLook& look, std::string_view text) = 0;
   [[nodiscard]] virtual FontHeight GetTextMetricsA(const FontLook& look) = 0;
@@ -36,6 +34,9 @@ class TextDevice {
   virtual void TextOutA(int left_px, int top_px, const FontLook& look, std::uint32_t colour,
                         std::string_view text) = 0;
   virtual void FillRect(int left_px, int top_px, int width_px, int height_px, std::uint32_t colour) = 0;
+
+ protected:
+  ~TextDevice() = default;
 };
 
 }  // namespace qdix::os

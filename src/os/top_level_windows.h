@@ -19,8 +19,6 @@ inline constexpr std::uint32_t kWmClose = 0x0010U;
 
 class Windows {
  public:
-  virtual ~Windows() = default;
-
   /// Returns the first top-level window with this class and title, ignoring case. A null pointer matches any.
   /// 0 if there is none.
   [[nodiscard]] virtual WindowHandle FindWindowA(const char* window_class, const char* title) = 0;
@@ -48,6 +46,9 @@ class Windows {
   /// Posts a message without parameters to a window and does not wait for it. False if there is no such
   /// window.
   virtual bool PostMessageA(WindowHandle window, std::uint32_t message) = 0;
+
+ protected:
+  ~Windows() = default;
 };
 
 }  // namespace qdix::os

@@ -8,8 +8,6 @@ namespace qdix::ui {
 
 class Canvas {
  public:
-  virtual ~Canvas() = default;
-
   /// Inner size in pixels.
   [[nodiscard]] virtual int Width() const = 0;
   [[nodiscard]] virtual int Height() const = 0;
@@ -22,6 +20,9 @@ class Canvas {
 
   /// Like FillBox, with a border one pixel wide inside the box.
   virtual void FillBorderedBox(int x1, int y1, int x2, int y2, Colour fill, Colour border) = 0;
+
+ protected:
+  ~Canvas() = default;
 };
 
 /// Border styles of a drawing control's window. The border takes up its width on each side of the control.

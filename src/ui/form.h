@@ -37,11 +37,13 @@ struct WindowBounds {
 /// What a form needs from its window in addition to what every control needs.
 class FormPeer {
  public:
-  virtual ~FormPeer() = default;
   /// Shows the menu at the pointer, lets the user choose, and runs the choice.
   virtual void PopUp(MenuItem& menu) = 0;
   /// The form has unloaded: closes every open message box and menu and lets the program end.
   virtual void FormUnloaded() = 0;
+
+ protected:
+  ~FormPeer() = default;
 };
 
 class Form final : public Container {

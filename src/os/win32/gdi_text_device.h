@@ -26,7 +26,7 @@ class GdiTextDevice final : public TextDevice {
   GdiTextDevice(HDC device, const Faces& faces);
   GdiTextDevice(const GdiTextDevice&) = delete;
   GdiTextDevice& operator=(const GdiTextDevice&) = delete;
-  ~GdiTextDevice() override;
+  ~GdiTextDevice();
 
   [[nodiscard]] int GetTextExtentPoint32A(const FontLook& look, std::string_view text) override;
   [[nodiscard]] FontHeight GetTextMetricsA(const FontLook& look) override;

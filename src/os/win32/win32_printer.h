@@ -15,7 +15,7 @@ class Win32Printer final : public Printer {
   Win32Printer() = default;
   Win32Printer(const Win32Printer&) = delete;
   Win32Printer& operator=(const Win32Printer&) = delete;
-  ~Win32Printer() override;
+  ~Win32Printer();
 
   [[nodiscard]] Choice PrintDlgA() override;
   void DeleteDC() override;

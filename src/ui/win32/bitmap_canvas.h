@@ -12,7 +12,7 @@ class BitmapCanvas final : public Canvas {
   BitmapCanvas(int width_px, int height_px);
   BitmapCanvas(const BitmapCanvas&) = delete;
   BitmapCanvas& operator=(const BitmapCanvas&) = delete;
-  ~BitmapCanvas() override = default;
+  ~BitmapCanvas() = default;
 
   /// Moves the picture to a bitmap in the screen's new colour format. Returns false and changes nothing if
   /// that fails.

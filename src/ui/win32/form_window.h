@@ -33,7 +33,7 @@ class FormWindow final : private FormPeer, private ControlPeer, private MessageH
              std::span<Timer* const> timers, PeerFactory make_peer);
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
-  ~FormWindow() override;
+  ~FormWindow();
 
   /// False if Windows could not make one of the windows that are needed now. The program cannot run then.
   [[nodiscard]] bool Complete() const;

@@ -41,7 +41,7 @@ class NativeControl : public ControlPeer, private MessageHandler {
  public:
   NativeControl(const NativeControl&) = delete;
   NativeControl& operator=(const NativeControl&) = delete;
-  ~NativeControl() override;
+  virtual ~NativeControl();
 
   /// Null if Windows could not make the window.
   [[nodiscard]] HWND Window() const { return window_; }

@@ -8,9 +8,11 @@ namespace qdix::ui::win32 {
 
 class MessageHandler {
  public:
-  virtual ~MessageHandler() = default;
   /// Handles a message of the hooked window, or passes it on with Subclass::Default.
   virtual LRESULT HandleMessage(UINT message, WPARAM wparam, LPARAM lparam) = 0;
+
+ protected:
+  ~MessageHandler() = default;
 };
 
 class Subclass {

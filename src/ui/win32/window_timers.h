@@ -17,7 +17,7 @@ class WindowTimers final : private TimerPeer {
   WindowTimers(HWND main, std::span<Timer* const> timers);
   WindowTimers(const WindowTimers&) = delete;
   WindowTimers& operator=(const WindowTimers&) = delete;
-  ~WindowTimers() override;
+  ~WindowTimers();
 
   /// A WM_TIMER message with this number arrived.
   void Elapsed(UINT_PTR number) const;
