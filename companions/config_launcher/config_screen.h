@@ -20,8 +20,8 @@ struct ConfigScreen {
   ui::Label lblPrograms{Window,
                         {.name = "lblPrograms",
                          .caption = "Programs, in the order of the launcher:",
-                         .access_key = 'P',
-                         .place = {7, 7, 140, 8}}};
+                         .place = {7, 7, 140, 8},
+                         .access_key = 'P'}};
   /// The names of the entries, in the order of the menu.
   ui::ListBox lstPrograms{Window, {.name = "lstPrograms", .place = {7, 18, 192, 84}}};
   /// How many entries there are, of how many at most.
@@ -29,70 +29,70 @@ struct ConfigScreen {
   ui::Button cmdMoveUp{Window,
                        {.name = "cmdMoveUp",
                         .caption = "Move Up",
-                        .access_key = 'U',
                         .tool_tip = "Move the selected program up one place",
                         .place = {206, 18, 50, 14},
+                        .access_key = 'U',
                         .enabled = false}};
   ui::Button cmdMoveDown{Window,
                          {.name = "cmdMoveDown",
                           .caption = "Move Down",
-                          .access_key = 'D',
                           .tool_tip = "Move the selected program down one place",
                           .place = {206, 36, 50, 14},
+                          .access_key = 'D',
                           .enabled = false}};
   ui::Button cmdRemove{Window,
                        {.name = "cmdRemove",
                         .caption = "Remove",
-                        .access_key = 'R',
                         .tool_tip = "Remove the selected program from the list",
                         .place = {206, 57, 50, 14},
+                        .access_key = 'R',
                         .enabled = false}};
 
   ui::Label lblName{Window,
-                    {.name = "lblName", .caption = "Name:", .access_key = 'N', .place = {7, 111, 54, 8}}};
+                    {.name = "lblName", .caption = "Name:", .place = {7, 111, 54, 8}, .access_key = 'N'}};
   /// The name of an entry in the menu.
   ui::TextBox txtName{
       Window, {.name = "txtName", .place = {64, 109, 135, 14}}, static_cast<int>(launcher::kNameWidth)};
   ui::Button cmdNew{Window,
                     {.name = "cmdNew",
                      .caption = "New",
-                     .access_key = 'e',
                      .tool_tip = "Clear the fields for a new program",
-                     .place = {206, 109, 50, 14}}};
+                     .place = {206, 109, 50, 14},
+                     .access_key = 'e'}};
   ui::Label lblPath{
-      Window, {.name = "lblPath", .caption = "Command Line:", .access_key = 'C', .place = {7, 129, 54, 8}}};
+      Window, {.name = "lblPath", .caption = "Command Line:", .place = {7, 129, 54, 8}, .access_key = 'C'}};
   /// Its command line.
   ui::TextBox txtPath{
       Window, {.name = "txtPath", .place = {64, 127, 135, 14}}, static_cast<int>(launcher::kPathWidth)};
   ui::Button cmdBrowsePath{Window,
                            {.name = "cmdBrowsePath",
                             .caption = "Browse...",
-                            .access_key = 'B',
                             .tool_tip = "Find a program to add",
-                            .place = {206, 127, 50, 14}}};
+                            .place = {206, 127, 50, 14},
+                            .access_key = 'B'}};
   ui::Label lblStartIn{
-      Window, {.name = "lblStartIn", .caption = "Start In:", .access_key = 'S', .place = {7, 147, 54, 8}}};
+      Window, {.name = "lblStartIn", .caption = "Start In:", .place = {7, 147, 54, 8}, .access_key = 'S'}};
   /// The folder in which it starts; may be empty.
   ui::TextBox txtStartIn{
       Window, {.name = "txtStartIn", .place = {64, 145, 135, 14}}, static_cast<int>(launcher::kStartInWidth)};
   ui::Button cmdBrowseStartIn{Window,
                               {.name = "cmdBrowseStartIn",
                                .caption = "Browse...",
-                               .access_key = 'w',
                                .tool_tip = "Find the folder that the program starts in",
-                               .place = {206, 145, 50, 14}}};
+                               .place = {206, 145, 50, 14},
+                               .access_key = 'w'}};
   ui::Button cmdAdd{Window,
                     {.name = "cmdAdd",
                      .caption = "Add",
-                     .access_key = 'A',
                      .tool_tip = "Add this program to the end of the list",
-                     .place = {64, 166, 50, 14}}};
+                     .place = {64, 166, 50, 14},
+                     .access_key = 'A'}};
   ui::Button cmdChange{Window,
                        {.name = "cmdChange",
                         .caption = "Change",
-                        .access_key = 'h',
                         .tool_tip = "Change the selected program to what you typed",
                         .place = {118, 166, 50, 14},
+                        .access_key = 'h',
                         .enabled = false}};
 
   ui::Button cmdOK{Window,

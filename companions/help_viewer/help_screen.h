@@ -36,34 +36,34 @@ struct HelpScreen {
   ui::Button cmdContents{Window,
                          {.name = "cmdContents",
                           .caption = "Contents",
-                          .access_key = 'C',
                           .tool_tip = "List all topics",
-                          .place = {7, 7, 50, kButtonHeight}}};
+                          .place = {7, 7, 50, kButtonHeight},
+                          .access_key = 'C'}};
   ui::Button cmdBack{Window,
                      {.name = "cmdBack",
                       .caption = "Back",
-                      .access_key = 'B',
                       .tool_tip = "Go back to the previous topic",
                       .place = {61, 7, 50, kButtonHeight},
+                      .access_key = 'B',
                       .enabled = false}};
   ui::Button cmdFind{Window,
                      {.name = "cmdFind",
                       .caption = "Find",
-                      .access_key = 'F',
                       .tool_tip = "Find the topics that contain a word",
-                      .place = {115, 7, 50, kButtonHeight}}};
+                      .place = {115, 7, 50, kButtonHeight},
+                      .access_key = 'F'}};
   ui::Button cmdPrint{Window,
                       {.name = "cmdPrint",
                        .caption = "Print...",
-                       .access_key = 'P',
                        .tool_tip = "Print this topic",
-                       .place = {169, 7, 50, kButtonHeight}}};
+                       .place = {169, 7, 50, kButtonHeight},
+                       .access_key = 'P'}};
   ui::Button cmdCopy{Window,
                      {.name = "cmdCopy",
                       .caption = "Copy Topic",
-                      .access_key = 'y',
                       .tool_tip = "Copy the text of the whole topic to the clipboard (Ctrl+C)",
-                      .place = {223, 7, 50, kButtonHeight}}};
+                      .place = {223, 7, 50, kButtonHeight},
+                      .access_key = 'y'}};
 
   /// The titles of all topics.
   ui::ListBox lstContents{Window, {.name = "lstContents"}};

@@ -22,9 +22,9 @@ inline constexpr std::size_t kNowCharacters = 11;
 
 /// The parts of a row's design that differ from row to row.
 struct RowDesign {
-  const char* box;
-  const char* before;
-  const char* now;
+  ui::ControlName box;
+  ui::ControlName before;
+  ui::ControlName now;
   const char* caption;
   char access_key;
   const char* tool_tip;
@@ -36,9 +36,9 @@ struct EntryRow {
   EntryRow(ui::Container& on, const RowDesign& design)
       : box(on, {.name = design.box,
                  .caption = design.caption,
-                 .access_key = design.access_key,
                  .tool_tip = design.tool_tip,
                  .place = {kNameLeft, design.top, kNameWidth, 10},
+                 .access_key = design.access_key,
                  .enabled = false}),
         before(on, {.name = design.before, .place = {kBeforeLeft, Line(design.top), kBeforeWidth, 8}}),
         now(on, {.name = design.now, .place = {kNowLeft, Line(design.top), kNowWidth, 8}}) {}
@@ -106,21 +106,21 @@ struct UndoScreen {
   ui::Button cmdPutBack{Window,
                         {.name = "cmdPutBack",
                          .caption = "Put Back",
-                         .access_key = 'P',
                          .tool_tip = "Give the ticked settings their old values, or remove them",
                          .place = {63, 235, 56, 14},
+                         .access_key = 'P',
                          .enabled = false},
                         ui::ButtonRole::kDefault};
   ui::Button cmdRestore{Window,
                         {.name = "cmdRestore",
                          .caption = "Restore Whole File...",
-                         .access_key = 'R',
                          .tool_tip = "Replace all of system.ini with system.qdix",
                          .place = {123, 235, 80, 14},
+                         .access_key = 'R',
                          .enabled = false}};
   ui::Button cmdClose{
       Window,
-      {.name = "cmdClose", .caption = "Close", .access_key = 'C', .place = {207, 235, 49, 14}},
+      {.name = "cmdClose", .caption = "Close", .place = {207, 235, 49, 14}, .access_key = 'C'},
       ui::ButtonRole::kCancel};
 
   /// In the order of kEntries.

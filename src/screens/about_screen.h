@@ -35,15 +35,15 @@ struct AboutScreen {
   ui::Button Command6{page,
                       {.name = "Command6",
                        .caption = "Help",
-                       .access_key = 'H',
                        .tool_tip = "Opens the manual in your browser",
-                       .place = {128, 183, 66, 14}}};
+                       .place = {128, 183, 66, 14},
+                       .access_key = 'H'}};
   ui::Button Command17{page,
                        {.name = "Command17",
                         .caption = "Help / Tips",
-                        .access_key = 'T',
                         .tool_tip = "Opens the help for this tab",
-                        .place = {198, 183, 66, 14}}};
+                        .place = {198, 183, 66, 14},
+                        .access_key = 'T'}};
 };
 
 }  // namespace qdix::screens

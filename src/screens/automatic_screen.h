@@ -24,14 +24,14 @@ struct AutomaticScreen {
   ui::CheckBox Check1{FrameAuto,
                       {.name = "Check1",
                        .caption = "Auto Detection Active",
-                       .access_key = 'A',
                        .tool_tip = "Must be ticked for Automatic freeups to take place",
-                       .place = {11, 14, 120, 10}}};
+                       .place = {11, 14, 120, 10},
+                       .access_key = 'A'}};
   ui::Label lblMinRam{FrameAuto,
                       {.name = "lblMinRam",
                        .caption = "Free up memory when RAM drops below:",
-                       .access_key = 'b',
-                       .place = {11, 31, 136, 8}}};
+                       .place = {11, 31, 136, 8},
+                       .access_key = 'b'}};
   /// Threshold of the automatic release, in megabytes of 1,024,000 bytes. VScroll2 changes it.
   ui::TextBox Text2{FrameAuto, {.name = "Text2", .tool_tip = kMinRamTip, .place = {150, 28, 26, 13}}};
   /// Moves the threshold in Text2 by whole megabytes.
@@ -40,7 +40,7 @@ struct AutomaticScreen {
   ui::Label lblMinRamUnit{FrameAuto, {.name = "lblMinRamUnit", .caption = "MB", .place = {190, 31, 30, 8}}};
   ui::Label lblInterval{
       FrameAuto,
-      {.name = "lblInterval", .caption = "Check RAM every:", .access_key = 'k', .place = {11, 48, 70, 8}}};
+      {.name = "lblInterval", .caption = "Check RAM every:", .place = {11, 48, 70, 8}, .access_key = 'k'}};
   /// Seconds between two checks of the free memory.
   ui::ListBox List2{FrameAuto,
                     {.name = "List2", .tool_tip = "Intervals for monitoring RAM", .place = {11, 58, 60, 43}}};
@@ -48,8 +48,8 @@ struct AutomaticScreen {
   ui::Label lblAutoAmount{FrameAuto,
                           {.name = "lblAutoAmount",
                            .caption = "Amount of RAM to Release:",
-                           .access_key = 'm',
-                           .place = {150, 48, 104, 8}}};
+                           .place = {150, 48, 104, 8},
+                           .access_key = 'm'}};
   /// Amount of an automatic release, in megabytes of 1,040,000 bytes.
   ui::ListBox List4{FrameAuto, {.name = "List4", .tool_tip = kHalfRamTip, .place = {150, 58, 60, 43}}};
 
@@ -57,8 +57,8 @@ struct AutomaticScreen {
   ui::CheckBox Check9{FrameAutoCpu,
                       {.name = "Check9",
                        .caption = "Don't perform automatic freeup unless CPU usage is below",
-                       .access_key = 'u',
-                       .place = {11, 122, 204, 10}}};
+                       .place = {11, 122, 204, 10},
+                       .access_key = 'u'}};
   /// Processor load in percent from which automatic releases wait.
   ui::TextBox Text9{FrameAutoCpu, {.name = "Text9", .place = {218, 120, 24, 13}}};
   ui::Label lblAutoCpuUnit{FrameAutoCpu,
@@ -67,7 +67,7 @@ struct AutomaticScreen {
   ui::Frame FrameCounter{page, {.name = "FrameCounter", .caption = "Counter", .place = {4, 144, 260, 37}}};
   ui::Button Command7{
       FrameCounter,
-      {.name = "Command7", .caption = "Reset Counter ->", .access_key = 'R', .place = {11, 157, 66, 14}}};
+      {.name = "Command7", .caption = "Reset Counter ->", .place = {11, 157, 66, 14}, .access_key = 'R'}};
   ui::Label lblCounter{
       FrameCounter,
       {.name = "lblCounter",
@@ -78,9 +78,9 @@ struct AutomaticScreen {
   ui::Button Command22{page,
                        {.name = "Command22",
                         .caption = "Help / Tips",
-                        .access_key = 'T',
                         .tool_tip = "Opens the help for this tab",
-                        .place = {198, 183, 66, 14}}};
+                        .place = {198, 183, 66, 14},
+                        .access_key = 'T'}};
 };
 
 }  // namespace qdix::screens

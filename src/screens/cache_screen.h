@@ -30,7 +30,7 @@ struct CacheScreen {
   ui::Container& page;
 
   ui::Label lblPreset{
-      page, {.name = "lblPreset", .caption = "Preset :", .access_key = 'P', .place = {11, 6, 32, 8}}};
+      page, {.name = "lblPreset", .caption = "Preset :", .place = {11, 6, 32, 8}, .access_key = 'P'}};
   /// Presets of the disk cache; shows the one that the sliders match.
   ui::DropDownList Combo2{page,
                           {.name = "Combo2",
@@ -42,14 +42,14 @@ struct CacheScreen {
   ui::CheckBox Check5{FrameCache,
                       {.name = "Check5",
                        .caption = "Enabled",
-                       .access_key = 'E',
                        .tool_tip = kSavedSizeTip,
-                       .place = {214, 31, 43, 10}}};
+                       .place = {214, 31, 43, 10},
+                       .access_key = 'E'}};
   ui::Label lblMinCache{FrameCache,
                         {.name = "lblMinCache",
                          .caption = "Min Cache Size : ",
-                         .access_key = 'M',
                          .place = {11, 32, 190, 8},
+                         .access_key = 'M',
                          .enabled = false}};
   /// MinFileCache, in KB.
   ui::Slider Slider1{
@@ -57,14 +57,14 @@ struct CacheScreen {
   ui::CheckBox Check6{FrameCache,
                       {.name = "Check6",
                        .caption = "Enabled",
-                       .access_key = 'b',
                        .tool_tip = kSavedSizeTip,
-                       .place = {214, 61, 43, 10}}};
+                       .place = {214, 61, 43, 10},
+                       .access_key = 'b'}};
   ui::Label lblMaxCache{FrameCache,
                         {.name = "lblMaxCache",
                          .caption = "Max Cache Size : ",
-                         .access_key = 'x',
                          .place = {11, 62, 190, 8},
+                         .access_key = 'x',
                          .enabled = false}};
   /// MaxFileCache, in KB.
   ui::Slider Slider2{
@@ -72,14 +72,14 @@ struct CacheScreen {
   ui::CheckBox Check7{FrameCache,
                       {.name = "Check7",
                        .caption = "Enabled",
-                       .access_key = 'l',
                        .tool_tip = kSavedSizeTip,
-                       .place = {214, 91, 43, 10}}};
+                       .place = {214, 91, 43, 10},
+                       .access_key = 'l'}};
   ui::Label lblChunkSize{FrameCache,
                          {.name = "lblChunkSize",
                           .caption = "Chunk Size : ",
-                          .access_key = 'C',
                           .place = {11, 92, 190, 8},
+                          .access_key = 'C',
                           .enabled = false}};
   /// ChunkSize, in KB.
   ui::Slider Slider3{
@@ -90,14 +90,14 @@ struct CacheScreen {
   ui::CheckBox Check8{FrameFileCache,
                       {.name = "Check8",
                        .caption = "File Cache Settings Enabled",
-                       .access_key = 'F',
                        .tool_tip = "When not ticked, saving removes both settings",
-                       .place = {11, 134, 130, 10}}};
+                       .place = {11, 134, 130, 10},
+                       .access_key = 'F'}};
   ui::Label lblNameCache{FrameFileCache,
                          {.name = "lblNameCache",
                           .caption = "Name Cache : ",
-                          .access_key = 'N',
                           .place = {11, 147, 116, 8},
+                          .access_key = 'N',
                           .enabled = false}};
   /// NameCache, in entries.
   ui::Slider Slider4{
@@ -105,8 +105,8 @@ struct CacheScreen {
   ui::Label lblDirectoryCache{FrameFileCache,
                               {.name = "lblDirectoryCache",
                                .caption = "Directory Cache : ",
-                               .access_key = 'D',
                                .place = {139, 147, 116, 8},
+                               .access_key = 'D',
                                .enabled = false}};
   /// PathCache, in entries.
   ui::Slider Slider5{FrameFileCache,
@@ -116,22 +116,22 @@ struct CacheScreen {
   ui::Button Command11{page,
                        {.name = "Command11",
                         .caption = "Save Settings",
-                        .access_key = 'S',
                         .tool_tip = "Writes these settings; they take effect when Windows restarts",
-                        .place = {4, 183, 66, 14}}};
+                        .place = {4, 183, 66, 14},
+                        .access_key = 'S'}};
   ui::Button Command14{page,
                        {.name = "Command14",
                         .caption = "System Defaults",
-                        .access_key = 'y',
                         .tool_tip = "Clears all boxes; the next save gives the sizes back to Windows",
-                        .place = {74, 183, 66, 14}}};
+                        .place = {74, 183, 66, 14},
+                        .access_key = 'y'}};
 
   ui::Button Command19{page,
                        {.name = "Command19",
                         .caption = "Help / Tips",
-                        .access_key = 'T',
                         .tool_tip = "Opens the help for this tab",
-                        .place = {198, 183, 66, 14}}};
+                        .place = {198, 183, 66, 14},
+                        .access_key = 'T'}};
 };
 
 }  // namespace qdix::screens

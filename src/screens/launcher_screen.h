@@ -15,16 +15,16 @@ struct LauncherScreen {
   ui::Container& page;
 
   ui::Label lblPrograms{
-      page, {.name = "lblPrograms", .caption = "Programs :", .access_key = 'P', .place = {5, 4, 90, 8}}};
+      page, {.name = "lblPrograms", .caption = "Programs :", .place = {5, 4, 90, 8}, .access_key = 'P'}};
   /// Programs of the launcher, in the order of its file.
   ui::ListBox List5{
       page, {.name = "List5", .tool_tip = "Double click a program to launch", .place = {4, 14, 96, 146}}};
   ui::Button Command15{page,
                        {.name = "Command15",
                         .caption = "Configure Program List",
-                        .access_key = 'f',
                         .tool_tip = "Opens the editor of this list",
-                        .place = {4, 164, 96, 14}}};
+                        .place = {4, 164, 96, 14},
+                        .access_key = 'f'}};
 
   ui::Frame FrameLauncher{page,
                           {.name = "FrameLauncher",
@@ -33,23 +33,23 @@ struct LauncherScreen {
   ui::OptionButton Option9{FrameLauncher,
                            {.name = "Option9",
                             .caption = "33% of My Total RAM   (Conservative)",
-                            .access_key = 'C',
-                            .place = {113, 14, 146, 10}}};
+                            .place = {113, 14, 146, 10},
+                            .access_key = 'C'}};
   ui::OptionButton Option8{FrameLauncher,
                            {.name = "Option8",
                             .caption = "50%  of My Total RAM  (Normal)",
-                            .access_key = 'N',
-                            .place = {113, 27, 146, 10}}};
+                            .place = {113, 27, 146, 10},
+                            .access_key = 'N'}};
   ui::OptionButton Option7{FrameLauncher,
                            {.name = "Option7",
                             .caption = "66% of My Total RAM   (Aggressive)",
-                            .access_key = 'g',
-                            .place = {113, 40, 146, 10}}};
+                            .place = {113, 40, 146, 10},
+                            .access_key = 'g'}};
   ui::OptionButton Option6{FrameLauncher,
                            {.name = "Option6",
                             .caption = "Don't Free Up Any RAM",
-                            .access_key = 'D',
-                            .place = {113, 53, 146, 10}}};
+                            .place = {113, 53, 146, 10},
+                            .access_key = 'D'}};
 
   ui::Frame FrameRetries{
       page, {.name = "FrameRetries", .caption = "Number of Retrys", .place = {106, 71, 158, 28}}};
@@ -70,9 +70,9 @@ struct LauncherScreen {
   ui::Button Command16{page,
                        {.name = "Command16",
                         .caption = "Help / Tips",
-                        .access_key = 'T',
                         .tool_tip = "Opens the help for this tab",
-                        .place = {198, 183, 66, 14}}};
+                        .place = {198, 183, 66, 14},
+                        .access_key = 'T'}};
 };
 
 }  // namespace qdix::screens

@@ -48,12 +48,12 @@ struct QuondixScreen {
   ui::Frame FrameRelease{page, {.name = "FrameRelease", .caption = "Release", .place = {4, 133, 164, 67}}};
   ui::Label lblAmount{
       FrameRelease,
-      {.name = "lblAmount", .caption = "Amount of RAM:", .access_key = 'A', .place = {11, 144, 56, 8}}};
+      {.name = "lblAmount", .caption = "Amount of RAM:", .place = {11, 144, 56, 8}, .access_key = 'A'}};
   /// Amount of a manual release, in megabytes of 1,040,000 bytes.
   ui::ListBox List1{FrameRelease, {.name = "List1", .place = {11, 154, 56, 43}}};
   ui::Label lblRetries{
       FrameRelease,
-      {.name = "lblRetries", .caption = "Number of Retrys", .access_key = 'R', .place = {76, 144, 82, 8}}};
+      {.name = "lblRetries", .caption = "Number of Retrys", .place = {76, 144, 82, 8}, .access_key = 'R'}};
   /// Passes of a release, 1 to 20. VScroll1 changes it.
   ui::TextBox Text1{FrameRelease, {.name = "Text1", .tool_tip = kTryTimesTip, .place = {76, 154, 26, 13}}};
   /// Moves the number in Text1.
@@ -63,34 +63,34 @@ struct QuondixScreen {
   ui::Label lblTimes{FrameRelease, {.name = "lblTimes", .caption = "times", .place = {116, 156, 42, 8}}};
   ui::Button Command1{
       FrameRelease,
-      {.name = "Command1", .caption = "Free Up RAM Now", .access_key = 'F', .place = {76, 177, 82, 16}},
+      {.name = "Command1", .caption = "Free Up RAM Now", .place = {76, 177, 82, 16}, .access_key = 'F'},
       ui::ButtonRole::kDefault};
 
   ui::Button Command3{page,
                       {.name = "Command3",
                        .caption = "Pause All Activity",
-                       .access_key = 's',
                        .tool_tip = "Pause Q-DIX operation",
-                       .place = {174, 136, 90, 14}}};
+                       .place = {174, 136, 90, 14},
+                       .access_key = 's'}};
   ui::Button Command4{page,
                       {.name = "Command4",
                        .caption = "Minimize To Taskbar",
-                       .access_key = 'M',
                        .tool_tip = "Minimizes, but shows available RAM in Taskbar",
-                       .place = {174, 153, 90, 14}}};
+                       .place = {174, 153, 90, 14},
+                       .access_key = 'M'}};
   ui::Button Command2{page,
                       {.name = "Command2",
                        .caption = "Hide",
-                       .access_key = 'H',
                        .tool_tip = "Hide Q-DIX  while running in background",
-                       .place = {174, 170, 90, 14}}};
+                       .place = {174, 170, 90, 14},
+                       .access_key = 'H'}};
 
   ui::Button Command21{page,
                        {.name = "Command21",
                         .caption = "Help / Tips",
-                        .access_key = 'T',
                         .tool_tip = "Opens the help for this tab",
-                        .place = {174, 186, 90, 14}}};
+                        .place = {174, 186, 90, 14},
+                        .access_key = 'T'}};
 };
 
 }  // namespace qdix::screens

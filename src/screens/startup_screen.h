@@ -24,27 +24,27 @@ struct StartupScreen {
   ui::CheckBox Check2{FrameStartup,
                       {.name = "Check2",
                        .caption = "Automatically launch Q-DIX",
-                       .access_key = 'l',
                        .tool_tip = "Allow Q-DIX to start when the computer is started",
-                       .place = {11, 14, 130, 10}}};
+                       .place = {11, 14, 130, 10},
+                       .access_key = 'l'}};
   ui::Button Command5{FrameStartup,
                       {.name = "Command5",
                        .caption = "Create shortcut Icon on desktop",
-                       .access_key = 'C',
                        .tool_tip = "Place a Q-DIX Shortcut Icon on your Desktop",
-                       .place = {143, 12, 114, 14}}};
+                       .place = {143, 12, 114, 14},
+                       .access_key = 'C'}};
   ui::Label lblStartupAmount{FrameStartup,
                              {.name = "lblStartupAmount",
                               .caption = "Amount of RAM to Release:",
-                              .access_key = 'A',
-                              .place = {11, 32, 92, 8}}};
+                              .place = {11, 32, 92, 8},
+                              .access_key = 'A'}};
   /// Amount of the release after start-up, in megabytes of 1,040,000 bytes.
   ui::DropDownList Combo1{FrameStartup, {.name = "Combo1", .place = {106, 30, 60, 80}}};
   ui::Label lblStartupTime{FrameStartup,
                            {.name = "lblStartupTime",
                             .caption = "Wait before freeing up RAM:",
-                            .access_key = 'W',
-                            .place = {11, 49, 92, 8}}};
+                            .place = {11, 49, 92, 8},
+                            .access_key = 'W'}};
   /// Delay of the release after start-up, in seconds. VScroll3 changes it.
   ui::TextBox Text3{FrameStartup, {.name = "Text3", .tool_tip = kStartupTimeTip, .place = {106, 47, 30, 13}}};
   /// Moves the number in Text3.
@@ -58,12 +58,12 @@ struct StartupScreen {
       page, {.name = "FrameDisplay", .caption = "Display at Startup", .place = {4, 69, 126, 54}}};
   ui::OptionButton Option1{
       FrameDisplay,
-      {.name = "Option1", .caption = "Fully Displayed", .access_key = 'F', .place = {11, 81, 112, 10}}};
+      {.name = "Option1", .caption = "Fully Displayed", .place = {11, 81, 112, 10}, .access_key = 'F'}};
   ui::OptionButton Option2{
       FrameDisplay,
-      {.name = "Option2", .caption = "Minimized in Taskbar", .access_key = 'M', .place = {11, 94, 112, 10}}};
+      {.name = "Option2", .caption = "Minimized in Taskbar", .place = {11, 94, 112, 10}, .access_key = 'M'}};
   ui::OptionButton Option3{
-      FrameDisplay, {.name = "Option3", .caption = "Hidden", .access_key = 'H', .place = {11, 107, 112, 10}}};
+      FrameDisplay, {.name = "Option3", .caption = "Hidden", .place = {11, 107, 112, 10}, .access_key = 'H'}};
 
   ui::Frame FrameGraph{
       page, {.name = "FrameGraph", .caption = "CPU Graph Update Interval", .place = {138, 69, 126, 54}}};
@@ -78,9 +78,9 @@ struct StartupScreen {
   ui::CheckBox Check4{FrameOther,
                       {.name = "Check4",
                        .caption = "Resources Warning",
-                       .access_key = 'R',
                        .tool_tip = "This should normally be left un-checked",
-                       .place = {11, 139, 78, 10}}};
+                       .place = {11, 139, 78, 10},
+                       .access_key = 'R'}};
   ui::Label lblAutoAndTime{
       FrameOther, {.name = "lblAutoAndTime", .caption = "(Auto & Time Only)", .place = {92, 140, 90, 8}}};
 
@@ -93,9 +93,9 @@ struct StartupScreen {
   ui::Button Command24{page,
                        {.name = "Command24",
                         .caption = "Help / Tips",
-                        .access_key = 'T',
                         .tool_tip = "Opens the help for this tab",
-                        .place = {198, 183, 66, 14}}};
+                        .place = {198, 183, 66, 14},
+                        .access_key = 'T'}};
 };
 
 }  // namespace qdix::screens

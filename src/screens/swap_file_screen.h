@@ -24,30 +24,30 @@ struct SwapFileScreen {
   ui::OptionButton optSwap1{FrameSetup,
                             {.name = "optSwap1",
                              .caption = "Windows Default - Let Windows manage the Swapfile (Not Optimized)",
-                             .access_key = 'W',
-                             .place = {11, 13, 248, 10}}};
+                             .place = {11, 13, 248, 10},
+                             .access_key = 'W'}};
   ui::OptionButton optSwap2{FrameSetup,
                             {.name = "optSwap2",
                              .caption = "Optimize Windows Virtual Memory Swapfile",
-                             .access_key = 'O',
-                             .place = {11, 26, 248, 10}}};
+                             .place = {11, 26, 248, 10},
+                             .access_key = 'O'}};
   ui::OptionButton optSwap3{FrameSetup,
                             {.name = "optSwap3",
                              .caption = "Other setup currently configured (Not Optimized)",
-                             .access_key = 't',
-                             .place = {11, 39, 248, 10}}};
+                             .place = {11, 39, 248, 10},
+                             .access_key = 't'}};
 
   ui::Frame Frame11{page, {.name = "Frame11", .caption = "Optimize Swapfile", .place = {4, 57, 260, 68}}};
   ui::Label lblHardDisk{
       Frame11,
-      {.name = "lblHardDisk", .caption = "Hard Disk :", .access_key = 'H', .place = {11, 71, 52, 8}}};
+      {.name = "lblHardDisk", .caption = "Hard Disk :", .place = {11, 71, 52, 8}, .access_key = 'H'}};
   /// Drives for the swap file.
   ui::DropDownList Combo3{
       Frame11,
       {.name = "Combo3", .tool_tip = "The disk that the swap file is kept on", .place = {66, 69, 110, 90}}};
   ui::Label lblSwapSize{
       Frame11,
-      {.name = "lblSwapSize", .caption = "Swapfile Size :", .access_key = 'z', .place = {11, 88, 52, 8}}};
+      {.name = "lblSwapSize", .caption = "Swapfile Size :", .place = {11, 88, 52, 8}, .access_key = 'z'}};
   /// Size of the swap file, in megabytes of 1,024 KB. VScroll4 changes it.
   ui::TextBox Text8{Frame11, {.name = "Text8", .tool_tip = kSwapSizeTip, .place = {66, 86, 50, 13}}};
   /// Moves the size in Text8.
@@ -57,9 +57,9 @@ struct SwapFileScreen {
   ui::Button cmdBeginnerSwapFile{Frame11,
                                  {.name = "cmdBeginnerSwapFile",
                                   .caption = "Suggested Configuration (Beginners)",
-                                  .access_key = 'g',
                                   .tool_tip = "Proposes a disk and a size; nothing is written yet",
-                                  .place = {66, 105, 134, 14}}};
+                                  .place = {66, 105, 134, 14},
+                                  .access_key = 'g'}};
 
   ui::Frame FrameDefrag{
       page, {.name = "FrameDefrag", .caption = "Before You Change It", .place = {4, 128, 260, 49}}};
@@ -73,23 +73,23 @@ struct SwapFileScreen {
   ui::Button Command26{FrameDefrag,
                        {.name = "Command26",
                         .caption = "Disk Defragmenter",
-                        .access_key = 'D',
                         .tool_tip = "Closes Q-DIX and runs the Disk Defragmenter on the disk above",
-                        .place = {66, 158, 80, 14}}};
+                        .place = {66, 158, 80, 14},
+                        .access_key = 'D'}};
 
   ui::Button Command18{page,
                        {.name = "Command18",
                         .caption = "Save Changes",
-                        .access_key = 'S',
                         .tool_tip = "Writes this configuration; it takes effect when Windows restarts",
-                        .place = {4, 183, 66, 14}}};
+                        .place = {4, 183, 66, 14},
+                        .access_key = 'S'}};
 
   ui::Button Command20{page,
                        {.name = "Command20",
                         .caption = "Help / Tips",
-                        .access_key = 'p',
                         .tool_tip = "Opens the help for this tab",
-                        .place = {198, 183, 66, 14}},
+                        .place = {198, 183, 66, 14},
+                        .access_key = 'p'},
                        ui::ButtonRole::kPlain,
                        kLightBulbPicture};
 };

@@ -14,26 +14,26 @@ struct TimeIntervalsScreen {
   ui::CheckBox Check3{FrameTime,
                       {.name = "Check3",
                        .caption = "Time Releases Active",
-                       .access_key = 'A',
                        .tool_tip = "Must be ticked for Timed freeups to take place",
-                       .place = {11, 14, 120, 10}}};
+                       .place = {11, 14, 120, 10},
+                       .access_key = 'A'}};
   ui::Label lblUnit{
       FrameTime,
-      {.name = "lblUnit", .caption = "Release RAM every:", .access_key = 'R', .place = {11, 32, 66, 8}}};
+      {.name = "lblUnit", .caption = "Release RAM every:", .place = {11, 32, 66, 8}, .access_key = 'R'}};
   /// Interval of the timed release, in the unit that is selected beside it.
   ui::ListBox lstTime{
       FrameTime,
       {.name = "lstTime", .tool_tip = "Time interval at which RAM is Released", .place = {11, 42, 60, 51}}};
   ui::Frame FrameUnit{FrameTime, {.name = "FrameUnit", .caption = "Unit", .place = {78, 38, 62, 38}}};
   ui::OptionButton Option4{
-      FrameUnit, {.name = "Option4", .caption = "Minutes", .access_key = 'n', .place = {84, 49, 50, 10}}};
+      FrameUnit, {.name = "Option4", .caption = "Minutes", .place = {84, 49, 50, 10}, .access_key = 'n'}};
   ui::OptionButton Option5{
-      FrameUnit, {.name = "Option5", .caption = "Hours", .access_key = 'o', .place = {84, 62, 50, 10}}};
+      FrameUnit, {.name = "Option5", .caption = "Hours", .place = {84, 62, 50, 10}, .access_key = 'o'}};
   ui::Label lblTimeAmount{FrameTime,
                           {.name = "lblTimeAmount",
                            .caption = "Amount of RAM to Release:",
-                           .access_key = 'm',
-                           .place = {150, 32, 104, 8}}};
+                           .place = {150, 32, 104, 8},
+                           .access_key = 'm'}};
   /// Amount of a timed release, in megabytes of 1,040,000 bytes.
   ui::ListBox List3{FrameTime, {.name = "List3", .tool_tip = kHalfRamTip, .place = {150, 42, 60, 51}}};
   /// When the next release is due.
@@ -44,8 +44,8 @@ struct TimeIntervalsScreen {
   ui::CheckBox Check10{FrameTimeCpu,
                        {.name = "Check10",
                         .caption = "Don't perform time freeup unless CPU usage is below",
-                        .access_key = 'u',
-                        .place = {11, 130, 204, 10}}};
+                        .place = {11, 130, 204, 10},
+                        .access_key = 'u'}};
   /// Processor load in percent from which timed releases wait.
   ui::TextBox Text10{FrameTimeCpu, {.name = "Text10", .place = {218, 128, 24, 13}}};
   ui::Label lblTimeCpuUnit{FrameTimeCpu,
@@ -54,9 +54,9 @@ struct TimeIntervalsScreen {
   ui::Button Command23{page,
                        {.name = "Command23",
                         .caption = "Help / Tips",
-                        .access_key = 'T',
                         .tool_tip = "Opens the help for this tab",
-                        .place = {198, 183, 66, 14}}};
+                        .place = {198, 183, 66, 14},
+                        .access_key = 'T'}};
 };
 
 }  // namespace qdix::screens

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/result.h"
+#include "ui/control_name.h"
 #include "ui/event.h"
 
 namespace qdix::ui {
@@ -64,8 +65,10 @@ enum class Change : std::uint8_t {
 
 class ControlPeer {
  public:
-  virtual ~ControlPeer() = default;
   virtual void ControlChanged(Control& control, Change change) = 0;
+
+ protected:
+  ~ControlPeer() = default;
 };
 
 /// A rectangle in dialog units, relative to the tab page or form that the control is on. A frame does not
@@ -89,13 +92,13 @@ inline constexpr Colour kButtonText = 0x80000012U;
 /// What a form designer shows for every control. Texts must be literals, because only their addresses are
 /// kept; the caption is copied. Kept small: there is one per control.
 struct Design {
-  const char* name;
+  [[no_unique_address]] ControlName name;
   const char* caption = "";
+  const char* tool_tip = "";
+  Place place{};
   /// Letter that works with Alt, from the caption or from the label before the control; 0 for none. Not part
   /// of the caption.
   char access_key = 0;
-  const char* tool_tip = "";
-  Place place{};
   bool visible = true;
   bool enabled = true;
 };
@@ -109,7 +112,7 @@ class Control {
   [[nodiscard]] Kind GetKind() const { return kind_; }
   /// True for a form, tab strip, tab page or frame, which can be cast to Container.
   [[nodiscard]] bool IsContainer() const { return kind_ <= Kind::kFrame; }
-  [[nodiscard]] std::string_view Name() const { return design_.name; }
+  [[nodiscard]] std::string_view Name() const { return design_.name.Text(); }
   [[nodiscard]] std::string_view ToolTip() const { return design_.tool_tip; }
   [[nodiscard]] char AccessKey() const { return design_.access_key; }
   [[nodiscard]] const Place& GetPlace() const { return design_.place; }
@@ -177,7 +180,7 @@ class Container : public Control {
  public:
   [[nodiscard]] const std::vector<Control*>& Children() const { return children_; }
 
-  /// Returns the control of this name at any depth, or null.
+  /// Returns the control of this name at any depth, or null. The shipped programs have no names.
   [[nodiscard]] Control* Find(std::string_view name);
 
  protected:

@@ -19,10 +19,10 @@ void VisitControls(const Container& root, ControlVisitor visit) {
   VisitBelow(root, visit, kFirstControlNumber);
 }
 
-int NumberOf(const Container& root, std::string_view name) {
+int NumberOf(const Container& root, const Control& wanted) {
   int found = 0;
-  auto compare = [name, &found](const Control& control, int number) {
-    if (found == 0 && control.Name() == name) found = number;
+  auto compare = [&wanted, &found](const Control& control, int number) {
+    if (&control == &wanted) found = number;
   };
   VisitControls(root, ControlVisitor::Of(compare));
   return found;

@@ -2,8 +2,6 @@
 // that inspects the window from outside finds a control by the name its screen gives it.
 #pragma once
 
-#include <string_view>
-
 #include "base/callback.h"
 #include "ui/control.h"
 
@@ -18,7 +16,7 @@ using ControlVisitor = base::Callback<void(Control& control, int number)>;
 /// Visits every control below `root` with its number, but not `root` itself.
 void VisitControls(const Container& root, ControlVisitor visit);
 
-/// Returns the number of the first control of this name below `root`, or 0.
-[[nodiscard]] int NumberOf(const Container& root, std::string_view name);
+/// Returns the number of a control below `root`; 0 if it is not there.
+[[nodiscard]] int NumberOf(const Container& root, const Control& wanted);
 
 }  // namespace qdix::ui

@@ -4,11 +4,11 @@
 
 namespace qdix::ui {
 
-MenuItem::MenuItem(EventDispatcher& events, std::string_view name, std::string_view caption)
-    : events_(events), parent_(nullptr), name_(name), caption_(caption) {}
+MenuItem::MenuItem(EventDispatcher& events, ControlName name, std::string_view caption)
+    : name_(name), events_(events), parent_(nullptr), caption_(caption) {}
 
-MenuItem::MenuItem(MenuItem& parent, std::string_view name, std::string_view caption)
-    : events_(parent.events_), parent_(&parent), name_(name), caption_(caption) {
+MenuItem::MenuItem(MenuItem& parent, ControlName name, std::string_view caption)
+    : name_(name), events_(parent.events_), parent_(&parent), caption_(caption) {
   parent.children_.push_back(this);
 }
 
@@ -34,7 +34,7 @@ void MenuItem::Choose() {
   events_.Run(OnClick);
 }
 
-MenuItemArray::MenuItemArray(MenuItem& parent, std::string_view name, int count) {
+MenuItemArray::MenuItemArray(MenuItem& parent, ControlName name, int count) {
   for (int made = 0; made < count; ++made) items_.push_back(std::make_unique<MenuItem>(parent, name, ""));
 }
 

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "ui/control_name.h"
 #include "ui/event.h"
 
 namespace qdix::ui {
@@ -14,15 +15,15 @@ namespace qdix::ui {
 class MenuItem {
  public:
   /// Makes a root menu. Its entries are made in order with it as their parent.
-  MenuItem(EventDispatcher& events, std::string_view name, std::string_view caption);
-  MenuItem(MenuItem& parent, std::string_view name, std::string_view caption);
+  MenuItem(EventDispatcher& events, ControlName name, std::string_view caption);
+  MenuItem(MenuItem& parent, ControlName name, std::string_view caption);
   static constexpr std::string_view kSeparatorCaption = "-";
 
   MenuItem(const MenuItem&) = delete;
   MenuItem& operator=(const MenuItem&) = delete;
   ~MenuItem() = default;
 
-  [[nodiscard]] std::string_view Name() const { return name_; }
+  [[nodiscard]] std::string_view Name() const { return name_.Text(); }
   [[nodiscard]] const std::string& Caption() const { return caption_; }
   [[nodiscard]] bool IsSeparator() const { return caption_ == kSeparatorCaption; }
   [[nodiscard]] bool Enabled() const { return enabled_; }
@@ -46,9 +47,9 @@ class MenuItem {
  private:
   [[nodiscard]] bool Reachable() const;
 
+  [[no_unique_address]] ControlName name_;
   EventDispatcher& events_;
   MenuItem* parent_;
-  std::string_view name_;
   std::string caption_;
   std::vector<MenuItem*> children_;
   bool enabled_ = true;
@@ -59,7 +60,7 @@ class MenuItem {
 /// Consecutive entries of a menu that share a name and differ in their number.
 class MenuItemArray {
  public:
-  MenuItemArray(MenuItem& parent, std::string_view name, int count);
+  MenuItemArray(MenuItem& parent, ControlName name, int count);
 
   [[nodiscard]] int Count() const { return static_cast<int>(items_.size()); }
   /// Entries count from 0.

@@ -4,8 +4,8 @@
 
 namespace qdix::ui {
 
-Timer::Timer(EventDispatcher& events, std::string_view name, std::int32_t interval_ms, bool enabled)
-    : events_(events), name_(name), interval_ms_(interval_ms), enabled_(enabled) {}
+Timer::Timer(EventDispatcher& events, ControlName name, std::int32_t interval_ms, bool enabled)
+    : name_(name), events_(events), interval_ms_(interval_ms), enabled_(enabled) {}
 
 void Timer::AttachPeer(TimerPeer* peer) {
   peer_ = peer;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "ui/control_name.h"
 #include "ui/event.h"
 
 namespace qdix::ui {
@@ -14,9 +15,11 @@ class Timer;
 /// Measures the intervals of timers. Each timer notifies it when it restarts or stops.
 class TimerPeer {
  public:
-  virtual ~TimerPeer() = default;
   /// The timer's Running() and Interval() say whether and how long to count from now on.
   virtual void TimerRestarted(Timer& timer) = 0;
+
+ protected:
+  ~TimerPeer() = default;
 };
 
 class Timer {
@@ -24,12 +27,12 @@ class Timer {
   static constexpr std::int32_t kMaxIntervalMs = 65535;
 
   /// A timer without a peer never elapses.
-  Timer(EventDispatcher& events, std::string_view name, std::int32_t interval_ms, bool enabled);
+  Timer(EventDispatcher& events, ControlName name, std::int32_t interval_ms, bool enabled);
   Timer(const Timer&) = delete;
   Timer& operator=(const Timer&) = delete;
   ~Timer() = default;
 
-  [[nodiscard]] std::string_view Name() const { return name_; }
+  [[nodiscard]] std::string_view Name() const { return name_.Text(); }
   /// In milliseconds, 0 to 65535. With 0 the timer never ticks.
   [[nodiscard]] std::int32_t Interval() const { return interval_ms_; }
   [[nodiscard]] bool Enabled() const { return enabled_; }
@@ -54,9 +57,9 @@ class Timer {
  private:
   void Restart();
 
+  [[no_unique_address]] ControlName name_;
   EventDispatcher& events_;
   TimerPeer* peer_ = nullptr;
-  std::string_view name_;
   std::int32_t interval_ms_;
   bool enabled_;
   bool ticking_ = false;

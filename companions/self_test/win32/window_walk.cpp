@@ -17,7 +17,7 @@ const ui::Control* PageOf(const ui::Control& control) {
 /// Returns the window that directly contains the control's window.
 HWND ParentWindowOf(HWND main, const ui::Form& form, const ui::Control& control) {
   const ui::Control* const page = PageOf(control);
-  return page == nullptr ? main : GetDlgItem(main, ui::NumberOf(form, page->Name()));
+  return page == nullptr ? main : GetDlgItem(main, ui::NumberOf(form, *page));
 }
 
 bool IsOnOpenPage(const ui::Control& control) {
@@ -59,12 +59,12 @@ class WindowWalk {
  public:
   WindowWalk(HWND main, const ui::Form& form) : main_(main), form_(form) {}
 
-  void Visit(ui::Control& control, int /*number*/) {
+  void Visit(ui::Control& control, int number) {
     if (WindowOf(main_, form_, control) != nullptr) ++count_;
     const char* const fault = FaultOf(control);
     if (fault == nullptr) return;
     if (!faults_.empty()) faults_ += "; ";
-    faults_ += std::string(control.Name()) + " " + fault;
+    faults_ += "control " + base::TextOf(number) + " " + fault;
   }
 
   [[nodiscard]] Outcome Result() const {
@@ -94,7 +94,7 @@ class WindowWalk {
 
 HWND WindowOf(HWND main, const ui::Form& form, const ui::Control& control) {
   HWND const on = ParentWindowOf(main, form, control);
-  return on == nullptr ? nullptr : GetDlgItem(on, ui::NumberOf(form, control.Name()));
+  return on == nullptr ? nullptr : GetDlgItem(on, ui::NumberOf(form, control));
 }
 
 Outcome WalkWindows(HWND main, ui::Form& form) {

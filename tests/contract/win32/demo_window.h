@@ -77,21 +77,21 @@ struct DemoModels {
 
   ui::Frame frame{tabs.Page(0), {.name = "Frame", .caption = "A frame", .place = {4, 2, 214, 90}}};
   ui::Label label{frame,
-                  {.name = "Label", .caption = "Name of it:", .access_key = 'n', .place = {11, 15, 50, 8}}};
+                  {.name = "Label", .caption = "Name of it:", .place = {11, 15, 50, 8}, .access_key = 'n'}};
   ui::TextBox text{frame, {.name = "Text", .tool_tip = "Type here", .place = {64, 13, 60, 13}}, 8};
   ui::CheckBox check{
-      frame, {.name = "Check", .caption = "R&D wanted", .access_key = 'w', .place = {11, 30, 80, 10}}};
+      frame, {.name = "Check", .caption = "R&D wanted", .place = {11, 30, 80, 10}, .access_key = 'w'}};
   ui::OptionButton option1{
-      frame, {.name = "Option1", .caption = "First", .access_key = 'F', .place = {11, 44, 50, 10}}};
+      frame, {.name = "Option1", .caption = "First", .place = {11, 44, 50, 10}, .access_key = 'F'}};
   ui::OptionButton option2{
-      frame, {.name = "Option2", .caption = "Second", .access_key = 'S', .place = {11, 56, 50, 10}}};
+      frame, {.name = "Option2", .caption = "Second", .place = {11, 56, 50, 10}, .access_key = 'S'}};
   ui::OptionButton option3{
-      frame, {.name = "Option3", .caption = "Third", .access_key = 'T', .place = {11, 68, 50, 10}}};
+      frame, {.name = "Option3", .caption = "Third", .place = {11, 68, 50, 10}, .access_key = 'T'}};
   ui::Button go{tabs.Page(0),
-                {.name = "Go", .caption = "Go on", .access_key = 'G', .place = {4, 100, 50, 14}},
+                {.name = "Go", .caption = "Go on", .place = {4, 100, 50, 14}, .access_key = 'G'},
                 ui::ButtonRole::kDefault};
   ui::Button stop{tabs.Page(0),
-                  {.name = "Stop", .caption = "Stop", .access_key = 'p', .place = {60, 100, 50, 14}},
+                  {.name = "Stop", .caption = "Stop", .place = {60, 100, 50, 14}, .access_key = 'p'},
                   ui::ButtonRole::kCancel};
   ui::Button other{tabs.Page(0), {.name = "Other", .caption = "Other", .place = {116, 100, 50, 14}}};
   /// Its icon is not in the resources of the tests.
@@ -149,11 +149,11 @@ class DemoWindow : public DemoModels {
 
   /// Returns the native window of a control, found by its number as another program would find it.
   [[nodiscard]] HWND Native(const ui::Control& control) const {
-    const int number = ui::NumberOf(form, control.Name());
+    const int number = ui::NumberOf(form, control);
     HWND const direct = GetDlgItem(Main(), number);
     if (direct != nullptr) return direct;
     for (int page = 0; page < tabs.Count(); ++page) {
-      HWND const on_page = GetDlgItem(GetDlgItem(Main(), ui::NumberOf(form, tabs.Page(page).Name())), number);
+      HWND const on_page = GetDlgItem(GetDlgItem(Main(), ui::NumberOf(form, tabs.Page(page))), number);
       if (on_page != nullptr) return on_page;
     }
     return nullptr;

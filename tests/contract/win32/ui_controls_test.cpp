@@ -20,8 +20,8 @@ class UiControls : public testing::Test {
 
 TEST_F(UiControls, NumbersFollowTheOrderOfTheControls) {
   EXPECT_EQ(GetDlgCtrlID(demo.Native(demo.tabs)), ui::kFirstControlNumber);
-  EXPECT_EQ(GetDlgCtrlID(demo.Native(demo.text)), ui::NumberOf(demo.form, "Text"));
-  EXPECT_EQ(ui::NumberOf(demo.form, "Text"), ui::kFirstControlNumber + 4);
+  EXPECT_EQ(GetDlgCtrlID(demo.Native(demo.text)), ui::NumberOf(demo.form, demo.text));
+  EXPECT_EQ(ui::NumberOf(demo.form, demo.text), ui::kFirstControlNumber + 4);
 }
 
 TEST_F(UiControls, CaptionsCarryTheAccessKeyAndShowTheirOwnAmpersands) {

@@ -131,7 +131,7 @@ TEST_F(ResizableForm, StartsMaximisedIfTheStateWasSetBefore) {
 }
 
 TEST_F(ResizableForm, ControlFollowsItsPlace) {
-  HWND const native = GetDlgItem(Main(), ui::NumberOf(form, "Text"));
+  HWND const native = GetDlgItem(Main(), ui::NumberOf(form, text));
   text.SetPlace({20, 40, 80, 16});
   RECT place{};
   GetWindowRect(native, &place);

@@ -54,8 +54,10 @@ TEST_F(UiLatePages, WindowsAreCreatedWhenTheirPageIsOpenedAndStay) {
   EXPECT_TRUE(IsWindowVisible(demo.Native(demo.list)));
   OpenPage(0);
   EXPECT_EQ(demo.Native(demo.go), go);
-  EXPECT_EQ(NumbersInOrder(0), Numbers(ui::NumberOf(demo.form, "Frame"), ui::NumberOf(demo.form, "Picture")));
-  EXPECT_EQ(NumbersInOrder(1), Numbers(ui::NumberOf(demo.form, "List"), ui::NumberOf(demo.form, "Stepped")));
+  EXPECT_EQ(NumbersInOrder(0),
+            Numbers(ui::NumberOf(demo.form, demo.frame), ui::NumberOf(demo.form, demo.picture)));
+  EXPECT_EQ(NumbersInOrder(1),
+            Numbers(ui::NumberOf(demo.form, demo.list), ui::NumberOf(demo.form, demo.stepped)));
 }
 
 TEST_F(UiLatePages, PageOpenedWhileTheFormIsHiddenWaitsUntilItIsShown) {
@@ -299,8 +301,8 @@ std::unique_ptr<ui::win32::NativeControl> MakeUnlessRefused(const ui::win32::Pee
 class UiLateWindowsRefused : public testing::Test, protected DemoModels {
  protected:
   [[nodiscard]] HWND OnFirstPage(const ui::Control& control) const {
-    HWND const page = GetDlgItem(window.MainWindow(), ui::NumberOf(form, tabs.Page(0).Name()));
-    return GetDlgItem(page, ui::NumberOf(form, control.Name()));
+    HWND const page = GetDlgItem(window.MainWindow(), ui::NumberOf(form, tabs.Page(0)));
+    return GetDlgItem(page, ui::NumberOf(form, control));
   }
 
   ui::win32::FormWindow window{GetModuleHandleA(nullptr), 1, application, form, timers, MakeUnlessRefused};

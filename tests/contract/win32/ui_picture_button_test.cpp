@@ -59,7 +59,7 @@ TEST(UiDefaultPictureButton, HasTheHeavyBorderFromTheStart) {
                                      ui::win32::MakePeer);
   form.Show();
   text.SetFocus();
-  HWND const native = GetDlgItem(window.MainWindow(), ui::NumberOf(form, "Button"));
+  HWND const native = GetDlgItem(window.MainWindow(), ui::NumberOf(form, button));
   UpdateWindow(native);
   EXPECT_EQ(PixelOf(native, 0, 0), GetSysColor(COLOR_WINDOWFRAME));
 }

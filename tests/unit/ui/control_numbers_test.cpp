@@ -43,11 +43,11 @@ TEST(ControlNumbers, WalkNumbersContainersBeforeTheirContents) {
   EXPECT_EQ(record.numbers, (std::vector<int>{1001, 1002, 1003, 1004, 1005, 1006, 1007}));
 }
 
-TEST(ControlNumbers, NumberIsFoundByNameAndIsZeroWithoutOne) {
+TEST(ControlNumbers, EachControlBelowTheRootHasItsNumber) {
   const Numbered demo;
-  EXPECT_EQ(NumberOf(demo.form, "After"), 1005);
-  EXPECT_EQ(NumberOf(demo.form, "Form"), 0) << "the form itself has no number";
-  EXPECT_EQ(NumberOf(demo.form, "Nobody"), 0);
+  EXPECT_EQ(NumberOf(demo.form, demo.after), 1005);
+  EXPECT_EQ(NumberOf(demo.form, demo.form), 0) << "the form itself has no number";
+  EXPECT_EQ(NumberOf(demo.tabs.Page(1), demo.after), 0) << "it is on the other page";
 }
 
 }  // namespace

@@ -177,9 +177,9 @@ TEST_F(SimpleControls, ControlStartsAsItWasDesigned) {
   const ui::Button button(fixture.form,
                           {.name = "Button",
                            .caption = "Go",
-                           .access_key = 'G',
                            .tool_tip = "Tip",
                            .place = {1, 2, 3, 4},
+                           .access_key = 'G',
                            .visible = false,
                            .enabled = false},
                           ui::ButtonRole::kCancel);
