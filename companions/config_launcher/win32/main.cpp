@@ -2,8 +2,6 @@
 // dropped on the window. Contains no logic.
 #include <windows.h>
 
-#include <memory>
-
 #include "config_launcher/config_form.h"
 #include "config_launcher/win32/resources.h"
 #include "host/win32/program_host.h"
@@ -48,7 +46,6 @@ class Program {
 }  // namespace qdix::config_launcher::win32
 
 extern "C" int QdixMain(void* instance, int show_command) {
-  const auto program =
-      std::make_unique<qdix::config_launcher::win32::Program>(static_cast<HINSTANCE>(instance));
+  auto* const program = new qdix::config_launcher::win32::Program(static_cast<HINSTANCE>(instance));
   return program->Run(show_command);
 }

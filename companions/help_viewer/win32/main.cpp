@@ -2,7 +2,6 @@
 // Contains no logic.
 #include <windows.h>
 
-#include <memory>
 #include <optional>
 
 #include "help_viewer/help_form.h"
@@ -54,7 +53,7 @@ class Program {
 extern "C" int QdixMain(void* instance, int show_command) {
   using namespace qdix::help_viewer::win32;
   std::optional<Turn> turn("Q-DIX Help starts");
-  const auto program = std::make_unique<Program>(static_cast<HINSTANCE>(instance));
+  auto* const program = new Program(static_cast<HINSTANCE>(instance));
   turn.reset();
   return program->Run(show_command);
 }

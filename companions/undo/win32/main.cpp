@@ -1,5 +1,4 @@
 // The entry point of undo.exe: connects the program and the peers of its controls. Contains no logic.
-#include <memory>
 
 #include "host/win32/program_host.h"
 #include "runtime/entry.h"
@@ -17,7 +16,7 @@ constexpr PeerFactory kMakePeer = &MakePeerFrom<FramePeer, LabelPeer, ButtonPeer
 
 extern "C" int QdixMain(void* instance, int show_command) {
   using Program = qdix::host::win32::ProgramHost<qdix::undo::UndoForm>;
-  const auto program =
-      std::make_unique<Program>(static_cast<HINSTANCE>(instance), qdix::undo::win32::kUndoIcon, kMakePeer);
+  auto* const program =
+      new Program(static_cast<HINSTANCE>(instance), qdix::undo::win32::kUndoIcon, kMakePeer);
   return program->Run(show_command);
 }

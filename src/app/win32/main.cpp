@@ -2,8 +2,6 @@
 // Contains no logic.
 #include <windows.h>
 
-#include <memory>
-
 #include "app/form1.h"
 #include "app/win32/resources.h"
 #include "host/win32/program_host.h"
@@ -36,6 +34,6 @@ class Program {
 }  // namespace qdix::app::win32
 
 extern "C" int QdixMain(void* instance, int show_command) {
-  const auto program = std::make_unique<qdix::app::win32::Program>(static_cast<HINSTANCE>(instance));
+  auto* const program = new qdix::app::win32::Program(static_cast<HINSTANCE>(instance));
   return program->Run(show_command);
 }

@@ -5,6 +5,8 @@
 #include <windows.h>
 
 #include <array>
+#include <optional>
+#include <utility>
 
 #include "os/win32/win32_system.h"
 #include "ui/win32/form_window.h"
@@ -23,43 +25,49 @@ template <class Program>
 
 /// `Program` is constructed from the system and any further arguments given here. It must have
 /// TheApplication, Form, Start and EndSession, and may have Timers. Allocate this on the heap: the controls
-/// alone would be too large for a stack frame.
+/// alone would be too large for a stack frame. It need not be destroyed before the process ends: after Run
+/// only memory is left, and a destructor for every control costs 2 KB.
 template <class Program>
 class ProgramHost {
  public:
   template <class... Others>
   ProgramHost(HINSTANCE instance, int icon_id, ui::win32::PeerFactory make_peer, Others&... others)
-      : program_(system_.GetSystem(), others...),
-        timers_(TimersOf(program_)),
-        window_(instance, icon_id, program_.TheApplication(), program_.Form(), timers_, make_peer) {
+      : program_(system_->GetSystem(), others...), timers_(TimersOf(program_)) {
     using Hook = base::Callback<void()>;
-    window_.OnUnloaded = Hook::To<&os::win32::Win32System::Stop>(system_);
-    window_.OnSessionEnding = Hook::To<&Program::EndSession>(program_);
-    system_.SetMainWindow(window_.MainWindow());
+    window_.emplace(instance, icon_id, program_.TheApplication(), program_.Form(), timers_, make_peer);
+    window_->OnUnloaded = Hook::To<&os::win32::Win32System::Stop>(*system_);
+    window_->OnSessionEnding = Hook::To<&Program::EndSession>(program_);
+    system_->SetMainWindow(window_->MainWindow());
   }
 
   [[nodiscard]] Program& TheProgram() { return program_; }
-  [[nodiscard]] ui::win32::FormWindow& Window() { return window_; }
+  [[nodiscard]] ui::win32::FormWindow& Window() { return *window_; }
 
   /// `show_command` is how the caller wants the window shown (SW_...). It applies only if the program shows
   /// its window at start, not if it shows a hidden one later. Returns the exit code when the window has
-  /// unloaded: 0, or 1 if the windows could not be made.
+  /// unloaded, its windows are destroyed and its handles closed: 0, or 1 if the windows could not be made.
   [[nodiscard]] int Run(int show_command) {
-    if (!window_.Complete()) return 1;
-    window_.SetStartCommand(show_command);
-    program_.Start();
-    window_.SetStartCommand(SW_SHOWDEFAULT);
-    while (system_.EventPump().WaitAndHandle()) {
-    }
-    return 0;
+    const bool is_complete = window_->Complete();
+    if (is_complete) RunUntilUnloaded(show_command);
+    window_.reset();
+    system_.reset();
+    return is_complete ? 0 : 1;
   }
 
  private:
-  // Destroyed in reverse order: first the windows, then the program whose models they show, then the system.
-  os::win32::Win32System system_;
+  void RunUntilUnloaded(int show_command) {
+    window_->SetStartCommand(show_command);
+    program_.Start();
+    window_->SetStartCommand(SW_SHOWDEFAULT);
+    while (system_->EventPump().WaitAndHandle()) {
+    }
+  }
+
+  // Run empties `window_`, then `system_`, as the destructor would: windows and handles must not be left.
+  std::optional<os::win32::Win32System> system_{std::in_place};
   Program program_;
   decltype(TimersOf(program_)) timers_;
-  ui::win32::FormWindow window_;
+  std::optional<ui::win32::FormWindow> window_;
 };
 
 }  // namespace qdix::host::win32
