@@ -2,7 +2,7 @@
 """Checks that a finished exe loads on the first Windows 95 and runs on any processor from the 386 with a 387.
 
 Imports must be names that Windows 95 exports, and not as a stub that only fails. Every instruction must be on the list
-of the 386 and 387, except for two guarded ones in a section of their own. The header must be one that Windows 95
+of the 386 and 387, except for two guarded ones that may occur once each. The header must be one that Windows 95
 accepts. Prints its findings and exits with 1 if anything is wrong.
 """
 import argparse
@@ -31,11 +31,10 @@ fpatan fprem fprem1 fptan frndint frstor fsave fnsave fscale fsin fsincos fsqrt 
 fsubr fsubrp ftst fucom fucomp fucompp fwait fxam fxch fxtract fyl2x fyl2xp1
 """.split())
 ALLOWED = I386 | I387
-# Instructions allowed only in this section: the guarded ones for processors that have them.
-NEWER_SECTION = ".newcpu"
+# Allowed once each: the program asks the processor first, in one place. Only code written by hand contains them.
+GUARDED = {"cpuid", "rdtsc"}
 # A page is 4,096 bytes. No probe walks down a larger frame, and a call needs room below it.
 MAX_FRAME_BYTES = 3500
-NEWER = {"cpuid", "rdtsc"}
 PREFIXES = {"rep", "repz", "repnz", "lock", "cs", "ds", "es", "ss", "fs", "gs", "data16", "addr16"}
 EMPTY_LISTS = (b"\xff" * 4 + b"\0" * 4) * 2
 INSTRUCTION = re.compile(r"^\s*(?P<address>[0-9a-f]+):\t(?:[0-9a-f]{2} )+\s*\t(?P<text>.+)$")
@@ -86,7 +85,7 @@ class Image:
         return address + size
 
     def instructions(self):
-        """Yields section, address and text of each instruction."""
+        """Yields address and text of each instruction."""
         end = self.end_of_code()
         section = ""
         for line in self._run("-d", "-w").splitlines():
@@ -95,7 +94,7 @@ class Image:
                 section = heading.group("name")
             match = INSTRUCTION.match(line)
             if match and (section != ".text" or int(match.group("address"), 16) < end):
-                yield section, match.group("address"), match.group("text")
+                yield match.group("address"), match.group("text")
 
 
 def mnemonic_of(text):
@@ -114,10 +113,6 @@ def is_386(text):
     # The size letters of AT&T syntax.
     return mnemonic in ALLOWED or any(
         mnemonic.endswith(size) and mnemonic.removesuffix(size) in ALLOWED for size in ("b", "w", "l", "ll", "s", "t"))
-
-
-def is_allowed(section, text):
-    return is_386(text) or (section == NEWER_SECTION and mnemonic_of(text) in NEWER)
 
 
 def frame_bytes(text):
@@ -148,9 +143,13 @@ def check_imports(image, exports):
 
 def check_instructions(image):
     count = 0
-    for section, address, text in image.instructions():
+    still_allowed = set(GUARDED)
+    for address, text in image.instructions():
         count += 1
-        if not is_allowed(section, text):
+        mnemonic = mnemonic_of(text)
+        if mnemonic in still_allowed:
+            still_allowed.remove(mnemonic)
+        elif not is_386(text):
             yield f"instruction at {address} is none of the 386: {text.strip()}"
         if frame_bytes(text) > MAX_FRAME_BYTES:
             yield f"frame at {address} of {frame_bytes(text)} bytes could step over the guard page of the stack"

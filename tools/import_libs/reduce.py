@@ -3,27 +3,33 @@
 
 A member of an import library represents one function and defines the symbol __imp__NAME@N. Members with other names,
 and the members that contain code, are deleted from a copy. The rest is enough for a link, and makes the use of a later
-function, or of a stub, a link error.
+function, or of a stub, a link error. Each member also loses a word that would end up in the exe for nothing.
 """
 import argparse
 import pathlib
 import re
 import shutil
 import subprocess
+import tempfile
 
 from export_lists import exported_names, stubs
 
 NM = "i686-w64-mingw32-nm"
 AR = "i686-w64-mingw32-ar"
 RANLIB = "i686-w64-mingw32-ranlib"
+OBJCOPY = "i686-w64-mingw32-objcopy"
 IMPORT_SYMBOL = re.compile(r"^__imp__(?P<name>.+?)(@\d+)?$")
+
+
+def head_and_tail(library):
+    """Every link needs the head and the tail of the import table."""
+    return [f"{library.stem}h.o", f"{library.stem}t.o"]
 
 
 def members_to_drop(library, names):
     listing = subprocess.run([NM, "-A", "-g", "--defined-only", str(library)], check=True, capture_output=True,
                              text=True).stdout
-    # Every link needs the head and the tail of the import table.
-    kept = {f"{library.stem}h.o", f"{library.stem}t.o"}
+    kept = set(head_and_tail(library))
     for line in listing.splitlines():
         location, _, symbol = line.rpartition(" ")
         match = IMPORT_SYMBOL.match(symbol)
@@ -33,11 +39,23 @@ def members_to_drop(library, names):
     return sorted(set(members) - kept)
 
 
+def drop_link_words(source, target):
+    """Removes the section in which each member refers to the head of its library. The reference itself stays and makes
+    the linker take the head; the section would only be copied into the exe. The tail keeps the name of the DLL in a
+    section of the same name, so it must not lose it."""
+    subprocess.run([OBJCOPY, "-D", "--remove-section=.idata$7", str(target)], check=True)
+    with tempfile.TemporaryDirectory() as folder:
+        subprocess.run([AR, "x", str(source.resolve()), *head_and_tail(source)], check=True, cwd=folder)
+        members = [str(pathlib.Path(folder) / member) for member in head_and_tail(source)]
+        subprocess.run([AR, "rD", str(target), *members], check=True)
+
+
 def reduce_library(source, names, target):
     shutil.copyfile(source, target)
     dropped = members_to_drop(source, names)
     for start in range(0, len(dropped), 2000):
         subprocess.run([AR, "dD", str(target), *dropped[start:start + 2000]], check=True)
+    drop_link_words(source, target)
     subprocess.run([RANLIB, "-D", str(target)], check=True)
 
 

@@ -35,8 +35,8 @@ bool CanChangeFlag(std::uint32_t flag) {
   return ((before ^ after) & flag) != 0;
 }
 
-/// Has its own section: the only one in which the check of the finished program allows this instruction.
-[[gnu::section(".newcpu"), gnu::noinline]] CpuidRegisters Identify(std::uint32_t leaf) {
+/// Not inlined: the check of the finished program allows this instruction once.
+[[gnu::noinline]] CpuidRegisters Identify(std::uint32_t leaf) {
   CpuidRegisters registers;
   __asm__ volatile("cpuid"
                    : "=a"(registers.eax), "=b"(registers.ebx), "=c"(registers.ecx), "=d"(registers.edx)
@@ -49,8 +49,9 @@ struct CounterReading {
   bool allowed;
 };
 
-/// If reading the counter is forbidden, SkipForbiddenRead skips the instruction and clears `allowed`.
-[[gnu::section(".newcpu"), gnu::noinline]] CounterReading ReadCounter() {
+/// If reading the counter is forbidden, SkipForbiddenRead skips the instruction and clears `allowed`. Not
+/// inlined: the check of the finished program allows this instruction once.
+[[gnu::noinline]] CounterReading ReadCounter() {
   std::uint32_t allowed = 1;
   std::uint32_t low = 0;
   std::uint32_t high = 0;
