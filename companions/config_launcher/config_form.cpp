@@ -1,5 +1,6 @@
 #include "config_launcher/config_form.h"
 
+#include "base/concat.h"
 #include "base/numbers.h"
 #include "base/runtime_error.h"
 #include "config_launcher/other_copy.h"
@@ -21,8 +22,8 @@ std::string Remarks(const FoundList& found) {
     remarks += "- The file is longer than 100 programs. Only the first 100 were read.\r\n";
   }
   if (found.entries.size() > launcher::kMaxEntries) {
-    remarks += "- It holds " + base::TextOf(static_cast<std::int32_t>(found.entries.size())) +
-               " programs, but the launcher takes only 25. Please remove some.\r\n";
+    remarks += base::Concat({"- It holds ", base::TextOf(static_cast<std::int32_t>(found.entries.size())),
+                             " programs, but the launcher takes only 25. Please remove some.\r\n"});
   }
   if (found.has_control_characters) {
     remarks +=
@@ -63,8 +64,8 @@ void ConfigForm::Start() {
   screen_.Window.Show();
   const std::string remarks = Remarks(found);
   if (!remarks.empty()) {
-    boxes_.Show("There are problems with the list of programs (launcher.dat):\r\n\r\n" + remarks +
-                "\r\nThe file does not change until you save the list.");
+    boxes_.Show(base::Concat({"There are problems with the list of programs (launcher.dat):\r\n\r\n", remarks,
+                              "\r\nThe file does not change until you save the list."}));
   }
 }
 

@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/concat.h"
 #include "base/numbers.h"
 #include "base/text.h"
 #include "config_launcher/entry_text.h"
@@ -66,8 +67,9 @@ void EntryList::FillList() {
     screen_.lstPrograms.AddItem(entry.name.empty() ? "(no name)" : entry.name);
   }
   base::Ignore(screen_.lstPrograms.SetSelectedIndex(selected_));  // always a valid row
-  screen_.lblCount.SetCaption("(" + base::TextOf(Count()) + " of " +
-                              base::TextOf(static_cast<std::int32_t>(launcher::kMaxEntries)) + ")");
+  screen_.lblCount.SetCaption(
+      base::Concat({"(", base::TextOf(Count()), " of ",
+                    base::TextOf(static_cast<std::int32_t>(launcher::kMaxEntries)), ")"}));
 }
 
 void EntryList::RefreshButtons() {

@@ -1,5 +1,6 @@
 #include "config_launcher/picked_files.h"
 
+#include "base/concat.h"
 #include "base/numbers.h"
 #include "base/text.h"
 #include "config_launcher/entry_text.h"
@@ -13,12 +14,12 @@ constexpr std::int32_t kMaxLines = 10;
 }  // namespace
 
 void PickedFiles::Lines::Add(const std::string& line) {
-  if (++count_ <= kMaxLines) text_ += line + std::string(base::kLineBreak);
+  if (++count_ <= kMaxLines) text_ += base::Concat({line, base::kLineBreak});
 }
 
 std::string PickedFiles::Lines::Text() const {
   if (count_ <= kMaxLines) return text_;
-  return text_ + "(and " + base::TextOf(count_ - kMaxLines) + " more)" + std::string(base::kLineBreak);
+  return base::Concat({text_, "(and ", base::TextOf(count_ - kMaxLines), " more)", base::kLineBreak});
 }
 
 std::optional<launcher::LauncherEntry> PickedFiles::EntryOf(const std::string& path) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/concat.h"
 #include "base/numbers.h"
 #include "base/text.h"
 
@@ -117,7 +118,7 @@ std::string ShownBefore(const Before& before, std::size_t max_length) {
 
 std::string NameOf(const Entry& entry) {
   if (!entry.IsInSystemIni()) return "File system template";
-  return std::string("[") + entry.section + "] " + entry.key;
+  return base::Concat({"[", entry.section, "] ", entry.key});
 }
 
 }  // namespace qdix::undo

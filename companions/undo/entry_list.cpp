@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/concat.h"
 #include "base/text.h"
 
 namespace qdix::undo {
@@ -28,10 +29,10 @@ const char* ReasonOfRemoval(Before::Known known) {
 
 /// Returns one line of the question.
 std::string ActionText(const Entry& entry, const Before& before) {
-  const std::string name = NameOf(entry) + ": ";
-  if (!before.text.has_value()) return name + ReasonOfRemoval(before.known);
-  return name + "put back " + Shown(before.text, kQuestionCharacters) +
-         (before.known == Before::Known::kFromBackup ? " (from backup)" : "");
+  const std::string name = NameOf(entry);
+  if (!before.text.has_value()) return base::Concat({name, ": ", ReasonOfRemoval(before.known)});
+  return base::Concat({name, ": ", "put back ", Shown(before.text, kQuestionCharacters),
+                       before.known == Before::Known::kFromBackup ? " (from backup)" : ""});
 }
 
 }  // namespace
@@ -114,7 +115,7 @@ std::string EntryList::Question(const Choice& chosen) const {
   std::string question = "Q-DIX Undo will make these changes:\r\n\r\n";
   for (std::size_t row = 0; row < kEntries.size(); ++row) {
     if (chosen[row])
-      question += ActionText(kEntries[row], states_[row].before) + std::string(base::kLineBreak);
+      question += base::Concat({ActionText(kEntries[row], states_[row].before), base::kLineBreak});
   }
   return question + "\r\nDo you want to put these settings back?";
 }
@@ -131,11 +132,11 @@ void EntryList::NameFailures(const Choice& chosen) {
   std::string names;
   for (std::size_t row = 0; row < kEntries.size(); ++row) {
     if (chosen[row] && states_[row].can_be_put_back)
-      names += NameOf(kEntries[row]) + std::string(base::kLineBreak);
+      names += base::Concat({NameOf(kEntries[row]), base::kLineBreak});
   }
   if (names.empty()) return;
-  boxes_.Warn("These settings could not be put back:\r\n\r\n" + names +
-              "\r\nPlease make sure that system.ini is not write-protected, and try again.");
+  boxes_.Warn(base::Concat({"These settings could not be put back:\r\n\r\n", names,
+                            "\r\nPlease make sure that system.ini is not write-protected, and try again."}));
 }
 
 }  // namespace qdix::undo

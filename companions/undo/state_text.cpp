@@ -1,5 +1,7 @@
 #include "undo/state_text.h"
 
+#include "base/concat.h"
+
 namespace qdix::undo {
 
 namespace {
@@ -32,7 +34,9 @@ const char* Fault(IniState state) {
 
 std::string WholeBackupText(const Backup& backup, bool differs_from_record, os::Clock& clock) {
   std::string text = "Backup: system.qdix in the Windows folder";
-  if (backup.found.has_value()) text += " (" + backup.found->dos_name + " at the command prompt)";
+  if (backup.found.has_value()) {
+    text += base::Concat({" (", backup.found->dos_name, " at the command prompt)"});
+  }
   const std::string date = DateOf(backup, clock);
   if (!date.empty()) text += ", system.ini as of " + date;
   text += '.';
@@ -47,10 +51,10 @@ std::string StateText(const Settings& settings) {
   if (settings.SystemIniState() == IniState::kMissing) fault = "is missing";
   if (settings.SystemIniState() == IniState::kWithoutBoot) fault = "has no [boot] section";
   if (fault.empty()) return RecordText(settings.TheRecord(), settings.TheBackup());
-  return "Warning: system.ini " + fault + ". Windows cannot start without it. " +
-         (settings.TheBackup().IsWhole()
-              ? "Restore the whole file before you restart."
-              : "Put a complete system.ini in the Windows folder before you restart.");
+  return base::Concat({"Warning: system.ini ", fault, ". Windows cannot start without it. ",
+                       settings.TheBackup().IsWhole()
+                           ? "Restore the whole file before you restart."
+                           : "Put a complete system.ini in the Windows folder before you restart."});
 }
 
 std::string BackupText(const Backup& backup, const Record& record, os::Clock& clock) {
@@ -63,8 +67,8 @@ std::string BackupText(const Backup& backup, const Record& record, os::Clock& cl
     case IniState::kWhole:
       return WholeBackupText(backup, record.IsTaken() && !backup.agrees, clock);
     default:
-      return "system.qdix in the Windows folder is damaged: it " + std::string(Fault(backup.state)) +
-             ". It will not be used.";
+      return base::Concat({"system.qdix in the Windows folder is damaged: it ", Fault(backup.state),
+                           ". It will not be used."});
   }
 }
 

@@ -1,5 +1,6 @@
 #include "undo/whole_file.h"
 
+#include "base/concat.h"
 #include "undo/state_text.h"
 
 namespace qdix::undo {
@@ -11,10 +12,10 @@ namespace {
 std::string CommandsToEnter(const std::string& folder) {
   constexpr std::size_t kRootLength = 3;
   const std::size_t first_backslash = folder.find('\\');
-  const std::string drive = folder.substr(0, first_backslash);
-  std::string path = folder.substr(first_backslash);
-  if (folder.size() > kRootLength) path.pop_back();
-  return drive + "\r\ncd " + path;
+  const std::string_view text = folder;
+  std::string_view path = text.substr(first_backslash);
+  if (folder.size() > kRootLength) path.remove_suffix(1);
+  return base::Concat({text.substr(0, first_backslash), "\r\ncd ", path});
 }
 
 }  // namespace
@@ -55,7 +56,7 @@ std::string WholeFile::Question() const {
   const Backup& backup = settings_.TheBackup();
   const std::string date = DateOf(backup, clock_);
   std::string question = "All of system.ini will be replaced with system.qdix";
-  question += date.empty() ? "." : ", the copy dated " + date + ".";
+  question += date.empty() ? "." : base::Concat({", the copy dated ", date, "."});
   question +=
       "\r\n\r\nYou will lose every change made to system.ini since that copy, including those made by "
       "Windows and other programs. The current file will be kept under another name.\r\n\r\n";
@@ -68,14 +69,14 @@ std::string WholeFile::Question() const {
 /// The commands contain no long names, which the command prompt does not know before Windows starts. Each
 /// fits on one line of the message box.
 void WholeFile::ReportRestore(const std::string& kept_name) {
+  constexpr std::string_view kHowToGoBack =
+      ".\r\n\r\nIf Windows does not start with the new one, start the computer at the command prompt and "
+      "type:\r\n\r\n";
   std::string text = "system.ini has been replaced.";
   if (!kept_name.empty()) {
-    text +=
-        " The old file is now " + kept_name +
-        ".\r\n\r\nIf Windows does not start with the new one, start the computer at the command prompt and "
-        "type:\r\n\r\n" +
-        CommandsToEnter(settings_.WindowsFolder()) + "\r\nattrib -r system.ini\r\ncopy /y " + kept_name +
-        " system.ini";
+    text += base::Concat({" The old file is now ", kept_name, kHowToGoBack,
+                          CommandsToEnter(settings_.WindowsFolder()), "\r\nattrib -r system.ini\r\ncopy /y ",
+                          kept_name, " system.ini"});
   }
   if (entry_list_.ChooseOwnTemplate()) {
     text +=
@@ -88,8 +89,8 @@ void WholeFile::ReportRestore(const std::string& kept_name) {
 void WholeFile::ReportFailedRestore(const Replacement& replacement) {
   const std::string text =
       replacement.outcome == Replacement::Outcome::kRenamed
-          ? "system.ini could not be replaced, and is now called " + replacement.kept_name +
-                ". Rename it to system.ini before you restart: Windows cannot start without it."
+          ? base::Concat({"system.ini could not be replaced, and is now called ", replacement.kept_name,
+                          ". Rename it to system.ini before you restart: Windows cannot start without it."})
           : "system.ini could not be replaced, and has not been changed.\r\n\r\n"
             "Please make sure that it is not write-protected, that no other program has it open and that the "
             "disk is not full, and try again.";

@@ -2,6 +2,7 @@
 // event, and the event handler stores a setting or starts a timer from what the controls show at that moment.
 #include "app/form1.h"
 #include "app/version.h"
+#include "base/concat.h"
 #include "base/numbers.h"
 
 namespace qdix::app {
@@ -57,8 +58,8 @@ base::Status Form1::Form_Load() {
 }
 
 void Form1::ShowVersion() {
-  about_.lblVersion.SetCaption("v" + base::TextOf(kMajorVersion) + "." + base::TextOf(kMinorVersion) +
-                               base::TextOf(kRevision));
+  about_.lblVersion.SetCaption(base::Concat(
+      {"v", base::TextOf(kMajorVersion), ".", base::TextOf(kMinorVersion), base::TextOf(kRevision)}));
 }
 
 void Form1::RunFirstTimeSteps() {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/concat.h"
 #include "base/numbers.h"
 
 namespace qdix::base {
@@ -33,14 +34,14 @@ constexpr std::array<Description, 11> kDescriptions{{
 
 std::string RuntimeError::Description() const {
   if (number == NoSuchElement(element).number)
-    return "Control array element '" + TextOf(element) + "' doesn't exist";
+    return Concat({"Control array element '", TextOf(element), "' doesn't exist"});
   const auto* found = std::find_if(kDescriptions.begin(), kDescriptions.end(),
                                    [this](const auto& entry) { return entry.number == number; });
   return found == kDescriptions.end() ? "Application-defined error" : std::string(found->text);
 }
 
 std::string UntrappedErrorText(const RuntimeError& error) {
-  return "Run-time error '" + TextOf(error.number) + "':\r\n\r\n" + error.Description();
+  return Concat({"Run-time error '", TextOf(error.number), "':\r\n\r\n", error.Description()});
 }
 
 }  // namespace qdix::base

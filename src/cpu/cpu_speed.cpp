@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/concat.h"
 #include "base/numbers.h"
 #include "base/text.h"
 
@@ -26,10 +27,11 @@ void CpuSpeed::CPUSPEED() {
   information_.GetProcessor(vendor, description, signature);
   const std::int32_t mhz = base::ToInt32(base::ParseLeadingNumber(Text(speed))).ValueOr(0);
   if (mhz != 0) {
-    screen_.lblCPU.SetCaption("CPU : " + std::string(Text(description)) + "  " + base::TextOf(mhz) + " MHz");
+    screen_.lblCPU.SetCaption(base::Concat({"CPU : ", Text(description), "  ", base::TextOf(mhz), " MHz"}));
     return;
   }
-  screen_.lblCPU.SetCaption("CPU Speed : " + base::TextOf(information_.cpunormspeed(0)) + " MHz");
+  screen_.lblCPU.SetCaption(
+      base::Concat({"CPU Speed : ", base::TextOf(information_.cpunormspeed(0)), " MHz"}));
   if (information_.cpunormspeed(0) == 0) screen_.lblCPU.SetCaption("");
 }
 

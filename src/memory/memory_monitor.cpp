@@ -1,5 +1,6 @@
 #include "memory/memory_monitor.h"
 
+#include "base/concat.h"
 #include "base/numbers.h"
 #include "base/text.h"
 
@@ -36,10 +37,10 @@ base::Status MemoryMonitor::SetTotalRamMb() {
 }
 
 void MemoryMonitor::ShowTotals() {
-  screen_.lblTotalMem.SetCaption("Total Physical Memory:  " + base::FormatThousands(TotalRAM() * 1000) +
-                                 " KB");
+  screen_.lblTotalMem.SetCaption(
+      base::Concat({"Total Physical Memory:  ", base::FormatThousands(TotalRAM() * 1000), " KB"}));
   screen_.lblSwapfile.SetCaption(
-      "Virtual Memory (Swapfile) :  " + base::FormatThousands(TotalSwapFile() * 1000) + " MB");
+      base::Concat({"Virtual Memory (Swapfile) :  ", base::FormatThousands(TotalSwapFile() * 1000), " MB"}));
 }
 
 double MemoryMonitor::MemStatus() {

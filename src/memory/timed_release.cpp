@@ -3,6 +3,7 @@
 #include <array>
 #include <span>
 
+#include "base/concat.h"
 #include "base/numbers.h"
 #include "memory/amount_lists.h"
 
@@ -86,8 +87,8 @@ std::int32_t TimedRelease::IntervalMinutes() const {
 }
 
 void TimedRelease::UpdateNextRelease() {
-  screen_.lblNextRelease.SetCaption("Next Release of RAM is due in " +
-                                    base::TextOf(IntervalMinutes() - timed_minute_count_) + " minutes");
+  screen_.lblNextRelease.SetCaption(base::Concat(
+      {"Next Release of RAM is due in ", base::TextOf(IntervalMinutes() - timed_minute_count_), " minutes"}));
 }
 
 base::Status TimedRelease::Timer4_Timer() {

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/concat.h"
 #include "base/numbers.h"
 #include "base/text.h"
 
@@ -125,7 +126,8 @@ void DriveInfo::AddDrive(ui::ListControl& list, const std::string& root) {
     list.AddItem(root);
     return;
   }
-  list.AddItem(root + " " + base::ShortestText(base::WholePart(FreeMegabytes(info))) + "MB Free");
+  list.AddItem(
+      base::Concat({root, " ", base::ShortestText(base::WholePart(FreeMegabytes(info))), "MB Free"}));
 }
 
 }  // namespace qdix::tuning
