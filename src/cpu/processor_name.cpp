@@ -1,8 +1,10 @@
 #include "cpu/processor_name.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
+#include "base/concat.h"
 #include "base/numbers.h"
 #include "base/text.h"
 
@@ -20,17 +22,30 @@ constexpr std::uint32_t kTimeStampCounterBit = 1U << 4U;
 constexpr std::uint32_t kExtendedFamily = 15;
 constexpr std::uint32_t kPentiumProFamily = 6;
 
-constexpr std::string_view kIntel = "GenuineIntel";
-constexpr std::string_view kAmd = "AuthenticAMD";
-constexpr std::string_view kCyrix = "CyrixInstead";
-constexpr std::string_view kCentaur = "CentaurHauls";
+enum class Maker : std::uint8_t {
+  kIntel,
+  kAmd,
+  kCyrix,
+  kCentaur,
+  kNexGen,
+  kUmc,
+  kRise,
+  kTransmeta,
+  kSis,
+};
 
-/// The makers: their twelve-character vendor strings and their common names.
-constexpr std::array<std::array<std::string_view, 2>, 9> kMakers{{
-    {kIntel, "Intel"},
-    {kAmd, "AMD"},
-    {kCyrix, "Cyrix"},
-    {kCentaur, "IDT"},
+struct MakerNames {
+  /// What the processor reports, twelve characters.
+  const char* vendor;
+  const char* common;
+};
+
+/// In the order of Maker.
+constexpr std::array<MakerNames, 9> kMakers{{
+    {"GenuineIntel", "Intel"},
+    {"AuthenticAMD", "AMD"},
+    {"CyrixInstead", "Cyrix"},
+    {"CentaurHauls", "IDT"},
     {"NexGenDriven", "NexGen"},
     {"UMC UMC UMC ", "UMC"},
     {"RiseRiseRise", "Rise"},
@@ -39,66 +54,69 @@ constexpr std::array<std::array<std::string_view, 2>, 9> kMakers{{
 }};
 
 struct Model {
-  std::string_view vendor;
-  std::uint32_t family;
+  Maker maker;
+  std::uint8_t family;
   /// Range of models, inclusive.
-  std::uint32_t first;
-  std::uint32_t last;
-  std::string_view name;
+  std::uint8_t first;
+  std::uint8_t last;
+  const char* name;
 };
+
+constexpr char kPentium3[] = "Intel Pentium III";
+constexpr char kCeleron[] = "Intel Celeron";
 
 /// From the makers' identification tables. A processor that reports its own name needs no row.
 constexpr Model kModels[] = {
-    {kIntel, 4, 0, 1, "Intel 486DX"},
-    {kIntel, 4, 2, 2, "Intel 486SX"},
-    {kIntel, 4, 3, 3, "Intel 486DX2"},
-    {kIntel, 4, 4, 4, "Intel 486SL"},
-    {kIntel, 4, 5, 5, "Intel 486SX2"},
-    {kIntel, 4, 7, 7, "Intel 486DX2"},
-    {kIntel, 4, 8, 9, "Intel 486DX4"},
-    {kIntel, 5, 0, 3, "Intel Pentium"},
-    {kIntel, 5, 4, 4, "Intel Pentium MMX"},
-    {kIntel, 5, 7, 7, "Intel Pentium"},
-    {kIntel, 5, 8, 8, "Intel Pentium MMX"},
-    {kIntel, 6, 0, 1, "Intel Pentium Pro"},
-    {kIntel, 6, 3, 5, "Intel Pentium II"},
-    {kIntel, 6, 6, 6, "Intel Celeron"},
-    {kIntel, 6, 7, 8, "Intel Pentium III"},
-    {kIntel, 6, 9, 9, "Intel Pentium M"},
-    {kIntel, 6, 10, 11, "Intel Pentium III"},
-    {kIntel, 6, 13, 13, "Intel Pentium M"},
-    {kIntel, 15, 0, 6, "Intel Pentium 4"},
-    {kAmd, 4, 3, 3, "AMD Am486DX2"},
-    {kAmd, 4, 7, 7, "AMD Am486DX2"},
-    {kAmd, 4, 8, 9, "AMD Am486DX4"},
-    {kAmd, 4, 14, 15, "AMD Am5x86"},
-    {kAmd, 5, 0, 3, "AMD K5"},
-    {kAmd, 5, 6, 7, "AMD K6"},
-    {kAmd, 5, 8, 8, "AMD K6-2"},
-    {kAmd, 5, 9, 9, "AMD K6-III"},
-    {kAmd, 5, 13, 13, "AMD K6-2+"},
-    {kAmd, 6, 1, 2, "AMD Athlon"},
-    {kAmd, 6, 3, 3, "AMD Duron"},
-    {kAmd, 6, 4, 4, "AMD Athlon"},
-    {kAmd, 6, 6, 6, "AMD Athlon XP"},
-    {kAmd, 6, 7, 7, "AMD Duron"},
-    {kAmd, 6, 8, 10, "AMD Athlon XP"},
-    {kCyrix, 4, 4, 4, "Cyrix MediaGX"},
-    {kCyrix, 4, 9, 9, "Cyrix 5x86"},
-    {kCyrix, 5, 2, 2, "Cyrix 6x86"},
-    {kCyrix, 5, 4, 4, "Cyrix MediaGX MMX"},
-    {kCyrix, 6, 0, 0, "Cyrix 6x86MX"},
-    {kCyrix, 6, 5, 5, "VIA Cyrix III"},
-    {kCentaur, 5, 4, 4, "IDT WinChip"},
-    {kCentaur, 5, 8, 8, "IDT WinChip 2"},
-    {kCentaur, 5, 9, 9, "IDT WinChip 3"},
-    {kCentaur, 6, 6, 9, "VIA C3"},
-    {"NexGenDriven", 5, 0, 0, "NexGen Nx586"},
-    {"UMC UMC UMC ", 4, 1, 1, "UMC U5D"},
-    {"UMC UMC UMC ", 4, 2, 2, "UMC U5S"},
-    {"RiseRiseRise", 5, 0, 15, "Rise mP6"},
-    {"GenuineTMx86", 5, 4, 4, "Transmeta Crusoe"},
-    {"SiS SiS SiS ", 5, 0, 0, "SiS 55x"},
+    {Maker::kIntel, 4, 0, 1, "Intel 486DX"},
+    {Maker::kIntel, 4, 2, 2, "Intel 486SX"},
+    {Maker::kIntel, 4, 3, 3, "Intel 486DX2"},
+    {Maker::kIntel, 4, 4, 4, "Intel 486SL"},
+    {Maker::kIntel, 4, 5, 5, "Intel 486SX2"},
+    {Maker::kIntel, 4, 7, 7, "Intel 486DX2"},
+    {Maker::kIntel, 4, 8, 9, "Intel 486DX4"},
+    {Maker::kIntel, 5, 0, 3, "Intel Pentium"},
+    {Maker::kIntel, 5, 4, 4, "Intel Pentium MMX"},
+    {Maker::kIntel, 5, 7, 7, "Intel Pentium"},
+    {Maker::kIntel, 5, 8, 8, "Intel Pentium MMX"},
+    {Maker::kIntel, 6, 0, 1, "Intel Pentium Pro"},
+    {Maker::kIntel, 6, 3, 5, "Intel Pentium II"},
+    {Maker::kIntel, 6, 6, 6, kCeleron},
+    {Maker::kIntel, 6, 7, 8, kPentium3},
+    {Maker::kIntel, 6, 9, 9, "Intel Pentium M"},
+    {Maker::kIntel, 6, 10, 11, kPentium3},
+    {Maker::kIntel, 6, 13, 13, "Intel Pentium M"},
+    {Maker::kIntel, 15, 0, 6, "Intel Pentium 4"},
+    {Maker::kAmd, 4, 3, 3, "AMD Am486DX2"},
+    {Maker::kAmd, 4, 7, 7, "AMD Am486DX2"},
+    {Maker::kAmd, 4, 8, 9, "AMD Am486DX4"},
+    {Maker::kAmd, 4, 14, 15, "AMD Am5x86"},
+    {Maker::kAmd, 5, 0, 3, "AMD K5"},
+    {Maker::kAmd, 5, 6, 7, "AMD K6"},
+    {Maker::kAmd, 5, 8, 8, "AMD K6-2"},
+    {Maker::kAmd, 5, 9, 9, "AMD K6-III"},
+    {Maker::kAmd, 5, 13, 13, "AMD K6-2+"},
+    {Maker::kAmd, 6, 1, 2, "AMD Athlon"},
+    {Maker::kAmd, 6, 3, 3, "AMD Duron"},
+    {Maker::kAmd, 6, 4, 4, "AMD Athlon"},
+    {Maker::kAmd, 6, 6, 6, "AMD Athlon XP"},
+    {Maker::kAmd, 6, 7, 7, "AMD Duron"},
+    {Maker::kAmd, 6, 8, 10, "AMD Athlon XP"},
+    {Maker::kCyrix, 4, 4, 4, "Cyrix MediaGX"},
+    {Maker::kCyrix, 4, 9, 9, "Cyrix 5x86"},
+    {Maker::kCyrix, 5, 2, 2, "Cyrix 6x86"},
+    {Maker::kCyrix, 5, 4, 4, "Cyrix MediaGX MMX"},
+    {Maker::kCyrix, 6, 0, 0, "Cyrix 6x86MX"},
+    {Maker::kCyrix, 6, 5, 5, "VIA Cyrix III"},
+    {Maker::kCentaur, 5, 4, 4, "IDT WinChip"},
+    {Maker::kCentaur, 5, 8, 8, "IDT WinChip 2"},
+    {Maker::kCentaur, 5, 9, 9, "IDT WinChip 3"},
+    {Maker::kCentaur, 6, 6, 9, "VIA C3"},
+    {Maker::kNexGen, 5, 0, 0, "NexGen Nx586"},
+    {Maker::kUmc, 4, 1, 1, "UMC U5D"},
+    {Maker::kUmc, 4, 2, 2, "UMC U5S"},
+    {Maker::kRise, 5, 0, 15, "Rise mP6"},
+    {Maker::kTransmeta, 5, 4, 4, "Transmeta Crusoe"},
+    {Maker::kSis, 5, 0, 0, "SiS 55x"},
 };
 
 /// Brand index that marks a Celeron among the models of the Pentium III.
@@ -112,6 +130,10 @@ void AppendCharacters(std::string& text, std::uint32_t four_characters) {
 
 std::uint32_t Bits(std::uint32_t value, unsigned lowest, unsigned count) {
   return (value >> lowest) & ((1U << count) - 1U);
+}
+
+std::string TextOf(std::uint32_t small_number) {
+  return base::TextOf(static_cast<std::int32_t>(small_number));
 }
 
 std::string CollapseSpaces(std::string_view text) {
@@ -135,11 +157,12 @@ std::string ReadBrandText(os::Processor& processor) {
   return CollapseSpaces(base::CutAtNul(text));
 }
 
-std::string_view MakerOf(std::string_view vendor) {
-  for (const auto& [characters, name] : kMakers) {
-    if (characters == vendor) return name;
+const char* NameOfModel(Maker maker, const ProcessorIdentity& identity) {
+  for (const Model& model : kModels) {
+    if (model.maker != maker || model.family != identity.family) continue;
+    if (identity.model >= model.first && identity.model <= model.last) return model.name;
   }
-  return base::Trim(vendor);
+  return nullptr;
 }
 
 }  // namespace
@@ -170,25 +193,24 @@ ProcessorIdentity Identify(os::Processor& processor) {
 std::string NameOf(const ProcessorIdentity& identity) {
   if (!identity.brand_text.empty()) return identity.brand_text;
   if (identity.vendor.empty()) return identity.generation <= 3 ? "386" : "486";
-  for (const Model& model : kModels) {
-    if (model.vendor != identity.vendor || model.family != identity.family) continue;
-    if (identity.model < model.first || identity.model > model.last) continue;
-    const bool is_celeron = model.name == "Intel Pentium III" && identity.brand_index == kCeleronBrand;
-    return std::string(is_celeron ? "Intel Celeron" : model.name);
+  std::string_view name = base::Trim(identity.vendor);
+  const auto* const maker =
+      std::find_if(kMakers.begin(), kMakers.end(),
+                   [&identity](const MakerNames& names) { return identity.vendor == names.vendor; });
+  if (maker != kMakers.end()) {
+    const char* const model = NameOfModel(static_cast<Maker>(maker - kMakers.begin()), identity);
+    if (model == kPentium3 && identity.brand_index == kCeleronBrand) return kCeleron;
+    if (model != nullptr) return model;
+    name = maker->common;
   }
-  std::string name(MakerOf(identity.vendor));
-  if (identity.family != 0) {
-    name += " family " + base::TextOf(static_cast<std::int32_t>(identity.family)) + " model " +
-            base::TextOf(static_cast<std::int32_t>(identity.model));
-  }
-  return name;
+  if (identity.family == 0) return std::string(name);
+  return base::Concat({name, " family ", TextOf(identity.family), " model ", TextOf(identity.model)});
 }
 
 std::string SignatureOf(const ProcessorIdentity& identity) {
   if (identity.family == 0) return {};
-  return "Family " + base::TextOf(static_cast<std::int32_t>(identity.family)) + " Model " +
-         base::TextOf(static_cast<std::int32_t>(identity.model)) + " Stepping " +
-         base::TextOf(static_cast<std::int32_t>(identity.stepping));
+  return base::Concat({"Family ", TextOf(identity.family), " Model ", TextOf(identity.model), " Stepping ",
+                       TextOf(identity.stepping)});
 }
 
 }  // namespace qdix::cpu

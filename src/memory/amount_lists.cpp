@@ -44,7 +44,7 @@ double DefaultThreshold(double total_ram_mb) {
     double below_mb;
     double threshold_mb;
   };
-  constexpr std::array<Step, 4> kSteps{{{33, 1}, {66, 2}, {98, 4}, {132, 6}}};
+  static constexpr std::array<Step, 4> kSteps{{{33, 1}, {66, 2}, {98, 4}, {132, 6}}};
   constexpr double kLargestThreshold = 8;
 
   const double total_mb = base::WholePart(total_ram_mb);

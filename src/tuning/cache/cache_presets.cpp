@@ -13,24 +13,24 @@ namespace {
 constexpr double kSmallBelowMb = 33;
 constexpr double kStepKb = 512;
 
-constexpr CacheSize Kb(std::int32_t size_kb) { return {.fixed_kb = size_kb, .share = 0}; }
-constexpr CacheSize Share(double share) { return {.fixed_kb = 0, .share = share}; }
+constexpr CacheSize Kb(std::int16_t size_kb) { return {.fixed_kb = size_kb, .share_percent = 0}; }
+constexpr CacheSize Share(std::uint8_t percent) { return {.fixed_kb = 0, .share_percent = percent}; }
 
 /// Name; minimum on small machines, otherwise, enabled; maximum on small machines, otherwise; chunk; name
 /// cache; directory cache.
 constexpr std::array<CachePreset, 12> kPresets{{
-    {"Standard System (Win95)", Kb(512), Kb(512), false, Share(0.25), Share(0.25), 512, 2048, 64},
-    {"Standard System (Win98/ME)", Kb(512), Kb(512), false, Share(0.31), Share(0.31), 1024, 2048, 64},
-    {"Power User (Win95)", Kb(512), Kb(512), false, Share(0.25), Share(0.25), 512, 4096, 96},
-    {"Power User (Win98/ME)", Kb(512), Kb(512), false, Share(0.25), Share(0.25), 2048, 4096, 96},
-    {"Multimedia (Win95)", Kb(1024), Share(0.12), true, Share(0.19), Share(0.25), 4096, 6144, 128},
-    {"Multimedia (Win98/ME)", Kb(1024), Share(0.06), true, Share(0.19), Share(0.19), 4096, 6144, 128},
-    {"3D Games (Win95)", Kb(512), Kb(512), false, Share(0.13), Share(0.1), 4096, 2048, 48},
-    {"3D Games (Win98/ME)", Kb(512), Kb(512), false, Share(0.13), Share(0.12), 1024, 2048, 48},
-    {"CD Writer (Win95)", Kb(1024), Share(0.19), true, Kb(1024), Share(0.19), 2048, 6144, 128},
-    {"CD Writer (Win98/ME)", Kb(1024), Share(0.19), true, Kb(1024), Share(0.19), 512, 6144, 128},
-    {"Low Memory System (Win95)", Kb(512), Kb(512), false, Share(0.19), Share(0.12), 512, 337, 16},
-    {"Low Memory System (Win98/ME)", Kb(512), Kb(512), false, Share(0.19), Share(0.09), 512, 337, 16},
+    {"Standard System (Win95)", Kb(512), Kb(512), false, Share(25), Share(25), 512, 2048, 64},
+    {"Standard System (Win98/ME)", Kb(512), Kb(512), false, Share(31), Share(31), 1024, 2048, 64},
+    {"Power User (Win95)", Kb(512), Kb(512), false, Share(25), Share(25), 512, 4096, 96},
+    {"Power User (Win98/ME)", Kb(512), Kb(512), false, Share(25), Share(25), 2048, 4096, 96},
+    {"Multimedia (Win95)", Kb(1024), Share(12), true, Share(19), Share(25), 4096, 6144, 128},
+    {"Multimedia (Win98/ME)", Kb(1024), Share(6), true, Share(19), Share(19), 4096, 6144, 128},
+    {"3D Games (Win95)", Kb(512), Kb(512), false, Share(13), Share(10), 4096, 2048, 48},
+    {"3D Games (Win98/ME)", Kb(512), Kb(512), false, Share(13), Share(12), 1024, 2048, 48},
+    {"CD Writer (Win95)", Kb(1024), Share(19), true, Kb(1024), Share(19), 2048, 6144, 128},
+    {"CD Writer (Win98/ME)", Kb(1024), Share(19), true, Kb(1024), Share(19), 512, 6144, 128},
+    {"Low Memory System (Win95)", Kb(512), Kb(512), false, Share(19), Share(12), 512, 337, 16},
+    {"Low Memory System (Win98/ME)", Kb(512), Kb(512), false, Share(19), Share(9), 512, 337, 16},
 }};
 
 /// What recognition does with a preset whose fixed settings match but whose shares do not.
@@ -80,7 +80,8 @@ base::Result<std::int32_t> GetVCACHEValue(std::int32_t size_kb) {
 
 base::Result<std::int32_t> CacheSize::For(double total_ram_mb) const {
   if (fixed_kb != 0) return fixed_kb;
-  const base::Result<std::int32_t> size_kb = base::ToInt32(base::WholePart(total_ram_mb * kStepKb * share));
+  const base::Result<std::int32_t> size_kb =
+      base::ToInt32(base::WholePart(total_ram_mb * kStepKb * (share_percent / 100.0)));
   return size_kb.Ok() ? GetVCACHEValue(size_kb.Value()) : size_kb;
 }
 

@@ -26,9 +26,9 @@ struct CacheValues {
 /// A size of the cache: fixed, or a share of the memory.
 struct CacheSize {
   /// 0 if the size is a share.
-  std::int32_t fixed_kb = 0;
-  /// Multiplied by 512 KB for each megabyte of memory.
-  double share = 0;
+  std::int16_t fixed_kb = 0;
+  /// Of 512 KB for each megabyte of memory.
+  std::uint8_t share_percent = 0;
 
   /// Returns the size in KB; error 6 if a share does not fit 32 bits. `total_ram_mb` is in megabytes of
   /// 1,024,000 bytes.
@@ -43,9 +43,9 @@ struct CachePreset {
   bool min_enabled;
   CacheSize small_max;
   CacheSize max;
-  std::int32_t chunk_kb;
-  std::int32_t name_cache;
-  std::int32_t directory_cache;
+  std::int16_t chunk_kb;
+  std::int16_t name_cache;
+  std::int16_t directory_cache;
 
   /// True if the minimum does not depend on the memory.
   [[nodiscard]] bool HasFixedMinimum() const;
