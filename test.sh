@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Sets up what is missing, builds everything and runs all tests. Arguments go to ctest: ./test.sh -R unit builds only
-# the trees that have such tests, and runs these. The last output is ctest's summary.
+# what such tests run, and runs these. The last output is ctest's summary.
 # The tests of Windows programs run on a private screen with a Windows 98 desktop.
 set -euo pipefail
 
@@ -8,25 +8,24 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 # In the order of their need for each other: the tests under Wine run what win9x has built.
 readonly all_trees=(host-sanitize win9x win9x-tests)
 
-# has_tests TREE [ARGUMENT...]: true if ctest finds a test in that tree for these arguments.
-has_tests() {
-  local found
-  found=$(ctest --test-dir "build/$1" -N "${@:2}")
-  [[ "$found" != *"Total Tests: 0"* ]]
-}
-
-# Fills `trees` with those that the tests need which the arguments choose.
+# Fills `trees` with those that the tests need which the arguments choose, and `targets` with what to build in each.
 choose_trees() {
   local tree
   for tree in "${all_trees[@]}"; do
     tools/setup/build.sh --configure "$tree"
+    targets[$tree]=$(tools/setup/test_targets.py "build/$tree" "$@")
   done
+  if [ -n "${targets[win9x-tests]}" ]; then targets[win9x]=all; fi
+  # A random test has no name before its program is built.
+  if [ -z "${targets[host-sanitize]}${targets[win9x]}" ]; then targets[host-sanitize]=all; fi
   trees=()
-  if has_tests host-sanitize "$@"; then trees+=(host-sanitize); fi
-  if has_tests win9x "$@" || has_tests win9x-tests "$@"; then trees+=(win9x); fi
-  if has_tests win9x-tests "$@"; then trees+=(win9x-tests); fi
+  for tree in "${all_trees[@]}"; do
+    if [ -n "${targets[$tree]}" ]; then trees+=("$tree"); fi
+  done
 }
 
+declare -A targets
+for tree in "${all_trees[@]}"; do targets[$tree]=all; done
 tools/setup/packages.sh
 trees=("${all_trees[@]}")
 if (($# > 0)); then choose_trees "$@"; fi
@@ -36,7 +35,8 @@ if [[ " ${trees[*]} " == *" win9x-tests "* ]]; then
   desktop=(tools/desktop/desktop.sh run)
 fi
 for tree in "${trees[@]}"; do
-  tools/setup/build.sh "$tree"
+  read -ra chosen <<<"${targets[$tree]}"
+  tools/setup/build.sh "$tree" "${chosen[@]}"
 done
 if ((${#desktop[@]} > 0)); then tools/wine/prefix.sh; fi
 

@@ -53,7 +53,7 @@ function(qdix_test name)
       set(test_name ${prefix}.shard_${shard})
       add_test(NAME ${test_name}
         COMMAND ${name} --gtest_brief=1 --gtest_output=xml:${CMAKE_BINARY_DIR}/reports/${test_name}.xml)
-      set_tests_properties(${test_name} PROPERTIES
+      set_tests_properties(${test_name} PROPERTIES REQUIRED_FILES $<TARGET_FILE:${name}>
         ENVIRONMENT "GTEST_TOTAL_SHARDS=${test_SHARDS};GTEST_SHARD_INDEX=${shard}" TIMEOUT ${shard_limit_s})
     endforeach()
   else()
@@ -158,6 +158,7 @@ else()
   add_executable(runtime_probe tests/image/runtime_probe.cpp tests/image/runtime_probe_host.cpp)
   target_link_libraries(runtime_probe PRIVATE qdix_warnings qdix_program)
   add_test(NAME image.runtime_probe_on_host COMMAND runtime_probe)
+  add_test(NAME setup.test_targets COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tests/setup/test_targets_test.py)
   include(cmake/lint.cmake)
 endif()
 include(cmake/small_machine.cmake)

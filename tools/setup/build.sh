@@ -30,8 +30,17 @@ step() {
   return 1
 }
 
+# Configures what has changed. Ninja knows every file and folder that a configured build depends on, except the presets.
+configure() {
+  if [ "build/$preset/build.ninja" -nt CMakePresets.json ]; then
+    step cmake --build --preset "$preset" --target build.ninja
+  else
+    step cmake --preset "$preset"
+  fi
+}
+
 : >"$log"
-step cmake --preset "$preset"
+configure
 if "$configures_only"; then exit 0; fi
 echo "build: $preset${*:+ ($*)}"
 step cmake --build --preset "$preset" "${targets[@]}"
