@@ -19,6 +19,12 @@ include(cmake/packed_topics.cmake)
 add_library(qdix_simulated STATIC ${simulated_sources})
 target_link_libraries(qdix_simulated PRIVATE qdix_warnings PUBLIC qdix_program)
 
+# The whole program on a simulated machine, for tests.
+file(GLOB rig_sources CONFIGURE_DEPENDS tests/support/*.cpp)
+add_library(qdix_rig STATIC ${rig_sources})
+target_include_directories(qdix_rig PUBLIC ${CMAKE_SOURCE_DIR})
+target_link_libraries(qdix_rig PRIVATE qdix_warnings PUBLIC qdix_simulated)
+
 # Long enough for a busy machine on which Wine runs in an emulator.
 set(wine_limit_s 3000)
 # A hundred times what a shard needs on an idle machine.
@@ -62,7 +68,7 @@ function(qdix_test name)
 endfunction()
 
 file(GLOB_RECURSE unit_sources CONFIGURE_DEPENDS tests/unit/*.cpp)
-qdix_test(unit_tests SHARDS 8 SOURCES ${unit_sources} LIBRARIES qdix_simulated ${companion_libraries})
+qdix_test(unit_tests SHARDS 8 SOURCES ${unit_sources} LIBRARIES qdix_rig ${companion_libraries})
 add_dependencies(unit_tests qdix_packed_topics)
 # The help topics as generated and as packed; the paths are those of the system that runs the tests.
 set(host_drive "")
@@ -111,7 +117,7 @@ if(WIN32)
     # breaks it is noticed.
     file(GLOB bench_sources CONFIGURE_DEPENDS bench/*.cpp)
     add_executable(qdix_bench ${bench_sources})
-    target_link_libraries(qdix_bench PRIVATE qdix_warnings e2e_driver ${precision_object})
+    target_link_libraries(qdix_bench PRIVATE qdix_warnings qdix_rig e2e_driver ${precision_object})
     target_link_options(qdix_bench PRIVATE -static)
 
     # Each group runs on a strict machine (tests/strict95), in a prefix and on a desktop of its own, beside other tests.
@@ -149,10 +155,10 @@ else()
   list(FILTER contract_sources EXCLUDE REGEX "/win32/")
   qdix_test(contract_tests SHARDS 1 SOURCES ${contract_sources} LIBRARIES qdix_simulated)
   file(GLOB fuzz_sources CONFIGURE_DEPENDS tests/fuzz/*.cpp)
-  qdix_test(fuzz_tests SOURCES ${fuzz_sources} LIBRARIES qdix_simulated ${companion_libraries})
+  qdix_test(fuzz_tests SOURCES ${fuzz_sources} LIBRARIES qdix_rig ${companion_libraries})
   target_compile_definitions(fuzz_tests PRIVATE QDIX_CORPUS="${CMAKE_SOURCE_DIR}/tests/fuzz/corpus")
   file(GLOB soak_sources CONFIGURE_DEPENDS tests/soak/*.cpp)
-  qdix_test(soak_tests SOURCES ${soak_sources} LIBRARIES qdix_simulated)
+  qdix_test(soak_tests SOURCES ${soak_sources} LIBRARIES qdix_rig)
 
   # The self-test of the shipped programs' runtime, with this machine's C library.
   add_executable(runtime_probe tests/image/runtime_probe.cpp tests/image/runtime_probe_host.cpp)

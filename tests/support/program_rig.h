@@ -25,61 +25,34 @@ class ProgramRig {
  public:
   /// Makes a machine with this much memory, half of it available, and a swap file of the same size, a quarter
   /// of it used.
-  explicit ProgramRig(std::uint32_t ram_bytes = 64 * kMegabyte) {
-    machine.SetMemory(ram_bytes, ram_bytes / 2, ram_bytes, ram_bytes / 4 * 3);
-    machine.SetNow(kNoon21November2026);
-    machine.AddProgram("C:\\Program Files\\QDIX\\help.exe");
-  }
+  explicit ProgramRig(std::uint32_t ram_bytes = 64 * kMegabyte);
+  ProgramRig(const ProgramRig&) = delete;
+  ProgramRig& operator=(const ProgramRig&) = delete;
+  ~ProgramRig();
 
   /// Stores a setting as an earlier run would have left it.
-  void Store(const char* section, const char* key, const std::string& text) {
-    machine.SetRegistryValue(os::kHkeyCurrentUser, SectionPath(section), key, text);
-  }
-  [[nodiscard]] std::optional<std::string> Stored(const char* section, const char* key) const {
-    return machine.RegistryText(os::kHkeyCurrentUser, SectionPath(section), key);
-  }
-  [[nodiscard]] static std::string SectionPath(const char* section) {
-    return std::string("Software\\VB and VBA Program Settings\\QDIX\\") + section;
-  }
+  void Store(const char* section, const char* key, const std::string& text);
+  [[nodiscard]] std::optional<std::string> Stored(const char* section, const char* key) const;
+  [[nodiscard]] static std::string SectionPath(const char* section);
 
   /// Marks the machine as one that has run the program before.
-  void SetHasRunBefore() { machine.SetRegistryValue(os::kHkeyLocalMachine, "SOFTWARE\\QDIX", "HasRun", "1"); }
+  void SetHasRunBefore();
 
   /// Creates the program and loads it.
-  app::Form1& Start() {
-    Create();
-    program->Start();
-    return *program;
-  }
+  app::Form1& Start();
   /// Creates the program without loading it.
-  app::Form1& Create() {
-    program.emplace(machine.GetSystem());
-    for (ui::Timer* timer : program->Timers()) timers.Add(*timer);
-    program->QuondixScreen().XGraphMeter1.SurfaceChanged(&graph);
-    return *program;
-  }
+  app::Form1& Create();
 
   /// Advances the timers but not the machine's clock.
-  void AdvanceMs(std::int64_t ms) { timers.AdvanceMs(ms); }
+  void AdvanceMs(std::int64_t ms);
 
   /// Leaves this much memory available, in megabytes as the program shows them (1,024,000 bytes).
-  void SetAvailableMb(double mb) {
-    const os::MemoryStatus status = machine.GetSystem().memory.GlobalMemoryStatus();
-    machine.SetMemory(status.total_physical, static_cast<std::uint32_t>(mb * 1024000), status.total_page_file,
-                      status.available_page_file);
-  }
+  void SetAvailableMb(double mb);
   /// Stops drawing the graph: moving pixels takes most of the time of a long run.
-  void RemoveGraph() { program->QuondixScreen().XGraphMeter1.SurfaceChanged(nullptr); }
+  void RemoveGraph();
 
   /// Returns the newest bar of the CPU graph, in pixels from the bottom.
-  [[nodiscard]] int NewestBarPx() const {
-    int height = 0;
-    while (height < graph.Height() &&
-           graph.At(graph.Width() - 1, graph.Height() - 1 - height) == kBarColour) {
-      ++height;
-    }
-    return height;
-  }
+  [[nodiscard]] int NewestBarPx() const;
 
   os::SimulatedMachine machine;
   SteppedTimers timers;

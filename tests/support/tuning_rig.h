@@ -27,68 +27,25 @@ class TuningRig : public ProgramRig {
  public:
   /// Makes a machine with this much memory, in megabytes of 1,024,000 bytes. It has run the program before,
   /// and has the key of the templates and one fixed drive of 4,000 MB, 2,000 of them free.
-  explicit TuningRig(double ram_mb = 64) : ProgramRig(MemoryBytes(ram_mb)) {
-    SetHasRunBefore();
-    machine.SetRegistryValue(os::kHkeyLocalMachine, kTemplatesPath, "", "Desktop");
-    machine.AddDrive('C', {.total_bytes = FreeBytes(4000), .free_bytes = FreeBytes(2000)});
-  }
+  explicit TuningRig(double ram_mb = 64);
 
-  void WriteSystemIni(const std::string& content) { machine.WriteFile(kSystemIniPath, content); }
-  [[nodiscard]] std::string SystemIni() const { return machine.ReadFile(kSystemIniPath).value_or("none"); }
+  void WriteSystemIni(const std::string& content);
+  [[nodiscard]] std::string SystemIni() const;
 
   /// Starts the program and opens a tab.
-  app::Form1& StartAt(screens::Tab tab) {
-    Start();
-    program->MainWindow().SSTab1.ChooseTab(tab);
-    return *program;
-  }
-  void End() {
-    program->Form().Unload();
-    timers = {};
-    machine.EndProcess();
-  }
+  app::Form1& StartAt(screens::Tab tab);
+  void End();
   /// Ends the program and starts it again on the same machine.
-  app::Form1& Restart(screens::Tab tab) {
-    End();
-    return StartAt(tab);
-  }
+  app::Form1& Restart(screens::Tab tab);
 
-  void Answer(const std::vector<int>& answers) {
-    for (const int answer : answers) machine.AnswerNextBox(answer);
-  }
-  [[nodiscard]] std::vector<std::string> BoxTexts() const {
-    std::vector<std::string> texts;
-    for (const auto& box : machine.Boxes()) texts.push_back(box.text);
-    return texts;
-  }
+  void Answer(const std::vector<int>& answers);
+  [[nodiscard]] std::vector<std::string> BoxTexts() const;
 
   /// Returns the recorded calls that change the system, in order, from call number `first_call` on.
-  [[nodiscard]] std::vector<std::string> Changes(std::size_t first_call = 0) const {
-    std::vector<std::string> changes;
-    for (std::size_t i = first_call; i < machine.Calls().size(); ++i) {
-      const std::string& call = machine.Calls()[i];
-      for (const char* name : {"RegSetValueExA", "RegDeleteValueA", "WritePrivateProfileStringA", "CopyFileA",
-                               "ExitWindowsEx"}) {
-        if (call.starts_with(name)) changes.push_back(call);
-      }
-    }
-    return changes;
-  }
+  [[nodiscard]] std::vector<std::string> Changes(std::size_t first_call = 0) const;
 
   /// Returns the type of a value and its bytes in hexadecimal, or "none" if it is missing.
-  [[nodiscard]] std::string ValueBytes(const char* path, const char* name) const {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
-    const auto value = machine.RegistryValue(os::kHkeyLocalMachine, path, name);
-    if (!value) return "none";
-    std::string shown = std::to_string(value->type) + ":";
-    for (const char byte : value->bytes) {
-      const auto number = static_cast<unsigned char>(byte);
-      shown += ' ';
-      shown += kDigits[number >> 4U];
-      shown += kDigits[number & 15U];
-    }
-    return shown;
-  }
+  [[nodiscard]] std::string ValueBytes(const char* path, const char* name) const;
 };
 
 }  // namespace qdix::tests
