@@ -26,11 +26,21 @@ target_compile_options(qdix_shipped INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Oz;-fl
 target_compile_definitions(qdix_shipped INTERFACE QDIX_WITHOUT_NAMES)
 target_link_libraries(qdix_shipped INTERFACE qdix_windows95 qdix_arithmetic)
 
+# qdix_quick_tests is for what the tests run: -O1 nearly halves their time and costs little compile time. The tests
+# themselves stay at -O0, because most of their time is the compiler's.
 add_library(qdix_sanitizers INTERFACE)
+add_library(qdix_quick_tests INTERFACE)
 if(QDIX_SANITIZE)
+  target_compile_options(qdix_quick_tests INTERFACE -O1)
   target_compile_options(qdix_sanitizers INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  target_link_options(qdix_sanitizers INTERFACE -fsanitize=address,undefined)
+  # Without position independence a test program of this size starts in half the time.
+  target_link_options(qdix_sanitizers INTERFACE -fsanitize=address,undefined -no-pie)
+  # Links several times as fast as the default linker.
+  find_program(LLD ld.lld)
+  if(LLD)
+    target_link_options(qdix_sanitizers INTERFACE -fuse-ld=lld)
+  endif()
 endif()
 
 # Measures code coverage. Compiled without exceptions, like the shipped programs: otherwise calls would have extra branches

@@ -17,13 +17,13 @@ include(GoogleTest)
 include(cmake/packed_topics.cmake)
 
 add_library(qdix_simulated STATIC ${simulated_sources})
-target_link_libraries(qdix_simulated PRIVATE qdix_warnings PUBLIC qdix_program)
+target_link_libraries(qdix_simulated PRIVATE qdix_warnings qdix_quick_tests PUBLIC qdix_program)
 
 # The whole program on a simulated machine, for tests.
 file(GLOB rig_sources CONFIGURE_DEPENDS tests/support/*.cpp)
 add_library(qdix_rig STATIC ${rig_sources})
 target_include_directories(qdix_rig PUBLIC ${CMAKE_SOURCE_DIR})
-target_link_libraries(qdix_rig PRIVATE qdix_warnings PUBLIC qdix_simulated)
+target_link_libraries(qdix_rig PRIVATE qdix_warnings qdix_quick_tests PUBLIC qdix_simulated)
 
 # Long enough for a busy machine on which Wine runs in an emulator.
 set(wine_limit_s 3000)

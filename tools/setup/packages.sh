@@ -6,6 +6,8 @@ set -euo pipefail
 readonly packages=(
   # the compiler of this machine, the build and its checks
   g++ cmake ninja-build git python3 clang-format clang-tidy libgtest-dev libgmock-dev googletest
+  # a quick linker for the tests of this machine
+  lld
   # code coverage of the tests
   gcovr
   # the mutation check: parsing sources as the compiler does, and limits on its processes
