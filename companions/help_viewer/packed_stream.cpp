@@ -8,6 +8,8 @@ namespace {
 
 constexpr std::size_t kSizeBytes = 4;
 constexpr unsigned kItemsPerGroup = 8;
+constexpr unsigned kDistanceBits = 13;
+constexpr unsigned kDistanceMask = (1U << kDistanceBits) - 1;
 constexpr std::size_t kShortest = 3;
 
 class Unpacker {
@@ -47,9 +49,10 @@ class Unpacker {
   /// The repetition may include bytes that it writes itself. Damaged data ends the stream.
   void Repeat() {
     const unsigned low = TakeByte();
-    const unsigned high = TakeByte();
-    const std::size_t distance = (low | ((high & 0x0FU) << 8)) + 1;
-    const std::size_t length = std::min<std::size_t>((high >> 4) + kShortest, size_ - stream_.size());
+    const unsigned item = low | (static_cast<unsigned>(TakeByte()) << 8);
+    const std::size_t distance = (item & kDistanceMask) + 1;
+    const std::size_t length =
+        std::min<std::size_t>((item >> kDistanceBits) + kShortest, size_ - stream_.size());
     if (distance > stream_.size()) {
       rest_ = {};
       return;

@@ -11,7 +11,7 @@ inline constexpr std::size_t kMaxStreamBytes = 0x100000;
 
 /// Unpacks a stream: four bytes with its size, lowest byte first, then groups of one byte of flags, lowest
 /// bit first, and eight items. A set bit means a byte of the stream. A clear bit means a repetition in two
-/// bytes: 12 bits of distance minus 1, and above them 4 bits of length minus 3. If the data is damaged, the
+/// bytes: 13 bits of distance minus 1, and above them 3 bits of length minus 3. If the data is damaged, the
 /// stream ends early.
 [[nodiscard]] std::string Unpack(std::string_view packed);
 

@@ -8,9 +8,11 @@ import pathlib
 import struct
 import sys
 
-MAX_DISTANCE = 1 << 12
+# A repetition is 16 bits: its distance, and above it its length. Of all divisions this one packs the manual best.
+DISTANCE_BITS = 13
+MAX_DISTANCE = 1 << DISTANCE_BITS
 SHORTEST = 3
-LONGEST = SHORTEST + 15
+LONGEST = SHORTEST + (1 << 16 - DISTANCE_BITS) - 1
 # Bits of an item including its flag.
 BYTE_COST = 9
 REPETITION_COST = 17
@@ -66,7 +68,7 @@ def pack(data):
                 group.append(item)
             else:
                 length, distance = item
-                group += struct.pack("<H", (length - SHORTEST) << 12 | distance - 1)
+                group += struct.pack("<H", (length - SHORTEST) << DISTANCE_BITS | distance - 1)
         packed.append(flags)
         packed += group
     return bytes(packed)

@@ -20,17 +20,17 @@ TEST(PackedHelp, BytesAreRestored) {
 TEST(PackedHelp, RepetitionsAreCopied) {
   // "abc", three bytes from a distance of three, then six bytes from a distance of one.
   EXPECT_EQ(Unpack("\x0C\0\0\0\x07"
-                   "abc\x02\x00\x00\x30"s),
+                   "abc\x02\x00\x00\x60"s),
             "abcabccccccc");
 }
 
 TEST(PackedHelp, LongestDistanceAndLength) {
   std::string stream;
-  for (int i = 0; i < 4096; ++i) stream += static_cast<char>('a' + i % 23 + i / 1024);
+  for (int i = 0; i < 8192; ++i) stream += static_cast<char>('a' + i % 23 + i / 1024);
   std::string packed = PackPlainly(stream);
-  packed[0] = '\x12';  // 4096 and 18
+  packed[0] = '\x0A';  // 8192 and 10
   packed += "\x00\xFF\xFF"s;
-  EXPECT_EQ(Unpack(packed), stream + stream.substr(0, 18));
+  EXPECT_EQ(Unpack(packed), stream + stream.substr(0, 10));
 }
 
 TEST(PackedHelp, DamageEndsTheStreamEarly) {
@@ -46,7 +46,7 @@ TEST(PackedHelp, DamageEndsTheStreamEarly) {
             "ab")
       << "a repetition from before the beginning";
   EXPECT_EQ(Unpack("\x03\0\0\0\x01"
-                   "a\x00\xF0"s),
+                   "a\x00\xE0"s),
             "aaa")
       << "no more bytes than the stated size";
 }
