@@ -13,7 +13,7 @@ add_library(qdix_runtime OBJECT ${runtime_sources})
 target_include_directories(qdix_runtime PRIVATE src)
 target_link_libraries(qdix_runtime PRIVATE qdix_warnings qdix_shipped)
 # The compiler would turn the loops of these functions into calls of the functions themselves.
-target_compile_options(qdix_runtime PRIVATE -fno-builtin -fno-tree-loop-distribute-patterns -fno-lto)
+target_compile_options(qdix_runtime PRIVATE -fno-builtin -fno-tree-loop-distribute-patterns)
 
 # 64-bit division and the stack probe come from the compiler's own library, without its unwind tables: nothing unwinds
 # here.
