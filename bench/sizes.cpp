@@ -17,7 +17,7 @@ struct Limit {
 };
 
 constexpr std::array<Limit, 4> kLimits{
-    {{"QDIX.exe", 128}, {"configL.exe", 64}, {"undo.exe", 64}, {"help.exe", 96}}};
+    {{"QDIX.exe", 112}, {"configL.exe", 56}, {"undo.exe", 52}, {"help.exe", 84}}};
 
 Row SizeOf(const Limit& limit) {
   const std::string what = std::string("size of `") + limit.file_name + "`";
