@@ -20,9 +20,9 @@ target_compile_options(qdix_arithmetic INTERFACE
 # Shipped code: no exceptions, no run-time type information.
 add_library(qdix_shipped INTERFACE)
 target_compile_options(qdix_shipped INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Oz;-flto;-fno-inline-functions-called-once;\
--fno-declone-ctor-dtor;-fomit-frame-pointer;-mno-stack-arg-probe;-mno-accumulate-outgoing-args;-mpreferred-stack-boundary=2;\
--mincoming-stack-boundary=3;-fno-exceptions;-fno-rtti;-fno-threadsafe-statics;-fno-use-cxa-atexit;-fno-asynchronous-unwind-tables;\
--ffunction-sections;-fdata-sections;-Walloca;-Wframe-larger-than=3000;-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
+-fno-ipa-icf-functions;-fno-declone-ctor-dtor;-fomit-frame-pointer;-mno-stack-arg-probe;-mno-accumulate-outgoing-args;\
+-mpreferred-stack-boundary=2;-mincoming-stack-boundary=3;-fno-exceptions;-fno-rtti;-fno-threadsafe-statics;-fno-use-cxa-atexit;\
+-fno-asynchronous-unwind-tables;-ffunction-sections;-fdata-sections;-Walloca;-Wframe-larger-than=3000;-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
 target_compile_definitions(qdix_shipped INTERFACE QDIX_WITHOUT_NAMES)
 target_link_libraries(qdix_shipped INTERFACE qdix_windows95 qdix_arithmetic)
 

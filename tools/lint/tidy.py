@@ -21,7 +21,7 @@ OWN_INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.MULTILINE)
 # Compiler flags that clang does not know.
 UNKNOWN_TO_CLANG = re.compile(r" -ffloat-store| -fno-tree-loop-distribute-patterns| -fno-inline-functions-called-once"
                               r"| -fno-declone-ctor-dtor| -mno-accumulate-outgoing-args| -mpreferred-stack-boundary=2"
-                              r"| -mincoming-stack-boundary=3")
+                              r"| -mincoming-stack-boundary=3| -fno-ipa-icf-functions")
 CROSS_COMPILER = "i686-w64-mingw32-g++-win32"
 
 
