@@ -29,9 +29,9 @@ const char* ReasonOfRemoval(Before::Known known) {
 
 /// Returns one line of the question.
 std::string ActionText(const Entry& entry, const Before& before) {
-  const std::string name = NameOf(entry);
-  if (!before.text.has_value()) return base::Concat({name, ": ", ReasonOfRemoval(before.known)});
-  return base::Concat({name, ": ", "put back ", Shown(before.text, kQuestionCharacters),
+  const std::string name = NameOf(entry) + ": ";
+  if (!before.text.has_value()) return name + ReasonOfRemoval(before.known);
+  return base::Concat({name, "put back ", Shown(before.text, kQuestionCharacters),
                        before.known == Before::Known::kFromBackup ? " (from backup)" : ""});
 }
 

@@ -4,8 +4,6 @@
 
 namespace qdix::app {
 
-namespace setting = registry::setting;
-
 Form1::Form1(const os::System& system)
     : system_(system),
       boxes_(system.dialogs, application_),

@@ -7,8 +7,6 @@
 
 namespace qdix::app {
 
-namespace setting = registry::setting;
-
 base::Status Form1::Form_Load() {
   if (single_instance_.AnotherIsRunning()) {
     single_instance_.ActivatePrevInstance();

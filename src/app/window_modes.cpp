@@ -4,8 +4,6 @@ namespace qdix::app {
 
 namespace {
 
-namespace setting = registry::setting;
-
 constexpr std::string_view kPauseCaption = "Pause All Activity";
 constexpr std::string_view kResumeCaption = "Resume Activity";
 

@@ -10,8 +10,6 @@ namespace qdix::cpu {
 
 namespace {
 
-namespace setting = registry::setting;
-
 constexpr const char* kStartKey = "PerfStats\\StartStat";
 constexpr const char* kDataKey = "PerfStats\\StatData";
 /// A single value name; the backslash is part of it.

@@ -8,8 +8,6 @@ namespace qdix::launcher {
 
 namespace {
 
-namespace setting = registry::setting;
-
 /// Maximum amount of one pass, in megabytes of 1,040,000 bytes.
 constexpr double kMaxMb = 250;
 

@@ -9,8 +9,6 @@ namespace qdix::memory {
 
 namespace {
 
-namespace setting = registry::setting;
-
 constexpr std::array<std::string_view, 9> kCheckSeconds{"5",   "10",  "20",  "30", "60",
                                                         "120", "180", "240", "300"};
 /// Longest check interval that Timer2 counts in one tick. For longer ones the timer ticks once a minute.

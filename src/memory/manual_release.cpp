@@ -5,8 +5,6 @@
 
 namespace qdix::memory {
 
-namespace setting = registry::setting;
-
 ManualRelease::ManualRelease(MemoryRelease& release, registry::SettingsStore& settings,
                              screens::QuondixScreen& screen)
     : release_(release), settings_(settings), screen_(screen) {

@@ -9,8 +9,6 @@ namespace qdix::memory {
 
 namespace {
 
-namespace setting = registry::setting;
-
 /// A longer delay is counted in minutes, because a timer interval holds little more than one minute.
 constexpr std::int32_t kMaxSingleDelaySeconds = 60;
 constexpr std::int32_t kMsPerSecond = 1000;

@@ -11,8 +11,6 @@ namespace qdix::memory {
 
 namespace {
 
-namespace setting = registry::setting;
-
 constexpr std::array<std::string_view, 7> kMinuteItems{"5", "10", "15", "20", "30", "40", "50"};
 constexpr std::array<std::string_view, 17> kHourItems{"1",  "2",  "3",  "4",  "5",  "6",  "7",  "8", "9",
                                                       "10", "12", "14", "16", "18", "20", "22", "24"};

@@ -30,7 +30,17 @@ struct SwitchSetting : Setting {
 /// What a missing one means depends on the machine.
 struct MachineSetting : Setting {};
 
-namespace setting {
+}  // namespace qdix::registry
+
+/// The rows. In a namespace of their own below qdix, so that every folder can call them setting::kName.
+namespace qdix::setting {
+
+using registry::kSettingsSection;
+using registry::kStartupSection;
+using registry::MachineSetting;
+using registry::NumberSetting;
+using registry::SwitchSetting;
+using registry::TextSetting;
 
 // Manual release
 /// Amount in megabytes of 1,040,000 bytes.
@@ -90,7 +100,9 @@ inline constexpr NumberSetting kLastTab{{kSettingsSection, "LastTab"}, 0};
 /// How the window starts: 1 shown, 2 minimised, 3 hidden.
 inline constexpr NumberSetting kStartDisplay{{kStartupSection, "StartDisplay"}, 1};
 
-}  // namespace setting
+}  // namespace qdix::setting
+
+namespace qdix::registry {
 
 /// All of them, for whoever treats every setting alike.
 inline constexpr std::array<const Setting*, 25> kAllSettings{

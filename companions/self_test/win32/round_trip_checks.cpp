@@ -59,19 +59,19 @@ Outcome TickBox(const Bench& bench, MainProgram& open) {
   if (SendMessageA(open.WindowOf(box), BM_GETCHECK, 0, 0) != BST_CHECKED) {
     return Outcome::Failed("the box is not ticked");
   }
-  return Stored(bench, registry::setting::kWarnings, "1");
+  return Stored(bench, setting::kWarnings, "1");
 }
 
 Outcome TypeText(const Bench& bench, MainProgram& open) {
   SetWindowTextA(open.WindowOf(open.TheProgram().StartupScreen().Text3), kDelayText);
-  return Stored(bench, registry::setting::kStartupTime, kDelayText);
+  return Stored(bench, setting::kStartupTime, kDelayText);
 }
 
 Outcome DragSlider(const Bench& bench, MainProgram& open) {
   HWND const slider = open.WindowOf(open.TheProgram().StartupScreen().Slider7);
   SendMessageA(slider, TBM_SETPOS, TRUE, kSliderPosition);
   SendMessageA(GetParent(slider), WM_HSCROLL, TB_ENDTRACK, reinterpret_cast<LPARAM>(slider));
-  return Stored(bench, registry::setting::kCpu, "3");
+  return Stored(bench, setting::kCpu, "3");
 }
 
 Outcome FindAgain(MainProgram& open) {

@@ -54,16 +54,15 @@ bool IsRtm() {
 /// the foreground the last input until the guard refuses it to this program. Only Windows 98 has the lock.
 void LoseTheForeground() {
   constexpr DWORD kLimitMs = 10000;
-  constexpr DWORD kPollMs = 50;
   MSG message;
   PostMessageA(nullptr, WM_NULL, 0, 0);
   GetMessageA(&message, nullptr, 0, 0);
   if (IsRtm()) return;
-  for (const DWORD begin_ms = GetTickCount(); GetTickCount() - begin_ms < kLimitMs; Sleep(kPollMs)) {
+  const DWORD begin_ms = GetTickCount();
+  do {
     keybd_event(VK_SHIFT, 0, 0, 0);
     keybd_event(VK_SHIFT, 0, KEYEVENTF_KEYUP, 0);
-    if (SetForegroundWindow(GetDesktopWindow()) == FALSE) return;
-  }
+  } while (SetForegroundWindow(GetDesktopWindow()) != FALSE && GetTickCount() - begin_ms < kLimitMs);
 }
 
 /// The WM_QUIT in the queue closes the box.

@@ -217,7 +217,7 @@ TEST_F(PrivateSystem, FirstStartAndUseOfEverythingLeaveTheMachineAlone) {
     form1->StartupScreen().Check4.Press();
   }
   form1->Form().Unload();
-  EXPECT_EQ(registry::SettingsStore(Registry()).NumberOr(registry::setting::kLastTab, -1), 7);
+  EXPECT_EQ(registry::SettingsStore(Registry()).NumberOr(setting::kLastTab, -1), 7);
 }
 
 }  // namespace
