@@ -11,7 +11,7 @@ constexpr const char* kFilter = "Programs\0*.exe;*.com;*.bat;*.pif;*.lnk\0";
 
 }  // namespace
 
-Browse::Browse(const os::System& system, os::FileDialogs& dialogs, ConfigScreen& screen, EditorBoxes& boxes,
+Browse::Browse(const ConfigSystem& system, os::FileDialogs& dialogs, ConfigScreen& screen, EditorBoxes& boxes,
                EntryList& entry_list)
     : system_(system), dialogs_(dialogs), screen_(screen), boxes_(boxes), entry_list_(entry_list) {
   screen_.cmdBrowsePath.OnClick = ui::Handler::To<&Browse::cmdBrowsePath_Click>(*this);

@@ -2,16 +2,16 @@
 #pragma once
 
 #include "config_launcher/config_screen.h"
+#include "config_launcher/config_system.h"
 #include "config_launcher/editor_boxes.h"
 #include "config_launcher/entry_list.h"
 #include "os/file_dialogs.h"
-#include "os/system.h"
 
 namespace qdix::config_launcher {
 
 class Browse {
  public:
-  Browse(const os::System& system, os::FileDialogs& dialogs, ConfigScreen& screen, EditorBoxes& boxes,
+  Browse(const ConfigSystem& system, os::FileDialogs& dialogs, ConfigScreen& screen, EditorBoxes& boxes,
          EntryList& entry_list);
 
   /// Starts a new entry with the name, command line and folder of the program that the user picks.
@@ -19,7 +19,7 @@ class Browse {
   base::Status cmdBrowseStartIn_Click();
 
  private:
-  const os::System& system_;
+  const ConfigSystem& system_;
   os::FileDialogs& dialogs_;
   ConfigScreen& screen_;
   EditorBoxes& boxes_;

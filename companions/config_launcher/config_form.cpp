@@ -35,12 +35,12 @@ std::string Remarks(const FoundList& found) {
 
 }  // namespace
 
-ConfigForm::ConfigForm(const os::System& system, os::FileDialogs& dialogs)
+ConfigForm::ConfigForm(const ConfigSystem& system, os::FileDialogs& dialogs)
     : system_(system),
       boxes_(system.dialogs, application_, screen_.Window),
-      file_(system),
-      entry_list_(system, screen_, boxes_),
-      browse_(system, dialogs, screen_, boxes_, entry_list_) {
+      file_(system_),
+      entry_list_(system_, screen_, boxes_),
+      browse_(system_, dialogs, screen_, boxes_, entry_list_) {
   events_.ReportErrorsTo(ui::EventDispatcher::ErrorReporter::To<&ConfigForm::ReportUntrapped>(*this));
   screen_.cmdOK.OnClick = ui::Handler::To<&ConfigForm::cmdOK_Click>(*this);
   screen_.cmdCancel.OnClick = ui::Handler::To<&ConfigForm::cmdCancel_Click>(*this);

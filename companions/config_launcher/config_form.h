@@ -7,11 +7,11 @@
 
 #include "config_launcher/browse.h"
 #include "config_launcher/config_screen.h"
+#include "config_launcher/config_system.h"
 #include "config_launcher/editor_boxes.h"
 #include "config_launcher/entry_list.h"
 #include "config_launcher/list_file.h"
 #include "os/file_dialogs.h"
-#include "os/system.h"
 #include "ui/application.h"
 
 namespace qdix::config_launcher {
@@ -19,7 +19,7 @@ namespace qdix::config_launcher {
 class ConfigForm {
  public:
   /// System and dialogs must outlive this object.
-  ConfigForm(const os::System& system, os::FileDialogs& dialogs);
+  ConfigForm(const ConfigSystem& system, os::FileDialogs& dialogs);
   ConfigForm(const ConfigForm&) = delete;
   ConfigForm& operator=(const ConfigForm&) = delete;
   ~ConfigForm() = default;
@@ -58,7 +58,7 @@ class ConfigForm {
   [[nodiscard]] bool SaveList();
   void ReportUntrapped(const base::RuntimeError& error);
 
-  const os::System& system_;
+  const ConfigSystem system_;
   ui::EventDispatcher events_;
   ui::Application application_{kTitle};
   ConfigScreen screen_{events_};

@@ -20,7 +20,7 @@ std::string Trimmed(const ui::TextBox& box) { return std::string(base::Trim(box.
 
 }  // namespace
 
-EntryList::EntryList(const os::System& system, ConfigScreen& screen, EditorBoxes& boxes)
+EntryList::EntryList(const ConfigSystem& system, ConfigScreen& screen, EditorBoxes& boxes)
     : system_(system), screen_(screen), boxes_(boxes) {
   screen_.lstPrograms.OnClick = ui::Handler::To<&EntryList::lstPrograms_Click>(*this);
   screen_.lstPrograms.OnRowKey =

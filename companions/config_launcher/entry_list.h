@@ -5,15 +5,15 @@
 #include <vector>
 
 #include "config_launcher/config_screen.h"
+#include "config_launcher/config_system.h"
 #include "config_launcher/editor_boxes.h"
 #include "launcher/launcher_file.h"
-#include "os/system.h"
 
 namespace qdix::config_launcher {
 
 class EntryList {
  public:
-  EntryList(const os::System& system, ConfigScreen& screen, EditorBoxes& boxes);
+  EntryList(const ConfigSystem& system, ConfigScreen& screen, EditorBoxes& boxes);
 
   /// Shows a list that was read and selects its first entry.
   void Take(const std::vector<launcher::LauncherEntry>& entries);
@@ -66,7 +66,7 @@ class EntryList {
   [[nodiscard]] bool MayAdd(const launcher::LauncherEntry& entry);
   [[nodiscard]] bool HasRoom();
 
-  const os::System& system_;
+  const ConfigSystem& system_;
   ConfigScreen& screen_;
   EditorBoxes& boxes_;
   std::vector<launcher::LauncherEntry> on_disk_;

@@ -27,7 +27,7 @@ void TakeContent(const std::string& content, FoundList& found) {
 
 }  // namespace
 
-ListFile::ListFile(const os::System& system) : files_(system.files) {
+ListFile::ListFile(const ConfigSystem& system) : files_(system.files) {
   const std::string folder = shell::ApplicationFolder(system.processes);
   list_ = folder + launcher::kLauncherFileName;
   backup_ = folder + "launcher.bak";

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "config_launcher/config_system.h"
 #include "launcher/launcher_file.h"
-#include "os/system.h"
 
 namespace qdix::config_launcher {
 
@@ -39,7 +39,7 @@ enum class Saved : unsigned char {
 
 class ListFile {
  public:
-  explicit ListFile(const os::System& system);
+  explicit ListFile(const ConfigSystem& system);
 
   [[nodiscard]] FoundList Read();
 

@@ -18,7 +18,7 @@ constexpr std::string_view kOtherTitle = "second copy";
 
 }  // namespace
 
-bool BringOtherCopyForward(const os::System& system, ui::Application& application, ui::Form& form) {
+bool BringOtherCopyForward(const ConfigSystem& system, ui::Application& application, ui::Form& form) {
   if (!system.processes.MutexExistedBefore(kMutexName)) return false;
   application.SetTitle(kOtherTitle);
   form.SetCaption(kOtherTitle);
@@ -30,7 +30,7 @@ bool BringOtherCopyForward(const os::System& system, ui::Application& applicatio
   return true;
 }
 
-bool MayBeThreadOfQdix(const os::System& system, std::uint32_t thread) {
+bool MayBeThreadOfQdix(const ConfigSystem& system, std::uint32_t thread) {
   const os::WindowHandle window = system.windows.FindWindowA(kQdixClass, kQdixTitle);
   return window != 0 && (thread == 0 || system.windows.GetWindowThreadProcessId(window) == thread);
 }

@@ -6,15 +6,15 @@
 #include <optional>
 #include <string>
 
+#include "config_launcher/config_system.h"
 #include "config_launcher/editor_boxes.h"
 #include "launcher/launcher_file.h"
-#include "os/system.h"
 
 namespace qdix::config_launcher {
 
 class PickedFiles {
  public:
-  explicit PickedFiles(const os::System& system) : system_(system) {}
+  explicit PickedFiles(const ConfigSystem& system) : system_(system) {}
 
   /// Returns the entry for a program or for the program that a shortcut starts, without a folder if the
   /// launcher cannot use it. Returns nothing for any other file, for a folder, and for texts that do not fit
@@ -40,7 +40,7 @@ class PickedFiles {
   [[nodiscard]] std::optional<launcher::LauncherEntry> CompleteEntryOf(const std::string& path) const;
   [[nodiscard]] bool CanBeStarted(const std::string& path) const;
 
-  const os::System& system_;
+  const ConfigSystem& system_;
   Lines refused_;
   Lines without_folder_;
 };

@@ -8,7 +8,7 @@
 
 namespace qdix::help_viewer {
 
-HelpForm::HelpForm(const os::System& system, const Devices& devices, const StartWith& start)
+HelpForm::HelpForm(const HelpSystem& system, const Devices& devices, const StartWith& start)
     : system_(system),
       devices_(devices),
       stream_(Unpack(start.packed_stream)),

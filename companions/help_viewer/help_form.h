@@ -8,18 +8,18 @@
 #include "help_viewer/contents_list.h"
 #include "help_viewer/find_page.h"
 #include "help_viewer/help_screen.h"
+#include "help_viewer/help_system.h"
 #include "help_viewer/reader.h"
 #include "help_viewer/saved_window_place.h"
 #include "host/boxes.h"
 #include "os/clipboard.h"
 #include "os/printer.h"
 #include "os/screen.h"
-#include "os/system.h"
 #include "ui/application.h"
 
 namespace qdix::help_viewer {
 
-/// What this program needs from the system in addition to what every program needs.
+/// Only this program uses such devices, and only it has a main window to give them.
 struct Devices {
   os::Clipboard& clipboard;
   os::Printer& printer;
@@ -35,8 +35,8 @@ struct StartWith {
 
 class HelpForm {
  public:
-  /// System and devices must outlive this object. Asks every open viewer to close, so only one stays open.
-  HelpForm(const os::System& system, const Devices& devices, const StartWith& start);
+  /// The devices must outlive this object. Asks every open viewer to close, so only one stays open.
+  HelpForm(const HelpSystem& system, const Devices& devices, const StartWith& start);
   HelpForm(const HelpForm&) = delete;
   HelpForm& operator=(const HelpForm&) = delete;
   ~HelpForm() = default;
@@ -74,7 +74,7 @@ class HelpForm {
   base::Status Unload();
   void ReportUntrapped(const base::RuntimeError& error);
 
-  const os::System& system_;
+  const HelpSystem system_;
   const Devices devices_;
   const std::string stream_;
   const Book book_;

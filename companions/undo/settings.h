@@ -4,13 +4,13 @@
 #include <optional>
 #include <string>
 
-#include "os/system.h"
 #include "registry/module_registry.h"
 #include "tuning/system_ini.h"
 #include "undo/before.h"
 #include "undo/ini_state.h"
 #include "undo/record.h"
 #include "undo/replacement.h"
+#include "undo/undo_system.h"
 
 namespace qdix::undo {
 
@@ -29,7 +29,7 @@ struct Backup {
 
 class Settings {
  public:
-  explicit Settings(const os::System& system)
+  explicit Settings(const UndoSystem& system)
       : system_(system), module_registry_(system.registry), system_ini_(system.profile_files, system.files) {}
 
   /// Reads the record, the backup and system.ini again. The methods below return what was found then.
@@ -73,7 +73,7 @@ class Settings {
   void Remove(const Entry& entry);
   [[nodiscard]] std::string BackupPath() const;
 
-  const os::System& system_;
+  const UndoSystem& system_;
   registry::ModuleRegistry module_registry_;
   tuning::SystemIni system_ini_;
   Record record_;

@@ -4,10 +4,10 @@
 
 namespace qdix::undo {
 
-UndoForm::UndoForm(const os::System& system)
+UndoForm::UndoForm(const UndoSystem& system)
     : system_(system),
       boxes_(system.dialogs, application_),
-      settings_(system),
+      settings_(system_),
       restart_(system.session, boxes_, screen_.Window),
       entry_list_(boxes_, screen_, settings_, restart_),
       whole_file_(system.clock, boxes_, screen_, settings_, entry_list_, restart_) {

@@ -2,20 +2,19 @@
 #pragma once
 
 #include "host/boxes.h"
-#include "os/system.h"
 #include "tuning/restart.h"
 #include "ui/application.h"
 #include "undo/entry_list.h"
 #include "undo/settings.h"
 #include "undo/undo_screen.h"
+#include "undo/undo_system.h"
 #include "undo/whole_file.h"
 
 namespace qdix::undo {
 
 class UndoForm {
  public:
-  /// `system` must outlive this object.
-  explicit UndoForm(const os::System& system);
+  explicit UndoForm(const UndoSystem& system);
   UndoForm(const UndoForm&) = delete;
   UndoForm& operator=(const UndoForm&) = delete;
   ~UndoForm() = default;
@@ -36,7 +35,7 @@ class UndoForm {
   void Read();
   void ReportUntrapped(const base::RuntimeError& error);
 
-  const os::System& system_;
+  const UndoSystem system_;
   ui::EventDispatcher events_;
   ui::Application application_{"Q-DIX Undo"};
   host::Boxes boxes_;

@@ -6,7 +6,12 @@
 #include "config_launcher/win32/resources.h"
 #include "host/win32/program_host.h"
 #include "os/win32/dropped_files.h"
+#include "os/win32/interactive_machine.h"
 #include "os/win32/win32_file_dialogs.h"
+#include "os/win32/win32_files.h"
+#include "os/win32/win32_processes.h"
+#include "os/win32/win32_shell_files.h"
+#include "os/win32/win32_windows.h"
 #include "runtime/entry.h"
 #include "ui/win32/list_peers.h"
 #include "ui/win32/simple_peers.h"
@@ -19,6 +24,14 @@ namespace {
 constexpr ui::win32::PeerFactory kMakePeer =
     &ui::win32::MakePeerFrom<ui::win32::LabelPeer, ui::win32::ButtonPeer, ui::win32::TextBoxPeer,
                              ui::win32::ListBoxPeer>;
+
+/// What `ConfigSystem` is made from.
+struct Machine : os::win32::InteractiveMachine {
+  os::win32::Win32Windows windows;
+  os::win32::Win32Processes processes;
+  os::win32::Win32ShellFiles shell_files;
+  os::win32::Win32Files files;
+};
 
 class Program {
  public:
@@ -38,7 +51,7 @@ class Program {
   void FilesDropped(WPARAM drop) { host_.TheProgram().FilesDropped(os::win32::TakeDroppedPaths(drop)); }
 
   os::win32::Win32FileDialogs dialogs_;
-  host::win32::ProgramHost<ConfigForm> host_;
+  host::win32::ProgramHost<ConfigForm, Machine> host_;
 };
 
 }  // namespace

@@ -10,9 +10,12 @@
 #include "help_viewer/win32/topic_pane_peer.h"
 #include "help_viewer/win32/turn.h"
 #include "host/win32/program_host.h"
+#include "os/win32/interactive_machine.h"
 #include "os/win32/win32_clipboard.h"
 #include "os/win32/win32_printer.h"
+#include "os/win32/win32_registry.h"
 #include "os/win32/win32_screen.h"
+#include "os/win32/win32_windows.h"
 #include "runtime/entry.h"
 #include "ui/win32/list_peers.h"
 #include "ui/win32/simple_peers.h"
@@ -25,6 +28,12 @@ namespace {
 constexpr ui::win32::PeerFactory kMakePeer =
     &ui::win32::MakePeerFrom<ui::win32::LabelPeer, ui::win32::ButtonPeer, ui::win32::TextBoxPeer,
                              ui::win32::ListBoxPeer, TopicPanePeer>;
+
+/// What `HelpSystem` is made from.
+struct Machine : os::win32::InteractiveMachine {
+  os::win32::Win32Registry registry;
+  os::win32::Win32Windows windows;
+};
 
 class Program {
  public:
@@ -43,7 +52,7 @@ class Program {
   os::win32::Win32Screen screen_;
   Devices devices_{clipboard_, printer_, screen_};
   StartWith start_;
-  host::win32::ProgramHost<HelpForm> host_;
+  host::win32::ProgramHost<HelpForm, Machine> host_;
 };
 
 }  // namespace

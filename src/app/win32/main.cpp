@@ -5,6 +5,7 @@
 #include "app/form1.h"
 #include "app/win32/resources.h"
 #include "host/win32/program_host.h"
+#include "os/win32/win32_system.h"
 #include "runtime/entry.h"
 
 namespace qdix::app::win32 {
@@ -26,7 +27,7 @@ class Program {
   [[nodiscard]] int Run(int show_command) { return host_.Run(show_command); }
 
  private:
-  host::win32::ProgramHost<Form1> host_;
+  host::win32::ProgramHost<Form1, os::win32::Win32System> host_;
 };
 
 }  // namespace

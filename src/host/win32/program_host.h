@@ -1,4 +1,4 @@
-// The common part of the programs' entry points: the real system, the program object, its window, and the
+// The common part of the programs' entry points: the real machine, the program object, its window, and the
 // message loop. Contains no logic.
 #pragma once
 
@@ -8,7 +8,7 @@
 #include <optional>
 #include <utility>
 
-#include "os/win32/win32_system.h"
+#include "os/win32/interactive_machine.h"
 #include "ui/win32/form_window.h"
 
 namespace qdix::host::win32 {
@@ -23,21 +23,22 @@ template <class Program>
   }
 }
 
-/// `Program` is constructed from the system and any further arguments given here. It must have
-/// TheApplication, Form, Start and EndSession, and may have Timers. Allocate this on the heap: the controls
+/// `Machine` is an `InteractiveMachine` with whatever else the program uses of the machine. `Program` is
+/// constructed from it and any further arguments given here. It must have TheApplication, Form, Start and
+/// EndSession, and may have Timers. Allocate this on the heap: the controls
 /// alone would be too large for a stack frame. It need not be destroyed before the process ends: after Run
 /// only memory is left, and a destructor for every control costs 2 KB.
-template <class Program>
+template <class Program, class Machine>
 class ProgramHost {
  public:
   template <class... Others>
   ProgramHost(HINSTANCE instance, int icon_id, ui::win32::PeerFactory make_peer, Others&... others)
-      : program_(system_->GetSystem(), others...), timers_(TimersOf(program_)) {
+      : program_(*machine_, others...), timers_(TimersOf(program_)) {
     using Hook = base::Callback<void()>;
     window_.emplace(instance, icon_id, program_.TheApplication(), program_.Form(), timers_, make_peer);
-    window_->OnUnloaded = Hook::To<&os::win32::Win32System::Stop>(*system_);
+    window_->OnUnloaded = Hook::To<&Machine::Stop>(*machine_);
     window_->OnSessionEnding = Hook::To<&Program::EndSession>(program_);
-    system_->SetMainWindow(window_->MainWindow());
+    machine_->SetMainWindow(window_->MainWindow());
   }
 
   [[nodiscard]] Program& TheProgram() { return program_; }
@@ -50,7 +51,7 @@ class ProgramHost {
     const bool is_complete = window_->Complete();
     if (is_complete) RunUntilUnloaded(show_command);
     window_.reset();
-    system_.reset();
+    machine_.reset();
     return is_complete ? 0 : 1;
   }
 
@@ -59,12 +60,12 @@ class ProgramHost {
     window_->SetStartCommand(show_command);
     program_.Start();
     window_->SetStartCommand(SW_SHOWDEFAULT);
-    while (system_->EventPump().WaitAndHandle()) {
+    while (machine_->event_pump.WaitAndHandle()) {
     }
   }
 
-  // Run empties `window_`, then `system_`, as the destructor would: windows and handles must not be left.
-  std::optional<os::win32::Win32System> system_{std::in_place};
+  // Run empties `window_`, then `machine_`, as the destructor would: windows and handles must not be left.
+  std::optional<Machine> machine_{std::in_place};
   Program program_;
   decltype(TimersOf(program_)) timers_;
   std::optional<ui::win32::FormWindow> window_;

@@ -4,10 +4,9 @@
 #include <windows.h>
 
 #include "os/system.h"
+#include "os/win32/interactive_machine.h"
 #include "os/win32/win32_clock.h"
-#include "os/win32/win32_dialogs.h"
 #include "os/win32/win32_drives.h"
-#include "os/win32/win32_event_pump.h"
 #include "os/win32/win32_files.h"
 #include "os/win32/win32_memory.h"
 #include "os/win32/win32_processes.h"
@@ -21,7 +20,7 @@
 
 namespace qdix::os::win32 {
 
-class Win32System {
+class Win32System : public InteractiveMachine {
  public:
   Win32System();
   Win32System(const Win32System&) = delete;
@@ -29,21 +28,15 @@ class Win32System {
   ~Win32System();
 
   [[nodiscard]] const System& GetSystem() const { return system_; }
-  [[nodiscard]] Win32EventPump& EventPump() { return event_pump_; }
+  operator const System&() const { return system_; }
 
-  /// Sets the window whose messages follow the keyboard rules of dialogs and that owns message boxes; null
-  /// for none.
+  /// Also sets the owner of what the shell shows.
   void SetMainWindow(HWND window);
-
-  /// Ends the program: pumps return at once, and open boxes close without an answer.
-  void Stop();
 
  private:
   Win32Memory memory_;
   Win32Registry registry_;
-  Win32EventPump event_pump_;
   Win32Windows windows_;
-  Win32Dialogs dialogs_;
   Win32Clock clock_;
   Win32Processes processes_;
   Win32Shell shell_;

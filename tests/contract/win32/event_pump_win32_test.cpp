@@ -11,7 +11,7 @@ class EventPumpWin32 : public testing::Test {
   }
 
   Win32ContractMachine machine;
-  os::win32::Win32EventPump& pump = machine.GetWin32System().EventPump();
+  os::win32::Win32EventPump& pump = machine.GetWin32System().event_pump;
 };
 
 TEST_F(EventPumpWin32, OnePumpHandlesALimitedNumberOfMessages) {
