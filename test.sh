@@ -10,11 +10,17 @@ readonly all_trees=(host-sanitize win9x win9x-tests)
 
 # Fills `trees` with those that the tests need which the arguments choose, and `targets` with what to build in each.
 choose_trees() {
-  local tree
+  local tree job jobs=()
+  mkdir -p build/logs
   for tree in "${all_trees[@]}"; do
-    tools/setup/build.sh --configure "$tree"
-    targets[$tree]=$(tools/setup/test_targets.py "build/$tree" "$@")
+    {
+      tools/setup/build.sh --configure "$tree"
+      tools/setup/test_targets.py "build/$tree" "$@" >"build/logs/$tree.targets"
+    } &
+    jobs+=($!)
   done
+  for job in "${jobs[@]}"; do wait "$job"; done
+  for tree in "${all_trees[@]}"; do targets[$tree]=$(<"build/logs/$tree.targets"); done
   if [ -n "${targets[win9x-tests]}" ]; then targets[win9x]=all; fi
   # A random test has no name before its program is built.
   if [ -z "${targets[host-sanitize]}${targets[win9x]}" ]; then targets[host-sanitize]=all; fi

@@ -4,14 +4,6 @@
 
 namespace qdix::base {
 
-namespace {
-
-char UpperLetter(char letter) {
-  return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-}
-
-}  // namespace
-
 std::string_view Trim(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
   if (first == std::string_view::npos) return {};
@@ -22,13 +14,13 @@ std::string_view CutAtNul(std::string_view text) { return text.substr(0, text.fi
 
 std::string UpperAscii(std::string_view text) {
   std::string upper(text);
-  for (char& letter : upper) letter = UpperLetter(letter);
+  for (char& letter : upper) letter = UpperAscii(letter);
   return upper;
 }
 
 bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return UpperLetter(x) == UpperLetter(y); });
+                    [](char x, char y) { return UpperAscii(x) == UpperAscii(y); });
 }
 
 }  // namespace qdix::base

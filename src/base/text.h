@@ -12,6 +12,11 @@ namespace qdix::base {
 /// Returns the part before the first NUL character, or the whole text if there is none.
 [[nodiscard]] std::string_view CutAtNul(std::string_view text);
 
+/// Returns an ASCII letter in upper case and every other byte unchanged.
+[[nodiscard]] constexpr char UpperAscii(char letter) {
+  return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+}
+
 /// Returns the text with its ASCII letters in upper case and every other byte unchanged.
 [[nodiscard]] std::string UpperAscii(std::string_view text);
 

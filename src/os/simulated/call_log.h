@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace qdix::os::simulated {
@@ -9,12 +10,14 @@ namespace qdix::os::simulated {
 class CallLog {
  public:
   /// Records a call that cannot fail.
-  void Record(const std::string& name, const std::string& arguments = {}) {
-    calls_.push_back(name + "(" + arguments + ")");
+  void Record(std::string_view name, std::string_view arguments = {}) {
+    std::string& call = calls_.emplace_back();
+    call.reserve(name.size() + arguments.size() + 2);
+    call.append(name).append("(").append(arguments).append(")");
   }
 
   /// Records a call that can fail. True if the test planned a failure for this one.
-  [[nodiscard]] bool RecordAndFail(const std::string& name, const std::string& arguments = {}) {
+  [[nodiscard]] bool RecordAndFail(std::string_view name, std::string_view arguments = {}) {
     Record(name, arguments);
     ++faultable_calls_;
     if (name == fail_next_name_) {

@@ -41,7 +41,9 @@ std::string Join(const std::string& parent, const std::string& subkey) {
 }  // namespace
 
 bool SimulatedRegistry::NoCase::operator()(const std::string& a, const std::string& b) const {
-  return base::UpperAscii(a) < base::UpperAscii(b);
+  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+    return static_cast<unsigned char>(base::UpperAscii(x)) < static_cast<unsigned char>(base::UpperAscii(y));
+  });
 }
 
 std::optional<SimulatedRegistry::OpenKey> SimulatedRegistry::FindOpen(KeyHandle key) const {

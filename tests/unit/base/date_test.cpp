@@ -53,10 +53,9 @@ TEST(DateTest, EveryDayFollowsTheDayBefore) {
   int day = 1;
   for (int number = -657434; number <= 2958465; ++number) {
     const auto date = DaysToDate(number);
-    ASSERT_TRUE(date.has_value()) << number;
-    ASSERT_TRUE(date->year == year && date->month == month && date->day == day) << number;
-    ASSERT_EQ(date->weekday, ((number % 7) + 7) % 7) << number;
-    ASSERT_EQ(DateToDays(year, month, day), number);
+    ASSERT_TRUE(date.has_value() && date->year == year && date->month == month && date->day == day &&
+                date->weekday == ((number % 7) + 7) % 7 && DateToDays(year, month, day) == number)
+        << number;
     const bool is_leap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
     const int month_days = kMonthDays[month - 1] + (month == 2 && is_leap ? 1 : 0);
     if (++day <= month_days) continue;
