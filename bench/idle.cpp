@@ -1,8 +1,8 @@
 #include "bench/foreign_copy.h"
 #include "bench/measures.h"
-#include "bench/other_program.h"
 #include "bench/session.h"
 #include "bench/stopwatch.h"
+#include "tests/e2e/driver/other_program.h"
 #include "tests/e2e/driver/process_memory.h"
 
 namespace qdix::bench {
@@ -14,7 +14,7 @@ constexpr int kMinutes = 3;
 constexpr double kBytesPerKb = 1024;
 
 Row MeasureMemory(const e2e::ShippedProgram& program, const std::string& path, const std::string& how) {
-  OtherProgram notepad(path, "Notepad");
+  e2e::OtherProgram notepad(path, "Notepad");
   Require(notepad.Start() && e2e::Eventually([&] { return notepad.IsShown(); }), "notepad is not shown");
   Require(WaitForInputIdle(notepad.Process(), e2e::kDeadlineMs) == 0, "notepad does not come to rest");
   const double ours = static_cast<double>(program.CommittedBytes()) / kBytesPerKb;
@@ -24,7 +24,8 @@ Row MeasureMemory(const e2e::ShippedProgram& program, const std::string& path, c
 }
 
 /// Measures both programs during the same minutes.
-Row MeasureMinutes(const e2e::ShippedProgram& program, const OtherProgram& taskmgr, const std::string& how) {
+Row MeasureMinutes(const e2e::ShippedProgram& program, const e2e::OtherProgram& taskmgr,
+                   const std::string& how) {
   std::vector<double> ours;
   std::vector<double> theirs;
   for (int minute = 0; minute < kMinutes; ++minute) {
@@ -45,7 +46,7 @@ std::vector<Row> MeasureIdle() {
   StartAndSettle(program);
   std::vector<Row> rows{MeasureMemory(program, ForeignCopy("notepad.exe").Path(), "as any other program"),
                         MeasureMemory(program, "notepad.exe", "as Wine loads its own")};
-  OtherProgram taskmgr("taskmgr.exe", "#32770");
+  e2e::OtherProgram taskmgr("taskmgr.exe", "#32770");
   Require(taskmgr.Start() && e2e::Eventually([&] { return taskmgr.IsShown(); }), "taskmgr is not shown");
   rows.push_back(MeasureMinutes(program, taskmgr, "shown"));
   program.Press("Command2");

@@ -1,10 +1,10 @@
 #include <array>
 
 #include "bench/measures.h"
-#include "bench/other_program.h"
 #include "bench/session.h"
 #include "tests/e2e/driver/inside_process.h"
 #include "tests/e2e/driver/native_windows.h"
+#include "tests/e2e/driver/other_program.h"
 #include "tests/e2e/driver/process_resources.h"
 
 namespace qdix::bench {
@@ -34,7 +34,7 @@ int StopAndCountTimers(const e2e::ShippedProgram& program) {
 }
 
 void PrintOther(const char* name, const std::string& command_line, const std::string& window_class) {
-  OtherProgram program(command_line, window_class);
+  e2e::OtherProgram program(command_line, window_class);
   Require(program.Start() && e2e::Eventually([&] { return program.IsShown(); }),
           command_line + " is not shown");
   Require(WaitForInputIdle(program.Process(), e2e::kDeadlineMs) == 0,

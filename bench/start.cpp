@@ -2,9 +2,9 @@
 
 #include "bench/foreign_copy.h"
 #include "bench/measures.h"
-#include "bench/other_program.h"
 #include "bench/session.h"
 #include "bench/stopwatch.h"
+#include "tests/e2e/driver/other_program.h"
 
 namespace qdix::bench {
 
@@ -47,7 +47,7 @@ double StartOurs() {
 }
 
 double StartNotepad(const std::string& path) {
-  OtherProgram notepad(path, "Notepad");
+  e2e::OtherProgram notepad(path, "Notepad");
   const double ms = MsUntil([&] { return notepad.Start(); }, [&] { return notepad.IsShown(); });
   notepad.End();
   return ms;

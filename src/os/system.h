@@ -1,5 +1,5 @@
-// Everything that the program asks of the machine, by subject. Only references: the creator must keep the
-// implementations alive as long as the program runs.
+// Everything that the main program asks of the machine, by subject; a companion uses only some of it. Only
+// references: the creator must keep the implementations alive as long as the program runs.
 #pragma once
 
 #include "os/clock.h"

@@ -116,6 +116,9 @@ class LauncherSession : public Session {
     TypeText(text);
     ASSERT_TRUE(editor.Await([&] { return editor.Text(field) == text; })) << editor.Text(field);
   }
+  [[nodiscard]] bool EditorHasRows(LRESULT count) {
+    return editor.Await([&] { return Ask(editor.Control("lstPrograms"), LB_GETCOUNT) == count; });
+  }
   void OpenEditor() {
     // Pressed again if nothing happens: while a window comes to the front, Wine can release a key that is
     // held.
@@ -149,12 +152,13 @@ TEST_F(LauncherSession, ListMadeInTheEditorAppearsInTheTabAndTheMenuWithinTheWat
   TypeIntoEditor('N', "txtName", "witness");
   TypeIntoEditor('C', "txtPath", "regedit");
   PressKeyWith(VK_MENU, 'A');
+  ASSERT_TRUE(EditorHasRows(1)) << editor.FocusedControl() << ", " << editor.Text("txtPath");
   ASSERT_TRUE(Click(editor.Control("txtName")));
   PressKey(VK_HOME);
   TypeText("second ");
   ASSERT_TRUE(editor.Await([this] { return editor.Text("txtName") == "second witness"; }));
   ASSERT_TRUE(Click(editor.Control("cmdAdd")));
-  ASSERT_TRUE(editor.Await([this] { return Ask(editor.Control("lstPrograms"), LB_GETCOUNT) == 2; }));
+  ASSERT_TRUE(EditorHasRows(2));
   ASSERT_TRUE(Click(editor.Control("cmdMoveUp")));
   EXPECT_TRUE(HasRows(0)) << "the list changed before the editor closed";
   ASSERT_TRUE(Click(editor.Control("cmdOK")));

@@ -23,6 +23,9 @@ RESULT = {"memory_mb": 96, "release_mb": 40, "idle_mb": 10, "idle_programs": 4, 
           "at_rest": {name: REST for name in small_machine.NAMES}}
 
 
+STARTS = {"memory_mb": 96, "start_ms": {"QDIX.exe": [3200, 2800, 3000], "other.exe": [2000, 2100], "notepad.exe": [1999]}}
+
+
 def changed(name, **figures):
     result = copy.deepcopy(RESULT)
     for one in result["rounds"]:
@@ -46,9 +49,16 @@ class BudgetTest(unittest.TestCase):
         self.assertEqual(small_machine.time_row(changed("pumping_loop", ms=2999))[-1], "**missed**")
 
 
+    def test_fastest_start_may_take_two_fifths_longer_than_notepad(self):
+        self.assertEqual(small_machine.start_row(STARTS, "other.exe"),
+                         ["start until the window is shown with 96 MB, fastest of 3, beside notepad loaded as any other "
+                          "program", "2800 ms", "2000 ms", "1.40", "at most 1.4 x notepad", "kept"])
+        self.assertEqual(small_machine.start_row(STARTS, "notepad.exe")[-1], "**missed**")
+
+
 class SectionTest(unittest.TestCase):
     def setUp(self):
-        self.lines = small_machine.section([RESULT]).splitlines()
+        self.lines = small_machine.section(STARTS, [RESULT]).splitlines()
 
     def test_section_starts_with_the_heading_that_the_scripts_search_for(self):
         self.assertEqual(self.lines[0], "## On an emulated PC")
@@ -56,6 +66,11 @@ class SectionTest(unittest.TestCase):
     def test_tables_show_median_and_range_of_the_rounds(self):
         self.assertIn("| 96 MB | 40 MB | 10.0 MB | 40.0 MB | 3.0 seconds |", self.lines)
         self.assertIn("| 96 MB | release | 30.0 MB | 3100 ms (3000 to 3200) | 1,000 | 40.0 MB to 12.3 MB |", self.lines)
+
+    def test_starts_come_first_in_the_table_of_budgets(self):
+        first = next(number for number, line in enumerate(self.lines) if line.startswith("|---"))
+        self.assertIn("beside notepad loaded as any other program", self.lines[first + 1])
+        self.assertIn("beside notepad loaded as Wine loads its own", self.lines[first + 2])
 
     def test_table_at_rest_adds_up_private_memory(self):
         self.assertIn("| 96 MB | `QDIX.exe` | 3,000 KB | 4,000 KB | 9,000 KB | 7 KB |", self.lines)

@@ -54,6 +54,9 @@ constexpr const char* kUsage =
     "                    with a window if there are pumps; prints the milliseconds\n"
     "  time-pumps COUNT [window]   prints the milliseconds of empty pumps, in a program with a window or "
     "without\n"
+    "  time-start CLASS PATH    starts a program, prints the milliseconds until a window of that class is "
+    "shown,\n"
+    "                    and closes it\n"
     "  start-with-clock PERCENT PATH    starts QDIX.exe; the processor seems to have that share of its "
     "speed\n"
     "  press-key CODE    presses a key, by its virtual code, for the window in front\n"
@@ -251,6 +254,9 @@ int Run(Arguments arguments) {
   }
   if (command == "time-pumps" && !arguments.empty() && arguments.size() <= 2) {
     return PrintMs(qdix::probe::PumpsMs(std::atoi(arguments[0]), arguments.size() == 2));
+  }
+  if (command == "time-start" && arguments.size() == 2) {
+    return PrintMs(qdix::probe::StartMs(arguments[0], arguments[1]));
   }
   if (command == "press-key" && arguments.size() == 1) return PressKey(arguments[0]);
   if (command == "start-with-clock" && arguments.size() == 2)

@@ -1,6 +1,7 @@
 #include "timing.h"
 
 #include "tests/e2e/driver/bare_loop.h"
+#include "tests/e2e/driver/other_program.h"
 #include "ui/win32/owned.h"
 
 namespace qdix::probe {
@@ -9,6 +10,10 @@ namespace {
 
 constexpr double kFailed = -1;
 constexpr UINT kPressLimitMs = 300000;
+constexpr double kStartLimitMs = 60000;
+/// The precision of a start. Without a pause the polling would keep Wine's server busy, which creates the
+/// windows.
+constexpr DWORD kPauseMs = 1;
 
 double NowMs() {
   LARGE_INTEGER now = {};
@@ -47,6 +52,17 @@ double LoopMs(SIZE_T bytes, int pumps) {
     e2e::Pump(pumps);
   }
   e2e::Pump(pumps);
+  return NowMs() - start_ms;
+}
+
+double StartMs(const std::string& window_class, const std::string& path) {
+  e2e::OtherProgram program(path, window_class);
+  const double start_ms = NowMs();
+  if (!program.Start()) return kFailed;
+  while (!program.IsShown()) {
+    if (NowMs() - start_ms > kStartLimitMs) return kFailed;
+    Sleep(kPauseMs);
+  }
   return NowMs() - start_ms;
 }
 

@@ -16,5 +16,8 @@ namespace qdix::probe {
 [[nodiscard]] double LoopMs(SIZE_T bytes, int pumps);
 /// Returns the milliseconds that `times` empty pumps of this process take, with a window or without.
 [[nodiscard]] double PumpsMs(int times, bool with_window);
+/// Starts a program, waits until a window of the class is shown, and ends the program. Returns the
+/// milliseconds until the window was shown, or a negative number if there is none within a minute.
+[[nodiscard]] double StartMs(const std::string& window_class, const std::string& path);
 
 }  // namespace qdix::probe

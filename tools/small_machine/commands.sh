@@ -120,10 +120,14 @@ memory_of() {
 
 start_notepad() { wine notepad >"$logs/notepad.txt" 2>&1 </dev/null & }
 
-# Starts a copy of notepad without the mark by which Wine recognizes its own programs: Wine loads it like any other program.
-start_other_notepad() {
+# Makes a copy of notepad without the mark by which Wine recognizes its own programs: Wine loads it like any other program.
+make_other_notepad() {
   local mark='Wine builtin DLL' blank='                ' copy=/prefix/drive_c/other.exe
-  sed "s/$mark/$blank/" /prefix/drive_c/windows/notepad.exe >$copy && ! grep -q "$mark" $copy || return
+  sed "s/$mark/$blank/" /prefix/drive_c/windows/notepad.exe >$copy && ! grep -q "$mark" $copy
+}
+
+start_other_notepad() {
+  make_other_notepad || return
   wine 'C:\other.exe' >"$logs/other.txt" 2>&1 </dev/null &
 }
 

@@ -7,7 +7,7 @@
 
 #include <string>
 
-namespace qdix::bench {
+namespace qdix::e2e {
 
 class OtherProgram {
  public:
@@ -35,4 +35,4 @@ class OtherProgram {
   DWORD process_id_ = 0;
 };
 
-}  // namespace qdix::bench
+}  // namespace qdix::e2e

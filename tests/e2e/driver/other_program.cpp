@@ -1,11 +1,11 @@
-#include "bench/other_program.h"
+#include "tests/e2e/driver/other_program.h"
 
 #include <algorithm>
 #include <vector>
 
 #include "tests/e2e/driver/native_windows.h"
 
-namespace qdix::bench {
+namespace qdix::e2e {
 
 namespace {
 
@@ -29,14 +29,14 @@ bool OtherProgram::Start() {
 }
 
 bool OtherProgram::IsShown() const {
-  const std::vector<HWND> windows = e2e::TopLevelWindows(process_id_, window_class_);
+  const std::vector<HWND> windows = TopLevelWindows(process_id_, window_class_);
   return std::any_of(windows.begin(), windows.end(),
                      [](HWND window) { return IsWindowVisible(window) != 0; });
 }
 
 void OtherProgram::End() {
   if (process_ == nullptr) return;
-  for (const HWND window : e2e::TopLevelWindows(process_id_, window_class_)) {
+  for (const HWND window : TopLevelWindows(process_id_, window_class_)) {
     PostMessageA(window, WM_CLOSE, 0, 0);
   }
   if (WaitForSingleObject(process_, kEndLimitMs) != WAIT_OBJECT_0) TerminateProcess(process_, 1);
@@ -44,4 +44,4 @@ void OtherProgram::End() {
   process_ = nullptr;
 }
 
-}  // namespace qdix::bench
+}  // namespace qdix::e2e
