@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
-# Measures the shipped programs beside Wine's own in one run of about eight minutes, and writes docs/benchmarks.md except
-# for the sections of bench/small_machine.sh and bench/held.sh. Nothing else should run on the machine during that time.
+# Measures the shipped programs beside Wine's own in one run of about eight minutes (thirteen through an emulator), and
+# writes docs/benchmarks.md except for the sections of bench/small_machine.sh and bench/held.sh. Nothing else should run on
+# the machine during that time.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+# shellcheck source=tools/wine/common.sh
+source tools/wine/common.sh
 readonly report=docs/benchmarks.md
 readonly bench=build/win9x-tests/qdix_bench.exe
 
@@ -13,6 +16,9 @@ tools/setup/build.sh win9x
 tools/setup/build.sh win9x-tests qdix_bench
 tools/wine/prefix.sh
 
+set_wine_programs "$(chosen_wine)"
+emulation=""
+if [ "${wine_program##*/}" = "$emulated_wine_name" ]; then emulation=" through an emulator of 32-bit programs"; fi
 measured=$(tools/desktop/desktop.sh run tools/wine/wine.sh "$bench" | tr -d '\r')
 {
   cat <<'HEAD'
@@ -23,14 +29,16 @@ numbers depend on the machine. A series shows its median, with minimum and maxim
 fastest run, because other load on the machine makes the other runs slower. A missed budget is reported as missed.
 
 HEAD
-  printf 'Wine %s, %s processors, commit %s of %s.\n\n' "$(tools/wine/wine.sh --version | tr -d '\r' | sed 's/^wine-//')" \
-    "$(nproc)" "$(git rev-parse --short HEAD)" "$(git log -1 --format=%cs)"
+  printf 'Wine %s%s, %s processors, commit %s of %s.\n\n' \
+    "$(tools/wine/wine.sh --version | tr -d '\r' | sed 's/^wine-//')" "$emulation" "$(nproc)" \
+    "$(git rev-parse --short HEAD)" "$(git log -1 --format=%cs)"
   printf '%s\n' "$measured"
   cat <<'TAIL'
 
 ## How it is measured
 
 - Start: the time from the request to start the program until its main window is visible, to a millisecond. The programs take turns.
+  An emulator spends most of a start translating code; the start on the emulated PC below counts instructions instead.
 - Notepad is measured twice. Wine recognizes its own programs by a mark in their files. In Windows 98 mode it gives all other programs what
   16-bit programs need: a first megabyte of memory, a kernel, two drivers. Wine loads a copy of notepad without the mark as it loads Q-DIX.
 - Memory: private committed pages. Images and shared pages do not count.
