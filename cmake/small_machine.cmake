@@ -14,10 +14,11 @@ else()
   set_tests_properties(small_machine.make PROPERTIES FIXTURES_SETUP small_machine TIMEOUT 2400 LABELS small_machine)
 
   # small_machine_test(<name> <file> <argument>): adds a test. They run one at a time, because an emulated PC keeps a core busy.
+  # The cost puts them right after the groups of end-to-end tests: at the end they would leave the other cores idle.
   function(small_machine_test name file argument)
     add_test(NAME small_machine.${name} COMMAND ${Python3_EXECUTABLE} ${small_machine_tests}/${file} ${argument})
     set_tests_properties(small_machine.${name} PROPERTIES
-      FIXTURES_REQUIRED small_machine RESOURCE_LOCK small_machine TIMEOUT 2100 LABELS small_machine)
+      FIXTURES_REQUIRED small_machine RESOURCE_LOCK small_machine TIMEOUT 2100 COST 900 LABELS small_machine)
   endfunction()
 
   foreach(memory_mb IN ITEMS 64 96 128)

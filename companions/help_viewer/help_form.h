@@ -19,7 +19,7 @@
 
 namespace qdix::help_viewer {
 
-/// Only this program uses such devices, and only it has a main window to give them.
+/// The devices that only this program uses.
 struct Devices {
   os::Clipboard& clipboard;
   os::Printer& printer;
