@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Measures a release beside a bare loop on the small machine with 64, 96 and 128 MB, and a start beside notepad's, and
-# writes that section of docs/benchmarks.md. Takes about twelve minutes on two idle cores.
+# writes that section of docs/benchmarks.md. Takes about six minutes on two idle cores.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
